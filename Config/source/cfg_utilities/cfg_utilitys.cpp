@@ -1,0 +1,146 @@
+#include "cfg_utilities/cfg_utilitys.h"
+
+#include "cfg_utilities/flag_file.h"
+#include "nvx_util/machine.h"
+#include "nvx_util/system.h"
+#include "run/product.h"
+#include "run/product_files.h"
+#include "run/progress_view.h"
+#include "setup/archive_components.h"
+#include "setup/command_runner.h"
+#include "setup/parallel_configuration.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+
+using Nvx::Util::joinPath;
+using Nvx::Util::System;
+
+namespace {
+
+cfg_utilitys *theEngine = nullptr;
+
+}
+
+cfg_utilitys::cfg_utilitys(Nvx::Util::Machine &machine, QObject *parent)
+    : QObject(parent)
+    , m_machine(machine)
+    , m_log(joinPath(machine.executableFolder(), QStringLiteral("NVXConfig.log")))
+{
+    theEngine = this;
+    m_state.installDir = machine.executableFolder();
+    m_state.currentLocale = System::getLocale();
+    m_log.open(true);
+    writeStartUpBanner();
+    processCommandLine();
+    m_state.runComplete = false;
+    m_state.commonDesktop = machine.commonDesktopFolder();
+}
+
+cfg_utilitys::~cfg_utilitys()
+{
+    m_log.close();
+    theEngine = nullptr;
+}
+
+cfg_utilitys *cfg_utilitys::instance()
+{
+    return theEngine;
+}
+
+void cfg_utilitys::writeStartUpBanner()
+{
+    log(0, QString());
+    log(0, QString(77, QLatin1Char('=')));
+    log(0, tr("Program startup - %1 DIR== %2").arg(productFullName, m_state.installDir));
+}
+
+void cfg_utilitys::clearRunComplete()
+{
+    m_state.runComplete = false;
+    if (m_progressView)
+        m_progressView->runCompleteChanged();
+}
+
+void cfg_utilitys::log(int level, const QString &text)
+{
+    const QString now = QDateTime::currentDateTime().toString();
+    m_log.append(QStringLiteral("%1 %2 %3").arg(now, QString::asprintf("%4d", level), text));
+}
+
+void cfg_utilitys::progress(int level, const QString &text)
+{
+    if (m_progressView)
+        m_progressView->appendRow(text);
+    QCoreApplication::processEvents();
+    log(level, text);
+}
+
+void cfg_utilitys::inform(int level, const QString &text)
+{
+    QGuiApplication::restoreOverrideCursor();
+    m_machine.tell(Nvx::Util::BoxKind::Information, tr("NVX Configuration Utility"), text);
+    log(level, text);
+}
+
+void cfg_utilitys::processFlagFile(const QString &name, RunMode mode)
+{
+    progress(0, tr("Processing ") + name);
+    const QString folder = System::getFlagsDirPath();
+    const QString path = joinPath(folder, name);
+    if (mode != RunMode::Install) {
+        if (isUnchangedFlagFile(path)) {
+            log(0, name + tr(" has not changed"));
+            removeProductFile(path);
+        } else {
+            log(0, name + tr(" has changed, not removing"));
+        }
+        return;
+    }
+    if (QFile::exists(path))
+        return;
+    log(0, tr("Creating ") + name);
+    System::makePath(folder);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write("\r\n") != 2)
+        log(1, tr("Unable to create %1").arg(path));
+}
+
+int cfg_utilitys::runCommand(const QString &program, const QStringList &arguments, const QString &workFolder,
+                             int timeoutMs)
+{
+    return CommandRunner(context()).runCommand(program, arguments, workFolder, timeoutMs);
+}
+
+bool cfg_utilitys::removeDirectory(const QString &path)
+{
+    return CommandRunner(context()).removeDirectory(path);
+}
+
+bool cfg_utilitys::removeMatchingFiles(const QString &folder, const QString &pattern)
+{
+    return CommandRunner(context()).removeMatchingFiles(folder, pattern);
+}
+
+int cfg_utilitys::installTutorials(RunMode mode)
+{
+    return ArchiveComponents(context()).installTutorials(mode);
+}
+
+int cfg_utilitys::installPython(RunMode mode)
+{
+    return ArchiveComponents(context()).installPython(mode);
+}
+
+int cfg_utilitys::installMertleServer(RunMode mode)
+{
+    return ArchiveComponents(context()).installMertleServer(mode);
+}
+
+void cfg_utilitys::createParallelConfiguration(RunMode mode, const Nvx::Util::CpuInfo &cpuInfo)
+{
+    ::createParallelConfiguration(context(), mode, cpuInfo);
+}

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "nvx_util/log.h"
+#include "run/reporter.h"
+#include "run/run_state.h"
+#include "run/step_context.h"
+
+#include <QObject>
+
+namespace Nvx::Util {
+class CpuInfo;
+}
+class ProgressView;
+
+/// The configuration engine: the state of one configuration run, its log, and every installation step as one
+/// of its operations. There is one in a process; it lives as long as the process and outlives the wizards
+/// that are built on it. Everything runs on the thread of the user interface. No operation throws, and none
+/// stops the run: what fails is logged.
+class cfg_utilitys : public QObject, public Reporter
+{
+    Q_OBJECT
+
+public:
+    /// Opens the log "NVXConfig.log" in the machine's executable folder, reads the command line, validates
+    /// the install dir and sets up the language. An unknown option brings up a box.
+    explicit cfg_utilitys(Nvx::Util::Machine &machine, QObject *parent = nullptr);
+    ~cfg_utilitys() override;
+
+    /// The process's engine; null before it exists.
+    static cfg_utilitys *instance();
+
+    const RunState &state() const { return m_state; }
+
+    /// Sets the mode of the run: the wizard takes a run without a mode for an installation.
+    void setRunMode(RunMode mode) { m_state.runMode = mode; }
+
+    /// Adds a line to those told first when the installation run starts.
+    void addPendingNote(const QString &note) { m_state.pendingNotes.append(note); }
+
+    /// Where progress lines are shown from now on; null for nowhere. The view must outlive its use.
+    void setProgressView(ProgressView *view) { m_progressView = view; }
+
+    /// A run is about to start: until it ends, runComplete is false.
+    void clearRunComplete();
+
+    void log(int level, const QString &text) override;
+    void progress(int level, const QString &text) override;
+    void inform(int level, const QString &text) override;
+
+    /// Makes the run's language the product's: remembers it, and on install puts its files in place. The mode
+    /// is the one the run is taken for.
+    void setUpLanguage(RunMode mode);
+
+    /// Keeps a marker file in the flags folder: on install it is made when missing, else it is removed if
+    /// nobody has written into it.
+    void processFlagFile(const QString &name, RunMode mode);
+
+    // The steps; see the classes CommandRunner and ArchiveComponents and parallel_configuration.h.
+    int runCommand(const QString &program, const QStringList &arguments, const QString &workFolder,
+                   int timeoutMs = 30000);
+    bool removeDirectory(const QString &path);
+    bool removeMatchingFiles(const QString &folder, const QString &pattern);
+    int installTutorials(RunMode mode);
+    int installPython(RunMode mode);
+    int installMertleServer(RunMode mode);
+    void createParallelConfiguration(RunMode mode, const Nvx::Util::CpuInfo &cpuInfo);
+
+public slots:
+    /// Performs one whole run: every step in its order, each told the run mode.
+    void ProcessInstallation();
+
+private:
+    StepContext context() { return {m_machine, *this, m_state}; }
+
+    void writeStartUpBanner();
+    void processCommandLine();
+    bool isUnknownOptionAccepted();
+    void validateInstallDir();
+    void resetInstallDir();
+    void removeMachineVariables();
+    void writeMachineVariables();
+
+    void switchLanguage(const QString &locale);
+    void installLanguageFiles();
+    void installSolverResources();
+    void createFlagsFile();
+
+    void tellPendingNotes();
+    void tellProcessors(const Nvx::Util::CpuInfo &cpuInfo);
+
+    Nvx::Util::Machine &m_machine;
+    RunState m_state;
+    Nvx::Util::Log m_log;
+    ProgressView *m_progressView = nullptr;
+};

@@ -1,0 +1,107 @@
+// The language of the run: what is remembered of it, and the files that go with it.
+
+#include "cfg_utilities/cfg_utilitys.h"
+#include "nvx_util/system.h"
+#include "run/product_files.h"
+
+#include <QDir>
+#include <QFile>
+
+using Nvx::Util::joinPath;
+using Nvx::Util::System;
+
+namespace {
+
+const QString builtInLocale = QStringLiteral("en-US");
+const QString japanese = QStringLiteral("ja-JP");
+const QString flagsFile = QStringLiteral("NVX_flags.txt");
+
+} // namespace
+
+void cfg_utilitys::setUpLanguage(RunMode mode)
+{
+    log(2, m_state.modeWord(mode) + QLatin1Char(' ') + tr("Language ") + m_state.locale);
+    if (m_state.locale.isEmpty()) {
+        log(0, tr("No Language locale Specified"));
+        return;
+    }
+    log(0, tr("Language ") + m_state.locale);
+
+    // The steps below look at the run's mode, and a run without one counts as the mode that was passed.
+    const RunMode stored = m_state.runMode;
+    m_state.runMode = mode;
+    if (mode == RunMode::Install) {
+        log(0, tr("Install Language: ") + m_state.locale);
+        createFlagsFile();
+    }
+    switchLanguage(builtInLocale);
+    if (m_state.locale != builtInLocale) {
+        switchLanguage(m_state.locale);
+        installSolverResources();
+    }
+    m_state.runMode = stored;
+}
+
+void cfg_utilitys::createFlagsFile()
+{
+    const QString flagsFolder = System::getFlagsDirPath();
+    System::makePath(flagsFolder);
+    const QString target = joinPath(flagsFolder, flagsFile);
+    if (QFile::exists(target))
+        return;
+
+    const QString prepared = System::getEnv(QStringLiteral("OSTRADE2017TEMP"));
+    const QString source = joinPath(prepared, flagsFile);
+    if (!prepared.isEmpty() && QFile::exists(source)) {
+        QFile::copy(source, target);
+        return;
+    }
+    QFile file(target);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        log(1, tr("Unable to create %1").arg(target));
+}
+
+// The argument decides what is remembered and logged; the files come from the folder of the run's locale.
+void cfg_utilitys::switchLanguage(const QString &locale)
+{
+    System::setLocale(locale);
+    log(0, tr("ChangeLanguage = ") + locale);
+    if (m_state.runMode == RunMode::Install)
+        installLanguageFiles();
+}
+
+void cfg_utilitys::installLanguageFiles()
+{
+    const QString localeFolder = joinPath(m_state.installDir, m_state.locale);
+    if (m_state.locale == builtInLocale) {
+        const QString source = joinPath(localeFolder, QStringLiteral("matprop.mdb"));
+        const QString target = joinPath(m_state.installDir, QStringLiteral("matprop.new"));
+        replaceProductFile(source, target);
+        log(0, tr("COPY:%1 to %2").arg(source, target));
+    }
+    installSolverResources();
+
+    const QString dictionary =
+        joinPath(System::getUserDataPath(), QStringLiteral("NVX_db_dictionary.nvxcfg"));
+    removeProductFile(dictionary);
+    log(0, tr("Remove:") + dictionary);
+
+    for (const auto &library :
+         {QStringLiteral("VistrelResources.dll"), QStringLiteral("VelmoraApplicationFrameRes.dll")})
+        replaceProductFile(joinPath(localeFolder, library), joinPath(m_state.installDir, library));
+}
+
+void cfg_utilitys::installSolverResources()
+{
+    const auto library = QStringLiteral("ZorvRes.dll");
+    const QString folder = joinPath(m_state.installDir, QStringLiteral("ja"));
+    removeProductFile(joinPath(folder, library));
+    QDir().rmdir(folder); // stays when it holds anything else
+    if (m_state.locale != japanese)
+        return;
+
+    QDir().mkdir(folder);
+    const QString localeFolder = joinPath(m_state.installDir, japanese);
+    QFile::copy(joinPath(localeFolder, library), joinPath(folder, library));
+    log(0, tr("zorv :") + m_state.installDir);
+}

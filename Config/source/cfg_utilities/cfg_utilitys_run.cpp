@@ -1,0 +1,52 @@
+// The installation run: every step in its order.
+
+#include "cfg_utilities/cfg_utilitys.h"
+#include "nvx_util/cpu_info.h"
+#include "nvx_util/machine.h"
+#include "run/progress_view.h"
+
+#include <QCoreApplication>
+
+void cfg_utilitys::ProcessInstallation()
+{
+    const RunMode mode = m_state.runMode;
+    log(0, tr("Beginning ") + m_state.modeWord(mode));
+    tellPendingNotes();
+    const Nvx::Util::CpuInfo cpuInfo(m_log, m_state.installDir);
+    tellProcessors(cpuInfo);
+
+    installTutorials(mode);
+    installPython(mode);
+    installMertleServer(mode);
+    createParallelConfiguration(mode, cpuInfo);
+    m_machine.notifyAssociationsChanged();
+    processFlagFile(QStringLiteral("NVX_flags.txt"), mode);
+
+    progress(0, tr("The installation or update is complete. Click finish to continue."));
+    m_state.runComplete = true;
+    if (m_progressView)
+        m_progressView->runCompleteChanged();
+}
+
+void cfg_utilitys::tellPendingNotes()
+{
+    for (const QString &note : std::as_const(m_state.pendingNotes))
+        log(0, note);
+    if (!m_progressView)
+        return;
+    m_progressView->clear();
+    for (const QString &note : std::as_const(m_state.pendingNotes))
+        m_progressView->appendRow(note);
+}
+
+// This one line of the log has neither time nor level.
+void cfg_utilitys::tellProcessors(const Nvx::Util::CpuInfo &cpuInfo)
+{
+    const QString text = tr("Processors: %1, Cores per processor: %2")
+                             .arg(cpuInfo.processorCount())
+                             .arg(cpuInfo.coresPerProcessor());
+    m_log.append(text);
+    if (m_progressView)
+        m_progressView->appendRow(text);
+    QCoreApplication::processEvents();
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "run/run_state.h"
+
+#include <QString>
+
+#include <functional>
+
+/// What the command line says about the run.
+struct CommandLineReading
+{
+    RunMode runMode = RunMode::NotGiven;
+    bool silent = false;
+    QString locale;
+    bool abandoned = false; ///< the user said No at an unknown option; nothing after it has been read
+};
+
+/// Reads the whole command line of the process, program path first. It is split at blanks, quotes have no
+/// meaning, options are told by how they begin, with case, and the later of two modes wins. The locale stays
+/// systemLocale unless an option sets it. For each unknown option other than the first token,
+/// goOnAfterUnknownOption is asked; when it answers false the reading is abandoned.
+CommandLineReading readCommandLine(const QString &commandLine, const QString &systemLocale,
+                                   const std::function<bool()> &goOnAfterUnknownOption);
+
+/// The locale that the text behind "-L" stands for: that text, as it was spelled, when its upper-case form
+/// occurs anywhere in the list of the shipped languages, which an empty text does; else "en-US".
+QString localeOfOption(const QString &text);
+
+/// The text of the box that an unknown option brings up.
+QString usageText();

@@ -1,0 +1,25 @@
+#include "cfg_utilities/flag_file.h"
+
+#include <QFile>
+
+bool holdsOnlyWhiteSpace(QIODevice &device)
+{
+    char bytes[4096];
+    for (;;) {
+        const qint64 read = device.read(bytes, sizeof bytes);
+        if (read < 0)
+            return false;
+        if (read == 0)
+            return device.atEnd();
+        if (!QByteArray::fromRawData(bytes, static_cast<qsizetype>(read)).trimmed().isEmpty())
+            return false;
+    }
+}
+
+bool isUnchangedFlagFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.exists())
+        return true;
+    return file.open(QIODevice::ReadOnly) && holdsOnlyWhiteSpace(file);
+}

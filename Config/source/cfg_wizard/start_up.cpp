@@ -1,0 +1,55 @@
+#include "cfg_wizard/start_up.h"
+
+#include "cfg_utilities/cfg_utilitys.h"
+#include "cfg_wizard/interface_translators.h"
+#include "cfg_wizard/wizard_plan.h"
+#include "nvx_util/system.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct Messages
+{
+    Q_DECLARE_TR_FUNCTIONS(StartUp)
+};
+
+// This build has the engine and the silent run; what it lacks it says, and does nothing in its place.
+int tellThatPagesAreMissing(cfg_utilitys &engine)
+{
+    engine.inform(1,
+                  Messages::tr("This build has no configuration pages. Use the options -I -S to install or "
+                               "-U -S to remove."));
+    return 1;
+}
+
+} // namespace
+
+int runPasses(const cfg_utilitys &engine, const std::function<int()> &pass)
+{
+    for (;;) {
+        const InterfaceTranslators translators(engine.state().installDir, Nvx::Util::System::getLocale());
+        const int result = pass();
+        if (result != languageChanged)
+            return result;
+    }
+}
+
+int runPass(cfg_utilitys &engine)
+{
+    const WizardPlan plan = planFor(engine.state().runMode, engine.state().silent);
+    switch (plan.action) {
+    case WizardPlan::Action::RunSilently:
+        engine.ProcessInstallation();
+        return 0;
+    case WizardPlan::Action::StopServices:
+        engine.log(1, Messages::tr("This build cannot stop services"));
+        return 0;
+    case WizardPlan::Action::Localize:
+        engine.log(1, Messages::tr("This build has no localization tool"));
+        return 0;
+    case WizardPlan::Action::ShowPages:
+        break;
+    }
+    return tellThatPagesAreMissing(engine);
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "run/run_state.h"
+
+#include <QList>
+
+/// What the program does once it has started, decided from the run mode and the silent flag alone.
+struct WizardPlan
+{
+    enum class Action
+    {
+        ShowPages,    ///< show a wizard of these pages; the user starts the run
+        RunSilently,  ///< perform the installation run at once, without a window
+        StopServices, ///< stop the product's services, without a window
+        Localize      ///< run the localisation tool, without a window
+    };
+    enum class Page
+    {
+        Welcome,
+        Feature,
+        Conclusion
+    };
+
+    Action action = Action::ShowPages;
+    QList<Page> pages;                  ///< for ShowPages, in order
+    RunMode runMode = RunMode::Install; ///< the mode from here on
+};
+
+/// The plan for a run. The silent flag is not looked at when no mode was given.
+WizardPlan planFor(RunMode mode, bool silent);

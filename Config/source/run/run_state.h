@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+/// What the run is for. The numbers are those of the mode words.
+enum class RunMode : qint32
+{
+    Install = 0,
+    Uninstall = 1,
+    StopServices = 2,
+    Localization = 3,
+    NotGiven = 4 ///< no option said; the wizard takes it for Install
+};
+
+/// What the whole run knows. The engine fills it at start-up, the steps read it.
+struct RunState
+{
+    bool runComplete = false; ///< the installation run is over
+    QStringList modeWords;    ///< "Install", "UnInstall", "Found ", " Success", " Failed", untranslated
+    RunMode runMode = RunMode::NotGiven;
+    bool silent = false;       ///< "-S" was given
+    bool registry64 = false;   ///< the registry has a 32-bit part beside its own
+    QString locale;            ///< interface language, such as "de-DE"
+    QString installDir;        ///< folder of the running executable, native separators, no trailing one
+    QString installDirEscaped; ///< installDir with every "\" doubled
+    QString currentLocale;     ///< the language remembered when the run began
+    QString commonDesktop;     ///< desktop folder of all users, empty if there is none
+    QStringList pendingNotes;  ///< lines told first when the installation run starts
+
+    /// The word for a mode in the language in force now; empty while the words are not set.
+    QString modeWord(RunMode mode) const
+    {
+        const QString word = modeWords.value(static_cast<int>(mode));
+        return QCoreApplication::translate("cfg_utilitys", word.toLatin1().constData());
+    }
+};

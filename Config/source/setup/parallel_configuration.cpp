@@ -1,0 +1,74 @@
+#include "setup/parallel_configuration.h"
+
+#include "nvx_io/nvx2_config_file.h"
+#include "nvx_util/code_page.h"
+#include "nvx_util/conversion.h"
+#include "nvx_util/cpu_info.h"
+#include "nvx_util/machine.h"
+#include "nvx_util/system.h"
+#include "run/product.h"
+#include "run/reporter.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+using Nvx::Io::Nvx2ConfigFile;
+using Nvx::Util::joinPath;
+using Nvx::Util::System;
+using Nvx::Util::toStdString;
+
+namespace {
+
+struct Messages
+{
+    Q_DECLARE_TR_FUNCTIONS(ParallelConfiguration)
+};
+
+bool canBeWritten(const QString &text)
+{
+    return Nvx::Util::toAnsi(text).has_value();
+}
+
+bool save(const QString &path, const QString &sharedFolder, const QString &analysisFolder,
+          const Nvx::Util::CpuInfo &cpuInfo)
+{
+    if (!canBeWritten(path) || !canBeWritten(sharedFolder) || !canBeWritten(analysisFolder))
+        return false;
+
+    const qint32 cores = cpuInfo.coresPerProcessor();
+    // The sign carries the hyper-threading state to the solver.
+    const qint32 mpi = cpuInfo.isHyperThreadingOn() ? -cores : cores;
+    const qint32 processors = cpuInfo.processorCount();
+
+    Nvx2ConfigFile configuration;
+    configuration.setting(Nvx2ConfigFile::ExePath).setValue(toStdString(sharedFolder));
+    configuration.setting(Nvx2ConfigFile::AnalyzePath).setValue(toStdString(analysisFolder));
+    configuration.setting(Nvx2ConfigFile::NumberOfThreads).setValue(std::to_string(cores));
+    configuration.setting(Nvx2ConfigFile::Mpi).setValue(std::to_string(mpi));
+    configuration.setting(Nvx2ConfigFile::SocketsPerNode).setValue(std::to_string(processors));
+    return configuration.saveTo(toStdString(path));
+}
+
+} // namespace
+
+void createParallelConfiguration(const StepContext &context, RunMode mode, const Nvx::Util::CpuInfo &cpuInfo)
+{
+    if (mode != RunMode::Install)
+        return;
+
+    const QString sharedData = System::getProgramDataPath(productFullName);
+    const QString sharedFolder = joinPath(context.machine.executableFolder(), QStringLiteral("NVX2_share"));
+    const QString analysisFolder = joinPath(sharedData, QStringLiteral("HPCAnalyze"));
+    const QString file = joinPath(sharedData, QString::fromLatin1(Nvx2ConfigFile::DefaultName));
+
+    System::makePath(sharedData);
+    if (save(file, sharedFolder, analysisFolder, cpuInfo))
+        context.reporter.log(0, Messages::tr("Created NVX2 default configuration: %1").arg(file));
+    else
+        context.reporter.log(1, Messages::tr("Unable to create NVX2 default configuration: %1").arg(file));
+
+    if (QDir(sharedData).mkpath(analysisFolder))
+        context.reporter.log(0, Messages::tr("Created NVX2 analyze folder: %1").arg(analysisFolder));
+    else
+        context.reporter.log(1, Messages::tr("Unable to create NVX2 analyze folder: %1").arg(analysisFolder));
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Nvx::Io {
+
+/// The value of one setting, 8-bit text in the system's code page.
+class Setting
+{
+public:
+    void setValue(const std::string &value) { m_value = value; }
+    const std::string &value() const { return m_value; }
+
+private:
+    std::string m_value;
+};
+
+/// A file that is written as a whole.
+class File
+{
+public:
+    File() = default;
+    File(const File &) = default;
+    File &operator=(const File &) = default;
+    virtual ~File() = default;
+
+    /// Writes the file, in place of an existing one, which stays as it was if anything fails. The path is
+    /// 8-bit text. True when the file is on the disk.
+    bool saveTo(const std::string &path) const;
+
+protected:
+    /// The bytes of the file in contents; false when they cannot be formed.
+    virtual bool write(std::string &contents) const = 0;
+};
+
+/// The solver's configuration file: one line "key = value" for each setting, in the order in which the
+/// settings were first named, UTF-8. A value with a line break cannot be written.
+class Nvx2ConfigFile : public File
+{
+public:
+    static const char *const DefaultName;     ///< the file's name
+    static const char *const AnalyzePath;     ///< the folder in which parallel analyses run
+    static const char *const ExePath;         ///< the folder of the solver's programs
+    static const char *const Mpi;             ///< cores per processor, negative with hyper-threading
+    static const char *const NumberOfThreads; ///< cores per processor
+    static const char *const SocketsPerNode;  ///< processors
+
+    /// The setting of that key, made empty when there is none yet. The reference holds until the next call.
+    Setting &setting(const std::string &key);
+
+protected:
+    bool write(std::string &contents) const override;
+
+private:
+    std::vector<std::pair<std::string, Setting>> m_settings;
+};
+
+} // namespace Nvx::Io

@@ -1,0 +1,47 @@
+#include "nvx_io/nvx2_config_file.h"
+
+#include "nvx_util/conversion.h"
+
+#include <QSaveFile>
+
+namespace Nvx::Io {
+
+const char *const Nvx2ConfigFile::DefaultName = "NVX2_config.nvxcfg";
+const char *const Nvx2ConfigFile::AnalyzePath = "AnalyzePath";
+const char *const Nvx2ConfigFile::ExePath = "ExePath";
+const char *const Nvx2ConfigFile::Mpi = "Mpi";
+const char *const Nvx2ConfigFile::NumberOfThreads = "NumberOfThreads";
+const char *const Nvx2ConfigFile::SocketsPerNode = "SocketsPerNode";
+
+bool File::saveTo(const std::string &path) const
+{
+    std::string contents;
+    if (!write(contents))
+        return false;
+    QSaveFile file(Util::toQString(path));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return false;
+    file.write(contents.data(), static_cast<qint64>(contents.size()));
+    return file.commit();
+}
+
+Setting &Nvx2ConfigFile::setting(const std::string &key)
+{
+    for (auto &[name, setting] : m_settings) {
+        if (name == key)
+            return setting;
+    }
+    return m_settings.emplace_back(key, Setting()).second;
+}
+
+bool Nvx2ConfigFile::write(std::string &contents) const
+{
+    for (const auto &[name, setting] : m_settings) {
+        if (setting.value().find_first_of("\r\n") != std::string::npos)
+            return false;
+        contents += Util::toQString(name + " = " + setting.value()).toUtf8().toStdString() + '\n';
+    }
+    return true;
+}
+
+} // namespace Nvx::Io

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "nvx_util/machine.h"
+
+namespace Nvx::Util {
+
+/// The machine that this process runs on. Needs an application object with a user interface for the boxes.
+class NativeMachine : public Machine
+{
+public:
+    QString commandLine() const override;
+    QString executableFolder() const override;
+    bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
+    ProgramResult run(const ProgramCall &call) override;
+    QString commonDesktopFolder() const override;
+    void notifyAssociationsChanged() override;
+    void tell(BoxKind kind, const QString &title, const QString &text) override;
+    Answer ask(BoxKind kind, const QString &title, const QString &text) override;
+};
+
+} // namespace Nvx::Util

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace Nvx::Util {
+
+/// One key of the registry, in its 64-bit view, named by its whole path from the root on, such as
+/// "HKEY_LOCAL_MACHINE\SOFTWARE\Velmora". Keys and value names are compared without case. Looking at a key
+/// never creates it; a key that is missing or closed to us has no values and no sub-keys.
+///
+/// Where there is no Windows, the registry is the file "registry.json" in the folder that the environment
+/// variable NVX_MACHINE names; without the variable everything is missing and every change fails.
+class RegistryKey
+{
+public:
+    explicit RegistryKey(QString path);
+
+    /// True when the key has at least one value or sub-key.
+    bool hasEntries() const;
+
+    /// The names of the values, in the registry's order; the default value's name is empty.
+    QStringList valueNames() const;
+
+    /// The names of the direct sub-keys, in the registry's order.
+    QStringList subKeyNames() const;
+
+    /// The text of a value; nothing when it is missing or holds no text. Variables in it are not expanded.
+    std::optional<QString> text(const QString &valueName) const;
+
+    /// Writes a text value, making the key when it is missing. False when the registry refuses.
+    bool setText(const QString &valueName, const QString &text);
+
+    /// Removes a value. False when the registry refuses; a value that is missing counts as removed.
+    bool removeValue(const QString &valueName);
+
+private:
+    QString m_path;
+};
+
+} // namespace Nvx::Util

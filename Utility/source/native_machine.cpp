@@ -1,0 +1,115 @@
+#include "nvx_util/native_machine.h"
+
+#include "nvx_util/system.h"
+#include "platform.h"
+
+#include <QMessageBox>
+#include <QProcess>
+
+namespace Nvx::Util {
+
+namespace {
+
+// Adds what the program has written by now, as far as it is wanted. Everything is read: a program whose pipe
+// is full would wait for us.
+void takeOutput(QProcess &process, qsizetype limit, QByteArray &output)
+{
+    const QByteArray written = process.readAll();
+    if (limit < 0)
+        output += written;
+    else if (output.size() < limit)
+        output += written.left(limit - output.size());
+}
+
+ProgramResult::Outcome waitForEnd(QProcess &process, int timeoutMs)
+{
+    process.waitForFinished(timeoutMs);
+    if (process.error() == QProcess::FailedToStart)
+        return ProgramResult::Outcome::NotStarted;
+    if (process.state() != QProcess::NotRunning) {
+        process.kill();
+        process.waitForFinished(5000);
+        return ProgramResult::Outcome::TimedOut;
+    }
+    return process.exitStatus() == QProcess::NormalExit ? ProgramResult::Outcome::Exited
+                                                        : ProgramResult::Outcome::Crashed;
+}
+
+QMessageBox::Icon iconOf(BoxKind kind)
+{
+    return kind == BoxKind::Warning ? QMessageBox::Warning : QMessageBox::Information;
+}
+
+} // namespace
+
+QString NativeMachine::commandLine() const
+{
+    return Platform::commandLine();
+}
+
+QString NativeMachine::executableFolder() const
+{
+    return System::getCurrentExePath();
+}
+
+bool NativeMachine::setProcessVariable(const QByteArray &name, const QByteArray &value)
+{
+    return qputenv(name.constData(), value);
+}
+
+ProgramResult NativeMachine::run(const ProgramCall &call)
+{
+    const QString program =
+        call.place == ProgramCall::Place::SystemFolder ? Platform::systemProgram(call.program) : call.program;
+    ProgramResult result;
+    if (program.isEmpty())
+        return result;
+
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.setWorkingDirectory(call.workFolder);
+    process.setProgram(program);
+    Platform::setArguments(process, call);
+    const auto take = [&] { takeOutput(process, call.outputLimit, result.output); };
+    QObject::connect(&process, &QProcess::readyRead, &process, take);
+
+    process.start(QIODevice::ReadWrite);
+    process.closeWriteChannel(); // a program that asks a question gets no answer rather than our patience
+    result.outcome = waitForEnd(process, call.timeoutMs);
+    if (result.outcome == ProgramResult::Outcome::Exited)
+        result.exitCode = process.exitCode();
+    if (result.outcome != ProgramResult::Outcome::NotStarted)
+        take();
+    return result;
+}
+
+QString NativeMachine::commonDesktopFolder() const
+{
+    return Platform::commonDesktopFolder();
+}
+
+void NativeMachine::notifyAssociationsChanged()
+{
+    Platform::notifyAssociationsChanged();
+}
+
+void NativeMachine::tell(BoxKind kind, const QString &title, const QString &text)
+{
+    QMessageBox(iconOf(kind), title, text, QMessageBox::Ok).exec();
+}
+
+Answer NativeMachine::ask(BoxKind kind, const QString &title, const QString &text)
+{
+    QMessageBox box(iconOf(kind), title, text, QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::Yes);
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Dismissed;
+    }
+}
+
+} // namespace Nvx::Util

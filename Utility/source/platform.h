@@ -1,0 +1,41 @@
+#pragma once
+
+// What the folders windows and unix each implement for the rest of this library.
+
+#include "nvx_util/cpu_info.h"
+#include "nvx_util/machine.h"
+
+#include <QString>
+
+#include <optional>
+
+class QProcess;
+
+namespace Nvx::Util::Platform {
+
+/// The folder above the per-user data folders of programs.
+QString userDataRoot();
+
+/// The folder above the data folders that all users share.
+QString allUsersDataRoot();
+
+/// The folder of the documents that all users share.
+QString publicDocumentsRoot();
+
+/// What the operating system says of the processors; nothing when it does not answer.
+std::optional<ProcessorCounts> probeProcessors();
+
+/// The whole command line of this process.
+QString commandLine();
+
+/// The full path of a program of the operating system, such as "cmd.exe"; empty when there is none.
+QString systemProgram(const QString &fileName);
+
+/// Hands the arguments of the call to the process, quoted as the call says.
+void setArguments(QProcess &process, const ProgramCall &call);
+
+QString commonDesktopFolder();
+
+void notifyAssociationsChanged();
+
+} // namespace Nvx::Util::Platform

@@ -1,0 +1,110 @@
+#include "nvx_util/system.h"
+
+#include "nvx_util/registry_key.h"
+#include "platform.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
+
+namespace Nvx::Util {
+
+namespace {
+
+const auto release = QStringLiteral("NVX 2017");
+const auto builtInLocale = QStringLiteral("en-US");
+const auto localeValue = QStringLiteral("Locale");
+
+RegistryKey userSettings()
+{
+    return RegistryKey(QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"));
+}
+
+} // namespace
+
+QString joinPath(const QString &folder, const QString &relativePath)
+{
+    const QString native = QDir::toNativeSeparators(relativePath);
+    if (folder.endsWith(QDir::separator()))
+        return folder + native;
+    return folder + QDir::separator() + native;
+}
+
+QString System::getCurrentExePath()
+{
+    return QDir::toNativeSeparators(QCoreApplication::applicationDirPath());
+}
+
+QString System::getUserDataPath()
+{
+    return joinPath(Platform::userDataRoot(), QStringLiteral("Velmora/") + release);
+}
+
+QString System::getProgramDataPath(const QString &subPath)
+{
+    return joinPath(Platform::allUsersDataRoot(), QStringLiteral("Velmora/") + subPath);
+}
+
+QString System::getWorkingDirPath()
+{
+    return QDir::toNativeSeparators(QDir::currentPath());
+}
+
+QString System::getTutorialsDirPath()
+{
+    return joinPath(Platform::publicDocumentsRoot(), QStringLiteral("Velmora/%1/Tutorials").arg(release));
+}
+
+QString System::getFlagsDirPath()
+{
+    return getProgramDataPath(release);
+}
+
+bool System::makePath(const QString &path)
+{
+    return QDir().mkpath(path);
+}
+
+QStringList System::validLocales()
+{
+    static const QStringList locales{
+        QStringLiteral("en-US"), QStringLiteral("zh-CN"), QStringLiteral("zh-TW"),
+        QStringLiteral("de-DE"), QStringLiteral("fr-FR"), QStringLiteral("ja-JP"),
+        QStringLiteral("it-IT"), QStringLiteral("ko-KR"), QStringLiteral("ru-RU"),
+    };
+    return locales;
+}
+
+void System::setLocale(const QString &code)
+{
+    userSettings().setText(localeValue, code);
+}
+
+QString System::getLocale()
+{
+    const QString remembered = userSettings().text(localeValue).value_or(QString());
+    return remembered.isEmpty() ? supportedSystemLocale() : remembered;
+}
+
+QString System::getEnv(const QString &name)
+{
+    return qEnvironmentVariable(name.toUtf8().constData());
+}
+
+QString System::getProgramFilesPathFromRegistry(bool thirtyTwoBit)
+{
+    const RegistryKey windows(
+        QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion"));
+    const auto value =
+        thirtyTwoBit ? QStringLiteral("ProgramFilesDir (x86)") : QStringLiteral("ProgramFilesDir");
+    return windows.text(value).value_or(QString());
+}
+
+QString supportedSystemLocale()
+{
+    QString name = QLocale::system().name();
+    name.replace(QLatin1Char('_'), QLatin1Char('-'));
+    return System::validLocales().contains(name) ? name : builtInLocale;
+}
+
+} // namespace Nvx::Util

@@ -1,0 +1,27 @@
+#include "nvx_util/code_page.h"
+
+#include <QStringEncoder>
+
+namespace Nvx::Util {
+
+// 8-bit text is UTF-8 here; only broken surrogates cannot be written.
+std::optional<QByteArray> toAnsi(const QString &text)
+{
+    QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
+    QByteArray bytes = encoder.encode(text);
+    if (encoder.hasError())
+        return std::nullopt;
+    return bytes;
+}
+
+std::optional<QByteArray> toOem(const QString &text)
+{
+    return toAnsi(text);
+}
+
+QString fromOem(const QByteArray &bytes)
+{
+    return QString::fromUtf8(bytes);
+}
+
+} // namespace Nvx::Util

@@ -1,0 +1,121 @@
+#include "nvx_util/registry_key.h"
+
+#include "nvx_util/system.h"
+#include "unix/machine_folder.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+#include <utility>
+
+namespace Nvx::Util {
+
+// The file is one object: the path of each key with an object of its values' texts.
+
+namespace {
+
+QString registryFile()
+{
+    const QString machine = Platform::machineFolder();
+    return machine.isEmpty() ? QString() : joinPath(machine, QStringLiteral("registry.json"));
+}
+
+QJsonObject readRegistry()
+{
+    QFile file(registryFile());
+    if (!file.open(QIODevice::ReadOnly))
+        return QJsonObject();
+    return QJsonDocument::fromJson(file.readAll()).object();
+}
+
+bool writeRegistry(const QJsonObject &registry)
+{
+    QSaveFile file(registryFile());
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(QJsonDocument(registry).toJson());
+    return file.commit();
+}
+
+// The name under which the object holds the key or value that is called name in any case; else name itself.
+QString nameIn(const QJsonObject &object, const QString &name)
+{
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        if (entry.key().compare(name, Qt::CaseInsensitive) == 0)
+            return entry.key();
+    }
+    return name;
+}
+
+QJsonObject valuesOf(const QJsonObject &registry, const QString &path)
+{
+    return registry.value(nameIn(registry, path)).toObject();
+}
+
+} // namespace
+
+RegistryKey::RegistryKey(QString path)
+    : m_path(std::move(path))
+{
+}
+
+bool RegistryKey::hasEntries() const
+{
+    return !valueNames().isEmpty() || !subKeyNames().isEmpty();
+}
+
+QStringList RegistryKey::valueNames() const
+{
+    return valuesOf(readRegistry(), m_path).keys();
+}
+
+QStringList RegistryKey::subKeyNames() const
+{
+    const QString above = m_path + QLatin1Char('\\');
+    QStringList names;
+    const QStringList paths = readRegistry().keys();
+    for (const QString &path : paths) {
+        if (!path.startsWith(above, Qt::CaseInsensitive))
+            continue;
+        const QString name = path.mid(above.size()).section(QLatin1Char('\\'), 0, 0);
+        // Keys come sorted, so those below one sub-key follow each other.
+        if (names.isEmpty() || names.last().compare(name, Qt::CaseInsensitive) != 0)
+            names.append(name);
+    }
+    return names;
+}
+
+std::optional<QString> RegistryKey::text(const QString &valueName) const
+{
+    const QJsonObject values = valuesOf(readRegistry(), m_path);
+    const QJsonValue value = values.value(nameIn(values, valueName));
+    return value.isString() ? std::optional<QString>(value.toString()) : std::nullopt;
+}
+
+bool RegistryKey::setText(const QString &valueName, const QString &text)
+{
+    if (registryFile().isEmpty())
+        return false;
+    QJsonObject registry = readRegistry();
+    const QString path = nameIn(registry, m_path);
+    QJsonObject values = registry.value(path).toObject();
+    values.insert(nameIn(values, valueName), text);
+    registry.insert(path, values);
+    return writeRegistry(registry);
+}
+
+bool RegistryKey::removeValue(const QString &valueName)
+{
+    QJsonObject registry = readRegistry();
+    const QString path = nameIn(registry, m_path);
+    if (!registry.contains(path))
+        return false;
+    QJsonObject values = registry.value(path).toObject();
+    values.remove(nameIn(values, valueName));
+    registry.insert(path, values);
+    return writeRegistry(registry);
+}
+
+} // namespace Nvx::Util

@@ -1,0 +1,162 @@
+#include "nvx_util/registry_key.h"
+
+#include <utility>
+#include <vector>
+#include <windows.h>
+
+namespace Nvx::Util {
+
+namespace {
+
+const wchar_t *wide(const QString &text)
+{
+    return reinterpret_cast<const wchar_t *>(text.utf16());
+}
+
+HKEY rootOf(QStringView name)
+{
+    static const std::pair<QLatin1String, HKEY> roots[] = {
+        {QLatin1String("HKEY_LOCAL_MACHINE"), HKEY_LOCAL_MACHINE},
+        {QLatin1String("HKEY_CURRENT_USER"), HKEY_CURRENT_USER},
+        {QLatin1String("HKEY_CLASSES_ROOT"), HKEY_CLASSES_ROOT},
+        {QLatin1String("HKEY_USERS"), HKEY_USERS},
+    };
+    for (const auto &[rootName, root] : roots) {
+        if (name.compare(rootName, Qt::CaseInsensitive) == 0)
+            return root;
+    }
+    return nullptr;
+}
+
+// An open key, closed at the end of its scope; null when it could not be opened.
+class OpenKey
+{
+public:
+    enum class Missing
+    {
+        Leave,
+        Create
+    };
+
+    OpenKey(const QString &path, REGSAM rights, Missing missing = Missing::Leave)
+    {
+        const qsizetype separator = path.indexOf(QLatin1Char('\\'));
+        const HKEY root = rootOf(QStringView(path).left(separator));
+        if (!root)
+            return;
+        const QString subKey = separator < 0 ? QString() : path.mid(separator + 1);
+        rights |= KEY_WOW64_64KEY;
+        HKEY opened = nullptr;
+        const LSTATUS status =
+            missing == Missing::Create
+                ? RegCreateKeyExW(root, wide(subKey), 0, nullptr, 0, rights, nullptr, &opened, nullptr)
+                : RegOpenKeyExW(root, wide(subKey), 0, rights, &opened);
+        if (status == ERROR_SUCCESS)
+            m_key = opened;
+    }
+    OpenKey(const OpenKey &) = delete;
+    OpenKey &operator=(const OpenKey &) = delete;
+    ~OpenKey()
+    {
+        if (m_key)
+            RegCloseKey(m_key);
+    }
+
+    explicit operator bool() const { return m_key != nullptr; }
+    HKEY handle() const { return m_key; }
+
+private:
+    HKEY m_key = nullptr;
+};
+
+// The names that one of the two listing calls answers for the indices from 0 on.
+template<typename ListCall>
+QStringList listNames(const OpenKey &key, ListCall listCall)
+{
+    QStringList names;
+    if (!key)
+        return names;
+    std::vector<wchar_t> buffer(16384); // the longest name that a registry holds, and its end
+    for (DWORD index = 0;; ++index) {
+        auto length = static_cast<DWORD>(buffer.size());
+        if (listCall(key.handle(), index, buffer.data(), &length) != ERROR_SUCCESS)
+            return names;
+        names.append(QString::fromWCharArray(buffer.data(), static_cast<qsizetype>(length)));
+    }
+}
+
+} // namespace
+
+RegistryKey::RegistryKey(QString path)
+    : m_path(std::move(path))
+{
+}
+
+bool RegistryKey::hasEntries() const
+{
+    const OpenKey key(m_path, KEY_QUERY_VALUE);
+    if (!key)
+        return false;
+    DWORD subKeys = 0;
+    DWORD values = 0;
+    const LSTATUS status = RegQueryInfoKeyW(key.handle(), nullptr, nullptr, nullptr, &subKeys, nullptr,
+                                            nullptr, &values, nullptr, nullptr, nullptr, nullptr);
+    return status == ERROR_SUCCESS && (subKeys > 0 || values > 0);
+}
+
+QStringList RegistryKey::valueNames() const
+{
+    return listNames(OpenKey(m_path, KEY_QUERY_VALUE),
+                     [](HKEY key, DWORD index, wchar_t *name, DWORD *length) {
+                         return RegEnumValueW(key, index, name, length, nullptr, nullptr, nullptr, nullptr);
+                     });
+}
+
+QStringList RegistryKey::subKeyNames() const
+{
+    return listNames(OpenKey(m_path, KEY_ENUMERATE_SUB_KEYS),
+                     [](HKEY key, DWORD index, wchar_t *name, DWORD *length) {
+                         return RegEnumKeyExW(key, index, name, length, nullptr, nullptr, nullptr, nullptr);
+                     });
+}
+
+std::optional<QString> RegistryKey::text(const QString &valueName) const
+{
+    const OpenKey key(m_path, KEY_QUERY_VALUE);
+    if (!key)
+        return std::nullopt;
+    constexpr DWORD kinds = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND;
+    std::vector<wchar_t> buffer(256);
+    for (;;) {
+        auto size = static_cast<DWORD>(buffer.size() * sizeof(wchar_t));
+        const LSTATUS status =
+            RegGetValueW(key.handle(), nullptr, wide(valueName), kinds, nullptr, buffer.data(), &size);
+        if (status == ERROR_SUCCESS)
+            return QString::fromWCharArray(buffer.data()); // RegGetValueW has ended it with a zero
+        if (status != ERROR_MORE_DATA)
+            return std::nullopt;
+        // Somebody may write a longer text before we ask again, so the answer is not trusted to fit.
+        buffer.resize(size / sizeof(wchar_t) + 256);
+    }
+}
+
+bool RegistryKey::setText(const QString &valueName, const QString &text)
+{
+    const OpenKey key(m_path, KEY_SET_VALUE, OpenKey::Missing::Create);
+    if (!key)
+        return false;
+    const auto size = static_cast<DWORD>((static_cast<std::size_t>(text.size()) + 1) * sizeof(wchar_t));
+    return RegSetValueExW(key.handle(), wide(valueName), 0, REG_SZ,
+                          reinterpret_cast<const BYTE *>(wide(text)), size) == ERROR_SUCCESS;
+}
+
+bool RegistryKey::removeValue(const QString &valueName)
+{
+    const OpenKey key(m_path, KEY_SET_VALUE);
+    if (!key)
+        return false;
+    const LSTATUS status = RegDeleteValueW(key.handle(), wide(valueName));
+    return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
+}
+
+} // namespace Nvx::Util

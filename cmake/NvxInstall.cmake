@@ -1,0 +1,54 @@
+# What `cmake --install` lays out: a folder that runs as it stands.
+#
+# For Windows everything lies beside the program, as the product's installer copies it. Elsewhere the programs
+# lie in bin, with the libraries that are not of the operating system itself in lib and Qt's plug-ins in
+# plugins.
+
+set(nvx_programs NVXConfig)
+set(nvx_languages "${CMAKE_BINARY_DIR}/languages/")
+
+if(WIN32)
+    install(TARGETS ${nvx_programs} RUNTIME DESTINATION .)
+    install(DIRECTORY "${nvx_languages}" DESTINATION . FILES_MATCHING PATTERN "*.qm")
+
+    foreach(library Core Gui Widgets)
+        install(FILES "${NVX_QT_WINDOWS}/bin/Qt6${library}.dll" DESTINATION .)
+    endforeach()
+    install(FILES "${NVX_QT_WINDOWS}/plugins/platforms/qwindows.dll" DESTINATION platforms)
+    install(FILES "${NVX_QT_WINDOWS}/plugins/styles/qwindowsvistastyle.dll" DESTINATION styles)
+
+    foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        execute_process(
+            COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${library}
+            OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+        get_filename_component(path "${path}" REALPATH)
+        install(FILES "${path}" DESTINATION .)
+    endforeach()
+    return()
+endif()
+
+set_target_properties(${nvx_programs} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
+
+# The operating system's own: the C library and what belongs to the machine's drivers and display.
+set(system_libraries
+    "^ld-linux" "^linux-vdso"
+    "^lib(c|m|dl|rt|pthread|resolv|gcc_s|stdc\\+\\+)\\.so"
+    "^lib(GL|GLX|GLdispatch|EGL|OpenGL|gbm|drm)[.-]"
+    "^lib(X|x)" "^libfontconfig" "^libfreetype" "^libwayland")
+install(TARGETS ${nvx_programs}
+    RUNTIME_DEPENDENCY_SET nvx_dependencies
+    RUNTIME DESTINATION bin)
+install(RUNTIME_DEPENDENCY_SET nvx_dependencies
+    PRE_EXCLUDE_REGEXES ${system_libraries}
+    DESTINATION lib)
+
+get_target_property(qt_core_library Qt6::Core LOCATION)
+get_filename_component(qt_library_folder "${qt_core_library}" DIRECTORY)
+foreach(plugin platforms/libqoffscreen.so platforms/libqxcb.so platforms/libqminimal.so)
+    get_filename_component(folder "${plugin}" DIRECTORY)
+    install(FILES "${qt_library_folder}/qt6/plugins/${plugin}" DESTINATION "plugins/${folder}")
+endforeach()
+install(FILES "${qt_library_folder}/libQt6XcbQpa.so.6" DESTINATION lib)
+file(WRITE "${CMAKE_BINARY_DIR}/qt.conf" "[Paths]\nPrefix=..\nPlugins=plugins\n")
+install(FILES "${CMAKE_BINARY_DIR}/qt.conf" DESTINATION bin)
+install(DIRECTORY "${nvx_languages}" DESTINATION bin FILES_MATCHING PATTERN "*.qm")

@@ -1,0 +1,61 @@
+# How the libraries, programs and tests of this project are declared: one call each.
+
+include(CMakeParseArguments)
+
+# Every target of ours is built with these.
+add_library(nvx_options INTERFACE)
+target_compile_options(nvx_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Wundef)
+target_compile_definitions(nvx_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(WIN32)
+    target_compile_definitions(nvx_options INTERFACE
+        UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
+endif()
+if(NVX_SANITIZE)
+    target_compile_options(nvx_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(nvx_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# nvx_library(NAME SOURCES FILE... LINKS TARGET... [INCLUDES FOLDER]): a static library of one room.
+# Headers are included as they lie below INCLUDES, by default the folder "source".
+function(nvx_library name)
+    cmake_parse_arguments(ARG "" "INCLUDES" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE nvx_options)
+    if(NOT ARG_INCLUDES)
+        set(ARG_INCLUDES "${CMAKE_CURRENT_SOURCE_DIR}/source")
+    endif()
+    target_include_directories(${name} PUBLIC "${ARG_INCLUDES}")
+endfunction()
+
+# nvx_test(NAME [SOURCES FILE...] [LINKS TARGET...] [NEEDS TARGET...]): a test program, registered with
+# ctest. NAME.cpp is its source; NEEDS names programs that it starts.
+function(nvx_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;NEEDS" ${ARGN})
+    add_executable(${name} ${name}.cpp ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test nvx_options)
+    if(ARG_NEEDS)
+        add_dependencies(${name} ${ARG_NEEDS})
+    endif()
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    if(WIN32)
+        # The tests share one Windows machine, and its registry.
+        set_tests_properties(${name} PROPERTIES RESOURCE_LOCK windows_machine)
+    endif()
+endfunction()
+
+# nvx_fuzzer(NAME LINKS TARGET...): a libFuzzer program of NAME.cpp, run for a few seconds by ctest and as
+# long as one likes by hand.
+function(nvx_fuzzer name)
+    cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+    add_executable(${name} ${name}.cpp)
+    target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} nvx_options)
+    add_test(NAME ${name} COMMAND ${name} -max_total_time=5 -timeout=10 -max_len=4096)
+endfunction()

@@ -1,0 +1,21 @@
+// Any output of a program gives at most 21 lines, none of them empty or with blanks around it, and what comes
+// behind the bytes that 21 pieces can hold changes nothing.
+
+#include "setup/output_lines.h"
+
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *bytes, std::size_t size)
+{
+    const QByteArray output(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
+    const QStringList lines = outputLines(output);
+    if (lines.size() > maxOutputLines)
+        std::abort();
+    for (const QString &line : lines) {
+        if (line.isEmpty() || line != line.trimmed())
+            std::abort();
+    }
+    if (outputLines(output.left(maxOutputLines * maxOutputLineBytes)) != lines)
+        std::abort();
+    return 0;
+}

@@ -1,0 +1,3 @@
+def pressure_drop(inlet, outlet):
+    """Pressure lost between two planes, in Pa."""
+    return inlet - outlet

@@ -1,0 +1,115 @@
+#include "cfg_utilities/command_line.h"
+
+#include <QTest>
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+const QString systemLocale = QStringLiteral("fr-FR");
+
+} // namespace
+
+class tst_command_line : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void optionsAreToldByHowTheyBegin_data()
+    {
+        QTest::addColumn<QString>("commandLine");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("silent");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<int>("questions");
+
+        const int install = int(RunMode::Install);
+        const int uninstall = int(RunMode::Uninstall);
+        const int stop = int(RunMode::StopServices);
+        const int localize = int(RunMode::Localization);
+        const int none = int(RunMode::NotGiven);
+
+        const auto row = [](const char *name, const char *commandLine, int mode, bool silent,
+                            const char *locale = "fr-FR", int questions = 0) {
+            QTest::newRow(name) << text(commandLine) << mode << silent << text(locale) << questions;
+        };
+        row("no options", "NVXConfig.exe", none, false);
+        row("nothing at all", "", none, false);
+        row("install", "NVXConfig.exe -I", install, false);
+        row("uninstall", "NVXConfig.exe -U", uninstall, false);
+        row("stop services", "NVXConfig.exe -ST", stop, false);
+        row("-STop is stop services and not silent", "NVXConfig.exe -STop", stop, false);
+        row("silent", "NVXConfig.exe -S", none, true);
+        row("-Silent is silent", "NVXConfig.exe -Silent", none, true);
+        row("localisation", "NVXConfig.exe -T", localize, false);
+        row("silent uninstall", "NVXConfig.exe -S -U", uninstall, true);
+        row("the later mode wins", "NVXConfig.exe -U -I", install, false);
+        row("the later mode wins, stop services too", "NVXConfig.exe -ST -U", uninstall, false);
+        row("a whole installer call", "\"C:\\NVX\\NVXConfig.exe\" -I -S -Lde-DE", install, true, "de-DE");
+        row("many blanks", "   NVXConfig.exe    -I   -S  ", install, true);
+        row("quotes have no meaning", "\"C:\\Program Files\\-I x\\NVXConfig.exe\" -S", none, true);
+        row("a blank in the path can make an option", "C:\\Program -U\\NVXConfig.exe", uninstall, false);
+        row("small letters are no options", "NVXConfig.exe -i -s", none, false, "fr-FR", 2);
+        row("the first token can be an option", "-I", install, false);
+        row("a tab does not split", "NVXConfig.exe -I\t-U", install, false);
+        row("words without a dash are ignored", "NVXConfig.exe I S /U", none, false);
+
+        row("-L with a locale", "NVXConfig.exe -Lja-JP", none, false, "ja-JP");
+        row("-LIT-IT keeps its spelling", "NVXConfig.exe -LIT-IT", none, false, "IT-IT");
+        row("-Lde-de keeps its spelling", "NVXConfig.exe -Lde-de", none, false, "de-de");
+        row("-Lde is taken as it stands", "NVXConfig.exe -Lde", none, false, "de");
+        row("-L alone is an empty locale", "NVXConfig.exe -L", none, false, "");
+        row("an unknown locale is en-US", "NVXConfig.exe -Lxx", none, false, "en-US");
+        row("-Len-US is en-US", "NVXConfig.exe -Len-US", none, false, "en-US");
+        row("the later locale wins", "NVXConfig.exe -Lde-DE -Lko-KR", none, false, "ko-KR");
+
+        row("an unknown option asks", "NVXConfig.exe -X", none, false, "fr-FR", 1);
+        row("an unknown first token does not ask", "-X -I", install, false, "fr-FR", 0);
+        row("-E has no meaning and asks", "NVXConfig.exe -E", none, false, "fr-FR", 1);
+        row("a dash alone asks", "NVXConfig.exe -", none, false, "fr-FR", 1);
+        row("each unknown option asks", "NVXConfig.exe -X -I -Y", install, false, "fr-FR", 2);
+    }
+
+    void optionsAreToldByHowTheyBegin()
+    {
+        QFETCH(QString, commandLine);
+        int questions = 0;
+        const auto goOn = [&questions] {
+            ++questions;
+            return true;
+        };
+        const CommandLineReading reading = readCommandLine(commandLine, systemLocale, goOn);
+        QTEST(static_cast<int>(reading.runMode), "mode");
+        QTEST(reading.silent, "silent");
+        QTEST(reading.locale, "locale");
+        QTEST(questions, "questions");
+        QVERIFY(!reading.abandoned);
+    }
+
+    void noAbandonsWhatIsLeftAndKeepsWhatWasRead()
+    {
+        const auto stop = [] { return false; };
+        const CommandLineReading reading =
+            readCommandLine(text("NVXConfig.exe -U -Lde-DE -X -S -I -Lja-JP"), systemLocale, stop);
+        QVERIFY(reading.abandoned);
+        QVERIFY(reading.runMode == RunMode::Uninstall);
+        QVERIFY(!reading.silent);
+        QCOMPARE(reading.locale, text("de-DE"));
+    }
+
+    void theUsageTextIsShownLineByLineWithItsOldSpelling()
+    {
+        QCOMPARE(usageText().split(QLatin1Char('\n')),
+                 QStringList({text("Valid NVX command line arguments are:"), text("-I Install mode(default)"),
+                              text("-U UnInstall mode"), text("-STop Stop Services"), text("-S Slient mode"),
+                              text("-L Install USA language"), text("-Lxxx Install language xxx"),
+                              text("-E look in %temp%NVXENv.txt for install language"), QString(),
+                              text(" Do you want to continue?"), QString()}));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_command_line)
+#include "tst_command_line.moc"

@@ -1,0 +1,61 @@
+#include "cfg_utilities/flag_file.h"
+#include "support/test_machine.h"
+
+#include <QBuffer>
+#include <QTest>
+
+class tst_flag_file : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void onlyWhiteSpaceCountsAsUnchanged_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<bool>("unchanged");
+        QTest::newRow("no bytes") << QByteArray() << true;
+        QTest::newRow("an empty line") << QByteArray("\r\n") << true;
+        QTest::newRow("blanks and tabs") << QByteArray("  \t \n \r\n") << true;
+        QTest::newRow("text") << QByteArray("on") << false;
+        QTest::newRow("text behind much white space") << QByteArray(100000, ' ') + "x" << false;
+        QTest::newRow("much white space") << QByteArray(100000, '\n') << true;
+        QTest::newRow("a zero byte") << QByteArray(1, '\0') << false;
+        QTest::newRow("a byte order mark") << QByteArray("\xEF\xBB\xBF") << false;
+    }
+
+    void onlyWhiteSpaceCountsAsUnchanged()
+    {
+        QFETCH(QByteArray, contents);
+        QBuffer buffer(&contents);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        QTEST(holdsOnlyWhiteSpace(buffer), "unchanged");
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("NVX_flags.txt"));
+        writeFile(path, contents);
+        QTEST(isUnchangedFlagFile(path), "unchanged");
+    }
+
+    void aDeviceThatCannotBeReadCountsAsChanged()
+    {
+        QBuffer closed;
+        QTest::ignoreMessage(QtWarningMsg, "QIODevice::read (QBuffer): device not open");
+        QVERIFY(!holdsOnlyWhiteSpace(closed));
+    }
+
+    void aFileThatCannotBeOpenedCountsAsChanged()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("NVX_flags.txt"));
+        QVERIFY(QDir().mkdir(path)); // it exists, yet nobody can read it as a file
+        QVERIFY(!isUnchangedFlagFile(path));
+    }
+
+    void noFileCountsAsUnchanged()
+    {
+        const TestFolder folder;
+        QVERIFY(isUnchangedFlagFile(folder.path(QStringLiteral("NVX_flags.txt"))));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_flag_file)
+#include "tst_flag_file.moc"

@@ -1,0 +1,260 @@
+#include "engine/engine_fixture.h"
+#include "nvx_util/system.h"
+#include "run/progress_view.h"
+
+#include <QTest>
+#include <QTimer>
+
+using Nvx::Util::joinPath;
+using Nvx::Util::System;
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+// Keeps what the last page of the wizard would show.
+class RecordingView : public ProgressView
+{
+public:
+    explicit RecordingView(const cfg_utilitys &engine)
+        : m_engine(engine)
+    {
+    }
+
+    void appendRow(const QString &row) override { shown << row; }
+    void clear() override
+    {
+        shown.clear();
+        ++clears;
+    }
+    void runCompleteChanged() override { completions << m_engine.state().runComplete; }
+
+    QStringList shown;
+    int clears = 0;
+    QList<bool> completions;
+
+private:
+    const cfg_utilitys &m_engine;
+};
+
+} // namespace
+
+class tst_process_installation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_fixture = std::make_unique<EngineFixture>();
+        writeFile(m_fixture->installed("NVXSolver.exe"));
+    }
+    void cleanup() { m_fixture.reset(); }
+
+    void anInstallRunsItsStepsInOrder()
+    {
+        run(text("-I -S -Len-US"));
+        QCOMPARE(
+            steps(),
+            QStringList({text("   0 Beginning Install"), text("! Processors"), text("   0 Install Tutorials"),
+                         text("   0 Installing Tutorials"), text("   0 Install Python (locally for NVX)"),
+                         text("   0 Installing Python"), text("   0 Install Mertle Server"),
+                         text("   0 There is no translators folder, the Mertle Server is left alone"),
+                         text("   0 Created NVX2 default configuration"),
+                         text("   0 Created NVX2 analyze folder"), text("   0 Processing NVX_flags.txt"),
+                         text("   0 The installation or update is complete. Click finish to continue.")}));
+        QCOMPARE(m_fixture->machine.associationNotices, 1);
+        QVERIFY(m_fixture->engine->state().runComplete);
+    }
+
+    void anUninstallRunsTheSameStepsInOrder()
+    {
+        run(text("-U -S -Len-US"));
+        QCOMPARE(
+            steps(),
+            QStringList({text("   0 Beginning UnInstall"), text("! Processors"),
+                         text("   0 UnInstall Tutorials"), text("   0 UnInstall Python (locally for NVX)"),
+                         text("   0 UnInstall Mertle Server"),
+                         text("   0 There is no translators folder, the Mertle Server is left alone"),
+                         text("   0 Processing NVX_flags.txt"), text("   0 NVX_flags.txt has not changed"),
+                         text("   0 The installation or update is complete. Click finish to continue.")}));
+        QCOMPARE(m_fixture->machine.associationNotices, 1);
+    }
+
+    void theProcessorLineHasNeitherTimeNorLevel()
+    {
+        run(text("-I -S"));
+        const QStringList lines = m_fixture->lines();
+        const QStringList bare = lines.filter(QRegularExpression(text("^! ")));
+        QCOMPARE(bare.size(), 1);
+        QVERIFY(QRegularExpression(text("^! Processors: [1-9]\\d*, Cores per processor: [1-9]\\d*$"))
+                    .match(bare.first())
+                    .hasMatch());
+        QCOMPARE(lines.indexOf(bare.first()), lines.indexOf(text("   0 Beginning Install")) + 1);
+    }
+
+    void pendingNotesAreToldFirst()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        RecordingView view(engine);
+        view.shown = QStringList{text("from an earlier run")};
+        engine.setProgressView(&view);
+        engine.addPendingNote(text("note 1"));
+        engine.addPendingNote(text("note 2"));
+        engine.ProcessInstallation();
+
+        const QStringList lines = m_fixture->lines();
+        const auto start = lines.indexOf(text("   0 Beginning Install"));
+        QCOMPARE(lines.mid(start + 1, 2), QStringList({text("   0 note 1"), text("   0 note 2")}));
+        QCOMPARE(view.clears, 1);
+        QCOMPARE(view.shown.mid(0, 2), QStringList({text("note 1"), text("note 2")}));
+        QVERIFY(view.shown.at(2).startsWith(text("Processors: ")));
+    }
+
+    void withoutPendingNotesTheListIsOnlyCleared()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        RecordingView view(engine);
+        view.shown = QStringList{text("from an earlier run")};
+        engine.setProgressView(&view);
+        engine.ProcessInstallation();
+        QCOMPARE(view.clears, 1);
+        QVERIFY(view.shown.first().startsWith(text("Processors: ")));
+    }
+
+    void everyStepShowsARow()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        RecordingView view(engine);
+        engine.setProgressView(&view);
+        engine.ProcessInstallation();
+        QCOMPARE(view.shown.mid(1),
+                 QStringList({text("Install Tutorials"), text("Install Python (locally for NVX)"),
+                              text("Install Mertle Server"), text("Processing NVX_flags.txt"),
+                              text("The installation or update is complete. Click finish to continue.")}));
+    }
+
+    void theRunIsCompleteOnlyAtItsEnd()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        RecordingView view(engine);
+        engine.setProgressView(&view);
+        engine.clearRunComplete();
+        bool completeMeanwhile = true;
+        m_fixture->machine.whileRunning = [&](const auto &) {
+            completeMeanwhile = engine.state().runComplete;
+        };
+        engine.ProcessInstallation();
+        QVERIFY(!completeMeanwhile);
+        QCOMPARE(view.completions, QList<bool>({false, true}));
+    }
+
+    void aProgressLineLetsTheWindowPaint()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        bool painted = false;
+        QTimer::singleShot(0, this, [&painted] { painted = true; });
+        engine.progress(0, text("x"));
+        QVERIFY(painted);
+        QCOMPARE(m_fixture->lines().last(), text("   0 x"));
+    }
+
+    void aMessageIsShownAndLogged()
+    {
+        m_fixture->start(text("-I -S")).inform(1, text("look"));
+        QCOMPARE(m_fixture->machine.boxes.size(), 1);
+        QCOMPARE(m_fixture->machine.boxes.first().title, text("NVX Configuration Utility"));
+        QCOMPARE(m_fixture->machine.boxes.first().text, text("look"));
+        QVERIFY(m_fixture->machine.boxes.first().kind == Nvx::Util::BoxKind::Information);
+        QCOMPARE(m_fixture->lines().last(), text("   1 look"));
+    }
+
+    void aMissingFlagFileIsMadeWithAnEmptyLine()
+    {
+        m_fixture->start(text("-I -S")).processFlagFile(text("NVX_other.txt"), RunMode::Install);
+        const QStringList lines = m_fixture->lines();
+        QCOMPARE(lines.mid(lines.size() - 2),
+                 QStringList({text("   0 Processing NVX_other.txt"), text("   0 Creating NVX_other.txt")}));
+        QCOMPARE(readFile(flag("NVX_other.txt")), QByteArray("\r\n"));
+    }
+
+    void anExistingFlagFileIsLeftAloneOnInstall()
+    {
+        writeFile(flag("NVX_other.txt"), "mine");
+        m_fixture->start(text("-I -S")).processFlagFile(text("NVX_other.txt"), RunMode::Install);
+        QCOMPARE(m_fixture->lines().last(), text("   0 Processing NVX_other.txt"));
+        QCOMPARE(readFile(flag("NVX_other.txt")), QByteArray("mine"));
+    }
+
+    void anUnchangedFlagFileIsRemoved_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<bool>("stays");
+        QTest::newRow("blanks") << QByteArray("   ") << false;
+        QTest::newRow("an empty line") << QByteArray("\r\n") << false;
+        QTest::newRow("no bytes") << QByteArray() << false;
+        QTest::newRow("text") << QByteArray("on") << true;
+    }
+
+    void anUnchangedFlagFileIsRemoved()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(bool, stays);
+        cfg_utilitys &engine = m_fixture->start(text("-U -S"));
+        writeFile(flag("NVX_flags.txt"), contents);
+        engine.processFlagFile(text("NVX_flags.txt"), RunMode::Uninstall);
+        QCOMPARE(QFile::exists(flag("NVX_flags.txt")), stays);
+        QCOMPARE(m_fixture->lines().last(), stays ? text("   0 NVX_flags.txt has changed, not removing")
+                                                  : text("   0 NVX_flags.txt has not changed"));
+    }
+
+    void aFlagFileThatIsNotThereReadsAsEmpty()
+    {
+        m_fixture->start(text("-U -S")).processFlagFile(text("NVX_flags.txt"), RunMode::Uninstall);
+        QCOMPARE(m_fixture->lines().last(), text("   0 NVX_flags.txt has not changed"));
+    }
+
+    void aFlagFileThatCannotBeReadStays()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-U -S"));
+        QVERIFY(QDir().mkpath(flag("NVX_flags.txt"))); // it exists, yet nobody can read it as a file
+        engine.processFlagFile(text("NVX_flags.txt"), RunMode::Uninstall);
+        QVERIFY(QDir(flag("NVX_flags.txt")).exists());
+        QCOMPARE(m_fixture->lines().last(), text("   0 NVX_flags.txt has changed, not removing"));
+    }
+
+    void aFlagFileThatCannotBeMadeIsLogged()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-U -S"));
+        writeFile(System::getFlagsDirPath()); // a file is in the folder's place
+        engine.processFlagFile(text("NVX_flags.txt"), RunMode::Install);
+        QCOMPARE(m_fixture->lines().last(), text("   1 Unable to create ") + flag("NVX_flags.txt"));
+    }
+
+private:
+    void run(const QString &options) { m_fixture->start(options).ProcessInstallation(); }
+
+    static QString flag(const char *name) { return joinPath(System::getFlagsDirPath(), text(name)); }
+
+    // The lines of the run itself without those of the programs it starts, and without what follows a colon.
+    QStringList steps() const
+    {
+        QStringList found;
+        const QStringList lines = m_fixture->lines();
+        for (const QString &line : lines.mid(lines.indexOf(QRegularExpression(text("^   0 Beginning .*"))))) {
+            static const QRegularExpression ofPrograms(
+                text("^ +-?\\d+ (Command:|WorkDir:|Output:|  | output:|Removing:)"));
+            if (!ofPrograms.match(line).hasMatch())
+                found << line.section(QLatin1Char(':'), 0, 0);
+        }
+        return found;
+    }
+
+    std::unique_ptr<EngineFixture> m_fixture;
+};
+
+QTEST_MAIN(tst_process_installation)
+#include "tst_process_installation.moc"

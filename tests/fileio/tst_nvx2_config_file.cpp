@@ -1,0 +1,95 @@
+#include "nvx_io/nvx2_config_file.h"
+#include "nvx_util/conversion.h"
+#include "support/test_machine.h"
+
+#include <QTest>
+
+using Nvx::Io::Nvx2ConfigFile;
+using Nvx::Util::toStdString;
+
+namespace {
+
+QByteArray saved(const Nvx2ConfigFile &file, const QString &path)
+{
+    return file.saveTo(toStdString(path)) ? readFile(path).replace("\r\n", "\n") : QByteArray();
+}
+
+} // namespace
+
+class tst_nvx2_config_file : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void settingsAreLinesInTheOrderOfTheirFirstNaming()
+    {
+        const TestFolder folder;
+        Nvx2ConfigFile file;
+        file.setting("b").setValue("1");
+        file.setting("a").setValue("2");
+        file.setting("b").setValue("3");
+        QCOMPARE(saved(file, folder.path(QStringLiteral("x.nvxcfg"))), QByteArray("b = 3\na = 2\n"));
+    }
+
+    void valuesOfTheCodePageAreWrittenInUtf8()
+    {
+        const TestFolder folder;
+        Nvx2ConfigFile file;
+        file.setting(Nvx2ConfigFile::ExePath).setValue(toStdString(QStringLiteral("C:\\Größe")));
+        QCOMPARE(saved(file, folder.path(QStringLiteral("x.nvxcfg"))),
+                 QStringLiteral("ExePath = C:\\Größe\n").toUtf8());
+    }
+
+    void anExistingFileIsReplacedWhole()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("Größe.nvxcfg"));
+        writeFile(path, QByteArray(10000, 'x'));
+        Nvx2ConfigFile file;
+        file.setting("a").setValue("1");
+        QCOMPARE(saved(file, path), QByteArray("a = 1\n"));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
+    void aFileWithoutSettingsIsEmpty()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("x.nvxcfg"));
+        QVERIFY(Nvx2ConfigFile().saveTo(toStdString(path)));
+        QVERIFY(QFile::exists(path));
+        QCOMPARE(readFile(path), QByteArray());
+    }
+
+    void aValueWithALineBreakIsNotWrittenAndTheOldFileStays_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::newRow("line feed") << QByteArray("a\nMpi = 99");
+        QTest::newRow("carriage return") << QByteArray("a\rMpi = 99");
+    }
+
+    void aValueWithALineBreakIsNotWrittenAndTheOldFileStays()
+    {
+        QFETCH(QByteArray, value);
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("x.nvxcfg"));
+        writeFile(path, "old");
+        Nvx2ConfigFile file;
+        file.setting("a").setValue(value.toStdString());
+        QVERIFY(!file.saveTo(toStdString(path)));
+        QCOMPARE(readFile(path), QByteArray("old"));
+    }
+
+    void aPathThatCannotBeWrittenGivesFalse()
+    {
+        const TestFolder folder;
+        Nvx2ConfigFile file;
+        file.setting("a").setValue("1");
+        QVERIFY(!file.saveTo(toStdString(folder.path(QStringLiteral("missing/x.nvxcfg")))));
+        QVERIFY(QDir().mkdir(folder.path(QStringLiteral("taken"))));
+        QVERIFY(!file.saveTo(toStdString(folder.path(QStringLiteral("taken")))));
+        QVERIFY(QDir(folder.path(QStringLiteral("taken"))).exists());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_nvx2_config_file)
+#include "tst_nvx2_config_file.moc"

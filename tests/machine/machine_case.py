@@ -1,0 +1,89 @@
+"""What the tests on a Windows machine share. A test class has a machine of its own; its tests put the product
+into folders of their own on it."""
+
+import os
+import re
+import shutil
+import sys
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
+
+from winemachine import INSTALL_DIR, Machine, make_template  # noqa: E402
+
+# The build folder, handed over by ctest.
+BUILD = Path(os.environ["NVX_BUILD"])
+SCRIPTED_TOOL = BUILD / "tests" / "scripted_tool.exe"
+COMPLETE = "   0 The installation or update is complete. Click finish to continue."
+
+_STAMP = re.compile(r"^[A-Z][a-z]{2} [A-Z][a-z]{2} [ \d]?\d \d\d:\d\d:\d\d \d{4} (.*)$")
+
+
+class MachineCase(unittest.TestCase):
+    locale = "C.UTF-8"
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.machine = Machine.create(
+            BUILD / "machines" / cls.__name__,
+            make_template(BUILD / "wine-template"),
+            cls.locale,
+            BUILD / "locales",
+        )
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.machine.stop()
+        shutil.rmtree(cls.machine.prefix)
+
+    def put_product(self, install_dir=INSTALL_DIR, translators=None):
+        self.machine.put_product(BUILD / "installed", BUILD / "sample", install_dir, translators)
+        return install_dir
+
+    def replace_seven_zip(self, install_dir, orders):
+        """Puts a program in the place of 7z.exe that does what the orders say (scripted_tool.cpp)."""
+        seven_zip = self.machine.path(install_dir) / "7z.exe"
+        shutil.copy(SCRIPTED_TOOL, seven_zip)
+        (seven_zip.parent / "7z.exe.script").write_text(orders)
+
+    def configure(self, install_dir, *tokens, **options):
+        """Runs the program of an install dir; answers its exit code and the lines of the whole log, without
+        their time stamps; a line without one keeps "! " before it."""
+        answer = self.machine.run(install_dir + "\\NVXConfig.exe", *tokens, **options)
+        log = self.machine.path(install_dir) / "NVXConfig.log"
+        return answer.returncode, log_lines(log) if log.is_file() else []
+
+    def write(self, windows_path, contents=b""):
+        path = self.machine.path(windows_path)
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(contents)
+        return path
+
+    def exists(self, windows_path):
+        return self.machine.path(windows_path).exists()
+
+    def assert_complete(self, code, lines):
+        self.assertEqual(code, 0)
+        self.assertEqual(lines[-1], COMPLETE)
+
+
+def log_lines(path):
+    lines = []
+    for line in path.read_text(encoding="utf-8").splitlines():
+        stamped = _STAMP.match(line)
+        lines.append(stamped.group(1) if stamped else "! " + line)
+    return lines
+
+
+def output_of(lines, command):
+    """The lines of a program's output: those that follow the line of its command."""
+    start = next(i for i, line in enumerate(lines) if line.startswith("   0 Command:" + command))
+    answer = []
+    for line in lines[start + 2 :]:
+        if re.match(r"^ *-?\d+ (Output:$|  )", line):
+            answer.append(line)
+        else:
+            break
+    return answer

@@ -1,0 +1,173 @@
+"""Faults of the machine and of the programs that are started: the run goes on to its end, says what happened,
+and loses nothing that is not the product's."""
+
+import shutil
+import unittest
+
+from machine_case import SCRIPTED_TOOL, MachineCase, output_of
+from winemachine import SHARED_DATA, TUTORIALS
+
+
+class ExternalPrograms(MachineCase):
+    def run_with(self, folder, orders):
+        """Installs with a 7z.exe that does what the orders say; answers what was logged of its first run."""
+        self.put_product(folder)
+        self.replace_seven_zip(folder, orders)
+        code, lines = self.configure(folder, "-I", "-S", "-Len-US")
+        self.assert_complete(code, lines)
+        return output_of(lines, folder + "\\7z.exe")
+
+    def test_40_lines_are_cut_to_21(self):
+        logged = self.run_with("C:\\lines", "lines 40")
+        self.assertEqual(logged, ["   0 Output:"] + ["   0   %d" % i for i in range(1, 22)])
+
+    def test_a_line_of_1000_bytes_is_logged_in_pieces(self):
+        logged = self.run_with("C:\\bytes", "bytes 1000")
+        self.assertEqual([len(line) - len("   0   ") for line in logged[1:]], [255, 255, 255, 235])
+
+    def test_exit_code_255_is_the_level(self):
+        logged = self.run_with("C:\\code", "line last words\nexit 255")
+        self.assertEqual(logged, [" 255 Output:", " 255   last words"])
+
+    def test_bytes_that_are_no_text_are_logged_all_the_same(self):
+        logged = self.run_with("C:\\raw", "raw 610080ff81fe7a\nline \nline next")
+        self.assertEqual(len(logged), 3)
+        self.assertTrue(logged[1].startswith("   0   a") and logged[1].endswith("z"), logged[1])
+        self.assertEqual(logged[2], "   0   next")
+
+    def test_standard_error_is_logged_too(self):
+        self.assertIn("   0   wrong", self.run_with("C:\\error", "error wrong"))
+
+    def test_a_program_that_asks_gets_an_end_of_input(self):
+        self.assertEqual(self.run_with("C:\\asks", "read"), ["   0 Output:", "   0   read 0"])
+
+    def test_a_missing_program(self):
+        self.put_product("C:\\missing")
+        self.machine.path("C:\\missing\\7z.exe").unlink()
+        code, lines = self.configure("C:\\missing", "-I", "-S", "-Len-US")
+        self.assert_complete(code, lines)
+        self.assertEqual(
+            output_of(lines, "C:\\missing\\7z.exe"),
+            ["  -2 Output:", "  -2   The program could not be started."],
+        )
+
+    def test_a_missing_archive_is_told_by_the_program_itself(self):
+        self.put_product("C:\\archive")
+        self.machine.path("C:\\archive\\en-US\\Examples.7z").unlink()
+        code, lines = self.configure("C:\\archive", "-I", "-S", "-Len-US")
+        self.assert_complete(code, lines)
+        logged = output_of(lines, "C:\\archive\\7z.exe")
+        self.assertTrue(logged[0].endswith("Output:") and not logged[0].startswith("   0"), logged)
+        self.assertTrue(any("ERROR" in line for line in logged), logged)
+
+    def test_a_hanging_program_is_ended_at_its_time_out(self):
+        # Only the tutorials have a time-out, so the program hangs at its first start and at no other.
+        self.put_product("C:\\hangs")
+        self.replace_seven_zip("C:\\hangs", "forget\nline working\nsleep 100000")
+        code, lines = self.configure("C:\\hangs", "-I", "-S", "-Len-US", timeout=120)
+        self.assert_complete(code, lines)
+        self.assertEqual(
+            output_of(lines, "C:\\hangs\\7z.exe"),
+            [
+                "  -1 Output:",
+                "  -1   working",
+                "  -1   The program was still running after 30000 ms and has been ended.",
+            ],
+        )
+
+
+class Folders(MachineCase):
+    def setUp(self):
+        self.put_product("C:\\NVX")
+        log = self.machine.path("C:\\NVX\\NVXConfig.log")
+        if log.exists():
+            log.unlink()
+
+    def install(self):
+        code, lines = self.configure("C:\\NVX", "-I", "-S", "-Len-US")
+        self.assert_complete(code, lines)
+        return lines
+
+    def test_a_folder_with_a_write_protected_file_is_removed(self):
+        protected = self.write("C:\\NVX\\Python\\Lib\\sub\\protected.py", b"old")
+        protected.chmod(0o444)
+        self.install()
+        self.assertFalse(protected.exists())
+
+    def test_a_folder_with_names_of_other_alphabets_is_removed(self):
+        old = self.write("C:\\NVX\\Python\\Lib\\日本 größe\\Файл.py", b"old")
+        self.install()
+        self.assertFalse(old.exists())
+
+    def test_a_file_in_the_folders_place_stops_nothing(self):
+        shutil.rmtree(self.machine.path("C:\\NVX\\Python\\DLLs"), ignore_errors=True)
+        self.write("C:\\NVX\\Python\\DLLs", b"a file")
+        lines = self.install()
+        self.assertTrue(self.exists("C:\\NVX\\Python\\Lib\\nvxreport\\table.py"))
+        self.assertTrue(any("\\Python\\DLLs" in line for line in lines))
+
+    def test_a_missing_folder_is_no_error(self):
+        self.assertFalse(self.exists(TUTORIALS + "\\x"))
+        self.install()
+        self.assertTrue(self.exists(TUTORIALS + "\\First steps\\02 Heat sink.txt"))
+
+    def test_a_log_that_cannot_be_opened_changes_nothing_else(self):
+        self.write("C:\\no log\\keep.txt")
+        self.put_product("C:\\no log")
+        self.machine.path("C:\\no log\\NVXConfig.log").mkdir()
+        code, lines = self.configure("C:\\no log", "-I", "-S", "-Len-US")
+        self.assertEqual((code, lines), (0, []))
+        self.assertTrue(self.exists("C:\\no log\\Python\\Lib\\nvxreport\\table.py"))
+        self.assertEqual(list(self.machine.path("C:\\no log\\NVXConfig.log").iterdir()), [])
+
+    def test_a_configuration_that_cannot_be_saved_is_logged(self):
+        configuration = SHARED_DATA + "\\NVX2_config.nvxcfg"
+        self.machine.path(configuration).unlink(missing_ok=True)
+        self.machine.path(configuration).mkdir(parents=True)
+        lines = self.install()
+        self.machine.path(configuration).rmdir()
+        self.assertIn("   1 Unable to create NVX2 default configuration: " + configuration, lines)
+        self.assertIn(
+            "   0 Created NVX2 analyze folder: " + SHARED_DATA + "\\HPCAnalyze", lines
+        )
+
+    def test_a_flags_file_with_text_survives_the_removal(self):
+        flags = SHARED_DATA + "\\NVX_flags.txt"
+        self.write(flags, b"mine\r\n")
+        self.install()
+        code, lines = self.configure("C:\\NVX", "-U", "-S", "-Len-US")
+        self.assert_complete(code, lines)
+        self.assertIn("   0 NVX_flags.txt has changed, not removing", lines)
+        self.assertEqual(self.machine.path(flags).read_bytes(), b"mine\r\n")
+        self.write(flags, b" \r\n\t")
+        code, lines = self.configure("C:\\NVX", "-U", "-S", "-Len-US")
+        self.assertIn("   0 NVX_flags.txt has not changed", lines)
+        self.assertFalse(self.exists(flags))
+
+
+class PlantedPrograms(MachineCase):
+    def test_system_programs_come_from_the_system_folder(self):
+        folder = "C:\\planted"
+        self.put_product(folder)
+        self.replace_seven_zip(folder, "exit 0")
+        for place in (folder, "C:\\", "C:\\elsewhere"):
+            for name in ("cmd.exe", "regedit.exe", "regsvr32.exe", "cmd", "cmd.bat"):
+                program = self.write(place + "\\" + name, SCRIPTED_TOOL.read_bytes())
+                program.with_name(name + ".script").write_text("mark C:\\started")
+        self.write(folder + "\\Python\\Lib\\old.py", b"old")
+        code, lines = self.configure(
+            folder,
+            "-I",
+            "-S",
+            "-Len-US",
+            folder="C:\\elsewhere",
+            WINEPATH="C:\\elsewhere",
+            COMSPEC="C:\\elsewhere\\cmd.exe",
+        )
+        self.assert_complete(code, lines)
+        self.assertFalse(self.exists("C:\\started"))
+        self.assertFalse(self.exists(folder + "\\Python\\Lib\\old.py"))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,85 @@
+#include "setup/output_lines.h"
+
+#include <QTest>
+
+namespace {
+
+QByteArray numberedLines(int count)
+{
+    QByteArray output;
+    for (int i = 1; i <= count; ++i)
+        output += QByteArray::number(i) + "\n";
+    return output;
+}
+
+QStringList numbers(int count)
+{
+    QStringList lines;
+    for (int i = 1; i <= count; ++i)
+        lines << QString::number(i);
+    return lines;
+}
+
+QString xs(int count)
+{
+    return QString(count, QLatin1Char('x'));
+}
+
+} // namespace
+
+class tst_output_lines : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theFirst21LinesAreTaken_data()
+    {
+        QTest::addColumn<QByteArray>("output");
+        QTest::addColumn<QStringList>("expected");
+
+        QTest::newRow("no output") << QByteArray() << QStringList();
+        QTest::newRow("one line without an end") << QByteArray("one") << QStringList{QStringLiteral("one")};
+        QTest::newRow("blanks and line ends are trimmed")
+            << QByteArray("  one \t\r\n") << QStringList{QStringLiteral("one")};
+        QTest::newRow("21 lines are all taken") << numberedLines(21) << numbers(21);
+        QTest::newRow("of 40 lines 21 are taken") << numberedLines(40) << numbers(21);
+        QTest::newRow("empty lines count but are left out")
+            << QByteArray("\n\n\n") + numberedLines(40) << numbers(18);
+        QTest::newRow("only empty lines") << QByteArray(30, '\n') << QStringList();
+        QTest::newRow("255 bytes are one line") << QByteArray(255, 'x') << QStringList{xs(255)};
+        QTest::newRow("254 bytes and the line end are read at once")
+            << QByteArray(254, 'x') + "\nnext" << QStringList{xs(254), QStringLiteral("next")};
+        QTest::newRow("256 bytes are two pieces") << QByteArray(256, 'x') << QStringList{xs(255), xs(1)};
+        QTest::newRow("1,000 bytes are four pieces") << QByteArray(1000, 'x') + '\n'
+                                                     << QStringList{xs(255), xs(255), xs(255), xs(235)};
+        QTest::newRow("pieces count towards the 21")
+            << QByteArray(255 * 20, 'x') + "\nlast\nmore"
+            << QStringList(20, xs(255)); // the line end is the 21st piece
+        QTest::newRow("carriage returns in a line stay")
+            << QByteArray("10%\r20%\n") << QStringList{QStringLiteral("10%\r20%")};
+    }
+
+    void theFirst21LinesAreTaken()
+    {
+        QFETCH(QByteArray, output);
+        QTEST(outputLines(output), "expected");
+    }
+
+    void bytesThatAreNoTextAreLinesAllTheSame()
+    {
+        const QStringList lines = outputLines(QByteArray("a\xFF\xFEz\nnext\n"));
+        QCOMPARE(lines.size(), 2);
+        QVERIFY(lines.first().startsWith(QLatin1Char('a')) && lines.first().endsWith(QLatin1Char('z')));
+        QCOMPARE(lines.last(), QStringLiteral("next"));
+    }
+
+    void aZeroByteDoesNotEndALine()
+    {
+        const QStringList lines = outputLines(QByteArray("a\0b\n", 4));
+        QCOMPARE(lines.size(), 1);
+        QCOMPARE(lines.first().size(), 3);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_output_lines)
+#include "tst_output_lines.moc"

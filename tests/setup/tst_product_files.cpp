@@ -1,0 +1,70 @@
+#include "run/product_files.h"
+#include "support/test_machine.h"
+
+#include <QTest>
+
+namespace {
+
+void protect(const QString &path)
+{
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadUser);
+}
+
+} // namespace
+
+class tst_product_files : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aWriteProtectedFileIsRemoved()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("a.dll"));
+        writeFile(path, "x");
+        protect(path);
+        QVERIFY(removeProductFile(path));
+        QVERIFY(!QFile::exists(path));
+    }
+
+    void aFileThatIsNotThereCountsAsRemoved()
+    {
+        const TestFolder folder;
+        QVERIFY(removeProductFile(folder.path(QStringLiteral("missing.dll"))));
+    }
+
+    void aFolderIsNotRemoved()
+    {
+        const TestFolder folder;
+        QVERIFY(QDir().mkdir(folder.path(QStringLiteral("a"))));
+        QVERIFY(!removeProductFile(folder.path(QStringLiteral("a"))));
+        QVERIFY(QDir(folder.path(QStringLiteral("a"))).exists());
+    }
+
+    void aWriteProtectedFileIsReplaced()
+    {
+        const TestFolder folder;
+        const QString source = folder.path(QStringLiteral("de-DE.dll"));
+        const QString target = folder.path(QStringLiteral("a.dll"));
+        writeFile(source, "new");
+        writeFile(target, "old");
+        protect(source);
+        protect(target);
+        QVERIFY(replaceProductFile(source, target));
+        QCOMPARE(readFile(target), QByteArray("new"));
+        QVERIFY(replaceProductFile(source, target)); // the copy is write-protected like its source
+        QCOMPARE(readFile(source), QByteArray("new"));
+    }
+
+    void aMissingSourceLeavesNoFile()
+    {
+        const TestFolder folder;
+        const QString target = folder.path(QStringLiteral("a.dll"));
+        writeFile(target, "old");
+        QVERIFY(!replaceProductFile(folder.path(QStringLiteral("missing.dll")), target));
+        QVERIFY(!QFile::exists(target));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_product_files)
+#include "tst_product_files.moc"

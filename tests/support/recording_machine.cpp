@@ -1,0 +1,26 @@
+#include "support/recording_machine.h"
+
+bool RecordingMachine::setProcessVariable(const QByteArray &name, const QByteArray &value)
+{
+    processVariables.append({name, value});
+    return true;
+}
+
+Nvx::Util::ProgramResult RecordingMachine::run(const Nvx::Util::ProgramCall &call)
+{
+    calls.append(call);
+    if (whileRunning)
+        whileRunning(call);
+    return programResult;
+}
+
+void RecordingMachine::tell(Nvx::Util::BoxKind kind, const QString &title, const QString &text)
+{
+    boxes.append({kind, title, text});
+}
+
+Nvx::Util::Answer RecordingMachine::ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text)
+{
+    boxes.append({kind, title, text});
+    return answer;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "nvx_util/machine.h"
+
+#include <QList>
+#include <QPair>
+
+#include <functional>
+
+/// A machine that does nothing but write down what it is asked, and answers what the test has set.
+class RecordingMachine : public Nvx::Util::Machine
+{
+public:
+    /// A box that was shown.
+    struct Box
+    {
+        Nvx::Util::BoxKind kind;
+        QString title;
+        QString text;
+    };
+
+    // What it answers.
+    QString ownCommandLine = QStringLiteral("NVXConfig.exe");
+    QString ownFolder;
+    QString desktop = QStringLiteral("C:\\Users\\Public\\Desktop");
+    Nvx::Util::ProgramResult programResult = {Nvx::Util::ProgramResult::Outcome::Exited, 0, {}};
+    Nvx::Util::Answer answer = Nvx::Util::Answer::Yes;
+
+    /// Called while a program "runs".
+    std::function<void(const Nvx::Util::ProgramCall &)> whileRunning;
+
+    // What it was asked.
+    QList<Nvx::Util::ProgramCall> calls;
+    QList<Box> boxes;
+    QList<QPair<QByteArray, QByteArray>> processVariables;
+    int associationNotices = 0;
+
+    QString commandLine() const override { return ownCommandLine; }
+    QString executableFolder() const override { return ownFolder; }
+    bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
+    Nvx::Util::ProgramResult run(const Nvx::Util::ProgramCall &call) override;
+    QString commonDesktopFolder() const override { return desktop; }
+    void notifyAssociationsChanged() override { ++associationNotices; }
+    void tell(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;
+    Nvx::Util::Answer ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "run/reporter.h"
+
+#include <QList>
+#include <QStringList>
+
+/// Keeps what is reported: each line as "LEVEL TEXT", a progress line with "progress " before it.
+class RecordingReporter : public Reporter
+{
+public:
+    QStringList lines;
+
+    void log(int level, const QString &text) override { add(QString(), level, text); }
+    void progress(int level, const QString &text) override { add(QStringLiteral("progress "), level, text); }
+    void inform(int level, const QString &text) override { add(QStringLiteral("inform "), level, text); }
+
+private:
+    void add(const QString &kind, int level, const QString &text)
+    {
+        lines.append(kind + QString::number(level) + QLatin1Char(' ') + text);
+    }
+};

@@ -1,0 +1,102 @@
+// A program that does what the file "<own path>.script" says, one order a line:
+//
+//     line TEXT     writes the text and a line end
+//     lines N       writes the numbers from 1 to N, a line each
+//     bytes N       writes a line of N times the letter x
+//     raw HEX       writes the bytes
+//     error TEXT    writes the text and a line end to standard error
+//     arguments     writes its arguments, a line each
+//     folder        writes its working folder
+//     mark PATH     makes an empty file
+//     forget        removes the file of orders, so that the next start finds none
+//     read          reads its standard input to the end
+//     sleep MS      waits
+//     exit CODE     ends with that exit code
+//     crash         ends as by a fault
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <thread>
+
+namespace {
+
+void writeLines(int count)
+{
+    for (int i = 1; i <= count; ++i)
+        std::cout << i << '\n';
+}
+
+void writeRaw(const std::string &hex)
+{
+    for (std::size_t i = 0; i + 1 < hex.size(); i += 2)
+        std::cout << static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, 16));
+}
+
+void sleepFor(int milliseconds)
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+void obey(const std::string &order, const std::string &operand, int argc, char **argv)
+{
+    if (order == "line")
+        std::cout << operand << '\n';
+    else if (order == "lines")
+        writeLines(std::stoi(operand));
+    else if (order == "bytes")
+        std::cout << std::string(std::stoul(operand), 'x') << '\n';
+    else if (order == "raw")
+        writeRaw(operand);
+    else if (order == "error")
+        std::cerr << operand << '\n';
+    else if (order == "folder")
+        std::cout << std::filesystem::current_path().string() << '\n';
+    else if (order == "mark")
+        std::ofstream(std::filesystem::path(operand)).flush();
+    else if (order == "read")
+        std::cout << "read " << std::string(std::istreambuf_iterator<char>(std::cin), {}).size() << '\n';
+    else if (order == "sleep")
+        sleepFor(std::stoi(operand));
+    else if (order == "arguments") {
+        for (int i = 1; i < argc; ++i)
+            std::cout << argv[i] << '\n';
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const std::string scriptPath = std::string(*argv) + ".script";
+    std::ifstream script(scriptPath);
+    std::string line;
+    std::stringstream orders;
+    orders << script.rdbuf();
+    script.close();
+    while (std::getline(orders, line)) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        const auto blank = line.find(' ');
+        const std::string order = line.substr(0, blank);
+        const std::string operand = blank == std::string::npos ? std::string() : line.substr(blank + 1);
+        if (order == "exit") {
+            std::cout.flush();
+            return std::stoi(operand);
+        }
+        if (order == "crash") {
+            std::cout.flush();
+            std::abort();
+        }
+        if (order == "forget")
+            std::remove(scriptPath.c_str());
+        obey(order, operand, argc, argv);
+        std::cout.flush();
+    }
+    return 0;
+}

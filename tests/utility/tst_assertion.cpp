@@ -1,0 +1,55 @@
+#include "nvx_util/assertion.h"
+
+#include <QTest>
+
+using Nvx::Util::AssertionFailure;
+using Nvx::Util::AssertionListener;
+
+class tst_assertion : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aConditionThatHoldsIsNotReported()
+    {
+        int reports = 0;
+        const AssertionListener listener([&](const AssertionFailure &) { ++reports; });
+        NVX_ASSERT(1 + 1 == 2, "tst_assertion");
+        QCOMPARE(reports, 0);
+    }
+
+    void aFailureNamesConditionUnitAndLineAndExecutionGoesOn()
+    {
+        AssertionFailure received;
+        const AssertionListener listener([&](const AssertionFailure &failure) { received = failure; });
+        const int line = __LINE__ + 1;
+        NVX_ASSERT(1 + 1 == 3, "tst_assertion");
+        QCOMPARE(received.condition, QStringLiteral("1 + 1 == 3"));
+        QCOMPARE(received.unit, QStringLiteral("tst_assertion"));
+        QCOMPARE(received.line, line);
+    }
+
+    void theInnermostListenerReceivesAndTheOuterOneAgainAfterIt()
+    {
+        QStringList received;
+        const AssertionListener outer([&](const AssertionFailure &) { received << QStringLiteral("outer"); });
+        {
+            const AssertionListener inner(
+                [&](const AssertionFailure &) { received << QStringLiteral("inner"); });
+            NVX_ASSERT(false, "tst_assertion");
+        }
+        NVX_ASSERT(false, "tst_assertion");
+        QCOMPARE(received, QStringList({QStringLiteral("inner"), QStringLiteral("outer")}));
+    }
+
+    void withoutAListenerTheFailureIsAMessageOfTheApplication()
+    {
+        const int line = __LINE__ + 2;
+        QTest::ignoreMessage(QtCriticalMsg,
+                             qPrintable(QStringLiteral("Assertion failed: false, here, line %1").arg(line)));
+        NVX_ASSERT(false, "here");
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_assertion)
+#include "tst_assertion.moc"

@@ -1,0 +1,155 @@
+#include "nvx_util/registry.h"
+#include "nvx_util/registry_key.h"
+#include "support/test_machine.h"
+
+#include <QTest>
+
+#include <array>
+#include <memory>
+
+using Nvx::Util::Registry;
+using Nvx::Util::RegistryKey;
+
+namespace {
+
+const QString scratch = QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\Test scratch");
+const QString translators = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Kelvane\\Translators");
+const QString folderValue = QStringLiteral("Folder");
+
+} // namespace
+
+class tst_registry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_machine = std::make_unique<TestMachine>();
+        for (const QString &value : RegistryKey(scratch).valueNames())
+            RegistryKey(scratch).removeValue(value);
+    }
+    void cleanup() { m_machine.reset(); }
+
+    void aTextComesBackAsItWasWritten_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("plain") << QStringLiteral("de-DE");
+        QTest::newRow("empty") << QString::fromLatin1("");
+        QTest::newRow("blanks and quotes") << QStringLiteral(" \"a\" b ");
+        QTest::newRow("umlauts and Japanese") << QStringLiteral("C:\\Größe\\日本");
+        QTest::newRow("10,000 characters") << QString(10000, QLatin1Char('x'));
+    }
+
+    void aTextComesBackAsItWasWritten()
+    {
+        QFETCH(QString, text);
+        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("a"), text));
+        QCOMPARE(RegistryKey(scratch).text(QStringLiteral("a")), std::optional<QString>(text));
+    }
+
+    void keysAndValueNamesAreComparedWithoutCase()
+    {
+        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("Locale"), QStringLiteral("de-DE")));
+        const RegistryKey shouted(scratch.toUpper());
+        QCOMPARE(shouted.text(QStringLiteral("LOCALE")), std::optional<QString>(QStringLiteral("de-DE")));
+        QVERIFY(RegistryKey(scratch.toUpper()).setText(QStringLiteral("LOCALE"), QStringLiteral("fr-FR")));
+        QCOMPARE(RegistryKey(scratch).valueNames(), QStringList(QStringLiteral("Locale")));
+    }
+
+    void aNameWithSlashesIsANameLikeAnyOther()
+    {
+        const QString name = QStringLiteral("a/b\\c");
+        QVERIFY(RegistryKey(scratch).setText(name, QStringLiteral("x")));
+        QCOMPARE(RegistryKey(scratch).valueNames(), QStringList(name));
+        QCOMPARE(RegistryKey(scratch).text(name), std::optional<QString>(QStringLiteral("x")));
+    }
+
+    void theEmptyNameIsTheDefaultValue()
+    {
+        QVERIFY(RegistryKey(scratch).setText(QString(), QStringLiteral("default")));
+        QCOMPARE(RegistryKey(scratch).text(QString()), std::optional<QString>(QStringLiteral("default")));
+    }
+
+    void listingAMissingKeyDoesNotCreateIt()
+    {
+        const QString missing = scratch + QStringLiteral("\\Missing");
+        const RegistryKey key(missing);
+        QVERIFY(!key.hasEntries());
+        QVERIFY(key.valueNames().isEmpty());
+        QVERIFY(key.subKeyNames().isEmpty());
+        QVERIFY(!key.text(QStringLiteral("a")));
+        QVERIFY(!RegistryKey(scratch).subKeyNames().contains(QStringLiteral("Missing")));
+    }
+
+    void aKeyWithOnlyASubKeyHasEntries()
+    {
+        const QString above = scratch + QStringLiteral("\\Above");
+        QVERIFY(
+            RegistryKey(above + QStringLiteral("\\Below")).setText(QStringLiteral("a"), QStringLiteral("b")));
+        QVERIFY(RegistryKey(above).valueNames().isEmpty());
+        QCOMPARE(RegistryKey(above).subKeyNames(), QStringList(QStringLiteral("Below")));
+        QVERIFY(RegistryKey(above).hasEntries());
+    }
+
+    void aRemovedValueIsGoneAndItsNeighbourStays()
+    {
+        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("a"), QStringLiteral("1")));
+        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("b"), QStringLiteral("2")));
+        QVERIFY(RegistryKey(scratch).removeValue(QStringLiteral("A")));
+        QCOMPARE(RegistryKey(scratch).valueNames(), QStringList(QStringLiteral("b")));
+        QVERIFY(RegistryKey(scratch).removeValue(QStringLiteral("a")));
+    }
+
+    void aRootThatDoesNotExistRefusesEverything()
+    {
+        RegistryKey nowhere(QStringLiteral("HKEY_NOWHERE\\Software"));
+        QVERIFY(!nowhere.text(QStringLiteral("a")));
+        QVERIFY(!nowhere.hasEntries());
+        QVERIFY(!nowhere.removeValue(QStringLiteral("a")));
+    }
+
+    void theTranslatorsFolderIsReadWhole()
+    {
+        const QString folder = QStringLiteral("C:\\Übersetzer\\日本 (x64)");
+        QVERIFY(RegistryKey(translators).setText(folderValue, folder));
+        std::array<wchar_t, 100> buffer;
+        Registry::readKelvaneTranslatorsFolder(buffer.data(), buffer.size());
+        QCOMPARE(QString::fromWCharArray(buffer.data()), folder);
+    }
+
+    void withoutATranslatorsFolderTheBufferIsEmpty()
+    {
+        std::array<wchar_t, 100> buffer;
+        buffer.fill(L'?');
+        Registry::readKelvaneTranslatorsFolder(buffer.data(), buffer.size());
+        QCOMPARE(QString::fromWCharArray(buffer.data()), QString());
+    }
+
+    void aFolderThatDoesNotFitIsNotCutShort_data()
+    {
+        QTest::addColumn<int>("length");
+        QTest::addColumn<int>("expectedLength");
+        QTest::newRow("as long as fits") << 9 << 9;
+        QTest::newRow("one too many") << 10 << 0;
+        QTest::newRow("far too long") << 10000 << 0;
+    }
+
+    void aFolderThatDoesNotFitIsNotCutShort()
+    {
+        QFETCH(int, length);
+        QFETCH(int, expectedLength);
+        QVERIFY(RegistryKey(translators).setText(folderValue, QString(length, QLatin1Char('x'))));
+        std::array<wchar_t, 12> buffer;
+        buffer.fill(L'?');
+        Registry::readKelvaneTranslatorsFolder(buffer.data(), 10);
+        QCOMPARE(QString::fromWCharArray(buffer.data()), QString(expectedLength, QLatin1Char('x')));
+        QVERIFY(buffer[10] == L'?' && buffer[11] == L'?');
+    }
+
+private:
+    std::unique_ptr<TestMachine> m_machine;
+};
+
+QTEST_GUILESS_MAIN(tst_registry)
+#include "tst_registry.moc"

@@ -1,0 +1,77 @@
+#include "support/test_machine.h"
+#include "unix/topology.h"
+
+#include <QTest>
+
+using Nvx::Util::Platform::readTopology;
+
+namespace {
+
+struct LogicalProcessor
+{
+    int package;
+    int core;
+};
+
+void describe(const TestFolder &folder, const QList<LogicalProcessor> &processors)
+{
+    for (qsizetype i = 0; i < processors.size(); ++i) {
+        const QString topology = folder.path(QStringLiteral("cpu%1/topology/").arg(i));
+        writeFile(topology + QStringLiteral("physical_package_id"),
+                  QByteArray::number(processors[i].package) + '\n');
+        writeFile(topology + QStringLiteral("core_id"), QByteArray::number(processors[i].core) + '\n');
+    }
+}
+
+} // namespace
+
+class tst_topology : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void coresAndThreadsAreToldApart()
+    {
+        const TestFolder folder;
+        describe(folder, {{0, 0}, {0, 1}, {0, 0}, {0, 1}});
+        const auto counts = readTopology(folder.path());
+        QVERIFY(counts);
+        QCOMPARE(counts->processors, 1);
+        QCOMPARE(counts->coresPerProcessor, 2);
+        QVERIFY(counts->hyperThreading);
+    }
+
+    void theSameCoreNumberInTwoPackagesIsTwoCores()
+    {
+        const TestFolder folder;
+        describe(folder, {{0, 0}, {0, 1}, {1, 0}, {1, 1}});
+        const auto counts = readTopology(folder.path());
+        QVERIFY(counts);
+        QCOMPARE(counts->processors, 2);
+        QCOMPARE(counts->coresPerProcessor, 2);
+        QVERIFY(!counts->hyperThreading);
+    }
+
+    void processorsThatAreSwitchedOffDoNotCount()
+    {
+        const TestFolder folder;
+        describe(folder, {{0, 0}, {0, 1}});
+        QVERIFY(QDir().mkpath(folder.path(QStringLiteral("cpu2"))));
+        QVERIFY(QDir().mkpath(folder.path(QStringLiteral("cpufreq/topology"))));
+        const auto counts = readTopology(folder.path());
+        QVERIFY(counts);
+        QCOMPARE(counts->coresPerProcessor, 2);
+    }
+
+    void aFolderThatDescribesNothingGivesNoAnswer()
+    {
+        const TestFolder folder;
+        writeFile(folder.path(QStringLiteral("cpu0/topology/physical_package_id")), "many\n");
+        writeFile(folder.path(QStringLiteral("cpu0/topology/core_id")), "0\n");
+        QVERIFY(!readTopology(folder.path()));
+        QVERIFY(!readTopology(folder.path(QStringLiteral("missing"))));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_topology)
+#include "tst_topology.moc"

@@ -1,0 +1,114 @@
+#include "cfg_wizard/start_up.h"
+#include "engine/engine_fixture.h"
+#include "nvx_util/system.h"
+
+#include <QTest>
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+} // namespace
+
+class tst_passes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_fixture = std::make_unique<EngineFixture>();
+        writeFile(m_fixture->installed("NVXSolver.exe"));
+    }
+    void cleanup() { m_fixture.reset(); }
+
+    void aChangedLanguageBringsAnotherPass()
+    {
+        const cfg_utilitys &engine = m_fixture->start(text("-I"));
+        QList<int> results{901, 901, 7, 0};
+        const int result = runPasses(engine, [&] { return results.takeFirst(); });
+        QCOMPARE(result, 7);
+        QCOMPARE(results, QList<int>{0});
+    }
+
+    void anyOtherResultIsTheExitCode_data()
+    {
+        QTest::addColumn<int>("result");
+        QTest::newRow("finished") << 0;
+        QTest::newRow("one less") << 900;
+        QTest::newRow("one more") << 902;
+        QTest::newRow("negative") << -1;
+    }
+
+    void anyOtherResultIsTheExitCode()
+    {
+        QFETCH(int, result);
+        const cfg_utilitys &engine = m_fixture->start(text("-I"));
+        int passes = 0;
+        QCOMPARE(runPasses(engine, [&] { return ++passes, result; }), result);
+        QCOMPARE(passes, 1);
+    }
+
+    void aSilentRunIsPerformedAndEndsWithZero_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("install") << text("-I -S") << text("   0 Beginning Install");
+        QTest::newRow("uninstall") << text("-U -S") << text("   0 Beginning UnInstall");
+    }
+
+    void aSilentRunIsPerformedAndEndsWithZero()
+    {
+        QFETCH(QString, options);
+        QFETCH(QString, line);
+        cfg_utilitys &engine = m_fixture->start(options);
+        QCOMPARE(runPass(engine), 0);
+        QVERIFY(m_fixture->lines().contains(line));
+        QVERIFY(engine.state().runComplete);
+        QVERIFY(m_fixture->machine.boxes.isEmpty());
+    }
+
+    void theModesWithoutAWindowEndWithZeroAndRunNothing_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QString>("lastLine");
+        QTest::newRow("stop services") << text("-ST") << text("   1 This build cannot stop services");
+        QTest::newRow("localisation") << text("-T") << text("   1 This build has no localization tool");
+    }
+
+    void theModesWithoutAWindowEndWithZeroAndRunNothing()
+    {
+        QFETCH(QString, options);
+        QCOMPARE(runPass(m_fixture->start(options)), 0);
+        QTEST(m_fixture->lines().last(), "lastLine");
+        QVERIFY(m_fixture->machine.calls.isEmpty());
+    }
+
+    void aRunThatNeedsPagesSaysThatThereAreNone_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::newRow("no mode") << QString();
+        QTest::newRow("silent without a mode") << text("-S");
+        QTest::newRow("install") << text("-I");
+        QTest::newRow("uninstall") << text("-U");
+    }
+
+    void aRunThatNeedsPagesSaysThatThereAreNone()
+    {
+        QFETCH(QString, options);
+        cfg_utilitys &engine = m_fixture->start(options);
+        QCOMPARE(runPass(engine), 1);
+        QCOMPARE(m_fixture->machine.boxes.size(), 1);
+        QVERIFY(m_fixture->machine.calls.isEmpty());
+        QVERIFY(!engine.state().runComplete);
+    }
+
+private:
+    std::unique_ptr<EngineFixture> m_fixture;
+};
+
+QTEST_MAIN(tst_passes)
+#include "tst_passes.moc"
