@@ -1,0 +1,246 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<context>
+    <name>ArchiveComponents</name>
+    <message>
+        <source> Tutorials</source>
+        <translation> der Tutorials</translation>
+    </message>
+    <message>
+        <source>Installing Tutorials</source>
+        <translation>Tutorials werden installiert</translation>
+    </message>
+    <message>
+        <source> Python (locally for NVX)</source>
+        <translation> von Python (lokal für NVX)</translation>
+    </message>
+    <message>
+        <source>Installing Python</source>
+        <translation>Python wird installiert</translation>
+    </message>
+    <message>
+        <source> Mertle Server</source>
+        <translation> des Mertle Server</translation>
+    </message>
+    <message>
+        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <translation>Kein Ordner für Übersetzer vorhanden, Mertle Server bleibt unverändert</translation>
+    </message>
+    <message>
+        <source>Installing Mertle Server</source>
+        <translation>Mertle Server wird installiert</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Valid NVX command line arguments are:
+-I Install mode(default)
+-U UnInstall mode
+-STop Stop Services
+-S Slient mode
+-L Install USA language
+-Lxxx Install language xxx
+-E look in %temp%NVXENv.txt for install language
+
+ Do you want to continue?
+</source>
+        <translation>Gültige Befehlszeilenargumente für NVX:
+-I Installationsmodus (Standard)
+-U Deinstallationsmodus
+-STop Dienste beenden
+-S Stiller Modus
+-L Sprache Englisch (USA) installieren
+-Lxxx Sprache xxx installieren
+-E Installationssprache aus %temp%NVXENv.txt lesen
+
+ Möchten Sie fortfahren?
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRunner</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>Das Programm konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>The program was still running after %1 ms and has been ended.</source>
+        <translation>Das Programm lief nach %1 ms noch und wurde beendet.</translation>
+    </message>
+    <message>
+        <source>The program crashed.</source>
+        <translation>Das Programm ist abgestürzt.</translation>
+    </message>
+    <message>
+        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <translation>Der Name dieses Ordners lässt sich in der Codepage des Befehlsinterpreters nicht darstellen, der Ordner wird nicht entfernt: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1, this folder is not removed: %2</source>
+        <translation>%1 konnte nicht erstellt werden, dieser Ordner wird nicht entfernt: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ParallelConfiguration</name>
+    <message>
+        <source>Created NVX2 default configuration: %1</source>
+        <translation>NVX2-Standardkonfiguration erstellt: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 default configuration: %1</source>
+        <translation>NVX2-Standardkonfiguration konnte nicht erstellt werden: %1</translation>
+    </message>
+    <message>
+        <source>Created NVX2 analyze folder: %1</source>
+        <translation>NVX2-Analyseordner erstellt: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 analyze folder: %1</source>
+        <translation>NVX2-Analyseordner konnte nicht erstellt werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
+        <translation>Diese Programmversion enthält keine Konfigurationsseiten. Verwenden Sie zum Installieren die Optionen -I -S und zum Entfernen -U -S.</translation>
+    </message>
+    <message>
+        <source>This build cannot stop services</source>
+        <translation>Diese Programmversion kann keine Dienste beenden</translation>
+    </message>
+    <message>
+        <source>This build has no localization tool</source>
+        <translation>Diese Programmversion enthält kein Lokalisierungswerkzeug</translation>
+    </message>
+</context>
+<context>
+    <name>cfg_utilitys</name>
+    <message>
+        <source>Program startup - %1 DIR== %2</source>
+        <translation>Programmstart - %1 DIR== %2</translation>
+    </message>
+    <message>
+        <source>NVX Configuration Utility</source>
+        <translation>NVX-Konfigurationsprogramm</translation>
+    </message>
+    <message>
+        <source>Processing </source>
+        <translation>Verarbeiten von </translation>
+    </message>
+    <message>
+        <source> has not changed</source>
+        <translation> wurde nicht geändert</translation>
+    </message>
+    <message>
+        <source> has changed, not removing</source>
+        <translation> wurde geändert und wird nicht entfernt</translation>
+    </message>
+    <message>
+        <source>Creating </source>
+        <translation>Erstellen von </translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>%1 konnte nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>Language </source>
+        <translation>Sprache: </translation>
+    </message>
+    <message>
+        <source>No Language locale Specified</source>
+        <translation>Keine Sprache angegeben</translation>
+    </message>
+    <message>
+        <source>Install Language: </source>
+        <translation>Installationssprache: </translation>
+    </message>
+    <message>
+        <source>ChangeLanguage = </source>
+        <translation>Sprachwechsel = </translation>
+    </message>
+    <message>
+        <source>COPY:%1 to %2</source>
+        <translation>KOPIEREN:%1 nach %2</translation>
+    </message>
+    <message>
+        <source>Remove:</source>
+        <translation>Entfernen:</translation>
+    </message>
+    <message>
+        <source>zorv :</source>
+        <translation>zorv :</translation>
+    </message>
+    <message>
+        <source>Beginning </source>
+        <translation>Beginn: </translation>
+    </message>
+    <message>
+        <source>The installation or update is complete. Click finish to continue.</source>
+        <translation>Die Installation oder Aktualisierung ist abgeschlossen. Klicken Sie auf „Abschließen“, um fortzufahren.</translation>
+    </message>
+    <message>
+        <source>Processors: %1, Cores per processor: %2</source>
+        <translation>Prozessoren: %1, Kerne pro Prozessor: %2</translation>
+    </message>
+    <message>
+        <source>Command Line:</source>
+        <translation>Befehlszeile:</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Installation</translation>
+    </message>
+    <message>
+        <source>UnInstall</source>
+        <translation>Deinstallation</translation>
+    </message>
+    <message>
+        <source>Found </source>
+        <translation>Gefunden: </translation>
+    </message>
+    <message>
+        <source> Success</source>
+        <translation> erfolgreich</translation>
+    </message>
+    <message>
+        <source> Failed</source>
+        <translation> fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Command line arguments</source>
+        <translation>Befehlszeilenargumente</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora %1 %2 DIR=</source>
+        <translation>Überprüfen des Installationspfads Velmora %1 %2 DIR=</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora NVX %1 DIR=</source>
+        <translation>Überprüfen des Installationspfads Velmora NVX %1 DIR=</translation>
+    </message>
+    <message>
+        <source>Install Path OK </source>
+        <translation>Installationspfad in Ordnung: </translation>
+    </message>
+    <message>
+        <source>user dir=</source>
+        <translation>Benutzerordner=</translation>
+    </message>
+    <message>
+        <source>Program startup - Install path is empty or is invalid, resetting to:</source>
+        <translation>Programmstart - Installationspfad ist leer oder ungültig, wird zurückgesetzt auf:</translation>
+    </message>
+    <message>
+        <source>Removing installation path environment variables.</source>
+        <translation>Umgebungsvariablen des Installationspfads werden entfernt:</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, %1 wird nicht gesetzt</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,246 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>ArchiveComponents</name>
+    <message>
+        <source> Tutorials</source>
+        <translation> des tutoriels</translation>
+    </message>
+    <message>
+        <source>Installing Tutorials</source>
+        <translation>Installation des tutoriels en cours</translation>
+    </message>
+    <message>
+        <source> Python (locally for NVX)</source>
+        <translation> de Python (en local pour NVX)</translation>
+    </message>
+    <message>
+        <source>Installing Python</source>
+        <translation>Installation de Python en cours</translation>
+    </message>
+    <message>
+        <source> Mertle Server</source>
+        <translation> de Mertle Server</translation>
+    </message>
+    <message>
+        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <translation>Aucun dossier de traducteurs, Mertle Server reste inchangé</translation>
+    </message>
+    <message>
+        <source>Installing Mertle Server</source>
+        <translation>Installation de Mertle Server en cours</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Valid NVX command line arguments are:
+-I Install mode(default)
+-U UnInstall mode
+-STop Stop Services
+-S Slient mode
+-L Install USA language
+-Lxxx Install language xxx
+-E look in %temp%NVXENv.txt for install language
+
+ Do you want to continue?
+</source>
+        <translation>Les arguments de ligne de commande valides pour NVX sont&#xa0;:
+-I Mode installation (par défaut)
+-U Mode désinstallation
+-STop Arrêter les services
+-S Mode silencieux
+-L Installer la langue anglaise (États-Unis)
+-Lxxx Installer la langue xxx
+-E Rechercher la langue d&apos;installation dans %temp%NVXENv.txt
+
+ Voulez-vous continuer&#xa0;?
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRunner</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>Impossible de démarrer le programme.</translation>
+    </message>
+    <message>
+        <source>The program was still running after %1 ms and has been ended.</source>
+        <translation>Le programme était toujours en cours d&apos;exécution après %1 ms et a été arrêté.</translation>
+    </message>
+    <message>
+        <source>The program crashed.</source>
+        <translation>Le programme s&apos;est arrêté de manière inattendue.</translation>
+    </message>
+    <message>
+        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <translation>Le nom de ce dossier ne peut pas être représenté dans la page de codes de l&apos;interpréteur de commandes, le dossier n&apos;est pas supprimé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1, this folder is not removed: %2</source>
+        <translation>Impossible de créer %1, ce dossier n&apos;est pas supprimé&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ParallelConfiguration</name>
+    <message>
+        <source>Created NVX2 default configuration: %1</source>
+        <translation>Configuration NVX2 par défaut créée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 default configuration: %1</source>
+        <translation>Impossible de créer la configuration NVX2 par défaut&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Created NVX2 analyze folder: %1</source>
+        <translation>Dossier d&apos;analyse NVX2 créé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 analyze folder: %1</source>
+        <translation>Impossible de créer le dossier d&apos;analyse NVX2&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
+        <translation>Cette version ne comporte pas de pages de configuration. Utilisez les options -I -S pour installer ou -U -S pour supprimer.</translation>
+    </message>
+    <message>
+        <source>This build cannot stop services</source>
+        <translation>Cette version ne peut pas arrêter les services</translation>
+    </message>
+    <message>
+        <source>This build has no localization tool</source>
+        <translation>Cette version ne comporte pas d&apos;outil de localisation</translation>
+    </message>
+</context>
+<context>
+    <name>cfg_utilitys</name>
+    <message>
+        <source>Program startup - %1 DIR== %2</source>
+        <translation>Démarrage du programme - %1 DIR== %2</translation>
+    </message>
+    <message>
+        <source>NVX Configuration Utility</source>
+        <translation>Utilitaire de configuration NVX</translation>
+    </message>
+    <message>
+        <source>Processing </source>
+        <translation>Traitement de </translation>
+    </message>
+    <message>
+        <source> has not changed</source>
+        <translation> n&apos;a pas été modifié</translation>
+    </message>
+    <message>
+        <source> has changed, not removing</source>
+        <translation> a été modifié et n&apos;est pas supprimé</translation>
+    </message>
+    <message>
+        <source>Creating </source>
+        <translation>Création de </translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>Impossible de créer %1</translation>
+    </message>
+    <message>
+        <source>Language </source>
+        <translation>Langue&#xa0;: </translation>
+    </message>
+    <message>
+        <source>No Language locale Specified</source>
+        <translation>Aucune langue spécifiée</translation>
+    </message>
+    <message>
+        <source>Install Language: </source>
+        <translation>Langue d&apos;installation&#xa0;: </translation>
+    </message>
+    <message>
+        <source>ChangeLanguage = </source>
+        <translation>Changement de langue = </translation>
+    </message>
+    <message>
+        <source>COPY:%1 to %2</source>
+        <translation>COPIE&#xa0;: %1 vers %2</translation>
+    </message>
+    <message>
+        <source>Remove:</source>
+        <translation>Suppression&#xa0;:</translation>
+    </message>
+    <message>
+        <source>zorv :</source>
+        <translation>zorv :</translation>
+    </message>
+    <message>
+        <source>Beginning </source>
+        <translation>Début&#xa0;: </translation>
+    </message>
+    <message>
+        <source>The installation or update is complete. Click finish to continue.</source>
+        <translation>L&apos;installation ou la mise à jour est terminée. Cliquez sur «&#xa0;Terminer&#xa0;» pour continuer.</translation>
+    </message>
+    <message>
+        <source>Processors: %1, Cores per processor: %2</source>
+        <translation>Processeurs&#xa0;: %1, cœurs par processeur&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Command Line:</source>
+        <translation>Ligne de commande&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Installation</translation>
+    </message>
+    <message>
+        <source>UnInstall</source>
+        <translation>Désinstallation</translation>
+    </message>
+    <message>
+        <source>Found </source>
+        <translation>Trouvé&#xa0;: </translation>
+    </message>
+    <message>
+        <source> Success</source>
+        <translation> : réussite</translation>
+    </message>
+    <message>
+        <source> Failed</source>
+        <translation> : échec</translation>
+    </message>
+    <message>
+        <source>Command line arguments</source>
+        <translation>Arguments de ligne de commande</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora %1 %2 DIR=</source>
+        <translation>Validation du chemin d&apos;installation Velmora %1 %2 DIR=</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora NVX %1 DIR=</source>
+        <translation>Validation du chemin d&apos;installation Velmora NVX %1 DIR=</translation>
+    </message>
+    <message>
+        <source>Install Path OK </source>
+        <translation>Chemin d&apos;installation correct&#xa0;: </translation>
+    </message>
+    <message>
+        <source>user dir=</source>
+        <translation>dossier utilisateur=</translation>
+    </message>
+    <message>
+        <source>Program startup - Install path is empty or is invalid, resetting to:</source>
+        <translation>Démarrage du programme - Chemin d&apos;installation vide ou non valide, réinitialisation à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Removing installation path environment variables.</source>
+        <translation>Suppression des variables d&apos;environnement du chemin d&apos;installation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <translation>Le dossier ne peut pas être représenté dans la page de codes du système, la variable %1 n&apos;est pas définie</translation>
+    </message>
+</context>
+</TS>

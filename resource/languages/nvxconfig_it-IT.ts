@@ -1,0 +1,246 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en_US">
+<context>
+    <name>ArchiveComponents</name>
+    <message>
+        <source> Tutorials</source>
+        <translation> delle esercitazioni</translation>
+    </message>
+    <message>
+        <source>Installing Tutorials</source>
+        <translation>Installazione delle esercitazioni in corso</translation>
+    </message>
+    <message>
+        <source> Python (locally for NVX)</source>
+        <translation> di Python (locale, per NVX)</translation>
+    </message>
+    <message>
+        <source>Installing Python</source>
+        <translation>Installazione di Python in corso</translation>
+    </message>
+    <message>
+        <source> Mertle Server</source>
+        <translation> di Mertle Server</translation>
+    </message>
+    <message>
+        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <translation>Nessuna cartella dei traduttori, Mertle Server resta invariato</translation>
+    </message>
+    <message>
+        <source>Installing Mertle Server</source>
+        <translation>Installazione di Mertle Server in corso</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Valid NVX command line arguments are:
+-I Install mode(default)
+-U UnInstall mode
+-STop Stop Services
+-S Slient mode
+-L Install USA language
+-Lxxx Install language xxx
+-E look in %temp%NVXENv.txt for install language
+
+ Do you want to continue?
+</source>
+        <translation>Gli argomenti della riga di comando validi per NVX sono:
+-I Modalità di installazione (predefinita)
+-U Modalità di disinstallazione
+-STop Arresta i servizi
+-S Modalità silenziosa
+-L Installa la lingua inglese (Stati Uniti)
+-Lxxx Installa la lingua xxx
+-E Cerca la lingua di installazione in %temp%NVXENv.txt
+
+ Continuare?
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRunner</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>Impossibile avviare il programma.</translation>
+    </message>
+    <message>
+        <source>The program was still running after %1 ms and has been ended.</source>
+        <translation>Il programma era ancora in esecuzione dopo %1 ms ed è stato terminato.</translation>
+    </message>
+    <message>
+        <source>The program crashed.</source>
+        <translation>Il programma si è interrotto in modo anomalo.</translation>
+    </message>
+    <message>
+        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <translation>Il nome di questa cartella non può essere rappresentato nella tabella codici dell&apos;interprete dei comandi, la cartella non viene rimossa: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1, this folder is not removed: %2</source>
+        <translation>Impossibile creare %1, questa cartella non viene rimossa: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ParallelConfiguration</name>
+    <message>
+        <source>Created NVX2 default configuration: %1</source>
+        <translation>Configurazione NVX2 predefinita creata: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 default configuration: %1</source>
+        <translation>Impossibile creare la configurazione NVX2 predefinita: %1</translation>
+    </message>
+    <message>
+        <source>Created NVX2 analyze folder: %1</source>
+        <translation>Cartella di analisi NVX2 creata: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 analyze folder: %1</source>
+        <translation>Impossibile creare la cartella di analisi NVX2: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
+        <translation>Questa versione non contiene pagine di configurazione. Utilizzare le opzioni -I -S per installare o -U -S per rimuovere.</translation>
+    </message>
+    <message>
+        <source>This build cannot stop services</source>
+        <translation>Questa versione non può arrestare i servizi</translation>
+    </message>
+    <message>
+        <source>This build has no localization tool</source>
+        <translation>Questa versione non contiene lo strumento di localizzazione</translation>
+    </message>
+</context>
+<context>
+    <name>cfg_utilitys</name>
+    <message>
+        <source>Program startup - %1 DIR== %2</source>
+        <translation>Avvio del programma - %1 DIR== %2</translation>
+    </message>
+    <message>
+        <source>NVX Configuration Utility</source>
+        <translation>Utilità di configurazione NVX</translation>
+    </message>
+    <message>
+        <source>Processing </source>
+        <translation>Elaborazione di </translation>
+    </message>
+    <message>
+        <source> has not changed</source>
+        <translation> non è stato modificato</translation>
+    </message>
+    <message>
+        <source> has changed, not removing</source>
+        <translation> è stato modificato e non viene rimosso</translation>
+    </message>
+    <message>
+        <source>Creating </source>
+        <translation>Creazione di </translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>Impossibile creare %1</translation>
+    </message>
+    <message>
+        <source>Language </source>
+        <translation>Lingua: </translation>
+    </message>
+    <message>
+        <source>No Language locale Specified</source>
+        <translation>Nessuna lingua specificata</translation>
+    </message>
+    <message>
+        <source>Install Language: </source>
+        <translation>Lingua di installazione: </translation>
+    </message>
+    <message>
+        <source>ChangeLanguage = </source>
+        <translation>Cambio lingua = </translation>
+    </message>
+    <message>
+        <source>COPY:%1 to %2</source>
+        <translation>COPIA:%1 in %2</translation>
+    </message>
+    <message>
+        <source>Remove:</source>
+        <translation>Rimozione:</translation>
+    </message>
+    <message>
+        <source>zorv :</source>
+        <translation>zorv :</translation>
+    </message>
+    <message>
+        <source>Beginning </source>
+        <translation>Inizio: </translation>
+    </message>
+    <message>
+        <source>The installation or update is complete. Click finish to continue.</source>
+        <translation>L&apos;installazione o l&apos;aggiornamento è stato completato. Fare clic su Fine per continuare.</translation>
+    </message>
+    <message>
+        <source>Processors: %1, Cores per processor: %2</source>
+        <translation>Processori: %1, core per processore: %2</translation>
+    </message>
+    <message>
+        <source>Command Line:</source>
+        <translation>Riga di comando:</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Installazione</translation>
+    </message>
+    <message>
+        <source>UnInstall</source>
+        <translation>Disinstallazione</translation>
+    </message>
+    <message>
+        <source>Found </source>
+        <translation>Trovato: </translation>
+    </message>
+    <message>
+        <source> Success</source>
+        <translation> - operazione riuscita</translation>
+    </message>
+    <message>
+        <source> Failed</source>
+        <translation> - operazione non riuscita</translation>
+    </message>
+    <message>
+        <source>Command line arguments</source>
+        <translation>Argomenti della riga di comando</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora %1 %2 DIR=</source>
+        <translation>Verifica del percorso di installazione Velmora %1 %2 DIR=</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora NVX %1 DIR=</source>
+        <translation>Verifica del percorso di installazione Velmora NVX %1 DIR=</translation>
+    </message>
+    <message>
+        <source>Install Path OK </source>
+        <translation>Percorso di installazione corretto: </translation>
+    </message>
+    <message>
+        <source>user dir=</source>
+        <translation>cartella utente=</translation>
+    </message>
+    <message>
+        <source>Program startup - Install path is empty or is invalid, resetting to:</source>
+        <translation>Avvio del programma - Percorso di installazione vuoto o non valido, reimpostazione su:</translation>
+    </message>
+    <message>
+        <source>Removing installation path environment variables.</source>
+        <translation>Rimozione delle variabili di ambiente del percorso di installazione:</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <translation>La cartella non può essere rappresentata nella tabella codici del sistema, la variabile %1 non viene impostata</translation>
+    </message>
+</context>
+</TS>

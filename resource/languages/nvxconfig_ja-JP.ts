@@ -1,0 +1,246 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en_US">
+<context>
+    <name>ArchiveComponents</name>
+    <message>
+        <source> Tutorials</source>
+        <translation> - チュートリアル</translation>
+    </message>
+    <message>
+        <source>Installing Tutorials</source>
+        <translation>チュートリアルをインストールしています</translation>
+    </message>
+    <message>
+        <source> Python (locally for NVX)</source>
+        <translation> - Python (NVX 専用)</translation>
+    </message>
+    <message>
+        <source>Installing Python</source>
+        <translation>Python をインストールしています</translation>
+    </message>
+    <message>
+        <source> Mertle Server</source>
+        <translation> - Mertle Server</translation>
+    </message>
+    <message>
+        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <translation>トランスレーターのフォルダーがないため、Mertle Server は変更しません</translation>
+    </message>
+    <message>
+        <source>Installing Mertle Server</source>
+        <translation>Mertle Server をインストールしています</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Valid NVX command line arguments are:
+-I Install mode(default)
+-U UnInstall mode
+-STop Stop Services
+-S Slient mode
+-L Install USA language
+-Lxxx Install language xxx
+-E look in %temp%NVXENv.txt for install language
+
+ Do you want to continue?
+</source>
+        <translation>NVX で有効なコマンド ライン引数は次のとおりです:
+-I インストール モード (既定)
+-U アンインストール モード
+-STop サービスを停止
+-S サイレント モード
+-L 英語 (米国) をインストール
+-Lxxx 言語 xxx をインストール
+-E インストールする言語を %temp%NVXENv.txt から取得
+
+ 続行しますか?
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRunner</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>プログラムを起動できませんでした。</translation>
+    </message>
+    <message>
+        <source>The program was still running after %1 ms and has been ended.</source>
+        <translation>プログラムは %1 ミリ秒を過ぎても終了しなかったため、強制終了しました。</translation>
+    </message>
+    <message>
+        <source>The program crashed.</source>
+        <translation>プログラムが異常終了しました。</translation>
+    </message>
+    <message>
+        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <translation>コマンド インタープリターのコード ページではこのフォルダーの名前を表せないため、削除しません: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1, this folder is not removed: %2</source>
+        <translation>%1 を作成できないため、このフォルダーを削除しません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ParallelConfiguration</name>
+    <message>
+        <source>Created NVX2 default configuration: %1</source>
+        <translation>NVX2 の既定の構成を作成しました: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 default configuration: %1</source>
+        <translation>NVX2 の既定の構成を作成できません: %1</translation>
+    </message>
+    <message>
+        <source>Created NVX2 analyze folder: %1</source>
+        <translation>NVX2 の解析フォルダーを作成しました: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 analyze folder: %1</source>
+        <translation>NVX2 の解析フォルダーを作成できません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
+        <translation>このビルドには構成ページがありません。インストールするにはオプション -I -S、削除するには -U -S を使用してください。</translation>
+    </message>
+    <message>
+        <source>This build cannot stop services</source>
+        <translation>このビルドではサービスを停止できません</translation>
+    </message>
+    <message>
+        <source>This build has no localization tool</source>
+        <translation>このビルドにはローカライズ ツールがありません</translation>
+    </message>
+</context>
+<context>
+    <name>cfg_utilitys</name>
+    <message>
+        <source>Program startup - %1 DIR== %2</source>
+        <translation>プログラムの起動 - %1 DIR== %2</translation>
+    </message>
+    <message>
+        <source>NVX Configuration Utility</source>
+        <translation>NVX 構成ユーティリティ</translation>
+    </message>
+    <message>
+        <source>Processing </source>
+        <translation>処理中: </translation>
+    </message>
+    <message>
+        <source> has not changed</source>
+        <translation> は変更されていません</translation>
+    </message>
+    <message>
+        <source> has changed, not removing</source>
+        <translation> は変更されているため、削除しません</translation>
+    </message>
+    <message>
+        <source>Creating </source>
+        <translation>作成中: </translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>%1 を作成できません</translation>
+    </message>
+    <message>
+        <source>Language </source>
+        <translation>言語: </translation>
+    </message>
+    <message>
+        <source>No Language locale Specified</source>
+        <translation>言語が指定されていません</translation>
+    </message>
+    <message>
+        <source>Install Language: </source>
+        <translation>インストールする言語: </translation>
+    </message>
+    <message>
+        <source>ChangeLanguage = </source>
+        <translation>言語の変更 = </translation>
+    </message>
+    <message>
+        <source>COPY:%1 to %2</source>
+        <translation>コピー:%1 → %2</translation>
+    </message>
+    <message>
+        <source>Remove:</source>
+        <translation>削除:</translation>
+    </message>
+    <message>
+        <source>zorv :</source>
+        <translation>zorv :</translation>
+    </message>
+    <message>
+        <source>Beginning </source>
+        <translation>開始: </translation>
+    </message>
+    <message>
+        <source>The installation or update is complete. Click finish to continue.</source>
+        <translation>インストールまたは更新が完了しました。続行するには [完了] をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Processors: %1, Cores per processor: %2</source>
+        <translation>プロセッサ: %1、プロセッサあたりのコア: %2</translation>
+    </message>
+    <message>
+        <source>Command Line:</source>
+        <translation>コマンド ライン:</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>インストール</translation>
+    </message>
+    <message>
+        <source>UnInstall</source>
+        <translation>アンインストール</translation>
+    </message>
+    <message>
+        <source>Found </source>
+        <translation>検出: </translation>
+    </message>
+    <message>
+        <source> Success</source>
+        <translation> - 成功</translation>
+    </message>
+    <message>
+        <source> Failed</source>
+        <translation> - 失敗</translation>
+    </message>
+    <message>
+        <source>Command line arguments</source>
+        <translation>コマンド ライン引数</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora %1 %2 DIR=</source>
+        <translation>インストール パスの検証 Velmora %1 %2 DIR=</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora NVX %1 DIR=</source>
+        <translation>インストール パスの検証 Velmora NVX %1 DIR=</translation>
+    </message>
+    <message>
+        <source>Install Path OK </source>
+        <translation>インストール パスに問題はありません: </translation>
+    </message>
+    <message>
+        <source>user dir=</source>
+        <translation>ユーザー フォルダー=</translation>
+    </message>
+    <message>
+        <source>Program startup - Install path is empty or is invalid, resetting to:</source>
+        <translation>プログラムの起動 - インストール パスが空か無効なため、次のパスに再設定します:</translation>
+    </message>
+    <message>
+        <source>Removing installation path environment variables.</source>
+        <translation>インストール パスの環境変数を削除しています:</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <translation>システムのコード ページではフォルダー名を表せないため、%1 は設定されません</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,246 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR" sourcelanguage="en_US">
+<context>
+    <name>ArchiveComponents</name>
+    <message>
+        <source> Tutorials</source>
+        <translation> - 자습서</translation>
+    </message>
+    <message>
+        <source>Installing Tutorials</source>
+        <translation>자습서를 설치하는 중</translation>
+    </message>
+    <message>
+        <source> Python (locally for NVX)</source>
+        <translation> - Python (NVX 전용)</translation>
+    </message>
+    <message>
+        <source>Installing Python</source>
+        <translation>Python을 설치하는 중</translation>
+    </message>
+    <message>
+        <source> Mertle Server</source>
+        <translation> - Mertle Server</translation>
+    </message>
+    <message>
+        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <translation>변환기 폴더가 없으므로 Mertle Server를 변경하지 않습니다</translation>
+    </message>
+    <message>
+        <source>Installing Mertle Server</source>
+        <translation>Mertle Server를 설치하는 중</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Valid NVX command line arguments are:
+-I Install mode(default)
+-U UnInstall mode
+-STop Stop Services
+-S Slient mode
+-L Install USA language
+-Lxxx Install language xxx
+-E look in %temp%NVXENv.txt for install language
+
+ Do you want to continue?
+</source>
+        <translation>NVX에서 사용할 수 있는 명령줄 인수는 다음과 같습니다.
+-I 설치 모드(기본값)
+-U 제거 모드
+-STop 서비스 중지
+-S 자동 모드
+-L 영어(미국) 설치
+-Lxxx 언어 xxx 설치
+-E %temp%NVXENv.txt에서 설치 언어 찾기
+
+ 계속하시겠습니까?
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRunner</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>프로그램을 시작할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The program was still running after %1 ms and has been ended.</source>
+        <translation>프로그램이 %1밀리초 후에도 계속 실행 중이어서 종료했습니다.</translation>
+    </message>
+    <message>
+        <source>The program crashed.</source>
+        <translation>프로그램이 비정상적으로 종료되었습니다.</translation>
+    </message>
+    <message>
+        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <translation>명령 인터프리터의 코드 페이지로 이 폴더의 이름을 나타낼 수 없어 제거하지 않습니다: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1, this folder is not removed: %2</source>
+        <translation>%1을(를) 만들 수 없어 이 폴더를 제거하지 않습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ParallelConfiguration</name>
+    <message>
+        <source>Created NVX2 default configuration: %1</source>
+        <translation>NVX2 기본 구성을 만들었습니다: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 default configuration: %1</source>
+        <translation>NVX2 기본 구성을 만들 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Created NVX2 analyze folder: %1</source>
+        <translation>NVX2 해석 폴더를 만들었습니다: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 analyze folder: %1</source>
+        <translation>NVX2 해석 폴더를 만들 수 없습니다: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
+        <translation>이 빌드에는 구성 페이지가 없습니다. 설치하려면 -I -S, 제거하려면 -U -S 옵션을 사용하십시오.</translation>
+    </message>
+    <message>
+        <source>This build cannot stop services</source>
+        <translation>이 빌드에서는 서비스를 중지할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>This build has no localization tool</source>
+        <translation>이 빌드에는 지역화 도구가 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>cfg_utilitys</name>
+    <message>
+        <source>Program startup - %1 DIR== %2</source>
+        <translation>프로그램 시작 - %1 DIR== %2</translation>
+    </message>
+    <message>
+        <source>NVX Configuration Utility</source>
+        <translation>NVX 구성 유틸리티</translation>
+    </message>
+    <message>
+        <source>Processing </source>
+        <translation>처리 중: </translation>
+    </message>
+    <message>
+        <source> has not changed</source>
+        <translation> 파일이 변경되지 않았습니다</translation>
+    </message>
+    <message>
+        <source> has changed, not removing</source>
+        <translation> 파일이 변경되어 제거하지 않습니다</translation>
+    </message>
+    <message>
+        <source>Creating </source>
+        <translation>만드는 중: </translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>%1을(를) 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Language </source>
+        <translation>언어: </translation>
+    </message>
+    <message>
+        <source>No Language locale Specified</source>
+        <translation>언어가 지정되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Install Language: </source>
+        <translation>설치 언어: </translation>
+    </message>
+    <message>
+        <source>ChangeLanguage = </source>
+        <translation>언어 변경 = </translation>
+    </message>
+    <message>
+        <source>COPY:%1 to %2</source>
+        <translation>복사:%1 → %2</translation>
+    </message>
+    <message>
+        <source>Remove:</source>
+        <translation>제거:</translation>
+    </message>
+    <message>
+        <source>zorv :</source>
+        <translation>zorv :</translation>
+    </message>
+    <message>
+        <source>Beginning </source>
+        <translation>시작: </translation>
+    </message>
+    <message>
+        <source>The installation or update is complete. Click finish to continue.</source>
+        <translation>설치 또는 업데이트가 완료되었습니다. 계속하려면 [완료]를 클릭하십시오.</translation>
+    </message>
+    <message>
+        <source>Processors: %1, Cores per processor: %2</source>
+        <translation>프로세서: %1, 프로세서당 코어: %2</translation>
+    </message>
+    <message>
+        <source>Command Line:</source>
+        <translation>명령줄:</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>설치</translation>
+    </message>
+    <message>
+        <source>UnInstall</source>
+        <translation>제거</translation>
+    </message>
+    <message>
+        <source>Found </source>
+        <translation>찾음: </translation>
+    </message>
+    <message>
+        <source> Success</source>
+        <translation> - 성공</translation>
+    </message>
+    <message>
+        <source> Failed</source>
+        <translation> - 실패</translation>
+    </message>
+    <message>
+        <source>Command line arguments</source>
+        <translation>명령줄 인수</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora %1 %2 DIR=</source>
+        <translation>설치 경로 확인 Velmora %1 %2 DIR=</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora NVX %1 DIR=</source>
+        <translation>설치 경로 확인 Velmora NVX %1 DIR=</translation>
+    </message>
+    <message>
+        <source>Install Path OK </source>
+        <translation>설치 경로가 올바름: </translation>
+    </message>
+    <message>
+        <source>user dir=</source>
+        <translation>사용자 폴더=</translation>
+    </message>
+    <message>
+        <source>Program startup - Install path is empty or is invalid, resetting to:</source>
+        <translation>프로그램 시작 - 설치 경로가 비어 있거나 올바르지 않아 다음으로 다시 설정합니다:</translation>
+    </message>
+    <message>
+        <source>Removing installation path environment variables.</source>
+        <translation>설치 경로 환경 변수를 제거하는 중:</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 %1이(가) 설정되지 않습니다</translation>
+    </message>
+</context>
+</TS>

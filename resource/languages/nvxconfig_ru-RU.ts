@@ -1,0 +1,246 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en_US">
+<context>
+    <name>ArchiveComponents</name>
+    <message>
+        <source> Tutorials</source>
+        <translation> учебных примеров</translation>
+    </message>
+    <message>
+        <source>Installing Tutorials</source>
+        <translation>Выполняется установка учебных примеров</translation>
+    </message>
+    <message>
+        <source> Python (locally for NVX)</source>
+        <translation> Python (локально для NVX)</translation>
+    </message>
+    <message>
+        <source>Installing Python</source>
+        <translation>Выполняется установка Python</translation>
+    </message>
+    <message>
+        <source> Mertle Server</source>
+        <translation> Mertle Server</translation>
+    </message>
+    <message>
+        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <translation>Папка трансляторов отсутствует, Mertle Server оставлен без изменений</translation>
+    </message>
+    <message>
+        <source>Installing Mertle Server</source>
+        <translation>Выполняется установка Mertle Server</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Valid NVX command line arguments are:
+-I Install mode(default)
+-U UnInstall mode
+-STop Stop Services
+-S Slient mode
+-L Install USA language
+-Lxxx Install language xxx
+-E look in %temp%NVXENv.txt for install language
+
+ Do you want to continue?
+</source>
+        <translation>Допустимые аргументы командной строки NVX:
+-I Режим установки (по умолчанию)
+-U Режим удаления
+-STop Остановить службы
+-S Тихий режим
+-L Установить английский язык (США)
+-Lxxx Установить язык xxx
+-E Искать язык установки в %temp%NVXENv.txt
+
+ Продолжить?
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRunner</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>Не удалось запустить программу.</translation>
+    </message>
+    <message>
+        <source>The program was still running after %1 ms and has been ended.</source>
+        <translation>Программа не завершилась за %1 мс и была остановлена.</translation>
+    </message>
+    <message>
+        <source>The program crashed.</source>
+        <translation>Программа завершилась аварийно.</translation>
+    </message>
+    <message>
+        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <translation>Имя этой папки нельзя записать в кодовой странице командного интерпретатора, папка не удалена: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1, this folder is not removed: %2</source>
+        <translation>Не удалось создать %1, эта папка не удалена: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ParallelConfiguration</name>
+    <message>
+        <source>Created NVX2 default configuration: %1</source>
+        <translation>Создана конфигурация NVX2 по умолчанию: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 default configuration: %1</source>
+        <translation>Не удалось создать конфигурацию NVX2 по умолчанию: %1</translation>
+    </message>
+    <message>
+        <source>Created NVX2 analyze folder: %1</source>
+        <translation>Создана папка анализа NVX2: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 analyze folder: %1</source>
+        <translation>Не удалось создать папку анализа NVX2: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
+        <translation>В этой сборке нет страниц настройки. Для установки используйте параметры -I -S, для удаления — -U -S.</translation>
+    </message>
+    <message>
+        <source>This build cannot stop services</source>
+        <translation>Эта сборка не может останавливать службы</translation>
+    </message>
+    <message>
+        <source>This build has no localization tool</source>
+        <translation>В этой сборке нет средства локализации</translation>
+    </message>
+</context>
+<context>
+    <name>cfg_utilitys</name>
+    <message>
+        <source>Program startup - %1 DIR== %2</source>
+        <translation>Запуск программы - %1 DIR== %2</translation>
+    </message>
+    <message>
+        <source>NVX Configuration Utility</source>
+        <translation>Программа настройки NVX</translation>
+    </message>
+    <message>
+        <source>Processing </source>
+        <translation>Обработка файла </translation>
+    </message>
+    <message>
+        <source> has not changed</source>
+        <translation> — без изменений</translation>
+    </message>
+    <message>
+        <source> has changed, not removing</source>
+        <translation> изменён и не удаляется</translation>
+    </message>
+    <message>
+        <source>Creating </source>
+        <translation>Создание файла </translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>Не удалось создать %1</translation>
+    </message>
+    <message>
+        <source>Language </source>
+        <translation>Язык: </translation>
+    </message>
+    <message>
+        <source>No Language locale Specified</source>
+        <translation>Язык не указан</translation>
+    </message>
+    <message>
+        <source>Install Language: </source>
+        <translation>Язык установки: </translation>
+    </message>
+    <message>
+        <source>ChangeLanguage = </source>
+        <translation>Смена языка = </translation>
+    </message>
+    <message>
+        <source>COPY:%1 to %2</source>
+        <translation>КОПИРОВАНИЕ:%1 в %2</translation>
+    </message>
+    <message>
+        <source>Remove:</source>
+        <translation>Удаление:</translation>
+    </message>
+    <message>
+        <source>zorv :</source>
+        <translation>zorv :</translation>
+    </message>
+    <message>
+        <source>Beginning </source>
+        <translation>Начало: </translation>
+    </message>
+    <message>
+        <source>The installation or update is complete. Click finish to continue.</source>
+        <translation>Установка или обновление завершены. Чтобы продолжить, нажмите кнопку «Завершить».</translation>
+    </message>
+    <message>
+        <source>Processors: %1, Cores per processor: %2</source>
+        <translation>Процессоров: %1, ядер на процессор: %2</translation>
+    </message>
+    <message>
+        <source>Command Line:</source>
+        <translation>Командная строка:</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Установка</translation>
+    </message>
+    <message>
+        <source>UnInstall</source>
+        <translation>Удаление</translation>
+    </message>
+    <message>
+        <source>Found </source>
+        <translation>Найдено: </translation>
+    </message>
+    <message>
+        <source> Success</source>
+        <translation> — успешно</translation>
+    </message>
+    <message>
+        <source> Failed</source>
+        <translation> — сбой</translation>
+    </message>
+    <message>
+        <source>Command line arguments</source>
+        <translation>Аргументы командной строки</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora %1 %2 DIR=</source>
+        <translation>Проверка пути установки Velmora %1 %2 DIR=</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora NVX %1 DIR=</source>
+        <translation>Проверка пути установки Velmora NVX %1 DIR=</translation>
+    </message>
+    <message>
+        <source>Install Path OK </source>
+        <translation>Путь установки в порядке: </translation>
+    </message>
+    <message>
+        <source>user dir=</source>
+        <translation>папка пользователя=</translation>
+    </message>
+    <message>
+        <source>Program startup - Install path is empty or is invalid, resetting to:</source>
+        <translation>Запуск программы - Путь установки не задан или недопустим, заменяется на:</translation>
+    </message>
+    <message>
+        <source>Removing installation path environment variables.</source>
+        <translation>Удаление переменных среды с путём установки:</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <translation>Папку нельзя записать в кодовой странице системы, переменная %1 не задана</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,246 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>ArchiveComponents</name>
+    <message>
+        <source> Tutorials</source>
+        <translation> 教程</translation>
+    </message>
+    <message>
+        <source>Installing Tutorials</source>
+        <translation>正在安装教程</translation>
+    </message>
+    <message>
+        <source> Python (locally for NVX)</source>
+        <translation> Python（NVX 专用）</translation>
+    </message>
+    <message>
+        <source>Installing Python</source>
+        <translation>正在安装 Python</translation>
+    </message>
+    <message>
+        <source> Mertle Server</source>
+        <translation> Mertle Server</translation>
+    </message>
+    <message>
+        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <translation>没有转换器文件夹，Mertle Server 保持不变</translation>
+    </message>
+    <message>
+        <source>Installing Mertle Server</source>
+        <translation>正在安装 Mertle Server</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Valid NVX command line arguments are:
+-I Install mode(default)
+-U UnInstall mode
+-STop Stop Services
+-S Slient mode
+-L Install USA language
+-Lxxx Install language xxx
+-E look in %temp%NVXENv.txt for install language
+
+ Do you want to continue?
+</source>
+        <translation>NVX 的有效命令行参数如下：
+-I 安装模式（默认）
+-U 卸载模式
+-STop 停止服务
+-S 静默模式
+-L 安装英语（美国）
+-Lxxx 安装语言 xxx
+-E 在 %temp%NVXENv.txt 中查找安装语言
+
+ 是否继续？
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRunner</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>无法启动该程序。</translation>
+    </message>
+    <message>
+        <source>The program was still running after %1 ms and has been ended.</source>
+        <translation>程序运行 %1 毫秒后仍未结束，已将其终止。</translation>
+    </message>
+    <message>
+        <source>The program crashed.</source>
+        <translation>程序已崩溃。</translation>
+    </message>
+    <message>
+        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <translation>命令解释器的代码页无法表示此文件夹的名称，未删除该文件夹：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1, this folder is not removed: %2</source>
+        <translation>无法创建 %1，未删除此文件夹：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ParallelConfiguration</name>
+    <message>
+        <source>Created NVX2 default configuration: %1</source>
+        <translation>已创建 NVX2 默认配置：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 default configuration: %1</source>
+        <translation>无法创建 NVX2 默认配置：%1</translation>
+    </message>
+    <message>
+        <source>Created NVX2 analyze folder: %1</source>
+        <translation>已创建 NVX2 分析文件夹：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 analyze folder: %1</source>
+        <translation>无法创建 NVX2 分析文件夹：%1</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
+        <translation>此版本没有配置页面。要安装，请使用选项 -I -S；要卸载，请使用选项 -U -S。</translation>
+    </message>
+    <message>
+        <source>This build cannot stop services</source>
+        <translation>此版本无法停止服务</translation>
+    </message>
+    <message>
+        <source>This build has no localization tool</source>
+        <translation>此版本没有本地化工具</translation>
+    </message>
+</context>
+<context>
+    <name>cfg_utilitys</name>
+    <message>
+        <source>Program startup - %1 DIR== %2</source>
+        <translation>程序启动 - %1 DIR== %2</translation>
+    </message>
+    <message>
+        <source>NVX Configuration Utility</source>
+        <translation>NVX 配置实用程序</translation>
+    </message>
+    <message>
+        <source>Processing </source>
+        <translation>正在处理 </translation>
+    </message>
+    <message>
+        <source> has not changed</source>
+        <translation> 未更改</translation>
+    </message>
+    <message>
+        <source> has changed, not removing</source>
+        <translation> 已更改，不予删除</translation>
+    </message>
+    <message>
+        <source>Creating </source>
+        <translation>正在创建 </translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>无法创建 %1</translation>
+    </message>
+    <message>
+        <source>Language </source>
+        <translation>语言 </translation>
+    </message>
+    <message>
+        <source>No Language locale Specified</source>
+        <translation>未指定语言</translation>
+    </message>
+    <message>
+        <source>Install Language: </source>
+        <translation>安装语言 </translation>
+    </message>
+    <message>
+        <source>ChangeLanguage = </source>
+        <translation>更改语言 = </translation>
+    </message>
+    <message>
+        <source>COPY:%1 to %2</source>
+        <translation>复制：%1 到 %2</translation>
+    </message>
+    <message>
+        <source>Remove:</source>
+        <translation>删除：</translation>
+    </message>
+    <message>
+        <source>zorv :</source>
+        <translation>zorv :</translation>
+    </message>
+    <message>
+        <source>Beginning </source>
+        <translation>开始 </translation>
+    </message>
+    <message>
+        <source>The installation or update is complete. Click finish to continue.</source>
+        <translation>安装或更新已完成。请单击“完成”继续。</translation>
+    </message>
+    <message>
+        <source>Processors: %1, Cores per processor: %2</source>
+        <translation>处理器：%1，每个处理器的内核数：%2</translation>
+    </message>
+    <message>
+        <source>Command Line:</source>
+        <translation>命令行：</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>安装</translation>
+    </message>
+    <message>
+        <source>UnInstall</source>
+        <translation>卸载</translation>
+    </message>
+    <message>
+        <source>Found </source>
+        <translation>已找到 </translation>
+    </message>
+    <message>
+        <source> Success</source>
+        <translation> 成功</translation>
+    </message>
+    <message>
+        <source> Failed</source>
+        <translation> 失败</translation>
+    </message>
+    <message>
+        <source>Command line arguments</source>
+        <translation>命令行参数</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora %1 %2 DIR=</source>
+        <translation>正在验证安装路径 Velmora %1 %2 DIR=</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora NVX %1 DIR=</source>
+        <translation>正在验证安装路径 Velmora NVX %1 DIR=</translation>
+    </message>
+    <message>
+        <source>Install Path OK </source>
+        <translation>安装路径正常 </translation>
+    </message>
+    <message>
+        <source>user dir=</source>
+        <translation>用户文件夹=</translation>
+    </message>
+    <message>
+        <source>Program startup - Install path is empty or is invalid, resetting to:</source>
+        <translation>程序启动 - 安装路径为空或无效，重置为：</translation>
+    </message>
+    <message>
+        <source>Removing installation path environment variables.</source>
+        <translation>正在删除安装路径环境变量：</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <translation>系统代码页无法表示该文件夹，未设置 %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,246 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="en_US">
+<context>
+    <name>ArchiveComponents</name>
+    <message>
+        <source> Tutorials</source>
+        <translation> 教學課程</translation>
+    </message>
+    <message>
+        <source>Installing Tutorials</source>
+        <translation>正在安裝教學課程</translation>
+    </message>
+    <message>
+        <source> Python (locally for NVX)</source>
+        <translation> Python（NVX 專用）</translation>
+    </message>
+    <message>
+        <source>Installing Python</source>
+        <translation>正在安裝 Python</translation>
+    </message>
+    <message>
+        <source> Mertle Server</source>
+        <translation> Mertle Server</translation>
+    </message>
+    <message>
+        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <translation>沒有轉換器資料夾，Mertle Server 保持不變</translation>
+    </message>
+    <message>
+        <source>Installing Mertle Server</source>
+        <translation>正在安裝 Mertle Server</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Valid NVX command line arguments are:
+-I Install mode(default)
+-U UnInstall mode
+-STop Stop Services
+-S Slient mode
+-L Install USA language
+-Lxxx Install language xxx
+-E look in %temp%NVXENv.txt for install language
+
+ Do you want to continue?
+</source>
+        <translation>NVX 的有效命令列引數如下：
+-I 安裝模式（預設）
+-U 解除安裝模式
+-STop 停止服務
+-S 無訊息模式
+-L 安裝英文（美國）
+-Lxxx 安裝語言 xxx
+-E 在 %temp%NVXENv.txt 中尋找安裝語言
+
+ 是否要繼續？
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRunner</name>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>無法啟動程式。</translation>
+    </message>
+    <message>
+        <source>The program was still running after %1 ms and has been ended.</source>
+        <translation>程式執行 %1 毫秒後仍未結束，已將其終止。</translation>
+    </message>
+    <message>
+        <source>The program crashed.</source>
+        <translation>程式已異常終止。</translation>
+    </message>
+    <message>
+        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <translation>命令解譯器的字碼頁無法表示此資料夾的名稱，未移除該資料夾：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1, this folder is not removed: %2</source>
+        <translation>無法建立 %1，未移除此資料夾：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ParallelConfiguration</name>
+    <message>
+        <source>Created NVX2 default configuration: %1</source>
+        <translation>已建立 NVX2 預設組態：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 default configuration: %1</source>
+        <translation>無法建立 NVX2 預設組態：%1</translation>
+    </message>
+    <message>
+        <source>Created NVX2 analyze folder: %1</source>
+        <translation>已建立 NVX2 分析資料夾：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create NVX2 analyze folder: %1</source>
+        <translation>無法建立 NVX2 分析資料夾：%1</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
+        <translation>此版本沒有設定頁面。若要安裝，請使用選項 -I -S；若要移除，請使用選項 -U -S。</translation>
+    </message>
+    <message>
+        <source>This build cannot stop services</source>
+        <translation>此版本無法停止服務</translation>
+    </message>
+    <message>
+        <source>This build has no localization tool</source>
+        <translation>此版本沒有當地語系化工具</translation>
+    </message>
+</context>
+<context>
+    <name>cfg_utilitys</name>
+    <message>
+        <source>Program startup - %1 DIR== %2</source>
+        <translation>程式啟動 - %1 DIR== %2</translation>
+    </message>
+    <message>
+        <source>NVX Configuration Utility</source>
+        <translation>NVX 組態公用程式</translation>
+    </message>
+    <message>
+        <source>Processing </source>
+        <translation>正在處理 </translation>
+    </message>
+    <message>
+        <source> has not changed</source>
+        <translation> 未變更</translation>
+    </message>
+    <message>
+        <source> has changed, not removing</source>
+        <translation> 已變更，不予移除</translation>
+    </message>
+    <message>
+        <source>Creating </source>
+        <translation>正在建立 </translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>無法建立 %1</translation>
+    </message>
+    <message>
+        <source>Language </source>
+        <translation>語言 </translation>
+    </message>
+    <message>
+        <source>No Language locale Specified</source>
+        <translation>未指定語言</translation>
+    </message>
+    <message>
+        <source>Install Language: </source>
+        <translation>安裝語言 </translation>
+    </message>
+    <message>
+        <source>ChangeLanguage = </source>
+        <translation>變更語言 = </translation>
+    </message>
+    <message>
+        <source>COPY:%1 to %2</source>
+        <translation>複製：%1 到 %2</translation>
+    </message>
+    <message>
+        <source>Remove:</source>
+        <translation>移除：</translation>
+    </message>
+    <message>
+        <source>zorv :</source>
+        <translation>zorv :</translation>
+    </message>
+    <message>
+        <source>Beginning </source>
+        <translation>開始 </translation>
+    </message>
+    <message>
+        <source>The installation or update is complete. Click finish to continue.</source>
+        <translation>安裝或更新已完成。請按一下 [完成] 繼續。</translation>
+    </message>
+    <message>
+        <source>Processors: %1, Cores per processor: %2</source>
+        <translation>處理器：%1，每個處理器的核心數：%2</translation>
+    </message>
+    <message>
+        <source>Command Line:</source>
+        <translation>命令列：</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>安裝</translation>
+    </message>
+    <message>
+        <source>UnInstall</source>
+        <translation>解除安裝</translation>
+    </message>
+    <message>
+        <source>Found </source>
+        <translation>已找到 </translation>
+    </message>
+    <message>
+        <source> Success</source>
+        <translation> 成功</translation>
+    </message>
+    <message>
+        <source> Failed</source>
+        <translation> 失敗</translation>
+    </message>
+    <message>
+        <source>Command line arguments</source>
+        <translation>命令列引數</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora %1 %2 DIR=</source>
+        <translation>正在驗證安裝路徑 Velmora %1 %2 DIR=</translation>
+    </message>
+    <message>
+        <source>Validating Installation Path Velmora NVX %1 DIR=</source>
+        <translation>正在驗證安裝路徑 Velmora NVX %1 DIR=</translation>
+    </message>
+    <message>
+        <source>Install Path OK </source>
+        <translation>安裝路徑正常 </translation>
+    </message>
+    <message>
+        <source>user dir=</source>
+        <translation>使用者資料夾=</translation>
+    </message>
+    <message>
+        <source>Program startup - Install path is empty or is invalid, resetting to:</source>
+        <translation>程式啟動 - 安裝路徑空白或無效，重設為：</translation>
+    </message>
+    <message>
+        <source>Removing installation path environment variables.</source>
+        <translation>正在移除安裝路徑環境變數：</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <translation>系統字碼頁無法表示該資料夾，未設定 %1</translation>
+    </message>
+</context>
+</TS>
