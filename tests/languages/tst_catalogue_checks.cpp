@@ -1,0 +1,247 @@
+// The checks of the catalogues, tried on entries that are good and on entries that are bad.
+
+#include "catalogue_checks.h"
+
+#include <QBuffer>
+#include <QTest>
+
+namespace {
+
+using Check = bool (*)(const Entry &);
+
+Entry entryOf(const QString &source, const QStringList &translations, EntryState state = EntryState::Finished)
+{
+    return {QStringLiteral("Context"), source, QString(), translations, state};
+}
+
+void addRow(const char *name, Check check, const char *source, const char *translation, bool holds)
+{
+    QTest::newRow(name) << check << QString::fromUtf8(source) << QString::fromUtf8(translation) << holds;
+}
+
+std::optional<Catalogue> read(const QByteArray &text)
+{
+    QBuffer buffer;
+    buffer.setData(text);
+    buffer.open(QIODevice::ReadOnly);
+    return readCatalogue(buffer);
+}
+
+QByteArray catalogueOf(const QByteArray &message)
+{
+    return "<!DOCTYPE TS><TS version=\"2.1\" language=\"de_DE\"><context><name>Page</name>" + message +
+           "</context></TS>";
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Check)
+
+class CatalogueChecks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aCheckTellsGoodFromBad_data();
+    void aCheckTellsGoodFromBad();
+    void aTextIsTranslatedWhenItIsFinished();
+    void aTextWithoutAnyFormIsNotTranslated();
+    void oneBadPluralFormIsEnough();
+    void anOffenderIsNamedByContextAndSource();
+    void textsAreToldApartByContextSourceAndComment();
+
+    void aMessageIsReadWhole();
+    void pluralFormsAreReadOneByOne();
+    void theStateIsRead_data();
+    void theStateIsRead();
+    void whatIsNoCatalogueIsNotRead_data();
+    void whatIsNoCatalogueIsNotRead();
+    void theFoldersOfACatalogueAreListed();
+    void aCatalogueThatIsNotListedHasNoFolders();
+};
+
+void CatalogueChecks::aCheckTellsGoodFromBad_data()
+{
+    QTest::addColumn<Check>("check");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("translation");
+    QTest::addColumn<bool>("holds");
+
+    addRow("translated", isTranslated, "Yes", "Ja", true);
+    addRow("not translated", isTranslated, "Yes", "", false);
+    addRow("translated by a blank", isTranslated, "Yes", " ", false);
+    addRow("a blank by a blank", isTranslated, " ", " ", true);
+    addRow("a blank not translated", isTranslated, " ", "", false);
+
+    addRow("placeholders in another order", keepsPlaceholders, "%1 to %2", "nach %2 von %1", true);
+    addRow("a placeholder lost", keepsPlaceholders, "%1 to %2", "nach %2", false);
+    addRow("a placeholder added", keepsPlaceholders, "to %1", "nach %1 %2", false);
+    addRow("a placeholder broken by a blank", keepsPlaceholders, "to %1", "nach % 1", false);
+    addRow("another number", keepsPlaceholders, "to %1", "nach %11", false);
+    addRow("the locale's digits lost", keepsPlaceholders, "%L1 rows", "%1 Zeilen", false);
+    addRow("the plural's number lost", keepsPlaceholders, "%n rows", "Zeilen", false);
+    addRow("a variable between per cent signs", keepsPlaceholders, "in %temp%x", "aus %temp%x", true);
+
+    addRow("outer blanks kept", keepsOuterBlanks, " Tutorials ", " der Tutorials ", true);
+    addRow("a leading blank lost", keepsOuterBlanks, " Tutorials", "Tutorials", false);
+    addRow("a leading blank added", keepsOuterBlanks, "Tutorials", " Tutorials", false);
+    addRow("a trailing blank lost", keepsOuterBlanks, "Found ", "Gefunden:", false);
+    addRow("a trailing blank doubled", keepsOuterBlanks, "Found ", "Gefunden:  ", false);
+    addRow("a line feed for a blank", keepsOuterBlanks, "Found ", "Gefunden:\n", false);
+    addRow("a wide blank for a blank", keepsOuterBlanks, "Found ", "検出\u3000", false);
+    addRow("nothing but blanks", keepsOuterBlanks, "  ", "  ", true);
+    addRow("fewer blanks", keepsOuterBlanks, "  ", " ", false);
+
+    addRow("line feeds kept", keepsLineFeeds, "a\n\nb\n", "x\n\ny\n", true);
+    addRow("a line feed lost", keepsLineFeeds, "a\n\nb\n", "x\ny\n", false);
+    addRow("a line feed added", keepsLineFeeds, "a b", "x\ny", false);
+
+    addRow("a product's name kept", keepsProductNames, "NVX launchers", "NVX-Startprogramme", true);
+    addRow("a product's name lost", keepsProductNames, "NVX launchers", "Startprogramme", false);
+    addRow("a product's name translated", keepsProductNames, "Mertle Server", "Mertle-Dienst", false);
+    addRow("another product", keepsProductNames, "NVX2 folder", "NVX-Ordner", false);
+    addRow("one of two products lost", keepsProductNames, "NVX and NVX2", "NVX2", false);
+
+    addRow("options kept", keepsOptions, "Use\n-I Install\n-U Remove", "So\n-I Neu\n-U Weg", true);
+    addRow("options exchanged", keepsOptions, "Use\n-I Install\n-U Remove", "So\n-U Weg\n-I Neu", false);
+    addRow("an option changed", keepsOptions, "-Lxxx Language", "-Lyyy Sprache", false);
+    addRow("an option lost", keepsOptions, "Use\n-I Install", "So\nNeu", false);
+    addRow("a dash added", keepsOptions, "Use", "-Use", false);
+}
+
+void CatalogueChecks::aCheckTellsGoodFromBad()
+{
+    QFETCH(Check, check);
+    QFETCH(QString, source);
+    QFETCH(QString, translation);
+    QTEST(check(entryOf(source, {translation})), "holds");
+}
+
+void CatalogueChecks::aTextIsTranslatedWhenItIsFinished()
+{
+    const QStringList translations{QStringLiteral("Ja")};
+    QVERIFY(isTranslated(entryOf(QStringLiteral("Yes"), translations, EntryState::Finished)));
+    QVERIFY(!isTranslated(entryOf(QStringLiteral("Yes"), translations, EntryState::Unfinished)));
+    QVERIFY(!isTranslated(entryOf(QStringLiteral("Yes"), translations, EntryState::Obsolete)));
+}
+
+void CatalogueChecks::aTextWithoutAnyFormIsNotTranslated()
+{
+    QVERIFY(!isTranslated(entryOf(QStringLiteral("%n rows"), {})));
+}
+
+void CatalogueChecks::oneBadPluralFormIsEnough()
+{
+    const Entry empty = entryOf(QStringLiteral("%n rows"), {QStringLiteral("%n Zeile"), QString()});
+    QVERIFY(!isTranslated(empty));
+    QVERIFY(!keepsPlaceholders(empty));
+    const Entry blank =
+        entryOf(QStringLiteral("%n rows"), {QStringLiteral("%n Zeile"), QStringLiteral("%n Zeilen ")});
+    QVERIFY(keepsPlaceholders(blank));
+    QVERIFY(!keepsOuterBlanks(blank));
+}
+
+void CatalogueChecks::anOffenderIsNamedByContextAndSource()
+{
+    const QList<Entry> entries{entryOf(QStringLiteral("Yes"), {QStringLiteral("Ja")}),
+                               entryOf(QStringLiteral("No"), {QString()})};
+    QCOMPARE(offenders(entries, isTranslated), QStringList{QStringLiteral("Context: No")});
+}
+
+void CatalogueChecks::textsAreToldApartByContextSourceAndComment()
+{
+    const Entry entry = entryOf(QStringLiteral("Yes"), {QStringLiteral("Ja")});
+    Entry otherContext = entry;
+    otherContext.context = QStringLiteral("Page");
+    Entry otherSource = entry;
+    otherSource.source = QStringLiteral("No");
+    Entry otherComment = entry;
+    otherComment.comment = QStringLiteral("in a menu");
+    Entry otherTranslation = entry;
+    otherTranslation.translations = QStringList{QStringLiteral("Oui")};
+
+    const QStringList missing =
+        missingFrom({entry}, {otherContext, otherSource, otherComment, otherTranslation});
+    QCOMPARE(missing, (QStringList{QStringLiteral("Page: Yes"), QStringLiteral("Context: No"),
+                                   QStringLiteral("Context: Yes")}));
+}
+
+void CatalogueChecks::aMessageIsReadWhole()
+{
+    const auto catalogue =
+        read(catalogueOf("<message><location line=\"7\"/><source> A &amp;\n%1 </source>"
+                         "<comment>in a menu</comment><translatorcomment>?"
+                         "</translatorcomment><translation> B\n%1 </translation></message>"));
+    QVERIFY(catalogue);
+    QCOMPARE(catalogue->language, QStringLiteral("de_DE"));
+    QCOMPARE(catalogue->entries.size(), 1);
+    const Entry &entry = catalogue->entries.first();
+    QCOMPARE(entry.context, QStringLiteral("Page"));
+    QCOMPARE(entry.source, QStringLiteral(" A &\n%1 "));
+    QCOMPARE(entry.comment, QStringLiteral("in a menu"));
+    QCOMPARE(entry.translations, QStringList{QStringLiteral(" B\n%1 ")});
+}
+
+void CatalogueChecks::pluralFormsAreReadOneByOne()
+{
+    const auto catalogue = read(catalogueOf(
+        "<message numerus=\"yes\"><source>%n rows</source><translation><numerusform>%n Zeile</numerusform>"
+        "<numerusform></numerusform></translation></message>"));
+    QVERIFY(catalogue);
+    QCOMPARE(catalogue->entries.size(), 1);
+    QCOMPARE(catalogue->entries.first().translations, (QStringList{QStringLiteral("%n Zeile"), QString()}));
+}
+
+void CatalogueChecks::theStateIsRead_data()
+{
+    QTest::addColumn<QByteArray>("attribute");
+    QTest::addColumn<EntryState>("state");
+    QTest::newRow("finished") << QByteArray() << EntryState::Finished;
+    QTest::newRow("unfinished") << QByteArray(" type=\"unfinished\"") << EntryState::Unfinished;
+    QTest::newRow("vanished") << QByteArray(" type=\"vanished\"") << EntryState::Obsolete;
+    QTest::newRow("obsolete") << QByteArray(" type=\"obsolete\"") << EntryState::Obsolete;
+}
+
+void CatalogueChecks::theStateIsRead()
+{
+    QFETCH(QByteArray, attribute);
+    const auto catalogue = read(
+        catalogueOf("<message><source>Yes</source><translation" + attribute + ">Ja</translation></message>"));
+    QVERIFY(catalogue);
+    QCOMPARE(catalogue->entries.size(), 1);
+    QTEST(catalogue->entries.first().state, "state");
+}
+
+void CatalogueChecks::whatIsNoCatalogueIsNotRead_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("another document") << QByteArray("<html/>");
+    QTest::newRow("cut off") << catalogueOf("<message><source>Yes</source>").left(100);
+    QTest::newRow("an element inside a text") << catalogueOf("<message><source>a<b/></source></message>");
+}
+
+void CatalogueChecks::whatIsNoCatalogueIsNotRead()
+{
+    QFETCH(QByteArray, text);
+    QVERIFY(!read(text));
+}
+
+void CatalogueChecks::theFoldersOfACatalogueAreListed()
+{
+    QBuffer list;
+    list.setData("# tools Nowhere\n\ntool  Client source\ntools Config\n");
+    list.open(QIODevice::ReadOnly);
+    QCOMPARE(foldersOfCatalogue(list, QStringLiteral("tools")), QStringList{QStringLiteral("Config")});
+}
+
+void CatalogueChecks::aCatalogueThatIsNotListedHasNoFolders()
+{
+    QBuffer list;
+    list.setData("tools Config\n");
+    list.open(QIODevice::ReadOnly);
+    QCOMPARE(foldersOfCatalogue(list, QStringLiteral("tool")), QStringList());
+}
+
+QTEST_GUILESS_MAIN(CatalogueChecks)
+#include "tst_catalogue_checks.moc"

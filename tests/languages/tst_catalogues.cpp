@@ -1,0 +1,186 @@
+// The interface's catalogues as they are kept beside the sources: complete, sound, and in step.
+
+#include "catalogue_checks.h"
+#include "nvx_util/system.h"
+#include "support/test_folder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+namespace {
+
+QDir sourceRoot()
+{
+    return QDir(QStringLiteral(NVX_SOURCE_ROOT));
+}
+
+QDir languagesFolder()
+{
+    return QDir(sourceRoot().filePath(QStringLiteral("resource/languages")));
+}
+
+QStringList catalogueFiles()
+{
+    return languagesFolder().entryList({QStringLiteral("*.ts")}, QDir::Files, QDir::Name);
+}
+
+// "nvxconfig" of "nvxconfig_de-DE.ts"
+QString nameOfFile(const QString &file)
+{
+    return file.section(QLatin1Char('_'), 0, 0);
+}
+
+// "de_DE" of "nvxconfig_de-DE.ts"
+QString languageOfFile(const QString &file)
+{
+    const QString locale = file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
+    return QString(locale).replace(QLatin1Char('-'), QLatin1Char('_'));
+}
+
+std::optional<Catalogue> readFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return readCatalogue(file);
+}
+
+QStringList foldersOf(const QString &name)
+{
+    QFile list(languagesFolder().filePath(QStringLiteral("catalogues.txt")));
+    if (!list.open(QIODevice::ReadOnly))
+        return {};
+    return foldersOfCatalogue(list, name);
+}
+
+// Lets lupdate bring a catalogue in step with the sources below the folders; whether it did.
+bool update(const QString &catalogue, const QStringList &folders)
+{
+    QProcess lupdate;
+    lupdate.setWorkingDirectory(sourceRoot().path());
+    lupdate.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    lupdate.start(QStringLiteral(NVX_LUPDATE),
+                  QStringList{QStringLiteral("-silent")} + folders +
+                      QStringList{QStringLiteral("-locations"), QStringLiteral("none"),
+                                  QStringLiteral("-no-obsolete"), QStringLiteral("-ts"), catalogue});
+    return lupdate.waitForFinished(60'000) && lupdate.exitStatus() == QProcess::NormalExit &&
+           lupdate.exitCode() == 0;
+}
+
+void addFileRows()
+{
+    QTest::addColumn<QString>("file");
+    const QStringList files = catalogueFiles();
+    for (const QString &file : files)
+        QTest::newRow(qPrintable(file)) << file;
+}
+
+} // namespace
+
+class Catalogues : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void thereIsOneForEachLocale_data();
+    void thereIsOneForEachLocale();
+    void itIsMarkedWithItsLanguage_data() { addFileRows(); }
+    void itIsMarkedWithItsLanguage();
+    void everyTextIsTranslated_data() { addFileRows(); }
+    void everyTextIsTranslated() { expectEveryEntryToPass(isTranslated); }
+    void placeholdersAreKept_data() { addFileRows(); }
+    void placeholdersAreKept() { expectEveryEntryToPass(keepsPlaceholders); }
+    void outerBlanksAreKept_data() { addFileRows(); }
+    void outerBlanksAreKept() { expectEveryEntryToPass(keepsOuterBlanks); }
+    void lineFeedsAreKept_data() { addFileRows(); }
+    void lineFeedsAreKept() { expectEveryEntryToPass(keepsLineFeeds); }
+    void productNamesAreKept_data() { addFileRows(); }
+    void productNamesAreKept() { expectEveryEntryToPass(keepsProductNames); }
+    void optionsAreKept_data() { addFileRows(); }
+    void optionsAreKept() { expectEveryEntryToPass(keepsOptions); }
+    void itIsInStepWithTheSources_data() { addFileRows(); }
+    void itIsInStepWithTheSources();
+
+private:
+    static void expectEveryEntryToPass(bool (*check)(const Entry &));
+};
+
+void Catalogues::initTestCase()
+{
+    QVERIFY2(!catalogueFiles().isEmpty(), qPrintable(languagesFolder().path()));
+}
+
+void Catalogues::thereIsOneForEachLocale_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("locale");
+    QStringList names;
+    const QStringList files = catalogueFiles();
+    for (const QString &file : files)
+        names.append(nameOfFile(file));
+    names.removeDuplicates();
+
+    QStringList locales = Nvx::Util::System::validLocales();
+    locales.removeAll(QStringLiteral("en-US")); // the texts' own language
+    for (const QString &name : std::as_const(names)) {
+        for (const QString &locale : std::as_const(locales))
+            QTest::addRow("%s in %s", qPrintable(name), qPrintable(locale)) << name << locale;
+    }
+}
+
+void Catalogues::thereIsOneForEachLocale()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, locale);
+    const QString file = QStringLiteral("%1_%2.ts").arg(name, locale);
+    QVERIFY2(catalogueFiles().contains(file), qPrintable(file));
+}
+
+void Catalogues::itIsMarkedWithItsLanguage()
+{
+    QFETCH(QString, file);
+    const auto catalogue = readFile(languagesFolder().filePath(file));
+    QVERIFY(catalogue);
+    QCOMPARE(catalogue->language, languageOfFile(file));
+}
+
+void Catalogues::expectEveryEntryToPass(bool (*check)(const Entry &))
+{
+    QFETCH(QString, file);
+    const auto catalogue = readFile(languagesFolder().filePath(file));
+    QVERIFY(catalogue);
+    QVERIFY(!catalogue->entries.isEmpty());
+    QCOMPARE(offenders(catalogue->entries, check), QStringList());
+}
+
+void Catalogues::itIsInStepWithTheSources()
+{
+    QFETCH(QString, file);
+    const QString kept = languagesFolder().filePath(file);
+    const QStringList folders = foldersOf(nameOfFile(file));
+    QVERIFY2(!folders.isEmpty(), "catalogues.txt does not list it");
+    const TestFolder folder;
+    const QString copy = folder.path(file);
+    QVERIFY(QFile::copy(kept, copy));
+    QVERIFY(update(copy, folders));
+
+    const auto before = readFile(kept);
+    const auto after = readFile(copy);
+    QVERIFY(before && after);
+    const char *hint = "tools/translations brings it in step";
+    const QStringList added = missingFrom(before->entries, after->entries);
+    QVERIFY2(added.isEmpty(),
+             qPrintable(
+                 QStringLiteral("%1; new: %2").arg(QLatin1String(hint), added.join(QStringLiteral(" | ")))));
+    const QStringList vanished = missingFrom(after->entries, before->entries);
+    QVERIFY2(vanished.isEmpty(),
+             qPrintable(QStringLiteral("%1; vanished: %2")
+                            .arg(QLatin1String(hint), vanished.join(QStringLiteral(" | ")))));
+}
+
+QTEST_GUILESS_MAIN(Catalogues)
+#include "tst_catalogues.moc"

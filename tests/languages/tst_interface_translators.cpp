@@ -1,0 +1,211 @@
+// The compiled catalogues as the start-up loads them.
+
+#include "cfg_utilities/command_line.h"
+#include "cfg_wizard/interface_translators.h"
+#include "nvx_util/system.h"
+#include "support/test_folder.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QHash>
+#include <QTest>
+
+namespace {
+
+const QString german = QStringLiteral("de-DE");
+
+QString languagesFolder()
+{
+    return QDir::toNativeSeparators(QStringLiteral(NVX_LANGUAGES_FOLDER));
+}
+
+// A text of the program.
+QString programText()
+{
+    return QCoreApplication::translate("cfg_utilitys", "Command line arguments");
+}
+
+// A text of the toolkit.
+QString toolkitText()
+{
+    return QCoreApplication::translate("QPlatformTheme", "&Yes");
+}
+
+const QString englishProgramText = QStringLiteral("Command line arguments");
+const QString englishToolkitText = QStringLiteral("&Yes");
+
+// An install dir with a folder for German, to be filled with compiled catalogues.
+class InstallDir
+{
+public:
+    InstallDir() { QDir(m_folder.path()).mkdir(german); }
+
+    QString path() const { return m_folder.path(); }
+
+    // Puts a catalogue of the build, named as "de-DE/nvxconfig.qm", there under a name; whether it did.
+    bool add(const QString &catalogue, const QString &name) const
+    {
+        return QFile::copy(Nvx::Util::joinPath(languagesFolder(), catalogue), pathOf(name));
+    }
+
+    bool addText(const QString &name, const QByteArray &text) const
+    {
+        QFile file(pathOf(name));
+        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    }
+
+private:
+    QString pathOf(const QString &name) const { return m_folder.path(german + QLatin1Char('/') + name); }
+
+    TestFolder m_folder;
+};
+
+} // namespace
+
+class InterfaceTranslatorsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void aLocaleIsTranslated_data();
+    void aLocaleIsTranslated();
+    void aTextOfSeveralLinesIsTranslated();
+    void theBuiltInLanguageNeedsNoFiles();
+    void anEmptyLocaleLeavesEnglish();
+    void missingFilesLeaveEnglish();
+    void withoutTheProgramsFileOnlyTheToolkitIsTranslated();
+    void withoutTheToolkitsFileOnlyTheProgramIsTranslated();
+    void filesThatAreNoCataloguesLeaveEnglish();
+    void theWholeToolkitFileWins();
+    void theTranslatorsAreGoneAfterwards();
+    void oneLanguageFollowsAnother();
+};
+
+void InterfaceTranslatorsTest::init()
+{
+    QCOMPARE(programText(), englishProgramText);
+    QCOMPARE(toolkitText(), englishToolkitText);
+}
+
+void InterfaceTranslatorsTest::aLocaleIsTranslated_data()
+{
+    using Texts = std::pair<QString, QString>;
+    const QHash<QString, Texts> texts{
+        {german, {QStringLiteral("Befehlszeilenargumente"), QStringLiteral("&Ja")}},
+        {QStringLiteral("fr-FR"), {QStringLiteral("Arguments de ligne de commande"), QStringLiteral("&Oui")}},
+        {QStringLiteral("it-IT"), {QStringLiteral("Argomenti della riga di comando"), QStringLiteral("&Sì")}},
+        {QStringLiteral("ja-JP"), {QStringLiteral("コマンド ライン引数"), QStringLiteral("はい(&Y)")}},
+        {QStringLiteral("ko-KR"), {QStringLiteral("명령줄 인수"), QStringLiteral("예(&Y)")}},
+        {QStringLiteral("ru-RU"), {QStringLiteral("Аргументы командной строки"), QStringLiteral("&Да")}},
+        {QStringLiteral("zh-CN"), {QStringLiteral("命令行参数"), QStringLiteral("是(&Y)")}},
+        {QStringLiteral("zh-TW"), {QStringLiteral("命令列引數"), QStringLiteral("是(&Y)")}},
+    };
+
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("ofProgram");
+    QTest::addColumn<QString>("ofToolkit");
+    QStringList locales = Nvx::Util::System::validLocales();
+    locales.removeAll(QStringLiteral("en-US"));
+    for (const QString &locale : std::as_const(locales)) {
+        const Texts expected = texts.value(locale);
+        QTest::newRow(qPrintable(locale)) << locale << expected.first << expected.second;
+    }
+}
+
+void InterfaceTranslatorsTest::aLocaleIsTranslated()
+{
+    QFETCH(QString, locale);
+    const InterfaceTranslators translators(languagesFolder(), locale);
+    QTEST(programText(), "ofProgram");
+    QTEST(toolkitText(), "ofToolkit");
+}
+
+void InterfaceTranslatorsTest::aTextOfSeveralLinesIsTranslated()
+{
+    const InterfaceTranslators translators(languagesFolder(), german);
+    QVERIFY2(usageText().startsWith(QStringLiteral("Gültige Befehlszeilenargumente für NVX:\n-I ")),
+             qPrintable(usageText()));
+}
+
+void InterfaceTranslatorsTest::theBuiltInLanguageNeedsNoFiles()
+{
+    const InterfaceTranslators translators(languagesFolder(), QStringLiteral("en-US"));
+    QCOMPARE(programText(), englishProgramText);
+    QCOMPARE(toolkitText(), englishToolkitText);
+}
+
+void InterfaceTranslatorsTest::anEmptyLocaleLeavesEnglish()
+{
+    const InterfaceTranslators translators(languagesFolder(), QString());
+    QCOMPARE(programText(), englishProgramText);
+    QCOMPARE(toolkitText(), englishToolkitText);
+}
+
+void InterfaceTranslatorsTest::missingFilesLeaveEnglish()
+{
+    const InstallDir installDir;
+    const InterfaceTranslators translators(installDir.path(), german);
+    QCOMPARE(programText(), englishProgramText);
+    QCOMPARE(toolkitText(), englishToolkitText);
+}
+
+void InterfaceTranslatorsTest::withoutTheProgramsFileOnlyTheToolkitIsTranslated()
+{
+    const InstallDir installDir;
+    QVERIFY(installDir.add(QStringLiteral("de-DE/qt_de_DE.qm"), QStringLiteral("qt_de_DE.qm")));
+    const InterfaceTranslators translators(installDir.path(), german);
+    QCOMPARE(programText(), englishProgramText);
+    QCOMPARE(toolkitText(), QStringLiteral("&Ja"));
+}
+
+void InterfaceTranslatorsTest::withoutTheToolkitsFileOnlyTheProgramIsTranslated()
+{
+    const InstallDir installDir;
+    QVERIFY(installDir.add(QStringLiteral("de-DE/nvxconfig.qm"), QStringLiteral("nvxconfig.qm")));
+    const InterfaceTranslators translators(installDir.path(), german);
+    QCOMPARE(programText(), QStringLiteral("Befehlszeilenargumente"));
+    QCOMPARE(toolkitText(), englishToolkitText);
+}
+
+void InterfaceTranslatorsTest::filesThatAreNoCataloguesLeaveEnglish()
+{
+    const InstallDir installDir;
+    QVERIFY(installDir.addText(QStringLiteral("nvxconfig.qm"), "no catalogue"));
+    QVERIFY(installDir.addText(QStringLiteral("qt_de_DE.qm"), ""));
+    const InterfaceTranslators translators(installDir.path(), german);
+    QCOMPARE(programText(), englishProgramText);
+    QCOMPARE(toolkitText(), englishToolkitText);
+}
+
+void InterfaceTranslatorsTest::theWholeToolkitFileWins()
+{
+    const InstallDir installDir;
+    QVERIFY(installDir.add(QStringLiteral("de-DE/qt_de_DE.qm"), QStringLiteral("qt_de_DE.qm")));
+    QVERIFY(installDir.add(QStringLiteral("fr-FR/qt_fr_FR.qm"), QStringLiteral("qt.qm")));
+    const InterfaceTranslators translators(installDir.path(), german);
+    QCOMPARE(toolkitText(), QStringLiteral("&Oui"));
+}
+
+void InterfaceTranslatorsTest::theTranslatorsAreGoneAfterwards()
+{
+    {
+        const InterfaceTranslators translators(languagesFolder(), german);
+        QCOMPARE(programText(), QStringLiteral("Befehlszeilenargumente"));
+        QCOMPARE(toolkitText(), QStringLiteral("&Ja"));
+    }
+    QCOMPARE(programText(), englishProgramText);
+    QCOMPARE(toolkitText(), englishToolkitText);
+}
+
+void InterfaceTranslatorsTest::oneLanguageFollowsAnother()
+{
+    for (const auto &[locale, expected] : {std::pair{german, QStringLiteral("&Ja")},
+                                           std::pair{QStringLiteral("it-IT"), QStringLiteral("&Sì")}}) {
+        const InterfaceTranslators translators(languagesFolder(), locale);
+        QCOMPARE(toolkitText(), expected);
+    }
+}
+
+QTEST_GUILESS_MAIN(InterfaceTranslatorsTest)
+#include "tst_interface_translators.moc"
