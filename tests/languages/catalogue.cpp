@@ -1,5 +1,6 @@
 #include "catalogue.h"
 
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 namespace {
@@ -79,12 +80,16 @@ std::optional<Catalogue> readCatalogue(QIODevice &device)
     return catalogue;
 }
 
-QStringList foldersOfCatalogue(QIODevice &list, const QString &name)
+QMap<QString, QStringList> readCatalogueList(QIODevice &list)
 {
+    QMap<QString, QStringList> folders;
     while (!list.atEnd()) {
-        QStringList words = QString::fromUtf8(list.readLine()).simplified().split(QLatin1Char(' '));
-        if (words.takeFirst() == name)
-            return words;
+        QStringList words = QString::fromUtf8(list.readLine())
+                                .split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+        if (words.isEmpty() || words.first().startsWith(QLatin1Char('#')))
+            continue;
+        const QString name = words.takeFirst();
+        folders.insert(name, words);
     }
-    return {};
+    return folders;
 }

@@ -2,6 +2,7 @@
 
 #include <QIODevice>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -34,6 +35,6 @@ struct Catalogue
 /// Reads a TS file; nothing when it is no well-formed TS file.
 std::optional<Catalogue> readCatalogue(QIODevice &device);
 
-/// The folders that a catalogue's texts come from, out of the list "catalogues.txt": lines of the catalogue's
-/// name and its folders, between blanks; "#" begins a comment line. Empty when the list does not name it.
-QStringList foldersOfCatalogue(QIODevice &list, const QString &name);
+/// Reads the list "catalogues.txt": for the name of each catalogue the folders that its texts come from. A
+/// line holds the name and the folders, between blanks; "#" begins a comment line.
+QMap<QString, QStringList> readCatalogueList(QIODevice &list);

@@ -56,8 +56,7 @@ private slots:
     void theStateIsRead();
     void whatIsNoCatalogueIsNotRead_data();
     void whatIsNoCatalogueIsNotRead();
-    void theFoldersOfACatalogueAreListed();
-    void aCatalogueThatIsNotListedHasNoFolders();
+    void theListNamesTheFoldersOfEachCatalogue();
 };
 
 void CatalogueChecks::aCheckTellsGoodFromBad_data()
@@ -227,20 +226,15 @@ void CatalogueChecks::whatIsNoCatalogueIsNotRead()
     QVERIFY(!read(text));
 }
 
-void CatalogueChecks::theFoldersOfACatalogueAreListed()
+void CatalogueChecks::theListNamesTheFoldersOfEachCatalogue()
 {
     QBuffer list;
-    list.setData("# tools Nowhere\n\ntool  Client source\ntools Config\n");
+    list.setData("# tools Nowhere\n\n wizard\tConfig \r\ntools Client  source\n");
     list.open(QIODevice::ReadOnly);
-    QCOMPARE(foldersOfCatalogue(list, QStringLiteral("tools")), QStringList{QStringLiteral("Config")});
-}
-
-void CatalogueChecks::aCatalogueThatIsNotListedHasNoFolders()
-{
-    QBuffer list;
-    list.setData("tools Config\n");
-    list.open(QIODevice::ReadOnly);
-    QCOMPARE(foldersOfCatalogue(list, QStringLiteral("tool")), QStringList());
+    const QMap<QString, QStringList> expected{
+        {QStringLiteral("wizard"), {QStringLiteral("Config")}},
+        {QStringLiteral("tools"), {QStringLiteral("Client"), QStringLiteral("source")}}};
+    QCOMPARE(readCatalogueList(list), expected);
 }
 
 QTEST_GUILESS_MAIN(CatalogueChecks)

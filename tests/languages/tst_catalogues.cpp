@@ -47,12 +47,12 @@ std::optional<Catalogue> readFile(const QString &path)
     return readCatalogue(file);
 }
 
-QStringList foldersOf(const QString &name)
+QMap<QString, QStringList> listedCatalogues()
 {
     QFile list(languagesFolder().filePath(QStringLiteral("catalogues.txt")));
     if (!list.open(QIODevice::ReadOnly))
         return {};
-    return foldersOfCatalogue(list, name);
+    return readCatalogueList(list);
 }
 
 // Lets lupdate bring a catalogue in step with the sources below the folders; whether it did.
@@ -86,6 +86,16 @@ void addFileRows()
         QTest::newRow(qPrintable(file)) << file;
 }
 
+// Reads the row's file and expects a check to hold for all of it.
+void expectEveryEntryToPass(bool (*check)(const Entry &))
+{
+    QFETCH(QString, file);
+    const auto catalogue = readFile(languagesFolder().filePath(file));
+    QVERIFY(catalogue);
+    QVERIFY(!catalogue->entries.isEmpty());
+    expectNone(offenders(catalogue->entries, check), "to be looked at in %1");
+}
+
 } // namespace
 
 class Catalogues : public QObject
@@ -113,29 +123,22 @@ private slots:
     void optionsAreKept() { expectEveryEntryToPass(keepsOptions); }
     void itIsInStepWithTheSources_data() { addFileRows(); }
     void itIsInStepWithTheSources();
-
-private:
-    static void expectEveryEntryToPass(bool (*check)(const Entry &));
 };
 
 void Catalogues::initTestCase()
 {
     QVERIFY2(!catalogueFiles().isEmpty(), qPrintable(languagesFolder().path()));
+    QVERIFY(!listedCatalogues().isEmpty());
 }
 
 void Catalogues::thereIsOneForEachLocale_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("locale");
-    QStringList names;
-    const QStringList files = catalogueFiles();
-    for (const QString &file : files)
-        names.append(nameOfFile(file));
-    names.removeDuplicates();
-
     QStringList locales = Nvx::Util::System::validLocales();
     locales.removeAll(QStringLiteral("en-US")); // the texts' own language
-    for (const QString &name : std::as_const(names)) {
+    const QStringList names = listedCatalogues().keys();
+    for (const QString &name : names) {
         for (const QString &locale : std::as_const(locales))
             QTest::addRow("%s in %s", qPrintable(name), qPrintable(locale)) << name << locale;
     }
@@ -157,20 +160,11 @@ void Catalogues::itIsMarkedWithItsLanguage()
     QCOMPARE(catalogue->language, languageOfFile(file));
 }
 
-void Catalogues::expectEveryEntryToPass(bool (*check)(const Entry &))
-{
-    QFETCH(QString, file);
-    const auto catalogue = readFile(languagesFolder().filePath(file));
-    QVERIFY(catalogue);
-    QVERIFY(!catalogue->entries.isEmpty());
-    expectNone(offenders(catalogue->entries, check), "to be looked at in %1");
-}
-
 void Catalogues::itIsInStepWithTheSources()
 {
     QFETCH(QString, file);
     const QString kept = languagesFolder().filePath(file);
-    const QStringList folders = foldersOf(nameOfFile(file));
+    const QStringList folders = listedCatalogues().value(nameOfFile(file));
     QVERIFY2(!folders.isEmpty(), "catalogues.txt does not list it");
     const TestFolder folder;
     const QString copy = folder.path(file);
