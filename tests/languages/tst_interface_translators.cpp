@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace {
@@ -33,6 +34,27 @@ QString toolkitText()
 
 const QString englishProgramText = QStringLiteral("Command line arguments");
 const QString englishToolkitText = QStringLiteral("&Yes");
+
+QStringList translatedLocales()
+{
+    QStringList locales = Nvx::Util::System::validLocales();
+    locales.removeAll(QStringLiteral("en-US"));
+    return locales;
+}
+
+void addLocaleRows()
+{
+    QTest::addColumn<QString>("locale");
+    const QStringList locales = translatedLocales();
+    for (const QString &locale : locales)
+        QTest::newRow(qPrintable(locale)) << locale;
+}
+
+// What a button of the toolkit reads as: without the mark of its key, "Ab&schließen" or "完了(&F)".
+QString withoutKeyMark(QString label)
+{
+    return label.remove(QRegularExpression(QStringLiteral("\\s*\\(&.\\)"))).remove(QLatin1Char('&'));
+}
 
 // An install dir with a folder for German, to be filled with compiled catalogues.
 class InstallDir
@@ -70,6 +92,8 @@ private slots:
     void init();
     void aLocaleIsTranslated_data();
     void aLocaleIsTranslated();
+    void theLastTextNamesTheFinishButton_data() { addLocaleRows(); }
+    void theLastTextNamesTheFinishButton();
     void aTextOfSeveralLinesIsTranslated();
     void theBuiltInLanguageNeedsNoFiles();
     void anEmptyLocaleLeavesEnglish();
@@ -105,9 +129,8 @@ void InterfaceTranslatorsTest::aLocaleIsTranslated_data()
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("ofProgram");
     QTest::addColumn<QString>("ofToolkit");
-    QStringList locales = Nvx::Util::System::validLocales();
-    locales.removeAll(QStringLiteral("en-US"));
-    for (const QString &locale : std::as_const(locales)) {
+    const QStringList locales = translatedLocales();
+    for (const QString &locale : locales) {
         const Texts expected = texts.value(locale);
         QTest::newRow(qPrintable(locale)) << locale << expected.first << expected.second;
     }
@@ -119,6 +142,17 @@ void InterfaceTranslatorsTest::aLocaleIsTranslated()
     const InterfaceTranslators translators(languagesFolder(), locale);
     QTEST(programText(), "ofProgram");
     QTEST(toolkitText(), "ofToolkit");
+}
+
+void InterfaceTranslatorsTest::theLastTextNamesTheFinishButton()
+{
+    QFETCH(QString, locale);
+    const InterfaceTranslators translators(languagesFolder(), locale);
+    const QString button = QCoreApplication::translate("QWizard", "&Finish");
+    QVERIFY(button != QLatin1String("&Finish"));
+    const QString text = QCoreApplication::translate(
+        "cfg_utilitys", "The installation or update is complete. Click finish to continue.");
+    QVERIFY2(text.contains(withoutKeyMark(button)), qPrintable(text + QStringLiteral(": ") + button));
 }
 
 void InterfaceTranslatorsTest::aTextOfSeveralLinesIsTranslated()
