@@ -5,11 +5,10 @@
 # plugins.
 
 set(nvx_programs NVXConfig)
-set(nvx_languages "${CMAKE_BINARY_DIR}/languages/")
 
 if(WIN32)
     install(TARGETS ${nvx_programs} RUNTIME DESTINATION .)
-    install(DIRECTORY "${nvx_languages}" DESTINATION . FILES_MATCHING PATTERN "*.qm")
+    install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION . FILES_MATCHING PATTERN "*.qm")
 
     foreach(library Core Gui Widgets)
         install(FILES "${NVX_QT_WINDOWS}/bin/Qt6${library}.dll" DESTINATION .)
@@ -28,6 +27,10 @@ if(WIN32)
 endif()
 
 set_target_properties(${nvx_programs} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
+foreach(program ${nvx_programs})
+    # The old kind of run path serves the libraries' own libraries too.
+    target_link_options(${program} PRIVATE LINKER:--disable-new-dtags)
+endforeach()
 
 # The operating system's own: the C library and what belongs to the machine's drivers and display.
 set(system_libraries
@@ -51,4 +54,4 @@ endforeach()
 install(FILES "${qt_library_folder}/libQt6XcbQpa.so.6" DESTINATION lib)
 file(WRITE "${CMAKE_BINARY_DIR}/qt.conf" "[Paths]\nPrefix=..\nPlugins=plugins\n")
 install(FILES "${CMAKE_BINARY_DIR}/qt.conf" DESTINATION bin)
-install(DIRECTORY "${nvx_languages}" DESTINATION bin FILES_MATCHING PATTERN "*.qm")
+install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION bin FILES_MATCHING PATTERN "*.qm")

@@ -15,6 +15,7 @@ import os
 import re
 import shutil
 import subprocess
+import tempfile
 from pathlib import Path
 
 PROGRAM_FILES = "C:\\Program Files"
@@ -76,19 +77,25 @@ class Machine:
         """
         working_folder = self.path(folder) if folder else self.prefix
         command = ["wine", program, *tokens]
-        try:
-            return subprocess.run(
-                command,
-                cwd=working_folder,
-                env=self.environment(**environment),
-                stdin=subprocess.DEVNULL,
-                stdout=subprocess.PIPE,
-                stderr=subprocess.STDOUT,
-                timeout=timeout,
-            )
-        except subprocess.TimeoutExpired:
-            self.stop()
-            raise
+        # The first program starts the machine's services, which keep its output open for as long as they
+        # run: a file does not wait for them, a pipe would.
+        with tempfile.TemporaryFile() as output:
+            try:
+                answer = subprocess.run(
+                    command,
+                    cwd=working_folder,
+                    env=self.environment(**environment),
+                    stdin=subprocess.DEVNULL,
+                    stdout=output,
+                    stderr=subprocess.STDOUT,
+                    timeout=timeout,
+                )
+            except subprocess.TimeoutExpired:
+                self.stop()
+                raise
+            output.seek(0)
+            answer.stdout = output.read()
+        return answer
 
     def stop(self):
         """Ends every process of the machine and writes its registry to the disk."""

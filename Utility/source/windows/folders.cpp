@@ -3,10 +3,11 @@
 
 #include <QDir>
 
+#include <windows.h>
+
 #include <knownfolders.h>
 #include <objbase.h>
 #include <shlobj.h>
-#include <windows.h>
 
 namespace Nvx::Util::Platform {
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 #include <vector>
+
 #include <windows.h>
 
 namespace Nvx::Util {

@@ -1,7 +1,8 @@
 #include "platform.h"
 
-#include <shlobj.h>
 #include <windows.h>
+
+#include <shlobj.h>
 
 namespace Nvx::Util::Platform {
 

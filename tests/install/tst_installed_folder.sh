@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# tst_installed_folder.sh CMAKE BUILD_FOLDER: installs the build into a fresh folder, runs the program there and
+# looks at what it needs and what it did.
+set -euo pipefail
+cmake=$1 build=$2
+
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+installed="$folder/NVX 2017 größe"
+
+fail() {
+    echo "FAIL: $*" >&2
+    exit 1
+}
+
+"$cmake" --install "$build" --prefix "$installed" >"$folder/install.log"
+program="$installed/bin/NVXConfig"
+
+# The toolkit's libraries and theirs come from the folder.
+loaded=$(ldd "$program")
+for library in libQt6Core libQt6Widgets libicuuc; do
+    grep -qF "$library" <<<"$loaded" || fail "$library is not loaded at all"
+    grep -F "$library" <<<"$loaded" | grep -qF "$installed/bin/../lib/" || fail "$library comes from elsewhere"
+done
+if grep -F 'not found' <<<"$loaded"; then fail "libraries are missing"; fi
+
+# Its plug-ins do too: without them there is no offscreen platform to run on.
+env -i LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen NVX_MACHINE="$folder/machine" \
+    "$program" -I -S -Lde-DE || fail "the program ended with exit status $?"
+
+# It ran to its end, in the language that lies beside it.
+log="$installed/bin/NVXConfig.log"
+grep -qF 'Language de-DE' "$log" || fail "no language in the log"
+grep -qF 'Installation der Tutorials' "$log" || fail "the log is not in German"
+[ -s "$folder/machine/ProgramData/Velmora/NVX 2017/NVX2_config.nvxcfg" ] || fail "no configuration was written"
+for locale in de-DE fr-FR it-IT ja-JP ko-KR ru-RU zh-CN zh-TW; do
+    [ -s "$installed/bin/$locale/nvxconfig.qm" ] || fail "no translations for $locale"
+    [ -s "$installed/bin/$locale/qt_${locale/-/_}.qm" ] || fail "no translations of the toolkit for $locale"
+done
+echo "the installed folder runs as it stands"
