@@ -16,7 +16,7 @@ class ProgressView;
 /// of its operations. There is one in a process; it lives as long as the process and outlives the wizards
 /// that are built on it. Everything runs on the thread of the user interface. No operation throws, and none
 /// stops the run: what fails is logged.
-class cfg_utilitys : public QObject, public Reporter
+class cfg_utilitys final : public QObject, public Reporter
 {
     Q_OBJECT
 

@@ -11,7 +11,7 @@ namespace {
 
 QString toolkitFile(const QString &folder, const QString &locale)
 {
-    const QString whole = joinPath(folder, QStringLiteral("qt.qm"));
+    QString whole = joinPath(folder, QStringLiteral("qt.qm"));
     if (QFile::exists(whole))
         return whole;
     const QString language = QString(locale).replace(QLatin1Char('-'), QLatin1Char('_'));
