@@ -2,6 +2,7 @@
 #include "nvx_util/conversion.h"
 #include "support/test_machine.h"
 
+#include <QProcess>
 #include <QTest>
 
 using Nvx::Io::Nvx2ConfigFile;
@@ -88,6 +89,24 @@ private slots:
         QVERIFY(QDir().mkdir(folder.path(QStringLiteral("taken"))));
         QVERIFY(!file.saveTo(toStdString(folder.path(QStringLiteral("taken")))));
         QVERIFY(QDir(folder.path(QStringLiteral("taken"))).exists());
+    }
+
+    void aWriterEndedAtAnyMomentLeavesOneOfTheTwoFilesWhole()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("x.nvxcfg"));
+        const QByteArray first = QByteArray("ExePath = ") + QByteArray(200000, 'x');
+        const QList<QByteArray> wholeFiles{first + "\nMpi = 8\n", first + "\nMpi = -16\n"};
+        for (int moment = 0; moment < 20; ++moment) {
+            QProcess writer;
+            writer.start(QStringLiteral(CONFIGURATION_WRITER), {path});
+            QVERIFY(writer.waitForStarted());
+            QTRY_VERIFY(QFile::exists(path));
+            QTest::qSleep(moment);
+            writer.kill();
+            QVERIFY(writer.waitForFinished());
+            QVERIFY(wholeFiles.contains(readFile(path).replace("\r\n", "\n")));
+        }
     }
 };
 
