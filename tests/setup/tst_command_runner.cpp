@@ -216,6 +216,14 @@ private slots:
         QCOMPARE(m_reporter->lines, QStringList{text("0 Removing:%1/a.pyc").arg(folder)});
     }
 
+    void aHiddenFileIsRemovedLikeAnyOther()
+    {
+        const QString folder = m_test->path(text("Reports"));
+        writeFile(folder + text("/.old.pyc"));
+        QVERIFY(runner().removeMatchingFiles(folder, text(".PYC")));
+        QVERIFY(!QFile::exists(folder + text("/.old.pyc")));
+    }
+
     void aFolderOfTheMatchingNameStays()
     {
         const QString folder = m_test->path(text("Reports"));
