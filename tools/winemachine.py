@@ -33,7 +33,7 @@ class Machine:
     """One machine. `locale` is the locale of its user, as Unix names it."""
 
     def __init__(self, prefix, locale="C.UTF-8", locale_folder=None):
-        self.prefix = Path(prefix)
+        self.prefix = Path(prefix).absolute()
         self.locale = locale
         self.locale_folder = locale_folder
 
