@@ -1,0 +1,21 @@
+#pragma once
+
+class QIODevice;
+
+namespace Clt {
+
+class MessageTable;
+
+// A message table as an XML document: a "messageTable" element in the product's name space with one "message"
+// element (clt_message_xml.h) for each message, in key order. Read, the root may stand at any depth and more
+// than once; an element in it that is no message ends it with its own end tag.
+
+/// Merges the messages of the document on the open device into the table. False when it is no well-formed
+/// XML; the messages that were complete before the error are taken.
+bool readMessageTable(QIODevice &device, MessageTable &table);
+
+/// Writes the table's document to the open device. False when the device fails or a text has a character that
+/// XML cannot carry; what was written is then of no use.
+bool writeMessageTable(QIODevice &device, const MessageTable &table);
+
+} // namespace Clt

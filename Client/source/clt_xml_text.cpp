@@ -1,0 +1,50 @@
+#include "clt_xml_text.h"
+
+#include <QChar>
+#include <QXmlStreamWriter>
+
+namespace Clt {
+
+namespace {
+
+bool isXmlCharacter(char16_t unit)
+{
+    if (unit < u' ')
+        return unit == u'\t' || unit == u'\n' || unit == u'\r';
+    return unit < 0xFFFE;
+}
+
+} // namespace
+
+bool isXmlText(QStringView text)
+{
+    for (const char16_t *unit = text.utf16(), *end = unit + text.size(); unit != end; ++unit) {
+        if (QChar::isSurrogate(*unit)) {
+            if (!QChar::isHighSurrogate(*unit) || unit + 1 == end || !QChar::isLowSurrogate(unit[1]))
+                return false;
+            ++unit;
+        } else if (!isXmlCharacter(*unit)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void writeXmlTextElement(QXmlStreamWriter &xml, const QString &name, const QString &text)
+{
+    if (!text.contains(u'\r')) {
+        xml.writeTextElement(name, text);
+        return;
+    }
+    xml.writeStartElement(name);
+    qsizetype begin = 0;
+    for (qsizetype end = text.indexOf(u'\r'); end >= 0; end = text.indexOf(u'\r', begin)) {
+        xml.writeCharacters(text.sliced(begin, end - begin));
+        xml.writeEntityReference(QStringLiteral("#13"));
+        begin = end + 1;
+    }
+    xml.writeCharacters(text.sliced(begin));
+    xml.writeEndElement();
+}
+
+} // namespace Clt

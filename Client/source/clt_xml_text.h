@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+class QXmlStreamWriter;
+
+namespace Clt {
+
+/// True when an XML 1.0 document can carry every character of the text: no control character other than tab,
+/// line feed and carriage return, no half of a surrogate pair, not U+FFFE or U+FFFF.
+bool isXmlText(QStringView text);
+
+/// Writes an element that holds the text alone. Its carriage returns are written as character references,
+/// since a reader takes bare ones for line feeds. After a character that XML cannot carry the writer has an
+/// error.
+void writeXmlTextElement(QXmlStreamWriter &xml, const QString &name, const QString &text);
+
+} // namespace Clt

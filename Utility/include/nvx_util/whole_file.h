@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace Nvx::Util {
+
+/// Makes the bytes the contents of the file, whole or not at all: they are written to a temporary file in the
+/// same folder, flushed to the disk, and renamed over the old file. Whoever looks, also after a crash or on a
+/// full disk, finds the old file or the new one. A file that has these very bytes already is left alone, with
+/// its time stamp. The old file's permissions are kept, and a symbolic link stays one. The folder must exist.
+/// False when the file is not writable or the bytes could not be put on the disk; the old file is then as it
+/// was.
+[[nodiscard]] bool replaceWholeFile(const QString &fileName, const QByteArray &contents);
+
+} // namespace Nvx::Util
