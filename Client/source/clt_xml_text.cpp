@@ -30,20 +30,21 @@ bool isXmlText(QStringView text)
     return true;
 }
 
-void writeXmlTextElement(QXmlStreamWriter &xml, const QString &name, const QString &text)
+void writeXmlCharacters(QXmlStreamWriter &xml, const QString &text)
 {
-    if (!text.contains(u'\r')) {
-        xml.writeTextElement(name, text);
-        return;
-    }
-    xml.writeStartElement(name);
     qsizetype begin = 0;
     for (qsizetype end = text.indexOf(u'\r'); end >= 0; end = text.indexOf(u'\r', begin)) {
         xml.writeCharacters(text.sliced(begin, end - begin));
         xml.writeEntityReference(QStringLiteral("#13"));
         begin = end + 1;
     }
-    xml.writeCharacters(text.sliced(begin));
+    xml.writeCharacters(begin == 0 ? text : text.sliced(begin));
+}
+
+void writeXmlTextElement(QXmlStreamWriter &xml, const QString &name, const QString &text)
+{
+    xml.writeStartElement(name);
+    writeXmlCharacters(xml, text);
     xml.writeEndElement();
 }
 

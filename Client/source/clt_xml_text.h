@@ -11,9 +11,11 @@ namespace Clt {
 /// line feed and carriage return, no half of a surrogate pair, not U+FFFE or U+FFFF.
 bool isXmlText(QStringView text);
 
-/// Writes an element that holds the text alone. Its carriage returns are written as character references,
-/// since a reader takes bare ones for line feeds. After a character that XML cannot carry the writer has an
-/// error.
+/// Writes the text, its carriage returns as character references, since a reader takes bare ones for line
+/// feeds. After a character that XML cannot carry the writer has an error.
+void writeXmlCharacters(QXmlStreamWriter &xml, const QString &text);
+
+/// Writes an element that holds the text alone, in the same way.
 void writeXmlTextElement(QXmlStreamWriter &xml, const QString &name, const QString &text);
 
 } // namespace Clt

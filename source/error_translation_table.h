@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QSet>
+#include <QString>
+
+#include <map>
+#include <vector>
+
+namespace Error {
+
+/// One string to translate.
+struct TranslationMessage
+{
+    QString source;
+    QString translation;
+    QString type; ///< "unfinished", "obsolete", or empty for a finished translation
+    QString comment;
+};
+
+/// The strings that are translated under one name, in the order of the file, equal ones included.
+class TranslationContext
+{
+public:
+    explicit TranslationContext(const QString &name = QString())
+        : m_name(name)
+    {
+    }
+
+    const QString &name() const { return m_name; }
+    const std::vector<TranslationMessage> &messages() const { return m_messages; }
+
+    /// True when a message has exactly that source text.
+    bool contains(const QString &source) const { return m_sources.contains(source); }
+
+    void append(const TranslationMessage &message);
+
+    /// Gives every message with one of those source texts the type.
+    void setType(const QSet<QString> &sources, const QString &type);
+
+private:
+    QString m_name;
+    std::vector<TranslationMessage> m_messages;
+    QSet<QString> m_sources;
+};
+
+/// A translation file for one language (error_translation_table_xml.h).
+class TranslationTable
+{
+public:
+    using Contexts = std::map<QString, TranslationContext>;
+
+    /// The contexts by their names, in the order of the names' UTF-16 code units.
+    const Contexts &contexts() const { return m_contexts; }
+
+    /// Stores the context under its name, in place of one that is there.
+    void setContext(TranslationContext context);
+
+    const QString &version() const { return m_version; }
+    void setVersion(const QString &version) { m_version = version; }
+
+    const QString &language() const { return m_language; }
+    void setLanguage(const QString &language) { m_language = language; }
+
+    const QString &defaultCodec() const { return m_defaultCodec; }
+    void setDefaultCodec(const QString &codec) { m_defaultCodec = codec; }
+
+    /// True when the context of that name has a message with exactly that source text.
+    bool contains(const QString &contextName, const QString &source) const;
+
+    /// Appends an unfinished message, its own source for a translation, to the context, which is made when
+    /// there is none. A string that is there already is added again.
+    void addString(const QString &contextName, const QString &source);
+
+    /// Gives every message of the context with one of those source texts the type, such as "obsolete".
+    void setType(const QString &contextName, const QSet<QString> &sources, const QString &type);
+
+    /// Reads a file into the table; a context in it takes the place of one of its name. False, with
+    /// errorString() set, when the file cannot be opened or is no well-formed XML; what stands before the
+    /// error is taken.
+    bool load(const QString &fileName);
+
+    /// Why the last load failed: the system's words for a file that cannot be opened, "ERROR at line LINE"
+    /// for one that is not well formed. Empty after a load that did not fail.
+    const QString &errorString() const { return m_errorString; }
+
+    /// Replaces the file by one of this table, whole or not at all; a file that has these bytes already is
+    /// not touched. False when it cannot be written; the old file is then as it was.
+    bool save(const QString &fileName) const;
+
+private:
+    QString m_version;
+    QString m_language;
+    QString m_defaultCodec;
+    Contexts m_contexts;
+    QString m_errorString;
+};
+
+} // namespace Error

@@ -1,0 +1,159 @@
+#include "error_translation_table.h"
+#include "error_translation_table_xml.h"
+#include "nvx_util/assertion.h"
+
+#include <QXmlStreamReader>
+
+#include <optional>
+#include <utility>
+
+namespace Error {
+
+namespace {
+
+constexpr const char *unit = "error_translation_table";
+
+/// The character that a "byte" element stands for; empty when its number is none of a UTF-16 code unit.
+QString byteCharacter(const QXmlStreamReader &xml)
+{
+    const auto attributes = xml.attributes();
+    const QStringView value = attributes.value(QLatin1String("value"));
+    const bool hexadecimal = value.startsWith(u'x');
+    const ushort number = hexadecimal ? value.sliced(1).toUShort(nullptr, 16) : value.toUShort();
+    return number == 0 ? QString() : QString(QChar(number));
+}
+
+/// The text of the element on which the reader stands, to its end, without that of elements within it. The
+/// white space that sets such elements apart is no text.
+QString readText(QXmlStreamReader &xml)
+{
+    QString text;
+    bool skippedElement = false;
+    while (!xml.atEnd()) {
+        switch (xml.readNext()) {
+        case QXmlStreamReader::Characters:
+            text += xml.text();
+            break;
+        case QXmlStreamReader::StartElement:
+            if (xml.name() == u"byte")
+                text += byteCharacter(xml);
+            else
+                skippedElement = true;
+            xml.skipCurrentElement();
+            break;
+        case QXmlStreamReader::EndElement:
+            return skippedElement && QStringView(text).trimmed().isEmpty() ? QString() : text;
+        default:
+            break;
+        }
+    }
+    return text;
+}
+
+void readMessageChild(QXmlStreamReader &xml, TranslationMessage &message)
+{
+    const QStringView name = xml.name();
+    if (name == u"source") {
+        message.source = readText(xml);
+    } else if (name == u"translation") {
+        message.type = xml.attributes().value(QLatin1String("type")).toString();
+        message.translation = readText(xml);
+    } else if (name == u"comment") {
+        message.comment = readText(xml);
+    } else {
+        xml.skipCurrentElement();
+    }
+}
+
+/// Nothing when the document ends or breaks within the message.
+std::optional<TranslationMessage> readMessage(QXmlStreamReader &xml)
+{
+    NVX_ASSERT(xml.isStartElement() && xml.name() == u"message", unit);
+    TranslationMessage message;
+    while (!xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = xml.readNext();
+        if (token == QXmlStreamReader::EndElement)
+            return message;
+        if (token == QXmlStreamReader::StartElement)
+            readMessageChild(xml, message);
+    }
+    return std::nullopt;
+}
+
+// A context's name need not be its first element.
+TranslationContext named(const QString &name, const std::vector<TranslationMessage> &messages)
+{
+    TranslationContext context(name);
+    for (const TranslationMessage &message : messages)
+        context.append(message);
+    return context;
+}
+
+/// Nothing when the document ends or breaks within the context before its first message was complete.
+std::optional<TranslationContext> readContext(QXmlStreamReader &xml)
+{
+    NVX_ASSERT(xml.isStartElement() && xml.name() == u"context", unit);
+    QString name;
+    std::vector<TranslationMessage> messages;
+    while (!xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = xml.readNext();
+        if (token == QXmlStreamReader::EndElement)
+            return named(name, messages);
+        if (token != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"name") {
+            name = readText(xml);
+        } else if (xml.name() == u"message") {
+            if (const std::optional<TranslationMessage> message = readMessage(xml))
+                messages.push_back(*message);
+        } else {
+            xml.skipCurrentElement();
+        }
+    }
+    if (messages.empty())
+        return std::nullopt;
+    return named(name, messages);
+}
+
+void readRootChild(QXmlStreamReader &xml, TranslationTable &table)
+{
+    if (xml.name() == u"context") {
+        if (std::optional<TranslationContext> context = readContext(xml))
+            table.setContext(std::move(*context));
+    } else if (xml.name() == u"defaultcodec") {
+        table.setDefaultCodec(readText(xml));
+    } else {
+        xml.skipCurrentElement();
+    }
+}
+
+void readRoot(QXmlStreamReader &xml, TranslationTable &table)
+{
+    NVX_ASSERT(xml.isStartElement() && xml.name() == u"TS", unit);
+    const QXmlStreamAttributes attributes = xml.attributes();
+    table.setVersion(attributes.value(QLatin1String("version")).toString());
+    table.setLanguage(attributes.value(QLatin1String("language")).toString());
+    while (!xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = xml.readNext();
+        if (token == QXmlStreamReader::EndElement)
+            return;
+        if (token == QXmlStreamReader::StartElement)
+            readRootChild(xml, table);
+    }
+}
+
+} // namespace
+
+QString readTranslationTable(QIODevice &device, TranslationTable &table)
+{
+    QXmlStreamReader xml(&device);
+    while (!xml.atEnd()) {
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"TS")
+            readRoot(xml, table);
+    }
+    if (!xml.hasError())
+        return {};
+    return QStringLiteral("%1 at line %2").arg(xml.errorString(), QString::number(xml.lineNumber()));
+}
+
+} // namespace Error
