@@ -30,16 +30,23 @@ void TranslationTable::setContext(TranslationContext context)
     m_contexts.insert_or_assign(name, std::move(context));
 }
 
-bool TranslationTable::contains(const QString &contextName, const QString &source) const
+const TranslationContext *TranslationTable::context(const QString &name) const
 {
-    const auto found = m_contexts.find(contextName);
-    return found != m_contexts.end() && found->second.contains(source);
+    const auto found = m_contexts.find(name);
+    return found == m_contexts.end() ? nullptr : &found->second;
 }
 
-void TranslationTable::addString(const QString &contextName, const QString &source)
+bool TranslationTable::contains(const QString &contextName, const QString &source) const
+{
+    const TranslationContext *found = context(contextName);
+    return found && found->contains(source);
+}
+
+const TranslationContext &TranslationTable::addString(const QString &contextName, const QString &source)
 {
     TranslationContext &context = m_contexts.try_emplace(contextName, contextName).first->second;
     context.append({source, source, QStringLiteral("unfinished"), QString()});
+    return context;
 }
 
 void TranslationTable::setType(const QString &contextName, const QSet<QString> &sources, const QString &type)

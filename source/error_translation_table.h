@@ -64,12 +64,15 @@ public:
     const QString &defaultCodec() const { return m_defaultCodec; }
     void setDefaultCodec(const QString &codec) { m_defaultCodec = codec; }
 
+    /// The context of that name; null when there is none. Holds until the context is replaced.
+    const TranslationContext *context(const QString &name) const;
+
     /// True when the context of that name has a message with exactly that source text.
     bool contains(const QString &contextName, const QString &source) const;
 
     /// Appends an unfinished message, its own source for a translation, to the context, which is made when
-    /// there is none. A string that is there already is added again.
-    void addString(const QString &contextName, const QString &source);
+    /// there is none, and returns the context. A string that is there already is added again.
+    const TranslationContext &addString(const QString &contextName, const QString &source);
 
     /// Gives every message of the context with one of those source texts the type, such as "obsolete".
     void setType(const QString &contextName, const QSet<QString> &sources, const QString &type);

@@ -9,14 +9,21 @@
 
 namespace Error {
 
+// The messages of one context mostly follow each other, so the context is looked up when it changes only.
 int addMessageTexts(TranslationTable &table, const Clt::MessageTable &messages)
 {
     int added = 0;
+    QString name;
+    const TranslationContext *context = table.context(name);
     for (const auto &[key, message] : messages) {
+        if (key.context != name) {
+            name = key.context;
+            context = table.context(name);
+        }
         for (const QString *text : {&message.sourceTitle(), &message.sourceText(), &message.sourceAction()}) {
-            if (text->isEmpty() || table.contains(key.context, *text))
+            if (text->isEmpty() || (context && context->contains(*text)))
                 continue;
-            table.addString(key.context, *text);
+            context = &table.addString(name, *text);
             ++added;
         }
     }

@@ -10,21 +10,46 @@
 
 namespace Clt {
 
+namespace {
+
+/// Makes the texts that neighbours mostly have in common one text in memory.
+MessageKey sharingTexts(MessageKey key, const MessageKey &neighbour)
+{
+    if (key.process == neighbour.process)
+        key.process = neighbour.process;
+    if (key.context == neighbour.context)
+        key.context = neighbour.context;
+    return key;
+}
+
+} // namespace
+
+MessageTable::MessageTable(const MessageTable &other)
+    : MessageTable()
+{
+    m_storage->messages = other.m_storage->messages;
+}
+
+MessageTable &MessageTable::operator=(const MessageTable &other)
+{
+    return *this = MessageTable(other);
+}
+
 QSet<MessageKey> MessageTable::keys() const
 {
     QSet<MessageKey> keys;
-    keys.reserve(static_cast<qsizetype>(m_messages.size()));
-    for (const auto &[key, message] : m_messages)
+    keys.reserve(static_cast<qsizetype>(size()));
+    for (const auto &[key, message] : messages())
         keys.insert(key);
     return keys;
 }
 
 Message MessageTable::message(const MessageKey &key) const
 {
-    auto found = m_messages.find(key);
-    if (found == m_messages.end())
-        found = m_messages.find(key.withShortenedContext());
-    return found == m_messages.end() ? Message() : found->second;
+    auto found = messages().find(key);
+    if (found == end())
+        found = messages().find(key.withShortenedContext());
+    return found == end() ? Message() : found->second;
 }
 
 void MessageTable::insert(const Message &message)
@@ -35,13 +60,16 @@ void MessageTable::insert(const Message &message)
 // Tables are mostly filled in their own order, in which the end is where the message belongs.
 void MessageTable::insert(Message &&message)
 {
+    Messages &messages = m_storage->messages;
+    if (!messages.empty())
+        message.setKey(sharingTexts(message.key(), messages.rbegin()->first));
     const MessageKey key = message.key();
-    m_messages.insert_or_assign(m_messages.end(), key, std::move(message));
+    messages.insert_or_assign(messages.end(), key, std::move(message));
 }
 
 bool MessageTable::remove(const MessageKey &key)
 {
-    return m_messages.erase(key) != 0;
+    return m_storage->messages.erase(key) != 0;
 }
 
 bool MessageTable::load(const QString &fileName)

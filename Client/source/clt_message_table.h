@@ -7,27 +7,37 @@
 
 #include <cstddef>
 #include <map>
+#include <memory>
+#include <memory_resource>
 
 namespace Clt {
 
-/// The product's messages, at most one for each key, in key order.
+/// The product's messages, at most one for each key, in key order. A table that was moved from can only be
+/// assigned to.
 class MessageTable
 {
 public:
-    using Messages = std::map<MessageKey, Message>;
+    using Messages = std::pmr::map<MessageKey, Message>;
+
+    MessageTable() = default;
+    MessageTable(const MessageTable &other);
+    MessageTable(MessageTable &&) noexcept = default;
+    MessageTable &operator=(const MessageTable &other);
+    MessageTable &operator=(MessageTable &&) noexcept = default;
+    ~MessageTable() = default;
 
     /// The messages by key, in key order.
-    const Messages &messages() const { return m_messages; }
-    Messages::const_iterator begin() const { return m_messages.begin(); }
-    Messages::const_iterator end() const { return m_messages.end(); }
-    std::size_t size() const { return m_messages.size(); }
-    bool isEmpty() const { return m_messages.empty(); }
+    const Messages &messages() const { return m_storage->messages; }
+    Messages::const_iterator begin() const { return messages().begin(); }
+    Messages::const_iterator end() const { return messages().end(); }
+    std::size_t size() const { return messages().size(); }
+    bool isEmpty() const { return messages().empty(); }
 
     /// All keys, in no order.
     QSet<MessageKey> keys() const;
 
     /// True when a message is stored under exactly that key.
-    bool contains(const MessageKey &key) const { return m_messages.find(key) != m_messages.end(); }
+    bool contains(const MessageKey &key) const { return messages().find(key) != end(); }
 
     /// The message stored under the key or, when there is none, under the key with its context shortened; a
     /// message with its initial values when there is none there either.
@@ -51,7 +61,14 @@ public:
     bool save(const QString &fileName) const;
 
 private:
-    Messages m_messages;
+    // The messages lie close together, for else the walk over a large table waits for memory at each of them.
+    struct Storage
+    {
+        std::pmr::unsynchronized_pool_resource memory;
+        Messages messages{&memory};
+    };
+
+    std::unique_ptr<Storage> m_storage = std::make_unique<Storage>();
 };
 
 } // namespace Clt
