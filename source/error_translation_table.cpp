@@ -10,10 +10,27 @@
 
 namespace Error {
 
+namespace {
+
+TranslationMessage unfinished(const QString &source)
+{
+    return {source, source, QStringLiteral("unfinished"), QString()};
+}
+
+} // namespace
+
 void TranslationContext::append(const TranslationMessage &message)
 {
+    m_index.add(m_messages, message.source);
     m_messages.push_back(message);
-    m_sources.insert(message.source);
+}
+
+bool TranslationContext::addMissing(const QString &source)
+{
+    if (!m_index.add(m_messages, source))
+        return false;
+    m_messages.push_back(unfinished(source));
+    return true;
 }
 
 void TranslationContext::setType(const QSet<QString> &sources, const QString &type)
@@ -30,23 +47,21 @@ void TranslationTable::setContext(TranslationContext context)
     m_contexts.insert_or_assign(name, std::move(context));
 }
 
-const TranslationContext *TranslationTable::context(const QString &name) const
+TranslationTable::Contexts::iterator TranslationTable::contextNamed(const QString &name,
+                                                                    Contexts::const_iterator hint)
 {
-    const auto found = m_contexts.find(name);
-    return found == m_contexts.end() ? nullptr : &found->second;
+    return m_contexts.try_emplace(hint, name, name);
 }
 
 bool TranslationTable::contains(const QString &contextName, const QString &source) const
 {
-    const TranslationContext *found = context(contextName);
-    return found && found->contains(source);
+    const auto found = m_contexts.find(contextName);
+    return found != m_contexts.end() && found->second.contains(source);
 }
 
-const TranslationContext &TranslationTable::addString(const QString &contextName, const QString &source)
+void TranslationTable::addString(const QString &contextName, const QString &source)
 {
-    TranslationContext &context = m_contexts.try_emplace(contextName, contextName).first->second;
-    context.append({source, source, QStringLiteral("unfinished"), QString()});
-    return context;
+    contextNamed(contextName, m_contexts.end())->second.append(unfinished(source));
 }
 
 void TranslationTable::setType(const QString &contextName, const QSet<QString> &sources, const QString &type)

@@ -1,21 +1,14 @@
 #pragma once
 
+#include "error_translation_index.h"
+#include "error_translation_message.h"
+
 #include <QSet>
 #include <QString>
 
 #include <map>
-#include <vector>
 
 namespace Error {
-
-/// One string to translate.
-struct TranslationMessage
-{
-    QString source;
-    QString translation;
-    QString type; ///< "unfinished", "obsolete", or empty for a finished translation
-    QString comment;
-};
 
 /// The strings that are translated under one name, in the order of the file, equal ones included.
 class TranslationContext
@@ -27,20 +20,24 @@ public:
     }
 
     const QString &name() const { return m_name; }
-    const std::vector<TranslationMessage> &messages() const { return m_messages; }
+    const TranslationMessages &messages() const { return m_messages; }
 
     /// True when a message has exactly that source text.
-    bool contains(const QString &source) const { return m_sources.contains(source); }
+    bool contains(const QString &source) const { return m_index.contains(m_messages, source); }
 
     void append(const TranslationMessage &message);
+
+    /// Appends an unfinished message, its own source for a translation, unless one has that source text. True
+    /// when it was appended.
+    bool addMissing(const QString &source);
 
     /// Gives every message with one of those source texts the type.
     void setType(const QSet<QString> &sources, const QString &type);
 
 private:
     QString m_name;
-    std::vector<TranslationMessage> m_messages;
-    QSet<QString> m_sources;
+    TranslationMessages m_messages;
+    SourceIndex m_index;
 };
 
 /// A translation file for one language (error_translation_table_xml.h).
@@ -64,15 +61,16 @@ public:
     const QString &defaultCodec() const { return m_defaultCodec; }
     void setDefaultCodec(const QString &codec) { m_defaultCodec = codec; }
 
-    /// The context of that name; null when there is none. Holds until the context is replaced.
-    const TranslationContext *context(const QString &name) const;
+    /// The context of that name, made when there is none. It is found at once when it belongs just before the
+    /// hint or is the hint.
+    Contexts::iterator contextNamed(const QString &name, Contexts::const_iterator hint);
 
     /// True when the context of that name has a message with exactly that source text.
     bool contains(const QString &contextName, const QString &source) const;
 
     /// Appends an unfinished message, its own source for a translation, to the context, which is made when
-    /// there is none, and returns the context. A string that is there already is added again.
-    const TranslationContext &addString(const QString &contextName, const QString &source);
+    /// there is none. A string that is there already is added again.
+    void addString(const QString &contextName, const QString &source);
 
     /// Gives every message of the context with one of those source texts the type, such as "obsolete".
     void setType(const QString &contextName, const QSet<QString> &sources, const QString &type);

@@ -81,7 +81,7 @@ std::optional<TranslationMessage> readMessage(QXmlStreamReader &xml)
 }
 
 // A context's name need not be its first element.
-TranslationContext named(const QString &name, const std::vector<TranslationMessage> &messages)
+TranslationContext named(const QString &name, const TranslationMessages &messages)
 {
     TranslationContext context(name);
     for (const TranslationMessage &message : messages)
@@ -94,7 +94,7 @@ std::optional<TranslationContext> readContext(QXmlStreamReader &xml)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"context", unit);
     QString name;
-    std::vector<TranslationMessage> messages;
+    TranslationMessages messages;
     while (!xml.atEnd()) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::EndElement)

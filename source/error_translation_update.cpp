@@ -7,24 +7,27 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <iterator>
+
 namespace Error {
 
-// The messages of one context mostly follow each other, so the context is looked up when it changes only.
+// The messages of one context mostly follow each other, and so do those of the next one.
 int addMessageTexts(TranslationTable &table, const Clt::MessageTable &messages)
 {
     int added = 0;
-    QString name;
-    const TranslationContext *context = table.context(name);
+    TranslationContext *context = nullptr;
+    auto next = table.contexts().begin();
     for (const auto &[key, message] : messages) {
-        if (key.context != name) {
-            name = key.context;
-            context = table.context(name);
-        }
         for (const QString *text : {&message.sourceTitle(), &message.sourceText(), &message.sourceAction()}) {
-            if (text->isEmpty() || (context && context->contains(*text)))
+            if (text->isEmpty())
                 continue;
-            context = &table.addString(name, *text);
-            ++added;
+            if (!context || context->name() != key.context) {
+                const auto found = table.contextNamed(key.context, next);
+                context = &found->second;
+                next = std::next(found);
+            }
+            if (context->addMissing(*text))
+                ++added;
         }
     }
     return added;
