@@ -1,6 +1,7 @@
 #include "clt_message_key.h"
 
 #include <QHash>
+#include <QList>
 #include <QVarLengthArray>
 
 namespace Clt {
@@ -18,7 +19,7 @@ QString MessageKey::displayText() const
 
 bool MessageKey::hasFullContext() const
 {
-    return context.count(separator) == 2;
+    return QStringView(context).split(separator).size() == 3;
 }
 
 MessageKey MessageKey::withShortenedContext() const

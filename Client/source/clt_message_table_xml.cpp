@@ -16,7 +16,18 @@ namespace {
 constexpr const char *unit = "clt_message_table";
 constexpr int indentation = 3;
 
-void readTableBody(QXmlStreamReader &xml, MessageTable &table)
+void writeNameSpace(QXmlStreamWriter &xml)
+{
+    const QString nameSpace = QStringLiteral("http://www.velmora.example/nvx/messageTable");
+    xml.writeAttribute(QStringLiteral("xmlns"), nameSpace);
+    xml.writeAttribute(QStringLiteral("xmlns:xsi"),
+                       QStringLiteral("http://www.w3.org/2001/XMLSchema-instance"));
+    xml.writeAttribute(QStringLiteral("xsi:schemaLocation"), nameSpace + QStringLiteral(" ErrorTable.xsd"));
+}
+
+} // namespace
+
+void readMessageTableBody(QXmlStreamReader &xml, MessageTable &table)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"messageTable", unit);
     while (!xml.atEnd()) {
@@ -30,23 +41,12 @@ void readTableBody(QXmlStreamReader &xml, MessageTable &table)
     }
 }
 
-void writeNameSpace(QXmlStreamWriter &xml)
-{
-    const QString nameSpace = QStringLiteral("http://www.velmora.example/nvx/messageTable");
-    xml.writeAttribute(QStringLiteral("xmlns"), nameSpace);
-    xml.writeAttribute(QStringLiteral("xmlns:xsi"),
-                       QStringLiteral("http://www.w3.org/2001/XMLSchema-instance"));
-    xml.writeAttribute(QStringLiteral("xsi:schemaLocation"), nameSpace + QStringLiteral(" ErrorTable.xsd"));
-}
-
-} // namespace
-
 bool readMessageTable(QIODevice &device, MessageTable &table)
 {
     QXmlStreamReader xml(&device);
     while (!xml.atEnd()) {
         if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"messageTable")
-            readTableBody(xml, table);
+            readMessageTableBody(xml, table);
     }
     return !xml.hasError();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 class QIODevice;
+class QXmlStreamReader;
 
 namespace Clt {
 
@@ -13,6 +14,10 @@ class MessageTable;
 /// Merges the messages of the document on the open device into the table. False when it is no well-formed
 /// XML; the messages that were complete before the error are taken.
 bool readMessageTable(QIODevice &device, MessageTable &table);
+
+/// Merges the messages of the root on whose start element the reader stands into the table, to the root's end
+/// or that of the document.
+void readMessageTableBody(QXmlStreamReader &xml, MessageTable &table);
 
 /// Writes the table's document to the open device. False when the device fails or a text has a character that
 /// XML cannot carry; what was written is then of no use.

@@ -7,10 +7,20 @@ namespace Nvx::Util {
 
 namespace {
 
+constexpr qint64 chunk = 64 * 1024;
+
 bool hasContents(const QString &fileName, const QByteArray &contents)
 {
     QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) && file.size() == contents.size() && file.readAll() == contents;
+    if (!file.open(QIODevice::ReadOnly) || file.size() != contents.size())
+        return false;
+    for (qsizetype at = 0; at < contents.size();) {
+        const QByteArray bytes = file.read(chunk);
+        if (bytes.isEmpty() || !QByteArrayView(contents).sliced(at).startsWith(bytes))
+            return false;
+        at += bytes.size();
+    }
+    return true;
 }
 
 } // namespace

@@ -1,0 +1,35 @@
+#include "message_table_case.h"
+#include "support/case_folders.h"
+#include "support/file_bytes.h"
+#include "support/test_folder.h"
+
+#include <QTest>
+
+class TestMessageTableCases : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void filesReadAndWriteAsExpected_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+
+    void filesReadAndWriteAsExpected()
+    {
+        QFETCH(const QString, folder);
+        const TestFolder work;
+        const MessageTableCase result = runMessageTableCase(folder, work.path());
+        QCOMPARE(QString::fromUtf8(result.told),
+                 QString::fromUtf8(fileLines(folder + QStringLiteral("/expected.txt")).value_or("missing")));
+        QCOMPARE(QString::fromUtf8(result.saved),
+                 QString::fromUtf8(fileLines(folder + QStringLiteral("/expected.xml")).value_or("missing")));
+    }
+
+    // A folder of cases that is not found must not pass as no cases at all.
+    void thereAreCases()
+    {
+        const QDir cases(QStringLiteral(CASES_FOLDER));
+        QVERIFY(cases.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() >= 40);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestMessageTableCases)
+#include "test_message_table_cases.moc"
