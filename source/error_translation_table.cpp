@@ -17,6 +17,16 @@ TranslationMessage unfinished(const QString &source)
     return {source, source, QStringLiteral("unfinished"), QString()};
 }
 
+bool keepDamaged(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray contents = file.readAll();
+    return file.error() == QFile::NoError &&
+           Nvx::Util::replaceWholeFile(fileName + QStringLiteral(".damaged"), contents);
+}
+
 } // namespace
 
 void TranslationContext::append(const TranslationMessage &message)
@@ -73,19 +83,29 @@ void TranslationTable::setType(const QString &contextName, const QSet<QString> &
 
 bool TranslationTable::load(const QString &fileName)
 {
+    TranslationReading reading;
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        m_errorString = file.errorString();
+        reading.error = file.errorString();
     else
-        m_errorString = readTranslationTable(file, *this);
+        reading = readTranslationTable(file, *this);
+    m_errorString = reading.error;
+    m_damagedFile = reading.error.isEmpty() && reading.foundRoot ? QString() : fileName;
     return m_errorString.isEmpty();
 }
 
-bool TranslationTable::save(const QString &fileName) const
+bool TranslationTable::save(const QString &fileName)
 {
     QBuffer contents;
-    return contents.open(QIODevice::WriteOnly | QIODevice::Text) && writeTranslationTable(contents, *this) &&
-           Nvx::Util::replaceWholeFile(fileName, contents.data());
+    if (!contents.open(QIODevice::WriteOnly | QIODevice::Text) || !writeTranslationTable(contents, *this))
+        return false;
+    if (fileName == m_damagedFile && QFile::exists(fileName) && !keepDamaged(fileName))
+        return false;
+    if (!Nvx::Util::replaceWholeFile(fileName, contents.data()))
+        return false;
+    if (fileName == m_damagedFile)
+        m_damagedFile.clear();
+    return true;
 }
 
 } // namespace Error

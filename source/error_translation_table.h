@@ -85,8 +85,10 @@ public:
     const QString &errorString() const { return m_errorString; }
 
     /// Replaces the file by one of this table, whole or not at all; a file that has these bytes already is
-    /// not touched. False when it cannot be written; the old file is then as it was.
-    bool save(const QString &fileName) const;
+    /// not touched. If it is the file that was loaded last, and not all of that could be read as a
+    /// translation file, its bytes are first kept as NAME.damaged beside it. False when the file or that copy
+    /// cannot be written; the old file is then as it was.
+    bool save(const QString &fileName);
 
 private:
     QString m_version;
@@ -94,6 +96,7 @@ private:
     QString m_defaultCodec;
     Contexts m_contexts;
     QString m_errorString;
+    QString m_damagedFile; // the file loaded last if saving over it would lose bytes of it, else empty
 };
 
 } // namespace Error

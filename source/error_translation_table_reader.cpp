@@ -144,16 +144,20 @@ void readRoot(QXmlStreamReader &xml, TranslationTable &table)
 
 } // namespace
 
-QString readTranslationTable(QIODevice &device, TranslationTable &table)
+TranslationReading readTranslationTable(QIODevice &device, TranslationTable &table)
 {
+    TranslationReading reading;
     QXmlStreamReader xml(&device);
     while (!xml.atEnd()) {
-        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"TS")
-            readRoot(xml, table);
+        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != u"TS")
+            continue;
+        readRoot(xml, table);
+        reading.foundRoot = true;
     }
-    if (!xml.hasError())
-        return {};
-    return QStringLiteral("%1 at line %2").arg(xml.errorString(), QString::number(xml.lineNumber()));
+    if (xml.hasError())
+        reading.error =
+            QStringLiteral("%1 at line %2").arg(xml.errorString(), QString::number(xml.lineNumber()));
+    return reading;
 }
 
 } // namespace Error

@@ -27,9 +27,16 @@ class TranslationTable;
 // hold and are not written again. A character that XML cannot carry stands in a text as an empty element
 // "byte" with its number, "x" before hexadecimal digits, in the attribute "value".
 
-/// Reads the document on the open device into the table. The answer is empty, or "ERROR at line LINE" for a
-/// document that is not well formed, of which the messages that were complete before the error are taken.
-QString readTranslationTable(QIODevice &device, TranslationTable &table);
+/// What a document gave.
+struct TranslationReading
+{
+    QString error;          ///< empty, or "ERROR at line LINE" for a document that is not well formed
+    bool foundRoot = false; ///< whether it is a translation file at all
+};
+
+/// Reads the document on the open device into the table. Of one that is not well formed the messages that
+/// were complete before the error are taken.
+TranslationReading readTranslationTable(QIODevice &device, TranslationTable &table);
 
 /// Writes the table's document to the open device. False when the device fails or a text has a character that
 /// cannot be written at all, a NUL; what was written is then of no use.

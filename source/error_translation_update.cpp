@@ -2,7 +2,6 @@
 
 #include "clt_message_table.h"
 #include "error_translation_table.h"
-#include "nvx_util/whole_file.h"
 
 #include <QFile>
 #include <QTextStream>
@@ -33,16 +32,6 @@ int addMessageTexts(TranslationTable &table, const Clt::MessageTable &messages)
     return added;
 }
 
-bool keepDamagedFile(const QString &fileName)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray contents = file.readAll();
-    return file.error() == QFile::NoError &&
-           Nvx::Util::replaceWholeFile(fileName + QStringLiteral(".damaged"), contents);
-}
-
 bool synchronizeTranslationTable(const QString &messageTableFile, const QString &translationFile,
                                  QTextStream &log)
 {
@@ -54,14 +43,13 @@ bool synchronizeTranslationTable(const QString &messageTableFile, const QString 
     }
 
     TranslationTable table;
-    bool damaged = false;
     if (QFile::exists(translationFile)) {
         log << "Loading translation table \"" << translationFile << "\"...\n";
-        damaged = !table.load(translationFile);
+        table.load(translationFile);
     }
 
     log << "Added " << addMessageTexts(table, messages) << " new strings to the translation table\n";
-    if ((damaged && !keepDamagedFile(translationFile)) || !table.save(translationFile)) {
+    if (!table.save(translationFile)) {
         log << "Could not save translation table\n";
         return false;
     }

@@ -16,10 +16,6 @@ class TranslationTable;
 /// under the message's context. Returns how many that were.
 int addMessageTexts(TranslationTable &table, const Clt::MessageTable &messages);
 
-/// Copies a file whole to NAME.damaged beside it, in place of an earlier one. False when it cannot be read or
-/// the copy cannot be written.
-[[nodiscard]] bool keepDamagedFile(const QString &fileName);
-
 /// Brings a translation file up to date with a message-table file and tells about it in lines on the log. A
 /// translation file that does not exist is made; one that is not well formed is taken as far as it could be
 /// read, and kept as NAME.damaged. False, with its line in the log and nothing replaced, when the message

@@ -1,0 +1,17 @@
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+   <defaultcodec></defaultcodec>
+   <context>
+      <name>Clt</name>
+      <message>
+         <source>a</source>
+         <translation type="">A</translation>
+         <comment>Title of a box</comment>
+      </message>
+      <message>
+         <source>a</source>
+         <translation type="">A2</translation>
+      </message>
+   </context>
+</TS>

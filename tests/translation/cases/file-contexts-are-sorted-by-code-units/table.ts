@@ -1,0 +1,39 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>b</name>
+    <message>
+        <source>x</source>
+        <translation>X</translation>
+    </message>
+</context>
+<context>
+    <name>ä</name>
+    <message>
+        <source>x</source>
+        <translation>X</translation>
+    </message>
+</context>
+<context>
+    <name>B</name>
+    <message>
+        <source>x</source>
+        <translation>X</translation>
+    </message>
+</context>
+<context>
+    <name>a</name>
+    <message>
+        <source>x</source>
+        <translation>X</translation>
+    </message>
+</context>
+<context>
+    <name>a::b</name>
+    <message>
+        <source>x</source>
+        <translation>X</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,12 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<defaultcodec>UTF-8</defaultcodec>
+<context>
+    <name>Clt</name>
+    <message>
+        <source>a</source>
+        <translation>A</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,16 @@
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+   <defaultcodec></defaultcodec>
+   <context>
+      <name>Clt</name>
+      <message>
+         <source>%n file(s)</source>
+         <translation type=""></translation>
+      </message>
+      <message>
+         <source>a</source>
+         <translation type="">A</translation>
+      </message>
+   </context>
+</TS>

@@ -1,0 +1,16 @@
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+   <defaultcodec></defaultcodec>
+   <context>
+      <name>Clt::Session</name>
+      <message>
+         <source>a</source>
+         <translation type="">A1</translation>
+      </message>
+      <message>
+         <source>a</source>
+         <translation type="">A2</translation>
+      </message>
+   </context>
+</TS>

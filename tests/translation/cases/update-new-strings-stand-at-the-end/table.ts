@@ -1,0 +1,15 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>Clt::Session</name>
+    <message>
+        <source>z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>c</source>
+        <translation>C</translation>
+    </message>
+</context>
+</TS>

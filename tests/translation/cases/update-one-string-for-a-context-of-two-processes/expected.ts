@@ -1,0 +1,16 @@
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE TS>
+<TS version="" language="">
+   <defaultcodec></defaultcodec>
+   <context>
+      <name>Clt::Session</name>
+      <message>
+         <source>same</source>
+         <translation type="unfinished">same</translation>
+      </message>
+      <message>
+         <source>other</source>
+         <translation type="unfinished">other</translation>
+      </message>
+   </context>
+</TS>

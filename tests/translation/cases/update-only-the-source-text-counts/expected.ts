@@ -1,0 +1,17 @@
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+   <defaultcodec></defaultcodec>
+   <context>
+      <name>Clt::Session</name>
+      <message>
+         <source>a</source>
+         <translation type="">A</translation>
+         <comment>c</comment>
+      </message>
+      <message>
+         <source>A</source>
+         <translation type="unfinished">A</translation>
+      </message>
+   </context>
+</TS>

@@ -1,0 +1,19 @@
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE TS>
+<TS version="" language="">
+   <defaultcodec></defaultcodec>
+   <context>
+      <name>One</name>
+      <message>
+         <source>same</source>
+         <translation type="unfinished">same</translation>
+      </message>
+   </context>
+   <context>
+      <name>Two</name>
+      <message>
+         <source>same</source>
+         <translation type="unfinished">same</translation>
+      </message>
+   </context>
+</TS>

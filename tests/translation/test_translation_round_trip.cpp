@@ -1,0 +1,104 @@
+#include "error_translation_table_xml.h"
+#include "random_translation_table.h"
+
+#include <QBuffer>
+#include <QTest>
+
+using Error::TranslationTable;
+
+namespace {
+
+constexpr quint32 seeds = 60;
+
+QByteArray written(const TranslationTable &table)
+{
+    QBuffer device;
+    return device.open(QIODevice::WriteOnly) && Error::writeTranslationTable(device, table) ? device.data()
+                                                                                            : QByteArray();
+}
+
+Error::TranslationReading read(const QByteArray &bytes, TranslationTable &table)
+{
+    QBuffer device;
+    device.setData(bytes);
+    if (!device.open(QIODevice::ReadOnly))
+        return {QStringLiteral("not open"), false};
+    return Error::readTranslationTable(device, table);
+}
+
+/// All that the table holds, in order.
+QStringList shown(const TranslationTable &table)
+{
+    QStringList shown{table.version(), table.language(), table.defaultCodec()};
+    for (const auto &[name, context] : table.contexts()) {
+        shown += QStringLiteral("context ") + name + u' ' + context.name();
+        for (const Error::TranslationMessage &message : context.messages())
+            shown += {message.source, message.translation, message.type, message.comment};
+    }
+    return shown;
+}
+
+void seedRows()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= seeds; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+} // namespace
+
+class TestTranslationRoundTrip : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void writtenTablesReadBackAsTheyWere_data() { seedRows(); }
+
+    void writtenTablesReadBackAsTheyWere()
+    {
+        QFETCH(const quint32, seed);
+        const TranslationTable table = randomTranslationTable(seed);
+        TranslationTable again;
+        const Error::TranslationReading reading = read(written(table), again);
+        QCOMPARE(reading.error, QString());
+        QVERIFY(reading.foundRoot);
+        QCOMPARE(shown(again), shown(table));
+    }
+
+    void whatWasReadIsWrittenAsItWas_data() { seedRows(); }
+
+    void whatWasReadIsWrittenAsItWas()
+    {
+        QFETCH(const quint32, seed);
+        const QByteArray bytes = written(randomTranslationTable(seed));
+        TranslationTable again;
+        QCOMPARE(read(bytes, again).error, QString());
+        QCOMPARE(written(again), bytes);
+    }
+
+    // Wherever a file is cut, what it gives is a part of what the whole one gives.
+    void cutFilesGiveWholeMessagesOnly_data() { seedRows(); }
+
+    void cutFilesGiveWholeMessagesOnly()
+    {
+        QFETCH(const quint32, seed);
+        const TranslationTable table = randomTranslationTable(seed);
+        const QByteArray bytes = written(table);
+        RandomText random(seed);
+        TranslationTable part;
+        const auto cut = static_cast<qsizetype>(random.below(static_cast<quint32>(bytes.size() - 6)));
+        QVERIFY(!read(bytes.first(cut), part).error.isEmpty());
+        for (const auto &[name, context] : part.contexts()) {
+            QVERIFY(table.contexts().count(name) == 1);
+            const Error::TranslationMessages &whole = table.contexts().at(name).messages();
+            QVERIFY(context.messages().size() <= whole.size());
+            for (std::size_t at = 0; at < context.messages().size(); ++at) {
+                QCOMPARE(context.messages()[at].source, whole[at].source);
+                QCOMPARE(context.messages()[at].translation, whole[at].translation);
+            }
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(TestTranslationRoundTrip)
+#include "test_translation_round_trip.moc"

@@ -1,0 +1,309 @@
+#include "error_translation_table.h"
+#include "error_translation_table_xml.h"
+#include "support/file_bytes.h"
+#include "support/test_folder.h"
+
+#include <QBuffer>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QTest>
+
+using Error::TranslationContext;
+using Error::TranslationMessage;
+using Error::TranslationTable;
+
+namespace {
+
+const QString clt = QStringLiteral("Clt");
+const QString net = QStringLiteral("Net");
+const QString a = QStringLiteral("a");
+const QString b = QStringLiteral("b");
+
+const Error::TranslationMessages &messagesOf(const TranslationTable &table, const QString &context)
+{
+    return table.contexts().at(context).messages();
+}
+
+QByteArray written(const TranslationTable &table)
+{
+    QBuffer device;
+    return device.open(QIODevice::WriteOnly) && Error::writeTranslationTable(device, table) ? device.data()
+                                                                                            : QByteArray();
+}
+
+} // namespace
+
+class TestTranslationTable : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void newTableIsEmpty()
+    {
+        const TranslationTable table;
+        QCOMPARE(table.version() + table.language() + table.defaultCodec() + table.errorString(), QString());
+        QVERIFY(table.contexts().empty());
+        QVERIFY(!table.contains(QString(), QString()));
+    }
+
+    void addedStringIsItsOwnUnfinishedTranslation()
+    {
+        TranslationTable table;
+        table.addString(clt, a);
+        QCOMPARE(table.contexts().at(clt).name(), clt);
+        QCOMPARE(messagesOf(table, clt).size(), std::size_t(1));
+        const TranslationMessage &message = messagesOf(table, clt).front();
+        QCOMPARE(message.source, a);
+        QCOMPARE(message.translation, a);
+        QCOMPARE(message.type, QStringLiteral("unfinished"));
+        QCOMPARE(message.comment, QString());
+    }
+
+    void addedStringsStandInTheOrderOfTheirAdding()
+    {
+        TranslationTable table;
+        for (const QString &source : {b, a, b})
+            table.addString(clt, source);
+        QStringList sources;
+        for (const TranslationMessage &message : messagesOf(table, clt))
+            sources += message.source;
+        QCOMPARE(sources, QStringList({b, a, b}));
+    }
+
+    void containsComparesContextAndSource_data()
+    {
+        QTest::addColumn<QString>("context");
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<bool>("contained");
+        QTest::newRow("both") << clt << a << true;
+        QTest::newRow("a string of another context") << net << a << false;
+        QTest::newRow("no such context") << QStringLiteral("None") << a << false;
+        QTest::newRow("another case") << clt << QStringLiteral("A") << false;
+        QTest::newRow("a prefix") << clt << QString() << false;
+        QTest::newRow("the other string") << clt << b << true;
+    }
+
+    void containsComparesContextAndSource()
+    {
+        QFETCH(const QString, context);
+        QFETCH(const QString, source);
+        QFETCH(const bool, contained);
+        TranslationTable table;
+        table.addString(clt, b);
+        table.addString(clt, a);
+        table.addString(net, b);
+        QCOMPARE(table.contains(context, source), contained);
+    }
+
+    void translationTypeAndCommentDoNotCount()
+    {
+        TranslationTable table;
+        TranslationContext context(clt);
+        context.append({a, b, QStringLiteral("obsolete"), QStringLiteral("c")});
+        table.setContext(context);
+        QVERIFY(table.contains(clt, a));
+        QVERIFY(!table.contains(clt, b));
+    }
+
+    void thousandsOfStringsAreAllFound()
+    {
+        TranslationContext context(clt);
+        for (int number = 0; number < 5000; ++number)
+            QVERIFY(context.addMissing(QString::number(number)));
+        for (int number = 0; number < 5000; ++number) {
+            QVERIFY(context.contains(QString::number(number)));
+            QVERIFY(!context.addMissing(QString::number(number)));
+        }
+        QVERIFY(!context.contains(QStringLiteral("5000")));
+        QCOMPARE(context.messages().size(), std::size_t(5000));
+    }
+
+    void contextOfTheSameNameIsReplaced()
+    {
+        TranslationTable table;
+        table.addString(clt, a);
+        TranslationContext context(clt);
+        context.append({b, QString(), QString(), QString()});
+        table.setContext(context);
+        QVERIFY(!table.contains(clt, a));
+        QVERIFY(table.contains(clt, b));
+        QCOMPARE(table.contexts().size(), std::size_t(1));
+    }
+
+    void contextIsFoundWithAnyHint()
+    {
+        TranslationTable table;
+        for (const char16_t name : u"bdfh")
+            table.addString(QString(QChar(name)), a);
+        const std::size_t before = table.contexts().size();
+        for (auto hint = table.contexts().begin(); hint != table.contexts().end(); ++hint) {
+            QCOMPARE(table.contextNamed(b, hint)->second.name(), b);
+            QCOMPARE(table.contextNamed(QStringLiteral("h"), hint)->second.name(), QStringLiteral("h"));
+        }
+        QCOMPARE(table.contexts().size(), before);
+        QCOMPARE(table.contextNamed(QStringLiteral("c"), table.contexts().end())->second.name(),
+                 QStringLiteral("c"));
+        QCOMPARE(table.contexts().size(), before + 1);
+    }
+
+    void everyMessageWithASourceTextGetsTheType()
+    {
+        TranslationTable table;
+        for (const QString &source : {a, b, a})
+            table.addString(clt, source);
+        table.addString(net, a);
+        table.setType(clt, {a}, QStringLiteral("obsolete"));
+        table.setType(QStringLiteral("None"), {a}, QStringLiteral("obsolete"));
+        QStringList types;
+        for (const QString &name : {clt, net}) {
+            for (const TranslationMessage &message : messagesOf(table, name))
+                types += message.type;
+        }
+        const QString obsolete = QStringLiteral("obsolete");
+        const QString unfinished = QStringLiteral("unfinished");
+        QCOMPARE(types, QStringList({obsolete, unfinished, obsolete, unfinished}));
+        QCOMPARE(table.contexts().size(), std::size_t(2));
+    }
+
+    void fileThatCannotBeOpenedTellsTheSystemsWords()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("missing.ts"));
+        QFile file(fileName);
+        QVERIFY(!file.open(QIODevice::ReadOnly));
+        TranslationTable table;
+        table.addString(clt, a);
+        QVERIFY(!table.load(fileName));
+        QCOMPARE(table.errorString(), file.errorString());
+        QVERIFY(table.contains(clt, a));
+    }
+
+    void successfulLoadClearsTheError()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        TranslationTable table;
+        QVERIFY(!table.load(fileName));
+        QVERIFY(TranslationTable().save(fileName));
+        QVERIFY(table.load(fileName));
+        QCOMPARE(table.errorString(), QString());
+    }
+
+    void loadingAddsToWhatIsThere()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        TranslationTable saved;
+        saved.addString(clt, b);
+        QVERIFY(saved.save(fileName));
+        TranslationTable table;
+        table.setVersion(QStringLiteral("2.1"));
+        table.addString(clt, a);
+        table.addString(net, a);
+        QVERIFY(table.load(fileName));
+        QVERIFY(!table.contains(clt, a));
+        QVERIFY(table.contains(clt, b));
+        QVERIFY(table.contains(net, a));
+        QCOMPARE(table.version(), QString());
+    }
+
+    void nulCannotBeWritten_data()
+    {
+        QTest::addColumn<TranslationMessage>("message");
+        const QString nul = QStringLiteral("x") + QChar(u'\0');
+        QTest::newRow("source") << TranslationMessage{nul, a, QString(), QString()};
+        QTest::newRow("translation") << TranslationMessage{a, nul, QString(), QString()};
+        QTest::newRow("comment") << TranslationMessage{a, a, QString(), nul};
+        QTest::newRow("type") << TranslationMessage{a, a, nul, QString()};
+    }
+
+    void nulCannotBeWritten()
+    {
+        QFETCH(const TranslationMessage, message);
+        TranslationTable table;
+        TranslationContext context(clt);
+        context.append(message);
+        table.setContext(context);
+        QCOMPARE(written(table), QByteArray());
+    }
+
+    void attributesCannotHoldControlCharacters()
+    {
+        TranslationTable table;
+        table.setLanguage(QString(QChar(0x1b)));
+        QCOMPARE(written(table), QByteArray());
+    }
+
+    void saveThatFailsLeavesTheFile()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        QVERIFY(writeFile(fileName, "old"));
+        TranslationTable table;
+        table.addString(clt, QString(QChar(u'\0')));
+        QVERIFY(!table.save(fileName));
+        QCOMPARE(fileBytes(fileName), QByteArray("old"));
+        QVERIFY(!table.save(folder.path(QStringLiteral("missing/table.ts"))));
+        QVERIFY(!table.save(folder.path()));
+    }
+
+    void savingAnUnchangedTableLeavesTheTimeStamp()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        TranslationTable table;
+        table.addString(clt, a);
+        QVERIFY(table.save(fileName));
+        const QDateTime old = QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6));
+        {
+            QFile file(fileName);
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            QVERIFY(file.setFileTime(old, QFileDevice::FileModificationTime));
+        }
+        QVERIFY(table.save(fileName));
+        QCOMPARE(QFileInfo(fileName).lastModified(), old);
+    }
+
+    void damagedFileIsKeptOnceBeforeItIsReplaced()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QString keptName = fileName + QStringLiteral(".damaged");
+        QVERIFY(writeFile(fileName, "<TS>\r\n<context>"));
+        TranslationTable table;
+        QVERIFY(!table.load(fileName));
+        QVERIFY(table.save(fileName));
+        QCOMPARE(fileBytes(keptName), QByteArray("<TS>\r\n<context>"));
+        table.addString(clt, a);
+        QVERIFY(table.save(fileName));
+        QCOMPARE(fileBytes(keptName), QByteArray("<TS>\r\n<context>"));
+    }
+
+    void damagedFileThatCannotBeKeptIsNotReplaced()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        QVERIFY(writeFile(fileName, "<TS>"));
+        QVERIFY(QDir().mkdir(fileName + QStringLiteral(".damaged")));
+        TranslationTable table;
+        QVERIFY(!table.load(fileName));
+        QVERIFY(!table.save(fileName));
+        QCOMPARE(fileBytes(fileName), QByteArray("<TS>"));
+    }
+
+    void damagedFileStaysWhenTheTableIsSavedElsewhere()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        QVERIFY(writeFile(fileName, "<TS>"));
+        TranslationTable table;
+        QVERIFY(!table.load(fileName));
+        QVERIFY(table.save(folder.path(QStringLiteral("other.ts"))));
+        QCOMPARE(fileBytes(fileName), QByteArray("<TS>"));
+        QVERIFY(!QFile::exists(fileName + QStringLiteral(".damaged")));
+        QVERIFY(!QFile::exists(folder.path(QStringLiteral("other.ts.damaged"))));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestTranslationTable)
+#include "test_translation_table.moc"
