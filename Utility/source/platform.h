@@ -38,4 +38,7 @@ QString commonDesktopFolder();
 
 void notifyAssociationsChanged();
 
+/// Waits until the disk has what was written through the open descriptor. False when it could not take it.
+bool flushToDisk(int descriptor);
+
 } // namespace Nvx::Util::Platform

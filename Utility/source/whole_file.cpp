@@ -1,5 +1,7 @@
 #include "nvx_util/whole_file.h"
 
+#include "platform.h"
+
 #include <QFile>
 #include <QSaveFile>
 
@@ -23,6 +25,12 @@ bool hasContents(const QString &fileName, const QByteArray &contents)
     return true;
 }
 
+// The file is only as good as its last byte: on a full disk QSaveFile takes what fits for a success.
+bool writeAll(QSaveFile &file, const QByteArray &contents)
+{
+    return file.write(contents) == contents.size() && file.flush() && Platform::flushToDisk(file.handle());
+}
+
 } // namespace
 
 bool replaceWholeFile(const QString &fileName, const QByteArray &contents)
@@ -30,10 +38,7 @@ bool replaceWholeFile(const QString &fileName, const QByteArray &contents)
     if (hasContents(fileName, contents))
         return true;
     QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(contents);
-    return file.commit();
+    return file.open(QIODevice::WriteOnly) && writeAll(file, contents) && file.commit();
 }
 
 } // namespace Nvx::Util

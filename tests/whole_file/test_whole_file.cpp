@@ -1,0 +1,104 @@
+#include "nvx_util/whole_file.h"
+#include "support/file_bytes.h"
+#include "support/test_folder.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QTest>
+
+using Nvx::Util::replaceWholeFile;
+
+class TestWholeFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void contentsAreTheBytes_data()
+    {
+        QTest::addColumn<QByteArray>("old");
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("longer") << QByteArray("old") << QByteArray("longer than that");
+        QTest::newRow("shorter") << QByteArray("longer than that") << QByteArray("new");
+        QTest::newRow("as long") << QByteArray("old") << QByteArray("new");
+        QTest::newRow("empty") << QByteArray("old") << QByteArray();
+        QTest::newRow("was empty") << QByteArray() << QByteArray("new");
+        QTest::newRow("line ends stay") << QByteArray("old") << QByteArray("a\nb\r\nc\r");
+        QTest::newRow("a NUL") << QByteArray("old") << QByteArray("a\0b", 3);
+        QTest::newRow("differs after a megabyte")
+            << QByteArray(1 << 20, 'x') + 'a' << QByteArray(1 << 20, 'x') + 'b';
+    }
+
+    void contentsAreTheBytes()
+    {
+        QFETCH(const QByteArray, old);
+        QFETCH(const QByteArray, contents);
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("Größe 保存.txt"));
+        QVERIFY(writeFile(fileName, old));
+        QVERIFY(replaceWholeFile(fileName, contents));
+        QCOMPARE(fileBytes(fileName), contents);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+    }
+
+    void missingFileIsMade()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("new"));
+        QVERIFY(replaceWholeFile(fileName, "x"));
+        QCOMPARE(fileBytes(fileName), QByteArray("x"));
+    }
+
+    void sameBytesLeaveTheTimeStamp_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("a few") << QByteArray("same");
+        QTest::newRow("none") << QByteArray();
+        QTest::newRow("many") << QByteArray(3 * 64 * 1024, 'x');
+    }
+
+    void sameBytesLeaveTheTimeStamp()
+    {
+        QFETCH(const QByteArray, contents);
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("file"));
+        QVERIFY(writeFile(fileName, contents));
+        const QDateTime old(QDate(2001, 2, 3), QTime(4, 5, 6));
+        {
+            QFile file(fileName);
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            QVERIFY(file.setFileTime(old, QFileDevice::FileModificationTime));
+        }
+        QVERIFY(replaceWholeFile(fileName, contents));
+        QCOMPARE(QFileInfo(fileName).lastModified(), old);
+    }
+
+    void missingFolderFails()
+    {
+        const TestFolder folder;
+        QVERIFY(!replaceWholeFile(folder.path(QStringLiteral("missing/file")), "x"));
+        QVERIFY(!QFile::exists(folder.path(QStringLiteral("missing"))));
+    }
+
+    void folderOfThatNameFails()
+    {
+        const TestFolder folder;
+        QVERIFY(!replaceWholeFile(folder.path(), "x"));
+        QVERIFY(QFileInfo(folder.path()).isDir());
+    }
+
+    void emptyNameFails() { QVERIFY(!replaceWholeFile(QString(), "x")); }
+
+    void permissionsAreKept()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("file"));
+        QVERIFY(writeFile(fileName, "old"));
+        QVERIFY(QFile::setPermissions(fileName, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+        const QFile::Permissions before = QFile::permissions(fileName);
+        QVERIFY(replaceWholeFile(fileName, "new"));
+        QCOMPARE(QFile::permissions(fileName), before);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestWholeFile)
+#include "test_whole_file.moc"

@@ -1,0 +1,151 @@
+#include "clt_message_table.h"
+#include "error_translation_table.h"
+#include "error_translation_update.h"
+#include "nvx_util/whole_file.h"
+#include "support/file_bytes.h"
+#include "support/test_folder.h"
+
+#include <QDir>
+#include <QTest>
+#include <QTextStream>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace {
+
+constexpr rlim_t mostBytes = 64 * 1024;
+
+/// While it lives, no file of this process grows beyond the most bytes, as on a disk that is full then.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{mostBytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+    ~FullDisk()
+    {
+        std::signal(SIGXFSZ, m_handler);
+        setrlimit(RLIMIT_FSIZE, &m_before);
+    }
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = nullptr;
+};
+
+Clt::MessageTable largeTable()
+{
+    Clt::MessageTable table;
+    for (int number = 0; number < 2000; ++number) {
+        Clt::Message message;
+        message.setKey({QString::number(number), QStringLiteral("Clt"), QStringLiteral("client")});
+        message.setText(QStringLiteral("Text of message %1").arg(number));
+        table.insert(message);
+    }
+    return table;
+}
+
+QStringList filesIn(const TestFolder &folder)
+{
+    return QDir(folder.path()).entryList(QDir::Files, QDir::Name);
+}
+
+} // namespace
+
+class TestWholeFileFullDisk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void fileOnAFullDiskStaysAsItWas()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("file"));
+        QVERIFY(writeFile(fileName, "old"));
+        {
+            const FullDisk disk;
+            QVERIFY(!Nvx::Util::replaceWholeFile(fileName, QByteArray(2 * mostBytes, 'x')));
+        }
+        QCOMPARE(fileBytes(fileName), QByteArray("old"));
+        QCOMPARE(filesIn(folder), QStringList(QStringLiteral("file")));
+    }
+
+    void fileThatWasNotThereIsNotThere()
+    {
+        const TestFolder folder;
+        {
+            const FullDisk disk;
+            QVERIFY(!Nvx::Util::replaceWholeFile(folder.path(QStringLiteral("file")),
+                                                 QByteArray(2 * mostBytes, 'x')));
+        }
+        QCOMPARE(filesIn(folder), QStringList());
+    }
+
+    void fileThatJustFitsIsWritten()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("file"));
+        {
+            const FullDisk disk;
+            QVERIFY(Nvx::Util::replaceWholeFile(fileName, QByteArray(mostBytes, 'x')));
+        }
+        QCOMPARE(QFileInfo(fileName).size(), qint64(mostBytes));
+    }
+
+    void messageTableIsNotSaved()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.xml"));
+        QVERIFY(Clt::MessageTable().save(fileName));
+        const std::optional<QByteArray> before = fileBytes(fileName);
+        {
+            const FullDisk disk;
+            QVERIFY(!largeTable().save(fileName));
+        }
+        QCOMPARE(fileBytes(fileName), before);
+    }
+
+    void translationUpdateTellsThatItCouldNotSave()
+    {
+        const TestFolder folder;
+        const QString messages = folder.path(QStringLiteral("table.xml"));
+        const QString translation = folder.path(QStringLiteral("table.ts"));
+        QVERIFY(largeTable().save(messages));
+        QVERIFY(Error::TranslationTable().save(translation));
+        const std::optional<QByteArray> before = fileBytes(translation);
+        QString log;
+        QTextStream stream(&log);
+        {
+            const FullDisk disk;
+            QVERIFY(!Error::synchronizeTranslationTable(messages, translation, stream));
+        }
+        QVERIFY(log.endsWith(QStringLiteral("\nCould not save translation table\n")));
+        QCOMPARE(fileBytes(translation), before);
+    }
+
+    void damagedFileThatDoesNotFitTwiceIsLeft()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QByteArray damaged = "<TS>" + QByteArray(2 * mostBytes, ' ');
+        QVERIFY(writeFile(fileName, damaged));
+        Error::TranslationTable table;
+        QVERIFY(!table.load(fileName));
+        {
+            const FullDisk disk;
+            QVERIFY(!table.save(fileName));
+        }
+        QCOMPARE(fileBytes(fileName), damaged);
+        QCOMPARE(filesIn(folder), QStringList(QStringLiteral("table.ts")));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestWholeFileFullDisk)
+#include "test_whole_file_full_disk.moc"
