@@ -1,5 +1,6 @@
 // How long message tables and translation tables take, beside the bare reader and writer on the same bytes.
-// Arguments: numbers of messages, by default 1000 10000 100000 1000000.
+// Arguments: numbers of messages, by default 1000 10000 100000 1000000. Each number is measured in a process
+// of its own, so that none finds the memory as another left it.
 
 #include "clt_message_table.h"
 #include "clt_message_table_xml.h"
@@ -8,6 +9,8 @@
 #include "measure.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QXmlStreamReader>
@@ -21,6 +24,8 @@ using Clt::Message;
 using Clt::MessageTable;
 
 constexpr int messagesPerContext = 12;
+const QString tableName = QStringLiteral("table.xml");
+const QString oneOption = QStringLiteral("--one");
 
 Message messageOf(int number)
 {
@@ -148,42 +153,79 @@ Bench::Pair measureSave(MessageTable &table, const QString &fileName, const QStr
         [&] { writeElements(elements, peerFileName); });
 }
 
+/// Nanoseconds per message, with an empty translation table and then with the one that this made.
 struct Feeding
 {
-    double first = 0; ///< nanoseconds per message
+    double first = 0;
     double again = 0;
 };
 
-Feeding measureFeeding(const MessageTable &messages)
+template<typename Once>
+Feeding medianFeeding(std::size_t messages, Once once)
 {
     Bench::Samples first{};
     Bench::Samples again{};
-    for (std::size_t run = 0; run < Bench::runs; ++run) {
-        Error::TranslationTable table;
-        first[run] = Bench::milliseconds([&] { Error::addMessageTexts(table, messages); });
-        again[run] = Bench::milliseconds([&] { Error::addMessageTexts(table, messages); });
-    }
-    const double nanoseconds = 1e6 / static_cast<double>(messages.size());
+    for (std::size_t run = 0; run < Bench::runs; ++run)
+        once(first[run], again[run]);
+    const double nanoseconds = 1e6 / static_cast<double>(messages);
     return {Bench::median(first) * nanoseconds, Bench::median(again) * nanoseconds};
 }
 
-void measure(int count, const QString &folder, QTextStream &out)
+/// In memory.
+Feeding measureFeeding(const MessageTable &messages)
 {
-    const QString fileName = folder + QStringLiteral("/table.xml");
-    Bench::resetPeakMemory();
-    MessageTable table = tableOf(count);
-    const double memory = Bench::peakMemory();
-    if (!table.save(fileName))
-        qFatal("cannot save");
+    return medianFeeding(messages.size(), [&messages](double &first, double &again) {
+        Error::TranslationTable table;
+        first = Bench::milliseconds([&] { Error::addMessageTexts(table, messages); });
+        again = Bench::milliseconds([&] { Error::addMessageTexts(table, messages); });
+    });
+}
+
+/// From file to file.
+Feeding measureUpdate(int count, const QString &messages, const QString &translation)
+{
+    const auto update = [&] {
+        QString log;
+        QTextStream stream(&log);
+        if (!Error::synchronizeTranslationTable(messages, translation, stream))
+            qFatal("cannot update");
+    };
+    return medianFeeding(static_cast<std::size_t>(count), [&](double &first, double &again) {
+        QFile::remove(translation);
+        first = Bench::milliseconds(update);
+        again = Bench::milliseconds(update);
+    });
+}
+
+void measure(int count, const QDir &folder, QTextStream &out)
+{
+    const QString fileName = folder.filePath(tableName);
+    const double before = Bench::peakMemory();
+    MessageTable table;
+    if (!table.load(fileName))
+        qFatal("cannot load what was written");
+    const double memory = Bench::peakMemory() - before;
+
+    const Feeding feeding = measureFeeding(table);
     const Bench::Pair load = measureLoad(fileName);
-    const Bench::Pair save = measureSave(table, fileName, folder + QStringLiteral("/peer.xml"));
-    MessageTable loaded;
-    loaded.load(fileName);
-    const Feeding feeding = measureFeeding(loaded);
-    out << QString::asprintf("%9d %9.2f %9.2f %6.2f %9.2f %9.2f %6.2f %9.0f %9.0f %9.1f %9.1f\n", count,
+    const Feeding update = measureUpdate(count, fileName, folder.filePath(QStringLiteral("table.ts")));
+    const Bench::Pair save = measureSave(table, fileName, folder.filePath(QStringLiteral("peer.xml")));
+    out << QString::asprintf("%9d %8.1f %8.1f %5.2f %8.1f %8.1f %5.2f %8.0f %6.0f %8.0f %6.0f %7.1f\n", count,
                              load.ours, load.peer, load.ratio(), save.ours, save.peer, save.ratio(),
-                             feeding.first, feeding.again, memory, Bench::peakMemory())
-        << Qt::flush;
+                             feeding.first, feeding.again, update.first, update.again, memory);
+}
+
+void measureApart(const QStringList &counts)
+{
+    for (const QString &count : counts) {
+        const QTemporaryDir folder;
+        if (!tableOf(count.toInt()).save(folder.filePath(tableName)))
+            qFatal("cannot save");
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedChannels);
+        process.start(QCoreApplication::applicationFilePath(), {oneOption, count, folder.path()});
+        process.waitForFinished(-1);
+    }
 }
 
 } // namespace
@@ -191,15 +233,20 @@ void measure(int count, const QString &folder, QTextStream &out)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    QStringList counts = QCoreApplication::arguments().mid(1);
-    if (counts.isEmpty())
-        counts = QStringLiteral("1000 10000 100000 1000000").split(QLatin1Char(' '));
-    const QTemporaryDir folder;
+    QStringList arguments = QCoreApplication::arguments().mid(1);
     QTextStream out(stdout);
-    out << "medians of five; load, save and their peers in ms, feeding in ns per message, memory in MB\n"
-        << " messages      load    tokens  ratio      save    writer  ratio feed once     again     table    "
-           "  peak\n";
-    for (const QString &count : std::as_const(counts))
-        measure(count.toInt(), folder.path(), out);
+    if (arguments.value(0) == oneOption) {
+        measure(arguments.value(1).toInt(), QDir(arguments.value(2)), out);
+        return 0;
+    }
+    if (arguments.isEmpty())
+        arguments = QStringLiteral("1000 10000 100000 1000000").split(QLatin1Char(' '));
+    out << "medians of five: load, save and their peers in ms; feeding a translation table in memory, and "
+           "updating\n"
+        << "its file from the message table's, in ns per message; memory of the loaded table in MB\n"
+        << " messages     load   tokens ratio     save   writer ratio     feed  again   update  again  "
+           "memory\n"
+        << Qt::flush;
+    measureApart(arguments);
     return 0;
 }

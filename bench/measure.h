@@ -49,15 +49,7 @@ Pair sideBySide(Ours ours, Peer peer)
     return {median(ourSamples), median(peerSamples)};
 }
 
-/// Starts the measuring of peak memory anew.
-inline void resetPeakMemory()
-{
-    QFile control(QStringLiteral("/proc/self/clear_refs"));
-    if (control.open(QIODevice::WriteOnly))
-        control.write("5");
-}
-
-/// The most memory that the process had since then, in megabytes; 0 where the system does not tell.
+/// The most memory that the process had so far, in megabytes; 0 where the system does not tell.
 inline double peakMemory()
 {
     QFile status(QStringLiteral("/proc/self/status"));

@@ -35,10 +35,11 @@ QString loadedAndSaved(const QString &savedName)
 
 } // namespace
 
-// The files are named without their folder, so that the log is the same everywhere.
+// The files are named without their folder, so that the log is the same everywhere. On Windows the other
+// folder can be on another drive.
 TranslationCase runTranslationCase(const QString &caseFolder, const QString &workFolder)
 {
-    const QDir folder(caseFolder);
+    const QDir folder(QDir(caseFolder).absolutePath());
     const QString before = QDir::currentPath();
     QDir::setCurrent(workFolder);
     for (const QString &name : {tableName, messagesName})
