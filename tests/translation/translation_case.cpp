@@ -35,17 +35,18 @@ QString loadedAndSaved(const QString &savedName)
 
 } // namespace
 
-// The files are named without their folder, so that the log is the same everywhere. On Windows the other
-// folder can be on another drive.
+// The files are named without their folder, so that the log is the same everywhere. What is of the case is
+// asked for first: on Windows its path may be one of the drive that is current until then.
 TranslationCase runTranslationCase(const QString &caseFolder, const QString &workFolder)
 {
-    const QDir folder(QDir(caseFolder).absolutePath());
+    const QDir folder(caseFolder);
+    const QDir work(workFolder);
+    for (const QString &name : {tableName, messagesName})
+        QFile::copy(folder.filePath(name), work.filePath(name));
+    const bool fromMessages = folder.exists(messagesName);
+
     const QString before = QDir::currentPath();
     QDir::setCurrent(workFolder);
-    for (const QString &name : {tableName, messagesName})
-        QFile::copy(folder.filePath(name), name);
-
-    const bool fromMessages = folder.exists(messagesName);
     const QString savedName = fromMessages ? tableName : QStringLiteral("saved.ts");
     const RecordedAssertions failed;
     TranslationCase result;
