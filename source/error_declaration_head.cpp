@@ -1,0 +1,406 @@
+#include "error_declaration_head.h"
+
+#include "error_source_lexis.h"
+
+#include <algorithm>
+
+namespace Scan {
+
+namespace {
+
+template<std::size_t Size>
+bool isOneOf(std::string_view word, const std::string_view (&words)[Size])
+{
+    return std::find(std::begin(words), std::end(words), word) != std::end(words);
+}
+
+// Words that may stand before or behind a declaration's names without being one, some with parentheses of
+// their own. Those that control statements do not stand here in code that is understood.
+bool isSpecifier(std::string_view word)
+{
+    static constexpr std::string_view a[] = {"alignas", "asm"};
+    static constexpr std::string_view c[] = {"const", "constexpr", "consteval", "constinit"};
+    static constexpr std::string_view f[] = {"final", "for", "friend"};
+    static constexpr std::string_view s[] = {"static", "static_assert", "switch"};
+    static constexpr std::string_view t[] = {"throw", "try", "typedef"};
+    static constexpr std::string_view v[] = {"virtual", "volatile"};
+    static constexpr std::string_view underscore[] = {"__attribute__", "__declspec"};
+    switch (word.front()) {
+    case 'a':
+        return isOneOf(word, a);
+    case 'c':
+        return isOneOf(word, c);
+    case 'd':
+        return word == "decltype";
+    case 'e':
+        return word == "explicit";
+    case 'f':
+        return isOneOf(word, f);
+    case 'i':
+        return word == "if" || word == "inline";
+    case 'm':
+        return word == "mutable";
+    case 'n':
+        return word == "noexcept";
+    case 'o':
+        return word == "override";
+    case 's':
+        return isOneOf(word, s);
+    case 't':
+        return isOneOf(word, t);
+    case 'v':
+        return isOneOf(word, v);
+    case 'w':
+        return word == "while";
+    case '_':
+        return isOneOf(word, underscore);
+    default:
+        return false;
+    }
+}
+
+bool isAccessSpecifier(std::string_view word)
+{
+    static constexpr std::string_view p[] = {"public", "protected", "private"};
+    static constexpr std::string_view s[] = {"signals", "slots"};
+    static constexpr std::string_view q[] = {"Q_SIGNALS", "Q_SLOTS"};
+    switch (word.front()) {
+    case 'p':
+        return isOneOf(word, p);
+    case 's':
+        return isOneOf(word, s);
+    case 'Q':
+        return isOneOf(word, q);
+    default:
+        return false;
+    }
+}
+
+bool isOpening(const Tokenizer &token)
+{
+    return token.kind() == TokenKind::LeftParen || token.text() == "[";
+}
+
+bool isClosing(const Tokenizer &token)
+{
+    return token.kind() == TokenKind::RightParen || token.text() == "]";
+}
+
+} // namespace
+
+void QualifiedName::append(std::string_view part)
+{
+    if (m_count == m_parts.size()) {
+        std::move(m_parts.begin() + 1, m_parts.end(), m_parts.begin());
+        --m_count;
+    }
+    m_parts[m_count++] = part;
+}
+
+void DeclarationHead::reset(std::string_view enclosingClass)
+{
+    m_name.clear();
+    m_enclosingClass = enclosingClass;
+    m_partBegin = nullptr;
+    m_joins = false;
+    m_kind = Kind::Unknown;
+    m_stage = Stage::Names;
+    m_previous = Previous::Nothing;
+    m_requiresExpression = false;
+    m_names = 0;
+    m_groupDepth = 0;
+    m_angleDepth = 0;
+    m_angleGroupDepth = 0;
+}
+
+void DeclarationHead::blockClosed()
+{
+    m_previous = Previous::Other;
+    m_requiresExpression = false;
+}
+
+BraceMeaning DeclarationHead::braceMeaning() const
+{
+    const bool namesMember = m_previous == Previous::Name || m_previous == Previous::CloseAngle;
+    if (m_groupDepth > 0 || m_requiresExpression || m_stage == Stage::Initialiser ||
+        m_stage == Stage::Operator || (m_stage == Stage::MemberList && namesMember))
+        return BraceMeaning::Block;
+    switch (m_kind) {
+    case Kind::Namespace:
+        return BraceMeaning::Namespace;
+    case Kind::Class:
+        return BraceMeaning::Class;
+    case Kind::Linkage:
+        return BraceMeaning::Transparent;
+    case Kind::Function:
+        return BraceMeaning::Function;
+    case Kind::CatchBlock:
+        return BraceMeaning::CatchBlock;
+    case Kind::Unknown:
+        return m_names == 1 && m_name.count() == 1 ? BraceMeaning::Transparent : BraceMeaning::Block;
+    case Kind::Enumeration:
+    case Kind::UsingNamespace:
+        break;
+    }
+    return BraceMeaning::Block;
+}
+
+void DeclarationHead::take(const Tokenizer &token)
+{
+    if (m_stage == Stage::Operator)
+        return takeInOperator(token);
+    if (m_angleDepth > 0)
+        return takeInAngle(token);
+    if (m_groupDepth > 0)
+        return takeInGroup(token);
+
+    switch (token.kind()) {
+    case TokenKind::Namespace:
+    case TokenKind::Using:
+    case TokenKind::Identifier:
+        return takeWord(token.text());
+    case TokenKind::LeftParen:
+        return openParenthesis();
+    case TokenKind::DoubleColon:
+        return takeDoubleColon();
+    case TokenKind::Colon:
+        return takeColon();
+    case TokenKind::Other:
+        return Lexis::isWordByte(token.text().front()) ? takeWord(token.text()) : takeSymbol(token.text());
+    case TokenKind::String:
+        if (m_previous == Previous::Extern)
+            return begin(Kind::Linkage, Previous::Specifier);
+        break;
+    default:
+        break;
+    }
+    m_previous = Previous::Other;
+}
+
+// Only a group's depth counts, except that a parameter list does not begin with a declarator: what seemed
+// one is the parentheses around a function that returns a pointer to a function.
+void DeclarationHead::takeInGroup(const Tokenizer &token)
+{
+    if (isOpening(token)) {
+        ++m_groupDepth;
+    } else if (isClosing(token)) {
+        --m_groupDepth;
+        m_previous = Previous::CloseGroup;
+        return;
+    } else if (m_previous == Previous::OpenGroup && (token.text() == "*" || token.text() == "&")) {
+        m_groupDepth = 0;
+        if (m_kind == Kind::Function)
+            m_kind = Kind::Unknown;
+    }
+    m_previous = Previous::Other;
+}
+
+void DeclarationHead::takeInAngle(const Tokenizer &token)
+{
+    if (isOpening(token)) {
+        ++m_angleGroupDepth;
+    } else if (isClosing(token)) {
+        m_angleGroupDepth -= m_angleGroupDepth > 0 ? 1 : 0;
+    } else if (m_angleGroupDepth == 0 && token.text() == "<") {
+        // The second half of a shift takes back what the first half was taken for.
+        const bool shift = *(token.text().data() - 1) == '<';
+        m_angleDepth += shift ? -1U : 1U;
+    } else if (m_angleGroupDepth == 0 && token.text() == ">") {
+        --m_angleDepth;
+        m_previous = Previous::CloseAngle;
+    }
+}
+
+// An operator's name reaches to its parameter list; that of the call operator holds parentheses itself.
+void DeclarationHead::takeInOperator(const Tokenizer &token)
+{
+    const bool opens = token.kind() == TokenKind::LeftParen;
+    if (opens && m_previous == Previous::Other) {
+        const char *const end = token.text().data();
+        m_stage = Stage::Names;
+        takeName({m_partBegin, static_cast<std::size_t>(end - m_partBegin)});
+        openParenthesis();
+    } else {
+        m_previous = opens && m_previous == Previous::OperatorWord ? Previous::OpenGroup : Previous::Other;
+    }
+}
+
+void DeclarationHead::takeWord(std::string_view word)
+{
+    if (m_stage == Stage::Bases || m_stage == Stage::Initialiser)
+        return;
+    if (word == "operator" && m_stage == Stage::Names) {
+        m_partBegin = word.data();
+        m_stage = Stage::Operator;
+        m_previous = Previous::OperatorWord;
+        return;
+    }
+    if (!takeKeyword(word))
+        takeName(word);
+}
+
+// True when the word is no name.
+bool DeclarationHead::takeKeyword(std::string_view word)
+{
+    if (word == "template") {
+        takeTemplate();
+    } else if (word == "namespace") {
+        begin(m_previous == Previous::Using ? Kind::UsingNamespace : Kind::Namespace, Previous::Specifier);
+    } else if (word == "using") {
+        begin(Kind::Unknown, Previous::Using);
+    } else if (word == "class" || word == "struct" || word == "union") {
+        takeClassKey();
+    } else if (word == "enum") {
+        if (m_stage == Stage::Names)
+            begin(Kind::Enumeration, Previous::Specifier);
+    } else if (word == "extern") {
+        m_previous = Previous::Extern;
+    } else if (word == "requires") {
+        takeRequires();
+    } else if (word == "catch" && m_kind == Kind::Unknown && m_names == 0) {
+        begin(Kind::CatchBlock, Previous::Specifier);
+    } else if (isAccessSpecifier(word)) {
+        m_previous = Previous::AccessSpecifier;
+    } else if (isSpecifier(word)) {
+        m_previous = Previous::Specifier;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// A new declaration seems to begin, whatever stood before: a macro without a semicolon, say.
+void DeclarationHead::begin(Kind kind, Previous previous)
+{
+    m_kind = kind;
+    m_previous = previous;
+    m_name.clear();
+    m_names = 0;
+    m_joins = false;
+}
+
+void DeclarationHead::takeClassKey()
+{
+    if (m_stage != Stage::Names)
+        return;
+    const bool ofEnumeration = m_kind == Kind::Enumeration && m_names == 0;
+    begin(ofEnumeration ? Kind::Enumeration : Kind::Class, Previous::Specifier);
+}
+
+void DeclarationHead::takeTemplate()
+{
+    if (m_previous != Previous::DoubleColon && m_stage == Stage::Names)
+        begin(Kind::Unknown, Previous::Template);
+}
+
+void DeclarationHead::takeRequires()
+{
+    if (m_previous == Previous::Requires)
+        m_requiresExpression = true;
+    if (m_kind == Kind::Function && m_stage == Stage::Names)
+        m_stage = Stage::TrailingClause;
+    m_previous = Previous::Requires;
+}
+
+void DeclarationHead::takeName(std::string_view word)
+{
+    if (m_partBegin)
+        word = {m_partBegin, static_cast<std::size_t>(word.data() + word.size() - m_partBegin)};
+    m_partBegin = nullptr;
+    m_previous = Previous::Name;
+    // Of several words behind "namespace" the first is its name, the others are macros.
+    if (m_kind == Kind::Namespace && m_name.count() > 0 && !m_joins)
+        return;
+    if (!m_joins) {
+        m_name.clear();
+        ++m_names;
+    }
+    m_joins = false;
+    m_name.append(word);
+}
+
+void DeclarationHead::takeDoubleColon()
+{
+    if (m_previous != Previous::Name && m_previous != Previous::CloseAngle) {
+        m_name.clear();
+        ++m_names;
+    }
+    m_joins = true;
+    m_previous = Previous::DoubleColon;
+}
+
+void DeclarationHead::takeColon()
+{
+    if (m_previous == Previous::AccessSpecifier)
+        return reset(m_enclosingClass);
+
+    const bool behindFunction = m_stage == Stage::Names || m_stage == Stage::TrailingClause;
+    m_previous = Previous::Other;
+    if (m_kind == Kind::Function && behindFunction)
+        m_stage = Stage::MemberList;
+    else if (m_kind == Kind::Class)
+        m_stage = Stage::Bases;
+    else if (m_kind == Kind::Unknown && m_stage == Stage::Names)
+        reset(m_enclosingClass);
+}
+
+void DeclarationHead::takeSymbol(std::string_view symbol)
+{
+    const bool behindName = m_previous == Previous::Name || m_previous == Previous::Template;
+    if (symbol == "~" && m_stage == Stage::Names) {
+        m_partBegin = symbol.data();
+        return;
+    }
+    if (symbol == "<" && behindName && m_stage != Stage::Initialiser && m_stage != Stage::Bases) {
+        m_angleDepth = 1;
+        m_angleGroupDepth = 0;
+        return;
+    }
+    if (symbol == "[")
+        m_groupDepth = 1;
+    else if (symbol == "=" && m_stage == Stage::Names)
+        m_stage = Stage::Initialiser;
+    else if (symbol == "->" && m_stage == Stage::Names && m_kind == Kind::Function)
+        m_stage = Stage::TrailingClause;
+    m_partBegin = nullptr;
+    m_joins = false;
+    m_previous = Previous::Other;
+}
+
+void DeclarationHead::openParenthesis()
+{
+    const bool behindName = m_previous == Previous::Name || m_previous == Previous::CloseAngle;
+    if (behindName && m_stage == Stage::Names && m_name.count() > 0 && namesFunction()) {
+        m_function = m_name;
+        m_kind = Kind::Function;
+    }
+    m_names = 0;
+    m_groupDepth = 1;
+    m_previous = Previous::OpenGroup;
+}
+
+// Whether the parentheses behind the name are a parameter list. They may as well be those of a macro before
+// or behind the name that counts.
+bool DeclarationHead::namesFunction() const
+{
+    switch (m_kind) {
+    case Kind::Unknown:
+    case Kind::Linkage:
+        return true;
+    case Kind::Class:
+    case Kind::Enumeration:
+        return m_names >= 2;
+    case Kind::Function: {
+        const std::string_view last = m_name.last();
+        const bool special = last.front() == '~' || last.substr(0, 8) == "operator";
+        return m_names >= 2 || m_name.count() >= 2 || special || last == m_enclosingClass;
+    }
+    case Kind::Namespace:
+    case Kind::UsingNamespace:
+    case Kind::CatchBlock:
+        break;
+    }
+    return false;
+}
+
+} // namespace Scan

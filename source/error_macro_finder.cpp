@@ -1,0 +1,67 @@
+#include "error_macro_finder.h"
+
+#include "error_source_lexis.h"
+#include "error_wide_scan.h"
+
+namespace Scan {
+
+namespace {
+
+// What a hint must be the end of, less the underscore behind it.
+constexpr std::string_view beginnings[] = {"REPORT", "ASK"};
+
+bool endsBeginning(std::string_view text, std::size_t hint)
+{
+    for (const std::string_view beginning : beginnings) {
+        if (hint + 1 >= beginning.size() &&
+            text.substr(hint + 1 - beginning.size(), beginning.size()) == beginning)
+            return true;
+    }
+    return false;
+}
+
+// A macro name may be broken by a line continuation, so that no part of it can be searched for.
+bool continuesWord(std::string_view text, std::size_t backslash)
+{
+    return backslash > 0 && Lexis::isWordByte(text[backslash - 1]) &&
+           Lexis::continuationLength(text, backslash) != 0;
+}
+
+} // namespace
+
+MacroFinder::MacroFinder(std::string_view text)
+    : m_text(text)
+{
+    search(0);
+}
+
+void MacroFinder::search(std::size_t from)
+{
+    for (std::size_t at = Wide::findMacroHint(m_text, from); at < m_text.size();
+         at = Wide::findMacroHint(m_text, at + 1)) {
+        const bool hit = m_text[at] == '\\' ? continuesWord(m_text, at) : endsBeginning(m_text, at);
+        if (hit && takeWordAround(at) && m_macro.begin >= from)
+            return;
+    }
+    m_macro = {TokenKind::EndOfFile, m_text.size(), m_text.size()};
+}
+
+bool MacroFinder::takeWordAround(std::size_t at)
+{
+    const std::size_t begin = Lexis::wordBegin(m_text, at, 0);
+    const std::size_t end = Lexis::wordEnd(m_text, begin);
+    const std::string_view word = m_text.substr(begin, end - begin);
+    const bool broken = word.find('\\') != std::string_view::npos;
+    const TokenKind kind = broken ? classifyWord(Lexis::spelling(word)) : classifyWord(word);
+    if (!isMacro(kind))
+        return false;
+    m_macro = {kind, begin, end};
+    return true;
+}
+
+bool namesMacro(std::string_view text)
+{
+    return isMacro(MacroFinder(text).next(0).kind);
+}
+
+} // namespace Scan

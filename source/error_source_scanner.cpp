@@ -1,0 +1,74 @@
+#include "error_source_scanner.h"
+
+#include "error_source_text.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+
+namespace Scan {
+
+namespace {
+
+Q_LOGGING_CATEGORY(scannerLog, "nvx.scanner", QtWarningMsg)
+
+Parser::Trace traceToLog()
+{
+    if (!scannerLog().isDebugEnabled())
+        return {};
+    return [](const QString &line) { qCDebug(scannerLog).noquote() << line; };
+}
+
+std::string_view viewOf(const QByteArray &bytes)
+{
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+} // namespace
+
+void KeySets::insert(CallFamily family, const Clt::MessageKey &key)
+{
+    m_sets[static_cast<std::size_t>(family)].insert(key);
+}
+
+QSet<Clt::MessageKey> KeySets::all() const
+{
+    QSet<Clt::MessageKey> keys;
+    for (const QSet<Clt::MessageKey> &set : m_sets)
+        keys.unite(set);
+    return keys;
+}
+
+SourceScanner::SourceScanner(const QString &process, const QString &fileName)
+    : m_process(process)
+    , m_fileName(fileName)
+{
+}
+
+bool SourceScanner::scan()
+{
+    m_keys = KeySets();
+    m_errorText.clear();
+    QFile file(m_fileName);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        m_errorText = QStringLiteral("Cannot open file");
+        return false;
+    }
+    const QByteArray contents = file.readAll();
+    // All encodings that are read write a macro's name in the same bytes.
+    if (namesMacro(viewOf(contents)))
+        scanText(toSourceText(contents));
+    return !hasError();
+}
+
+void SourceScanner::scanText(const QByteArray &text)
+{
+    Parser parser(viewOf(text), traceToLog());
+    if (const std::optional<SourceError> error = parser.parse()) {
+        m_errorText = error->text();
+        return;
+    }
+    for (const Call &call : parser.calls())
+        m_keys.insert(call.family, {call.tag, call.context, m_process});
+}
+
+} // namespace Scan
