@@ -22,8 +22,7 @@ public:
     {
     }
 
-    // A thread's work: files in list order until there are none left. They are not scanned further ahead of
-    // the taker than this, which bounds what is kept in memory.
+    // A thread's work: files in list order until there are none left.
     void work()
     {
         constexpr std::size_t batch = 8;

@@ -30,14 +30,6 @@ void KeySets::insert(CallFamily family, const Clt::MessageKey &key)
     m_sets[static_cast<std::size_t>(family)].insert(key);
 }
 
-QSet<Clt::MessageKey> KeySets::all() const
-{
-    QSet<Clt::MessageKey> keys;
-    for (const QSet<Clt::MessageKey> &set : m_sets)
-        keys.unite(set);
-    return keys;
-}
-
 SourceScanner::SourceScanner(const QString &process, const QString &fileName)
     : m_process(process)
     , m_fileName(fileName)

@@ -22,8 +22,8 @@ public:
     }
     void insert(CallFamily family, const Clt::MessageKey &key);
 
-    /// The keys of all families.
-    QSet<Clt::MessageKey> all() const;
+    /// One set for each family.
+    const std::array<QSet<Clt::MessageKey>, callFamilyCount> &sets() const { return m_sets; }
 
 private:
     std::array<QSet<Clt::MessageKey>, callFamilyCount> m_sets;

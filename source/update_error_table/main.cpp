@@ -1,0 +1,18 @@
+#include "nvx_util/terminal.h"
+#include "update_error_table/update_error_table.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include <cstdio>
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QTextStream output(stdout);
+    QTextStream errors(stderr);
+    const bool onTerminal = Nvx::Util::isStandardOutputTerminal();
+    const auto device = onTerminal ? Error::OutputDevice::Terminal : Error::OutputDevice::FileOrPipe;
+    return static_cast<int>(
+        Error::runUpdateErrorTable(QCoreApplication::arguments().mid(1), output, errors, device));
+}
