@@ -181,18 +181,21 @@ void DeclarationHead::take(const Tokenizer &token)
 // one is the parentheses around a function that returns a pointer to a function.
 void DeclarationHead::takeInGroup(const Tokenizer &token)
 {
+    const bool isFirst = m_previous == Previous::OpenGroup;
+    if (isFirst)
+        m_previous = Previous::Other;
     if (isOpening(token)) {
         ++m_groupDepth;
     } else if (isClosing(token)) {
         --m_groupDepth;
-        m_previous = Previous::CloseGroup;
-        return;
-    } else if (m_previous == Previous::OpenGroup && (token.text() == "*" || token.text() == "&")) {
+        // Brackets, those of an attribute say, may stand between a function's name and its parameters.
+        if (m_groupDepth == 0 && m_previous == Previous::Other)
+            m_previous = Previous::CloseGroup;
+    } else if (isFirst && (token.text() == "*" || token.text() == "&")) {
         m_groupDepth = 0;
         if (m_kind == Kind::Function)
             m_kind = Kind::Unknown;
     }
-    m_previous = Previous::Other;
 }
 
 void DeclarationHead::takeInAngle(const Tokenizer &token)
@@ -356,9 +359,11 @@ void DeclarationHead::takeSymbol(std::string_view symbol)
         m_angleGroupDepth = 0;
         return;
     }
-    if (symbol == "[")
+    if (symbol == "[") {
         m_groupDepth = 1;
-    else if (symbol == "=" && m_stage == Stage::Names)
+        return;
+    }
+    if (symbol == "=" && m_stage == Stage::Names)
         m_stage = Stage::Initialiser;
     else if (symbol == "->" && m_stage == Stage::Names && m_kind == Kind::Function)
         m_stage = Stage::TrailingClause;

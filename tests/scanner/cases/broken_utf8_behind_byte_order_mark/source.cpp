@@ -1,0 +1,1 @@
+ï»¿void f() { REPORT_ERROR("aÿb"); }

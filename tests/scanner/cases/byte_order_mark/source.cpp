@@ -1,0 +1,3 @@
+﻿namespace n {
+void f() { REPORT_ERROR("Tag ä"); }
+}

@@ -1,0 +1,9 @@
+namespace n {
+// c
+void f()
+{
+  REPORT_ERROR("A");
+  REPORT_ERROR("B" \
+ "C");
+}
+}

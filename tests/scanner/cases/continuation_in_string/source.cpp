@@ -1,0 +1,5 @@
+void f() {
+    REPORT_ERROR("one \
+two");
+    REPORT_ERROR("three");
+}

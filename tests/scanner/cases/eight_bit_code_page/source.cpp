@@ -1,0 +1,2 @@
+// grüße
+void f() { REPORT_ERROR("café “quoted” €"); }

@@ -1,0 +1,15 @@
+void f()
+{
+    REPORT_ERROR("A");
+    REPORT_ERROR_NOOP("B");
+    REPORT_ERROR_WITH_ARG("C", 1);
+    REPORT_ERROR_WITH_ARGS("D", 1, 2);
+    REPORT_MESSAGE("E");
+    REPORT_MESSAGE_NOOP("F");
+    REPORT_MESSAGE_WITH_ARG("G", 1);
+    REPORT_MESSAGE_WITH_ARGS("H", 1, 2);
+    ASK_QUESTION("I?", Yes | No, No);
+    ASK_QUESTION_NOOP("J?", Yes | No, No);
+    ASK_QUESTION_WITH_ARG("K?", Yes | No, No, 1);
+    ASK_QUESTION_WITH_ARGS("L?", Yes | No, No, 1, 2);
+}

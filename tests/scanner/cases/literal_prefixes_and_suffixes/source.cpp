@@ -1,0 +1,5 @@
+void f() {
+    REPORT_ERROR(L"A"); REPORT_ERROR(u8"B"); REPORT_ERROR(u"C"); REPORT_ERROR(U"D");
+    REPORT_ERROR("E"_suffix); REPORT_ERROR("F"s);
+    REPORT_ERROR(X"G"); REPORT_ERROR(u9"H");
+}

@@ -1,0 +1,4 @@
+BEGIN_PRODUCT {
+void f() { REPORT_ERROR("1"); }
+}
+void g() { REPORT_ERROR("2"); }

@@ -1,0 +1,2 @@
+void f() { REPORT_ERROR(R"(one
+two)"); }

@@ -1,0 +1,1 @@
+void f() { ASK_QUESTION("\ud83d", Yes, Yes); }

@@ -1,0 +1,4 @@
+void f() {
+
+    REPORT_ERROR_WITH_ARG("zero\0", 1);
+}

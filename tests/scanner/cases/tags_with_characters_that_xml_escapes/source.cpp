@@ -1,0 +1,1 @@
+void f() { REPORT_ERROR("a < b && \"c\" > 'd'"); REPORT_ERROR("tab\tline\nreturn\r"); }

@@ -1,0 +1,5 @@
+void f() {
+    REPORT_ERROR("A");
+    g = R"x(open)y";
+    REPORT_ERROR("B");
+}

@@ -1,0 +1,1 @@
+void f() { REPORT_ERROR("Grüße 漢字"); }

@@ -1,0 +1,1 @@
+void f() { REPORT_ERROR_WITH_ARG(tag, 1); }
