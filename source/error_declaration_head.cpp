@@ -115,7 +115,7 @@ void DeclarationHead::reset(std::string_view enclosingClass)
 
 void DeclarationHead::blockClosed()
 {
-    m_previous = Previous::Other;
+    m_previous = Previous::CloseBlock;
     m_requiresExpression = false;
 }
 
@@ -181,8 +181,8 @@ void DeclarationHead::take(const Tokenizer &token)
 // one is the parentheses around a function that returns a pointer to a function.
 void DeclarationHead::takeInGroup(const Tokenizer &token)
 {
-    const bool isFirst = m_previous == Previous::OpenGroup;
-    if (isFirst)
+    const bool isFirstParameter = m_previous == Previous::OpenParameters;
+    if (isFirstParameter || m_previous == Previous::OpenGroup)
         m_previous = Previous::Other;
     if (isOpening(token)) {
         ++m_groupDepth;
@@ -191,10 +191,9 @@ void DeclarationHead::takeInGroup(const Tokenizer &token)
         // Brackets, those of an attribute say, may stand between a function's name and its parameters.
         if (m_groupDepth == 0 && m_previous == Previous::Other)
             m_previous = Previous::CloseGroup;
-    } else if (isFirst && (token.text() == "*" || token.text() == "&")) {
+    } else if (isFirstParameter && (token.text() == "*" || token.text() == "&")) {
         m_groupDepth = 0;
-        if (m_kind == Kind::Function)
-            m_kind = Kind::Unknown;
+        m_kind = Kind::Unknown;
     }
 }
 
@@ -230,6 +229,9 @@ void DeclarationHead::takeInOperator(const Tokenizer &token)
 
 void DeclarationHead::takeWord(std::string_view word)
 {
+    // What goes on behind a block does so with a sign; a word begins a declaration, whatever stood before.
+    if (m_previous == Previous::CloseBlock && m_stage != Stage::TrailingClause)
+        reset(m_enclosingClass);
     if (m_stage == Stage::Bases || m_stage == Stage::Initialiser)
         return;
     if (word == "operator" && m_stage == Stage::Names) {
@@ -378,10 +380,12 @@ void DeclarationHead::openParenthesis()
     if (behindName && m_stage == Stage::Names && m_name.count() > 0 && namesFunction()) {
         m_function = m_name;
         m_kind = Kind::Function;
+        m_previous = Previous::OpenParameters;
+    } else {
+        m_previous = Previous::OpenGroup;
     }
     m_names = 0;
     m_groupDepth = 1;
-    m_previous = Previous::OpenGroup;
 }
 
 // Whether the parentheses behind the name are a parameter list. They may as well be those of a macro before

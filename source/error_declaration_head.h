@@ -94,6 +94,8 @@ private:
         Requires,
         Using,
         OpenGroup,
+        OpenParameters,
+        CloseBlock,
         CloseGroup,
         CloseAngle,
         OperatorWord,
