@@ -2,6 +2,7 @@
 #include "error_source_scanner.h"
 #include "error_source_text.h"
 #include "support/case_folders.h"
+#include "support/file_bytes.h"
 
 #include <QTest>
 
@@ -58,6 +59,11 @@ QString parsed(const QByteArray &contents)
     return lines;
 }
 
+QByteArray contentsOf(const QString &fileName)
+{
+    return fileBytes(fileName).value_or("missing");
+}
+
 QSet<Clt::MessageKey> keysOf(const SourceScanner &scanner)
 {
     QSet<Clt::MessageKey> keys;
@@ -75,13 +81,20 @@ class TestScannerCases : public QObject
     Q_OBJECT
 
 private slots:
+    // A folder of cases that is not found must not pass as no cases at all.
+    void thereAreCases()
+    {
+        const QDir cases(QStringLiteral(CASES));
+        QVERIFY(cases.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() >= 80);
+    }
+
     void findsTheCalls_data() { addCaseRows(QStringLiteral(CASES)); }
 
     void findsTheCalls()
     {
         QFETCH(const QString, folder);
-        const QByteArray source = fileContents(folder + QStringLiteral("/source.cpp"));
-        const QByteArray expected = fileContents(folder + QStringLiteral("/expected.txt"));
+        const QByteArray source = contentsOf(folder + QStringLiteral("/source.cpp"));
+        const QByteArray expected = contentsOf(folder + QStringLiteral("/expected.txt"));
         QCOMPARE(parsed(source), QString::fromUtf8(expected));
     }
 
@@ -91,7 +104,7 @@ private slots:
     {
         QFETCH(const QString, folder);
         const QString fileName = folder + QStringLiteral("/source.cpp");
-        const QByteArray text = toSourceText(fileContents(fileName));
+        const QByteArray text = toSourceText(contentsOf(fileName));
         Parser parser({text.constData(), static_cast<std::size_t>(text.size())});
         const auto error = parser.parse();
         QSet<Clt::MessageKey> keys;
@@ -109,8 +122,8 @@ private slots:
     void keysStandWhateverGarbageFollows()
     {
         QFETCH(const QString, folder);
-        const QByteArray source = fileContents(folder + QStringLiteral("/source.cpp"));
-        const QString expected = QString::fromUtf8(fileContents(folder + QStringLiteral("/expected.txt")));
+        const QByteArray source = contentsOf(folder + QStringLiteral("/source.cpp"));
+        const QString expected = QString::fromUtf8(contentsOf(folder + QStringLiteral("/expected.txt")));
         const QByteArray endings[] = {"\n} } ) \" ' /*", "\n#else\n#endif\n}}}", "\nREPORT_ERROR(",
                                       "\n{ ( [ <"};
         for (const QByteArray &ending : endings)

@@ -1,0 +1,1 @@
+void g() { REPORT_ERROR("G"); }

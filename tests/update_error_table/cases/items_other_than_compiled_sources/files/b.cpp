@@ -1,0 +1,1 @@
+void b() { REPORT_ERROR("B"); }

@@ -1,0 +1,1 @@
+void f() { REPORT_ERROR("B"); REPORT_MESSAGE("D"); }

@@ -1,0 +1,1 @@
+void a() { REPORT_ERROR("Z"); }

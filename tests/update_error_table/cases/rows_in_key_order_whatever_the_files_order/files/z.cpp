@@ -1,0 +1,1 @@
+void z() { REPORT_ERROR("B"); REPORT_ERROR("A"); }

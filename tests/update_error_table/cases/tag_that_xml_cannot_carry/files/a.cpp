@@ -1,0 +1,5 @@
+void f()
+{
+    REPORT_ERROR("fine");
+    REPORT_ERROR("\x01");
+}

@@ -1,0 +1,1 @@
+void f() { REPORT_ERROR("a < \"b\" & c"); }

@@ -1,0 +1,115 @@
+#include "support/file_bytes.h"
+#include "support/test_folder.h"
+
+#include <QProcess>
+#include <QTest>
+
+#include <memory>
+
+/// The real program, started with its output in pipes.
+class TestUpdateErrorTableProgram : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<TestFolder>();
+        QVERIFY(
+            writeFile(m_folder->path(QStringLiteral("p.vcxproj")),
+                      "<Project><PropertyGroup Label=\"Globals\"><RootNamespace>new_client</RootNamespace>"
+                      "</PropertyGroup><ItemGroup><ClCompile Include=\"gr\xC3\xBC\xC3\x9F"
+                      "e.cpp\"/><ClCompile Include=\"gone.cpp\"/></ItemGroup></Project>"));
+        QVERIFY(writeFile(m_folder->path(QString::fromUtf8("gr\xC3\xBC\xC3\x9F"
+                                                           "e.cpp")),
+                          "void f() { REPORT_ERROR(\"Tag\"); }\n"));
+    }
+
+    void tellsItsWorkOnTheStandardOutputAndSkippedFilesOnStandardError()
+    {
+        const QString table = QString::fromUtf8("t\xC3\xA4"
+                                                "ble.xml");
+        run({QStringLiteral("-sync"), table, QStringLiteral("p.vcxproj")});
+
+        QCOMPARE(m_process.exitCode(), 0);
+        QCOMPARE(output(), QString::fromUtf8("Scanning...\n"
+                                             "  gr\xC3\xBC\xC3\x9F"
+                                             "e.cpp\n"
+                                             "  gone.cpp\n"
+                                             "Parser error: Cannot open file\n"
+                                             "Found 1 keys (1 new, 0 existing, and 0 obsolete)\n"
+                                             "Saving message table \"t\xC3\xA4"
+                                             "ble.xml\"...\n"));
+        QCOMPARE(errors(), QStringLiteral("1 source file could not be scanned and was skipped\n"));
+        const QByteArray written = fileBytes(m_folder->path(table)).value_or("missing");
+        QVERIFY2(written.contains("<process>client</process>"), written.constData());
+    }
+
+    void writesNoProgressIntoAPipe()
+    {
+        run({QStringLiteral("-sync"), QStringLiteral("t.xml"), QStringLiteral("p.vcxproj")});
+        const QByteArray bytes = m_output;
+        QVERIFY(!QString::fromUtf8(bytes).contains(QStringLiteral("Scanned")));
+        QVERIFY(!QByteArray(bytes).replace("\r\n", "\n").contains('\r'));
+    }
+
+    void endsWithOneWhenTheOperationFails()
+    {
+        run({QStringLiteral("-sync"), QStringLiteral("t.xml"), QStringLiteral("no.vcxproj")});
+        QCOMPARE(m_process.exitCode(), 1);
+        QCOMPARE(output(), QStringLiteral("Could not find Visual Studio project file \"no.vcxproj\"\n"));
+    }
+
+    void endsWithTwoAndTheUsageOnStandardErrorForWrongArguments()
+    {
+        run({QStringLiteral("-sync")});
+        QCOMPARE(m_process.exitCode(), 2);
+        QCOMPARE(output(), QString());
+        QVERIFY(errors().startsWith(QStringLiteral("Usage: UpdateErrorTable [options]\n\noptions:\n")));
+    }
+
+    void tellsTheUsageOnTheStandardOutputWhenAsked()
+    {
+        run({QStringLiteral("-h")});
+        QCOMPARE(m_process.exitCode(), 0);
+        QCOMPARE(
+            output(),
+            QStringLiteral("Usage: UpdateErrorTable [options]\n"
+                           "\n"
+                           "options:\n"
+                           "  -sync <error_table> <vcproj>   synchronize error table with source code\n"
+                           "  -tr <error_table> <ts>         synchronize translation table with error table\n"
+                           "  -h                             show this message and exit\n"));
+        QCOMPARE(errors(), QString());
+    }
+
+private:
+    void run(const QStringList &arguments)
+    {
+        m_process.setWorkingDirectory(m_folder->path());
+        m_process.start(QStringLiteral(UPDATE_ERROR_TABLE), arguments);
+        QVERIFY(m_process.waitForFinished());
+        QCOMPARE(m_process.exitStatus(), QProcess::NormalExit);
+        m_output = m_process.readAllStandardOutput();
+        m_errors = m_process.readAllStandardError();
+    }
+
+    // The texts with the line ends of every system as "\n".
+    QString output() const
+    {
+        return QString::fromUtf8(m_output).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    }
+    QString errors() const
+    {
+        return QString::fromUtf8(m_errors).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    }
+
+    std::unique_ptr<TestFolder> m_folder;
+    QProcess m_process;
+    QByteArray m_output;
+    QByteArray m_errors;
+};
+
+QTEST_GUILESS_MAIN(TestUpdateErrorTableProgram)
+
+#include "tst_update_error_table_program.moc"
