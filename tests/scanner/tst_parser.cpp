@@ -1,0 +1,111 @@
+#include "error_source_parser.h"
+
+#include <QTest>
+
+using namespace Scan;
+
+namespace {
+
+QStringList traceOf(std::string_view text)
+{
+    QStringList lines;
+    Parser parser(text, [&lines](const QString &line) { lines.append(line); });
+    parser.parse();
+    return lines;
+}
+
+} // namespace
+
+class TestParser : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tracesNamespacesScopesAndKeys()
+    {
+        QCOMPARE(
+            traceOf("using namespace A::B;\n"
+                    "namespace N {\n"
+                    "void C::f()\n"
+                    "{ if (x) { }\n"
+                    "REPORT_ERROR(\"Tag\"); }\n"
+                    "// REPORT_ERROR\n"
+                    "}\n"),
+            QStringList({QStringLiteral("using A::B"), QStringLiteral("namespace N"),
+                         QStringLiteral("LeftBrace N depth=1"), QStringLiteral("LeftBrace N::C::f depth=2"),
+                         QStringLiteral("LeftBrace N::C::f depth=3"),
+                         QStringLiteral("RightBrace N::C::f depth=2"), QStringLiteral("Key N::C::f Tag 5"),
+                         QStringLiteral("RightBrace N depth=1"), QStringLiteral("RightBrace  depth=0")}));
+    }
+
+    void tracesTokensThatItDoesNotExpect_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("brace") << QByteArray("\n} // REPORT_ERROR")
+                               << QStringLiteral("UNKNOWN TOKEN RightBrace 2");
+        QTest::newRow("macro without call")
+            << QByteArray("REPORT_ERROR ;") << QStringLiteral("UNKNOWN TOKEN Semicolon 1");
+        QTest::newRow("else") << QByteArray("#else\n// REPORT_ERROR")
+                              << QStringLiteral("UNKNOWN TOKEN Other 1");
+        QTest::newRow("short question") << QByteArray("void f() { ASK_QUESTION(\"A\", Yes); }")
+                                        << QStringLiteral("UNKNOWN TOKEN RightParen 1");
+    }
+
+    void tracesTokensThatItDoesNotExpect()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const QString, line);
+        const std::string source = text.toStdString();
+        QVERIFY2(traceOf(source).contains(line), qPrintable(traceOf(source).join(u'\n')));
+    }
+
+    void usedNamespacesAreTaken()
+    {
+        Parser parser("using namespace A;\nnamespace N { using namespace B :: C; using D::e; }\n"
+                      "void f() { using namespace E; REPORT_ERROR(\"Tag\"); }");
+        QVERIFY(!parser.parse());
+        QCOMPARE(parser.usedNamespaces(),
+                 (std::vector<QString>{QStringLiteral("A"), QStringLiteral("B::C")}));
+    }
+
+    void errorNamesTheLine()
+    {
+        Parser parser("\n\nvoid f() { REPORT_ERROR(\"\\v\"); }");
+        const auto error = parser.parse();
+        QVERIFY(error);
+        QCOMPARE(error->line, 3);
+        QCOMPARE(error->text(), QStringLiteral("Tag with a character that XML cannot carry (line 3)"));
+    }
+
+    void errorInAContextNamesTheLine()
+    {
+        Parser parser("void f\xEF\xBF\xBE() {\nREPORT_ERROR(\"Tag\"); }");
+        const auto error = parser.parse();
+        QVERIFY(error);
+        QCOMPARE(error->text(), QStringLiteral("Context with a character that XML cannot carry (line 2)"));
+    }
+
+    void readsOnlyAsFarAsThereAreMacroNames()
+    {
+        Parser parser("using namespace A; void f() { REPORT_ERROR(\"Tag\"); } using namespace B;");
+        QVERIFY(!parser.parse());
+        QCOMPARE(parser.usedNamespaces(), std::vector<QString>{QStringLiteral("A")});
+    }
+
+    // Conditionals and scopes without end must not cost more than their number.
+    void deepNestingIsReadInTimeThatGrowsWithIt()
+    {
+        std::string text;
+        for (int i = 0; i < 100'000; ++i)
+            text += "namespace a { class B {\n#if X\n";
+        text += "void f() { ASK_QUESTION(\"A\", Yes, No); }";
+        Parser parser(text);
+        QVERIFY(!parser.parse());
+        QCOMPARE(parser.calls().size(), std::size_t(1));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestParser)
+
+#include "tst_parser.moc"

@@ -1,0 +1,131 @@
+#include "error_source_scanner.h"
+#include "support/file_bytes.h"
+#include "support/test_folder.h"
+
+#include <QLoggingCategory>
+#include <QTest>
+
+using namespace Scan;
+
+class TestScanFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        for (int i = 0; i < fileCount; ++i) {
+            const QString fileName = m_folder.path(QStringLiteral("%1.cpp").arg(i));
+            const QByteArray filler(i % 7 == 0 ? 200'000 : 10, ' ');
+            QVERIFY(writeFile(fileName,
+                              filler + "void f() { REPORT_ERROR(\"" + QByteArray::number(i) + "\"); }\n"));
+            m_fileNames.append(fileName);
+        }
+    }
+
+    void resultsComeInListOrder_data()
+    {
+        QTest::addColumn<int>("threads");
+        QTest::newRow("one thread") << 1;
+        QTest::newRow("two threads") << 2;
+        QTest::newRow("nine threads") << 9;
+        QTest::newRow("as many threads as processors") << 0;
+    }
+
+    void resultsComeInListOrder()
+    {
+        QFETCH(const int, threads);
+        QStringList tags;
+        QList<qsizetype> indices;
+        const auto receive = [&](qsizetype index, const SourceScanner &scanner) {
+            indices.append(index);
+            for (const Clt::MessageKey &key : scanner.keys().keys(CallFamily::Error))
+                tags.append(key.tag);
+            return Continuation::GoOn;
+        };
+        scanFiles(QStringLiteral("client"), m_fileNames, receive, threads);
+        QCOMPARE(tags.size(), fileCount);
+        for (int i = 0; i < fileCount; ++i) {
+            QCOMPARE(indices.at(i), i);
+            QCOMPARE(tags.at(i), QString::number(i));
+        }
+    }
+
+    void stopsWhenTheReceiverSaysSo()
+    {
+        int received = 0;
+        const auto receive = [&](qsizetype, const SourceScanner &) {
+            return ++received == 3 ? Continuation::Stop : Continuation::GoOn;
+        };
+        scanFiles(QStringLiteral("client"), m_fileNames, receive, 2);
+        QCOMPARE(received, 3);
+    }
+
+    void noFilesGiveNothing()
+    {
+        const auto receive = [](qsizetype, const SourceScanner &) {
+            qFatal("nothing was to be received");
+            return Continuation::GoOn;
+        };
+        scanFiles(QStringLiteral("client"), {}, receive);
+    }
+
+    void keysAreCollectedByFamily()
+    {
+        const QString fileName = m_folder.path(QStringLiteral("families.txt"));
+        QVERIFY(writeFile(
+            fileName,
+            "void f() { REPORT_ERROR(\"A\"); REPORT_ERROR_WITH_ARGS(\"B\", 1); REPORT_MESSAGE(\"C\");"
+            "REPORT_MESSAGE_WITH_ARG(\"D\", 1); ASK_QUESTION(\"E\", Ok, Ok);"
+            "ASK_QUESTION_WITH_ARG(\"F\", Ok, Ok, 1); }"));
+        SourceScanner scanner(QStringLiteral("client"), fileName);
+        QVERIFY(scanner.scan());
+        QVERIFY(!scanner.hasError());
+        const QStringList tags = {QStringLiteral("A"),         QStringLiteral("B"),
+                                  QStringLiteral("C"),         QStringLiteral("D"),
+                                  QStringLiteral("E? Ok; Ok"), QStringLiteral("F? Ok; Ok")};
+        for (int family = 0; family < tags.size(); ++family) {
+            const QSet<Clt::MessageKey> expected = {
+                {tags.at(family), QStringLiteral("f"), QStringLiteral("client")}};
+            QCOMPARE(scanner.keys().keys(static_cast<CallFamily>(family)), expected);
+        }
+    }
+
+    void fileThatCannotBeOpenedIsAnError()
+    {
+        SourceScanner scanner(QStringLiteral("client"), m_folder.path(QStringLiteral("no.cpp")));
+        QVERIFY(!scanner.scan());
+        QVERIFY(scanner.hasError());
+        QCOMPARE(scanner.errorText(), QStringLiteral("Cannot open file"));
+    }
+
+    void keysOfAFileWithAnErrorAreNotKept()
+    {
+        const QString fileName = m_folder.path(QStringLiteral("error.txt"));
+        QVERIFY(writeFile(fileName, "void f() { REPORT_ERROR(\"A\");\nREPORT_ERROR(\"\\1\"); }"));
+        SourceScanner scanner(QStringLiteral("client"), fileName);
+        QVERIFY(!scanner.scan());
+        QCOMPARE(scanner.errorText(), QStringLiteral("Tag with a character that XML cannot carry (line 2)"));
+        QVERIFY(scanner.keys().keys(CallFamily::Error).isEmpty());
+    }
+
+    void debugLinesOfTheCategoryTellOfKeys()
+    {
+        QLoggingCategory::setFilterRules(QStringLiteral("nvx.scanner.debug=true"));
+        QTest::ignoreMessage(QtDebugMsg, "LeftBrace f depth=1");
+        QTest::ignoreMessage(QtDebugMsg, "Key f 1 1");
+        SourceScanner scanner(QStringLiteral("client"), m_fileNames.at(1));
+        const bool scanned = scanner.scan();
+        QLoggingCategory::setFilterRules(QString());
+        QVERIFY(scanned);
+    }
+
+private:
+    static constexpr int fileCount = 60;
+    TestFolder m_folder;
+    QStringList m_fileNames;
+};
+
+QTEST_APPLESS_MAIN(TestScanFiles)
+
+#include "tst_scan_files.moc"
