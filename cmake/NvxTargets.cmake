@@ -15,7 +15,7 @@ if(WIN32)
 endif()
 if(NVX_SANITIZE)
     target_compile_options(nvx_options INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        -fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(nvx_options INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -15,7 +15,7 @@ Parser::Trace traceToLog()
 {
     if (!scannerLog().isDebugEnabled())
         return {};
-    return [](const QString &line) { qCDebug(scannerLog).noquote() << line; };
+    return [](const QString &line) { qCDebug(scannerLog, "%s", qUtf8Printable(line)); };
 }
 
 std::string_view viewOf(const QByteArray &bytes)
