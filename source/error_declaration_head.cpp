@@ -1,6 +1,7 @@
 #include "error_declaration_head.h"
 
 #include "error_source_lexis.h"
+#include "error_word_table.h"
 
 #include <algorithm>
 
@@ -8,73 +9,71 @@ namespace Scan {
 
 namespace {
 
-template<std::size_t Size>
-bool isOneOf(std::string_view word, const std::string_view (&words)[Size])
+// What a word that is no name does in a declaration.
+enum class Keyword
 {
-    return std::find(std::begin(words), std::end(words), word) != std::end(words);
-}
+    None,
+    Access, // with a colon behind it, ends what stands before
+    Catch,
+    ClassKey,
+    Enum,
+    Extern,
+    Namespace,
+    Operator,
+    Requires,
+    Specifier, // stands before or behind names, with parentheses of its own or without
+    Template,
+    Using
+};
 
-// Words that may stand before or behind a declaration's names without being one, some with parentheses of
-// their own. Those that control statements do not stand here in code that is understood.
-bool isSpecifier(std::string_view word)
-{
-    static constexpr std::string_view a[] = {"alignas", "asm"};
-    static constexpr std::string_view c[] = {"const", "constexpr", "consteval", "constinit"};
-    static constexpr std::string_view f[] = {"final", "for", "friend"};
-    static constexpr std::string_view s[] = {"static", "static_assert", "switch"};
-    static constexpr std::string_view t[] = {"throw", "try", "typedef"};
-    static constexpr std::string_view v[] = {"virtual", "volatile"};
-    static constexpr std::string_view underscore[] = {"__attribute__", "__declspec"};
-    switch (word.front()) {
-    case 'a':
-        return isOneOf(word, a);
-    case 'c':
-        return isOneOf(word, c);
-    case 'd':
-        return word == "decltype";
-    case 'e':
-        return word == "explicit";
-    case 'f':
-        return isOneOf(word, f);
-    case 'i':
-        return word == "if" || word == "inline";
-    case 'm':
-        return word == "mutable";
-    case 'n':
-        return word == "noexcept";
-    case 'o':
-        return word == "override";
-    case 's':
-        return isOneOf(word, s);
-    case 't':
-        return isOneOf(word, t);
-    case 'v':
-        return isOneOf(word, v);
-    case 'w':
-        return word == "while";
-    case '_':
-        return isOneOf(word, underscore);
-    default:
-        return false;
-    }
-}
-
-bool isAccessSpecifier(std::string_view word)
-{
-    static constexpr std::string_view p[] = {"public", "protected", "private"};
-    static constexpr std::string_view s[] = {"signals", "slots"};
-    static constexpr std::string_view q[] = {"Q_SIGNALS", "Q_SLOTS"};
-    switch (word.front()) {
-    case 'p':
-        return isOneOf(word, p);
-    case 's':
-        return isOneOf(word, s);
-    case 'Q':
-        return isOneOf(word, q);
-    default:
-        return false;
-    }
-}
+// Words that control statements do not stand in declarations that are understood.
+constexpr WordTable keywords(std::array<std::pair<std::string_view, Keyword>, 45>{{
+    {"Q_SIGNALS", Keyword::Access},
+    {"Q_SLOTS", Keyword::Access},
+    {"__attribute__", Keyword::Specifier},
+    {"__declspec", Keyword::Specifier},
+    {"alignas", Keyword::Specifier},
+    {"asm", Keyword::Specifier},
+    {"catch", Keyword::Catch},
+    {"class", Keyword::ClassKey},
+    {"const", Keyword::Specifier},
+    {"consteval", Keyword::Specifier},
+    {"constexpr", Keyword::Specifier},
+    {"constinit", Keyword::Specifier},
+    {"decltype", Keyword::Specifier},
+    {"enum", Keyword::Enum},
+    {"explicit", Keyword::Specifier},
+    {"extern", Keyword::Extern},
+    {"final", Keyword::Specifier},
+    {"for", Keyword::Specifier},
+    {"friend", Keyword::Specifier},
+    {"if", Keyword::Specifier},
+    {"inline", Keyword::Specifier},
+    {"mutable", Keyword::Specifier},
+    {"namespace", Keyword::Namespace},
+    {"noexcept", Keyword::Specifier},
+    {"operator", Keyword::Operator},
+    {"override", Keyword::Specifier},
+    {"private", Keyword::Access},
+    {"protected", Keyword::Access},
+    {"public", Keyword::Access},
+    {"requires", Keyword::Requires},
+    {"signals", Keyword::Access},
+    {"slots", Keyword::Access},
+    {"static", Keyword::Specifier},
+    {"static_assert", Keyword::Specifier},
+    {"struct", Keyword::ClassKey},
+    {"switch", Keyword::Specifier},
+    {"template", Keyword::Template},
+    {"throw", Keyword::Specifier},
+    {"try", Keyword::Specifier},
+    {"typedef", Keyword::Specifier},
+    {"union", Keyword::ClassKey},
+    {"using", Keyword::Using},
+    {"virtual", Keyword::Specifier},
+    {"volatile", Keyword::Specifier},
+    {"while", Keyword::Specifier},
+}});
 
 bool isOpening(const Tokenizer &token)
 {
@@ -234,44 +233,48 @@ void DeclarationHead::takeWord(std::string_view word)
         reset(m_enclosingClass);
     if (m_stage == Stage::Bases || m_stage == Stage::Initialiser)
         return;
-    if (word == "operator" && m_stage == Stage::Names) {
-        m_partBegin = word.data();
-        m_stage = Stage::Operator;
-        m_previous = Previous::OperatorWord;
+    switch (keywords.find(word, Keyword::None)) {
+    case Keyword::None:
+        return takeName(word);
+    case Keyword::Access:
+        m_previous = Previous::AccessSpecifier;
         return;
-    }
-    if (!takeKeyword(word))
-        takeName(word);
-}
-
-// True when the word is no name.
-bool DeclarationHead::takeKeyword(std::string_view word)
-{
-    if (word == "template") {
-        takeTemplate();
-    } else if (word == "namespace") {
-        begin(m_previous == Previous::Using ? Kind::UsingNamespace : Kind::Namespace, Previous::Specifier);
-    } else if (word == "using") {
-        begin(Kind::Unknown, Previous::Using);
-    } else if (word == "class" || word == "struct" || word == "union") {
-        takeClassKey();
-    } else if (word == "enum") {
+    case Keyword::Catch:
+        return m_kind == Kind::Unknown && m_names == 0 ? begin(Kind::CatchBlock, Previous::Specifier)
+                                                       : takeName(word);
+    case Keyword::ClassKey:
+        return takeClassKey();
+    case Keyword::Enum:
         if (m_stage == Stage::Names)
             begin(Kind::Enumeration, Previous::Specifier);
-    } else if (word == "extern") {
+        return;
+    case Keyword::Extern:
         m_previous = Previous::Extern;
-    } else if (word == "requires") {
-        takeRequires();
-    } else if (word == "catch" && m_kind == Kind::Unknown && m_names == 0) {
-        begin(Kind::CatchBlock, Previous::Specifier);
-    } else if (isAccessSpecifier(word)) {
-        m_previous = Previous::AccessSpecifier;
-    } else if (isSpecifier(word)) {
+        return;
+    case Keyword::Namespace:
+        return begin(m_previous == Previous::Using ? Kind::UsingNamespace : Kind::Namespace,
+                     Previous::Specifier);
+    case Keyword::Operator:
+        return takeOperator(word);
+    case Keyword::Requires:
+        return takeRequires();
+    case Keyword::Specifier:
         m_previous = Previous::Specifier;
-    } else {
-        return false;
+        return;
+    case Keyword::Template:
+        return takeTemplate();
+    case Keyword::Using:
+        return begin(Kind::Unknown, Previous::Using);
     }
-    return true;
+}
+
+void DeclarationHead::takeOperator(std::string_view word)
+{
+    if (m_stage != Stage::Names)
+        return takeName(word);
+    m_partBegin = word.data();
+    m_stage = Stage::Operator;
+    m_previous = Previous::OperatorWord;
 }
 
 // A new declaration seems to begin, whatever stood before: a macro without a semicolon, say.

@@ -106,7 +106,7 @@ private:
     void takeInAngle(const Tokenizer &token);
     void takeInOperator(const Tokenizer &token);
     void takeWord(std::string_view word);
-    bool takeKeyword(std::string_view word);
+    void takeOperator(std::string_view word);
     void takeClassKey();
     void takeTemplate();
     void takeRequires();

@@ -51,8 +51,7 @@ bool MacroFinder::takeWordAround(std::size_t at)
     const std::size_t begin = Lexis::wordBegin(m_text, at, 0);
     const std::size_t end = Lexis::wordEnd(m_text, begin);
     const std::string_view word = m_text.substr(begin, end - begin);
-    const bool broken = word.find('\\') != std::string_view::npos;
-    const TokenKind kind = broken ? classifyWord(Lexis::spelling(word)) : classifyWord(word);
+    const TokenKind kind = Lexis::isBroken(word) ? classifyWord(Lexis::spelling(word)) : classifyWord(word);
     if (!isMacro(kind))
         return false;
     m_macro = {kind, begin, end};

@@ -22,24 +22,23 @@ public:
     {
     }
 
-    // A thread's work: files in list order until there are none left.
+    // A thread's work: batches of files, in list order, until there are none left.
     void work()
     {
-        constexpr std::size_t batch = 8;
-        for (;;) {
-            const std::optional<std::size_t> first = claim(batch);
-            if (!first)
-                return;
-            const std::size_t end = std::min(*first + batch, m_finished.size());
-            for (std::size_t index = *first; index < end; ++index)
-                scan(index);
+        while (const std::optional<Batch> batch = claim()) {
+            std::vector<SourceScanner> scanners;
+            for (std::size_t index = batch->first; index < batch->end; ++index) {
+                scanners.emplace_back(m_process, m_fileNames.at(static_cast<qsizetype>(index)));
+                scanners.back().scan();
+            }
+            finish(*batch, std::move(scanners));
         }
     }
 
     SourceScanner take(std::size_t index)
     {
         std::unique_lock lock(m_mutex);
-        m_finishedOne.wait(lock, [this, index] { return m_finished[index].has_value(); });
+        m_finishedSome.wait(lock, [this, index] { return m_finished[index].has_value(); });
         SourceScanner scanner = *std::move(m_finished[index]);
         m_finished[index].reset();
         return scanner;
@@ -52,29 +51,38 @@ public:
     }
 
 private:
-    std::optional<std::size_t> claim(std::size_t count)
+    struct Batch
     {
+        std::size_t first = 0;
+        std::size_t end = 0;
+    };
+
+    // Batches are small at the end, so that no thread is waited for long, and few enough before to cost
+    // nothing in themselves.
+    std::optional<Batch> claim()
+    {
+        constexpr std::size_t most = 16;
         const std::lock_guard lock(m_mutex);
         if (m_next >= m_finished.size())
             return std::nullopt;
-        const std::size_t first = m_next;
-        m_next += count;
-        return first;
+        const std::size_t left = m_finished.size() - m_next;
+        const Batch batch{m_next, m_next + std::clamp<std::size_t>(left / most, 1, most)};
+        m_next = batch.end;
+        return batch;
     }
 
-    void scan(std::size_t index)
+    void finish(const Batch &batch, std::vector<SourceScanner> scanners)
     {
-        SourceScanner scanner(m_process, m_fileNames.at(static_cast<qsizetype>(index)));
-        scanner.scan();
         const std::lock_guard lock(m_mutex);
-        m_finished[index] = std::move(scanner);
-        m_finishedOne.notify_one();
+        std::move(scanners.begin(), scanners.end(),
+                  m_finished.begin() + static_cast<std::ptrdiff_t>(batch.first));
+        m_finishedSome.notify_one();
     }
 
     QString m_process;
     const QStringList &m_fileNames;
     std::mutex m_mutex;
-    std::condition_variable m_finishedOne;
+    std::condition_variable m_finishedSome;
     std::vector<std::optional<SourceScanner>> m_finished;
     std::size_t m_next = 0;
 };

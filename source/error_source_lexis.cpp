@@ -3,42 +3,10 @@
 #include "error_wide_scan.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Scan::Lexis {
 
 namespace {
-
-enum ByteClass : unsigned char
-{
-    Plain = 0,
-    WordByte = 1,
-    Digit = 2,
-    Blank = 4
-};
-
-constexpr std::array<unsigned char, 256> makeClasses()
-{
-    std::array<unsigned char, 256> classes = {};
-    for (std::size_t byte = 0; byte < classes.size(); ++byte) {
-        const bool digit = byte >= '0' && byte <= '9';
-        const bool letter = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-        if (digit)
-            classes[byte] = WordByte | Digit;
-        else if (letter || byte == '_' || byte == '$' || byte >= 0x80)
-            classes[byte] = WordByte;
-        else if (byte == ' ' || (byte >= '\t' && byte <= '\r'))
-            classes[byte] = Blank;
-    }
-    return classes;
-}
-
-constexpr std::array<unsigned char, 256> classes = makeClasses();
-
-bool hasClass(char byte, ByteClass wanted)
-{
-    return (classes[static_cast<unsigned char>(byte)] & wanted) != 0;
-}
 
 std::size_t lineCommentEnd(std::string_view text, std::size_t from)
 {
@@ -118,16 +86,6 @@ std::optional<Literal> rawLiteral(std::string_view text, std::size_t quote)
 }
 
 } // namespace
-
-bool isWordByte(char byte)
-{
-    return hasClass(byte, WordByte);
-}
-
-bool isDigit(char byte)
-{
-    return hasClass(byte, Digit);
-}
 
 std::size_t continuationLength(std::string_view text, std::size_t at)
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -9,16 +11,58 @@
 /// answered lie within the text or at its end; something left open at the end of the text ends there.
 namespace Scan::Lexis {
 
-/// A letter, a digit, "_", "$", or a byte of a character beyond ASCII.
-bool isWordByte(char byte);
+enum ByteClass : unsigned char
+{
+    WordByte = 1,
+    Digit = 2,
+    Blank = 4
+};
 
-bool isDigit(char byte);
+constexpr std::array<unsigned char, 256> makeByteClasses()
+{
+    std::array<unsigned char, 256> classes = {};
+    for (std::size_t byte = 0; byte < classes.size(); ++byte) {
+        const bool digit = byte >= '0' && byte <= '9';
+        const bool letter = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
+        if (digit)
+            classes[byte] = WordByte | Digit;
+        else if (letter || byte == '_' || byte == '$' || byte >= 0x80)
+            classes[byte] = WordByte;
+        else if (byte == ' ' || (byte >= '\t' && byte <= '\r'))
+            classes[byte] = Blank;
+    }
+    return classes;
+}
+
+inline constexpr std::array<unsigned char, 256> byteClasses = makeByteClasses();
+
+constexpr bool hasClass(char byte, ByteClass wanted)
+{
+    return (byteClasses[static_cast<unsigned char>(byte)] & wanted) != 0;
+}
+
+/// A letter, a digit, "_", "$", or a byte of a character beyond ASCII.
+constexpr bool isWordByte(char byte)
+{
+    return hasClass(byte, WordByte);
+}
+
+constexpr bool isDigit(char byte)
+{
+    return hasClass(byte, Digit);
+}
 
 /// The length of the line continuation (a backslash and a line end) at the position; 0 when there is none.
 std::size_t continuationLength(std::string_view text, std::size_t at);
 
 /// The end of the word that begins at the position. A line continuation within a word belongs to it.
 std::size_t wordEnd(std::string_view text, std::size_t begin);
+
+/// True when there is a line continuation within the word.
+inline bool isBroken(std::string_view word)
+{
+    return std::find(word.begin(), word.end(), '\\') != word.end();
+}
 
 /// The beginning of the word that ends at the position; floor is the least answer.
 std::size_t wordBegin(std::string_view text, std::size_t end, std::size_t floor);

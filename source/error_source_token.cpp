@@ -1,8 +1,9 @@
 #include "error_source_token.h"
 
+#include "error_word_table.h"
+
 #include <QString>
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -10,9 +11,11 @@ namespace Scan {
 
 namespace {
 
-using Word = std::pair<std::string_view, TokenKind>;
-
-constexpr std::array<Word, 12> macros = {{
+constexpr WordTable words(std::array<std::pair<std::string_view, TokenKind>, 19>{{
+    {"ASK_QUESTION", TokenKind::AskQuestion},
+    {"ASK_QUESTION_NOOP", TokenKind::AskQuestion},
+    {"ASK_QUESTION_WITH_ARG", TokenKind::AskQuestionWithArg},
+    {"ASK_QUESTION_WITH_ARGS", TokenKind::AskQuestionWithArgs},
     {"REPORT_ERROR", TokenKind::ReportError},
     {"REPORT_ERROR_NOOP", TokenKind::ReportError},
     {"REPORT_ERROR_WITH_ARG", TokenKind::ReportErrorWithArg},
@@ -21,29 +24,14 @@ constexpr std::array<Word, 12> macros = {{
     {"REPORT_MESSAGE_NOOP", TokenKind::ReportMessage},
     {"REPORT_MESSAGE_WITH_ARG", TokenKind::ReportMessageWithArg},
     {"REPORT_MESSAGE_WITH_ARGS", TokenKind::ReportMessageWithArgs},
-    {"ASK_QUESTION", TokenKind::AskQuestion},
-    {"ASK_QUESTION_NOOP", TokenKind::AskQuestion},
-    {"ASK_QUESTION_WITH_ARG", TokenKind::AskQuestionWithArg},
-    {"ASK_QUESTION_WITH_ARGS", TokenKind::AskQuestionWithArgs},
-}};
-
-constexpr std::array<Word, 7> keywords = {{
-    {"namespace", TokenKind::Namespace},
-    {"using", TokenKind::Using},
     {"class", TokenKind::Other},
     {"enum", TokenKind::Other},
     {"for", TokenKind::Other},
+    {"namespace", TokenKind::Namespace},
     {"struct", TokenKind::Other},
+    {"using", TokenKind::Using},
     {"while", TokenKind::Other},
-}};
-
-template<std::size_t Size>
-TokenKind find(const std::array<Word, Size> &words, std::string_view word)
-{
-    const auto *const found =
-        std::find_if(words.begin(), words.end(), [word](const Word &entry) { return entry.first == word; });
-    return found == words.end() ? TokenKind::Identifier : found->second;
-}
+}});
 
 } // namespace
 
@@ -89,23 +77,7 @@ QString displayName(TokenKind kind)
 
 TokenKind classifyWord(std::string_view word)
 {
-    if (word.empty())
-        return TokenKind::Identifier;
-    switch (word.front()) {
-    case 'A':
-    case 'R':
-        return find(macros, word);
-    case 'c':
-    case 'e':
-    case 'f':
-    case 'n':
-    case 's':
-    case 'u':
-    case 'w':
-        return find(keywords, word);
-    default:
-        return TokenKind::Identifier;
-    }
+    return words.find(word, TokenKind::Identifier);
 }
 
 } // namespace Scan

@@ -109,8 +109,7 @@ void Tokenizer::takeWord(std::size_t begin)
     const MacroFinder::Macro &macro = m_macros.next(begin);
     if (macro.begin == begin)
         return take(macro.kind, begin, end);
-    const bool broken = word.find('\\') != std::string_view::npos;
-    take(broken ? classifyWord(Lexis::spelling(word)) : classifyWord(word), begin, end);
+    take(Lexis::isBroken(word) ? classifyWord(Lexis::spelling(word)) : classifyWord(word), begin, end);
     if (m_kind == TokenKind::Identifier)
         m_identifier = word;
 }

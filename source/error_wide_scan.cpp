@@ -42,6 +42,13 @@ unsigned bits(Lane lane)
     return static_cast<unsigned>(_mm_movemask_epi8(lane));
 }
 
+std::size_t countEqual(Lane lane, char byte)
+{
+    const Lane ones = _mm_and_si128(equals(lane, byte), _mm_set1_epi8(1));
+    const Lane sums = _mm_sad_epu8(ones, _mm_setzero_si128());
+    return static_cast<std::size_t>(_mm_cvtsi128_si32(sums) + _mm_extract_epi16(sums, 4));
+}
+
 #else
 
 // One byte at a time, by the same expressions.
@@ -72,6 +79,11 @@ Lane both(Lane left, Lane right)
 unsigned bits(Lane lane)
 {
     return lane;
+}
+
+std::size_t countEqual(Lane lane, char byte)
+{
+    return equals(lane, byte);
 }
 
 #endif
@@ -136,9 +148,9 @@ std::size_t countLineFeeds(std::string_view text)
     std::size_t count = 0;
     std::size_t at = 0;
     for (; text.size() - at >= width; at += width)
-        count += static_cast<std::size_t>(__builtin_popcount(bits(equals(load(text.data() + at), '\n'))));
-    return count + static_cast<std::size_t>(
-                       std::count(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), '\n'));
+        count += countEqual(load(text.data() + at), '\n');
+    const std::string_view rest = text.substr(at);
+    return count + static_cast<std::size_t>(std::count(rest.begin(), rest.end(), '\n'));
 }
 
 std::size_t findCommentEnd(std::string_view text, std::size_t from)
