@@ -195,7 +195,7 @@ std::size_t characterLiteralEnd(std::string_view text, std::size_t quote)
 std::size_t singleQuoteEnd(std::string_view text, std::size_t quote, std::size_t floor)
 {
     const std::size_t begin = wordBegin(text, quote, floor);
-    const bool afterNumber = begin < quote && hasClass(text[begin], Digit);
+    const bool afterNumber = quote > floor && isWordByte(text[quote - 1]) && isDigit(text[begin]);
     if (afterNumber && quote + 1 < text.size() && hasClass(text[quote + 1], WordByte))
         return numberEnd(text, quote + 1);
     return characterLiteralEnd(text, quote);
