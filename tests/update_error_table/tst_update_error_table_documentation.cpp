@@ -1,0 +1,94 @@
+#include "support/file_bytes.h"
+#include "support/test_folder.h"
+#include "update_error_table/command_line.h"
+#include "update_error_table/update_error_table.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTextStream>
+
+namespace {
+
+// A block of the document that a remark before it says something about.
+struct Block
+{
+    QString what; ///< "file" or "output"
+    QString name; ///< the file's name or the arguments
+    QString text;
+};
+
+QList<Block> blocksOf(const QString &document)
+{
+    static const QRegularExpression block(
+        QStringLiteral("<!-- (file|output): (.*) -->\n```[a-z]*\n((?:.*\n)*?)```\n"));
+    QList<Block> blocks;
+    for (auto found = block.globalMatch(document); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        blocks.append({match.captured(1), match.captured(2), match.captured(3)});
+    }
+    return blocks;
+}
+
+QString outputOf(const QStringList &arguments)
+{
+    QString text;
+    QString errors;
+    QTextStream output(&text);
+    QTextStream errorOutput(&errors);
+    runUpdateErrorTable(arguments, output, errorOutput, Error::OutputDevice::FileOrPipe);
+    return text + errors;
+}
+
+} // namespace
+
+/// What docs/update-error-table.md shows is what the program does.
+class TestDocumentation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        const QByteArray bytes = fileLines(QStringLiteral(DOCUMENT)).value_or("missing");
+        m_document = QString::fromUtf8(bytes);
+    }
+
+    void showsTheUsage()
+    {
+        QString usage = Error::usageText();
+        static const QRegularExpression lineBegin(QStringLiteral("^(?=.)"),
+                                                  QRegularExpression::MultilineOption);
+        QVERIFY(m_document.contains(usage.replace(lineBegin, QStringLiteral("    "))));
+    }
+
+    void examplesGiveTheOutputShown()
+    {
+        const TestFolder folder;
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder.path()));
+        int outputs = 0;
+        for (const Block &block : blocksOf(m_document)) {
+            if (block.what == QLatin1String("file")) {
+                QVERIFY(QDir().mkpath(QFileInfo(block.name).path()));
+                QVERIFY(writeFile(block.name, block.text.toUtf8()));
+                continue;
+            }
+            ++outputs;
+            QCOMPARE(outputOf(block.name.split(u' ')), block.text);
+        }
+        const QByteArray table = fileBytes(QStringLiteral("errors.xml")).value_or("missing");
+        QDir::setCurrent(before);
+        QCOMPARE(outputs, 3);
+        QCOMPARE(table.count("<process>client</process>"), 3);
+        QCOMPARE(table.count("<context>Flow::Solver::start</context>"), 3);
+        QVERIFY(table.contains("<tag>Start the analysis? Yes, No; No</tag>"));
+    }
+
+private:
+    QString m_document;
+};
+
+QTEST_GUILESS_MAIN(TestDocumentation)
+
+#include "tst_update_error_table_documentation.moc"
