@@ -1,79 +1,13 @@
 #include "error_declaration_head.h"
 
+#include "error_declaration_keyword.h"
 #include "error_source_lexis.h"
-#include "error_word_table.h"
 
 #include <algorithm>
 
 namespace Scan {
 
 namespace {
-
-// What a word that is no name does in a declaration.
-enum class Keyword
-{
-    None,
-    Access, // with a colon behind it, ends what stands before
-    Catch,
-    ClassKey,
-    Enum,
-    Extern,
-    Namespace,
-    Operator,
-    Requires,
-    Specifier, // stands before or behind names, with parentheses of its own or without
-    Template,
-    Using
-};
-
-// Words that control statements do not stand in declarations that are understood.
-constexpr WordTable keywords(std::array<std::pair<std::string_view, Keyword>, 45>{{
-    {"Q_SIGNALS", Keyword::Access},
-    {"Q_SLOTS", Keyword::Access},
-    {"__attribute__", Keyword::Specifier},
-    {"__declspec", Keyword::Specifier},
-    {"alignas", Keyword::Specifier},
-    {"asm", Keyword::Specifier},
-    {"catch", Keyword::Catch},
-    {"class", Keyword::ClassKey},
-    {"const", Keyword::Specifier},
-    {"consteval", Keyword::Specifier},
-    {"constexpr", Keyword::Specifier},
-    {"constinit", Keyword::Specifier},
-    {"decltype", Keyword::Specifier},
-    {"enum", Keyword::Enum},
-    {"explicit", Keyword::Specifier},
-    {"extern", Keyword::Extern},
-    {"final", Keyword::Specifier},
-    {"for", Keyword::Specifier},
-    {"friend", Keyword::Specifier},
-    {"if", Keyword::Specifier},
-    {"inline", Keyword::Specifier},
-    {"mutable", Keyword::Specifier},
-    {"namespace", Keyword::Namespace},
-    {"noexcept", Keyword::Specifier},
-    {"operator", Keyword::Operator},
-    {"override", Keyword::Specifier},
-    {"private", Keyword::Access},
-    {"protected", Keyword::Access},
-    {"public", Keyword::Access},
-    {"requires", Keyword::Requires},
-    {"signals", Keyword::Access},
-    {"slots", Keyword::Access},
-    {"static", Keyword::Specifier},
-    {"static_assert", Keyword::Specifier},
-    {"struct", Keyword::ClassKey},
-    {"switch", Keyword::Specifier},
-    {"template", Keyword::Template},
-    {"throw", Keyword::Specifier},
-    {"try", Keyword::Specifier},
-    {"typedef", Keyword::Specifier},
-    {"union", Keyword::ClassKey},
-    {"using", Keyword::Using},
-    {"virtual", Keyword::Specifier},
-    {"volatile", Keyword::Specifier},
-    {"while", Keyword::Specifier},
-}});
 
 bool isOpening(const Tokenizer &token)
 {
@@ -233,7 +167,7 @@ void DeclarationHead::takeWord(std::string_view word)
         reset(m_enclosingClass);
     if (m_stage == Stage::Bases || m_stage == Stage::Initialiser)
         return;
-    switch (keywords.find(word, Keyword::None)) {
+    switch (keywordOf(word)) {
     case Keyword::None:
         return takeName(word);
     case Keyword::Access:

@@ -1,12 +1,9 @@
 #include "error_source_parser.h"
 
-#include "clt_message_enumerations.h"
 #include "clt_xml_text.h"
-#include "error_string_literal.h"
 
 #include <QStringList>
 
-#include <algorithm>
 #include <utility>
 
 namespace Scan {
@@ -26,42 +23,7 @@ QString joined(std::string_view source)
     return toText(joinTokens(source));
 }
 
-bool isAnswerName(const QString &name)
-{
-    static const QStringList names = {
-        QStringLiteral("NoAnswer"), QStringLiteral("Ok"),     QStringLiteral("Yes"),    QStringLiteral("No"),
-        QStringLiteral("Abort"),    QStringLiteral("Cancel"), QStringLiteral("Discard")};
-    return names.contains(name);
-}
-
-bool namesAnswers(const QString &expression)
-{
-    const QStringList names = Clt::answerExpressionToText(expression).split(QStringLiteral(", "));
-    return std::all_of(names.begin(), names.end(), isAnswerName);
-}
-
 } // namespace
-
-CallFamily familyOf(TokenKind macro)
-{
-    switch (macro) {
-    case TokenKind::ReportErrorWithArg:
-    case TokenKind::ReportErrorWithArgs:
-        return CallFamily::ErrorWithArguments;
-    case TokenKind::ReportMessage:
-        return CallFamily::Message;
-    case TokenKind::ReportMessageWithArg:
-    case TokenKind::ReportMessageWithArgs:
-        return CallFamily::MessageWithArguments;
-    case TokenKind::AskQuestion:
-        return CallFamily::Question;
-    case TokenKind::AskQuestionWithArg:
-    case TokenKind::AskQuestionWithArgs:
-        return CallFamily::QuestionWithArguments;
-    default:
-        return CallFamily::Error;
-    }
-}
 
 QString SourceError::text() const
 {
@@ -171,85 +133,27 @@ void Parser::takeFirstArgument()
     case CallFamily::QuestionWithArguments:
         if (!isString || m_state.questions.size() == deepestQuestion)
             return;
-        OpenQuestion question;
-        question.family = family;
-        question.line = m_state.macroLine;
-        question.literals = m_tokenizer.literals();
-        question.argumentBegin = m_tokenizer.begin();
-        m_state.questions.push_back(question);
+        m_state.questions.emplace_back(family, m_state.macroLine, m_tokenizer);
         return;
     }
 }
 
+// A token that ends a question's call is one of the call around it as well.
 void Parser::takeQuestionToken()
 {
-    OpenQuestion &question = m_state.questions.back();
-    switch (m_tokenizer.kind()) {
-    case TokenKind::LeftParen:
-        ++question.parentheses;
+    const QuestionCall::Outcome outcome = m_state.questions.back().take(m_tokenizer);
+    if (outcome == QuestionCall::Outcome::GoesOn)
         return;
-    case TokenKind::RightParen:
-        if (--question.parentheses == 0)
-            endQuestion();
-        return;
-    case TokenKind::LeftBrace:
-        ++question.braces;
-        return;
-    case TokenKind::RightBrace:
-        if (question.braces == 0)
-            abandonQuestions();
-        else
-            --question.braces;
-        return;
-    case TokenKind::Other:
-        if (question.parentheses == 1 && m_tokenizer.text() == ",")
-            endArgument(question);
-        return;
-    default:
-        return;
-    }
-}
-
-void Parser::endArgument(OpenQuestion &question)
-{
-    const std::size_t end = m_tokenizer.begin();
-    const std::string_view argument = m_tokenizer.between(question.argumentBegin, end);
-    if (question.arguments == 1 || question.arguments == 2)
-        question.first[question.arguments - 1] = argument;
-    question.last = {question.last[1], argument};
-    ++question.arguments;
-    question.argumentBegin = m_tokenizer.end();
-}
-
-// A call's parentheses end the argument of the call around it as well.
-void Parser::endQuestion()
-{
-    endArgument(m_state.questions.back());
-    const OpenQuestion question = m_state.questions.back();
+    const QuestionCall question = m_state.questions.back();
     m_state.questions.pop_back();
     if (!m_state.questions.empty())
         takeQuestionToken();
-    if (question.arguments < 3)
-        return traceUnknown();
 
-    // The answers follow the question, and other arguments follow them; or the answers stand last.
-    std::array<std::string_view, 2> answers = question.first;
-    if (question.family == CallFamily::QuestionWithArguments && !namesAnswers(joined(question.first[0])) &&
-        namesAnswers(joined(question.last[0])))
-        answers = question.last;
-    const QString tag =
-        Clt::questionDisplayText(decodeLiterals(question.literals), joined(answers[0]), joined(answers[1]));
-    addCall(question.family, tag, question.line);
-}
-
-// The block around a question's call has ended before the call.
-void Parser::abandonQuestions()
-{
-    traceUnknown();
-    while (!m_state.questions.empty() && m_state.questions.back().braces == 0)
-        m_state.questions.pop_back();
-    if (!m_state.questions.empty())
-        --m_state.questions.back().braces;
+    const bool ended = outcome == QuestionCall::Outcome::Ends;
+    if (const std::optional<QString> tag = ended ? question.tag() : std::nullopt)
+        addCall(question.family(), *tag, question.line());
+    else
+        traceUnknown();
 }
 
 void Parser::takeDeclarationToken()

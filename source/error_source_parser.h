@@ -1,41 +1,18 @@
 #pragma once
 
+#include "error_call.h"
 #include "error_declaration_head.h"
+#include "error_question_call.h"
 #include "error_source_tokenizer.h"
 
 #include <QString>
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <vector>
 
 namespace Scan {
-
-/// The families of calls whose keys are collected apart.
-enum class CallFamily : std::uint8_t
-{
-    Error,
-    ErrorWithArguments,
-    Message,
-    MessageWithArguments,
-    Question,
-    QuestionWithArguments
-};
-constexpr std::size_t callFamilyCount = 6;
-
-/// The family of a macro's kind.
-CallFamily familyOf(TokenKind macro);
-
-/// A call of a reporting macro.
-struct Call
-{
-    CallFamily family = CallFamily::Error;
-    QString tag;
-    QString context; ///< the namespaces, classes and function around it; empty outside of functions
-    int line = 0;
-};
 
 /// Why a source text cannot be scanned.
 struct SourceError
@@ -96,20 +73,6 @@ private:
         Parenthesis
     };
 
-    // A question whose arguments are being read.
-    struct OpenQuestion
-    {
-        CallFamily family = CallFamily::Question;
-        int line = 0;
-        std::string_view literals;
-        std::uint32_t parentheses = 1;
-        std::uint32_t braces = 0;
-        std::uint32_t arguments = 0;           // ended ones
-        std::size_t argumentBegin = 0;         // of the one being read
-        std::array<std::string_view, 2> first; // the second and third argument
-        std::array<std::string_view, 2> last;  // the last but one and the last
-    };
-
     // All that a conditional directive's branches have a version of each.
     struct State
     {
@@ -121,7 +84,7 @@ private:
         Step step = Step::None;
         TokenKind macro = TokenKind::Other;
         int macroLine = 0;
-        std::vector<OpenQuestion> questions;
+        std::vector<QuestionCall> questions; // open ones, each within the arguments of the one before
     };
 
     struct Conditional
@@ -135,9 +98,6 @@ private:
     void takeMacroStep();
     void takeFirstArgument();
     void takeQuestionToken();
-    void endArgument(OpenQuestion &question);
-    void endQuestion();
-    void abandonQuestions();
     void takeDeclarationToken();
     void takeLeftBrace();
     void takeRightBrace();
