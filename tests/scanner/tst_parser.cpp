@@ -106,6 +106,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestParser)
+QTEST_GUILESS_MAIN(TestParser)
 
 #include "tst_parser.moc"

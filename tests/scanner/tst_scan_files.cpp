@@ -126,6 +126,6 @@ private:
     QStringList m_fileNames;
 };
 
-QTEST_APPLESS_MAIN(TestScanFiles)
+QTEST_GUILESS_MAIN(TestScanFiles)
 
 #include "tst_scan_files.moc"

@@ -131,6 +131,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestScannerCases)
+QTEST_GUILESS_MAIN(TestScannerCases)
 
 #include "tst_scanner_cases.moc"

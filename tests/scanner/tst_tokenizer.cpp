@@ -271,6 +271,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestTokenizer)
+QTEST_GUILESS_MAIN(TestTokenizer)
 
 #include "tst_tokenizer.moc"

@@ -170,6 +170,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestVisualStudioProject)
+QTEST_GUILESS_MAIN(TestVisualStudioProject)
 
 #include "tst_visual_studio_project.moc"

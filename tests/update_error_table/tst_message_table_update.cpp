@@ -118,6 +118,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestMessageTableUpdate)
+QTEST_GUILESS_MAIN(TestMessageTableUpdate)
 
 #include "tst_message_table_update.moc"

@@ -83,6 +83,6 @@ private:
     QTextStream m_stream{&m_text};
 };
 
-QTEST_APPLESS_MAIN(TestProgressLog)
+QTEST_GUILESS_MAIN(TestProgressLog)
 
 #include "tst_progress_log.moc"

@@ -65,6 +65,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestUpdateErrorTableTerminal)
+QTEST_GUILESS_MAIN(TestUpdateErrorTableTerminal)
 
 #include "tst_update_error_table_terminal.moc"
