@@ -1,8 +1,7 @@
 #include "nvx_io/nvx2_config_file.h"
 
 #include "nvx_util/conversion.h"
-
-#include <QSaveFile>
+#include "nvx_util/whole_file.h"
 
 namespace Nvx::Io {
 
@@ -18,11 +17,7 @@ bool File::saveTo(const std::string &path) const
     std::string contents;
     if (!write(contents))
         return false;
-    QSaveFile file(Util::toQString(path));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return false;
-    file.write(contents.data(), static_cast<qint64>(contents.size()));
-    return file.commit();
+    return Util::replaceWholeFile(Util::toQString(path), QByteArray::fromStdString(contents));
 }
 
 Setting &Nvx2ConfigFile::setting(const std::string &key)
@@ -39,7 +34,7 @@ bool Nvx2ConfigFile::write(std::string &contents) const
     for (const auto &[name, setting] : m_settings) {
         if (setting.value().find_first_of("\r\n") != std::string::npos)
             return false;
-        contents += Util::toQString(name + " = " + setting.value()).toUtf8().toStdString() + '\n';
+        contents += Util::toQString(name + " = " + setting.value()).toUtf8().toStdString() + "\r\n";
     }
     return true;
 }

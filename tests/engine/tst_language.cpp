@@ -164,6 +164,7 @@ private slots:
         writeFile(m_fixture->test.path(text("prepared/NVX_flags.txt")), "prepared");
         m_fixture->start(text("-I"));
         QCOMPARE(readFile(flagsFile()), QByteArray("mine"));
+        QVERIFY(m_fixture->lines().filter(text("Unable to create")).isEmpty());
     }
 
     void aPreparedFlagsFileIsCopied()

@@ -2,6 +2,7 @@
 #include "nvx_util/system.h"
 #include "run/progress_view.h"
 
+#include <QGuiApplication>
 #include <QTest>
 #include <QTimer>
 
@@ -170,6 +171,14 @@ private slots:
         QCOMPARE(m_fixture->machine.boxes.first().text, text("look"));
         QVERIFY(m_fixture->machine.boxes.first().kind == Nvx::Util::BoxKind::Information);
         QCOMPARE(m_fixture->lines().last(), text("   1 look"));
+    }
+
+    void aMessageTakesTheWaitCursorAway()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        engine.inform(1, text("look"));
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     void aMissingFlagFileIsMadeWithAnEmptyLine()

@@ -37,4 +37,8 @@ for locale in de-DE fr-FR it-IT ja-JP ko-KR ru-RU zh-CN zh-TW; do
     [ -s "$installed/bin/$locale/nvxconfig.qm" ] || fail "no translations for $locale"
     [ -s "$installed/bin/$locale/qt_${locale/-/_}.qm" ] || fail "no translations of the toolkit for $locale"
 done
+
+# The command line runs there too, with nothing else of ours in its environment.
+env -i LC_ALL=C.UTF-8 "$installed/bin/UpdateErrorTable" -h | grep -q '^Usage: UpdateErrorTable' ||
+    fail "UpdateErrorTable does not run"
 echo "the installed folder runs as it stands"

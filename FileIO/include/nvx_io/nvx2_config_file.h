@@ -36,7 +36,7 @@ protected:
 };
 
 /// The solver's configuration file: one line "key = value" for each setting, in the order in which the
-/// settings were first named, UTF-8. A value with a line break cannot be written.
+/// settings were first named, UTF-8, lines ended as on Windows. A value with a line break cannot be written.
 class Nvx2ConfigFile : public File
 {
 public:
