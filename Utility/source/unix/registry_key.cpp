@@ -1,12 +1,12 @@
 #include "nvx_util/registry_key.h"
 
 #include "nvx_util/system.h"
+#include "nvx_util/whole_file.h"
 #include "unix/machine_folder.h"
 
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <utility>
 
@@ -32,11 +32,7 @@ QJsonObject readRegistry()
 
 bool writeRegistry(const QJsonObject &registry)
 {
-    QSaveFile file(registryFile());
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(QJsonDocument(registry).toJson());
-    return file.commit();
+    return replaceWholeFile(registryFile(), QJsonDocument(registry).toJson());
 }
 
 // The name under which the object holds the key or value that is called name in any case; else name itself.
