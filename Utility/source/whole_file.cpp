@@ -9,7 +9,7 @@ namespace Nvx::Util {
 
 namespace {
 
-constexpr qint64 chunk = 64 * 1024;
+constexpr qint64 chunk = qint64{64} * 1024;
 
 bool hasContents(const QString &fileName, const QByteArray &contents)
 {

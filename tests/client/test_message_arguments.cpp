@@ -82,5 +82,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestMessageArguments)
+QTEST_GUILESS_MAIN(TestMessageArguments)
 #include "test_message_arguments.moc"

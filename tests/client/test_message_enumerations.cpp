@@ -274,5 +274,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(TestMessageEnumerations)
+QTEST_GUILESS_MAIN(TestMessageEnumerations)
 #include "test_message_enumerations.moc"

@@ -153,5 +153,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestMessageKey)
+QTEST_GUILESS_MAIN(TestMessageKey)
 #include "test_message_key.moc"

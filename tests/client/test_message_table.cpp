@@ -300,5 +300,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestMessageTable)
+QTEST_GUILESS_MAIN(TestMessageTable)
 #include "test_message_table.moc"

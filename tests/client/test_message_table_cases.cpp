@@ -31,5 +31,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestMessageTableCases)
+QTEST_GUILESS_MAIN(TestMessageTableCases)
 #include "test_message_table_cases.moc"

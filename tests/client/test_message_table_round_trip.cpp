@@ -158,5 +158,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestMessageTableRoundTrip)
+QTEST_GUILESS_MAIN(TestMessageTableRoundTrip)
 #include "test_message_table_round_trip.moc"

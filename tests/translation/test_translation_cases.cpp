@@ -71,5 +71,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestTranslationCases)
+QTEST_GUILESS_MAIN(TestTranslationCases)
 #include "test_translation_cases.moc"

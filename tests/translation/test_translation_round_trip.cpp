@@ -100,5 +100,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestTranslationRoundTrip)
+QTEST_GUILESS_MAIN(TestTranslationRoundTrip)
 #include "test_translation_round_trip.moc"

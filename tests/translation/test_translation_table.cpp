@@ -305,5 +305,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestTranslationTable)
+QTEST_GUILESS_MAIN(TestTranslationTable)
 #include "test_translation_table.moc"

@@ -100,5 +100,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestWholeFile)
+QTEST_GUILESS_MAIN(TestWholeFile)
 #include "test_whole_file.moc"

@@ -147,5 +147,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestWholeFileFullDisk)
+QTEST_GUILESS_MAIN(TestWholeFileFullDisk)
 #include "test_whole_file_full_disk.moc"
