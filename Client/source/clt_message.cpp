@@ -1,19 +1,24 @@
 #include "clt_message.h"
 
-#include <QByteArray>
 #include <QCoreApplication>
+#include <QVarLengthArray>
+
+#include <algorithm>
 
 namespace Clt {
 
 namespace {
 
-QByteArray toAscii(const QString &text)
+using AsciiText = QVarLengthArray<char, 256>;
+
+/// Ended by a NUL. On the stack mostly, for it is made for every text that is read.
+AsciiText toAscii(const QString &text)
 {
-    QByteArray ascii = text.toLatin1();
-    for (char &character : ascii) {
-        if (static_cast<unsigned char>(character) > 0x7f)
-            character = '?';
-    }
+    AsciiText ascii(text.size() + 1);
+    const auto end = std::transform(text.begin(), text.end(), ascii.begin(), [](QChar unit) {
+        return unit.unicode() < 0x80 ? static_cast<char>(unit.unicode()) : '?';
+    });
+    *end = '\0';
     return ascii;
 }
 
@@ -57,7 +62,7 @@ QString Message::logText() const
 // mutilated; the text itself is then the answer.
 QString Message::translated(const QString &text) const
 {
-    const QByteArray ascii = toAscii(text);
+    const AsciiText ascii = toAscii(text);
     const QString answer = QCoreApplication::translate(toAscii(m_key.context).constData(), ascii.constData());
     return answer == QLatin1String(ascii.constData()) ? text : answer;
 }
