@@ -40,7 +40,7 @@ void MacroFinder::search(std::size_t from)
     for (std::size_t at = Wide::findMacroHint(m_text, from); at < m_text.size();
          at = Wide::findMacroHint(m_text, at + 1)) {
         const bool hit = m_text[at] == '\\' ? continuesWord(m_text, at) : endsBeginning(m_text, at);
-        if (hit && takeWordAround(at) && m_macro.begin >= from)
+        if (hit && at >= m_examined && takeWordAround(at) && m_macro.begin >= from)
             return;
     }
     m_macro = {TokenKind::EndOfFile, m_text.size(), m_text.size()};
@@ -48,8 +48,9 @@ void MacroFinder::search(std::size_t from)
 
 bool MacroFinder::takeWordAround(std::size_t at)
 {
-    const std::size_t begin = Lexis::wordBegin(m_text, at, 0);
+    const std::size_t begin = Lexis::wordBegin(m_text, at, m_examined);
     const std::size_t end = Lexis::wordEnd(m_text, begin);
+    m_examined = end;
     const std::string_view word = m_text.substr(begin, end - begin);
     const TokenKind kind = Lexis::isBroken(word) ? classifyWord(Lexis::spelling(word)) : classifyWord(word);
     if (!isMacro(kind))

@@ -37,6 +37,7 @@ private:
 
     std::string_view m_text;
     Macro m_macro;
+    std::size_t m_examined = 0; ///< the end of the last word looked at, so that none is looked at twice
 };
 
 /// True when the text names a reporting macro anywhere.

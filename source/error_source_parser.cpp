@@ -248,7 +248,7 @@ void Parser::resetHead()
 // A tag that the message table cannot hold must not be lost unseen.
 void Parser::addCall(CallFamily family, const QString &tag, int line)
 {
-    const QString context = m_state.inFunction ? contextOf(m_state.scope) : QString();
+    const QString context = m_state.inFunction ? currentContext() : QString();
     if (!Clt::isXmlText(tag)) {
         m_error = SourceError{QStringLiteral("Tag with a character that XML cannot carry"), line};
         return;
@@ -275,6 +275,16 @@ QString Parser::contextOf(std::uint32_t scope) const
             names.prepend(joined(name[part - 1]));
     }
     return names.join(QStringLiteral("::"));
+}
+
+// The calls of one function follow each other.
+const QString &Parser::currentContext()
+{
+    if (m_contextScope != m_state.scope) {
+        m_contextScope = m_state.scope;
+        m_context = contextOf(m_state.scope);
+    }
+    return m_context;
 }
 
 QString Parser::textOf(const QualifiedName &name)

@@ -109,6 +109,7 @@ private:
 
     void addCall(CallFamily family, const QString &tag, int line);
     QString contextOf(std::uint32_t scope) const;
+    const QString &currentContext();
     static QString textOf(const QualifiedName &name);
     void traceName(TokenKind kind, const QString &name) const;
     void traceBrace() const;
@@ -118,6 +119,8 @@ private:
     Trace m_trace;
     State m_state;
     std::vector<Scope> m_scopes;
+    std::uint32_t m_contextScope = 0; // the one whose context is m_context
+    QString m_context;
     std::vector<Conditional> m_conditionals;
     std::vector<Call> m_calls;
     std::vector<QString> m_usedNamespaces;

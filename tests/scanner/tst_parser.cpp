@@ -104,6 +104,34 @@ private slots:
         QVERIFY(!parser.parse());
         QCOMPARE(parser.calls().size(), std::size_t(1));
     }
+
+    // Nor may words and calls without end.
+    void longWordsAndManyCallsAreReadInTimeThatGrowsWithThem_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("calls");
+        const QByteArray call = "REPORT_ERROR(\"A\");";
+        QTest::newRow("one word") << QByteArray("REPORT_").repeated(300'000) + ";" + call << 1;
+        QTest::newRow("one broken word") << QByteArray("REPORT_\\\n").repeated(300'000) + ";" + call << 1;
+        QTest::newRow("prefixes") << QByteArray("R\"").repeated(300'000) + "\n" + call << 1;
+        QTest::newRow("raw strings that do not end") << QByteArray("R\"x(").repeated(300'000) << 0;
+        QTest::newRow("blanks before number signs")
+            << QByteArray("      #").repeated(300'000) + "\n" + call << 1;
+        QTest::newRow("calls deep in namespaces")
+            << QByteArray("namespace a {").repeated(10'000) + "void f() {" + call.repeated(100'000)
+            << 100'000;
+        QTest::newRow("questions in questions")
+            << QByteArray("ASK_QUESTION(\"A\",").repeated(100'000) + call << 1;
+    }
+
+    void longWordsAndManyCallsAreReadInTimeThatGrowsWithThem()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const int, calls);
+        Parser parser({text.constData(), static_cast<std::size_t>(text.size())});
+        QVERIFY(!parser.parse());
+        QCOMPARE(parser.calls().size(), static_cast<std::size_t>(calls));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestParser)
