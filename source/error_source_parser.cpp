@@ -253,7 +253,7 @@ void Parser::addCall(CallFamily family, const QString &tag, int line)
         m_error = SourceError{QStringLiteral("Tag with a character that XML cannot carry"), line};
         return;
     }
-    if (!Clt::isXmlText(context)) {
+    if (!m_contextIsXml) {
         m_error = SourceError{QStringLiteral("Context with a character that XML cannot carry"), line};
         return;
     }
@@ -283,6 +283,7 @@ const QString &Parser::currentContext()
     if (m_contextScope != m_state.scope) {
         m_contextScope = m_state.scope;
         m_context = contextOf(m_state.scope);
+        m_contextIsXml = Clt::isXmlText(m_context);
     }
     return m_context;
 }

@@ -121,6 +121,7 @@ private:
     std::vector<Scope> m_scopes;
     std::uint32_t m_contextScope = 0; // the one whose context is m_context
     QString m_context;
+    bool m_contextIsXml = true;
     std::vector<Conditional> m_conditionals;
     std::vector<Call> m_calls;
     std::vector<QString> m_usedNamespaces;
