@@ -306,4 +306,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestTranslationTable)
-#include "test_translation_table.moc"
+#include "tst_translation_table.moc"

@@ -275,4 +275,4 @@ private:
 };
 
 QTEST_GUILESS_MAIN(TestMessageEnumerations)
-#include "test_message_enumerations.moc"
+#include "tst_message_enumerations.moc"

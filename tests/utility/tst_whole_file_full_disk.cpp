@@ -148,4 +148,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestWholeFileFullDisk)
-#include "test_whole_file_full_disk.moc"
+#include "tst_whole_file_full_disk.moc"

@@ -124,4 +124,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestTranslationUpdate)
-#include "test_translation_update.moc"
+#include "tst_translation_update.moc"

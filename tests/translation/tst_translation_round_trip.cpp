@@ -101,4 +101,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestTranslationRoundTrip)
-#include "test_translation_round_trip.moc"
+#include "tst_translation_round_trip.moc"

@@ -220,4 +220,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestMessage)
-#include "test_message.moc"
+#include "tst_message.moc"

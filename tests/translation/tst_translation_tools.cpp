@@ -140,4 +140,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestTranslationTools)
-#include "test_translation_tools.moc"
+#include "tst_translation_tools.moc"

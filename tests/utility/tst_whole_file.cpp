@@ -101,4 +101,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestWholeFile)
-#include "test_whole_file.moc"
+#include "tst_whole_file.moc"

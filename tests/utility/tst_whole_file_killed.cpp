@@ -63,4 +63,4 @@ int main(int argc, char *argv[])
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "test_whole_file_killed.moc"
+#include "tst_whole_file_killed.moc"

@@ -159,4 +159,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestMessageTableRoundTrip)
-#include "test_message_table_round_trip.moc"
+#include "tst_message_table_round_trip.moc"

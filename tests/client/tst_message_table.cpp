@@ -301,4 +301,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestMessageTable)
-#include "test_message_table.moc"
+#include "tst_message_table.moc"

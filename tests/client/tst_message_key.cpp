@@ -154,4 +154,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestMessageKey)
-#include "test_message_key.moc"
+#include "tst_message_key.moc"

@@ -72,4 +72,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestTranslationCases)
-#include "test_translation_cases.moc"
+#include "tst_translation_cases.moc"

@@ -32,4 +32,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestMessageTableCases)
-#include "test_message_table_cases.moc"
+#include "tst_message_table_cases.moc"

@@ -83,4 +83,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestMessageArguments)
-#include "test_message_arguments.moc"
+#include "tst_message_arguments.moc"
