@@ -87,6 +87,14 @@ private slots:
         QVERIFY(m_fixture->machine.calls.isEmpty());
     }
 
+    void aRunWithoutAModeBecomesAnInstall()
+    {
+        cfg_utilitys &engine = m_fixture->start(QString());
+        QVERIFY(engine.state().runMode == RunMode::NotGiven);
+        runPass(engine);
+        QVERIFY(engine.state().runMode == RunMode::Install);
+    }
+
     void aRunThatNeedsPagesSaysThatThereAreNone_data()
     {
         QTest::addColumn<QString>("options");

@@ -38,6 +38,7 @@ int runPasses(const cfg_utilitys &engine, const std::function<int()> &pass)
 int runPass(cfg_utilitys &engine)
 {
     const WizardPlan plan = planFor(engine.state().runMode, engine.state().silent);
+    engine.setRunMode(plan.runMode);
     switch (plan.action) {
     case WizardPlan::Action::RunSilently:
         engine.ProcessInstallation();
