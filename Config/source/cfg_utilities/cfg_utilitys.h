@@ -1,6 +1,8 @@
 #pragma once
 
+#include "cad/cad_packages.h"
 #include "nvx_util/log.h"
+#include "run/launcher_boxes.h"
 #include "run/reporter.h"
 #include "run/run_state.h"
 #include "run/step_context.h"
@@ -39,6 +41,13 @@ public:
 
     /// Where progress lines are shown from now on; null for nowhere. The view must outlive its use.
     void setProgressView(ProgressView *view) { m_progressView = view; }
+
+    /// The CAD systems found by the last search.
+    const CadPackages &cadPackages() const { return m_cadPackages; }
+
+    /// The boxes that decide which launchers are configured from now on; null for those of a run without a
+    /// page. The boxes must outlive their use.
+    void setLauncherBoxes(LauncherBoxes *boxes) { m_launcherBoxes = boxes ? boxes : &m_unshownBoxes; }
 
     /// A run is about to start: until it ends, runComplete is false.
     void clearRunComplete();
@@ -92,4 +101,7 @@ private:
     RunState m_state;
     Nvx::Util::Log m_log;
     ProgressView *m_progressView = nullptr;
+    CadPackages m_cadPackages;
+    UnshownLauncherBoxes m_unshownBoxes;
+    LauncherBoxes *m_launcherBoxes = &m_unshownBoxes;
 };
