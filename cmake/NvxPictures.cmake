@@ -1,6 +1,6 @@
 # nvx_pictures(NAME QRC): the pictures that a .qrc file lists, as a target to link. Whatever links it, also by
 # way of a static library, has them at start: the objects themselves are linked, which a linker that takes only
-# what it needs from a library would leave out.
+# what it needs from a library would leave out. It must be declared before them.
 function(nvx_pictures name qrc)
     add_library(${name}_objects OBJECT ${qrc})
     # A PNG does not become smaller, and the two builds' toolkits do not know the same ways of packing.

@@ -83,6 +83,16 @@ ProgramResult NativeMachine::run(const ProgramCall &call)
     return result;
 }
 
+bool NativeMachine::startDetached(const QString &program, const QStringList &arguments, int waitMs)
+{
+    qint64 process = 0;
+    if (!QProcess::startDetached(program, arguments, QString(), &process))
+        return false;
+    if (waitMs > 0)
+        Platform::waitForEnd(process, waitMs);
+    return true;
+}
+
 QString NativeMachine::commonDesktopFolder() const
 {
     return Platform::commonDesktopFolder();

@@ -34,6 +34,9 @@ QString systemProgram(const QString &fileName);
 /// Hands the arguments of the call to the process, quoted as the call says.
 void setArguments(QProcess &process, const ProgramCall &call);
 
+/// Waits at most timeoutMs until there is no such process. It need not be a child of ours.
+void waitForEnd(qint64 process, int timeoutMs);
+
 QString commonDesktopFolder();
 
 void notifyAssociationsChanged();

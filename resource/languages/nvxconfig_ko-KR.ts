@@ -83,6 +83,13 @@
     </message>
 </context>
 <context>
+    <name>ContextHelp</name>
+    <message>
+        <source>Help</source>
+        <translation>도움말</translation>
+    </message>
+</context>
+<context>
     <name>ParallelConfiguration</name>
     <message>
         <source>Created NVX2 default configuration: %1</source>

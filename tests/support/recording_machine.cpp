@@ -14,6 +14,12 @@ Nvx::Util::ProgramResult RecordingMachine::run(const Nvx::Util::ProgramCall &cal
     return programResult;
 }
 
+bool RecordingMachine::startDetached(const QString &program, const QStringList &arguments, int waitMs)
+{
+    starts.append({program, arguments, waitMs});
+    return true;
+}
+
 void RecordingMachine::tell(Nvx::Util::BoxKind kind, const QString &title, const QString &text)
 {
     boxes.append({kind, title, text});

@@ -19,6 +19,14 @@ public:
         QString text;
     };
 
+    /// A program that was started to live on by itself.
+    struct Start
+    {
+        QString program;
+        QStringList arguments;
+        int waitMs;
+    };
+
     // What it answers.
     QString ownCommandLine = QStringLiteral("NVXConfig.exe");
     QString ownFolder;
@@ -31,6 +39,7 @@ public:
 
     // What it was asked.
     QList<Nvx::Util::ProgramCall> calls;
+    QList<Start> starts;
     QList<Box> boxes;
     QList<QPair<QByteArray, QByteArray>> processVariables;
     int associationNotices = 0;
@@ -39,6 +48,7 @@ public:
     QString executableFolder() const override { return ownFolder; }
     bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
     Nvx::Util::ProgramResult run(const Nvx::Util::ProgramCall &call) override;
+    bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
     QString commonDesktopFolder() const override { return desktop; }
     void notifyAssociationsChanged() override { ++associationNotices; }
     void tell(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;

@@ -6,6 +6,7 @@
 //     raw HEX       writes the bytes
 //     error TEXT    writes the text and a line end to standard error
 //     arguments     writes its arguments, a line each
+//     record        the same into the file "<own path>.arguments"
 //     folder        writes its working folder
 //     mark PATH     makes an empty file
 //     forget        removes the file of orders, so that the next start finds none
@@ -43,6 +44,12 @@ void sleepFor(int milliseconds)
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
 
+void writeArguments(std::ostream &output, int argc, char **argv)
+{
+    for (int i = 1; i < argc; ++i)
+        output << argv[i] << '\n';
+}
+
 void obey(const std::string &order, const std::string &operand, int argc, char **argv)
 {
     if (order == "line")
@@ -63,9 +70,11 @@ void obey(const std::string &order, const std::string &operand, int argc, char *
         std::cout << "read " << std::string(std::istreambuf_iterator<char>(std::cin), {}).size() << '\n';
     else if (order == "sleep")
         sleepFor(std::stoi(operand));
-    else if (order == "arguments") {
-        for (int i = 1; i < argc; ++i)
-            std::cout << argv[i] << '\n';
+    else if (order == "arguments")
+        writeArguments(std::cout, argc, argv);
+    else if (order == "record") {
+        std::ofstream file(std::string(*argv) + ".arguments");
+        writeArguments(file, argc, argv);
     }
 }
 

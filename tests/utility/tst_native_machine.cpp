@@ -186,6 +186,47 @@ private slots:
         QVERIFY(!QFile::exists(m_folder->path(QStringLiteral("started"))));
     }
 
+    void aDetachedProgramGetsItsArgumentsAndLivesOn()
+    {
+        const QString tool = toolWith(*m_folder, "record\nsleep 1500\nmark " +
+                                                     m_folder->path(QStringLiteral("lived")).toLocal8Bit());
+        const QStringList arguments{QStringLiteral("http://host/?a&b=%20^|'x'"), QStringLiteral("C:\\a b\\"),
+                                    QStringLiteral("say \"so\""), QString()};
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(m_machine.startDetached(tool, arguments, 0));
+        QVERIFY(timer.elapsed() < 1400);
+        const QString lived = m_folder->path(QStringLiteral("lived"));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(lived), 20000);
+        QCOMPARE(withoutReturns(readFile(tool + QStringLiteral(".arguments"))),
+                 arguments.join(QLatin1Char('\n')).toLocal8Bit() + '\n');
+    }
+
+    void theEndOfADetachedProgramIsWaitedFor()
+    {
+        const QString lived = m_folder->path(QStringLiteral("lived"));
+        const QString tool = toolWith(*m_folder, "sleep 500\nmark " + lived.toLocal8Bit());
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(m_machine.startDetached(tool, {}, 20000));
+        QVERIFY(QFile::exists(lived));
+        QVERIFY(timer.elapsed() < 15000);
+    }
+
+    void aDetachedProgramThatTakesTooLongIsLeftAlone()
+    {
+        const QString lived = m_folder->path(QStringLiteral("lived"));
+        const QString tool = toolWith(*m_folder, "sleep 2000\nmark " + lived.toLocal8Bit());
+        QVERIFY(m_machine.startDetached(tool, {}, 200));
+        QVERIFY(!QFile::exists(lived));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(lived), 20000);
+    }
+
+    void aDetachedProgramThatIsMissingIsNotStarted()
+    {
+        QVERIFY(!m_machine.startDetached(m_folder->path(QStringLiteral("missing.exe")), {}, 1000));
+    }
+
     void theCommandLineHoldsTheProgramAndItsArguments()
     {
         const QString commandLine = m_machine.commandLine();

@@ -82,6 +82,10 @@ public:
     /// ended. Blocks.
     virtual ProgramResult run(const ProgramCall &call) = 0;
 
+    /// Starts a program, named by its full path, that lives on without us, and waits at most waitMs for its
+    /// end, with 0 not at all. Each argument arrives as it is. False when it could not be started.
+    virtual bool startDetached(const QString &program, const QStringList &arguments, int waitMs) = 0;
+
     /// The desktop folder of all users; empty when the machine has none.
     virtual QString commonDesktopFolder() const = 0;
 

@@ -12,6 +12,7 @@ public:
     QString executableFolder() const override;
     bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
     ProgramResult run(const ProgramCall &call) override;
+    bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
     QString commonDesktopFolder() const override;
     void notifyAssociationsChanged() override;
     void tell(BoxKind kind, const QString &title, const QString &text) override;

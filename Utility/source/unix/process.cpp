@@ -1,9 +1,25 @@
 #include "platform.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
+#include <QThread>
 
 namespace Nvx::Util::Platform {
+
+namespace {
+
+// One that has ended yet still has to be taken note of by its parent is not running.
+bool isRunning(qint64 process)
+{
+    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray line = file.readAll(); // "NUMBER (NAME) STATE ..."
+    return line.mid(line.lastIndexOf(')') + 2, 1) != "Z";
+}
+
+} // namespace
 
 QString commandLine()
 {
@@ -23,6 +39,13 @@ QString systemProgram(const QString & /*fileName*/)
 void setArguments(QProcess &process, const ProgramCall &call)
 {
     process.setArguments(call.arguments);
+}
+
+void waitForEnd(qint64 process, int timeoutMs)
+{
+    const QDeadlineTimer deadline(timeoutMs);
+    while (isRunning(process) && !deadline.hasExpired())
+        QThread::msleep(20);
 }
 
 } // namespace Nvx::Util::Platform

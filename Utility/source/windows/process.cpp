@@ -47,4 +47,13 @@ void setArguments(QProcess &process, const ProgramCall &call)
         QStringLiteral("%1 \"\"%2\"\"").arg(call.arguments.first(), call.arguments.last()));
 }
 
+void waitForEnd(qint64 process, int timeoutMs)
+{
+    const HANDLE handle = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process));
+    if (!handle)
+        return;
+    WaitForSingleObject(handle, static_cast<DWORD>(timeoutMs));
+    CloseHandle(handle);
+}
+
 } // namespace Nvx::Util::Platform

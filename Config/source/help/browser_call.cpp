@@ -1,0 +1,217 @@
+#include "help/browser_call.h"
+
+#include <QFileInfo>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+
+const auto placeholder = QStringLiteral("%1");
+
+bool isBlank(QChar c)
+{
+    return c == u' ' || c == u'\t';
+}
+
+bool startsWithDrive(const QString &address)
+{
+    return address.size() > 2 && address.at(0).unicode() < 128 && address.at(0).isLetter() &&
+           address.at(1) == u':' && (address.at(2) == u'\\' || address.at(2) == u'/');
+}
+
+bool isPath(const QString &address)
+{
+    return startsWithDrive(address) || address.startsWith(QLatin1String("\\\\")) || address.startsWith(u'/');
+}
+
+QUrl urlOf(QString address)
+{
+    if (isPath(address))
+        return QUrl::fromLocalFile(address.replace(u'\\', u'/'));
+    if (address.startsWith(QLatin1String("file:"), Qt::CaseInsensitive))
+        address.replace(u'\\', u'/');
+    return QUrl(address);
+}
+
+// What an address may hold by its standard.
+bool isAddressCharacter(char c)
+{
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
+           QByteArrayView("-._~:/?#[]@!$&'()*+,;=%").contains(c);
+}
+
+/// Reads arguments one by one.
+class ArgumentReader
+{
+public:
+    explicit ArgumentReader(const QString &text)
+        : m_text(text)
+    {
+        skipBlanks();
+    }
+
+    bool atEnd() const { return m_at == m_text.size(); }
+
+    QString next()
+    {
+        QString argument;
+        bool quoted = false;
+        for (; !atEnd() && (quoted || !isBlank(m_text.at(m_at))); ++m_at) {
+            const QChar c = m_text.at(m_at);
+            if (c == u'\\') {
+                takeBackslashes(argument);
+            } else if (c != u'"') {
+                argument += c;
+            } else if (quoted && m_text.mid(m_at + 1, 1) == QLatin1String("\"")) {
+                argument += u'"';
+                ++m_at;
+            } else {
+                quoted = !quoted;
+            }
+        }
+        skipBlanks();
+        return argument;
+    }
+
+private:
+    void skipBlanks()
+    {
+        while (!atEnd() && isBlank(m_text.at(m_at)))
+            ++m_at;
+    }
+
+    // Before a quote two backslashes are one, and an odd one makes the quote a character; elsewhere they are
+    // themselves. Stays on the last character taken.
+    void takeBackslashes(QString &argument)
+    {
+        qsizetype end = m_at;
+        while (end < m_text.size() && m_text.at(end) == u'\\')
+            ++end;
+        const qsizetype count = end - m_at;
+        const bool beforeQuote = end < m_text.size() && m_text.at(end) == u'"';
+        argument += QString(beforeQuote ? count / 2 : count, u'\\');
+        m_at = end - 1;
+        if (beforeQuote && count % 2 == 1) {
+            argument += u'"';
+            m_at = end;
+        }
+    }
+
+    const QString &m_text;
+    qsizetype m_at = 0;
+};
+
+// Where the program's path ends that stands at the start without quotes. It may hold blanks all the same, as
+// those of careless installers do.
+qsizetype endOfBareProgram(const QString &commandLine)
+{
+    const QLatin1String suffix(".exe");
+    for (qsizetype at = 0; (at = commandLine.indexOf(suffix, at, Qt::CaseInsensitive)) >= 0;) {
+        at += suffix.size();
+        if (at == commandLine.size() || isBlank(commandLine.at(at)))
+            return at;
+    }
+    const auto blank = std::find_if(commandLine.begin(), commandLine.end(), isBlank);
+    return blank - commandLine.begin();
+}
+
+// The program and what follows it.
+BrowserCall splitCommandLine(const QString &commandLine)
+{
+    const QString trimmed = commandLine.trimmed();
+    if (!trimmed.startsWith(u'"')) {
+        const qsizetype end = endOfBareProgram(trimmed);
+        return {trimmed.left(end), splitArguments(trimmed.mid(end))};
+    }
+    // No backslash changes the meaning of a quote around a program.
+    const qsizetype closing = trimmed.indexOf(u'"', 1);
+    if (closing < 0)
+        return {trimmed.mid(1), {}};
+    return {trimmed.mid(1, closing - 1), splitArguments(trimmed.mid(closing + 1))};
+}
+
+// Programs that would look for commands in an address.
+bool interpretsArguments(QString program)
+{
+    // The operating system does not see dots and blanks at the end of a file name.
+    while (program.endsWith(u'.') || program.endsWith(u' '))
+        program.chop(1);
+    const QFileInfo file(program.replace(u'\\', u'/').toLower());
+    const QStringList suffixes{QStringLiteral("bat"), QStringLiteral("cmd")};
+    const QStringList interpreters{QStringLiteral("cmd"), QStringLiteral("command"),
+                                   QStringLiteral("powershell"), QStringLiteral("pwsh")};
+    return suffixes.contains(file.suffix()) || interpreters.contains(file.completeBaseName()) ||
+           interpreters.contains(file.fileName());
+}
+
+bool looksLikeAnOption(const QString &argument)
+{
+    return argument.startsWith(u'-') || argument.startsWith(u'/');
+}
+
+} // namespace
+
+QString encodedAddress(const QString &address)
+{
+    const QUrl url = urlOf(address);
+    if (!url.isValid())
+        return QString();
+    QByteArray encoded;
+    const QByteArray written = url.toEncoded();
+    for (const char c : written) {
+        if (isAddressCharacter(c))
+            encoded += c;
+        else
+            encoded += '%' + QByteArray(1, c).toHex().toUpper();
+    }
+    return QString::fromLatin1(encoded);
+}
+
+QString expandVariables(const QString &text, const std::function<QString(const QString &)> &valueOf)
+{
+    QString expanded;
+    qsizetype at = 0;
+    while (at < text.size()) {
+        const qsizetype opening = text.indexOf(u'%', at);
+        const qsizetype closing = opening < 0 ? -1 : text.indexOf(u'%', opening + 1);
+        if (closing < 0)
+            break;
+        const QString value = valueOf(text.mid(opening + 1, closing - opening - 1));
+        // A percent sign that ends no name may begin one.
+        const qsizetype next = value.isNull() ? closing : closing + 1;
+        expanded += text.mid(at, opening - at);
+        expanded += value.isNull() ? text.mid(opening, closing - opening) : value;
+        at = next;
+    }
+    return expanded + text.mid(at);
+}
+
+QStringList splitArguments(const QString &commandLine)
+{
+    QStringList arguments;
+    for (ArgumentReader reader(commandLine); !reader.atEnd();)
+        arguments += reader.next();
+    return arguments;
+}
+
+std::optional<BrowserCall> browserCall(const QString &commandLine, const QString &encodedAddress)
+{
+    BrowserCall call = splitCommandLine(commandLine);
+    if (call.program.isEmpty() || call.program.contains(placeholder) || interpretsArguments(call.program))
+        return std::nullopt;
+
+    QString address = encodedAddress;
+    const bool hasPlace = commandLine.contains(placeholder);
+    const QLatin1String scheme("http://");
+    if (hasPlace && address.startsWith(scheme))
+        address.remove(0, scheme.size());
+    if (address.isEmpty() || looksLikeAnOption(address))
+        return std::nullopt;
+
+    if (hasPlace)
+        call.arguments.replaceInStrings(placeholder, address);
+    else
+        call.arguments += address;
+    return call;
+}

@@ -1,0 +1,244 @@
+#include "help/browser_call.h"
+#include "support/random_text.h"
+
+#include <QTest>
+
+namespace {
+
+const auto browser = QStringLiteral("C:\\Program Files\\Browser\\browser.exe");
+const auto address = QStringLiteral("http://host/a?b=c&d=%20e");
+
+QStringList asList(const std::optional<BrowserCall> &call)
+{
+    return call ? QStringList(call->program) + call->arguments : QStringList();
+}
+
+} // namespace
+
+class tst_browser_call : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void anAddressIsEncoded_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+
+        const auto row = [](const char *name, const char *text, const char *expected) {
+            QTest::newRow(name) << QString::fromUtf8(text) << QString::fromUtf8(expected);
+        };
+        row("plain", "http://host/path?query=text", "http://host/path?query=text");
+        row("a bare id", "mesh", "mesh");
+        row("blanks", "http://host/?query=heat sink", "http://host/?query=heat%20sink");
+        row("quotes", "http://host/\" --evil \"x", "http://host/%22%20--evil%20%22x");
+        row("single quotes", "http://host/'x'", "http://host/'x'");
+        row("ampersands are part of an address", "http://host/?a&calc.exe", "http://host/?a&calc.exe");
+        row("bars, carets, angle brackets", "http://host/|^<>", "http://host/%7C%5E%3C%3E");
+        row("backslashes", "http://host/a\\b", "http://host/a%5Cb");
+        row("line ends", "http://host/a\r\nb", "http://host/a%0D%0Ab");
+        row("lone percent signs", "http://host/100%", "http://host/100%25");
+        row("encoded already", "http://host/a%20b", "http://host/a%20b");
+        row("other alphabets", "http://host/Größe", "http://host/Gr%C3%B6%C3%9Fe");
+        row("another scheme", "javascript:alert(\"x y\")", "javascript:alert(%22x%20y%22)");
+        row("a mail", "mailto:a@b?subject=x y", "mailto:a@b?subject=x%20y");
+        row("a path", "C:\\Program Files\\NVX/NVXDefaultHelp.html",
+            "file:///C:/Program%20Files/NVX/NVXDefaultHelp.html");
+        row("a path with signs", "C:\\100% & #1\\a?.html", "file:///C:/100%25%20&%20%231/a%3F.html");
+        row("a path on another machine", "\\\\server\\share\\a b.html", "file://server/share/a%20b.html");
+        row("a path without a drive", "/opt/NVX/a b.html", "file:///opt/NVX/a%20b.html");
+        row("installed help", "file:///C:\\ProgramData\\Velmora\\NVX 2017/NVXHelp/index.html?query=a b",
+            "file:///C:/ProgramData/Velmora/NVX%202017/NVXHelp/index.html?query=a%20b");
+        row("nothing", "", "");
+        row("no host", "http://a b/", "");
+        row("no port", "http://host:port/", "");
+        row("an open bracket", "http://[::1/", "");
+    }
+
+    void anAddressIsEncoded()
+    {
+        QFETCH(QString, text);
+        QTEST(encodedAddress(text), "expected");
+    }
+
+    void anEncodedAddressNeverHoldsBlanksQuotesOrBackslashes()
+    {
+        RandomText random(1);
+        const QStringList heads{QString(), QStringLiteral("http://host/"), QStringLiteral("file:///C:\\"),
+                                QStringLiteral("C:\\"), QStringLiteral("x:")};
+        for (int i = 0; i < 20000; ++i) {
+            const QString text = heads.at(random.below(5)) + random.text() + random.unspeakableText();
+            const QString encoded = encodedAddress(text);
+            for (const QChar c : encoded)
+                QVERIFY2(c > u' ' && c < u'\x7f' && c != u'"' && c != u'\\', qPrintable(text));
+        }
+    }
+
+    void variablesAreReplacedByTheirValues_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *text, const char *expected) {
+            QTest::newRow(text) << QString::fromLatin1(text) << QString::fromLatin1(expected);
+        };
+        row("", "");
+        row("no variable", "no variable");
+        row("\"%HOME%\\b.exe\" \"%1\"", "\"C:\\Home\\b.exe\" \"%1\"");
+        row("%HOME%%HOME%", "C:\\HomeC:\\Home");
+        row("%1 %HOME%", "%1 C:\\Home");
+        row("%UNKNOWN% %HOME%", "%UNKNOWN% C:\\Home");
+        row("%UNKNOWN%HOME%", "%UNKNOWNC:\\Home");
+        row("100% %", "100% %");
+        row("%%", "%%");
+        row("%", "%");
+    }
+
+    void variablesAreReplacedByTheirValues()
+    {
+        QFETCH(QString, text);
+        QTEST(expandVariables(text,
+                              [](const QString &name) {
+                                  return name == QLatin1String("HOME") ? QStringLiteral("C:\\Home")
+                                                                       : QString();
+                              }),
+              "expected");
+    }
+
+    void argumentsAreReadAsProgramsReadThem_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("expected");
+        const auto row = [](const char *name, const char *text, const QStringList &expected) {
+            QTest::newRow(name) << QString::fromLatin1(text) << expected;
+        };
+        const auto s = [](const char *text) { return QString::fromLatin1(text); };
+        row("none", "", {});
+        row("blanks", " \t ", {});
+        row("words", "a  b\tc ", {s("a"), s("b"), s("c")});
+        row("quotes", "\"a b\" c", {s("a b"), s("c")});
+        row("quotes within", "a\" b\"c", {s("a bc")});
+        row("an empty one", "a \"\" b", {s("a"), QString(s("")), s("b")});
+        row("a quote in quotes", "\"a\"\"b\"", {s("a\"b")});
+        row("an escaped quote", "a\\\"b c", {s("a\"b"), s("c")});
+        row("backslashes", "C:\\a\\\\b", {s("C:\\a\\\\b")});
+        row("a backslash before the closing quote", "\"C:\\a b\\\\\" c", {s("C:\\a b\\"), s("c")});
+        row("three backslashes and a quote", "a\\\\\\\"b", {s("a\\\"b")});
+        row("a quote that is not closed", "\"a b", {s("a b")});
+        row("backslashes at the end", "a\\\\", {s("a\\\\")});
+    }
+
+    void argumentsAreReadAsProgramsReadThem()
+    {
+        QFETCH(QString, text);
+        QTEST(splitArguments(text), "expected");
+    }
+
+    void theBrowserGetsTheAddressAndNothingElse_data()
+    {
+        QTest::addColumn<QString>("commandLine");
+        QTest::addColumn<QStringList>("expected");
+
+        const auto row = [](const char *name, const QString &commandLine, const QStringList &expected) {
+            QTest::newRow(name) << commandLine << expected;
+        };
+        const auto quoted = QStringLiteral("\"%1\"").arg(browser);
+        const auto bare = QStringLiteral("host/a?b=c&d=%20e");
+        row("no place: the address is an argument, whole", quoted, {browser, address});
+        row("no place, with options", quoted + QStringLiteral(" -nohome"),
+            {browser, QStringLiteral("-nohome"), address});
+        row("a place: without the scheme", quoted + QStringLiteral(" %1"), {browser, bare});
+        row("a place in quotes", quoted + QStringLiteral(" -url \"%1\""),
+            {browser, QStringLiteral("-url"), bare});
+        row("a place in an argument", quoted + QStringLiteral(" --url=%1 -x"),
+            {browser, QStringLiteral("--url=") + bare, QStringLiteral("-x")});
+        row("two places", quoted + QStringLiteral(" %1 %1"), {browser, bare, bare});
+        row("a path with blanks and no quotes", browser + QStringLiteral(" -x"),
+            {browser, QStringLiteral("-x"), address});
+        row("a path with blanks and no quotes, alone", browser, {browser, address});
+        row("a program of no suffix", QStringLiteral("/usr/bin/browser %1"),
+            {QStringLiteral("/usr/bin/browser"), bare});
+        row("blanks around", QStringLiteral("  ") + quoted + QStringLiteral("  "), {browser, address});
+        row("a quote that is not closed", QStringLiteral("\"") + browser, {browser, address});
+        row("an apostrophe is a character", quoted + QStringLiteral(" '%1'"),
+            {browser, QStringLiteral("'%1'").arg(bare)});
+    }
+
+    void theBrowserGetsTheAddressAndNothingElse()
+    {
+        QFETCH(QString, commandLine);
+        QTEST(asList(browserCall(commandLine, address)), "expected");
+    }
+
+    void onlyTheSchemeAtTheStartIsLeftOut()
+    {
+        const auto call = [](const char *text) {
+            return asList(browserCall(QStringLiteral("b.exe %1"), QString::fromLatin1(text))).value(1);
+        };
+        QCOMPARE(call("http://host/?q=http://other"), QStringLiteral("host/?q=http://other"));
+        QCOMPARE(call("https://host/"), QStringLiteral("https://host/"));
+        QCOMPARE(call("file:///C:/a"), QStringLiteral("file:///C:/a"));
+    }
+
+    void noBrowserIsStartedThatIsNone_data()
+    {
+        QTest::addColumn<QString>("commandLine");
+        const auto row = [](const char *text) { QTest::newRow(text) << QString::fromLatin1(text); };
+        row("");
+        row("   ");
+        row("\"\"");
+        row("\"\" %1");
+        row("\"%1\"");
+        row("%1 -x");
+    }
+
+    void noBrowserIsStartedThatIsNone()
+    {
+        QFETCH(QString, commandLine);
+        QVERIFY(!browserCall(commandLine, address));
+    }
+
+    void noCommandInterpreterIsStarted_data()
+    {
+        QTest::addColumn<QString>("commandLine");
+        const auto row = [](const char *text) { QTest::newRow(text) << QString::fromLatin1(text); };
+        row("cmd /c start %1");
+        row("C:\\Windows\\System32\\cmd.exe /c start \"\" \"%1\"");
+        row("\"C:\\Windows\\System32\\CMD.EXE\" /c start %1");
+        row("C:/Windows/System32/cmd.exe /c start %1");
+        row("command.com /c start %1");
+        row("powershell.exe -c start %1");
+        row("pwsh -c start %1");
+        row("\"C:\\My Tools\\browse.bat\" %1");
+        row("C:\\browse.CMD %1");
+        row("\"C:\\browse.bat. .\" %1");
+    }
+
+    void noCommandInterpreterIsStarted()
+    {
+        QFETCH(QString, commandLine);
+        QVERIFY(!browserCall(commandLine, address));
+    }
+
+    void anAddressIsNeverAnOption_data()
+    {
+        QTest::addColumn<QString>("commandLine");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char *name, const char *commandLine, const char *text) {
+            QTest::newRow(name) << QString::fromLatin1(commandLine) << QString::fromLatin1(text);
+        };
+        row("an id with a hyphen", "b.exe", "-remote");
+        row("an id with a hyphen, in a place", "b.exe -url \"%1\"", "-remote");
+        row("behind the scheme", "b.exe %1", "http:///c");
+        row("nothing behind the scheme", "b.exe %1", "http://");
+    }
+
+    void anAddressIsNeverAnOption()
+    {
+        QFETCH(QString, commandLine);
+        QFETCH(QString, text);
+        QVERIFY(!browserCall(commandLine, text));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_browser_call)
+#include "tst_browser_call.moc"
