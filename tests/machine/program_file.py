@@ -1,0 +1,97 @@
+"""Reads what a Windows program file says about itself."""
+
+import struct
+
+ICON, GROUP_ICON, VERSION, MANIFEST = 3, 14, 16, 24
+
+# Kinds of program, as the file's header has them.
+WINDOWED, CONSOLE = 2, 3
+
+
+class ProgramFile:
+    def __init__(self, path):
+        self.bytes = path.read_bytes()
+        header = self._number("<I", 0x3C)
+        if self.bytes[header : header + 4] != b"PE\0\0":
+            raise ValueError("%s is no program for Windows" % path)
+        section_count, optional_size = self._number("<H", header + 6), self._number("<H", header + 20)
+        self._optional = header + 24
+        first_section = self._optional + optional_size
+        self._sections = [
+            struct.unpack_from("<IIII", self.bytes, first_section + 40 * i + 8)
+            for i in range(section_count)
+        ]
+
+    @property
+    def kind(self):
+        return self._number("<H", self._optional + 68)
+
+    def resources(self, kind):
+        """The resources of a kind: [(name or number, bytes)], of each the first language only."""
+        root = self._number("<I", self._optional + 112 + 8 * 2)
+        if not root:
+            return []
+        found = []
+        for key, names in self._entries(root, 0):
+            if key != kind:
+                continue
+            for name, languages in self._entries(root, names):
+                _, leaf = next(iter(self._entries(root, languages)))
+                address, size = struct.unpack_from("<II", self.bytes, self._place(root) + leaf)
+                start = self._place(address)
+                found.append((name, self.bytes[start : start + size]))
+        return found
+
+    def version(self):
+        """The numbers of the file's and the product's version, and the texts of the version block."""
+        ((_, block),) = self.resources(VERSION)
+        numbers = struct.unpack_from("<4I", block, block.index(struct.pack("<I", 0xFEEF04BD)) + 8)
+        return [_dotted(*numbers[:2]), _dotted(*numbers[2:])], dict(_version_texts(block, 0))
+
+    def _number(self, form, offset):
+        return struct.unpack_from(form, self.bytes, offset)[0]
+
+    def _place(self, address):
+        """Where in the file lies what lies at this address of the loaded program."""
+        for size, start, raw_size, raw in self._sections:
+            if start <= address < start + max(size, raw_size):
+                return address - start + raw
+        raise ValueError("no section holds %x" % address)
+
+    def _entries(self, root, folder):
+        """The entries of a folder of resources: name or number, and where the entry lies."""
+        start = self._place(root)
+        count = sum(struct.unpack_from("<HH", self.bytes, start + folder + 12))
+        for i in range(count):
+            key, place = struct.unpack_from("<II", self.bytes, start + folder + 16 + 8 * i)
+            if key & 0x80000000:
+                text = start + (key & 0x7FFFFFFF)
+                length = self._number("<H", text)
+                key = self.bytes[text + 2 : text + 2 + 2 * length].decode("utf-16-le")
+            yield key, place & 0x7FFFFFFF
+
+
+def _version_texts(block, start):
+    """The texts of one part of a version block and of the parts within it: (name, text)."""
+    length, value_length, is_text = struct.unpack_from("<HHH", block, start)
+    end = start + length
+    name, at = _text_at(block, start + 6)
+    if is_text and value_length:
+        yield name, _text_at(block, at)[0]
+        return
+    at += (value_length + 3) // 4 * 4
+    while at < end:
+        yield from _version_texts(block, at)
+        at += (struct.unpack_from("<H", block, at)[0] + 3) // 4 * 4
+
+
+def _text_at(block, start):
+    """The text that starts there and ends with a zero, and where what follows it begins."""
+    end = start
+    while block[end : end + 2] != b"\0\0":
+        end += 2
+    return block[start:end].decode("utf-16-le"), (end + 2 + 3) // 4 * 4
+
+
+def _dotted(high, low):
+    return "%d.%d.%d.%d" % (high >> 16, high & 0xFFFF, low >> 16, low & 0xFFFF)

@@ -1,0 +1,93 @@
+"""What Windows reads in the programs before it starts them, and shows of them."""
+
+import unittest
+import xml.etree.ElementTree as ElementTree
+
+from machine_case import BUILD
+from program_file import CONSOLE, GROUP_ICON, ICON, MANIFEST, WINDOWED, ProgramFile
+
+# Those with a text in place of a window; every other program of ours shows one.
+CONSOLE_PROGRAMS = {"UpdateErrorTable.exe"}
+ADMINISTRATORS_PROGRAMS = {"NVXConfig.exe"}
+ICON_SIZES = [16, 20, 24, 32, 40, 48, 64, 128, 256]
+
+
+def each_program(check):
+    """Makes a test of a check of one program: every program that is shipped is checked."""
+
+    def test(self):
+        for name, program in sorted(self.programs.items()):
+            with self.subTest(program=name):
+                check(self, name, program)
+
+    return test
+
+
+class ProgramFiles(unittest.TestCase):
+    def setUp(self):
+        self.programs = {path.name: ProgramFile(path) for path in (BUILD / "installed").glob("*.exe")}
+        self.assertIn("NVXConfig.exe", self.programs)
+
+    def manifest(self, program):
+        ((name, text),) = program.resources(MANIFEST)
+        self.assertEqual(name, 1)
+        return ElementTree.fromstring(text)
+
+    def setting(self, program, name):
+        return [item.text for item in self.manifest(program).iter() if item.tag.endswith("}" + name)]
+
+    @each_program
+    def test_a_program_tells_its_version(self, name, program):
+        numbers, texts = program.version()
+        self.assertEqual(numbers, ["17.2.0.0", "17.2.0.0"])
+        self.assertEqual(texts["CompanyName"], "Velmora")
+        self.assertEqual(texts["ProductName"], "NVX 2017")
+        self.assertEqual(texts["ProductVersion"], "2017")
+        self.assertEqual(texts["FileVersion"], "17.2.0")
+        self.assertEqual(texts["OriginalFilename"], name)
+        self.assertTrue(texts["FileDescription"].startswith(("NVX ", "Message ", "Material ")))
+
+    @each_program
+    def test_only_the_configuration_asks_for_an_administrators_rights(self, name, program):
+        (level,) = [
+            item.get("level")
+            for item in self.manifest(program).iter()
+            if item.tag.endswith("}requestedExecutionLevel")
+        ]
+        wanted = "requireAdministrator" if name in ADMINISTRATORS_PROGRAMS else "asInvoker"
+        self.assertEqual(level, wanted)
+
+    @each_program
+    def test_a_program_is_sharp_on_every_screen_and_takes_long_paths(self, _, program):
+        self.assertEqual(self.setting(program, "dpiAwareness"), ["PerMonitorV2, PerMonitor"])
+        self.assertEqual(self.setting(program, "dpiAware"), ["true/pm"])
+        self.assertEqual(self.setting(program, "longPathAware"), ["true"])
+
+    @each_program
+    def test_8_bit_text_stays_in_the_machines_code_page(self, _, program):
+        self.assertEqual(self.setting(program, "activeCodePage"), [])
+
+    @each_program
+    def test_a_program_looks_like_the_system(self, _, program):
+        assemblies = [
+            (item.get("name"), item.get("version"))
+            for item in self.manifest(program).iter()
+            if item.tag.endswith("}assemblyIdentity")
+        ]
+        self.assertIn(("Microsoft.Windows.Common-Controls", "6.0.0.0"), assemblies)
+
+    @each_program
+    def test_the_toolkit_finds_an_icon_of_every_size(self, _, program):
+        ((name, group),) = program.resources(GROUP_ICON)
+        self.assertEqual(name, "IDI_ICON1")
+        sizes = [group[6 + 14 * i] or 256 for i in range(group[4])]
+        self.assertEqual(sizes, ICON_SIZES)
+        self.assertEqual(len(program.resources(ICON)), len(ICON_SIZES))
+
+    @each_program
+    def test_only_a_program_without_a_window_opens_a_console(self, name, program):
+        self.assertEqual(program.kind, CONSOLE if name in CONSOLE_PROGRAMS else WINDOWED)
+
+
+if __name__ == "__main__":
+    unittest.main()
