@@ -101,6 +101,60 @@ private slots:
         QVERIFY(RegistryKey(scratch).removeValue(QStringLiteral("a")));
     }
 
+    void aNumberComesBackAsItWasWritten_data()
+    {
+        QTest::addColumn<quint32>("number");
+        QTest::newRow("zero") << quint32(0);
+        QTest::newRow("three") << quint32(3);
+        QTest::newRow("the largest signed one") << quint32(0x7fffffff);
+        QTest::newRow("minus one") << static_cast<quint32>(-1);
+    }
+
+    void aNumberComesBackAsItWasWritten()
+    {
+        QFETCH(quint32, number);
+        QVERIFY(RegistryKey(scratch).setNumber(QStringLiteral("a"), number));
+        QCOMPARE(RegistryKey(scratch).number(QStringLiteral("a")), std::optional<quint32>(number));
+    }
+
+    void aTextIsNoNumberAndANumberNoText()
+    {
+        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("text"), QStringLiteral("3")));
+        QVERIFY(RegistryKey(scratch).setNumber(QStringLiteral("number"), 3));
+        QVERIFY(!RegistryKey(scratch).number(QStringLiteral("text")));
+        QVERIFY(!RegistryKey(scratch).text(QStringLiteral("number")));
+        QVERIFY(!RegistryKey(scratch).number(QStringLiteral("missing")));
+    }
+
+    void aKeyIsRemovedWithAllBelowItAndNothingBesideIt()
+    {
+        const QStringList removed = {QStringLiteral("\\Group"), QStringLiteral("\\Group\\Deep\\Deeper")};
+        const QString neighbour = scratch + QStringLiteral("\\Group 2");
+        for (const QString &key : removed + QStringList{QStringLiteral("\\Group 2")})
+            QVERIFY(RegistryKey(scratch + key).setText(QStringLiteral("a"), QStringLiteral("b")));
+        QVERIFY(RegistryKey(scratch + QStringLiteral("\\GROUP")).removeWhole());
+        for (const QString &key : removed)
+            QVERIFY(!RegistryKey(scratch + key).hasEntries());
+        QVERIFY(!RegistryKey(scratch).subKeyNames().contains(QStringLiteral("Group")));
+        QCOMPARE(RegistryKey(neighbour).text(QStringLiteral("a")), std::optional(QStringLiteral("b")));
+    }
+
+    void aMissingKeyCountsAsRemoved_data()
+    {
+        QTest::addColumn<QString>("below");
+        QTest::newRow("missing itself") << QStringLiteral("\\Missing");
+        QTest::newRow("missing with the key above it") << QStringLiteral("\\Missing\\Too");
+    }
+
+    void aMissingKeyCountsAsRemoved()
+    {
+        QFETCH(QString, below);
+        QVERIFY(RegistryKey(scratch + below).removeWhole());
+        QVERIFY(!RegistryKey(scratch).subKeyNames().contains(QStringLiteral("Missing")));
+    }
+
+    void aRootIsNeverRemoved() { QVERIFY(!RegistryKey(QStringLiteral("HKEY_CURRENT_USER")).removeWhole()); }
+
     void aRootThatDoesNotExistRefusesEverything()
     {
         RegistryKey nowhere(QStringLiteral("HKEY_NOWHERE\\Software"));

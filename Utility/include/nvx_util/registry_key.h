@@ -18,6 +18,8 @@ class RegistryKey
 public:
     explicit RegistryKey(QString path);
 
+    QString path() const { return m_path; }
+
     /// True when the key has at least one value or sub-key.
     bool hasEntries() const;
 
@@ -33,8 +35,18 @@ public:
     /// Writes a text value, making the key when it is missing. False when the registry refuses.
     bool setText(const QString &valueName, const QString &text);
 
+    /// The number of a value; nothing when it is missing or holds no number of 32 bits.
+    std::optional<quint32> number(const QString &valueName) const;
+
+    /// Writes a number of 32 bits, making the key when it is missing. False when the registry refuses.
+    bool setNumber(const QString &valueName, quint32 number);
+
     /// Removes a value. False when the registry refuses; a value that is missing counts as removed.
     bool removeValue(const QString &valueName);
+
+    /// Removes the key with all its values and sub-keys. False when the registry refuses, as it does for a
+    /// root; a key that is missing counts as removed.
+    bool removeWhole();
 
 private:
     QString m_path;

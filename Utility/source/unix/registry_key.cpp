@@ -8,11 +8,12 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <limits>
 #include <utility>
 
 namespace Nvx::Util {
 
-// The file is one object: the path of each key with an object of its values' texts.
+// The file is one object: the path of each key with an object of its values, texts and numbers.
 
 namespace {
 
@@ -48,6 +49,18 @@ QString nameIn(const QJsonObject &object, const QString &name)
 QJsonObject valuesOf(const QJsonObject &registry, const QString &path)
 {
     return registry.value(nameIn(registry, path)).toObject();
+}
+
+bool setValue(const QString &key, const QString &valueName, const QJsonValue &value)
+{
+    if (registryFile().isEmpty())
+        return false;
+    QJsonObject registry = readRegistry();
+    const QString path = nameIn(registry, key);
+    QJsonObject values = registry.value(path).toObject();
+    values.insert(nameIn(values, valueName), value);
+    registry.insert(path, values);
+    return writeRegistry(registry);
 }
 
 } // namespace
@@ -92,14 +105,21 @@ std::optional<QString> RegistryKey::text(const QString &valueName) const
 
 bool RegistryKey::setText(const QString &valueName, const QString &text)
 {
-    if (registryFile().isEmpty())
-        return false;
-    QJsonObject registry = readRegistry();
-    const QString path = nameIn(registry, m_path);
-    QJsonObject values = registry.value(path).toObject();
-    values.insert(nameIn(values, valueName), text);
-    registry.insert(path, values);
-    return writeRegistry(registry);
+    return setValue(m_path, valueName, text);
+}
+
+std::optional<quint32> RegistryKey::number(const QString &valueName) const
+{
+    const QJsonObject values = valuesOf(readRegistry(), m_path);
+    const qint64 number = values.value(nameIn(values, valueName)).toInteger(-1);
+    if (number < 0 || number > std::numeric_limits<quint32>::max())
+        return std::nullopt;
+    return static_cast<quint32>(number);
+}
+
+bool RegistryKey::setNumber(const QString &valueName, quint32 number)
+{
+    return setValue(m_path, valueName, static_cast<qint64>(number));
 }
 
 bool RegistryKey::removeValue(const QString &valueName)
@@ -112,6 +132,19 @@ bool RegistryKey::removeValue(const QString &valueName)
     values.remove(nameIn(values, valueName));
     registry.insert(path, values);
     return writeRegistry(registry);
+}
+
+bool RegistryKey::removeWhole()
+{
+    if (!m_path.contains(QLatin1Char('\\')))
+        return false;
+    QJsonObject registry = readRegistry();
+    const QStringList paths = registry.keys();
+    for (const QString &path : paths) {
+        if ((path + QLatin1Char('\\')).startsWith(m_path + QLatin1Char('\\'), Qt::CaseInsensitive))
+            registry.remove(path);
+    }
+    return registry.size() == paths.size() || writeRegistry(registry);
 }
 
 } // namespace Nvx::Util

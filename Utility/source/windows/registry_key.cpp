@@ -54,6 +54,7 @@ public:
                 : RegOpenKeyExW(root, wide(subKey), 0, rights, &opened);
         if (status == ERROR_SUCCESS)
             m_key = opened;
+        m_isMissing = status == ERROR_FILE_NOT_FOUND;
     }
     OpenKey(const OpenKey &) = delete;
     OpenKey &operator=(const OpenKey &) = delete;
@@ -66,8 +67,12 @@ public:
     explicit operator bool() const { return m_key != nullptr; }
     HKEY handle() const { return m_key; }
 
+    // True when the registry has no such key, and not when it refuses to open it.
+    bool isMissing() const { return m_isMissing; }
+
 private:
     HKEY m_key = nullptr;
+    bool m_isMissing = false;
 };
 
 // The names that one of the two listing calls answers for the indices from 0 on.
@@ -151,12 +156,45 @@ bool RegistryKey::setText(const QString &valueName, const QString &text)
                           reinterpret_cast<const BYTE *>(wide(text)), size) == ERROR_SUCCESS;
 }
 
+std::optional<quint32> RegistryKey::number(const QString &valueName) const
+{
+    const OpenKey key(m_path, KEY_QUERY_VALUE);
+    DWORD number = 0;
+    DWORD size = sizeof number;
+    if (!key || RegGetValueW(key.handle(), nullptr, wide(valueName), RRF_RT_REG_DWORD, nullptr, &number,
+                             &size) != ERROR_SUCCESS)
+        return std::nullopt;
+    return static_cast<quint32>(number);
+}
+
+bool RegistryKey::setNumber(const QString &valueName, quint32 number)
+{
+    const OpenKey key(m_path, KEY_SET_VALUE, OpenKey::Missing::Create);
+    if (!key)
+        return false;
+    const DWORD written = number;
+    return RegSetValueExW(key.handle(), wide(valueName), 0, REG_DWORD,
+                          reinterpret_cast<const BYTE *>(&written), sizeof written) == ERROR_SUCCESS;
+}
+
 bool RegistryKey::removeValue(const QString &valueName)
 {
     const OpenKey key(m_path, KEY_SET_VALUE);
     if (!key)
         return false;
     const LSTATUS status = RegDeleteValueW(key.handle(), wide(valueName));
+    return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
+}
+
+bool RegistryKey::removeWhole()
+{
+    const qsizetype separator = m_path.lastIndexOf(QLatin1Char('\\'));
+    if (separator < 0)
+        return false;
+    const OpenKey above(m_path.left(separator), KEY_READ | KEY_SET_VALUE | DELETE);
+    if (!above)
+        return above.isMissing();
+    const LSTATUS status = RegDeleteTreeW(above.handle(), wide(m_path.mid(separator + 1)));
     return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
 }
 
