@@ -103,6 +103,11 @@ void NativeMachine::notifyAssociationsChanged()
     Platform::notifyAssociationsChanged();
 }
 
+qint32 NativeMachine::createShellLink(const ShellLink &link)
+{
+    return Platform::createShellLink(link);
+}
+
 void NativeMachine::tell(BoxKind kind, const QString &title, const QString &text)
 {
     QMessageBox(iconOf(kind), title, text, QMessageBox::Ok).exec();

@@ -28,7 +28,8 @@ std::optional<ProcessorCounts> probeProcessors();
 /// The whole command line of this process.
 QString commandLine();
 
-/// The full path of a program of the operating system, such as "cmd.exe"; empty when there is none.
+/// The full path of a program of the operating system, such as "cmd.exe" or "regedit"; empty when there
+/// is none.
 QString systemProgram(const QString &fileName);
 
 /// Hands the arguments of the call to the process, quoted as the call says.
@@ -40,6 +41,9 @@ void waitForEnd(qint64 process, int timeoutMs);
 QString commonDesktopFolder();
 
 void notifyAssociationsChanged();
+
+/// Makes a shell link; see Machine::createShellLink.
+qint32 createShellLink(const ShellLink &link);
 
 /// Waits until the disk has what was written through the open descriptor. False when it could not take it.
 bool flushToDisk(int descriptor);

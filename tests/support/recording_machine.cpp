@@ -20,6 +20,12 @@ bool RecordingMachine::startDetached(const QString &program, const QStringList &
     return true;
 }
 
+qint32 RecordingMachine::createShellLink(const Nvx::Util::ShellLink &link)
+{
+    shellLinks.append(link);
+    return shellLinkResult;
+}
+
 void RecordingMachine::tell(Nvx::Util::BoxKind kind, const QString &title, const QString &text)
 {
     boxes.append({kind, title, text});

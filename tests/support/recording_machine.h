@@ -1,6 +1,7 @@
 #pragma once
 
 #include "nvx_util/machine.h"
+#include "nvx_util/shell_link.h"
 
 #include <QList>
 #include <QPair>
@@ -32,6 +33,7 @@ public:
     QString ownFolder;
     QString desktop = QStringLiteral("C:\\Users\\Public\\Desktop");
     Nvx::Util::ProgramResult programResult = {Nvx::Util::ProgramResult::Outcome::Exited, 0, {}};
+    qint32 shellLinkResult = 0;
     Nvx::Util::Answer answer = Nvx::Util::Answer::Yes;
 
     /// Called while a program "runs".
@@ -43,6 +45,7 @@ public:
     QList<Box> boxes;
     QList<QPair<QByteArray, QByteArray>> processVariables;
     int associationNotices = 0;
+    QList<Nvx::Util::ShellLink> shellLinks;
 
     QString commandLine() const override { return ownCommandLine; }
     QString executableFolder() const override { return ownFolder; }
@@ -51,6 +54,7 @@ public:
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
     QString commonDesktopFolder() const override { return desktop; }
     void notifyAssociationsChanged() override { ++associationNotices; }
+    qint32 createShellLink(const Nvx::Util::ShellLink &link) override;
     void tell(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;
     Nvx::Util::Answer ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;
 };

@@ -1,4 +1,5 @@
 #include "nvx_util/native_machine.h"
+#include "nvx_util/shell_link.h"
 #include "support/test_machine.h"
 
 #include <QApplication>
@@ -39,6 +40,14 @@ ProgramCall callOf(const QString &program, const QStringList &arguments = QStrin
 QByteArray withoutReturns(QByteArray bytes)
 {
     return bytes.replace("\r\n", "\n");
+}
+
+// The path of a program, of that many characters.
+QString programOf(int length)
+{
+    const QString beginning = QStringLiteral("C:\\");
+    const QString end = QStringLiteral("\\NVX.exe");
+    return beginning + QString(length - beginning.size() - end.size(), QLatin1Char('x')) + end;
 }
 
 // Clicks a button of the box that comes up next.
@@ -273,6 +282,49 @@ private slots:
         QCOMPARE(title, QStringLiteral("Title"));
         QCOMPARE(text, QStringLiteral("Text?"));
         QVERIFY(yesIsDefault);
+    }
+
+    void aShellLinkIsThereExactlyWhenTheAnswerSaysSo_data()
+    {
+        QTest::addColumn<QString>("linkPath");
+        QTest::addColumn<QString>("target");
+        const QString program = QStringLiteral("C:\\NVX\\NVX.exe");
+        QTest::newRow("usual") << QStringLiteral("a b.lnk") << program;
+        QTest::newRow("umlauts") << QStringLiteral("Größe.lnk") << QStringLiteral("C:\\Größe\\NVX.exe");
+        QTest::newRow("a folder that is missing") << QStringLiteral("missing/a.lnk") << program;
+        QTest::newRow("a target of 259 characters") << QStringLiteral("long.lnk") << programOf(259);
+    }
+
+    void aShellLinkIsThereExactlyWhenTheAnswerSaysSo()
+    {
+        QFETCH(QString, linkPath);
+        QFETCH(QString, target);
+        ShellLink link;
+        link.target = target;
+        link.linkPath = m_folder->path(linkPath);
+        const qint32 result = m_machine.createShellLink(link);
+        QCOMPARE(QFile::exists(link.linkPath), result == 0);
+    }
+
+    void aShellLinkWithATextThatIsTooLongIsNotMade_data()
+    {
+        QTest::addColumn<QString>("linkPath");
+        QTest::addColumn<QString>("target");
+        QTest::newRow("a target of 260 characters") << QStringLiteral("a.lnk") << programOf(260);
+        QTest::newRow("a target of 100,000 characters") << QStringLiteral("a.lnk") << programOf(100000);
+        QTest::newRow("a link path of more than 260")
+            << QString(260, QLatin1Char('x')) + QStringLiteral(".lnk") << programOf(20);
+    }
+
+    void aShellLinkWithATextThatIsTooLongIsNotMade()
+    {
+        QFETCH(QString, linkPath);
+        QFETCH(QString, target);
+        ShellLink link;
+        link.target = target;
+        link.linkPath = m_folder->path(linkPath);
+        QVERIFY(m_machine.createShellLink(link) < 0);
+        QVERIFY(QDir(m_folder->path()).isEmpty());
     }
 
     void aMessageWaitsForOk()

@@ -6,13 +6,16 @@
 
 namespace Nvx::Util {
 
+struct ShellLink;
+
 /// An external program to run.
 struct ProgramCall
 {
     enum class Place
     {
         Path,        ///< program is a full path
-        SystemFolder ///< program is the file name of a program of the operating system, started from there
+        SystemFolder ///< program is the file name of a program of the operating system, started from there;
+                     ///< one without an extension is an .exe
     };
     enum class Quoting
     {
@@ -91,6 +94,10 @@ public:
 
     /// Tells the shell that file associations changed.
     virtual void notifyAssociationsChanged() = 0;
+
+    /// Makes a shell link and saves it, in place of one that is there. Answers the result of the shell's last
+    /// call, 0 for success; nothing is saved when a text of the link is too long for it.
+    virtual qint32 createShellLink(const ShellLink &link) = 0;
 
     /// Shows a modal box with an OK button.
     virtual void tell(BoxKind kind, const QString &title, const QString &text) = 0;

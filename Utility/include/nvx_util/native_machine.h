@@ -15,6 +15,7 @@ public:
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
     QString commonDesktopFolder() const override;
     void notifyAssociationsChanged() override;
+    qint32 createShellLink(const ShellLink &link) override;
     void tell(BoxKind kind, const QString &title, const QString &text) override;
     Answer ask(BoxKind kind, const QString &title, const QString &text) override;
 };

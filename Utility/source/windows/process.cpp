@@ -26,9 +26,11 @@ QString commandLine()
 
 QString systemProgram(const QString &fileName)
 {
+    const QString exeName =
+        fileName.contains(QLatin1Char('.')) ? fileName : fileName + QStringLiteral(".exe");
     // Most programs lie in the System32 folder, the Registry Editor in the Windows folder.
     for (const QString &folder : {folderOf(GetSystemDirectoryW), folderOf(GetSystemWindowsDirectoryW)}) {
-        const QString program = joinPath(folder, fileName);
+        const QString program = joinPath(folder, exeName);
         if (!folder.isEmpty() && QFileInfo(program).isFile())
             return program;
     }
