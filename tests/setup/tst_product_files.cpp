@@ -30,7 +30,30 @@ private slots:
     void aFileThatIsNotThereCountsAsRemoved()
     {
         const TestFolder folder;
-        QVERIFY(removeProductFile(folder.path(QStringLiteral("missing.dll"))));
+        for (const auto &name : {QStringLiteral("missing.dll"), QStringLiteral("missing.lnk"),
+                                 QStringLiteral("missing/too.lnk")})
+            QVERIFY(removeProductFile(folder.path(name)));
+    }
+
+    void aLinkThatLeadsNowhereIsRemoved()
+    {
+        const TestFolder folder;
+        const QString link = folder.path(QStringLiteral("a.lnk"));
+        QVERIFY(QFile::link(folder.path(QStringLiteral("gone.exe")), link));
+        QVERIFY(removeProductFile(link));
+        QCOMPARE(namesIn(folder.path()), QStringList());
+    }
+
+    void ofALinkTheTargetStays()
+    {
+        const TestFolder folder;
+        const QString target = folder.path(QStringLiteral("a.exe"));
+        const QString link = folder.path(QStringLiteral("a.lnk"));
+        writeFile(target, "x");
+        QVERIFY(QFile::link(target, link));
+        QVERIFY(removeProductFile(link));
+        QCOMPARE(namesIn(folder.path()), QStringList(QStringLiteral("a.exe")));
+        QCOMPARE(readFile(target), QByteArray("x"));
     }
 
     void aFolderIsNotRemoved()

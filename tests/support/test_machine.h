@@ -48,6 +48,9 @@ void writeFile(const QString &path, const QByteArray &contents = QByteArray());
 /// The bytes of a file; a null array when it cannot be read.
 QByteArray readFile(const QString &path);
 
+/// The names of all that is in a folder, sorted, links and shortcuts that lead nowhere included.
+QStringList namesIn(const QString &folder);
+
 /// The lines of a log, each without its date and time, which are checked for their form; a line without them
 /// stands as it is with "! " before it.
 QStringList logLines(const QString &path);

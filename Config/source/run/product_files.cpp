@@ -1,12 +1,34 @@
 #include "run/product_files.h"
 
+#include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+// A link whose target is gone "does not exist", and anything with a shortcut's name counts as a link, whether
+// it is there or not; so it is looked for in its folder.
+bool isThere(const QString &path)
+{
+    const QFileInfo entry(path);
+    if (entry.exists() || !entry.isSymLink())
+        return entry.exists();
+    QDirIterator entries(entry.path(), QDir::AllEntries | QDir::System | QDir::Hidden);
+    while (entries.hasNext()) {
+        entries.next();
+        if (entries.fileName().compare(entry.fileName(), Qt::CaseInsensitive) == 0)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
 
 bool removeProductFile(const QString &path)
 {
-    QFile file(path);
-    if (!file.exists())
+    if (!isThere(path))
         return true;
+    QFile file(path);
     if (file.remove())
         return true;
     file.setPermissions(file.permissions() | QFile::WriteOwner | QFile::WriteUser);
