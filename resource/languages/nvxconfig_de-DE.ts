@@ -250,4 +250,84 @@
         <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, %1 wird nicht gesetzt</translation>
     </message>
 </context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, dem Produkt werden keine Dateien zugeordnet: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>%1 konnte nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>Dateizuordnungen erstellen</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>Der Installationsordner ist nicht bekannt, es werden keine Dateien zugeordnet</translation>
+    </message>
+</context>
+<context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>Die Registrierung verweigert den Wert %1 von %2</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>Die Registrierung verweigert das Entfernen von %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>Sprache im Deinstallationseintrag der Registrierung wird aktualisiert </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>Sprache im Deinstallationseintrag der Registrierung, bisher:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>Sprache im Deinstallationseintrag der Registrierung, Gebietsschema=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>Sprache im Deinstallationseintrag der Registrierung, gesetzt auf:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>Registrierungspfade</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>Desktop=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>Es gibt keinen Desktopordner für alle Benutzer, dort wird keine Verknüpfung angelegt</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>%1 konnte nicht entfernt werden</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>Dieser Text ist für eine Verknüpfung zu lang: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>Verknüpfung erstellen: </translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>NVX 3D-ViewerConfig wird ausgeführt.</translation>
+    </message>
+</context>
 </TS>

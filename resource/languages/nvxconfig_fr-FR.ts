@@ -250,4 +250,84 @@
         <translation>Le dossier ne peut pas être représenté dans la page de codes du système, la variable %1 n&apos;est pas définie</translation>
     </message>
 </context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>Le dossier ne peut pas être représenté dans la page de codes du système, aucun fichier n&apos;est associé au produit&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>Impossible de créer %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>Création des associations de fichiers</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>Le dossier d&apos;installation n&apos;est pas connu, aucun fichier n&apos;est associé</translation>
+    </message>
+</context>
+<context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>Le Registre refuse la valeur %1 de %2</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>Le Registre refuse la suppression de %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>Mise à jour de la langue de désinstallation dans le Registre </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>Langue de désinstallation dans le Registre, valeur actuelle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>Langue de désinstallation dans le Registre, paramètres régionaux=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>Langue de désinstallation dans le Registre, nouvelle valeur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>Chemins du Registre</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>Bureau=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>Il n&apos;existe pas de dossier Bureau pour tous les utilisateurs, aucun raccourci n&apos;y est créé</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>Impossible de supprimer %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>Ce texte est trop long pour un raccourci&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>Création du raccourci </translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>Exécution de NVX 3D-ViewerConfig.</translation>
+    </message>
+</context>
 </TS>

@@ -250,4 +250,84 @@
         <translation>La cartella non può essere rappresentata nella tabella codici del sistema, la variabile %1 non viene impostata</translation>
     </message>
 </context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>La cartella non può essere rappresentata nella tabella codici del sistema, nessun file viene associato al prodotto: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>Impossibile creare %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>Creazione delle associazioni di file</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>La cartella di installazione non è nota, nessun file viene associato</translation>
+    </message>
+</context>
+<context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>Il Registro di sistema rifiuta il valore %1 di %2</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>Il Registro di sistema rifiuta la rimozione di %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>Aggiornamento della lingua di disinstallazione nel Registro di sistema </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>Lingua di disinstallazione nel Registro di sistema, valore attuale:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>Lingua di disinstallazione nel Registro di sistema, impostazioni locali=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>Lingua di disinstallazione nel Registro di sistema, nuovo valore:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>Percorsi del Registro di sistema</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>Desktop=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>Non esiste una cartella Desktop per tutti gli utenti, non viene creato alcun collegamento</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>Impossibile rimuovere %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>Questo testo è troppo lungo per un collegamento: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>Creazione del collegamento </translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>Esecuzione di NVX 3D-ViewerConfig.</translation>
+    </message>
+</context>
 </TS>

@@ -250,4 +250,84 @@
         <translation>システムのコード ページではフォルダー名を表せないため、%1 は設定されません</translation>
     </message>
 </context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>システムのコード ページではフォルダー名を表せないため、ファイルは製品に関連付けられません: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>%1 を作成できません</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>ファイルの関連付けを作成しています</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>インストール フォルダーが不明なため、ファイルは関連付けられません</translation>
+    </message>
+</context>
+<context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>レジストリが %2 の値 %1 を拒否しました</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>レジストリが %1 の削除を拒否しました</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>レジストリのアンインストール言語を更新しています </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>レジストリのアンインストール言語 - 現在の値:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>レジストリのアンインストール言語 - ロケール=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>レジストリのアンインストール言語 - 新しい値:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>レジストリ パス</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>デスクトップ=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>すべてのユーザー用のデスクトップ フォルダーがないため、ショートカットは作成されません</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>%1 を削除できません</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>このテキストはショートカットには長すぎます: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>ショートカットの作成: </translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>NVX 3D-ViewerConfig を実行しています。</translation>
+    </message>
+</context>
 </TS>

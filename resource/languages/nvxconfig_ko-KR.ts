@@ -250,4 +250,84 @@
         <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 %1이(가) 설정되지 않습니다</translation>
     </message>
 </context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 파일을 제품에 연결하지 않습니다: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>%1을(를) 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>파일 연결을 만드는 중</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>설치 폴더를 알 수 없어 파일을 연결하지 않습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>레지스트리가 %2의 값 %1을(를) 거부했습니다</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>레지스트리가 %1의 제거를 거부했습니다</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>레지스트리의 제거 언어를 업데이트하는 중 </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>레지스트리의 제거 언어 - 현재 값:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>레지스트리의 제거 언어 - 로캘=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>레지스트리의 제거 언어 - 새 값:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>레지스트리 경로</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>바탕 화면=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>모든 사용자용 바탕 화면 폴더가 없어 바로 가기를 만들지 않습니다</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>%1을(를) 제거할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>이 텍스트는 바로 가기에 사용하기에 너무 깁니다: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>바로 가기 만들기: </translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>NVX 3D-ViewerConfig를 실행하는 중입니다.</translation>
+    </message>
+</context>
 </TS>

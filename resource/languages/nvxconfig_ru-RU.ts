@@ -250,4 +250,84 @@
         <translation>Папку нельзя записать в кодовой странице системы, переменная %1 не задана</translation>
     </message>
 </context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>Папку нельзя записать в кодовой странице системы, файлы не сопоставлены с продуктом: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>Не удалось создать %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>Создание сопоставлений файлов</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>Папка установки неизвестна, файлы не сопоставлены</translation>
+    </message>
+</context>
+<context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>Реестр отклонил параметр %1 раздела %2</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>Реестр отклонил удаление раздела %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>Обновление языка удаления в реестре </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>Язык удаления в реестре, текущее значение:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>Язык удаления в реестре, языковой стандарт=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>Язык удаления в реестре, новое значение:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>Пути реестра</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>Рабочий стол=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>Нет общей папки рабочего стола для всех пользователей, ярлык не создан</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>Не удалось удалить %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>Этот текст слишком длинный для ярлыка: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>Создание ярлыка </translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>Запуск NVX 3D-ViewerConfig.</translation>
+    </message>
+</context>
 </TS>

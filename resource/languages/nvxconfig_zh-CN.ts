@@ -250,4 +250,84 @@
         <translation>系统代码页无法表示该文件夹，未设置 %1</translation>
     </message>
 </context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>系统代码页无法表示该文件夹，未将文件与产品关联：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>无法创建 %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>正在创建文件关联</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>安装文件夹未知，未关联文件</translation>
+    </message>
+</context>
+<context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>注册表拒绝写入 %2 的值 %1</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>注册表拒绝删除 %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>正在更新注册表中的卸载语言 </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>注册表中的卸载语言，当前为：</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>注册表中的卸载语言，区域设置=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>注册表中的卸载语言，已设置为：</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>注册表路径</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>桌面=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>没有所有用户的桌面文件夹，不会创建快捷方式</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>无法删除 %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>此文本对于快捷方式来说过长：%1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>创建快捷方式 </translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>正在运行 NVX 3D-ViewerConfig。</translation>
+    </message>
+</context>
 </TS>

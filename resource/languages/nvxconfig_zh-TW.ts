@@ -250,4 +250,84 @@
         <translation>系統字碼頁無法表示該資料夾，未設定 %1</translation>
     </message>
 </context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>系統字碼頁無法表示該資料夾，未將檔案與產品建立關聯：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>無法建立 %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>正在建立檔案關聯</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>安裝資料夾不明，未建立檔案關聯</translation>
+    </message>
+</context>
+<context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>登錄拒絕寫入 %2 的值 %1</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>登錄拒絕移除 %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>正在更新登錄中的解除安裝語言 </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>登錄中的解除安裝語言，目前為：</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>登錄中的解除安裝語言，地區設定=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>登錄中的解除安裝語言，已設定為：</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>登錄路徑</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>桌面=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>沒有所有使用者的桌面資料夾，不會建立捷徑</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>無法移除 %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>此文字對捷徑來說過長：%1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>建立捷徑 </translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>正在執行 NVX 3D-ViewerConfig。</translation>
+    </message>
+</context>
 </TS>

@@ -52,6 +52,7 @@ private slots:
     {
         m_fixture = std::make_unique<EngineFixture>();
         writeFile(m_fixture->installed("NVXSolver.exe"));
+        m_fixture->machine.desktop = m_fixture->test.path(text("Desktop"));
     }
     void cleanup() { m_fixture.reset(); }
 
@@ -60,14 +61,27 @@ private slots:
         run(text("-I -S -Len-US"));
         QCOMPARE(
             steps(),
-            QStringList({text("   0 Beginning Install"), text("! Processors"), text("   0 Install Tutorials"),
-                         text("   0 Installing Tutorials"), text("   0 Install Python (locally for NVX)"),
-                         text("   0 Installing Python"), text("   0 Install Mertle Server"),
+            QStringList({text("   0 Beginning Install"),
+                         text("! Processors"),
+                         text("   0 Install Tutorials"),
+                         text("   0 Installing Tutorials"),
+                         text("   0 Install Python (locally for NVX)"),
+                         text("   0 Installing Python"),
+                         text("   0 Install Mertle Server"),
                          text("   0 There is no translators folder, the Mertle Server is left alone"),
                          text("   0 Created NVX2 default configuration"),
-                         text("   0 Created NVX2 analyze folder"), text("   0 Processing NVX_flags.txt"),
+                         text("   0 Created NVX2 analyze folder"),
+                         text("   0 Registry paths"),
+                         text("   0 Updating language registry uninstall "),
+                         text("   0 Updating language registry uninstall currently is"),
+                         text("   0 Running NVX 3D-ViewerConfig."),
+                         text("   0 Create file associations"),
+                         text("   0 FileAssociations.reg"),
+                         text("   0 Desktop="),
+                         text("   0 Create shortcut Velmora NVX 2017.lnk Success"),
+                         text("   0 Processing NVX_flags.txt"),
                          text("   0 The installation or update is complete. Click finish to continue.")}));
-        QCOMPARE(m_fixture->machine.associationNotices, 1);
+        QCOMPARE(m_fixture->machine.associationNotices, 2); // the shortcut's and the run's own
         QVERIFY(m_fixture->engine->state().runComplete);
     }
 
@@ -80,9 +94,12 @@ private slots:
                          text("   0 UnInstall Tutorials"), text("   0 UnInstall Python (locally for NVX)"),
                          text("   0 UnInstall Mertle Server"),
                          text("   0 There is no translators folder, the Mertle Server is left alone"),
-                         text("   0 Processing NVX_flags.txt"), text("   0 NVX_flags.txt has not changed"),
+                         text("   0 Registry paths"), text("   0 Running NVX 3D-ViewerConfig."),
+                         text("   0 Create file associations"), text("   0 FileAssociations.reg"),
+                         text("   0 Desktop="), text("   0 Processing NVX_flags.txt"),
+                         text("   0 NVX_flags.txt has not changed"),
                          text("   0 The installation or update is complete. Click finish to continue.")}));
-        QCOMPARE(m_fixture->machine.associationNotices, 1);
+        QCOMPARE(m_fixture->machine.associationNotices, 2); // the shortcut's and the run's own
     }
 
     void theProcessorLineHasNeitherTimeNorLevel()
@@ -134,7 +151,8 @@ private slots:
         engine.ProcessInstallation();
         QCOMPARE(view.shown.mid(1),
                  QStringList({text("Install Tutorials"), text("Install Python (locally for NVX)"),
-                              text("Install Mertle Server"), text("Processing NVX_flags.txt"),
+                              text("Install Mertle Server"), text("Registry paths"),
+                              text("Create file associations"), text("Processing NVX_flags.txt"),
                               text("The installation or update is complete. Click finish to continue.")}));
     }
 
@@ -248,7 +266,8 @@ private:
 
     static QString flag(const char *name) { return joinPath(System::getFlagsDirPath(), text(name)); }
 
-    // The lines of the run itself without those of the programs it starts, and without what follows a colon.
+    // The lines of the run itself without those of the programs it starts, without the folders of this test,
+    // and without what follows a colon.
     QStringList steps() const
     {
         QStringList found;
@@ -256,8 +275,12 @@ private:
         for (const QString &line : lines.mid(lines.indexOf(QRegularExpression(text("^   0 Beginning .*"))))) {
             static const QRegularExpression ofPrograms(
                 text("^ +-?\\d+ (Command:|WorkDir:|Output:|  | output:|Removing:)"));
-            if (!ofPrograms.match(line).hasMatch())
-                found << line.section(QLatin1Char(':'), 0, 0);
+            if (ofPrograms.match(line).hasMatch())
+                continue;
+            QString shown = line;
+            for (const QString &folder : {m_fixture->machine.desktop, m_fixture->machine.ownFolder})
+                shown.remove(folder + QDir::separator()).remove(folder);
+            found << shown.section(QLatin1Char(':'), 0, 0);
         }
         return found;
     }

@@ -64,7 +64,7 @@ public:
     /// nobody has written into it.
     void processFlagFile(const QString &name, RunMode mode);
 
-    // The steps; see the classes CommandRunner and ArchiveComponents and parallel_configuration.h.
+    // The steps; each does what the class or the header of its name in the rooms of the steps says.
     int runCommand(const QString &program, const QStringList &arguments, const QString &workFolder,
                    int timeoutMs = 30000);
     bool removeDirectory(const QString &path);
@@ -73,6 +73,13 @@ public:
     int installPython(RunMode mode);
     int installMertleServer(RunMode mode);
     void createParallelConfiguration(RunMode mode, const Nvx::Util::CpuInfo &cpuInfo);
+    int updateRegistry(RunMode mode);
+    int configureViewer(RunMode mode);
+    int createFileAssociations(RunMode mode);
+    int createShortcuts(RunMode mode);
+    int createShortcut(const QString &target, const QString &linkPath, const QString &description,
+                       const QString &iconPath, const QString &arguments);
+    void cleanLumara(RunMode mode);
 
 public slots:
     /// Performs one whole run: every step in its order, each told the run mode.

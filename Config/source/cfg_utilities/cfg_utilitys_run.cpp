@@ -19,8 +19,12 @@ void cfg_utilitys::ProcessInstallation()
     installPython(mode);
     installMertleServer(mode);
     createParallelConfiguration(mode, cpuInfo);
+    updateRegistry(mode);
+    createFileAssociations(mode);
+    createShortcuts(mode);
     m_machine.notifyAssociationsChanged();
     processFlagFile(QStringLiteral("NVX_flags.txt"), mode);
+    cleanLumara(mode);
 
     progress(0, tr("The installation or update is complete. Click finish to continue."));
     m_state.runComplete = true;

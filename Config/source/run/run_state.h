@@ -30,9 +30,15 @@ struct RunState
     QStringList pendingNotes;  ///< lines told first when the installation run starts
 
     /// The word for a mode in the language in force now; empty while the words are not set.
-    QString modeWord(RunMode mode) const
+    QString modeWord(RunMode mode) const { return word(static_cast<int>(mode)); }
+
+    /// The words behind what was done, " Success" and " Failed", likewise.
+    QString successWord() const { return word(3); }
+    QString failureWord() const { return word(4); }
+
+private:
+    QString word(int index) const
     {
-        const QString word = modeWords.value(static_cast<int>(mode));
-        return QCoreApplication::translate("cfg_utilitys", word.toLatin1().constData());
+        return QCoreApplication::translate("cfg_utilitys", modeWords.value(index).toLatin1().constData());
     }
 };

@@ -1,0 +1,90 @@
+#include "setup/product_registry.h"
+
+#include "nvx_util/registry_key.h"
+#include "nvx_util/system.h"
+#include "run/product.h"
+#include "run/reporter.h"
+#include "setup/product_values.h"
+#include "setup/uninstall_command.h"
+#include "setup/viewer_configuration.h"
+
+#include <QCoreApplication>
+
+using Nvx::Util::RegistryKey;
+
+namespace {
+
+struct Messages
+{
+    Q_DECLARE_TR_FUNCTIONS(ProductRegistry)
+};
+
+bool write(const RegistryValue &value)
+{
+    RegistryKey key(value.key);
+    if (const auto *text = std::get_if<QString>(&value.content))
+        return key.setText(value.name, *text);
+    return key.setNumber(value.name, std::get<quint32>(value.content));
+}
+
+void writeAll(const StepContext &context, const QList<RegistryValue> &values)
+{
+    for (const RegistryValue &value : values) {
+        if (!write(value))
+            context.reporter.log(
+                1, Messages::tr("The registry refuses the value %1 of %2").arg(value.name, value.key));
+    }
+}
+
+void removeUserGroups(const StepContext &context)
+{
+    for (const auto &group : {QStringLiteral("WebServices"), QStringLiteral("Lumara")}) {
+        RegistryKey key(userProductKey() + QLatin1Char('\\') + group);
+        if (!key.removeWhole())
+            context.reporter.log(1, Messages::tr("The registry refuses to remove %1").arg(key.path()));
+    }
+}
+
+void updateUninstallEntry(const StepContext &context)
+{
+    Reporter &reporter = context.reporter;
+    const QString locale = context.state.locale;
+    const QString entry =
+        QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\%1")
+            .arg(productFullName);
+
+    reporter.log(0, Messages::tr("Updating language registry uninstall "));
+    const QString current = RegistryKey(entry).text(QStringLiteral("UninstallPath")).value_or(QString());
+    reporter.log(0, Messages::tr("Updating language registry uninstall currently is:") + current);
+    const std::optional<QString> command = uninstallCommandIn(current, locale);
+    if (!command)
+        return;
+    reporter.log(0, Messages::tr("Updating language registry uninstall locale=") + locale);
+    writeAll(context, {{entry, QStringLiteral("UninstallPath"), *command},
+                       {entry, QStringLiteral("UninstallString"), *command}});
+    reporter.log(0, Messages::tr("Updating language registry uninstall set to:") + *command);
+}
+
+} // namespace
+
+int updateRegistry(const StepContext &context, RunMode mode)
+{
+    context.reporter.progress(0, Messages::tr("Registry paths"));
+    if (mode != RunMode::Install) {
+        configureViewer(context, mode);
+        removeUserGroups(context);
+        return 0;
+    }
+
+    ProductRecord record;
+    record.analyzeDirectory = Nvx::Util::joinPath(Nvx::Util::System::getProgramDataPath(productFullName),
+                                                  QStringLiteral("Analyze"));
+    record.installDir = context.state.installDir;
+    record.locale = context.state.locale;
+    record.registry64 = context.state.registry64;
+    writeAll(context, machineValues(record));
+    writeAll(context, userValues(record.locale));
+    updateUninstallEntry(context);
+    configureViewer(context, mode);
+    return 0;
+}

@@ -1,0 +1,427 @@
+"""What makes the product known to the machine and its users: the file types, the registry values, the uninstall
+entry, the viewer's configuration and the shortcut, made by the system's own Registry Editor and shell."""
+
+import shutil
+import unittest
+
+from machine_case import MachineCase, output_of
+from shell_link import read_link
+from winemachine import INSTALL_DIR, PROGRAM_FILES, SHARED_DATA, value_of
+
+CLASSES = "HKEY_LOCAL_MACHINE\\Software\\Classes\\"
+EXPLORER = "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\"
+PRODUCT_KEY = "HKEY_LOCAL_MACHINE\\Software\\Velmora\\NVX"
+USER_KEY = "HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"
+CENTER_KEY = USER_KEY + "\\WebServices\\CommunicationCenter"
+UNINSTALL_KEY = (
+    "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\NVX 2017"
+)
+SHELL_FOLDERS = (
+    "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders"
+)
+DESKTOP = "C:\\users\\Public\\Desktop"
+LINK = "\\Velmora NVX 2017.lnk"
+SCRIPT = "\\FileAssociations.reg"
+TYPES = {".nvxst": "nvxst.ico", ".nvz": "nvz.ico", ".tpl": "nvxtpl.ico", ".nvxpkg": "nvxpkg.ico"}
+OPENED = (".nvxst", ".nvz")
+
+
+def keys_below(registry, key):
+    """The paths of a key and all below it, without the part that they share."""
+    beginning = key.lower()
+    return sorted(
+        path[len(key) :]
+        for path in registry
+        if path.lower() == beginning or path.lower().startswith(beginning + "\\")
+    )
+
+
+def default_value(registry, key):
+    return value_of(registry, key, "")
+
+
+class SetUpCase(MachineCase):
+    def install(self, folder, *tokens):
+        code, lines = self.configure(folder, "-I", "-S", *(tokens or ("-Len-US",)))
+        self.assert_complete(code, lines)
+        return lines
+
+    def uninstall(self, folder):
+        code, lines = self.configure(folder, "-U", "-S", "-Len-US")
+        self.assert_complete(code, lines)
+        return lines
+
+    def assert_types_point_at(self, registry, folder):
+        for extension, icon in TYPES.items():
+            name = "NVX2017" + extension
+            self.assertEqual(default_value(registry, CLASSES + extension), name)
+            # The class is there as a sub-key too, which is not written down for itself.
+            self.assertIn("\\" + name + "\\ShellNew", keys_below(registry, CLASSES + extension))
+            self.assertEqual(default_value(registry, CLASSES + name), "NVX 2017")
+            self.assertEqual(
+                default_value(registry, CLASSES + name + "\\DefaultIcon"),
+                '"%s\\%s"' % (folder, icon),
+            )
+            shell = CLASSES + name + "\\shell"
+            if extension in OPENED:
+                self.assertEqual(default_value(registry, shell), "Open")
+                self.assertEqual(default_value(registry, shell + "\\Open"), "NVX 2017")
+                self.assertEqual(
+                    default_value(registry, shell + "\\Open\\command"),
+                    '"%s\\NVX.exe" "%%1"' % folder,
+                )
+            else:
+                self.assertIsNone(default_value(registry, shell))
+                self.assertEqual(keys_below(registry, shell + "\\Open"), [])
+
+    def read_shortcut(self, desktop=DESKTOP, code_page="cp1252"):
+        return read_link(self.machine.path(desktop + LINK).read_bytes(), code_page)
+
+    def viewer_start(self, folder):
+        """How the viewer's program was started last: its working folder and its arguments."""
+        record = self.machine.path(folder + "\\NVX Viewer\\last-start.txt")
+        return record.read_text(encoding="utf-8").splitlines()
+
+
+class InstallAndRemove(SetUpCase):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        case = cls()
+        case.put_product()
+        cls.put_an_earlier_product(case)
+        cls.first = case.configure(INSTALL_DIR, "-I", "-S", "-Lde-DE")
+        cls.link = case.read_shortcut()
+        cls.viewer = case.viewer_start(INSTALL_DIR)
+        cls.first_registry = cls.machine.registry()
+        cls.first_files = cls.machine.files()
+        case.configure(INSTALL_DIR, "-I", "-S", "-Lde-DE")
+        cls.second_registry = cls.machine.registry()
+        cls.removal = case.configure(INSTALL_DIR, "-U", "-S", "-Len-US")
+        cls.removal_viewer = case.viewer_start(INSTALL_DIR)
+        cls.removal_registry = cls.machine.registry()
+
+    @classmethod
+    def put_an_earlier_product(cls, case):
+        machine = cls.machine
+        for extension in TYPES:
+            machine.set_value(CLASSES + extension + "\\Old\\Deep", "a", "old")
+            machine.set_value(CLASSES + "NVX2017" + extension + "\\shell\\Print", "a", "old")
+            machine.set_value(EXPLORER + "FileExts\\" + extension + "\\UserChoice", "ProgId", "x")
+            machine.set_value(EXPLORER + "RecentDocs\\" + extension, "0", "x")
+        machine.set_value(
+            UNINSTALL_KEY, "UninstallPath", '"C:\\Set Up\\setup.exe" /LANG=en-US /X'
+        )
+        machine.set_value(UNINSTALL_KEY, "UninstallString", "old")
+        machine.set_value(USER_KEY + "\\Lumara\\Deep", "a", "old")
+        case.write(DESKTOP + LINK, b"an old link")
+        case.write(INSTALL_DIR + "\\WebServices\\Deep\\a.txt", b"old")
+        case.write(INSTALL_DIR + "\\Lumara.log", b"old")
+
+    def test_every_run_ends_well(self):
+        self.assertEqual((self.first[0], self.removal[0]), (0, 0))
+
+    def test_the_types_get_their_classes_icons_and_commands(self):
+        self.assert_types_point_at(self.second_registry, INSTALL_DIR)
+
+    def test_what_there_was_of_the_opened_types_is_gone(self):
+        for extension in OPENED:
+            self.assertEqual(keys_below(self.first_registry, CLASSES + extension + "\\Old"), [])
+            for place in ("FileExts\\", "RecentDocs\\"):
+                self.assertEqual(keys_below(self.first_registry, EXPLORER + place + extension), [])
+        shell = CLASSES + "NVX2017%s\\shell\\Print"
+        for extension in (".nvxst", ".nvz", ".tpl"):
+            self.assertEqual(keys_below(self.first_registry, shell % extension), [])
+
+    def test_what_the_user_chose_for_the_other_types_stays(self):
+        for extension in (".tpl", ".nvxpkg"):
+            for registry in (self.first_registry, self.removal_registry):
+                choice = EXPLORER + "FileExts\\" + extension + "\\UserChoice"
+                self.assertEqual(value_of(registry, choice, "ProgId"), "x")
+                self.assertEqual(value_of(registry, EXPLORER + "RecentDocs\\" + extension, "0"), "x")
+                self.assertEqual(value_of(registry, CLASSES + extension + "\\Old\\Deep", "a"), "old")
+        print_key = CLASSES + "NVX2017.nvxpkg\\shell\\Print"
+        self.assertEqual(value_of(self.removal_registry, print_key, "a"), "old")
+
+    def test_the_registry_editor_is_run_twice_and_leaves_no_script(self):
+        command = "   0 Command:regedit -s " + INSTALL_DIR + SCRIPT
+        self.assertEqual(self.first[1].count(command), 2)
+        self.assertEqual(self.removal[1].count(command), 2 + 2 + 1)
+        self.assertIn("   0 " + INSTALL_DIR + SCRIPT, self.first[1])
+        self.assertNotIn(INSTALL_DIR + SCRIPT, self.first_files)
+        self.assertFalse(self.exists(INSTALL_DIR + SCRIPT))
+
+    def test_the_machine_knows_the_product(self):
+        registry = self.first_registry
+        version = PRODUCT_KEY + "\\17.2"
+        self.assertEqual(value_of(registry, PRODUCT_KEY, "CurrentVersion"), "17.2")
+        self.assertEqual(
+            dict(registry[self.spelled(registry, version)]),
+            {
+                "AnalyzeDirectory": SHARED_DATA + "\\Analyze",
+                "InstallationDirectory": INSTALL_DIR,
+                "Locale": "de-DE",
+                "master": self.master(registry),
+                "release": "2017",
+                "productline": "KORVA",
+            },
+        )
+
+    def master(self, registry):
+        windows32 = "HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion"
+        return "Win64" if keys_below(registry, windows32) else "Win32"
+
+    def spelled(self, registry, key):
+        return next(path for path in registry if path.lower() == key.lower())
+
+    def test_the_users_notification_centre_is_quiet(self):
+        registry = self.first_registry
+        services = USER_KEY + "\\WebServices"
+        self.assertEqual(value_of(registry, services, "CountryCode"), "DE")
+        self.assertEqual(
+            dict(registry[self.spelled(registry, CENTER_KEY)]),
+            {
+                "PollingFrequency": "dword:ffffffff",
+                "LastUpdateTimeLoWord": "dword:%08x" % 1329242409,
+                "LastUpdateTimeHiWord": "dword:00000000",
+                "OutOfBoxWizardCompletedStep": "dword:00000003",
+                "DataState": "dword:00000000",
+                "EnableBubbleNotification": "dword:00000000",
+            },
+        )
+
+    def test_the_uninstall_entry_speaks_the_users_language(self):
+        for name in ("UninstallPath", "UninstallString"):
+            self.assertEqual(
+                value_of(self.first_registry, UNINSTALL_KEY, name),
+                '"C:\\Set Up\\setup.exe" /LANG=de-DE',
+            )
+
+    def test_the_viewer_is_configured_and_its_configuration_taken_back(self):
+        self.assertEqual(self.viewer, [INSTALL_DIR, "-i"])
+        self.assertEqual(self.removal_viewer, [INSTALL_DIR])
+        program = INSTALL_DIR + "\\NVX Viewer\\NVXViewerConfig.exe"
+        self.assertEqual(
+            output_of(self.first[1], program),
+            ["   0 Output:", "   0   The viewer is configured."],
+        )
+
+    def test_the_shortcut_starts_the_product_in_its_folder(self):
+        self.assertEqual(self.link["target"], INSTALL_DIR + "\\NVX.exe")
+        self.assertEqual(self.link["description"], "Velmora NVX 2017")
+        self.assertEqual(self.link["work_folder"], INSTALL_DIR)
+        self.assertEqual(self.link.get("arguments", ""), "")
+        self.assertEqual(self.link.get("icon", ""), "")
+        made = [line for line in self.first[1] if line.endswith(DESKTOP + LINK + " erfolgreich")]
+        self.assertEqual(len(made), 1, self.first[1])
+
+    def test_a_second_install_changes_nothing(self):
+        ours = (CLASSES + ".", CLASSES + "NVX2017", PRODUCT_KEY, USER_KEY, UNINSTALL_KEY, EXPLORER)
+
+        def part(registry):
+            return {key: values for key, values in registry.items() if key.startswith(ours)}
+
+        self.assertEqual(part(self.first_registry), part(self.second_registry))
+
+    def test_removal_leaves_the_types_unassociated(self):
+        registry = self.removal_registry
+        for extension in OPENED:
+            self.assertEqual(keys_below(registry, CLASSES + extension), [])
+        for extension in (".nvxst", ".nvz", ".tpl"):
+            self.assertEqual(keys_below(registry, CLASSES + "NVX2017" + extension), [])
+        self.assertEqual(default_value(registry, CLASSES + ".nvxpkg"), "NVX2017.nvxpkg")
+        self.assertEqual(default_value(registry, CLASSES + "NVX2017.nvxpkg"), "NVX 2017")
+
+    def test_removal_takes_the_users_groups_and_leaves_the_products_key(self):
+        registry = self.removal_registry
+        for group in ("\\WebServices", "\\Lumara"):
+            self.assertEqual(keys_below(registry, USER_KEY + group), [])
+        self.assertEqual(value_of(registry, USER_KEY, "Locale"), "en-US")
+        self.assertEqual(value_of(registry, PRODUCT_KEY, "CurrentVersion"), "17.2")
+        version = PRODUCT_KEY + "\\17.2"
+        self.assertEqual(value_of(registry, version, "InstallationDirectory"), INSTALL_DIR)
+
+    def test_removal_takes_the_shortcut(self):
+        self.assertFalse(self.exists(DESKTOP + LINK))
+
+    def test_removal_takes_the_notification_centres_folder_and_leaves_its_files(self):
+        self.assertFalse(self.exists(INSTALL_DIR + "\\WebServices"))
+        self.assertTrue(self.exists(INSTALL_DIR + "\\Lumara.log"))
+
+
+class WesternFolders(SetUpCase):
+    def test_blanks_umlauts_and_special_characters(self):
+        for folder in (
+            PROGRAM_FILES + " (x86)\\Velmora\\NVX 2017",
+            "C:\\Größe & Söhne\\NVX",
+            "C:\\100%1 frei [a] = 'b', {c}\\NVX",
+        ):
+            with self.subTest(folder):
+                self.put_product(folder)
+                self.install(folder)
+                link = self.read_shortcut()
+                self.assertEqual(link["target"], folder + "\\NVX.exe")
+                self.assertEqual(link["work_folder"], folder)
+                self.assertEqual(self.viewer_start(folder), [folder, "-i"])
+                registry = self.machine.registry()
+                self.assert_types_point_at(registry, folder)
+                version = PRODUCT_KEY + "\\17.2"
+                self.assertEqual(value_of(registry, version, "InstallationDirectory"), folder)
+
+    def test_a_name_that_the_code_page_lacks_is_never_written_wrong(self):
+        folder = "C:\\日本\\NVX"
+        self.put_product("C:\\NVX")
+        self.install("C:\\NVX")
+        self.put_product(folder)
+        lines = self.install(folder)
+        self.assertIn(
+            "   1 The system's code page cannot write the folder, no files are associated with the "
+            "product: " + folder,
+            lines,
+        )
+        self.assertEqual(self.read_shortcut()["work_folder"], folder)
+        registry = self.machine.registry()
+        # The older product's types are gone all the same: they would start what is no longer configured.
+        for extension in OPENED:
+            self.assertEqual(keys_below(registry, CLASSES + extension), [])
+        version = PRODUCT_KEY + "\\17.2"
+        self.assertEqual(value_of(registry, version, "InstallationDirectory"), folder)
+
+
+class JapaneseFolders(SetUpCase):
+    locale = "ja_JP.UTF-8"
+
+    def test_a_japanese_name(self):
+        # The second byte of the last folder's first character is a backslash in this code page.
+        folder = "C:\\日本 ソフト\\表 NVX"
+        self.put_product(folder)
+        self.install(folder)
+        link = self.read_shortcut(code_page="cp932")
+        self.assertEqual(link["target"], folder + "\\NVX.exe")
+        self.assertEqual(link["work_folder"], folder)
+        self.assert_types_point_at(self.machine.registry(), folder)
+
+
+class Faults(SetUpCase):
+    folder = "C:\\NVX"
+
+    def setUp(self):
+        self.put_product(self.folder)
+        self.machine.path(self.folder + "\\NVXConfig.log").unlink(missing_ok=True)
+
+    def failure_line(self, lines):
+        return next(line for line in lines if "Create shortcut " in line)
+
+    def test_a_missing_registry_editor_is_logged(self):
+        windows = self.machine.prefix / "drive_c" / "windows"
+        programs = [windows / "regedit.exe", windows / "system32" / "regedit.exe"]
+        kept = [(program, program.read_bytes()) for program in programs if program.exists()]
+        self.assertTrue(kept)
+        for program, _ in kept:
+            program.unlink()  # the template keeps its own
+        lines = self.install(self.folder)
+        for program, contents in kept:
+            program.write_bytes(contents)
+        self.assertEqual(
+            output_of(lines, "regedit"),
+            ["  -2 Output:", "  -2   The program could not be started."],
+        )
+        self.assertFalse(self.exists(self.folder + SCRIPT))
+
+    def test_a_script_that_cannot_be_created_is_not_imported(self):
+        self.write(self.folder + SCRIPT + "\\in the way.txt")
+        lines = self.install(self.folder)
+        shutil.rmtree(self.machine.path(self.folder + SCRIPT))
+        self.assertEqual(lines.count("   1 Unable to create " + self.folder + SCRIPT), 2)
+        self.assertFalse(any("Command:regedit" in line for line in lines))
+
+    def test_an_old_script_is_not_imported(self):
+        self.write(
+            self.folder + SCRIPT,
+            b'REGEDIT4\n\n[HKEY_CURRENT_USER\\Software\\Planted]\n"a"="b"\n',
+        ).chmod(0o444)
+        self.install(self.folder)
+        self.assertFalse(self.exists(self.folder + SCRIPT))
+        registry = self.machine.registry()
+        self.assertEqual(keys_below(registry, "HKEY_CURRENT_USER\\Software\\Planted"), [])
+
+    def test_without_a_desktop_folder_there_is_no_shortcut(self):
+        desktop = self.machine.path(DESKTOP)
+        desktop.rename(desktop.with_name("Gone"))
+        self.write("C:" + LINK, b"not ours")
+        lines = self.install(self.folder) + self.uninstall(self.folder)
+        desktop.with_name("Gone").rename(desktop)
+        self.assertIn("   0 Desktop=", lines)
+        self.assertIn("   1 There is no desktop folder of all users, it gets no shortcut", lines)
+        self.assertEqual(self.machine.path("C:" + LINK).read_bytes(), b"not ours")
+
+    def test_a_link_path_of_over_260_characters_is_a_clear_failure(self):
+        desktop = "C:\\" + "\\".join(["a long desktop folder %d" % i for i in range(10)])
+        self.assertTrue(len(desktop) < 260 < len(desktop + LINK), len(desktop))
+        self.machine.path(desktop).mkdir(parents=True)
+        self.machine.set_value(SHELL_FOLDERS, "Common Desktop", desktop)
+        lines = self.install(self.folder)
+        self.machine.set_value(SHELL_FOLDERS, "Common Desktop", DESKTOP)
+        self.assertIn("   0 Desktop=" + desktop, lines)
+        self.assertIn("   1 This text is too long for a shortcut: " + desktop + LINK, lines)
+        self.assertIn("-2147024690 Create shortcut " + desktop + LINK + " Failed", lines)
+        self.assertEqual(list(self.machine.path(desktop).iterdir()), [])
+
+    def test_a_target_of_over_260_characters_is_a_clear_failure(self):
+        folder = "C:\\" + "\\".join(["ein ziemlich langer Ordnername %d" % i for i in range(7)])
+        folder += "x" * (255 - len(folder))
+        self.put_product(folder)
+        lines = self.install(folder)
+        self.assertIn("   1 This text is too long for a shortcut: " + folder + "\\NVX.exe", lines)
+        self.assertIn("-2147024690 Create shortcut " + DESKTOP + LINK + " Failed", lines)
+        self.assertFalse(self.exists(DESKTOP + LINK))
+
+    def test_a_desktop_that_takes_no_file_is_logged_with_the_shells_result(self):
+        link = self.machine.path(DESKTOP + LINK)
+        link.unlink(missing_ok=True)
+        link.mkdir()
+        lines = self.install(self.folder)
+        link.rmdir()
+        self.assertIn("   1 Unable to remove " + DESKTOP + LINK, lines)
+        self.assertRegex(self.failure_line(lines), r"^-\d+ Create shortcut .* Failed$")
+
+    def test_a_key_that_cannot_be_written_is_logged(self):
+        # A link to a key that is not there: it can be neither opened nor made.
+        self.machine.stop()
+        registry = self.machine.prefix / "system.reg"
+        kept = registry.read_bytes()
+        registry.write_bytes(
+            kept
+            + b"\n[Software\\\\Velmora\\\\NVX] 1700000000\n#link\n"
+            + b'"SymbolicLinkValue"=str(6):"\\\\REGISTRY\\\\Machine\\\\Nowhere\\\\Missing"\n'
+        )
+        lines = self.install(self.folder)
+        self.machine.stop()
+        registry.write_bytes(kept)
+        refused = [line for line in lines if "The registry refuses" in line]
+        self.assertEqual(len(refused), 7, refused)
+        self.assertEqual(
+            refused[0], "   1 The registry refuses the value CurrentVersion of " + PRODUCT_KEY
+        )
+        self.assertIn("   0 Running NVX 3D-ViewerConfig.", lines)
+
+    def test_a_shortcut_to_a_program_that_is_gone_is_removed(self):
+        self.install(self.folder)
+        self.machine.path(self.folder + "\\NVX.exe").unlink()
+        self.assertTrue(self.exists(DESKTOP + LINK))
+        self.uninstall(self.folder)
+        self.assertFalse(self.exists(DESKTOP + LINK))
+
+    def test_a_missing_viewer_and_icons_stop_nothing(self):
+        shutil.rmtree(self.machine.path(self.folder + "\\NVX Viewer"))
+        for icon in TYPES.values():
+            self.machine.path(self.folder + "\\" + icon).unlink()
+        lines = self.install(self.folder)
+        self.assertEqual(
+            output_of(lines, self.folder + "\\NVX Viewer\\NVXViewerConfig.exe"),
+            ["  -2 Output:", "  -2   The program could not be started."],
+        )
+
+
+if __name__ == "__main__":
+    unittest.main()
