@@ -330,4 +330,94 @@
         <translation>NVX 3D-ViewerConfig wird ausgeführt.</translation>
     </message>
 </context>
+<context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Brevant wird konfiguriert</translation>
+    </message>
+</context>
+<context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo – Entfernen:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Ostrade wird entfernt aus:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>Schreiben von </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>Erstellen von  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 ist bereits vorhanden, keine Änderung</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>%1 konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1 konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>Der Name des Installationsordners lässt sich in der Codepage des Systems nicht darstellen, das Startprogramm wird nicht eingetragen in %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>Kopieren von %1 nach %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Überprüfen:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>Erstellen:</translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Kopieren:%1 nach: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>Öffnen fehlgeschlagen:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1 konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Kopieren:%1 nach: %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel-Add-In</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>Entfernen:</translation>
+    </message>
+</context>
 </TS>

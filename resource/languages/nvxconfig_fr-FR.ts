@@ -330,4 +330,94 @@
         <translation>Exécution de NVX 3D-ViewerConfig.</translation>
     </message>
 </context>
+<context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Configuration de Brevant</translation>
+    </message>
+</context>
+<context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo – suppression&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Suppression d&apos;Ostrade de&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>Écriture de </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>Création de  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 existe déjà, aucune modification</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>Impossible de lire %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Impossible d&apos;écrire %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>Le nom du dossier d&apos;installation ne peut pas être représenté dans la page de codes du système, le lanceur n&apos;est pas inscrit dans %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>Copie de %1 vers %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Vérification&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>Création&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Copie&#xa0;: %1 vers&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>Échec de l&apos;ouverture&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Impossible d&apos;écrire %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Copie&#xa0;: %1 vers&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Complément Tamsel</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>Suppression&#xa0;:</translation>
+    </message>
+</context>
 </TS>

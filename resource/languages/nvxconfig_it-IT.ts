@@ -330,4 +330,94 @@
         <translation>Esecuzione di NVX 3D-ViewerConfig.</translation>
     </message>
 </context>
+<context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Configurazione di Brevant</translation>
+    </message>
+</context>
+<context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo – rimozione:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Rimozione di Ostrade da:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>Scrittura di </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>Creazione di  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 esiste già, nessuna modifica</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>Impossibile leggere %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>Il nome della cartella di installazione non può essere rappresentato nella tabella codici del sistema, l&apos;utilità di avvio non viene inserita in %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>Copia di %1 in %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Controllo:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>Creazione:</translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Copia:%1 in: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>Apertura non riuscita:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Copia:%1 in: %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Componente aggiuntivo di Tamsel</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>Rimozione:</translation>
+    </message>
+</context>
 </TS>

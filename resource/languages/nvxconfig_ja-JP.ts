@@ -330,4 +330,94 @@
         <translation>NVX 3D-ViewerConfig を実行しています。</translation>
     </message>
 </context>
+<context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Brevant を構成しています</translation>
+    </message>
+</context>
+<context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo 削除:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Ostrade を削除しています:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>書き込み中: </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>作成中:  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 は既に存在するため、何も行いません</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>%1 を読み取れません</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>システムのコード ページではインストール フォルダーの名前を表せないため、ランチャーを %1 に登録しません</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>%1 を %2 にコピーしています</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>確認中:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>作成中:</translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>コピー:%1 → %2</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>開けませんでした:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>コピー:%1 → %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel アドイン</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>削除:</translation>
+    </message>
+</context>
 </TS>

@@ -330,4 +330,94 @@
         <translation>NVX 3D-ViewerConfig를 실행하는 중입니다.</translation>
     </message>
 </context>
+<context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Brevant 구성 중</translation>
+    </message>
+</context>
+<context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo 제거:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Ostrade를 제거하는 중:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>쓰는 중: </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>만드는 중:  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1이(가) 이미 있으므로 아무 작업도 하지 않습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>%1을(를) 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1을(를) 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>시스템 코드 페이지로 설치 폴더의 이름을 나타낼 수 없어 시작 관리자를 %1에 등록하지 않습니다</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>%1을(를) %2(으)로 복사하는 중</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>확인 중:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>만드는 중:</translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>복사:%1 → %2</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>열지 못했습니다:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1을(를) 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>복사:%1 → %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel 추가 기능</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>제거:</translation>
+    </message>
+</context>
 </TS>

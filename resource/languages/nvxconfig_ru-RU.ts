@@ -330,4 +330,94 @@
         <translation>Запуск NVX 3D-ViewerConfig.</translation>
     </message>
 </context>
+<context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Настройка Brevant</translation>
+    </message>
+</context>
+<context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo – удаление:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Удаление Ostrade из:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>Запись файла </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>Создание файла  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 уже существует, изменения не требуются</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>Не удалось прочитать %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Не удалось записать %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>Имя папки установки нельзя записать в кодовой странице системы, модуль запуска не внесён в %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>Копирование %1 в %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Проверка:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>Создание:</translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Копирование:%1 в: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>Не удалось открыть файл:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Не удалось записать %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Копирование:%1 в: %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Надстройка Tamsel</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>Удаление:</translation>
+    </message>
+</context>
 </TS>

@@ -330,4 +330,94 @@
         <translation>正在运行 NVX 3D-ViewerConfig。</translation>
     </message>
 </context>
+<context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>正在配置 Brevant</translation>
+    </message>
+</context>
+<context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo 删除：</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>正在从以下文件中删除 Ostrade：</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>正在写入 </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>正在创建  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 已存在，不执行任何操作</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>无法读取 %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>无法写入 %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>系统代码页无法表示安装文件夹的名称，未将启动程序写入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>正在将 %1 复制到 %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>正在检查：</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>正在创建：</translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>复制：%1 到：%2</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>打开失败：</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>无法写入 %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>复制：%1 到：%2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel 加载项</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>删除：</translation>
+    </message>
+</context>
 </TS>

@@ -330,4 +330,94 @@
         <translation>正在執行 NVX 3D-ViewerConfig。</translation>
     </message>
 </context>
+<context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>正在設定 Brevant</translation>
+    </message>
+</context>
+<context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo 移除：</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>正在從下列檔案移除 Ostrade：</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>正在寫入 </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>正在建立  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 已存在，不執行任何動作</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>無法讀取 %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>無法寫入 %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>系統字碼頁無法表示安裝資料夾的名稱，未將啟動程式寫入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>正在將 %1 複製到 %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>正在檢查：</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>正在建立：</translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>複製：%1 到：%2</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>開啟失敗：</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>無法寫入 %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>複製：%1 到：%2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel 增益集</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>移除：</translation>
+    </message>
+</context>
 </TS>

@@ -79,6 +79,9 @@ private slots:
                          text("   0 FileAssociations.reg"),
                          text("   0 Desktop="),
                          text("   0 Create shortcut Velmora NVX 2017.lnk Success"),
+                         text("   0 Install Creo Remove"),
+                         text("   0 Install Creo Remove"),
+                         text("   0 Install Creo Remove"),
                          text("   0 Processing NVX_flags.txt"),
                          text("   0 The installation or update is complete. Click finish to continue.")}));
         QCOMPARE(m_fixture->machine.associationNotices, 2); // the shortcut's and the run's own
@@ -96,8 +99,9 @@ private slots:
                          text("   0 There is no translators folder, the Mertle Server is left alone"),
                          text("   0 Registry paths"), text("   0 Running NVX 3D-ViewerConfig."),
                          text("   0 Create file associations"), text("   0 FileAssociations.reg"),
-                         text("   0 Desktop="), text("   0 Processing NVX_flags.txt"),
-                         text("   0 NVX_flags.txt has not changed"),
+                         text("   0 Desktop="), text("   0 UnInstall Creo Remove"),
+                         text("   0 UnInstall Creo Remove"), text("   0 UnInstall Creo Remove"),
+                         text("   0 Processing NVX_flags.txt"), text("   0 NVX_flags.txt has not changed"),
                          text("   0 The installation or update is complete. Click finish to continue.")}));
         QCOMPARE(m_fixture->machine.associationNotices, 2); // the shortcut's and the run's own
     }

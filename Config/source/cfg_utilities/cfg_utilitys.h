@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cad/cad_packages.h"
+#include "cad/shared_folders.h"
 #include "nvx_util/log.h"
 #include "run/launcher_boxes.h"
 #include "run/reporter.h"
@@ -49,6 +50,10 @@ public:
     /// page. The boxes must outlive their use.
     void setLauncherBoxes(LauncherBoxes *boxes) { m_launcherBoxes = boxes ? boxes : &m_unshownBoxes; }
 
+    /// Where the launcher steps look from now on for the folders of the CAD systems that have a place of
+    /// their own on the machine.
+    void setSharedFolders(const SharedFolders &folders) { m_sharedFolders = folders; }
+
     /// A run is about to start: until it ends, runComplete is false.
     void clearRunComplete();
 
@@ -81,6 +86,19 @@ public:
                        const QString &iconPath, const QString &arguments);
     void cleanLumara(RunMode mode);
 
+    // The launchers in the CAD systems. Each step decides for itself, by its box and what the search has
+    // found, whether it acts; see the headers in the folder cad.
+    void installCreoLauncher(RunMode mode);
+    void installBrevantLauncher(RunMode mode);
+    void installSolidWorksLauncher(RunMode mode);
+    void installNXLauncher(RunMode mode);
+    void installTamselLauncher(RunMode mode);
+    void installTamselAddin(RunMode mode, int year);
+    void installSpaceClaimLauncher(RunMode mode);
+
+    /// The launchers of all CAD systems, in their order.
+    void installLaunchers(RunMode mode);
+
 public slots:
     /// Performs one whole run: every step in its order, each told the run mode.
     void ProcessInstallation();
@@ -109,6 +127,7 @@ private:
     Nvx::Util::Log m_log;
     ProgressView *m_progressView = nullptr;
     CadPackages m_cadPackages;
+    SharedFolders m_sharedFolders;
     UnshownLauncherBoxes m_unshownBoxes;
     LauncherBoxes *m_launcherBoxes = &m_unshownBoxes;
 };

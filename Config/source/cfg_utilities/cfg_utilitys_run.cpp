@@ -22,6 +22,7 @@ void cfg_utilitys::ProcessInstallation()
     updateRegistry(mode);
     createFileAssociations(mode);
     createShortcuts(mode);
+    installLaunchers(mode);
     m_machine.notifyAssociationsChanged();
     processFlagFile(QStringLiteral("NVX_flags.txt"), mode);
     cleanLumara(mode);

@@ -1,0 +1,47 @@
+#include "cad/foreign_file.h"
+
+#include "nvx_util/code_page.h"
+#include "nvx_util/whole_file.h"
+#include "run/reporter.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace {
+
+struct Messages
+{
+    Q_DECLARE_TR_FUNCTIONS(ForeignFile)
+};
+
+} // namespace
+
+std::optional<QByteArray> readForeignFile(Reporter &reporter, const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly)) {
+        QByteArray contents = file.readAll();
+        // What is read only in part, because another process has locked the rest, must not be written back.
+        if (file.error() == QFileDevice::NoError && contents.size() >= file.size())
+            return contents;
+    }
+    reporter.log(1, Messages::tr("Unable to read %1").arg(path));
+    return std::nullopt;
+}
+
+std::optional<QByteArray> toForeignText(Reporter &reporter, const QString &path, const QString &text)
+{
+    std::optional<QByteArray> written = Nvx::Util::toAnsi(text);
+    if (!written)
+        reporter.log(1,
+                     Messages::tr("The system's code page cannot write the name of the install folder, the "
+                                  "launcher is not entered into %1")
+                         .arg(path));
+    return written;
+}
+
+void replaceForeignFile(Reporter &reporter, const QString &path, const QByteArray &contents)
+{
+    if (!Nvx::Util::replaceWholeFile(path, contents))
+        reporter.log(1, Messages::tr("Unable to write %1").arg(path));
+}
