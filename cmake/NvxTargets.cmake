@@ -49,13 +49,22 @@ function(nvx_test name)
     endif()
 endfunction()
 
-# nvx_fuzzer(NAME LINKS TARGET...): a libFuzzer program of NAME.cpp, run for a few seconds by ctest and as
-# long as one likes by hand.
+# nvx_fuzzer(NAME LINKS TARGET...): a libFuzzer program of NAME.cpp, run by ctest and as long as one likes by
+# hand. Where the folder corpus/NAME has inputs to start from, ctest makes a fixed number of runs from them, the
+# same ones each time; else it runs for a few seconds. What is found is not written into the sources.
 function(nvx_fuzzer name)
     cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
     add_executable(${name} ${name}.cpp)
     target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} nvx_options)
-    add_test(NAME ${name} COMMAND ${name} -max_total_time=5 -timeout=10 -max_len=4096)
+    set(limits -timeout=10 -max_len=4096)
+    file(GLOB seeds CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name}/*")
+    if(seeds)
+        list(JOIN seeds "," inputs)
+        list(APPEND limits -runs=20000 -seed=1 "-seed_inputs=${inputs}")
+    else()
+        list(APPEND limits -max_total_time=5)
+    endif()
+    add_test(NAME ${name} COMMAND ${name} ${limits})
 endfunction()
