@@ -1,10 +1,13 @@
 """What the tests on a Windows machine share. A test class has a machine of its own; its tests put the product
 into folders of their own on it."""
 
+import contextlib
 import os
 import re
 import shutil
+import subprocess
 import sys
+import time
 import unittest
 from pathlib import Path
 
@@ -14,6 +17,7 @@ from winemachine import INSTALL_DIR, Machine, make_template  # noqa: E402
 
 # The build folder, handed over by ctest.
 BUILD = Path(os.environ["NVX_BUILD"])
+HOLD_FILE = BUILD / "tests" / "machine" / "hold_file.exe"
 SCRIPTED_TOOL = BUILD / "tests" / "scripted_tool.exe"
 COMPLETE = "   0 The installation or update is complete. Click finish to continue."
 
@@ -63,6 +67,29 @@ class MachineCase(unittest.TestCase):
 
     def exists(self, windows_path):
         return self.machine.path(windows_path).exists()
+
+    @contextlib.contextmanager
+    def held(self, path, mark_path="C:\\held"):
+        """A program has the file open and lets nobody else at it; the other path is a sign between the two."""
+        mark = self.machine.path(mark_path)
+        mark.unlink(missing_ok=True)
+        holder = subprocess.Popen(
+            ["wine", str(HOLD_FILE), path, mark_path],
+            env=self.machine.environment(),
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+        )
+        try:
+            for _ in range(600):
+                if mark.exists() or holder.poll() is not None:
+                    break
+                time.sleep(0.1)
+            self.assertTrue(mark.exists(), "the file could not be held")
+            yield
+        finally:
+            mark.unlink(missing_ok=True)
+            self.assertEqual(holder.wait(60), 0)
 
     def assert_complete(self, code, lines):
         self.assertEqual(code, 0)

@@ -1,0 +1,21 @@
+// Keeps a file open that nobody else may open meanwhile: hold_file FILE MARK
+//
+// Makes the file MARK when it holds the other one, and ends when MARK is gone, at the latest after two
+// minutes. Answers 1 when it could not open FILE.
+
+#include <windows.h>
+
+int wmain(int argc, wchar_t **argv)
+{
+    if (argc != 3)
+        return 2;
+    const HANDLE held =
+        CreateFileW(argv[1], GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (held == INVALID_HANDLE_VALUE)
+        return 1;
+    CloseHandle(CreateFileW(argv[2], GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    for (int waits = 0; waits < 1200 && GetFileAttributesW(argv[2]) != INVALID_FILE_ATTRIBUTES; ++waits)
+        Sleep(100);
+    CloseHandle(held);
+    return 0;
+}

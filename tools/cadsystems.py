@@ -1,0 +1,107 @@
+"""The six CAD systems that the product has launchers for, as their installers leave them on a machine: what
+stands of them in the registry, and the files that the launchers are told in.
+
+    put_cad_systems(machine)
+"""
+
+CREO_2 = "C:\\Program Files\\PTC\\Creo 2.0\\Parametric"
+CREO_3 = "C:\\Program Files\\PTC\\Creo 3.0\\Parametric"
+NX_10 = "C:\\Program Files\\Siemens\\NX 10.0"
+NX_11 = "C:\\Program Files\\Siemens\\NX 11.0"
+TAMSEL = "C:\\Program Files\\Velmora\\Tamsel 2017"
+
+PROTK_2 = "C:\\Program Files\\PTC\\Creo 2.0\\Common Files\\M010\\text\\protk.dat"
+PROTK_3 = "C:\\Program Files\\PTC\\Creo 3.0\\Common Files\\text\\protk.dat"
+CUSTOM_DIRS_10 = NX_10 + "\\UGII\\MENUS\\custom_dirs.dat"
+CUSTOM_DIRS_11 = NX_11 + "\\UGII\\MENUS\\custom_dirs.dat"
+TAMSEL_ADDINS = (
+    "C:\\Documents and Settings\\All Users\\Application Data\\Velmora\\Tamsel\\Addins"
+)
+SPACE_CLAIM_ADDINS = "C:\\ProgramData\\SpaceClaim\\Addins"
+
+# The launchers that are COM libraries, by the class that they register.
+COM_CLASSES = {
+    "Brevant": "HKEY_LOCAL_MACHINE\\Software\\Classes\\CLSID\\{5E0C3B5A-6E0B-4C53-9C55-0B7B9A3D2017}",
+    "SolidWorks": "HKEY_LOCAL_MACHINE\\Software\\Classes\\CLSID\\{8F1D6C72-21B4-4E0F-8A4E-61C0D94E2017}",
+}
+
+# An add-in of somebody else's, in an encoding of its own.
+FOREIGN_ENTRY = (
+    "name Schaltplan für Größen\r\n"
+    "startup DLL\r\n"
+    "exec_file C:\\Müller\\schaltplan.dll\r\n"
+    "text_dir C:\\Müller\\text\r\n"
+    "revision 24\r\n"
+    "end\r\n"
+).encode("latin-1")
+FOREIGN_DIRS = "# Ordner für Menüs\r\nC:\\Müller\\nx\r\n".encode("latin-1")
+
+_SOFTWARE = "HKEY_LOCAL_MACHINE\\SOFTWARE\\"
+_TAMSEL_CODE = "{0A7B2B0E-5E54-4C2E-9A5B-6E5C0F3B%s}"
+
+
+def registry_values():
+    """{key: {value name: text}}"""
+    values = {
+        _SOFTWARE + "Velmora\\Brevant\\Current Version": {"LASTVERSIONRUN": "21.0.3"},
+        _SOFTWARE + "Velmora\\Brevant\\RegistryVersion20.0": {"ProductName": "Brevant 2016"},
+        _SOFTWARE + "Velmora\\Brevant\\RegistryVersion21.0": {"ProductName": "Brevant 2017"},
+        _SOFTWARE
+        + "PTC\\Creo Parametric\\2.0\\M010": {"InstallDir": CREO_2, "ShipCode": "M010"},
+        _SOFTWARE
+        + "PTC\\Creo Parametric\\3.0\\F000": {"InstallDir": CREO_3, "ShipCode": "F000"},
+        _SOFTWARE
+        + "SolidWorks\\SolidWorks 2016\\Setup": {
+            "SolidWorks Folder": "C:\\Program Files\\SolidWorks"
+        },
+        _SOFTWARE + "Unigraphics Solutions\\NX\\10.0": {"UGII_BASE_DIR": NX_10},
+        _SOFTWARE + "Unigraphics Solutions\\NX\\11.0": {"UGII_BASE_DIR": NX_11},
+        _SOFTWARE
+        + "Classes\\SpaceClaim.Location": {"Folder": "C:\\Program Files\\SpaceClaim"},
+    }
+    for product, year in (
+        ("Velmora Tamsel", "2016"),
+        ("Velmora Tamsel", "2017"),
+        ("Velmora Tamsel Architecture", "2017"),
+        ("Velmora Tamsel MEP", "2018"),
+    ):
+        code = _TAMSEL_CODE % (str(len(product)) + year[2:])
+        components = _SOFTWARE + "Velmora\\Tamsel\\%s %s\\Components" % (product, year)
+        uninstall = _SOFTWARE + "Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + code
+        values[components] = {"ProductCode": code}
+        values[uninstall] = {"InstallLocation": TAMSEL}
+    return values
+
+
+def registry_script(values):
+    """The text of a script for the Registry Editor that writes the values."""
+    lines = ["Windows Registry Editor Version 5.00"]
+    for key, texts in values.items():
+        lines += ["", "[%s]" % key]
+        for name, text in texts.items():
+            lines.append('"%s"="%s"' % (_escaped(name), _escaped(text)))
+    return "\r\n".join(lines) + "\r\n"
+
+
+def put_cad_systems(machine):
+    """Puts all six on the machine, with an add-in of somebody else's in each file that is shared."""
+    script = machine.path("C:\\cad.reg")
+    script.write_bytes(b"\xff\xfe" + registry_script(registry_values()).encode("utf-16-le"))
+    answer = machine.run("regedit", "/S", "C:\\cad.reg")
+    if answer.returncode != 0:
+        raise RuntimeError("regedit failed: " + answer.stdout.decode(errors="replace"))
+    script.unlink()
+    for path, contents in (
+        (PROTK_2, FOREIGN_ENTRY),
+        (PROTK_3, FOREIGN_ENTRY),
+        (CUSTOM_DIRS_10, FOREIGN_DIRS),
+        (CUSTOM_DIRS_11, FOREIGN_DIRS),
+    ):
+        file = machine.path(path)
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_bytes(contents)
+    machine.path(SPACE_CLAIM_ADDINS).mkdir(parents=True, exist_ok=True)
+
+
+def _escaped(text):
+    return text.replace("\\", "\\\\").replace('"', '\\"')
