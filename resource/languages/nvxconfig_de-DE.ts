@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Brevant wird konfiguriert</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Valid NVX command line arguments are:
@@ -90,6 +97,78 @@
     </message>
 </context>
 <context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo – Entfernen:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Ostrade wird entfernt aus:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>Schreiben von </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>Erstellen von  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 ist bereits vorhanden, keine Änderung</translation>
+    </message>
+</context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, dem Produkt werden keine Dateien zugeordnet: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>%1 konnte nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>Dateizuordnungen erstellen</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>Der Installationsordner ist nicht bekannt, es werden keine Dateien zugeordnet</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>%1 konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1 konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>Der Name des Installationsordners lässt sich in der Codepage des Systems nicht darstellen, das Startprogramm wird nicht eingetragen in %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>Kopieren von %1 nach %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Überprüfen:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>Erstellen:</translation>
+    </message>
+</context>
+<context>
     <name>ParallelConfiguration</name>
     <message>
         <source>Created NVX2 default configuration: %1</source>
@@ -109,6 +188,67 @@
     </message>
 </context>
 <context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>Die Registrierung verweigert den Wert %1 von %2</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>Die Registrierung verweigert das Entfernen von %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>Sprache im Deinstallationseintrag der Registrierung wird aktualisiert </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>Sprache im Deinstallationseintrag der Registrierung, bisher:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>Sprache im Deinstallationseintrag der Registrierung, Gebietsschema=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>Sprache im Deinstallationseintrag der Registrierung, gesetzt auf:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>Registrierungspfade</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>Desktop=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>Es gibt keinen Desktopordner für alle Benutzer, dort wird keine Verknüpfung angelegt</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>%1 konnte nicht entfernt werden</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>Dieser Text ist für eine Verknüpfung zu lang: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>Verknüpfung erstellen: </translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Kopieren:%1 nach: %2</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
@@ -121,6 +261,36 @@
     <message>
         <source>This build has no localization tool</source>
         <translation>Diese Programmversion enthält kein Lokalisierungswerkzeug</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>Öffnen fehlgeschlagen:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1 konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Kopieren:%1 nach: %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel-Add-In</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>Entfernen:</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>NVX 3D-ViewerConfig wird ausgeführt.</translation>
     </message>
 </context>
 <context>
@@ -248,176 +418,6 @@
     <message>
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, %1 wird nicht gesetzt</translation>
-    </message>
-</context>
-<context>
-    <name>FileAssociations</name>
-    <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
-        <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, dem Produkt werden keine Dateien zugeordnet: %1</translation>
-    </message>
-    <message>
-        <source>Unable to create %1</source>
-        <translation>%1 konnte nicht erstellt werden</translation>
-    </message>
-    <message>
-        <source>Create file associations</source>
-        <translation>Dateizuordnungen erstellen</translation>
-    </message>
-    <message>
-        <source>The install folder is not known, no files are associated</source>
-        <translation>Der Installationsordner ist nicht bekannt, es werden keine Dateien zugeordnet</translation>
-    </message>
-</context>
-<context>
-    <name>ProductRegistry</name>
-    <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>Die Registrierung verweigert den Wert %1 von %2</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>Die Registrierung verweigert das Entfernen von %1</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall </source>
-        <translation>Sprache im Deinstallationseintrag der Registrierung wird aktualisiert </translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall currently is:</source>
-        <translation>Sprache im Deinstallationseintrag der Registrierung, bisher:</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall locale=</source>
-        <translation>Sprache im Deinstallationseintrag der Registrierung, Gebietsschema=</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall set to:</source>
-        <translation>Sprache im Deinstallationseintrag der Registrierung, gesetzt auf:</translation>
-    </message>
-    <message>
-        <source>Registry paths</source>
-        <translation>Registrierungspfade</translation>
-    </message>
-</context>
-<context>
-    <name>Shortcuts</name>
-    <message>
-        <source>Desktop=</source>
-        <translation>Desktop=</translation>
-    </message>
-    <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>Es gibt keinen Desktopordner für alle Benutzer, dort wird keine Verknüpfung angelegt</translation>
-    </message>
-    <message>
-        <source>Unable to remove %1</source>
-        <translation>%1 konnte nicht entfernt werden</translation>
-    </message>
-    <message>
-        <source>This text is too long for a shortcut: %1</source>
-        <translation>Dieser Text ist für eine Verknüpfung zu lang: %1</translation>
-    </message>
-    <message>
-        <source>Create shortcut </source>
-        <translation>Verknüpfung erstellen: </translation>
-    </message>
-</context>
-<context>
-    <name>ViewerConfiguration</name>
-    <message>
-        <source>Running NVX 3D-ViewerConfig.</source>
-        <translation>NVX 3D-ViewerConfig wird ausgeführt.</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Brevant wird konfiguriert</translation>
-    </message>
-</context>
-<context>
-    <name>CreoLauncher</name>
-    <message>
-        <source> Creo Remove:</source>
-        <translation> Creo – Entfernen:</translation>
-    </message>
-    <message>
-        <source>Removing Ostrade from:</source>
-        <translation>Ostrade wird entfernt aus:</translation>
-    </message>
-    <message>
-        <source>Writing </source>
-        <translation>Schreiben von </translation>
-    </message>
-    <message>
-        <source>Creating  </source>
-        <translation>Erstellen von  </translation>
-    </message>
-    <message>
-        <source>Ostrade %1 already exists, do nothing</source>
-        <translation>Ostrade %1 ist bereits vorhanden, keine Änderung</translation>
-    </message>
-</context>
-<context>
-    <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>%1 konnte nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1 konnte nicht geschrieben werden</translation>
-    </message>
-    <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>Der Name des Installationsordners lässt sich in der Codepage des Systems nicht darstellen, das Startprogramm wird nicht eingetragen in %1</translation>
-    </message>
-</context>
-<context>
-    <name>NxLauncher</name>
-    <message>
-        <source>Copying %1 to %2</source>
-        <translation>Kopieren von %1 nach %2</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Überprüfen:</translation>
-    </message>
-    <message>
-        <source>Creating</source>
-        <translation>Erstellen:</translation>
-    </message>
-</context>
-<context>
-    <name>SpaceClaimLauncher</name>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>Kopieren:%1 nach: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TamselLauncher</name>
-    <message>
-        <source>Open failed:</source>
-        <translation>Öffnen fehlgeschlagen:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1 konnte nicht geschrieben werden</translation>
-    </message>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>Kopieren:%1 nach: %2</translation>
-    </message>
-    <message>
-        <source>Tamsel Addin</source>
-        <translation>Tamsel-Add-In</translation>
-    </message>
-    <message>
-        <source>Removing:</source>
-        <translation>Entfernen:</translation>
     </message>
 </context>
 </TS>

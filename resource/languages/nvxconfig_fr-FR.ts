@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Configuration de Brevant</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Valid NVX command line arguments are:
@@ -90,6 +97,78 @@
     </message>
 </context>
 <context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo – suppression&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Suppression d&apos;Ostrade de&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>Écriture de </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>Création de  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 existe déjà, aucune modification</translation>
+    </message>
+</context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>Le dossier ne peut pas être représenté dans la page de codes du système, aucun fichier n&apos;est associé au produit&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>Impossible de créer %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>Création des associations de fichiers</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>Le dossier d&apos;installation n&apos;est pas connu, aucun fichier n&apos;est associé</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>Impossible de lire %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Impossible d&apos;écrire %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>Le nom du dossier d&apos;installation ne peut pas être représenté dans la page de codes du système, le lanceur n&apos;est pas inscrit dans %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>Copie de %1 vers %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Vérification&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>Création&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>ParallelConfiguration</name>
     <message>
         <source>Created NVX2 default configuration: %1</source>
@@ -109,6 +188,67 @@
     </message>
 </context>
 <context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>Le Registre refuse la valeur %1 de %2</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>Le Registre refuse la suppression de %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>Mise à jour de la langue de désinstallation dans le Registre </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>Langue de désinstallation dans le Registre, valeur actuelle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>Langue de désinstallation dans le Registre, paramètres régionaux=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>Langue de désinstallation dans le Registre, nouvelle valeur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>Chemins du Registre</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>Bureau=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>Il n&apos;existe pas de dossier Bureau pour tous les utilisateurs, aucun raccourci n&apos;y est créé</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>Impossible de supprimer %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>Ce texte est trop long pour un raccourci&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>Création du raccourci </translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Copie&#xa0;: %1 vers&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
@@ -121,6 +261,36 @@
     <message>
         <source>This build has no localization tool</source>
         <translation>Cette version ne comporte pas d&apos;outil de localisation</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>Échec de l&apos;ouverture&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Impossible d&apos;écrire %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Copie&#xa0;: %1 vers&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Complément Tamsel</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>Suppression&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>Exécution de NVX 3D-ViewerConfig.</translation>
     </message>
 </context>
 <context>
@@ -248,176 +418,6 @@
     <message>
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>Le dossier ne peut pas être représenté dans la page de codes du système, la variable %1 n&apos;est pas définie</translation>
-    </message>
-</context>
-<context>
-    <name>FileAssociations</name>
-    <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
-        <translation>Le dossier ne peut pas être représenté dans la page de codes du système, aucun fichier n&apos;est associé au produit&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Unable to create %1</source>
-        <translation>Impossible de créer %1</translation>
-    </message>
-    <message>
-        <source>Create file associations</source>
-        <translation>Création des associations de fichiers</translation>
-    </message>
-    <message>
-        <source>The install folder is not known, no files are associated</source>
-        <translation>Le dossier d&apos;installation n&apos;est pas connu, aucun fichier n&apos;est associé</translation>
-    </message>
-</context>
-<context>
-    <name>ProductRegistry</name>
-    <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>Le Registre refuse la valeur %1 de %2</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>Le Registre refuse la suppression de %1</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall </source>
-        <translation>Mise à jour de la langue de désinstallation dans le Registre </translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall currently is:</source>
-        <translation>Langue de désinstallation dans le Registre, valeur actuelle&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall locale=</source>
-        <translation>Langue de désinstallation dans le Registre, paramètres régionaux=</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall set to:</source>
-        <translation>Langue de désinstallation dans le Registre, nouvelle valeur&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Registry paths</source>
-        <translation>Chemins du Registre</translation>
-    </message>
-</context>
-<context>
-    <name>Shortcuts</name>
-    <message>
-        <source>Desktop=</source>
-        <translation>Bureau=</translation>
-    </message>
-    <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>Il n&apos;existe pas de dossier Bureau pour tous les utilisateurs, aucun raccourci n&apos;y est créé</translation>
-    </message>
-    <message>
-        <source>Unable to remove %1</source>
-        <translation>Impossible de supprimer %1</translation>
-    </message>
-    <message>
-        <source>This text is too long for a shortcut: %1</source>
-        <translation>Ce texte est trop long pour un raccourci&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Create shortcut </source>
-        <translation>Création du raccourci </translation>
-    </message>
-</context>
-<context>
-    <name>ViewerConfiguration</name>
-    <message>
-        <source>Running NVX 3D-ViewerConfig.</source>
-        <translation>Exécution de NVX 3D-ViewerConfig.</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Configuration de Brevant</translation>
-    </message>
-</context>
-<context>
-    <name>CreoLauncher</name>
-    <message>
-        <source> Creo Remove:</source>
-        <translation> Creo – suppression&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Removing Ostrade from:</source>
-        <translation>Suppression d&apos;Ostrade de&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Writing </source>
-        <translation>Écriture de </translation>
-    </message>
-    <message>
-        <source>Creating  </source>
-        <translation>Création de  </translation>
-    </message>
-    <message>
-        <source>Ostrade %1 already exists, do nothing</source>
-        <translation>Ostrade %1 existe déjà, aucune modification</translation>
-    </message>
-</context>
-<context>
-    <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>Impossible de lire %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Impossible d&apos;écrire %1</translation>
-    </message>
-    <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>Le nom du dossier d&apos;installation ne peut pas être représenté dans la page de codes du système, le lanceur n&apos;est pas inscrit dans %1</translation>
-    </message>
-</context>
-<context>
-    <name>NxLauncher</name>
-    <message>
-        <source>Copying %1 to %2</source>
-        <translation>Copie de %1 vers %2</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Vérification&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Creating</source>
-        <translation>Création&#xa0;:</translation>
-    </message>
-</context>
-<context>
-    <name>SpaceClaimLauncher</name>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>Copie&#xa0;: %1 vers&#xa0;: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TamselLauncher</name>
-    <message>
-        <source>Open failed:</source>
-        <translation>Échec de l&apos;ouverture&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Impossible d&apos;écrire %1</translation>
-    </message>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>Copie&#xa0;: %1 vers&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>Tamsel Addin</source>
-        <translation>Complément Tamsel</translation>
-    </message>
-    <message>
-        <source>Removing:</source>
-        <translation>Suppression&#xa0;:</translation>
     </message>
 </context>
 </TS>

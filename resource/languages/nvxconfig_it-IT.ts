@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Configurazione di Brevant</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Valid NVX command line arguments are:
@@ -90,6 +97,78 @@
     </message>
 </context>
 <context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo – rimozione:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Rimozione di Ostrade da:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>Scrittura di </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>Creazione di  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 esiste già, nessuna modifica</translation>
+    </message>
+</context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>La cartella non può essere rappresentata nella tabella codici del sistema, nessun file viene associato al prodotto: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>Impossibile creare %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>Creazione delle associazioni di file</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>La cartella di installazione non è nota, nessun file viene associato</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>Impossibile leggere %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>Il nome della cartella di installazione non può essere rappresentato nella tabella codici del sistema, l&apos;utilità di avvio non viene inserita in %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>Copia di %1 in %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Controllo:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>Creazione:</translation>
+    </message>
+</context>
+<context>
     <name>ParallelConfiguration</name>
     <message>
         <source>Created NVX2 default configuration: %1</source>
@@ -109,6 +188,67 @@
     </message>
 </context>
 <context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>Il Registro di sistema rifiuta il valore %1 di %2</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>Il Registro di sistema rifiuta la rimozione di %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>Aggiornamento della lingua di disinstallazione nel Registro di sistema </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>Lingua di disinstallazione nel Registro di sistema, valore attuale:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>Lingua di disinstallazione nel Registro di sistema, impostazioni locali=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>Lingua di disinstallazione nel Registro di sistema, nuovo valore:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>Percorsi del Registro di sistema</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>Desktop=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>Non esiste una cartella Desktop per tutti gli utenti, non viene creato alcun collegamento</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>Impossibile rimuovere %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>Questo testo è troppo lungo per un collegamento: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>Creazione del collegamento </translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Copia:%1 in: %2</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
@@ -121,6 +261,36 @@
     <message>
         <source>This build has no localization tool</source>
         <translation>Questa versione non contiene lo strumento di localizzazione</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>Apertura non riuscita:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Copia:%1 in: %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Componente aggiuntivo di Tamsel</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>Rimozione:</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>Esecuzione di NVX 3D-ViewerConfig.</translation>
     </message>
 </context>
 <context>
@@ -248,176 +418,6 @@
     <message>
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>La cartella non può essere rappresentata nella tabella codici del sistema, la variabile %1 non viene impostata</translation>
-    </message>
-</context>
-<context>
-    <name>FileAssociations</name>
-    <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
-        <translation>La cartella non può essere rappresentata nella tabella codici del sistema, nessun file viene associato al prodotto: %1</translation>
-    </message>
-    <message>
-        <source>Unable to create %1</source>
-        <translation>Impossibile creare %1</translation>
-    </message>
-    <message>
-        <source>Create file associations</source>
-        <translation>Creazione delle associazioni di file</translation>
-    </message>
-    <message>
-        <source>The install folder is not known, no files are associated</source>
-        <translation>La cartella di installazione non è nota, nessun file viene associato</translation>
-    </message>
-</context>
-<context>
-    <name>ProductRegistry</name>
-    <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>Il Registro di sistema rifiuta il valore %1 di %2</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>Il Registro di sistema rifiuta la rimozione di %1</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall </source>
-        <translation>Aggiornamento della lingua di disinstallazione nel Registro di sistema </translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall currently is:</source>
-        <translation>Lingua di disinstallazione nel Registro di sistema, valore attuale:</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall locale=</source>
-        <translation>Lingua di disinstallazione nel Registro di sistema, impostazioni locali=</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall set to:</source>
-        <translation>Lingua di disinstallazione nel Registro di sistema, nuovo valore:</translation>
-    </message>
-    <message>
-        <source>Registry paths</source>
-        <translation>Percorsi del Registro di sistema</translation>
-    </message>
-</context>
-<context>
-    <name>Shortcuts</name>
-    <message>
-        <source>Desktop=</source>
-        <translation>Desktop=</translation>
-    </message>
-    <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>Non esiste una cartella Desktop per tutti gli utenti, non viene creato alcun collegamento</translation>
-    </message>
-    <message>
-        <source>Unable to remove %1</source>
-        <translation>Impossibile rimuovere %1</translation>
-    </message>
-    <message>
-        <source>This text is too long for a shortcut: %1</source>
-        <translation>Questo testo è troppo lungo per un collegamento: %1</translation>
-    </message>
-    <message>
-        <source>Create shortcut </source>
-        <translation>Creazione del collegamento </translation>
-    </message>
-</context>
-<context>
-    <name>ViewerConfiguration</name>
-    <message>
-        <source>Running NVX 3D-ViewerConfig.</source>
-        <translation>Esecuzione di NVX 3D-ViewerConfig.</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Configurazione di Brevant</translation>
-    </message>
-</context>
-<context>
-    <name>CreoLauncher</name>
-    <message>
-        <source> Creo Remove:</source>
-        <translation> Creo – rimozione:</translation>
-    </message>
-    <message>
-        <source>Removing Ostrade from:</source>
-        <translation>Rimozione di Ostrade da:</translation>
-    </message>
-    <message>
-        <source>Writing </source>
-        <translation>Scrittura di </translation>
-    </message>
-    <message>
-        <source>Creating  </source>
-        <translation>Creazione di  </translation>
-    </message>
-    <message>
-        <source>Ostrade %1 already exists, do nothing</source>
-        <translation>Ostrade %1 esiste già, nessuna modifica</translation>
-    </message>
-</context>
-<context>
-    <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>Impossibile leggere %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Impossibile scrivere %1</translation>
-    </message>
-    <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>Il nome della cartella di installazione non può essere rappresentato nella tabella codici del sistema, l&apos;utilità di avvio non viene inserita in %1</translation>
-    </message>
-</context>
-<context>
-    <name>NxLauncher</name>
-    <message>
-        <source>Copying %1 to %2</source>
-        <translation>Copia di %1 in %2</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Controllo:</translation>
-    </message>
-    <message>
-        <source>Creating</source>
-        <translation>Creazione:</translation>
-    </message>
-</context>
-<context>
-    <name>SpaceClaimLauncher</name>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>Copia:%1 in: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TamselLauncher</name>
-    <message>
-        <source>Open failed:</source>
-        <translation>Apertura non riuscita:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Impossibile scrivere %1</translation>
-    </message>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>Copia:%1 in: %2</translation>
-    </message>
-    <message>
-        <source>Tamsel Addin</source>
-        <translation>Componente aggiuntivo di Tamsel</translation>
-    </message>
-    <message>
-        <source>Removing:</source>
-        <translation>Rimozione:</translation>
     </message>
 </context>
 </TS>

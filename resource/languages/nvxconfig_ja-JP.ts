@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Brevant を構成しています</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Valid NVX command line arguments are:
@@ -90,6 +97,78 @@
     </message>
 </context>
 <context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo 削除:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Ostrade を削除しています:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>書き込み中: </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>作成中:  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 は既に存在するため、何も行いません</translation>
+    </message>
+</context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>システムのコード ページではフォルダー名を表せないため、ファイルは製品に関連付けられません: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>%1 を作成できません</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>ファイルの関連付けを作成しています</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>インストール フォルダーが不明なため、ファイルは関連付けられません</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>%1 を読み取れません</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>システムのコード ページではインストール フォルダーの名前を表せないため、ランチャーを %1 に登録しません</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>%1 を %2 にコピーしています</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>確認中:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>作成中:</translation>
+    </message>
+</context>
+<context>
     <name>ParallelConfiguration</name>
     <message>
         <source>Created NVX2 default configuration: %1</source>
@@ -109,6 +188,67 @@
     </message>
 </context>
 <context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>レジストリが %2 の値 %1 を拒否しました</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>レジストリが %1 の削除を拒否しました</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>レジストリのアンインストール言語を更新しています </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>レジストリのアンインストール言語 - 現在の値:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>レジストリのアンインストール言語 - ロケール=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>レジストリのアンインストール言語 - 新しい値:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>レジストリ パス</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>デスクトップ=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>すべてのユーザー用のデスクトップ フォルダーがないため、ショートカットは作成されません</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>%1 を削除できません</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>このテキストはショートカットには長すぎます: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>ショートカットの作成: </translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>コピー:%1 → %2</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
@@ -121,6 +261,36 @@
     <message>
         <source>This build has no localization tool</source>
         <translation>このビルドにはローカライズ ツールがありません</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>開けませんでした:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>コピー:%1 → %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel アドイン</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>削除:</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>NVX 3D-ViewerConfig を実行しています。</translation>
     </message>
 </context>
 <context>
@@ -248,176 +418,6 @@
     <message>
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>システムのコード ページではフォルダー名を表せないため、%1 は設定されません</translation>
-    </message>
-</context>
-<context>
-    <name>FileAssociations</name>
-    <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
-        <translation>システムのコード ページではフォルダー名を表せないため、ファイルは製品に関連付けられません: %1</translation>
-    </message>
-    <message>
-        <source>Unable to create %1</source>
-        <translation>%1 を作成できません</translation>
-    </message>
-    <message>
-        <source>Create file associations</source>
-        <translation>ファイルの関連付けを作成しています</translation>
-    </message>
-    <message>
-        <source>The install folder is not known, no files are associated</source>
-        <translation>インストール フォルダーが不明なため、ファイルは関連付けられません</translation>
-    </message>
-</context>
-<context>
-    <name>ProductRegistry</name>
-    <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>レジストリが %2 の値 %1 を拒否しました</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>レジストリが %1 の削除を拒否しました</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall </source>
-        <translation>レジストリのアンインストール言語を更新しています </translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall currently is:</source>
-        <translation>レジストリのアンインストール言語 - 現在の値:</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall locale=</source>
-        <translation>レジストリのアンインストール言語 - ロケール=</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall set to:</source>
-        <translation>レジストリのアンインストール言語 - 新しい値:</translation>
-    </message>
-    <message>
-        <source>Registry paths</source>
-        <translation>レジストリ パス</translation>
-    </message>
-</context>
-<context>
-    <name>Shortcuts</name>
-    <message>
-        <source>Desktop=</source>
-        <translation>デスクトップ=</translation>
-    </message>
-    <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>すべてのユーザー用のデスクトップ フォルダーがないため、ショートカットは作成されません</translation>
-    </message>
-    <message>
-        <source>Unable to remove %1</source>
-        <translation>%1 を削除できません</translation>
-    </message>
-    <message>
-        <source>This text is too long for a shortcut: %1</source>
-        <translation>このテキストはショートカットには長すぎます: %1</translation>
-    </message>
-    <message>
-        <source>Create shortcut </source>
-        <translation>ショートカットの作成: </translation>
-    </message>
-</context>
-<context>
-    <name>ViewerConfiguration</name>
-    <message>
-        <source>Running NVX 3D-ViewerConfig.</source>
-        <translation>NVX 3D-ViewerConfig を実行しています。</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Brevant を構成しています</translation>
-    </message>
-</context>
-<context>
-    <name>CreoLauncher</name>
-    <message>
-        <source> Creo Remove:</source>
-        <translation> Creo 削除:</translation>
-    </message>
-    <message>
-        <source>Removing Ostrade from:</source>
-        <translation>Ostrade を削除しています:</translation>
-    </message>
-    <message>
-        <source>Writing </source>
-        <translation>書き込み中: </translation>
-    </message>
-    <message>
-        <source>Creating  </source>
-        <translation>作成中:  </translation>
-    </message>
-    <message>
-        <source>Ostrade %1 already exists, do nothing</source>
-        <translation>Ostrade %1 は既に存在するため、何も行いません</translation>
-    </message>
-</context>
-<context>
-    <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>%1 を読み取れません</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1 に書き込めません</translation>
-    </message>
-    <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>システムのコード ページではインストール フォルダーの名前を表せないため、ランチャーを %1 に登録しません</translation>
-    </message>
-</context>
-<context>
-    <name>NxLauncher</name>
-    <message>
-        <source>Copying %1 to %2</source>
-        <translation>%1 を %2 にコピーしています</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>確認中:</translation>
-    </message>
-    <message>
-        <source>Creating</source>
-        <translation>作成中:</translation>
-    </message>
-</context>
-<context>
-    <name>SpaceClaimLauncher</name>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>コピー:%1 → %2</translation>
-    </message>
-</context>
-<context>
-    <name>TamselLauncher</name>
-    <message>
-        <source>Open failed:</source>
-        <translation>開けませんでした:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1 に書き込めません</translation>
-    </message>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>コピー:%1 → %2</translation>
-    </message>
-    <message>
-        <source>Tamsel Addin</source>
-        <translation>Tamsel アドイン</translation>
-    </message>
-    <message>
-        <source>Removing:</source>
-        <translation>削除:</translation>
     </message>
 </context>
 </TS>

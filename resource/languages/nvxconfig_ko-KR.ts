@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Brevant 구성 중</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Valid NVX command line arguments are:
@@ -90,6 +97,78 @@
     </message>
 </context>
 <context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo 제거:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Ostrade를 제거하는 중:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>쓰는 중: </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>만드는 중:  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1이(가) 이미 있으므로 아무 작업도 하지 않습니다</translation>
+    </message>
+</context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 파일을 제품에 연결하지 않습니다: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>%1을(를) 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>파일 연결을 만드는 중</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>설치 폴더를 알 수 없어 파일을 연결하지 않습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>%1을(를) 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1을(를) 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>시스템 코드 페이지로 설치 폴더의 이름을 나타낼 수 없어 시작 관리자를 %1에 등록하지 않습니다</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>%1을(를) %2(으)로 복사하는 중</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>확인 중:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>만드는 중:</translation>
+    </message>
+</context>
+<context>
     <name>ParallelConfiguration</name>
     <message>
         <source>Created NVX2 default configuration: %1</source>
@@ -109,6 +188,67 @@
     </message>
 </context>
 <context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>레지스트리가 %2의 값 %1을(를) 거부했습니다</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>레지스트리가 %1의 제거를 거부했습니다</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>레지스트리의 제거 언어를 업데이트하는 중 </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>레지스트리의 제거 언어 - 현재 값:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>레지스트리의 제거 언어 - 로캘=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>레지스트리의 제거 언어 - 새 값:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>레지스트리 경로</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>바탕 화면=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>모든 사용자용 바탕 화면 폴더가 없어 바로 가기를 만들지 않습니다</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>%1을(를) 제거할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>이 텍스트는 바로 가기에 사용하기에 너무 깁니다: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>바로 가기 만들기: </translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>복사:%1 → %2</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
@@ -121,6 +261,36 @@
     <message>
         <source>This build has no localization tool</source>
         <translation>이 빌드에는 지역화 도구가 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>열지 못했습니다:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>%1을(를) 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>복사:%1 → %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel 추가 기능</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>제거:</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>NVX 3D-ViewerConfig를 실행하는 중입니다.</translation>
     </message>
 </context>
 <context>
@@ -248,176 +418,6 @@
     <message>
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 %1이(가) 설정되지 않습니다</translation>
-    </message>
-</context>
-<context>
-    <name>FileAssociations</name>
-    <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
-        <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 파일을 제품에 연결하지 않습니다: %1</translation>
-    </message>
-    <message>
-        <source>Unable to create %1</source>
-        <translation>%1을(를) 만들 수 없습니다</translation>
-    </message>
-    <message>
-        <source>Create file associations</source>
-        <translation>파일 연결을 만드는 중</translation>
-    </message>
-    <message>
-        <source>The install folder is not known, no files are associated</source>
-        <translation>설치 폴더를 알 수 없어 파일을 연결하지 않습니다</translation>
-    </message>
-</context>
-<context>
-    <name>ProductRegistry</name>
-    <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>레지스트리가 %2의 값 %1을(를) 거부했습니다</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>레지스트리가 %1의 제거를 거부했습니다</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall </source>
-        <translation>레지스트리의 제거 언어를 업데이트하는 중 </translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall currently is:</source>
-        <translation>레지스트리의 제거 언어 - 현재 값:</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall locale=</source>
-        <translation>레지스트리의 제거 언어 - 로캘=</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall set to:</source>
-        <translation>레지스트리의 제거 언어 - 새 값:</translation>
-    </message>
-    <message>
-        <source>Registry paths</source>
-        <translation>레지스트리 경로</translation>
-    </message>
-</context>
-<context>
-    <name>Shortcuts</name>
-    <message>
-        <source>Desktop=</source>
-        <translation>바탕 화면=</translation>
-    </message>
-    <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>모든 사용자용 바탕 화면 폴더가 없어 바로 가기를 만들지 않습니다</translation>
-    </message>
-    <message>
-        <source>Unable to remove %1</source>
-        <translation>%1을(를) 제거할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>This text is too long for a shortcut: %1</source>
-        <translation>이 텍스트는 바로 가기에 사용하기에 너무 깁니다: %1</translation>
-    </message>
-    <message>
-        <source>Create shortcut </source>
-        <translation>바로 가기 만들기: </translation>
-    </message>
-</context>
-<context>
-    <name>ViewerConfiguration</name>
-    <message>
-        <source>Running NVX 3D-ViewerConfig.</source>
-        <translation>NVX 3D-ViewerConfig를 실행하는 중입니다.</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Brevant 구성 중</translation>
-    </message>
-</context>
-<context>
-    <name>CreoLauncher</name>
-    <message>
-        <source> Creo Remove:</source>
-        <translation> Creo 제거:</translation>
-    </message>
-    <message>
-        <source>Removing Ostrade from:</source>
-        <translation>Ostrade를 제거하는 중:</translation>
-    </message>
-    <message>
-        <source>Writing </source>
-        <translation>쓰는 중: </translation>
-    </message>
-    <message>
-        <source>Creating  </source>
-        <translation>만드는 중:  </translation>
-    </message>
-    <message>
-        <source>Ostrade %1 already exists, do nothing</source>
-        <translation>Ostrade %1이(가) 이미 있으므로 아무 작업도 하지 않습니다</translation>
-    </message>
-</context>
-<context>
-    <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>%1을(를) 읽을 수 없습니다</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1을(를) 쓸 수 없습니다</translation>
-    </message>
-    <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>시스템 코드 페이지로 설치 폴더의 이름을 나타낼 수 없어 시작 관리자를 %1에 등록하지 않습니다</translation>
-    </message>
-</context>
-<context>
-    <name>NxLauncher</name>
-    <message>
-        <source>Copying %1 to %2</source>
-        <translation>%1을(를) %2(으)로 복사하는 중</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>확인 중:</translation>
-    </message>
-    <message>
-        <source>Creating</source>
-        <translation>만드는 중:</translation>
-    </message>
-</context>
-<context>
-    <name>SpaceClaimLauncher</name>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>복사:%1 → %2</translation>
-    </message>
-</context>
-<context>
-    <name>TamselLauncher</name>
-    <message>
-        <source>Open failed:</source>
-        <translation>열지 못했습니다:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1을(를) 쓸 수 없습니다</translation>
-    </message>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>복사:%1 → %2</translation>
-    </message>
-    <message>
-        <source>Tamsel Addin</source>
-        <translation>Tamsel 추가 기능</translation>
-    </message>
-    <message>
-        <source>Removing:</source>
-        <translation>제거:</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>Настройка Brevant</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Valid NVX command line arguments are:
@@ -90,6 +97,78 @@
     </message>
 </context>
 <context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo – удаление:</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>Удаление Ostrade из:</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>Запись файла </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>Создание файла  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 уже существует, изменения не требуются</translation>
+    </message>
+</context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>Папку нельзя записать в кодовой странице системы, файлы не сопоставлены с продуктом: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>Не удалось создать %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>Создание сопоставлений файлов</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>Папка установки неизвестна, файлы не сопоставлены</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>Не удалось прочитать %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Не удалось записать %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>Имя папки установки нельзя записать в кодовой странице системы, модуль запуска не внесён в %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>Копирование %1 в %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Проверка:</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>Создание:</translation>
+    </message>
+</context>
+<context>
     <name>ParallelConfiguration</name>
     <message>
         <source>Created NVX2 default configuration: %1</source>
@@ -109,6 +188,67 @@
     </message>
 </context>
 <context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>Реестр отклонил параметр %1 раздела %2</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>Реестр отклонил удаление раздела %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>Обновление языка удаления в реестре </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>Язык удаления в реестре, текущее значение:</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>Язык удаления в реестре, языковой стандарт=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>Язык удаления в реестре, новое значение:</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>Пути реестра</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>Рабочий стол=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>Нет общей папки рабочего стола для всех пользователей, ярлык не создан</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>Не удалось удалить %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>Этот текст слишком длинный для ярлыка: %1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>Создание ярлыка </translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Копирование:%1 в: %2</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
@@ -121,6 +261,36 @@
     <message>
         <source>This build has no localization tool</source>
         <translation>В этой сборке нет средства локализации</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>Не удалось открыть файл:</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>Не удалось записать %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>Копирование:%1 в: %2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Надстройка Tamsel</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>Удаление:</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>Запуск NVX 3D-ViewerConfig.</translation>
     </message>
 </context>
 <context>
@@ -248,176 +418,6 @@
     <message>
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>Папку нельзя записать в кодовой странице системы, переменная %1 не задана</translation>
-    </message>
-</context>
-<context>
-    <name>FileAssociations</name>
-    <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
-        <translation>Папку нельзя записать в кодовой странице системы, файлы не сопоставлены с продуктом: %1</translation>
-    </message>
-    <message>
-        <source>Unable to create %1</source>
-        <translation>Не удалось создать %1</translation>
-    </message>
-    <message>
-        <source>Create file associations</source>
-        <translation>Создание сопоставлений файлов</translation>
-    </message>
-    <message>
-        <source>The install folder is not known, no files are associated</source>
-        <translation>Папка установки неизвестна, файлы не сопоставлены</translation>
-    </message>
-</context>
-<context>
-    <name>ProductRegistry</name>
-    <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>Реестр отклонил параметр %1 раздела %2</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>Реестр отклонил удаление раздела %1</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall </source>
-        <translation>Обновление языка удаления в реестре </translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall currently is:</source>
-        <translation>Язык удаления в реестре, текущее значение:</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall locale=</source>
-        <translation>Язык удаления в реестре, языковой стандарт=</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall set to:</source>
-        <translation>Язык удаления в реестре, новое значение:</translation>
-    </message>
-    <message>
-        <source>Registry paths</source>
-        <translation>Пути реестра</translation>
-    </message>
-</context>
-<context>
-    <name>Shortcuts</name>
-    <message>
-        <source>Desktop=</source>
-        <translation>Рабочий стол=</translation>
-    </message>
-    <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>Нет общей папки рабочего стола для всех пользователей, ярлык не создан</translation>
-    </message>
-    <message>
-        <source>Unable to remove %1</source>
-        <translation>Не удалось удалить %1</translation>
-    </message>
-    <message>
-        <source>This text is too long for a shortcut: %1</source>
-        <translation>Этот текст слишком длинный для ярлыка: %1</translation>
-    </message>
-    <message>
-        <source>Create shortcut </source>
-        <translation>Создание ярлыка </translation>
-    </message>
-</context>
-<context>
-    <name>ViewerConfiguration</name>
-    <message>
-        <source>Running NVX 3D-ViewerConfig.</source>
-        <translation>Запуск NVX 3D-ViewerConfig.</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Настройка Brevant</translation>
-    </message>
-</context>
-<context>
-    <name>CreoLauncher</name>
-    <message>
-        <source> Creo Remove:</source>
-        <translation> Creo – удаление:</translation>
-    </message>
-    <message>
-        <source>Removing Ostrade from:</source>
-        <translation>Удаление Ostrade из:</translation>
-    </message>
-    <message>
-        <source>Writing </source>
-        <translation>Запись файла </translation>
-    </message>
-    <message>
-        <source>Creating  </source>
-        <translation>Создание файла  </translation>
-    </message>
-    <message>
-        <source>Ostrade %1 already exists, do nothing</source>
-        <translation>Ostrade %1 уже существует, изменения не требуются</translation>
-    </message>
-</context>
-<context>
-    <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>Не удалось прочитать %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Не удалось записать %1</translation>
-    </message>
-    <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>Имя папки установки нельзя записать в кодовой странице системы, модуль запуска не внесён в %1</translation>
-    </message>
-</context>
-<context>
-    <name>NxLauncher</name>
-    <message>
-        <source>Copying %1 to %2</source>
-        <translation>Копирование %1 в %2</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Проверка:</translation>
-    </message>
-    <message>
-        <source>Creating</source>
-        <translation>Создание:</translation>
-    </message>
-</context>
-<context>
-    <name>SpaceClaimLauncher</name>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>Копирование:%1 в: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TamselLauncher</name>
-    <message>
-        <source>Open failed:</source>
-        <translation>Не удалось открыть файл:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Не удалось записать %1</translation>
-    </message>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>Копирование:%1 в: %2</translation>
-    </message>
-    <message>
-        <source>Tamsel Addin</source>
-        <translation>Надстройка Tamsel</translation>
-    </message>
-    <message>
-        <source>Removing:</source>
-        <translation>Удаление:</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>正在配置 Brevant</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Valid NVX command line arguments are:
@@ -90,6 +97,78 @@
     </message>
 </context>
 <context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo 删除：</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>正在从以下文件中删除 Ostrade：</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>正在写入 </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>正在创建  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 已存在，不执行任何操作</translation>
+    </message>
+</context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>系统代码页无法表示该文件夹，未将文件与产品关联：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>无法创建 %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>正在创建文件关联</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>安装文件夹未知，未关联文件</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>无法读取 %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>无法写入 %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>系统代码页无法表示安装文件夹的名称，未将启动程序写入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>正在将 %1 复制到 %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>正在检查：</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>正在创建：</translation>
+    </message>
+</context>
+<context>
     <name>ParallelConfiguration</name>
     <message>
         <source>Created NVX2 default configuration: %1</source>
@@ -109,6 +188,67 @@
     </message>
 </context>
 <context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>注册表拒绝写入 %2 的值 %1</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>注册表拒绝删除 %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>正在更新注册表中的卸载语言 </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>注册表中的卸载语言，当前为：</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>注册表中的卸载语言，区域设置=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>注册表中的卸载语言，已设置为：</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>注册表路径</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>桌面=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>没有所有用户的桌面文件夹，不会创建快捷方式</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>无法删除 %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>此文本对于快捷方式来说过长：%1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>创建快捷方式 </translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>复制：%1 到：%2</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
@@ -121,6 +261,36 @@
     <message>
         <source>This build has no localization tool</source>
         <translation>此版本没有本地化工具</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>打开失败：</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>无法写入 %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>复制：%1 到：%2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel 加载项</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>删除：</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>正在运行 NVX 3D-ViewerConfig。</translation>
     </message>
 </context>
 <context>
@@ -248,176 +418,6 @@
     <message>
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>系统代码页无法表示该文件夹，未设置 %1</translation>
-    </message>
-</context>
-<context>
-    <name>FileAssociations</name>
-    <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
-        <translation>系统代码页无法表示该文件夹，未将文件与产品关联：%1</translation>
-    </message>
-    <message>
-        <source>Unable to create %1</source>
-        <translation>无法创建 %1</translation>
-    </message>
-    <message>
-        <source>Create file associations</source>
-        <translation>正在创建文件关联</translation>
-    </message>
-    <message>
-        <source>The install folder is not known, no files are associated</source>
-        <translation>安装文件夹未知，未关联文件</translation>
-    </message>
-</context>
-<context>
-    <name>ProductRegistry</name>
-    <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>注册表拒绝写入 %2 的值 %1</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>注册表拒绝删除 %1</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall </source>
-        <translation>正在更新注册表中的卸载语言 </translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall currently is:</source>
-        <translation>注册表中的卸载语言，当前为：</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall locale=</source>
-        <translation>注册表中的卸载语言，区域设置=</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall set to:</source>
-        <translation>注册表中的卸载语言，已设置为：</translation>
-    </message>
-    <message>
-        <source>Registry paths</source>
-        <translation>注册表路径</translation>
-    </message>
-</context>
-<context>
-    <name>Shortcuts</name>
-    <message>
-        <source>Desktop=</source>
-        <translation>桌面=</translation>
-    </message>
-    <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>没有所有用户的桌面文件夹，不会创建快捷方式</translation>
-    </message>
-    <message>
-        <source>Unable to remove %1</source>
-        <translation>无法删除 %1</translation>
-    </message>
-    <message>
-        <source>This text is too long for a shortcut: %1</source>
-        <translation>此文本对于快捷方式来说过长：%1</translation>
-    </message>
-    <message>
-        <source>Create shortcut </source>
-        <translation>创建快捷方式 </translation>
-    </message>
-</context>
-<context>
-    <name>ViewerConfiguration</name>
-    <message>
-        <source>Running NVX 3D-ViewerConfig.</source>
-        <translation>正在运行 NVX 3D-ViewerConfig。</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>正在配置 Brevant</translation>
-    </message>
-</context>
-<context>
-    <name>CreoLauncher</name>
-    <message>
-        <source> Creo Remove:</source>
-        <translation> Creo 删除：</translation>
-    </message>
-    <message>
-        <source>Removing Ostrade from:</source>
-        <translation>正在从以下文件中删除 Ostrade：</translation>
-    </message>
-    <message>
-        <source>Writing </source>
-        <translation>正在写入 </translation>
-    </message>
-    <message>
-        <source>Creating  </source>
-        <translation>正在创建  </translation>
-    </message>
-    <message>
-        <source>Ostrade %1 already exists, do nothing</source>
-        <translation>Ostrade %1 已存在，不执行任何操作</translation>
-    </message>
-</context>
-<context>
-    <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>无法读取 %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>无法写入 %1</translation>
-    </message>
-    <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>系统代码页无法表示安装文件夹的名称，未将启动程序写入 %1</translation>
-    </message>
-</context>
-<context>
-    <name>NxLauncher</name>
-    <message>
-        <source>Copying %1 to %2</source>
-        <translation>正在将 %1 复制到 %2</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>正在检查：</translation>
-    </message>
-    <message>
-        <source>Creating</source>
-        <translation>正在创建：</translation>
-    </message>
-</context>
-<context>
-    <name>SpaceClaimLauncher</name>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>复制：%1 到：%2</translation>
-    </message>
-</context>
-<context>
-    <name>TamselLauncher</name>
-    <message>
-        <source>Open failed:</source>
-        <translation>打开失败：</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>无法写入 %1</translation>
-    </message>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>复制：%1 到：%2</translation>
-    </message>
-    <message>
-        <source>Tamsel Addin</source>
-        <translation>Tamsel 加载项</translation>
-    </message>
-    <message>
-        <source>Removing:</source>
-        <translation>删除：</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>ComLaunchers</name>
+    <message>
+        <source>Configure Brevant</source>
+        <translation>正在設定 Brevant</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Valid NVX command line arguments are:
@@ -90,6 +97,78 @@
     </message>
 </context>
 <context>
+    <name>CreoLauncher</name>
+    <message>
+        <source> Creo Remove:</source>
+        <translation> Creo 移除：</translation>
+    </message>
+    <message>
+        <source>Removing Ostrade from:</source>
+        <translation>正在從下列檔案移除 Ostrade：</translation>
+    </message>
+    <message>
+        <source>Writing </source>
+        <translation>正在寫入 </translation>
+    </message>
+    <message>
+        <source>Creating  </source>
+        <translation>正在建立  </translation>
+    </message>
+    <message>
+        <source>Ostrade %1 already exists, do nothing</source>
+        <translation>Ostrade %1 已存在，不執行任何動作</translation>
+    </message>
+</context>
+<context>
+    <name>FileAssociations</name>
+    <message>
+        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <translation>系統字碼頁無法表示該資料夾，未將檔案與產品建立關聯：%1</translation>
+    </message>
+    <message>
+        <source>Unable to create %1</source>
+        <translation>無法建立 %1</translation>
+    </message>
+    <message>
+        <source>Create file associations</source>
+        <translation>正在建立檔案關聯</translation>
+    </message>
+    <message>
+        <source>The install folder is not known, no files are associated</source>
+        <translation>安裝資料夾不明，未建立檔案關聯</translation>
+    </message>
+</context>
+<context>
+    <name>ForeignFile</name>
+    <message>
+        <source>Unable to read %1</source>
+        <translation>無法讀取 %1</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>無法寫入 %1</translation>
+    </message>
+    <message>
+        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <translation>系統字碼頁無法表示安裝資料夾的名稱，未將啟動程式寫入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>NxLauncher</name>
+    <message>
+        <source>Copying %1 to %2</source>
+        <translation>正在將 %1 複製到 %2</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>正在檢查：</translation>
+    </message>
+    <message>
+        <source>Creating</source>
+        <translation>正在建立：</translation>
+    </message>
+</context>
+<context>
     <name>ParallelConfiguration</name>
     <message>
         <source>Created NVX2 default configuration: %1</source>
@@ -109,6 +188,67 @@
     </message>
 </context>
 <context>
+    <name>ProductRegistry</name>
+    <message>
+        <source>The registry refuses the value %1 of %2</source>
+        <translation>登錄拒絕寫入 %2 的值 %1</translation>
+    </message>
+    <message>
+        <source>The registry refuses to remove %1</source>
+        <translation>登錄拒絕移除 %1</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall </source>
+        <translation>正在更新登錄中的解除安裝語言 </translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall currently is:</source>
+        <translation>登錄中的解除安裝語言，目前為：</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall locale=</source>
+        <translation>登錄中的解除安裝語言，地區設定=</translation>
+    </message>
+    <message>
+        <source>Updating language registry uninstall set to:</source>
+        <translation>登錄中的解除安裝語言，已設定為：</translation>
+    </message>
+    <message>
+        <source>Registry paths</source>
+        <translation>登錄路徑</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>Desktop=</source>
+        <translation>桌面=</translation>
+    </message>
+    <message>
+        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <translation>沒有所有使用者的桌面資料夾，不會建立捷徑</translation>
+    </message>
+    <message>
+        <source>Unable to remove %1</source>
+        <translation>無法移除 %1</translation>
+    </message>
+    <message>
+        <source>This text is too long for a shortcut: %1</source>
+        <translation>此文字對捷徑來說過長：%1</translation>
+    </message>
+    <message>
+        <source>Create shortcut </source>
+        <translation>建立捷徑 </translation>
+    </message>
+</context>
+<context>
+    <name>SpaceClaimLauncher</name>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>複製：%1 到：%2</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
@@ -121,6 +261,36 @@
     <message>
         <source>This build has no localization tool</source>
         <translation>此版本沒有當地語系化工具</translation>
+    </message>
+</context>
+<context>
+    <name>TamselLauncher</name>
+    <message>
+        <source>Open failed:</source>
+        <translation>開啟失敗：</translation>
+    </message>
+    <message>
+        <source>Unable to write %1</source>
+        <translation>無法寫入 %1</translation>
+    </message>
+    <message>
+        <source>Copying:%1 to: %2</source>
+        <translation>複製：%1 到：%2</translation>
+    </message>
+    <message>
+        <source>Tamsel Addin</source>
+        <translation>Tamsel 增益集</translation>
+    </message>
+    <message>
+        <source>Removing:</source>
+        <translation>移除：</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerConfiguration</name>
+    <message>
+        <source>Running NVX 3D-ViewerConfig.</source>
+        <translation>正在執行 NVX 3D-ViewerConfig。</translation>
     </message>
 </context>
 <context>
@@ -248,176 +418,6 @@
     <message>
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>系統字碼頁無法表示該資料夾，未設定 %1</translation>
-    </message>
-</context>
-<context>
-    <name>FileAssociations</name>
-    <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
-        <translation>系統字碼頁無法表示該資料夾，未將檔案與產品建立關聯：%1</translation>
-    </message>
-    <message>
-        <source>Unable to create %1</source>
-        <translation>無法建立 %1</translation>
-    </message>
-    <message>
-        <source>Create file associations</source>
-        <translation>正在建立檔案關聯</translation>
-    </message>
-    <message>
-        <source>The install folder is not known, no files are associated</source>
-        <translation>安裝資料夾不明，未建立檔案關聯</translation>
-    </message>
-</context>
-<context>
-    <name>ProductRegistry</name>
-    <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>登錄拒絕寫入 %2 的值 %1</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>登錄拒絕移除 %1</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall </source>
-        <translation>正在更新登錄中的解除安裝語言 </translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall currently is:</source>
-        <translation>登錄中的解除安裝語言，目前為：</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall locale=</source>
-        <translation>登錄中的解除安裝語言，地區設定=</translation>
-    </message>
-    <message>
-        <source>Updating language registry uninstall set to:</source>
-        <translation>登錄中的解除安裝語言，已設定為：</translation>
-    </message>
-    <message>
-        <source>Registry paths</source>
-        <translation>登錄路徑</translation>
-    </message>
-</context>
-<context>
-    <name>Shortcuts</name>
-    <message>
-        <source>Desktop=</source>
-        <translation>桌面=</translation>
-    </message>
-    <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>沒有所有使用者的桌面資料夾，不會建立捷徑</translation>
-    </message>
-    <message>
-        <source>Unable to remove %1</source>
-        <translation>無法移除 %1</translation>
-    </message>
-    <message>
-        <source>This text is too long for a shortcut: %1</source>
-        <translation>此文字對捷徑來說過長：%1</translation>
-    </message>
-    <message>
-        <source>Create shortcut </source>
-        <translation>建立捷徑 </translation>
-    </message>
-</context>
-<context>
-    <name>ViewerConfiguration</name>
-    <message>
-        <source>Running NVX 3D-ViewerConfig.</source>
-        <translation>正在執行 NVX 3D-ViewerConfig。</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>正在設定 Brevant</translation>
-    </message>
-</context>
-<context>
-    <name>CreoLauncher</name>
-    <message>
-        <source> Creo Remove:</source>
-        <translation> Creo 移除：</translation>
-    </message>
-    <message>
-        <source>Removing Ostrade from:</source>
-        <translation>正在從下列檔案移除 Ostrade：</translation>
-    </message>
-    <message>
-        <source>Writing </source>
-        <translation>正在寫入 </translation>
-    </message>
-    <message>
-        <source>Creating  </source>
-        <translation>正在建立  </translation>
-    </message>
-    <message>
-        <source>Ostrade %1 already exists, do nothing</source>
-        <translation>Ostrade %1 已存在，不執行任何動作</translation>
-    </message>
-</context>
-<context>
-    <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>無法讀取 %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>無法寫入 %1</translation>
-    </message>
-    <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>系統字碼頁無法表示安裝資料夾的名稱，未將啟動程式寫入 %1</translation>
-    </message>
-</context>
-<context>
-    <name>NxLauncher</name>
-    <message>
-        <source>Copying %1 to %2</source>
-        <translation>正在將 %1 複製到 %2</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>正在檢查：</translation>
-    </message>
-    <message>
-        <source>Creating</source>
-        <translation>正在建立：</translation>
-    </message>
-</context>
-<context>
-    <name>SpaceClaimLauncher</name>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>複製：%1 到：%2</translation>
-    </message>
-</context>
-<context>
-    <name>TamselLauncher</name>
-    <message>
-        <source>Open failed:</source>
-        <translation>開啟失敗：</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>無法寫入 %1</translation>
-    </message>
-    <message>
-        <source>Copying:%1 to: %2</source>
-        <translation>複製：%1 到：%2</translation>
-    </message>
-    <message>
-        <source>Tamsel Addin</source>
-        <translation>Tamsel 增益集</translation>
-    </message>
-    <message>
-        <source>Removing:</source>
-        <translation>移除：</translation>
     </message>
 </context>
 </TS>
