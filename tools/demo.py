@@ -8,7 +8,17 @@ Without tokens a new machine is made and the program installs the product on it.
 import sys
 from pathlib import Path
 
-from winemachine import INSTALL_DIR, Machine, make_template
+from cadsystems import (
+    COM_CLASSES,
+    CUSTOM_DIRS_10,
+    CUSTOM_DIRS_11,
+    PROTK_2,
+    PROTK_3,
+    SPACE_CLAIM_ADDINS,
+    TAMSEL_ADDINS,
+    put_cad_systems,
+)
+from winemachine import INSTALL_DIR, Machine, make_template, value_of
 
 # What Wine itself writes while any program runs.
 NOISE = (
@@ -61,11 +71,60 @@ def print_changes(title, before, after, shown):
     print("\n".join(lines) if lines else "  nothing")
 
 
+# The files of CAD systems that are shown whole before and after the run.
+SHARED_FILES = (PROTK_2, PROTK_3, CUSTOM_DIRS_10, CUSTOM_DIRS_11)
+
+
+def contents_of(machine, paths):
+    return {path: machine.path(path).read_bytes() for path in paths if machine.path(path).exists()}
+
+
+def print_contents(title, contents):
+    print("  %s:" % title)
+    for line in contents.decode("cp1252", "replace").splitlines():
+        print("    | " + line)
+
+
+def print_launchers(machine, before, registry):
+    """What the run has made of the CAD systems."""
+    after = contents_of(machine, SHARED_FILES)
+    for path in SHARED_FILES:
+        heading(path)
+        if path not in before and path not in after:
+            print("  missing")
+        elif before.get(path) == after.get(path):
+            print_contents("not changed", after[path])
+        else:
+            print_contents("before", before.get(path, b""))
+            print_contents("after", after.get(path, b""))
+
+    heading("registered libraries")
+    for system, key in COM_CLASSES.items():
+        server = value_of(registry, key + "\\InprocServer32", "")
+        print("  %s: %s" % (system, server or "none"))
+
+    heading("Tamsel's manifests and SpaceClaim's add-in")
+    found = [path for path in sorted(machine.files()) if is_addin(path)]
+    for path in found:
+        print("  " + path)
+        if path.endswith(".Addin"):
+            lines = machine.path(path).read_text(encoding="utf-8", errors="replace").split("\n")
+            print("    | " + next((line for line in lines if "<Assembly>" in line), ""))
+    if not found:
+        print("  none")
+
+
+def is_addin(path):
+    in_space_claim = path.startswith(SPACE_CLAIM_ADDINS + "\\NVX")
+    return in_space_claim or (path.endswith("\\NVX_2017.Addin") and TAMSEL_ADDINS in path)
+
+
 def prepare(build):
     heading("making a new Windows machine")
     template = make_template(build / "wine-template")
     machine = Machine.create(build / "demo", template)
     machine.put_product(build / "installed", build / "sample")
+    put_cad_systems(machine)
     machine.stop()
     print("drive C is %s" % (machine.prefix / "drive_c"))
     return machine
@@ -81,6 +140,7 @@ def main(build, tokens):
         tokens = ["-I", "-S", "-Lde-DE"]
 
     files_before, registry_before = machine.files(), machine.registry()
+    shared_before = contents_of(machine, SHARED_FILES)
     log_path = machine.path(INSTALL_DIR) / "NVXConfig.log"
     log_start = log_path.stat().st_size if log_path.exists() else 0
 
@@ -101,6 +161,8 @@ def main(build, tokens):
         lambda item: "%s: %s = %s" % (*item, values_after.get(item, values_before.get(item))),
     )
     print_changes("services", service_names(registry_before), service_names(registry_after), str)
+    print("\nWhat the CAD systems know of the product now")
+    print_launchers(machine, shared_before, registry_after)
     heading("exit status %d" % answer.returncode)
     return answer.returncode
 

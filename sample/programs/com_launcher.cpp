@@ -15,8 +15,7 @@ const std::wstring classKey = L"Software\\Classes\\CLSID\\" NVX_SAMPLE_CLASS;
 std::wstring ownPath()
 {
     HMODULE library = nullptr;
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
-                           GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                        reinterpret_cast<const wchar_t *>(&ownPath), &library);
     std::wstring path(32768, L'\0');
     path.resize(GetModuleFileNameW(library, path.data(), static_cast<DWORD>(path.size())));

@@ -21,9 +21,8 @@ private slots:
         QTest::newRow("in two parts") << QByteArray("C:\\Prog\nC:\\NVX") << path << false;
         QTest::newRow("no bytes") << QByteArray() << path << false;
         QTest::newRow("behind a NUL") << QByteArray("\0\0C:\\prog\\nvx", 13) << path << true;
-        QTest::newRow("behind a byte that begins a character") << QByteArray("\x83"
-                                                                             "C:\\prog\\nvx")
-                                                               << path << true;
+        QTest::newRow("behind a byte that begins a character")
+            << QByteArray("\203C:\\prog\\nvx") << path << true;
         QTest::newRow("characters that differ in one bit from letters")
             << QByteArray("C:\\P[") << QStringLiteral("c:\\p{") << false;
         QTest::newRow("the empty text") << QByteArray("x") << QString() << true;
@@ -45,12 +44,6 @@ private slots:
         QVERIFY(search.isFoundIn(Nvx::Util::toAnsi(QStringLiteral("in c:\\grÖße\\x")).value()));
         QVERIFY(!search.isFoundIn(Nvx::Util::toAnsi(QStringLiteral("C:\\Große")).value()));
         QVERIFY(!search.isFoundIn("C:\\Gr\xff\xfe"));
-    }
-
-    void foreignBytesBeforeLettersOutsideAsciiAreNotInTheWay()
-    {
-        const QString path = QStringLiteral("C:\\Größe");
-        QVERIFY(CaselessSearch(path).isFoundIn("\xe3\x81" + Nvx::Util::toAnsi(path).value()));
     }
 
     void aTextThatTheCodePageCannotWriteIsFoundNowhere()

@@ -61,8 +61,7 @@ const QList<QByteArray> pieces{
     "\x83",
     "\xff\xfe",
     QByteArray("\0", 1),
-    "\x83"
-    "C:\\Prog\\NVX",
+    "\203C:\\Prog\\NVX",
     "C:\\Prog\\NVX",
     "c:\\prog\\nvx\\other",
     "C:\\Prog\\NV",

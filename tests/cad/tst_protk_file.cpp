@@ -52,8 +52,7 @@ const QList<QByteArray> pieces{
     QByteArray("\0", 1),
     "\xff\xfe",
     "\x83",
-    "\x83"
-    "end\r\n",
+    "\203end\r\n",
     "NVX_2017_Creo",
     "nvx_2017_cREO20.dll",
     "NVX_2017_Cre",

@@ -3,7 +3,7 @@ program, with real COM libraries registered by the system's own tool."""
 
 import unittest
 
-import cadsystems
+from machine_case import SCRIPTED_TOOL, MachineCase
 from cadsystems import (
     COM_CLASSES,
     CUSTOM_DIRS_10,
@@ -14,8 +14,8 @@ from cadsystems import (
     PROTK_3,
     SPACE_CLAIM_ADDINS,
     TAMSEL_ADDINS,
+    put_cad_systems,
 )
-from machine_case import MachineCase
 from winemachine import INSTALL_DIR, value_of
 
 LAUNCHERS = INSTALL_DIR + "\\Launchers"
@@ -115,7 +115,7 @@ class LauncherCase(MachineCase):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        cadsystems.put_cad_systems(cls.machine)
+        put_cad_systems(cls.machine)
 
     def run_with(self, option, install_dir=INSTALL_DIR):
         """One run of the program; answers the lines of its log."""
@@ -126,6 +126,14 @@ class LauncherCase(MachineCase):
 
     def read(self, path):
         return self.machine.path(path).read_bytes()
+
+    def reset_files(self):
+        """Makes the shared files those of a machine without the product."""
+        for path in (PROTK_2, PROTK_3, CUSTOM_DIRS_10, CUSTOM_DIRS_11):
+            file = self.machine.path(path)
+            file.chmod(0o644)
+            file.write_bytes(FOREIGN_DIRS if "custom_dirs" in path else FOREIGN_ENTRY)
+            file.with_name(file.name + ".bak").unlink(missing_ok=True)
 
 
 class AllSystems(LauncherCase):
@@ -221,12 +229,8 @@ class AllSystems(LauncherCase):
 
 class FilesOfOthers(LauncherCase):
     def setUp(self):
+        self.reset_files()
         self.put_product()
-        for path in (PROTK_2, PROTK_3, CUSTOM_DIRS_10, CUSTOM_DIRS_11):
-            file = self.machine.path(path)
-            file.chmod(0o644)
-            file.write_bytes(FOREIGN_DIRS if "custom_dirs" in path else FOREIGN_ENTRY)
-            file.with_name(file.name + ".bak").unlink(missing_ok=True)
 
     def assert_alone(self, path):
         """No other file is left beside it that we have made on the way."""
@@ -287,7 +291,32 @@ class FilesOfOthers(LauncherCase):
         self.assertFalse(self.exists(ADDIN + ".dll"))
 
 
+class PlantedPrograms(LauncherCase):
+    def test_libraries_are_registered_by_the_systems_own_tool(self):
+        self.put_product()
+        for place in (INSTALL_DIR, "C:\\elsewhere"):
+            for name in ("regsvr32", "regsvr32.exe", "regsvr32.bat"):
+                program = self.write(place + "\\" + name, SCRIPTED_TOOL.read_bytes())
+                program.with_name(name + ".script").write_text("mark C:\\started")
+        code, lines = self.configure(
+            INSTALL_DIR,
+            "-I",
+            "-S",
+            "-Len-US",
+            folder="C:\\elsewhere",
+            WINEPATH="C:\\elsewhere",
+        )
+        self.assert_complete(code, lines)
+        self.assertFalse(self.exists("C:\\started"))
+        registry = self.machine.registry()
+        for key in COM_CLASSES.values():
+            self.assertIsNotNone(value_of(registry, key + "\\InprocServer32", ""))
+
+
 class InstallFolders(LauncherCase):
+    def setUp(self):
+        self.reset_files()
+
     def install(self, folder):
         self.put_product(folder)
         return self.run_with("-I", folder)
@@ -300,13 +329,13 @@ class InstallFolders(LauncherCase):
         self.assertEqual(self.read(target_manifest(2017)), manifest(folder))
         self.run_with("-U", folder)
         self.assertEqual(self.read(PROTK_2), FOREIGN_ENTRY)
-        self.assertNotIn("Größe".encode("cp1252"), self.read(CUSTOM_DIRS_10))
+        self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS + b"\r\n")
 
     def test_a_name_that_the_code_page_lacks_is_logged_and_never_written_wrong(self):
         folder = "C:\\日本\\NVX"
-        before = self.read(PROTK_2), self.read(CUSTOM_DIRS_10)
         lines = self.install(folder)
-        self.assertEqual((self.read(PROTK_2), self.read(CUSTOM_DIRS_10)), before)
+        self.assertEqual(self.read(PROTK_2), FOREIGN_ENTRY)
+        self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS)
         for path in (PROTK_2, CUSTOM_DIRS_10):
             self.assertIn(
                 "   1 The system's code page cannot write the name of the install folder, the launcher "
@@ -314,11 +343,15 @@ class InstallFolders(LauncherCase):
                 lines,
             )
         self.run_with("-U", folder)
-        self.assertEqual((self.read(PROTK_2), self.read(CUSTOM_DIRS_10)), before)
+        self.assertEqual(self.read(PROTK_2), FOREIGN_ENTRY)
+        self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS)
 
 
 class JapaneseMachine(LauncherCase):
     locale = "ja_JP.UTF-8"
+
+    def setUp(self):
+        self.reset_files()
 
     def test_a_japanese_name(self):
         folder = "C:\\日本 ソフト\\表 NVX"
@@ -331,6 +364,15 @@ class JapaneseMachine(LauncherCase):
         self.run_with("-U", folder)
         self.assertEqual(self.read(PROTK_2), FOREIGN_ENTRY)
         self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS + b"\r\n")
+
+    def test_a_byte_that_begins_a_character_does_not_hide_the_line_behind_it(self):
+        folder = "C:\\日本\\NVX"
+        self.put_product(folder)
+        contents = FOREIGN_DIRS + b"C:\\\x83"
+        self.machine.path(CUSTOM_DIRS_11).write_bytes(contents)
+        for _ in range(2):
+            self.run_with("-I", folder)
+            self.assertEqual(self.read(CUSTOM_DIRS_11), contents + nx_line("", folder, "cp932"))
 
 
 if __name__ == "__main__":

@@ -184,11 +184,19 @@ private slots:
         QCOMPARE(withoutReturns(result.output).size(), 1000001);
     }
 
+    void aSystemProgramThatDoesNotExistIsNotStartedFromAnywhereElse_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("with its suffix") << QStringLiteral("tool.exe");
+        QTest::newRow("without its suffix") << QStringLiteral("tool");
+    }
+
     void aSystemProgramThatDoesNotExistIsNotStartedFromAnywhereElse()
     {
+        QFETCH(const QString, name);
         // Its name fits a program that could be found in the work folder.
         toolWith(*m_folder, "mark started");
-        ProgramCall call = callOf(QStringLiteral("tool.exe"));
+        ProgramCall call = callOf(name);
         call.place = ProgramCall::Place::SystemFolder;
         call.workFolder = m_folder->path();
         QVERIFY(m_machine.run(call).outcome == Outcome::NotStarted);
