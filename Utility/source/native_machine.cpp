@@ -37,7 +37,15 @@ ProgramResult::Outcome waitForEnd(QProcess &process, int timeoutMs)
 
 QMessageBox::Icon iconOf(BoxKind kind)
 {
-    return kind == BoxKind::Warning ? QMessageBox::Warning : QMessageBox::Information;
+    switch (kind) {
+    case BoxKind::Warning:
+        return QMessageBox::Warning;
+    case BoxKind::Question:
+        return QMessageBox::Question;
+    case BoxKind::Information:
+        break;
+    }
+    return QMessageBox::Information;
 }
 
 } // namespace
@@ -93,6 +101,11 @@ bool NativeMachine::startDetached(const QString &program, const QStringList &arg
     return true;
 }
 
+ProcessTable &NativeMachine::processes()
+{
+    return Platform::processes();
+}
+
 QString NativeMachine::commonDesktopFolder() const
 {
     return Platform::commonDesktopFolder();
@@ -116,7 +129,8 @@ void NativeMachine::tell(BoxKind kind, const QString &title, const QString &text
 Answer NativeMachine::ask(BoxKind kind, const QString &title, const QString &text)
 {
     QMessageBox box(iconOf(kind), title, text, QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::Yes);
+    if (kind != BoxKind::Question)
+        box.setDefaultButton(QMessageBox::Yes);
     switch (box.exec()) {
     case QMessageBox::Yes:
         return Answer::Yes;

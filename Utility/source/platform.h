@@ -11,6 +11,10 @@
 
 class QProcess;
 
+namespace Nvx::Util {
+class ProcessTable;
+}
+
 namespace Nvx::Util::Platform {
 
 /// The folder above the per-user data folders of programs.
@@ -37,6 +41,9 @@ void setArguments(QProcess &process, const ProgramCall &call);
 
 /// Waits at most timeoutMs until there is no such process. It need not be a child of ours.
 void waitForEnd(qint64 process, int timeoutMs);
+
+/// The processes of the machine.
+ProcessTable &processes();
 
 QString commonDesktopFolder();
 

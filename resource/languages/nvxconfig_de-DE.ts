@@ -419,5 +419,78 @@
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, %1 wird nicht gesetzt</translation>
     </message>
+    <message>
+        <source>Searching for CAD Packages</source>
+        <translation>CAD-Pakete werden gesucht</translation>
+    </message>
+    <message>
+        <source>Finished searching for CAD Packages</source>
+        <translation>Suche nach CAD-Paketen abgeschlossen</translation>
+    </message>
+</context>
+<context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 Installationsordner: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Verwendet wird %1, Installationsordner: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 Produktcode =%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1 wurde beendet</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1 konnte nicht beendet werden</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>Klicken Sie auf „Ja“, um fortzufahren, nachdem der Prozess beendet wurde.
+Klicken Sie auf „Nein“, um fortzufahren, ohne den Prozess zu beenden.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>Klicken Sie auf „Ja“, um fortzufahren, nachdem die Prozesse beendet wurden.
+Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 wird ausgeführt und sollte beendet werden, bevor das NVX-Start-Add-In konfiguriert werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 werden ausgeführt und sollten beendet werden, bevor das NVX-Start-Add-In konfiguriert werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 wird ausgeführt und sollte beendet werden, bevor Sie fortfahren.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 werden ausgeführt und sollten beendet werden, bevor Sie fortfahren.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>Installation der CAD-Startprogramme</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Installation von Velmora %1</translation>
+    </message>
 </context>
 </TS>

@@ -419,5 +419,78 @@
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>Le dossier ne peut pas être représenté dans la page de codes du système, la variable %1 n&apos;est pas définie</translation>
     </message>
+    <message>
+        <source>Searching for CAD Packages</source>
+        <translation>Recherche des logiciels de CAO</translation>
+    </message>
+    <message>
+        <source>Finished searching for CAD Packages</source>
+        <translation>Recherche des logiciels de CAO terminée</translation>
+    </message>
+</context>
+<context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 Dossier d&apos;installation&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Utilisation de %1, dossier d&apos;installation&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 Code de produit =%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1 a été arrêté</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1 n&apos;a pas été arrêté</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour continuer une fois le processus arrêté.
+Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter le processus.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour continuer une fois les processus arrêtés.
+Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 est en cours d&apos;exécution et doit être arrêté avant la configuration du complément de lancement de NVX.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 sont en cours d&apos;exécution et doivent être arrêtés avant la configuration du complément de lancement de NVX.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 est en cours d&apos;exécution et doit être arrêté avant de continuer.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 sont en cours d&apos;exécution et doivent être arrêtés avant de continuer.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>Installation des lanceurs CAO</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Installation de Velmora %1</translation>
+    </message>
 </context>
 </TS>

@@ -419,5 +419,78 @@
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>La cartella non può essere rappresentata nella tabella codici del sistema, la variabile %1 non viene impostata</translation>
     </message>
+    <message>
+        <source>Searching for CAD Packages</source>
+        <translation>Ricerca dei pacchetti CAD</translation>
+    </message>
+    <message>
+        <source>Finished searching for CAD Packages</source>
+        <translation>Ricerca dei pacchetti CAD completata</translation>
+    </message>
+</context>
+<context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 Cartella di installazione: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Utilizzo di %1, cartella di installazione: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 Codice prodotto =%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1 è stato terminato</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1 non è stato terminato</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>Fare clic su Sì per continuare dopo l&apos;arresto del processo.
+Fare clic su No per continuare senza arrestare il processo.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>Fare clic su Sì per continuare dopo l&apos;arresto dei processi.
+Fare clic su No per continuare senza arrestare i processi.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 è in esecuzione e deve essere arrestato prima di poter configurare il componente aggiuntivo di avvio di NVX.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 sono in esecuzione e devono essere arrestati prima di poter configurare il componente aggiuntivo di avvio di NVX.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 è in esecuzione e deve essere arrestato prima di continuare.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 sono in esecuzione e devono essere arrestati prima di continuare.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>Installazione degli strumenti di avvio CAD</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Installazione di Velmora %1</translation>
+    </message>
 </context>
 </TS>

@@ -419,5 +419,78 @@
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>システムのコード ページではフォルダー名を表せないため、%1 は設定されません</translation>
     </message>
+    <message>
+        <source>Searching for CAD Packages</source>
+        <translation>CAD パッケージを検索しています</translation>
+    </message>
+    <message>
+        <source>Finished searching for CAD Packages</source>
+        <translation>CAD パッケージの検索が完了しました</translation>
+    </message>
+</context>
+<context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 インストール フォルダー: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>使用: %1 インストール フォルダー: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 製品コード =%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1 を終了しました</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1 を終了できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>プロセスを終了して続行するには [はい] をクリックしてください。
+プロセスを終了せずに続行するには [いいえ] をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>これらのプロセスを終了して続行するには [はい] をクリックしてください。
+これらのプロセスを終了せずに続行するには [いいえ] をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 が実行中です。NVX 起動アドインを構成する前に終了してください。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 が実行中です。NVX 起動アドインを構成する前に、すべて終了してください。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 が実行中です。続行する前に終了してください。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 が実行中です。続行する前に、すべて終了してください。</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>CAD 起動ツールのインストール</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Velmora %1 のインストール</translation>
+    </message>
 </context>
 </TS>

@@ -419,5 +419,78 @@
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 %1이(가) 설정되지 않습니다</translation>
     </message>
+    <message>
+        <source>Searching for CAD Packages</source>
+        <translation>CAD 패키지를 찾는 중</translation>
+    </message>
+    <message>
+        <source>Finished searching for CAD Packages</source>
+        <translation>CAD 패키지 찾기를 완료했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 설치 폴더: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>사용: %1 설치 폴더: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 제품 코드 =%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1을(를) 종료했습니다</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1을(를) 종료하지 못했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>프로세스를 종료한 후 계속하려면 [예]를 클릭하십시오.
+프로세스를 종료하지 않고 계속하려면 [아니요]를 클릭하십시오.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>이 프로세스들을 종료한 후 계속하려면 [예]를 클릭하십시오.
+이 프로세스들을 종료하지 않고 계속하려면 [아니요]를 클릭하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1이(가) 실행 중입니다. NVX 시작 추가 기능을 구성하려면 먼저 종료해야 합니다.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1이(가) 실행 중입니다. NVX 시작 추가 기능을 구성하려면 먼저 모두 종료해야 합니다.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1이(가) 실행 중입니다. 계속하려면 먼저 종료해야 합니다.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1이(가) 실행 중입니다. 계속하려면 먼저 모두 종료해야 합니다.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>CAD 시작 관리자 설치</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Velmora %1 설치</translation>
+    </message>
 </context>
 </TS>

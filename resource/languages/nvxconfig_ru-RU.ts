@@ -419,5 +419,78 @@
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>Папку нельзя записать в кодовой странице системы, переменная %1 не задана</translation>
     </message>
+    <message>
+        <source>Searching for CAD Packages</source>
+        <translation>Поиск пакетов САПР</translation>
+    </message>
+    <message>
+        <source>Finished searching for CAD Packages</source>
+        <translation>Поиск пакетов САПР завершен</translation>
+    </message>
+</context>
+<context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 Папка установки: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Используется %1, папка установки: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 Код продукта =%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>Процесс %1 завершен</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>Процесс %1 не удалось завершить</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>Нажмите кнопку «Да», чтобы продолжить после остановки процесса.
+Нажмите кнопку «Нет», чтобы продолжить без остановки процесса.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>Нажмите кнопку «Да», чтобы продолжить после остановки процессов.
+Нажмите кнопку «Нет», чтобы продолжить без остановки процессов.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>Программа %1 запущена. Ее следует остановить, прежде чем можно будет настроить надстройку запуска NVX.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>Программы %1 запущены. Их следует остановить, прежде чем можно будет настроить надстройку запуска NVX.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>Программа %1 запущена. Ее следует остановить, прежде чем продолжить.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>Программы %1 запущены. Их следует остановить, прежде чем продолжить.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>Установка средств запуска САПР</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Установка Velmora %1</translation>
+    </message>
 </context>
 </TS>

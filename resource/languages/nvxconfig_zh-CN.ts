@@ -419,5 +419,78 @@
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>系统代码页无法表示该文件夹，未设置 %1</translation>
     </message>
+    <message>
+        <source>Searching for CAD Packages</source>
+        <translation>正在搜索 CAD 软件包</translation>
+    </message>
+    <message>
+        <source>Finished searching for CAD Packages</source>
+        <translation>CAD 软件包搜索完成</translation>
+    </message>
+</context>
+<context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 安装文件夹：%2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>使用 %1，安装文件夹：%2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 产品代码 =%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>已终止 %1</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>未能终止 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>单击“是”，在进程停止后继续。
+单击“否”，不停止进程并继续。</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>单击“是”，在这些进程停止后继续。
+单击“否”，不停止这些进程并继续。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 正在运行，应先将其停止，然后才能配置 NVX 启动加载项。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 正在运行，应先将它们全部停止，然后才能配置 NVX 启动加载项。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 正在运行，应先将其停止，然后再继续。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 正在运行，应先将它们全部停止，然后再继续。</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>安装 CAD 启动程序</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>安装 Velmora %1</translation>
+    </message>
 </context>
 </TS>

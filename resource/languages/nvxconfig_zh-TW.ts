@@ -419,5 +419,78 @@
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
         <translation>系統字碼頁無法表示該資料夾，未設定 %1</translation>
     </message>
+    <message>
+        <source>Searching for CAD Packages</source>
+        <translation>正在搜尋 CAD 套件</translation>
+    </message>
+    <message>
+        <source>Finished searching for CAD Packages</source>
+        <translation>CAD 套件搜尋完成</translation>
+    </message>
+</context>
+<context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 安裝資料夾：%2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>使用 %1，安裝資料夾：%2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 產品代碼 =%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>已終止 %1</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>無法終止 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>按一下 [是]，在處理程序停止後繼續。
+按一下 [否]，不停止處理程序並繼續。</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>按一下 [是]，在這些處理程序停止後繼續。
+按一下 [否]，不停止這些處理程序並繼續。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 正在執行，應先將其停止，才能設定 NVX 啟動增益集。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 正在執行，應先將其全部停止，才能設定 NVX 啟動增益集。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 正在執行，應先將其停止，然後再繼續。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 正在執行，應先將其全部停止，然後再繼續。</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>安裝 CAD 啟動程式</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>安裝 Velmora %1</translation>
+    </message>
 </context>
 </TS>

@@ -34,5 +34,7 @@ void RecordingMachine::tell(Nvx::Util::BoxKind kind, const QString &title, const
 Nvx::Util::Answer RecordingMachine::ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text)
 {
     boxes.append({kind, title, text});
+    if (whileAsking)
+        whileAsking();
     return answer;
 }

@@ -2,6 +2,7 @@
 
 #include "nvx_util/machine.h"
 #include "nvx_util/shell_link.h"
+#include "support/recording_processes.h"
 
 #include <QList>
 #include <QPair>
@@ -39,6 +40,12 @@ public:
     /// Called while a program "runs".
     std::function<void(const Nvx::Util::ProgramCall &)> whileRunning;
 
+    /// Called while a question is open.
+    std::function<void()> whileAsking;
+
+    /// What runs on it.
+    RecordingProcesses running;
+
     // What it was asked.
     QList<Nvx::Util::ProgramCall> calls;
     QList<Start> starts;
@@ -52,6 +59,7 @@ public:
     bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
     Nvx::Util::ProgramResult run(const Nvx::Util::ProgramCall &call) override;
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
+    Nvx::Util::ProcessTable &processes() override { return running; }
     QString commonDesktopFolder() const override { return desktop; }
     void notifyAssociationsChanged() override { ++associationNotices; }
     qint32 createShellLink(const Nvx::Util::ShellLink &link) override;

@@ -27,10 +27,14 @@ struct RunState
     QString installDirEscaped; ///< installDir with every "\" doubled
     QString currentLocale;     ///< the language remembered when the run began
     QString commonDesktop;     ///< desktop folder of all users, empty if there is none
-    QStringList pendingNotes;  ///< lines told first when the installation run starts
+    bool cadSearchSuppressed = false; ///< CAD systems are not searched for
+    QStringList pendingNotes;         ///< lines told first when the installation run starts
 
     /// The word for a mode in the language in force now; empty while the words are not set.
     QString modeWord(RunMode mode) const { return word(static_cast<int>(mode)); }
+
+    /// The word that begins a line about something found, its blank included.
+    QString foundWord() const { return word(2); }
 
     /// The words behind what was done, " Success" and " Failed", likewise.
     QString successWord() const { return word(3); }

@@ -7,6 +7,7 @@
 namespace Nvx::Util {
 
 struct ShellLink;
+class ProcessTable;
 
 /// An external program to run.
 struct ProgramCall
@@ -52,7 +53,8 @@ struct ProgramResult
 enum class BoxKind
 {
     Information,
-    Warning
+    Warning,
+    Question ///< whose answer is open: no button is the default
 };
 
 enum class Answer
@@ -89,6 +91,9 @@ public:
     /// end, with 0 not at all. Each argument arrives as it is. False when it could not be started.
     virtual bool startDetached(const QString &program, const QStringList &arguments, int waitMs) = 0;
 
+    /// The processes that run now.
+    virtual ProcessTable &processes() = 0;
+
     /// The desktop folder of all users; empty when the machine has none.
     virtual QString commonDesktopFolder() const = 0;
 
@@ -102,7 +107,7 @@ public:
     /// Shows a modal box with an OK button.
     virtual void tell(BoxKind kind, const QString &title, const QString &text) = 0;
 
-    /// Shows a modal box with the buttons Yes, which is the default, and No.
+    /// Shows a modal box with the buttons Yes and No. Yes is the default, except in a question.
     virtual Answer ask(BoxKind kind, const QString &title, const QString &text) = 0;
 };
 

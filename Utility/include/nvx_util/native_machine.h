@@ -13,6 +13,7 @@ public:
     bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
     ProgramResult run(const ProgramCall &call) override;
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
+    ProcessTable &processes() override;
     QString commonDesktopFolder() const override;
     void notifyAssociationsChanged() override;
     qint32 createShellLink(const ShellLink &link) override;

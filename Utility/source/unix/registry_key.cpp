@@ -103,6 +103,15 @@ std::optional<QString> RegistryKey::text(const QString &valueName) const
     return value.isString() ? std::optional<QString>(value.toString()) : std::nullopt;
 }
 
+std::optional<QString> RegistryKey::textOrNumber(const QString &valueName) const
+{
+    const QJsonObject values = valuesOf(readRegistry(), m_path);
+    const QJsonValue value = values.value(nameIn(values, valueName));
+    if (value.isDouble())
+        return QString::number(value.toInteger());
+    return text(valueName);
+}
+
 bool RegistryKey::setText(const QString &valueName, const QString &text)
 {
     return setValue(m_path, valueName, text);

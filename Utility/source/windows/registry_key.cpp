@@ -146,6 +146,26 @@ std::optional<QString> RegistryKey::text(const QString &valueName) const
     }
 }
 
+std::optional<QString> RegistryKey::textOrNumber(const QString &valueName) const
+{
+    if (const std::optional<QString> found = text(valueName))
+        return found;
+    const OpenKey key(m_path, KEY_QUERY_VALUE);
+    if (!key)
+        return std::nullopt;
+    qint32 number = 0;
+    DWORD size = sizeof(number);
+    if (RegGetValueW(key.handle(), nullptr, wide(valueName), RRF_RT_REG_DWORD, nullptr, &number, &size) ==
+        ERROR_SUCCESS)
+        return QString::number(number);
+    qint64 longNumber = 0;
+    size = sizeof(longNumber);
+    if (RegGetValueW(key.handle(), nullptr, wide(valueName), RRF_RT_REG_QWORD, nullptr, &longNumber, &size) ==
+        ERROR_SUCCESS)
+        return QString::number(longNumber);
+    return std::nullopt;
+}
+
 bool RegistryKey::setText(const QString &valueName, const QString &text)
 {
     const OpenKey key(m_path, KEY_SET_VALUE, OpenKey::Missing::Create);

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "cad/registry_listing.h"
+
+/// The registry of the machine.
+class MachineRegistryListing final : public RegistryListing
+{
+public:
+    QList<ListedValue> valuesBelow(const QString &key) const override;
+    QString valueOf(const QString &key, const QString &valueName) const override;
+};

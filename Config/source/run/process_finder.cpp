@@ -1,0 +1,53 @@
+#include "run/process_finder.h"
+
+#include "nvx_util/machine.h"
+#include "nvx_util/process_table.h"
+#include "run/reporter.h"
+#include "run/step_context.h"
+
+#include <QCoreApplication>
+
+using Nvx::Util::OpenedProcess;
+using Nvx::Util::ProcessId;
+using Nvx::Util::ProcessTable;
+
+namespace {
+
+struct ProcessFinder
+{
+    Q_DECLARE_TR_FUNCTIONS(ProcessFinder)
+};
+
+// Processes beyond these are not seen.
+constexpr int mostProcesses = 1024;
+
+void end(OpenedProcess &process, const QString &displayName, Reporter &reporter)
+{
+    const QString sentence =
+        process.terminate() ? ProcessFinder::tr("%1 terminated") : ProcessFinder::tr("%1 was not terminated");
+    reporter.log(0, sentence.arg(displayName));
+}
+
+} // namespace
+
+QStringList findProcesses(const StepContext &context, const QStringList &exeNames,
+                          const QStringList &displayNames, OnMatch onMatch, const QString &pathFilter)
+{
+    QStringList found;
+    ProcessTable &processes = context.machine.processes();
+    const QList<ProcessId> ids = processes.ids(mostProcesses);
+    for (const ProcessId id : ids) {
+        const std::unique_ptr<OpenedProcess> process = processes.open(id);
+        if (!process || !process->path().toUpper().contains(pathFilter))
+            continue;
+        const qsizetype place = exeNames.indexOf(process->baseName().toUpper());
+        if (place < 0)
+            continue;
+        const QString displayName = displayNames.value(place);
+        if (onMatch == OnMatch::Terminate)
+            end(*process, displayName, context.reporter);
+        else
+            found.append(displayName);
+    }
+    return found;
+}

@@ -1,0 +1,206 @@
+// The process table and the guards with programs that do run. The questions are answered by the test.
+
+#include "cad/process_guard.h"
+#include "nvx_util/native_machine.h"
+#include "nvx_util/process_table.h"
+#include "run/run_state.h"
+#include "run/step_context.h"
+#include "support/recording_reporter.h"
+#include "support/test_folder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+using Nvx::Util::Answer;
+using Nvx::Util::BoxKind;
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+// The machine itself, whose questions are answered at once.
+class AnsweringMachine : public Nvx::Util::NativeMachine
+{
+public:
+    Answer answer = Answer::Yes;
+    QStringList questions;
+    std::function<void()> whileAsking;
+
+    Answer ask(BoxKind, const QString &, const QString &question) override
+    {
+        questions << question;
+        if (whileAsking)
+            whileAsking();
+        return answer;
+    }
+};
+
+// A copy of the sample program that runs while this lives.
+class RunningProgram
+{
+public:
+    explicit RunningProgram(const QString &path)
+        : m_path(path)
+    {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile::copy(text(GUARDED_PROGRAM), path);
+        m_process.start(path, QStringList());
+        m_started = QTest::qWaitFor([this] { return QFile::exists(m_path + text(".running")); }, 30000);
+    }
+    ~RunningProgram()
+    {
+        if (!isRunning())
+            return;
+        QFile stop(m_path + text(".stop"));
+        if (!stop.open(QIODevice::WriteOnly) || !m_process.waitForFinished(10000))
+            m_process.kill();
+    }
+
+    bool hasStarted() const { return m_started; }
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
+
+    // Waits for its end by somebody else's hand; its exit code, or nothing when it goes on.
+    std::optional<int> ended()
+    {
+        if (isRunning() && !m_process.waitForFinished(10000))
+            return std::nullopt;
+        return m_process.exitCode();
+    }
+
+    // Tells it to end.
+    bool stop()
+    {
+        QFile file(m_path + text(".stop"));
+        return file.open(QIODevice::WriteOnly) && m_process.waitForFinished(10000);
+    }
+
+private:
+    QString m_path;
+    QProcess m_process;
+    bool m_started = false;
+};
+
+} // namespace
+
+class tst_running_programs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<TestFolder>();
+        m_machine = std::make_unique<AnsweringMachine>();
+        m_reporter = std::make_unique<RecordingReporter>();
+        m_state = RunState();
+    }
+
+    void aRunningProgramIsListedByItsFileNameAndItsWholePath()
+    {
+        const QString path = m_folder->path(text("größe 日本/SldWorks.exe"));
+        const RunningProgram program(path);
+        QVERIFY(program.hasStarted());
+        Nvx::Util::ProcessTable &processes = m_machine->processes();
+        QStringList found;
+        const QList<Nvx::Util::ProcessId> ids = processes.ids(1024);
+        for (const Nvx::Util::ProcessId id : ids) {
+            const auto process = processes.open(id);
+            if (process && process->baseName() == text("SldWorks.exe"))
+                found << process->path();
+        }
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(QFileInfo(found.first()).canonicalFilePath(), QFileInfo(path).canonicalFilePath());
+    }
+
+    void noMoreIdsAreListedThanFit()
+    {
+        const QList<Nvx::Util::ProcessId> all = m_machine->processes().ids(1024);
+        QVERIFY(all.size() > 2);
+        QCOMPARE(m_machine->processes().ids(2), all.mid(0, 2));
+    }
+
+    void aProcessThatIsNotThereCannotBeOpened() { QVERIFY(!m_machine->processes().open(0xfffffff0)); }
+
+    void aProgramThatEndsBetweenTheListingAndTheEndingIsNotMentioned()
+    {
+        RunningProgram program(m_folder->path(text("xtop.exe")));
+        QVERIFY(program.hasStarted());
+        m_machine->whileAsking = [&program] { program.stop(); };
+        QVERIFY(!guardAgainstRunningCad(context()));
+        QCOMPARE(m_machine->questions.size(), 1);
+        QVERIFY(program.ended() == std::optional<int>(0));
+        QVERIFY(m_reporter->lines.isEmpty());
+    }
+
+    void yesEndsEveryCadSystemAndNothingElse()
+    {
+        RunningProgram first(m_folder->path(text("a/xtop.exe")));
+        RunningProgram second(m_folder->path(text("b/EDGE.exe")));
+        RunningProgram other(m_folder->path(text("b/SmoothEdge.exe")));
+        QVERIFY(first.hasStarted() && second.hasStarted() && other.hasStarted());
+        QVERIFY(!guardAgainstRunningCad(context()));
+        QCOMPARE(m_machine->questions.size(), 1);
+        QVERIFY(first.ended() == std::optional<int>(-1));
+        QVERIFY(second.ended() == std::optional<int>(-1));
+        QVERIFY(other.isRunning());
+        m_reporter->lines.sort();
+        QCOMPARE(m_reporter->lines,
+                 QStringList({text("0 SolidEdge terminated"), text("0 Wildfire terminated")}));
+    }
+
+    void anyOtherAnswerEndsNothing_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("dismissed");
+        QTest::newRow("no") << int(Answer::No) << false;
+        QTest::newRow("dismissed") << int(Answer::Dismissed) << true;
+    }
+
+    void anyOtherAnswerEndsNothing()
+    {
+        QFETCH(int, answer);
+        m_machine->answer = static_cast<Answer>(answer);
+        const RunningProgram cad(m_folder->path(text("Brevant.exe")));
+        const RunningProgram product(m_folder->path(text("NVX 2017/NVXServer.exe")));
+        QVERIFY(cad.hasStarted() && product.hasStarted());
+        QTEST(guardAgainstRunningCad(context()), "dismissed");
+        QTEST(guardAgainstRunningProduct(context(), OnMatch::List), "dismissed");
+        QCOMPARE(m_machine->questions, QStringList({runningCadQuestion({text("Brevant")}),
+                                                    runningProductQuestion({text("NVXServer")})}));
+        QVERIFY(cad.isRunning() && product.isRunning());
+    }
+
+    void aSilentRunEndsTheProductOfThisReleaseOnly()
+    {
+        m_state.silent = true;
+        RunningProgram own(m_folder->path(text("NVX 2017/NVXMonitor.exe")));
+        RunningProgram older(m_folder->path(text("NVX 2016/NVXMonitor.exe")));
+        QVERIFY(own.hasStarted() && older.hasStarted());
+        QVERIFY(!guardAgainstRunningProduct(context(), OnMatch::List));
+        QVERIFY(own.ended() == std::optional<int>(-1));
+        QVERIFY(older.isRunning());
+        QVERIFY(m_machine->questions.isEmpty());
+        QCOMPARE(m_reporter->lines.last(), text("0 NVX 2017 Job Monitor terminated"));
+    }
+
+private:
+    StepContext context() { return {*m_machine, *m_reporter, m_state}; }
+
+    std::unique_ptr<TestFolder> m_folder;
+    std::unique_ptr<AnsweringMachine> m_machine;
+    std::unique_ptr<RecordingReporter> m_reporter;
+    RunState m_state;
+};
+
+QTEST_GUILESS_MAIN(tst_running_programs)
+#include "tst_running_programs.moc"
