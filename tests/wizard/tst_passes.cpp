@@ -87,6 +87,60 @@ private slots:
         QVERIFY(m_fixture->machine.calls.isEmpty());
     }
 
+    void runningProgramsAreLookedForBeforeCadSystemsAndBothBeforeTheRun()
+    {
+        m_fixture->machine.running.add(text("C:\\CAD\\xtop.exe"));
+        m_fixture->machine.running.add(text("C:\\NVX 2017\\NVXMonitor.exe"));
+        runPass(m_fixture->start(text("-I -S")));
+        const QStringList order{text("   0 Wildfire terminated"),
+                                text("   0 CheckForRunningOstrade: silent=on terminate=off"),
+                                text("   0 NVX 2017 Job Monitor terminated"),
+                                text("   0 Searching for CAD Packages"),
+                                text("   0 Finished searching for CAD Packages"),
+                                text("   0 Beginning Install")};
+        QStringList found;
+        const QStringList lines = m_fixture->lines();
+        for (const QString &line : lines) {
+            if (order.contains(line))
+                found << line;
+        }
+        QCOMPARE(found, order);
+        QCOMPARE(m_fixture->machine.boxes.size(), 1); // about the CAD system, though the run is silent
+    }
+
+    void everyRunLooksForRunningProgramsAndOnlyThoseThatInstallOrRemoveForCadSystems_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<int>("searches");
+        QTest::newRow("silent install") << text("-I -S") << 1;
+        QTest::newRow("silent uninstall") << text("-U -S") << 1;
+        QTest::newRow("install") << text("-I") << 1;
+        QTest::newRow("uninstall") << text("-U") << 1;
+        QTest::newRow("no mode") << QString() << 1;
+        QTest::newRow("stop services") << text("-ST") << 0;
+        QTest::newRow("localisation") << text("-T") << 0;
+    }
+
+    void everyRunLooksForRunningProgramsAndOnlyThoseThatInstallOrRemoveForCadSystems()
+    {
+        QFETCH(QString, options);
+        runPass(m_fixture->start(options));
+        const QStringList lines = m_fixture->lines();
+        QCOMPARE(m_fixture->machine.running.limits.size(), 2);
+        QCOMPARE(lines.filter(text("CheckForRunningOstrade")).size(), 1);
+        QTEST(int(lines.count(text("   0 Searching for CAD Packages"))), "searches");
+    }
+
+    void whatTheUserAnswersAboutRunningProgramsStopsNothing()
+    {
+        m_fixture->machine.running.add(text("C:\\CAD\\xtop.exe"));
+        m_fixture->machine.answer = Nvx::Util::Answer::Dismissed;
+        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        QCOMPARE(runPass(engine), 0);
+        QVERIFY(engine.state().runComplete);
+        QVERIFY(m_fixture->machine.running.ended.isEmpty());
+    }
+
     void aRunWithoutAModeBecomesAnInstall()
     {
         cfg_utilitys &engine = m_fixture->start(QString());

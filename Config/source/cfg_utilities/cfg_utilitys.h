@@ -4,6 +4,7 @@
 #include "cad/shared_folders.h"
 #include "nvx_util/log.h"
 #include "run/launcher_boxes.h"
+#include "run/process_finder.h"
 #include "run/reporter.h"
 #include "run/run_state.h"
 #include "run/step_context.h"
@@ -53,6 +54,14 @@ public:
     /// Where the launcher steps look from now on for the folders of the CAD systems that have a place of
     /// their own on the machine.
     void setSharedFolders(const SharedFolders &folders) { m_sharedFolders = folders; }
+
+    /// Searches the machine for CAD systems: keeps what it finds and sets the boxes. Does nothing in a run
+    /// that suppresses the search.
+    void searchCADPackages();
+
+    // The guards against running programs; see process_guard.h.
+    bool checkRunningCAD();
+    bool checkRunningProduct(OnMatch onMatch);
 
     /// A run is about to start: until it ends, runComplete is false.
     void clearRunComplete();

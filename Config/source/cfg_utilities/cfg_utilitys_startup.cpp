@@ -48,6 +48,8 @@ void cfg_utilitys::processCommandLine()
     m_state.runMode = reading.runMode;
     m_state.silent = reading.silent;
     m_state.locale = reading.locale;
+    m_state.cadSearchSuppressed =
+        reading.runMode == RunMode::StopServices || reading.runMode == RunMode::Localization;
     if (reading.abandoned)
         return;
 

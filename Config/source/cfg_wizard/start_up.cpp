@@ -37,10 +37,14 @@ int runPasses(const cfg_utilitys &engine, const std::function<int()> &pass)
 
 int runPass(cfg_utilitys &engine)
 {
+    engine.checkRunningCAD();
+    engine.checkRunningProduct(OnMatch::List);
+
     const WizardPlan plan = planFor(engine.state().runMode, engine.state().silent);
     engine.setRunMode(plan.runMode);
     switch (plan.action) {
     case WizardPlan::Action::RunSilently:
+        engine.searchCADPackages();
         engine.ProcessInstallation();
         return 0;
     case WizardPlan::Action::StopServices:
@@ -50,6 +54,7 @@ int runPass(cfg_utilitys &engine)
         engine.log(1, Messages::tr("This build has no localization tool"));
         return 0;
     case WizardPlan::Action::ShowPages:
+        engine.searchCADPackages();
         break;
     }
     return tellThatPagesAreMissing(engine);
