@@ -55,4 +55,7 @@ qint32 createShellLink(const ShellLink &link);
 /// Waits until the disk has what was written through the open descriptor. False when it could not take it.
 bool flushToDisk(int descriptor);
 
+/// Gives a file another name in its folder. False, and nothing changed, when the name is taken.
+bool renameToFreeName(const QString &from, const QString &to);
+
 } // namespace Nvx::Util::Platform

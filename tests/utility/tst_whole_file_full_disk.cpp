@@ -3,42 +3,16 @@
 #include "error_translation_update.h"
 #include "nvx_util/whole_file.h"
 #include "support/file_bytes.h"
+#include "support/full_disk.h"
 #include "support/test_folder.h"
 
 #include <QDir>
 #include <QTest>
 #include <QTextStream>
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace {
 
-constexpr rlim_t mostBytes = 64 * 1024;
-
-/// While it lives, no file of this process grows beyond the most bytes, as on a disk that is full then.
-class FullDisk
-{
-public:
-    FullDisk()
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{mostBytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-    ~FullDisk()
-    {
-        std::signal(SIGXFSZ, m_handler);
-        setrlimit(RLIMIT_FSIZE, &m_before);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = nullptr;
-};
+constexpr auto mostBytes = FullDisk::mostBytes;
 
 Clt::MessageTable largeTable()
 {
@@ -97,6 +71,18 @@ private slots:
             QVERIFY(Nvx::Util::replaceWholeFile(fileName, QByteArray(mostBytes, 'x')));
         }
         QCOMPARE(QFileInfo(fileName).size(), qint64(mostBytes));
+    }
+
+    void copyThatDoesNotFitLeavesNothing()
+    {
+        const TestFolder folder;
+        const QString source = folder.path(QStringLiteral("source"));
+        QVERIFY(writeFile(source, QByteArray(2 * mostBytes, 'x')));
+        {
+            const FullDisk disk;
+            QVERIFY(!Nvx::Util::copyToFreeName(source, folder.path(QStringLiteral("copy"))));
+        }
+        QCOMPARE(filesIn(folder), QStringList(QStringLiteral("source")));
     }
 
     void messageTableIsNotSaved()

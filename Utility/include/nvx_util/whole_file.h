@@ -13,4 +13,10 @@ namespace Nvx::Util {
 /// was.
 [[nodiscard]] bool replaceWholeFile(const QString &fileName, const QByteArray &contents);
 
+/// Copies a file to a name that is free, whole or not at all: the copy is written beside, under the name with
+/// ".part" behind it, flushed to the disk, and renamed. Nothing that has the name is ever replaced, not even
+/// what comes there meanwhile. The copy has the permissions of a new file. False when the name is taken, the
+/// source cannot be read or the disk does not take the copy; no part of it is left then.
+[[nodiscard]] bool copyToFreeName(const QString &source, const QString &target);
+
 } // namespace Nvx::Util

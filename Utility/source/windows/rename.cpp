@@ -1,0 +1,26 @@
+#include "platform.h"
+
+#include <QDir>
+
+#include <windows.h>
+
+namespace Nvx::Util::Platform {
+
+namespace {
+
+// The form in which the system takes paths of more than 260 characters.
+std::wstring longPath(const QString &path)
+{
+    const QString native = QDir::toNativeSeparators(QDir::cleanPath(path));
+    const bool isLong = native.size() >= MAX_PATH && !native.startsWith(QLatin1String("\\\\"));
+    return (isLong ? QStringLiteral("\\\\?\\") + native : native).toStdWString();
+}
+
+} // namespace
+
+bool renameToFreeName(const QString &from, const QString &to)
+{
+    return MoveFileExW(longPath(from).c_str(), longPath(to).c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+} // namespace Nvx::Util::Platform

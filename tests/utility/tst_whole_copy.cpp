@@ -1,0 +1,123 @@
+#include "nvx_util/whole_file.h"
+#include "support/file_bytes.h"
+#include "support/test_folder.h"
+
+#include <QTest>
+
+using Nvx::Util::copyToFreeName;
+
+namespace {
+
+QStringList namesIn(const TestFolder &folder)
+{
+    return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+} // namespace
+
+class TestWholeCopy : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<TestFolder>();
+        m_source = m_folder->path(QStringLiteral("Werkstoffe 材料.mdb"));
+        m_target = m_folder->path(QStringLiteral("größe 材料.nvxmdb"));
+    }
+
+    void copyHasTheBytes_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("none") << QByteArray();
+        QTest::newRow("a few") << QByteArray("a\r\n\0b", 5);
+        QTest::newRow("as many as are read at once") << QByteArray(64 * 1024, 'x');
+        QTest::newRow("one more") << QByteArray(64 * 1024, 'x') + 'y';
+        QTest::newRow("many") << QByteArray(300 * 1000, 'x') + 'y';
+    }
+
+    void copyHasTheBytes()
+    {
+        QFETCH(const QByteArray, contents);
+        QVERIFY(writeFile(m_source, contents));
+        QVERIFY(copyToFreeName(m_source, m_target));
+        QCOMPARE(fileBytes(m_target), contents);
+        QCOMPARE(fileBytes(m_source), contents);
+        QCOMPARE(namesIn(*m_folder).size(), 2);
+    }
+
+    void copyOfAWriteProtectedFileCanBeWritten()
+    {
+        QVERIFY(writeFile(m_source, "materials"));
+        QVERIFY(QFile::setPermissions(m_source, QFile::ReadOwner | QFile::ReadUser));
+        QVERIFY(copyToFreeName(m_source, m_target));
+        QVERIFY(QFile::permissions(m_target).testFlag(QFile::WriteOwner));
+    }
+
+    void whatHasTheNameStays()
+    {
+        QVERIFY(writeFile(m_source, "new"));
+        QVERIFY(writeFile(m_target, "mine"));
+        QVERIFY(!copyToFreeName(m_source, m_target));
+        QCOMPARE(fileBytes(m_target), QByteArray("mine"));
+        QCOMPARE(namesIn(*m_folder).size(), 2);
+    }
+
+    void folderOfThatNameStays()
+    {
+        QVERIFY(writeFile(m_source, "new"));
+        QVERIFY(QDir().mkdir(m_target));
+        QVERIFY(!copyToFreeName(m_source, m_target));
+        QVERIFY(QFileInfo(m_target).isDir());
+        QCOMPARE(namesIn(*m_folder).size(), 1);
+    }
+
+    void missingSourceLeavesNothing()
+    {
+        QVERIFY(!copyToFreeName(m_source, m_target));
+        QCOMPARE(namesIn(*m_folder), QStringList());
+    }
+
+    void folderInTheSourcesPlaceLeavesNothing()
+    {
+        QVERIFY(QDir().mkdir(m_source));
+        QVERIFY(!copyToFreeName(m_source, m_target));
+        QCOMPARE(namesIn(*m_folder), QStringList());
+    }
+
+    void missingFolderFails()
+    {
+        QVERIFY(writeFile(m_source, "new"));
+        QVERIFY(!copyToFreeName(m_source, m_folder->path(QStringLiteral("missing/file"))));
+        QVERIFY(!QFile::exists(m_folder->path(QStringLiteral("missing"))));
+    }
+
+    void whatAnEarlierCopyHasLeftIsNoObstacle()
+    {
+        QVERIFY(writeFile(m_source, "new"));
+        QVERIFY(writeFile(m_target + QStringLiteral(".part"), "longer than what is to be copied"));
+        QVERIFY(copyToFreeName(m_source, m_target));
+        QCOMPARE(fileBytes(m_target), QByteArray("new"));
+        QCOMPARE(namesIn(*m_folder).size(), 2);
+    }
+
+    void pathsOfMoreThan260CharactersAreTaken()
+    {
+        QString folder = m_folder->path();
+        for (int i = 0; i < 6; ++i)
+            folder += QDir::separator() + QString(45, QLatin1Char('d'));
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(writeFile(m_source, "new"));
+        QVERIFY(copyToFreeName(m_source, folder + QDir::separator() + QStringLiteral("file")));
+        QCOMPARE(fileBytes(folder + QDir::separator() + QStringLiteral("file")), QByteArray("new"));
+    }
+
+private:
+    std::unique_ptr<TestFolder> m_folder;
+    QString m_source;
+    QString m_target;
+};
+
+QTEST_GUILESS_MAIN(TestWholeCopy)
+#include "tst_whole_copy.moc"
