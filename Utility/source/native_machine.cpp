@@ -6,6 +6,8 @@
 #include <QMessageBox>
 #include <QProcess>
 
+#include <thread>
+
 namespace Nvx::Util {
 
 namespace {
@@ -40,6 +42,8 @@ QMessageBox::Icon iconOf(BoxKind kind)
     switch (kind) {
     case BoxKind::Warning:
         return QMessageBox::Warning;
+    case BoxKind::Critical:
+        return QMessageBox::Critical;
     case BoxKind::Question:
         return QMessageBox::Question;
     case BoxKind::Information:
@@ -101,9 +105,19 @@ bool NativeMachine::startDetached(const QString &program, const QStringList &arg
     return true;
 }
 
+void NativeMachine::sleep(std::chrono::milliseconds duration)
+{
+    std::this_thread::sleep_for(duration);
+}
+
 ProcessTable &NativeMachine::processes()
 {
     return Platform::processes();
+}
+
+ServiceControl &NativeMachine::services()
+{
+    return Platform::services();
 }
 
 QString NativeMachine::commonDesktopFolder() const

@@ -13,7 +13,8 @@ class QProcess;
 
 namespace Nvx::Util {
 class ProcessTable;
-}
+class ServiceControl;
+} // namespace Nvx::Util
 
 namespace Nvx::Util::Platform {
 
@@ -44,6 +45,9 @@ void waitForEnd(qint64 process, int timeoutMs);
 
 /// The processes of the machine.
 ProcessTable &processes();
+
+/// The services of the machine.
+ServiceControl &services();
 
 QString commonDesktopFolder();
 

@@ -38,3 +38,10 @@ Nvx::Util::Answer RecordingMachine::ask(Nvx::Util::BoxKind kind, const QString &
         whileAsking();
     return answer;
 }
+
+void RecordingMachine::sleep(std::chrono::milliseconds duration)
+{
+    sleeps.append(duration);
+    if (afterSleep)
+        afterSleep();
+}

@@ -3,6 +3,7 @@
 #include "nvx_util/machine.h"
 #include "nvx_util/shell_link.h"
 #include "support/recording_processes.h"
+#include "support/recording_services.h"
 
 #include <QList>
 #include <QPair>
@@ -46,6 +47,9 @@ public:
     /// What runs on it.
     RecordingProcesses running;
 
+    /// What is installed as a service on it.
+    RecordingServices service;
+
     // What it was asked.
     QList<Nvx::Util::ProgramCall> calls;
     QList<Start> starts;
@@ -53,13 +57,19 @@ public:
     QList<QPair<QByteArray, QByteArray>> processVariables;
     int associationNotices = 0;
     QList<Nvx::Util::ShellLink> shellLinks;
+    QList<std::chrono::milliseconds> sleeps;
+
+    /// Called after each sleep, which takes no time.
+    std::function<void()> afterSleep;
 
     QString commandLine() const override { return ownCommandLine; }
     QString executableFolder() const override { return ownFolder; }
     bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
     Nvx::Util::ProgramResult run(const Nvx::Util::ProgramCall &call) override;
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
+    void sleep(std::chrono::milliseconds duration) override;
     Nvx::Util::ProcessTable &processes() override { return running; }
+    Nvx::Util::ServiceControl &services() override { return service; }
     QString commonDesktopFolder() const override { return desktop; }
     void notifyAssociationsChanged() override { ++associationNotices; }
     qint32 createShellLink(const Nvx::Util::ShellLink &link) override;

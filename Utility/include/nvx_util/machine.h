@@ -4,10 +4,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
+
 namespace Nvx::Util {
 
 struct ShellLink;
 class ProcessTable;
+class ServiceControl;
 
 /// An external program to run.
 struct ProgramCall
@@ -54,6 +57,7 @@ enum class BoxKind
 {
     Information,
     Warning,
+    Critical,
     Question ///< whose answer is open: no button is the default
 };
 
@@ -91,8 +95,14 @@ public:
     /// end, with 0 not at all. Each argument arrives as it is. False when it could not be started.
     virtual bool startDetached(const QString &program, const QStringList &arguments, int waitMs) = 0;
 
+    /// Lets time pass. Blocks.
+    virtual void sleep(std::chrono::milliseconds duration) = 0;
+
     /// The processes that run now.
     virtual ProcessTable &processes() = 0;
+
+    /// The services that are installed.
+    virtual ServiceControl &services() = 0;
 
     /// The desktop folder of all users; empty when the machine has none.
     virtual QString commonDesktopFolder() const = 0;

@@ -13,7 +13,9 @@ public:
     bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
     ProgramResult run(const ProgramCall &call) override;
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
+    void sleep(std::chrono::milliseconds duration) override;
     ProcessTable &processes() override;
+    ServiceControl &services() override;
     QString commonDesktopFolder() const override;
     void notifyAssociationsChanged() override;
     qint32 createShellLink(const ShellLink &link) override;

@@ -1,0 +1,171 @@
+#include "nvx_util/service_control.h"
+
+#include "platform.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <thread>
+#include <type_traits>
+
+#include <windows.h>
+
+namespace Nvx::Util::Platform {
+
+namespace {
+
+using std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
+
+constexpr milliseconds pollInterval{50};
+
+struct CloseService
+{
+    void operator()(SC_HANDLE handle) const { CloseServiceHandle(handle); }
+};
+using ServiceHandle = std::unique_ptr<std::remove_pointer_t<SC_HANDLE>, CloseService>;
+
+struct CloseObject
+{
+    void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+using ProcessHandle = std::unique_ptr<void, CloseObject>;
+
+struct OpenedService
+{
+    ServiceHandle handle;
+    bool isClosedToUs = false;
+};
+
+/// A service opened with certain rights. The handle is null when there is none, or it is closed to us.
+OpenedService tryToOpen(const QString &name, DWORD rights)
+{
+    OpenedService service;
+    const ServiceHandle control(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT));
+    if (!control)
+        return service;
+    service.handle.reset(OpenServiceW(control.get(), name.toStdWString().c_str(), rights));
+    service.isClosedToUs = !service.handle && GetLastError() == ERROR_ACCESS_DENIED;
+    return service;
+}
+
+ServiceHandle open(const QString &name, DWORD rights)
+{
+    return tryToOpen(name, rights).handle;
+}
+
+std::optional<SERVICE_STATUS_PROCESS> statusOf(const ServiceHandle &service)
+{
+    SERVICE_STATUS_PROCESS status = {};
+    DWORD needed = 0;
+    if (!QueryServiceStatusEx(service.get(), SC_STATUS_PROCESS_INFO, reinterpret_cast<BYTE *>(&status),
+                              sizeof status, &needed))
+        return std::nullopt;
+    return status;
+}
+
+/// The process that the service runs in, to be waited for; null when there is none.
+ProcessHandle processOf(const ServiceHandle &service)
+{
+    const auto status = statusOf(service);
+    if (!status || status->dwProcessId == 0)
+        return nullptr;
+    return ProcessHandle(OpenProcess(SYNCHRONIZE, FALSE, status->dwProcessId));
+}
+
+/// Waits until the service has stopped. What cannot be asked any more counts as stopped.
+bool waitUntilStopped(const ServiceHandle &service, Clock::time_point deadline)
+{
+    for (;;) {
+        const auto status = statusOf(service);
+        if (!status || status->dwCurrentState == SERVICE_STOPPED)
+            return true;
+        if (Clock::now() >= deadline)
+            return false;
+        std::this_thread::sleep_for(pollInterval);
+    }
+}
+
+/// Waits for the end of a process. It comes after the service has said that it stopped, and only then are
+/// its files free.
+bool waitForEnd(const ProcessHandle &process, Clock::time_point deadline)
+{
+    if (!process)
+        return true;
+    const auto left = std::chrono::ceil<milliseconds>(deadline - Clock::now());
+    return WaitForSingleObject(process.get(), static_cast<DWORD>(std::max<qint64>(0, left.count()))) ==
+           WAIT_OBJECT_0;
+}
+
+class NativeServices final : public ServiceControl
+{
+public:
+    ServiceState state(const QString &name) const override;
+    QString description(const QString &name) const override;
+    bool start(const QString &name) override;
+    ServiceStop stop(const QString &name, milliseconds patience) override;
+    bool remove(const QString &name) override;
+};
+
+ServiceState NativeServices::state(const QString &name) const
+{
+    const OpenedService service = tryToOpen(name, SERVICE_QUERY_STATUS);
+    if (!service.handle)
+        return service.isClosedToUs ? ServiceState::Active : ServiceState::NotInstalled;
+    const auto status = statusOf(service.handle);
+    return status && status->dwCurrentState == SERVICE_STOPPED ? ServiceState::Stopped : ServiceState::Active;
+}
+
+QString NativeServices::description(const QString &name) const
+{
+    const ServiceHandle service = open(name, SERVICE_QUERY_CONFIG);
+    if (!service)
+        return QString();
+    DWORD needed = 0;
+    QueryServiceConfig2W(service.get(), SERVICE_CONFIG_DESCRIPTION, nullptr, 0, &needed);
+    QByteArray buffer(static_cast<qsizetype>(needed), '\0');
+    if (needed < sizeof(SERVICE_DESCRIPTIONW) ||
+        !QueryServiceConfig2W(service.get(), SERVICE_CONFIG_DESCRIPTION,
+                              reinterpret_cast<BYTE *>(buffer.data()), needed, &needed))
+        return QString();
+    const wchar_t *text = reinterpret_cast<const SERVICE_DESCRIPTIONW *>(buffer.constData())->lpDescription;
+    return text ? QString::fromWCharArray(text) : QString();
+}
+
+bool NativeServices::start(const QString &name)
+{
+    const ServiceHandle service = open(name, SERVICE_START);
+    return service && StartServiceW(service.get(), 0, nullptr);
+}
+
+ServiceStop NativeServices::stop(const QString &name, milliseconds patience)
+{
+    const ServiceHandle service = open(name, SERVICE_STOP | SERVICE_QUERY_STATUS);
+    if (!service)
+        return ServiceStop::Refused;
+    const ProcessHandle process = processOf(service);
+    const auto deadline = Clock::now() + patience;
+    SERVICE_STATUS ignored = {};
+    if (!ControlService(service.get(), SERVICE_CONTROL_STOP, &ignored))
+        return ServiceStop::Refused;
+    const bool ended = waitUntilStopped(service, deadline) && waitForEnd(process, deadline);
+    return ended ? ServiceStop::Stopped : ServiceStop::NotInTime;
+}
+
+bool NativeServices::remove(const QString &name)
+{
+    const ServiceHandle service = open(name, DELETE);
+    return service && (DeleteService(service.get()) || GetLastError() == ERROR_SERVICE_MARKED_FOR_DELETE);
+}
+
+} // namespace
+
+ServiceControl &services()
+{
+    static NativeServices services;
+    return services;
+}
+
+} // namespace Nvx::Util::Platform

@@ -1,0 +1,27 @@
+#include "nvx_util/native_machine.h"
+#include "nvx_util/service_control.h"
+
+#include <QTest>
+
+using namespace std::chrono_literals;
+
+/// A machine without a service control manager pretends nothing.
+class tst_missing_services : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyRequestFails()
+    {
+        const QString name = QStringLiteral("NVX 2017 Server");
+        Nvx::Util::NativeMachine machine;
+        QVERIFY(machine.services().state(name) == Nvx::Util::ServiceState::NotInstalled);
+        QCOMPARE(machine.services().description(name), QString());
+        QVERIFY(!machine.services().start(name));
+        QVERIFY(machine.services().stop(name, 1s) == Nvx::Util::ServiceStop::Refused);
+        QVERIFY(!machine.services().remove(name));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_missing_services)
+#include "tst_missing_services.moc"
