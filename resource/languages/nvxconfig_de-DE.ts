@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 Installationsordner: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Verwendet wird %1, Installationsordner: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 Produktcode =%2</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -154,6 +169,37 @@
     </message>
 </context>
 <context>
+    <name>MaterialDatabase</name>
+    <message>
+        <source>Checking material database</source>
+        <translation>Materialdatenbank wird geprüft</translation>
+    </message>
+    <message>
+        <source>Installation error matprop.mdb does not exist?</source>
+        <translation>Installationsfehler: matprop.mdb nicht vorhanden?</translation>
+    </message>
+    <message>
+        <source>Installation error: </source>
+        <translation>Installationsfehler: </translation>
+    </message>
+    <message>
+        <source> does not exist.</source>
+        <translation> ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>Copy: </source>
+        <translation>Kopieren: </translation>
+    </message>
+    <message>
+        <source> to: </source>
+        <translation> nach: </translation>
+    </message>
+    <message>
+        <source>Remove: </source>
+        <translation>Entfernen: </translation>
+    </message>
+</context>
+<context>
     <name>NxLauncher</name>
     <message>
         <source>Copying %1 to %2</source>
@@ -188,6 +234,56 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1 wurde beendet</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1 konnte nicht beendet werden</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>Klicken Sie auf „Ja“, um fortzufahren, nachdem der Prozess beendet wurde.
+Klicken Sie auf „Nein“, um fortzufahren, ohne den Prozess zu beenden.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>Klicken Sie auf „Ja“, um fortzufahren, nachdem die Prozesse beendet wurden.
+Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 wird ausgeführt und sollte beendet werden, bevor das NVX-Start-Add-In konfiguriert werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 werden ausgeführt und sollten beendet werden, bevor das NVX-Start-Add-In konfiguriert werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 wird ausgeführt und sollte beendet werden, bevor Sie fortfahren.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 werden ausgeführt und sollten beendet werden, bevor Sie fortfahren.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>Installation der CAD-Startprogramme</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Installation von Velmora %1</translation>
+    </message>
+</context>
+<context>
     <name>ProductRegistry</name>
     <message>
         <source>The registry refuses the value %1 of %2</source>
@@ -216,6 +312,53 @@
     <message>
         <source>Registry paths</source>
         <translation>Registrierungspfade</translation>
+    </message>
+</context>
+<context>
+    <name>ServerService</name>
+    <message>
+        <source>Unable to find server executable; Check_ Installation Directory path:</source>
+        <translation>Serverprogramm nicht gefunden; prüfen Sie den Pfad des Installationsordners:</translation>
+    </message>
+    <message>
+        <source>Unable to install the server</source>
+        <translation>Der Server konnte nicht installiert werden</translation>
+    </message>
+    <message>
+        <source>Server Error</source>
+        <translation>Serverfehler</translation>
+    </message>
+    <message>
+        <source>Manages communication between NVX components.</source>
+        <translation>Verwaltet die Kommunikation zwischen den NVX-Komponenten.</translation>
+    </message>
+    <message>
+        <source>The server has been registered, but could not be started</source>
+        <translation>Der Server wurde registriert, konnte aber nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>uninstallServer </source>
+        <translation>uninstallServer </translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not stop service</source>
+        <translation>uninstallServer - Dienst konnte nicht beendet werden</translation>
+    </message>
+    <message>
+        <source>The server has not stopped in time and is ended</source>
+        <translation>Der Server wurde nicht rechtzeitig beendet; sein Prozess wird abgebrochen</translation>
+    </message>
+    <message>
+        <source>uninstallServer - service was not installed</source>
+        <translation>uninstallServer - Dienst war nicht installiert</translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not uninstall service</source>
+        <translation>uninstallServer - Dienst konnte nicht deinstalliert werden</translation>
+    </message>
+    <message>
+        <source>The service goes when it has ended and no other program looks at it</source>
+        <translation>Der Dienst verschwindet, sobald er beendet ist und kein anderes Programm mehr auf ihn zugreift</translation>
     </message>
 </context>
 <context>
@@ -255,12 +398,12 @@
         <translation>Diese Programmversion enthält keine Konfigurationsseiten. Verwenden Sie zum Installieren die Optionen -I -S und zum Entfernen -U -S.</translation>
     </message>
     <message>
-        <source>This build cannot stop services</source>
-        <translation>Diese Programmversion kann keine Dienste beenden</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>Diese Programmversion enthält kein Lokalisierungswerkzeug</translation>
+    </message>
+    <message>
+        <source>Stopping Services</source>
+        <translation>Dienste werden beendet</translation>
     </message>
 </context>
 <context>
@@ -284,6 +427,21 @@
     <message>
         <source>Removing:</source>
         <translation>Entfernen:</translation>
+    </message>
+</context>
+<context>
+    <name>UserFiles</name>
+    <message>
+        <source>Remove: </source>
+        <translation>Entfernen: </translation>
+    </message>
+    <message>
+        <source>Remove: Report .pyc files</source>
+        <translation>Entfernen: .pyc-Dateien der Berichte</translation>
+    </message>
+    <message>
+        <source> Sorvane</source>
+        <translation> von Sorvane</translation>
     </message>
 </context>
 <context>
@@ -426,71 +584,6 @@
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Suche nach CAD-Paketen abgeschlossen</translation>
-    </message>
-</context>
-<context>
-    <name>CadSearch</name>
-    <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 Installationsordner: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>Verwendet wird %1, Installationsordner: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 Produktcode =%2</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessFinder</name>
-    <message>
-        <source>%1 terminated</source>
-        <translation>%1 wurde beendet</translation>
-    </message>
-    <message>
-        <source>%1 was not terminated</source>
-        <translation>%1 konnte nicht beendet werden</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessGuard</name>
-    <message>
-        <source>Click Yes to continue after the process is stopped.
-Click No to continue without stopping the process.</source>
-        <translation>Klicken Sie auf „Ja“, um fortzufahren, nachdem der Prozess beendet wurde.
-Klicken Sie auf „Nein“, um fortzufahren, ohne den Prozess zu beenden.</translation>
-    </message>
-    <message>
-        <source>Click Yes to continue after the processes are stopped.
-Click No to continue without stopping the processes.</source>
-        <translation>Klicken Sie auf „Ja“, um fortzufahren, nachdem die Prozesse beendet wurden.
-Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 wird ausgeführt und sollte beendet werden, bevor das NVX-Start-Add-In konfiguriert werden kann.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 werden ausgeführt und sollten beendet werden, bevor das NVX-Start-Add-In konfiguriert werden kann.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before continuing.</source>
-        <translation>%1 wird ausgeführt und sollte beendet werden, bevor Sie fortfahren.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before continuing.</source>
-        <translation>%1 werden ausgeführt und sollten beendet werden, bevor Sie fortfahren.</translation>
-    </message>
-    <message>
-        <source>CAD Launcher Installation</source>
-        <translation>Installation der CAD-Startprogramme</translation>
-    </message>
-    <message>
-        <source>Velmora %1 Installation</source>
-        <translation>Installation von Velmora %1</translation>
     </message>
 </context>
 </TS>

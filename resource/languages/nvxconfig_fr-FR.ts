@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 Dossier d&apos;installation&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Utilisation de %1, dossier d&apos;installation&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 Code de produit =%2</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -154,6 +169,37 @@
     </message>
 </context>
 <context>
+    <name>MaterialDatabase</name>
+    <message>
+        <source>Checking material database</source>
+        <translation>Vérification de la base de données de matériaux</translation>
+    </message>
+    <message>
+        <source>Installation error matprop.mdb does not exist?</source>
+        <translation>Erreur d&apos;installation&#xa0;: matprop.mdb n&apos;existe pas&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Installation error: </source>
+        <translation>Erreur d&apos;installation&#xa0;: </translation>
+    </message>
+    <message>
+        <source> does not exist.</source>
+        <translation> n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>Copy: </source>
+        <translation>Copie&#xa0;: </translation>
+    </message>
+    <message>
+        <source> to: </source>
+        <translation> vers&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Remove: </source>
+        <translation>Suppression&#xa0;: </translation>
+    </message>
+</context>
+<context>
     <name>NxLauncher</name>
     <message>
         <source>Copying %1 to %2</source>
@@ -188,6 +234,56 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1 a été arrêté</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1 n&apos;a pas été arrêté</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour continuer une fois le processus arrêté.
+Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter le processus.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour continuer une fois les processus arrêtés.
+Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 est en cours d&apos;exécution et doit être arrêté avant la configuration du complément de lancement de NVX.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 sont en cours d&apos;exécution et doivent être arrêtés avant la configuration du complément de lancement de NVX.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 est en cours d&apos;exécution et doit être arrêté avant de continuer.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 sont en cours d&apos;exécution et doivent être arrêtés avant de continuer.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>Installation des lanceurs CAO</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Installation de Velmora %1</translation>
+    </message>
+</context>
+<context>
     <name>ProductRegistry</name>
     <message>
         <source>The registry refuses the value %1 of %2</source>
@@ -216,6 +312,53 @@
     <message>
         <source>Registry paths</source>
         <translation>Chemins du Registre</translation>
+    </message>
+</context>
+<context>
+    <name>ServerService</name>
+    <message>
+        <source>Unable to find server executable; Check_ Installation Directory path:</source>
+        <translation>Impossible de trouver le programme du serveur&#xa0;; vérifiez le chemin du dossier d&apos;installation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Unable to install the server</source>
+        <translation>Impossible d&apos;installer le serveur</translation>
+    </message>
+    <message>
+        <source>Server Error</source>
+        <translation>Erreur de serveur</translation>
+    </message>
+    <message>
+        <source>Manages communication between NVX components.</source>
+        <translation>Gère la communication entre les composants de NVX.</translation>
+    </message>
+    <message>
+        <source>The server has been registered, but could not be started</source>
+        <translation>Le serveur a été enregistré, mais n&apos;a pas pu être démarré</translation>
+    </message>
+    <message>
+        <source>uninstallServer </source>
+        <translation>uninstallServer </translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not stop service</source>
+        <translation>uninstallServer - impossible d&apos;arrêter le service</translation>
+    </message>
+    <message>
+        <source>The server has not stopped in time and is ended</source>
+        <translation>Le serveur ne s&apos;est pas arrêté à temps, son processus est interrompu</translation>
+    </message>
+    <message>
+        <source>uninstallServer - service was not installed</source>
+        <translation>uninstallServer - le service n&apos;était pas installé</translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not uninstall service</source>
+        <translation>uninstallServer - impossible de désinstaller le service</translation>
+    </message>
+    <message>
+        <source>The service goes when it has ended and no other program looks at it</source>
+        <translation>Le service disparaîtra dès qu&apos;il sera terminé et qu&apos;aucun autre programme n&apos;y accédera plus</translation>
     </message>
 </context>
 <context>
@@ -255,12 +398,12 @@
         <translation>Cette version ne comporte pas de pages de configuration. Utilisez les options -I -S pour installer ou -U -S pour supprimer.</translation>
     </message>
     <message>
-        <source>This build cannot stop services</source>
-        <translation>Cette version ne peut pas arrêter les services</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>Cette version ne comporte pas d&apos;outil de localisation</translation>
+    </message>
+    <message>
+        <source>Stopping Services</source>
+        <translation>Arrêt des services</translation>
     </message>
 </context>
 <context>
@@ -284,6 +427,21 @@
     <message>
         <source>Removing:</source>
         <translation>Suppression&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>UserFiles</name>
+    <message>
+        <source>Remove: </source>
+        <translation>Suppression&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Remove: Report .pyc files</source>
+        <translation>Suppression&#xa0;: fichiers .pyc des rapports</translation>
+    </message>
+    <message>
+        <source> Sorvane</source>
+        <translation> de Sorvane</translation>
     </message>
 </context>
 <context>
@@ -426,71 +584,6 @@
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Recherche des logiciels de CAO terminée</translation>
-    </message>
-</context>
-<context>
-    <name>CadSearch</name>
-    <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 Dossier d&apos;installation&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>Utilisation de %1, dossier d&apos;installation&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 Code de produit =%2</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessFinder</name>
-    <message>
-        <source>%1 terminated</source>
-        <translation>%1 a été arrêté</translation>
-    </message>
-    <message>
-        <source>%1 was not terminated</source>
-        <translation>%1 n&apos;a pas été arrêté</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessGuard</name>
-    <message>
-        <source>Click Yes to continue after the process is stopped.
-Click No to continue without stopping the process.</source>
-        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour continuer une fois le processus arrêté.
-Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter le processus.</translation>
-    </message>
-    <message>
-        <source>Click Yes to continue after the processes are stopped.
-Click No to continue without stopping the processes.</source>
-        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour continuer une fois les processus arrêtés.
-Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 est en cours d&apos;exécution et doit être arrêté avant la configuration du complément de lancement de NVX.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 sont en cours d&apos;exécution et doivent être arrêtés avant la configuration du complément de lancement de NVX.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before continuing.</source>
-        <translation>%1 est en cours d&apos;exécution et doit être arrêté avant de continuer.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before continuing.</source>
-        <translation>%1 sont en cours d&apos;exécution et doivent être arrêtés avant de continuer.</translation>
-    </message>
-    <message>
-        <source>CAD Launcher Installation</source>
-        <translation>Installation des lanceurs CAO</translation>
-    </message>
-    <message>
-        <source>Velmora %1 Installation</source>
-        <translation>Installation de Velmora %1</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 Cartella di installazione: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Utilizzo di %1, cartella di installazione: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 Codice prodotto =%2</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -154,6 +169,37 @@
     </message>
 </context>
 <context>
+    <name>MaterialDatabase</name>
+    <message>
+        <source>Checking material database</source>
+        <translation>Controllo del database dei materiali in corso</translation>
+    </message>
+    <message>
+        <source>Installation error matprop.mdb does not exist?</source>
+        <translation>Errore di installazione: matprop.mdb non esiste?</translation>
+    </message>
+    <message>
+        <source>Installation error: </source>
+        <translation>Errore di installazione: </translation>
+    </message>
+    <message>
+        <source> does not exist.</source>
+        <translation> non esiste.</translation>
+    </message>
+    <message>
+        <source>Copy: </source>
+        <translation>Copia: </translation>
+    </message>
+    <message>
+        <source> to: </source>
+        <translation> in: </translation>
+    </message>
+    <message>
+        <source>Remove: </source>
+        <translation>Rimozione: </translation>
+    </message>
+</context>
+<context>
     <name>NxLauncher</name>
     <message>
         <source>Copying %1 to %2</source>
@@ -188,6 +234,56 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1 è stato terminato</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1 non è stato terminato</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>Fare clic su Sì per continuare dopo l&apos;arresto del processo.
+Fare clic su No per continuare senza arrestare il processo.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>Fare clic su Sì per continuare dopo l&apos;arresto dei processi.
+Fare clic su No per continuare senza arrestare i processi.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 è in esecuzione e deve essere arrestato prima di poter configurare il componente aggiuntivo di avvio di NVX.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 sono in esecuzione e devono essere arrestati prima di poter configurare il componente aggiuntivo di avvio di NVX.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 è in esecuzione e deve essere arrestato prima di continuare.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 sono in esecuzione e devono essere arrestati prima di continuare.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>Installazione degli strumenti di avvio CAD</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Installazione di Velmora %1</translation>
+    </message>
+</context>
+<context>
     <name>ProductRegistry</name>
     <message>
         <source>The registry refuses the value %1 of %2</source>
@@ -216,6 +312,53 @@
     <message>
         <source>Registry paths</source>
         <translation>Percorsi del Registro di sistema</translation>
+    </message>
+</context>
+<context>
+    <name>ServerService</name>
+    <message>
+        <source>Unable to find server executable; Check_ Installation Directory path:</source>
+        <translation>Impossibile trovare il programma del server; verificare il percorso della cartella di installazione:</translation>
+    </message>
+    <message>
+        <source>Unable to install the server</source>
+        <translation>Impossibile installare il server</translation>
+    </message>
+    <message>
+        <source>Server Error</source>
+        <translation>Errore del server</translation>
+    </message>
+    <message>
+        <source>Manages communication between NVX components.</source>
+        <translation>Gestisce la comunicazione tra i componenti di NVX.</translation>
+    </message>
+    <message>
+        <source>The server has been registered, but could not be started</source>
+        <translation>Il server è stato registrato, ma non è stato possibile avviarlo</translation>
+    </message>
+    <message>
+        <source>uninstallServer </source>
+        <translation>uninstallServer </translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not stop service</source>
+        <translation>uninstallServer - impossibile arrestare il servizio</translation>
+    </message>
+    <message>
+        <source>The server has not stopped in time and is ended</source>
+        <translation>Il server non si è arrestato in tempo e viene terminato</translation>
+    </message>
+    <message>
+        <source>uninstallServer - service was not installed</source>
+        <translation>uninstallServer - il servizio non era installato</translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not uninstall service</source>
+        <translation>uninstallServer - impossibile disinstallare il servizio</translation>
+    </message>
+    <message>
+        <source>The service goes when it has ended and no other program looks at it</source>
+        <translation>Il servizio verrà eliminato quando sarà terminato e nessun altro programma vi accederà più</translation>
     </message>
 </context>
 <context>
@@ -255,12 +398,12 @@
         <translation>Questa versione non contiene pagine di configurazione. Utilizzare le opzioni -I -S per installare o -U -S per rimuovere.</translation>
     </message>
     <message>
-        <source>This build cannot stop services</source>
-        <translation>Questa versione non può arrestare i servizi</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>Questa versione non contiene lo strumento di localizzazione</translation>
+    </message>
+    <message>
+        <source>Stopping Services</source>
+        <translation>Arresto dei servizi in corso</translation>
     </message>
 </context>
 <context>
@@ -284,6 +427,21 @@
     <message>
         <source>Removing:</source>
         <translation>Rimozione:</translation>
+    </message>
+</context>
+<context>
+    <name>UserFiles</name>
+    <message>
+        <source>Remove: </source>
+        <translation>Rimozione: </translation>
+    </message>
+    <message>
+        <source>Remove: Report .pyc files</source>
+        <translation>Rimozione: file .pyc dei report</translation>
+    </message>
+    <message>
+        <source> Sorvane</source>
+        <translation> di Sorvane</translation>
     </message>
 </context>
 <context>
@@ -426,71 +584,6 @@
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Ricerca dei pacchetti CAD completata</translation>
-    </message>
-</context>
-<context>
-    <name>CadSearch</name>
-    <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 Cartella di installazione: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>Utilizzo di %1, cartella di installazione: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 Codice prodotto =%2</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessFinder</name>
-    <message>
-        <source>%1 terminated</source>
-        <translation>%1 è stato terminato</translation>
-    </message>
-    <message>
-        <source>%1 was not terminated</source>
-        <translation>%1 non è stato terminato</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessGuard</name>
-    <message>
-        <source>Click Yes to continue after the process is stopped.
-Click No to continue without stopping the process.</source>
-        <translation>Fare clic su Sì per continuare dopo l&apos;arresto del processo.
-Fare clic su No per continuare senza arrestare il processo.</translation>
-    </message>
-    <message>
-        <source>Click Yes to continue after the processes are stopped.
-Click No to continue without stopping the processes.</source>
-        <translation>Fare clic su Sì per continuare dopo l&apos;arresto dei processi.
-Fare clic su No per continuare senza arrestare i processi.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 è in esecuzione e deve essere arrestato prima di poter configurare il componente aggiuntivo di avvio di NVX.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 sono in esecuzione e devono essere arrestati prima di poter configurare il componente aggiuntivo di avvio di NVX.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before continuing.</source>
-        <translation>%1 è in esecuzione e deve essere arrestato prima di continuare.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before continuing.</source>
-        <translation>%1 sono in esecuzione e devono essere arrestati prima di continuare.</translation>
-    </message>
-    <message>
-        <source>CAD Launcher Installation</source>
-        <translation>Installazione degli strumenti di avvio CAD</translation>
-    </message>
-    <message>
-        <source>Velmora %1 Installation</source>
-        <translation>Installazione di Velmora %1</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 インストール フォルダー: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>使用: %1 インストール フォルダー: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 製品コード =%2</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -154,6 +169,37 @@
     </message>
 </context>
 <context>
+    <name>MaterialDatabase</name>
+    <message>
+        <source>Checking material database</source>
+        <translation>材料データベースを確認しています</translation>
+    </message>
+    <message>
+        <source>Installation error matprop.mdb does not exist?</source>
+        <translation>インストール エラー: matprop.mdb がありませんか?</translation>
+    </message>
+    <message>
+        <source>Installation error: </source>
+        <translation>インストール エラー: </translation>
+    </message>
+    <message>
+        <source> does not exist.</source>
+        <translation> がありません。</translation>
+    </message>
+    <message>
+        <source>Copy: </source>
+        <translation>コピー: </translation>
+    </message>
+    <message>
+        <source> to: </source>
+        <translation> → </translation>
+    </message>
+    <message>
+        <source>Remove: </source>
+        <translation>削除: </translation>
+    </message>
+</context>
+<context>
     <name>NxLauncher</name>
     <message>
         <source>Copying %1 to %2</source>
@@ -188,6 +234,56 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1 を終了しました</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1 を終了できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>プロセスを終了して続行するには [はい] をクリックしてください。
+プロセスを終了せずに続行するには [いいえ] をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>これらのプロセスを終了して続行するには [はい] をクリックしてください。
+これらのプロセスを終了せずに続行するには [いいえ] をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 が実行中です。NVX 起動アドインを構成する前に終了してください。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 が実行中です。NVX 起動アドインを構成する前に、すべて終了してください。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 が実行中です。続行する前に終了してください。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 が実行中です。続行する前に、すべて終了してください。</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>CAD 起動ツールのインストール</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Velmora %1 のインストール</translation>
+    </message>
+</context>
+<context>
     <name>ProductRegistry</name>
     <message>
         <source>The registry refuses the value %1 of %2</source>
@@ -216,6 +312,53 @@
     <message>
         <source>Registry paths</source>
         <translation>レジストリ パス</translation>
+    </message>
+</context>
+<context>
+    <name>ServerService</name>
+    <message>
+        <source>Unable to find server executable; Check_ Installation Directory path:</source>
+        <translation>サーバー プログラムが見つかりません。インストール フォルダーのパスを確認してください:</translation>
+    </message>
+    <message>
+        <source>Unable to install the server</source>
+        <translation>サーバーをインストールできません</translation>
+    </message>
+    <message>
+        <source>Server Error</source>
+        <translation>サーバー エラー</translation>
+    </message>
+    <message>
+        <source>Manages communication between NVX components.</source>
+        <translation>NVX のコンポーネント間の通信を管理します。</translation>
+    </message>
+    <message>
+        <source>The server has been registered, but could not be started</source>
+        <translation>サーバーは登録されましたが、開始できませんでした</translation>
+    </message>
+    <message>
+        <source>uninstallServer </source>
+        <translation>uninstallServer </translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not stop service</source>
+        <translation>uninstallServer - サービスを停止できませんでした</translation>
+    </message>
+    <message>
+        <source>The server has not stopped in time and is ended</source>
+        <translation>サーバーが時間内に停止しなかったため、プロセスを強制終了します</translation>
+    </message>
+    <message>
+        <source>uninstallServer - service was not installed</source>
+        <translation>uninstallServer - サービスはインストールされていませんでした</translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not uninstall service</source>
+        <translation>uninstallServer - サービスをアンインストールできませんでした</translation>
+    </message>
+    <message>
+        <source>The service goes when it has ended and no other program looks at it</source>
+        <translation>サービスは、終了して他のプログラムが参照しなくなった時点で削除されます</translation>
     </message>
 </context>
 <context>
@@ -255,12 +398,12 @@
         <translation>このビルドには構成ページがありません。インストールするにはオプション -I -S、削除するには -U -S を使用してください。</translation>
     </message>
     <message>
-        <source>This build cannot stop services</source>
-        <translation>このビルドではサービスを停止できません</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>このビルドにはローカライズ ツールがありません</translation>
+    </message>
+    <message>
+        <source>Stopping Services</source>
+        <translation>サービスを停止しています</translation>
     </message>
 </context>
 <context>
@@ -284,6 +427,21 @@
     <message>
         <source>Removing:</source>
         <translation>削除:</translation>
+    </message>
+</context>
+<context>
+    <name>UserFiles</name>
+    <message>
+        <source>Remove: </source>
+        <translation>削除: </translation>
+    </message>
+    <message>
+        <source>Remove: Report .pyc files</source>
+        <translation>削除: レポートの .pyc ファイル</translation>
+    </message>
+    <message>
+        <source> Sorvane</source>
+        <translation> - Sorvane</translation>
     </message>
 </context>
 <context>
@@ -426,71 +584,6 @@
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD パッケージの検索が完了しました</translation>
-    </message>
-</context>
-<context>
-    <name>CadSearch</name>
-    <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 インストール フォルダー: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>使用: %1 インストール フォルダー: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 製品コード =%2</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessFinder</name>
-    <message>
-        <source>%1 terminated</source>
-        <translation>%1 を終了しました</translation>
-    </message>
-    <message>
-        <source>%1 was not terminated</source>
-        <translation>%1 を終了できませんでした</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessGuard</name>
-    <message>
-        <source>Click Yes to continue after the process is stopped.
-Click No to continue without stopping the process.</source>
-        <translation>プロセスを終了して続行するには [はい] をクリックしてください。
-プロセスを終了せずに続行するには [いいえ] をクリックしてください。</translation>
-    </message>
-    <message>
-        <source>Click Yes to continue after the processes are stopped.
-Click No to continue without stopping the processes.</source>
-        <translation>これらのプロセスを終了して続行するには [はい] をクリックしてください。
-これらのプロセスを終了せずに続行するには [いいえ] をクリックしてください。</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 が実行中です。NVX 起動アドインを構成する前に終了してください。</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 が実行中です。NVX 起動アドインを構成する前に、すべて終了してください。</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before continuing.</source>
-        <translation>%1 が実行中です。続行する前に終了してください。</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before continuing.</source>
-        <translation>%1 が実行中です。続行する前に、すべて終了してください。</translation>
-    </message>
-    <message>
-        <source>CAD Launcher Installation</source>
-        <translation>CAD 起動ツールのインストール</translation>
-    </message>
-    <message>
-        <source>Velmora %1 Installation</source>
-        <translation>Velmora %1 のインストール</translation>
     </message>
 </context>
 </TS>

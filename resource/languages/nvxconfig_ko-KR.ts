@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 설치 폴더: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>사용: %1 설치 폴더: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 제품 코드 =%2</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -154,6 +169,37 @@
     </message>
 </context>
 <context>
+    <name>MaterialDatabase</name>
+    <message>
+        <source>Checking material database</source>
+        <translation>재료 데이터베이스를 확인하는 중</translation>
+    </message>
+    <message>
+        <source>Installation error matprop.mdb does not exist?</source>
+        <translation>설치 오류: matprop.mdb 파일이 없습니까?</translation>
+    </message>
+    <message>
+        <source>Installation error: </source>
+        <translation>설치 오류: </translation>
+    </message>
+    <message>
+        <source> does not exist.</source>
+        <translation> 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Copy: </source>
+        <translation>복사: </translation>
+    </message>
+    <message>
+        <source> to: </source>
+        <translation> → </translation>
+    </message>
+    <message>
+        <source>Remove: </source>
+        <translation>제거: </translation>
+    </message>
+</context>
+<context>
     <name>NxLauncher</name>
     <message>
         <source>Copying %1 to %2</source>
@@ -188,6 +234,56 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>%1을(를) 종료했습니다</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>%1을(를) 종료하지 못했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>프로세스를 종료한 후 계속하려면 [예]를 클릭하십시오.
+프로세스를 종료하지 않고 계속하려면 [아니요]를 클릭하십시오.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>이 프로세스들을 종료한 후 계속하려면 [예]를 클릭하십시오.
+이 프로세스들을 종료하지 않고 계속하려면 [아니요]를 클릭하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1이(가) 실행 중입니다. NVX 시작 추가 기능을 구성하려면 먼저 종료해야 합니다.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1이(가) 실행 중입니다. NVX 시작 추가 기능을 구성하려면 먼저 모두 종료해야 합니다.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1이(가) 실행 중입니다. 계속하려면 먼저 종료해야 합니다.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1이(가) 실행 중입니다. 계속하려면 먼저 모두 종료해야 합니다.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>CAD 시작 관리자 설치</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Velmora %1 설치</translation>
+    </message>
+</context>
+<context>
     <name>ProductRegistry</name>
     <message>
         <source>The registry refuses the value %1 of %2</source>
@@ -216,6 +312,53 @@
     <message>
         <source>Registry paths</source>
         <translation>레지스트리 경로</translation>
+    </message>
+</context>
+<context>
+    <name>ServerService</name>
+    <message>
+        <source>Unable to find server executable; Check_ Installation Directory path:</source>
+        <translation>서버 프로그램을 찾을 수 없습니다. 설치 폴더 경로를 확인하십시오:</translation>
+    </message>
+    <message>
+        <source>Unable to install the server</source>
+        <translation>서버를 설치할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Server Error</source>
+        <translation>서버 오류</translation>
+    </message>
+    <message>
+        <source>Manages communication between NVX components.</source>
+        <translation>NVX 구성 요소 간의 통신을 관리합니다.</translation>
+    </message>
+    <message>
+        <source>The server has been registered, but could not be started</source>
+        <translation>서버가 등록되었지만 시작할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>uninstallServer </source>
+        <translation>uninstallServer </translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not stop service</source>
+        <translation>uninstallServer - 서비스를 중지할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>The server has not stopped in time and is ended</source>
+        <translation>서버가 제시간에 중지되지 않아 프로세스를 강제로 종료합니다</translation>
+    </message>
+    <message>
+        <source>uninstallServer - service was not installed</source>
+        <translation>uninstallServer - 서비스가 설치되어 있지 않았습니다</translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not uninstall service</source>
+        <translation>uninstallServer - 서비스를 제거할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>The service goes when it has ended and no other program looks at it</source>
+        <translation>서비스가 종료되고 다른 프로그램이 더 이상 참조하지 않으면 삭제됩니다</translation>
     </message>
 </context>
 <context>
@@ -255,12 +398,12 @@
         <translation>이 빌드에는 구성 페이지가 없습니다. 설치하려면 -I -S, 제거하려면 -U -S 옵션을 사용하십시오.</translation>
     </message>
     <message>
-        <source>This build cannot stop services</source>
-        <translation>이 빌드에서는 서비스를 중지할 수 없습니다</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>이 빌드에는 지역화 도구가 없습니다</translation>
+    </message>
+    <message>
+        <source>Stopping Services</source>
+        <translation>서비스를 중지하는 중</translation>
     </message>
 </context>
 <context>
@@ -284,6 +427,21 @@
     <message>
         <source>Removing:</source>
         <translation>제거:</translation>
+    </message>
+</context>
+<context>
+    <name>UserFiles</name>
+    <message>
+        <source>Remove: </source>
+        <translation>제거: </translation>
+    </message>
+    <message>
+        <source>Remove: Report .pyc files</source>
+        <translation>제거: 보고서 .pyc 파일</translation>
+    </message>
+    <message>
+        <source> Sorvane</source>
+        <translation> - Sorvane</translation>
     </message>
 </context>
 <context>
@@ -426,71 +584,6 @@
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 패키지 찾기를 완료했습니다</translation>
-    </message>
-</context>
-<context>
-    <name>CadSearch</name>
-    <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 설치 폴더: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>사용: %1 설치 폴더: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 제품 코드 =%2</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessFinder</name>
-    <message>
-        <source>%1 terminated</source>
-        <translation>%1을(를) 종료했습니다</translation>
-    </message>
-    <message>
-        <source>%1 was not terminated</source>
-        <translation>%1을(를) 종료하지 못했습니다</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessGuard</name>
-    <message>
-        <source>Click Yes to continue after the process is stopped.
-Click No to continue without stopping the process.</source>
-        <translation>프로세스를 종료한 후 계속하려면 [예]를 클릭하십시오.
-프로세스를 종료하지 않고 계속하려면 [아니요]를 클릭하십시오.</translation>
-    </message>
-    <message>
-        <source>Click Yes to continue after the processes are stopped.
-Click No to continue without stopping the processes.</source>
-        <translation>이 프로세스들을 종료한 후 계속하려면 [예]를 클릭하십시오.
-이 프로세스들을 종료하지 않고 계속하려면 [아니요]를 클릭하십시오.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1이(가) 실행 중입니다. NVX 시작 추가 기능을 구성하려면 먼저 종료해야 합니다.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1이(가) 실행 중입니다. NVX 시작 추가 기능을 구성하려면 먼저 모두 종료해야 합니다.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before continuing.</source>
-        <translation>%1이(가) 실행 중입니다. 계속하려면 먼저 종료해야 합니다.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before continuing.</source>
-        <translation>%1이(가) 실행 중입니다. 계속하려면 먼저 모두 종료해야 합니다.</translation>
-    </message>
-    <message>
-        <source>CAD Launcher Installation</source>
-        <translation>CAD 시작 관리자 설치</translation>
-    </message>
-    <message>
-        <source>Velmora %1 Installation</source>
-        <translation>Velmora %1 설치</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 Папка установки: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Используется %1, папка установки: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 Код продукта =%2</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -154,6 +169,37 @@
     </message>
 </context>
 <context>
+    <name>MaterialDatabase</name>
+    <message>
+        <source>Checking material database</source>
+        <translation>Проверка базы данных материалов</translation>
+    </message>
+    <message>
+        <source>Installation error matprop.mdb does not exist?</source>
+        <translation>Ошибка установки: файл matprop.mdb отсутствует?</translation>
+    </message>
+    <message>
+        <source>Installation error: </source>
+        <translation>Ошибка установки: </translation>
+    </message>
+    <message>
+        <source> does not exist.</source>
+        <translation> отсутствует.</translation>
+    </message>
+    <message>
+        <source>Copy: </source>
+        <translation>Копирование: </translation>
+    </message>
+    <message>
+        <source> to: </source>
+        <translation> в: </translation>
+    </message>
+    <message>
+        <source>Remove: </source>
+        <translation>Удаление: </translation>
+    </message>
+</context>
+<context>
     <name>NxLauncher</name>
     <message>
         <source>Copying %1 to %2</source>
@@ -188,6 +234,56 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>Процесс %1 завершен</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>Процесс %1 не удалось завершить</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>Нажмите кнопку «Да», чтобы продолжить после остановки процесса.
+Нажмите кнопку «Нет», чтобы продолжить без остановки процесса.</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>Нажмите кнопку «Да», чтобы продолжить после остановки процессов.
+Нажмите кнопку «Нет», чтобы продолжить без остановки процессов.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>Программа %1 запущена. Ее следует остановить, прежде чем можно будет настроить надстройку запуска NVX.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>Программы %1 запущены. Их следует остановить, прежде чем можно будет настроить надстройку запуска NVX.</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>Программа %1 запущена. Ее следует остановить, прежде чем продолжить.</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>Программы %1 запущены. Их следует остановить, прежде чем продолжить.</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>Установка средств запуска САПР</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>Установка Velmora %1</translation>
+    </message>
+</context>
+<context>
     <name>ProductRegistry</name>
     <message>
         <source>The registry refuses the value %1 of %2</source>
@@ -216,6 +312,53 @@
     <message>
         <source>Registry paths</source>
         <translation>Пути реестра</translation>
+    </message>
+</context>
+<context>
+    <name>ServerService</name>
+    <message>
+        <source>Unable to find server executable; Check_ Installation Directory path:</source>
+        <translation>Не найдена программа сервера; проверьте путь к папке установки:</translation>
+    </message>
+    <message>
+        <source>Unable to install the server</source>
+        <translation>Не удалось установить сервер</translation>
+    </message>
+    <message>
+        <source>Server Error</source>
+        <translation>Ошибка сервера</translation>
+    </message>
+    <message>
+        <source>Manages communication between NVX components.</source>
+        <translation>Управляет обменом данными между компонентами NVX.</translation>
+    </message>
+    <message>
+        <source>The server has been registered, but could not be started</source>
+        <translation>Сервер зарегистрирован, но запустить его не удалось</translation>
+    </message>
+    <message>
+        <source>uninstallServer </source>
+        <translation>uninstallServer </translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not stop service</source>
+        <translation>uninstallServer - не удалось остановить службу</translation>
+    </message>
+    <message>
+        <source>The server has not stopped in time and is ended</source>
+        <translation>Сервер не остановился вовремя, его процесс завершается принудительно</translation>
+    </message>
+    <message>
+        <source>uninstallServer - service was not installed</source>
+        <translation>uninstallServer - служба не была установлена</translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not uninstall service</source>
+        <translation>uninstallServer - не удалось удалить службу</translation>
+    </message>
+    <message>
+        <source>The service goes when it has ended and no other program looks at it</source>
+        <translation>Служба будет удалена, когда она завершится и другие программы перестанут к ней обращаться</translation>
     </message>
 </context>
 <context>
@@ -255,12 +398,12 @@
         <translation>В этой сборке нет страниц настройки. Для установки используйте параметры -I -S, для удаления — -U -S.</translation>
     </message>
     <message>
-        <source>This build cannot stop services</source>
-        <translation>Эта сборка не может останавливать службы</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>В этой сборке нет средства локализации</translation>
+    </message>
+    <message>
+        <source>Stopping Services</source>
+        <translation>Остановка служб</translation>
     </message>
 </context>
 <context>
@@ -284,6 +427,21 @@
     <message>
         <source>Removing:</source>
         <translation>Удаление:</translation>
+    </message>
+</context>
+<context>
+    <name>UserFiles</name>
+    <message>
+        <source>Remove: </source>
+        <translation>Удаление: </translation>
+    </message>
+    <message>
+        <source>Remove: Report .pyc files</source>
+        <translation>Удаление: файлы .pyc отчётов</translation>
+    </message>
+    <message>
+        <source> Sorvane</source>
+        <translation> Sorvane</translation>
     </message>
 </context>
 <context>
@@ -426,71 +584,6 @@
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Поиск пакетов САПР завершен</translation>
-    </message>
-</context>
-<context>
-    <name>CadSearch</name>
-    <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 Папка установки: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>Используется %1, папка установки: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 Код продукта =%2</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessFinder</name>
-    <message>
-        <source>%1 terminated</source>
-        <translation>Процесс %1 завершен</translation>
-    </message>
-    <message>
-        <source>%1 was not terminated</source>
-        <translation>Процесс %1 не удалось завершить</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessGuard</name>
-    <message>
-        <source>Click Yes to continue after the process is stopped.
-Click No to continue without stopping the process.</source>
-        <translation>Нажмите кнопку «Да», чтобы продолжить после остановки процесса.
-Нажмите кнопку «Нет», чтобы продолжить без остановки процесса.</translation>
-    </message>
-    <message>
-        <source>Click Yes to continue after the processes are stopped.
-Click No to continue without stopping the processes.</source>
-        <translation>Нажмите кнопку «Да», чтобы продолжить после остановки процессов.
-Нажмите кнопку «Нет», чтобы продолжить без остановки процессов.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>Программа %1 запущена. Ее следует остановить, прежде чем можно будет настроить надстройку запуска NVX.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>Программы %1 запущены. Их следует остановить, прежде чем можно будет настроить надстройку запуска NVX.</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before continuing.</source>
-        <translation>Программа %1 запущена. Ее следует остановить, прежде чем продолжить.</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before continuing.</source>
-        <translation>Программы %1 запущены. Их следует остановить, прежде чем продолжить.</translation>
-    </message>
-    <message>
-        <source>CAD Launcher Installation</source>
-        <translation>Установка средств запуска САПР</translation>
-    </message>
-    <message>
-        <source>Velmora %1 Installation</source>
-        <translation>Установка Velmora %1</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 安装文件夹：%2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>使用 %1，安装文件夹：%2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 产品代码 =%2</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -154,6 +169,37 @@
     </message>
 </context>
 <context>
+    <name>MaterialDatabase</name>
+    <message>
+        <source>Checking material database</source>
+        <translation>正在检查材料数据库</translation>
+    </message>
+    <message>
+        <source>Installation error matprop.mdb does not exist?</source>
+        <translation>安装错误：matprop.mdb 不存在？</translation>
+    </message>
+    <message>
+        <source>Installation error: </source>
+        <translation>安装错误： </translation>
+    </message>
+    <message>
+        <source> does not exist.</source>
+        <translation> 不存在。</translation>
+    </message>
+    <message>
+        <source>Copy: </source>
+        <translation>复制： </translation>
+    </message>
+    <message>
+        <source> to: </source>
+        <translation> 到： </translation>
+    </message>
+    <message>
+        <source>Remove: </source>
+        <translation>删除： </translation>
+    </message>
+</context>
+<context>
     <name>NxLauncher</name>
     <message>
         <source>Copying %1 to %2</source>
@@ -188,6 +234,56 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>已终止 %1</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>未能终止 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>单击“是”，在进程停止后继续。
+单击“否”，不停止进程并继续。</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>单击“是”，在这些进程停止后继续。
+单击“否”，不停止这些进程并继续。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 正在运行，应先将其停止，然后才能配置 NVX 启动加载项。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 正在运行，应先将它们全部停止，然后才能配置 NVX 启动加载项。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 正在运行，应先将其停止，然后再继续。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 正在运行，应先将它们全部停止，然后再继续。</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>安装 CAD 启动程序</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>安装 Velmora %1</translation>
+    </message>
+</context>
+<context>
     <name>ProductRegistry</name>
     <message>
         <source>The registry refuses the value %1 of %2</source>
@@ -216,6 +312,53 @@
     <message>
         <source>Registry paths</source>
         <translation>注册表路径</translation>
+    </message>
+</context>
+<context>
+    <name>ServerService</name>
+    <message>
+        <source>Unable to find server executable; Check_ Installation Directory path:</source>
+        <translation>找不到服务器程序；请检查安装文件夹路径：</translation>
+    </message>
+    <message>
+        <source>Unable to install the server</source>
+        <translation>无法安装服务器</translation>
+    </message>
+    <message>
+        <source>Server Error</source>
+        <translation>服务器错误</translation>
+    </message>
+    <message>
+        <source>Manages communication between NVX components.</source>
+        <translation>管理 NVX 组件之间的通信。</translation>
+    </message>
+    <message>
+        <source>The server has been registered, but could not be started</source>
+        <translation>服务器已注册，但无法启动</translation>
+    </message>
+    <message>
+        <source>uninstallServer </source>
+        <translation>uninstallServer </translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not stop service</source>
+        <translation>uninstallServer - 无法停止服务</translation>
+    </message>
+    <message>
+        <source>The server has not stopped in time and is ended</source>
+        <translation>服务器未及时停止，将终止其进程</translation>
+    </message>
+    <message>
+        <source>uninstallServer - service was not installed</source>
+        <translation>uninstallServer - 服务未安装</translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not uninstall service</source>
+        <translation>uninstallServer - 无法卸载服务</translation>
+    </message>
+    <message>
+        <source>The service goes when it has ended and no other program looks at it</source>
+        <translation>服务将在其结束且不再被其他程序访问后删除</translation>
     </message>
 </context>
 <context>
@@ -255,12 +398,12 @@
         <translation>此版本没有配置页面。要安装，请使用选项 -I -S；要卸载，请使用选项 -U -S。</translation>
     </message>
     <message>
-        <source>This build cannot stop services</source>
-        <translation>此版本无法停止服务</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>此版本没有本地化工具</translation>
+    </message>
+    <message>
+        <source>Stopping Services</source>
+        <translation>正在停止服务</translation>
     </message>
 </context>
 <context>
@@ -284,6 +427,21 @@
     <message>
         <source>Removing:</source>
         <translation>删除：</translation>
+    </message>
+</context>
+<context>
+    <name>UserFiles</name>
+    <message>
+        <source>Remove: </source>
+        <translation>删除： </translation>
+    </message>
+    <message>
+        <source>Remove: Report .pyc files</source>
+        <translation>删除：报告的 .pyc 文件</translation>
+    </message>
+    <message>
+        <source> Sorvane</source>
+        <translation> Sorvane</translation>
     </message>
 </context>
 <context>
@@ -426,71 +584,6 @@
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 软件包搜索完成</translation>
-    </message>
-</context>
-<context>
-    <name>CadSearch</name>
-    <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 安装文件夹：%2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>使用 %1，安装文件夹：%2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 产品代码 =%2</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessFinder</name>
-    <message>
-        <source>%1 terminated</source>
-        <translation>已终止 %1</translation>
-    </message>
-    <message>
-        <source>%1 was not terminated</source>
-        <translation>未能终止 %1</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessGuard</name>
-    <message>
-        <source>Click Yes to continue after the process is stopped.
-Click No to continue without stopping the process.</source>
-        <translation>单击“是”，在进程停止后继续。
-单击“否”，不停止进程并继续。</translation>
-    </message>
-    <message>
-        <source>Click Yes to continue after the processes are stopped.
-Click No to continue without stopping the processes.</source>
-        <translation>单击“是”，在这些进程停止后继续。
-单击“否”，不停止这些进程并继续。</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 正在运行，应先将其停止，然后才能配置 NVX 启动加载项。</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 正在运行，应先将它们全部停止，然后才能配置 NVX 启动加载项。</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before continuing.</source>
-        <translation>%1 正在运行，应先将其停止，然后再继续。</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before continuing.</source>
-        <translation>%1 正在运行，应先将它们全部停止，然后再继续。</translation>
-    </message>
-    <message>
-        <source>CAD Launcher Installation</source>
-        <translation>安装 CAD 启动程序</translation>
-    </message>
-    <message>
-        <source>Velmora %1 Installation</source>
-        <translation>安装 Velmora %1</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>CadSearch</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 安裝資料夾：%2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>使用 %1，安裝資料夾：%2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 產品代碼 =%2</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -154,6 +169,37 @@
     </message>
 </context>
 <context>
+    <name>MaterialDatabase</name>
+    <message>
+        <source>Checking material database</source>
+        <translation>正在檢查材料資料庫</translation>
+    </message>
+    <message>
+        <source>Installation error matprop.mdb does not exist?</source>
+        <translation>安裝錯誤：matprop.mdb 不存在？</translation>
+    </message>
+    <message>
+        <source>Installation error: </source>
+        <translation>安裝錯誤： </translation>
+    </message>
+    <message>
+        <source> does not exist.</source>
+        <translation> 不存在。</translation>
+    </message>
+    <message>
+        <source>Copy: </source>
+        <translation>複製： </translation>
+    </message>
+    <message>
+        <source> to: </source>
+        <translation> 到： </translation>
+    </message>
+    <message>
+        <source>Remove: </source>
+        <translation>移除： </translation>
+    </message>
+</context>
+<context>
     <name>NxLauncher</name>
     <message>
         <source>Copying %1 to %2</source>
@@ -188,6 +234,56 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>%1 terminated</source>
+        <translation>已終止 %1</translation>
+    </message>
+    <message>
+        <source>%1 was not terminated</source>
+        <translation>無法終止 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessGuard</name>
+    <message>
+        <source>Click Yes to continue after the process is stopped.
+Click No to continue without stopping the process.</source>
+        <translation>按一下 [是]，在處理程序停止後繼續。
+按一下 [否]，不停止處理程序並繼續。</translation>
+    </message>
+    <message>
+        <source>Click Yes to continue after the processes are stopped.
+Click No to continue without stopping the processes.</source>
+        <translation>按一下 [是]，在這些處理程序停止後繼續。
+按一下 [否]，不停止這些處理程序並繼續。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 正在執行，應先將其停止，才能設定 NVX 啟動增益集。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
+        <translation>%1 正在執行，應先將其全部停止，才能設定 NVX 啟動增益集。</translation>
+    </message>
+    <message>
+        <source>%1 is running, and should be stopped before continuing.</source>
+        <translation>%1 正在執行，應先將其停止，然後再繼續。</translation>
+    </message>
+    <message>
+        <source>%1 are running, and should be stopped before continuing.</source>
+        <translation>%1 正在執行，應先將其全部停止，然後再繼續。</translation>
+    </message>
+    <message>
+        <source>CAD Launcher Installation</source>
+        <translation>安裝 CAD 啟動程式</translation>
+    </message>
+    <message>
+        <source>Velmora %1 Installation</source>
+        <translation>安裝 Velmora %1</translation>
+    </message>
+</context>
+<context>
     <name>ProductRegistry</name>
     <message>
         <source>The registry refuses the value %1 of %2</source>
@@ -216,6 +312,53 @@
     <message>
         <source>Registry paths</source>
         <translation>登錄路徑</translation>
+    </message>
+</context>
+<context>
+    <name>ServerService</name>
+    <message>
+        <source>Unable to find server executable; Check_ Installation Directory path:</source>
+        <translation>找不到伺服器程式；請檢查安裝資料夾路徑：</translation>
+    </message>
+    <message>
+        <source>Unable to install the server</source>
+        <translation>無法安裝伺服器</translation>
+    </message>
+    <message>
+        <source>Server Error</source>
+        <translation>伺服器錯誤</translation>
+    </message>
+    <message>
+        <source>Manages communication between NVX components.</source>
+        <translation>管理 NVX 元件之間的通訊。</translation>
+    </message>
+    <message>
+        <source>The server has been registered, but could not be started</source>
+        <translation>伺服器已註冊，但無法啟動</translation>
+    </message>
+    <message>
+        <source>uninstallServer </source>
+        <translation>uninstallServer </translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not stop service</source>
+        <translation>uninstallServer - 無法停止服務</translation>
+    </message>
+    <message>
+        <source>The server has not stopped in time and is ended</source>
+        <translation>伺服器未及時停止，將終止其處理程序</translation>
+    </message>
+    <message>
+        <source>uninstallServer - service was not installed</source>
+        <translation>uninstallServer - 服務未安裝</translation>
+    </message>
+    <message>
+        <source>uninstallServer - could not uninstall service</source>
+        <translation>uninstallServer - 無法解除安裝服務</translation>
+    </message>
+    <message>
+        <source>The service goes when it has ended and no other program looks at it</source>
+        <translation>服務將在其結束且不再被其他程式存取後刪除</translation>
     </message>
 </context>
 <context>
@@ -255,12 +398,12 @@
         <translation>此版本沒有設定頁面。若要安裝，請使用選項 -I -S；若要移除，請使用選項 -U -S。</translation>
     </message>
     <message>
-        <source>This build cannot stop services</source>
-        <translation>此版本無法停止服務</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>此版本沒有當地語系化工具</translation>
+    </message>
+    <message>
+        <source>Stopping Services</source>
+        <translation>正在停止服務</translation>
     </message>
 </context>
 <context>
@@ -284,6 +427,21 @@
     <message>
         <source>Removing:</source>
         <translation>移除：</translation>
+    </message>
+</context>
+<context>
+    <name>UserFiles</name>
+    <message>
+        <source>Remove: </source>
+        <translation>移除： </translation>
+    </message>
+    <message>
+        <source>Remove: Report .pyc files</source>
+        <translation>移除：報告的 .pyc 檔案</translation>
+    </message>
+    <message>
+        <source> Sorvane</source>
+        <translation> Sorvane</translation>
     </message>
 </context>
 <context>
@@ -426,71 +584,6 @@
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 套件搜尋完成</translation>
-    </message>
-</context>
-<context>
-    <name>CadSearch</name>
-    <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 安裝資料夾：%2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>使用 %1，安裝資料夾：%2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 產品代碼 =%2</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessFinder</name>
-    <message>
-        <source>%1 terminated</source>
-        <translation>已終止 %1</translation>
-    </message>
-    <message>
-        <source>%1 was not terminated</source>
-        <translation>無法終止 %1</translation>
-    </message>
-</context>
-<context>
-    <name>ProcessGuard</name>
-    <message>
-        <source>Click Yes to continue after the process is stopped.
-Click No to continue without stopping the process.</source>
-        <translation>按一下 [是]，在處理程序停止後繼續。
-按一下 [否]，不停止處理程序並繼續。</translation>
-    </message>
-    <message>
-        <source>Click Yes to continue after the processes are stopped.
-Click No to continue without stopping the processes.</source>
-        <translation>按一下 [是]，在這些處理程序停止後繼續。
-按一下 [否]，不停止這些處理程序並繼續。</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 正在執行，應先將其停止，才能設定 NVX 啟動增益集。</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 正在執行，應先將其全部停止，才能設定 NVX 啟動增益集。</translation>
-    </message>
-    <message>
-        <source>%1 is running, and should be stopped before continuing.</source>
-        <translation>%1 正在執行，應先將其停止，然後再繼續。</translation>
-    </message>
-    <message>
-        <source>%1 are running, and should be stopped before continuing.</source>
-        <translation>%1 正在執行，應先將其全部停止，然後再繼續。</translation>
-    </message>
-    <message>
-        <source>CAD Launcher Installation</source>
-        <translation>安裝 CAD 啟動程式</translation>
-    </message>
-    <message>
-        <source>Velmora %1 Installation</source>
-        <translation>安裝 Velmora %1</translation>
     </message>
 </context>
 </TS>

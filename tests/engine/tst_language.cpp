@@ -40,11 +40,13 @@ private slots:
     {
         m_fixture->start(text("-I -Lde-DE"));
         const QString dictionary = joinPath(System::getUserDataPath(), text("NVX_db_dictionary.nvxcfg"));
-        QCOMPARE(languageLines(),
-                 QStringList({text("   2 Install Language de-DE"), text("   0 Language de-DE"),
-                              text("   0 Install Language: de-DE"), text("   0 ChangeLanguage = en-US"),
-                              text("   0 Remove:") + dictionary, text("   0 ChangeLanguage = de-DE"),
-                              text("   0 Remove:") + dictionary}));
+        QCOMPARE(
+            languageLines(),
+            QStringList({text("   2 Install Language de-DE"), text("   0 Language de-DE"),
+                         text("   0 Install Language: de-DE"), text("   0 ChangeLanguage = en-US"),
+                         removeSorvane(), text("   0 Install Sorvane"), text("   0 Remove:") + dictionary,
+                         text("   0 ChangeLanguage = de-DE"), removeSorvane(), text("   0 Install Sorvane"),
+                         text("   0 Remove:") + dictionary}));
         QCOMPARE(System::getLocale(), text("de-DE"));
     }
 
@@ -115,14 +117,17 @@ private slots:
         QVERIFY(!QFile::exists(dictionary));
     }
 
-    void anUninstallOnlyRemembersTheLanguage()
+    void anUninstallRemembersTheLanguageAndResetsTheCustomisation()
     {
         writeFile(m_fixture->installed("NVXSolver.exe"));
         writeFile(m_fixture->installed("VistrelResources.dll"), "old");
         m_fixture->start(text("-U -Lde-DE"));
         QCOMPARE(languageLines(),
-                 QStringList({text("   2 UnInstall Language de-DE"), text("   0 Language de-DE"),
-                              text("   0 ChangeLanguage = en-US"), text("   0 ChangeLanguage = de-DE")}));
+                 QStringList({text("   2 UnInstall Language de-DE"), removeSorvane(),
+                              text("   0 UnInstall Sorvane"), text("   0 Language de-DE"),
+                              text("   0 ChangeLanguage = en-US"), removeSorvane(),
+                              text("   0 UnInstall Sorvane"), text("   0 ChangeLanguage = de-DE"),
+                              removeSorvane(), text("   0 UnInstall Sorvane")}));
         QCOMPARE(readFile(m_fixture->installed("VistrelResources.dll")), QByteArray("old"));
         QVERIFY(!QFile::exists(flagsFile()));
     }
@@ -132,6 +137,36 @@ private slots:
         writeFile(m_fixture->installed("NVXSolver.exe"));
         m_fixture->start(text("-ST -Len-US"));
         QCOMPARE(languageLines().first(), text("   2 Found  Language en-US"));
+    }
+
+    void theCustomisationGoesWithTheLanguage()
+    {
+        const QString ribbon = joinPath(System::getUserDataPath(), text("ribbon2D.st"));
+        writeFile(ribbon);
+        m_fixture->start(text("-I -L"));
+        QVERIFY(QFile::exists(ribbon));
+        m_fixture->start(text("-I -Lde-DE"));
+        QVERIFY(!QFile::exists(ribbon));
+    }
+
+    void anUninstallWithoutALocaleResetsTheCustomisationAllTheSame()
+    {
+        writeFile(m_fixture->installed("NVXSolver.exe"));
+        m_fixture->start(text("-U -L"));
+        QCOMPARE(languageLines(),
+                 QStringList({text("   2 UnInstall Language "), removeSorvane(),
+                              text("   0 UnInstall Sorvane"), text("   0 No Language locale Specified")}));
+    }
+
+    void theUsersMaterialsSurviveEveryLanguage()
+    {
+        const QString materials =
+            joinPath(System::getProgramDataPath(text("NVX 2017")), text("matprop.nvxmdb"));
+        writeFile(materials, "mine");
+        for (const char *option :
+             {"-I -Len-US", "-I -Lde-DE", "-I -Lja-JP", "-I -L", "-Lde-DE", "-ST -Len-US"})
+            m_fixture->start(text(option));
+        QCOMPARE(readFile(materials), QByteArray("mine"));
     }
 
     void anEmptyLocaleIsReportedAndNothingElseDone()
@@ -191,10 +226,19 @@ private slots:
     }
 
 private:
-    // The lines from the first about the language on.
+    static QString removeSorvane()
+    {
+        return text("   0 Remove: ") +
+               joinPath(System::getProgramDataPath(text("NVX 2017")), text("Sorvane"));
+    }
+
+    // The lines from the first about the language on, without those of external programs.
     QStringList languageLines() const
     {
-        const QStringList lines = m_fixture->lines();
+        QStringList lines = m_fixture->lines();
+        lines.removeIf([](const QString &line) {
+            return line.startsWith(text("   0 Command:cmd.exe")) || line == text("   0  output:");
+        });
         for (qsizetype i = 0; i < lines.size(); ++i) {
             if (lines.at(i).startsWith(text("   2 ")))
                 return lines.mid(i);

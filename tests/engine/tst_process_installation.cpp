@@ -51,8 +51,13 @@ private slots:
     void init()
     {
         m_fixture = std::make_unique<EngineFixture>();
-        writeFile(m_fixture->installed("NVXSolver.exe"));
         m_fixture->machine.desktop = m_fixture->test.path(text("Desktop"));
+        for (const char *name : {"NVXSolver.exe", "NVXServer.exe", "matprop.mdb"})
+            writeFile(m_fixture->installed(name));
+        m_fixture->machine.whileRunning = [this](const Nvx::Util::ProgramCall &call) {
+            if (call.program.endsWith(text("NVXServer.exe")))
+                m_fixture->machine.service.current = Nvx::Util::ServiceState::Stopped;
+        };
     }
     void cleanup() { m_fixture.reset(); }
 
@@ -77,14 +82,21 @@ private slots:
                          text("   0 Running NVX 3D-ViewerConfig."),
                          text("   0 Create file associations"),
                          text("   0 FileAssociations.reg"),
+                         text("   0 uninstallServer "),
+                         text("   0 uninstallServer - could not stop service"),
+                         text("   0 uninstallServer - service was not installed"),
                          text("   0 Desktop="),
                          text("   0 Create shortcut Velmora NVX 2017.lnk Success"),
                          text("   0 Install Creo Remove"),
                          text("   0 Install Creo Remove"),
                          text("   0 Install Creo Remove"),
                          text("   0 Processing NVX_flags.txt"),
+                         text("   0 Checking material database"),
+                         text("   0 Copy"),
                          text("   0 The installation or update is complete. Click finish to continue.")}));
         QCOMPARE(m_fixture->machine.associationNotices, 2); // the shortcut's and the run's own
+        QVERIFY(m_fixture->machine.service.current == Nvx::Util::ServiceState::Active);
+        QVERIFY(m_fixture->machine.boxes.isEmpty());
         QVERIFY(m_fixture->engine->state().runComplete);
     }
 
@@ -93,17 +105,31 @@ private slots:
         run(text("-U -S -Len-US"));
         QCOMPARE(
             steps(),
-            QStringList({text("   0 Beginning UnInstall"), text("! Processors"),
-                         text("   0 UnInstall Tutorials"), text("   0 UnInstall Python (locally for NVX)"),
+            QStringList({text("   0 Beginning UnInstall"),
+                         text("! Processors"),
+                         text("   0 UnInstall Tutorials"),
+                         text("   0 UnInstall Python (locally for NVX)"),
                          text("   0 UnInstall Mertle Server"),
                          text("   0 There is no translators folder, the Mertle Server is left alone"),
-                         text("   0 Registry paths"), text("   0 Running NVX 3D-ViewerConfig."),
-                         text("   0 Create file associations"), text("   0 FileAssociations.reg"),
-                         text("   0 Desktop="), text("   0 UnInstall Creo Remove"),
-                         text("   0 UnInstall Creo Remove"), text("   0 UnInstall Creo Remove"),
-                         text("   0 Processing NVX_flags.txt"), text("   0 NVX_flags.txt has not changed"),
+                         text("   0 Registry paths"),
+                         text("   0 Running NVX 3D-ViewerConfig."),
+                         text("   0 Create file associations"),
+                         text("   0 FileAssociations.reg"),
+                         text("   0 uninstallServer "),
+                         text("   0 uninstallServer - could not stop service"),
+                         text("   0 uninstallServer - service was not installed"),
+                         text("   0 Desktop="),
+                         text("   0 UnInstall Creo Remove"),
+                         text("   0 UnInstall Creo Remove"),
+                         text("   0 UnInstall Creo Remove"),
+                         text("   0 Processing NVX_flags.txt"),
+                         text("   0 NVX_flags.txt has not changed"),
+                         text("   0 Checking material database"),
+                         text("   0 Remove"),
+                         text("   0 Remove"),
                          text("   0 The installation or update is complete. Click finish to continue.")}));
         QCOMPARE(m_fixture->machine.associationNotices, 2); // the shortcut's and the run's own
+        QVERIFY(m_fixture->machine.service.current == Nvx::Util::ServiceState::NotInstalled);
     }
 
     void theProcessorLineHasNeitherTimeNorLevel()
@@ -157,6 +183,7 @@ private slots:
                  QStringList({text("Install Tutorials"), text("Install Python (locally for NVX)"),
                               text("Install Mertle Server"), text("Registry paths"),
                               text("Create file associations"), text("Processing NVX_flags.txt"),
+                              text("Checking material database"),
                               text("The installation or update is complete. Click finish to continue.")}));
     }
 

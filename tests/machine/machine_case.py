@@ -95,6 +95,13 @@ class MachineCase(unittest.TestCase):
         self.assertEqual(code, 0)
         self.assertEqual(lines[-1], COMPLETE)
 
+    def assert_removed(self, code, lines):
+        """A silent removal came to its end, and cleaned up after it."""
+        self.assertEqual(code, 0)
+        end = [line for line in lines if not line.startswith("   0 Removing:")][-1]
+        self.assertEqual(end, "   0 Remove: Report .pyc files")
+        self.assertIn(COMPLETE, lines)
+
 
 def log_lines(path):
     lines = []

@@ -136,7 +136,7 @@ class Folders(MachineCase):
         self.write(flags, b"mine\r\n")
         self.install()
         code, lines = self.configure("C:\\NVX", "-U", "-S", "-Len-US")
-        self.assert_complete(code, lines)
+        self.assert_removed(code, lines)
         self.assertIn("   0 NVX_flags.txt has changed, not removing", lines)
         self.assertEqual(self.machine.path(flags).read_bytes(), b"mine\r\n")
         self.write(flags, b" \r\n\t")

@@ -50,7 +50,8 @@ class WesternMachine(FolderCase):
         lines = self.install(folder)
         self.assertTrue(self.exists(folder + "\\Python\\Lib\\old.py"))
         removals = [line for line in lines if " output:" in line]
-        self.assertEqual(len(removals), 3)
+        # the tutorials, two folders of Python, two of the server, and the customisation
+        self.assertEqual(len(removals), 6)
         for line in removals:
             self.assertFalse(line.startswith("   0"), line)
 

@@ -1,4 +1,5 @@
 #include "nvx_util/whole_file.h"
+#include "platform.h"
 #include "support/file_bytes.h"
 #include "support/test_folder.h"
 
@@ -62,6 +63,15 @@ private slots:
         QVERIFY(!copyToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_target), QByteArray("mine"));
         QCOMPARE(namesIn(*m_folder).size(), 2);
+    }
+
+    void whatComesToTheNameMeanwhileStays()
+    {
+        QVERIFY(writeFile(m_source, "new"));
+        QVERIFY(writeFile(m_target, "mine"));
+        QVERIFY(!Nvx::Util::Platform::renameToFreeName(m_source, m_target));
+        QCOMPARE(fileBytes(m_source), QByteArray("new"));
+        QCOMPARE(fileBytes(m_target), QByteArray("mine"));
     }
 
     void folderOfThatNameStays()

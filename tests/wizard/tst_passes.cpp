@@ -21,7 +21,8 @@ private slots:
     void init()
     {
         m_fixture = std::make_unique<EngineFixture>();
-        writeFile(m_fixture->installed("NVXSolver.exe"));
+        for (const char *name : {"NVXSolver.exe", "NVXServer.exe"})
+            writeFile(m_fixture->installed(name));
     }
     void cleanup() { m_fixture.reset(); }
 
@@ -71,19 +72,67 @@ private slots:
         QVERIFY(m_fixture->machine.boxes.isEmpty());
     }
 
-    void theModesWithoutAWindowEndWithZeroAndRunNothing_data()
+    void aSilentUninstallRemovesOldFilesAtItsEnd_data()
     {
         QTest::addColumn<QString>("options");
-        QTest::addColumn<QString>("lastLine");
-        QTest::newRow("stop services") << text("-ST") << text("   1 This build cannot stop services");
-        QTest::newRow("localisation") << text("-T") << text("   1 This build has no localization tool");
+        QTest::addColumn<bool>("stays");
+        QTest::newRow("install") << text("-I -S -Lde-DE") << true;
+        QTest::newRow("uninstall") << text("-U -S -Lde-DE") << false;
     }
 
-    void theModesWithoutAWindowEndWithZeroAndRunNothing()
+    void aSilentUninstallRemovesOldFilesAtItsEnd()
     {
         QFETCH(QString, options);
+        QFETCH(bool, stays);
+        writeFile(m_fixture->installed("of an update.new"));
         QCOMPARE(runPass(m_fixture->start(options)), 0);
-        QTEST(m_fixture->lines().last(), "lastLine");
+        QCOMPARE(QFile::exists(m_fixture->installed("of an update.new")), stays);
+        const QString complete =
+            text("   0 The installation or update is complete. Click finish to continue.");
+        QCOMPARE(m_fixture->lines().last() == complete, stays);
+        QVERIFY(m_fixture->lines().contains(complete));
+    }
+
+    void theLogIsClosedAfterTheOldFiles()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-U -S"));
+        runPass(engine);
+        const QStringList lines = m_fixture->lines();
+        QCOMPARE(lines.last(), text("   0 Remove: Report .pyc files"));
+        engine.log(0, text("too late"));
+        QCOMPARE(m_fixture->lines(), lines);
+    }
+
+    void oldFilesAreKeptWhenTheyShall()
+    {
+        writeFile(m_fixture->installed("of an update.new"));
+        cfg_utilitys &engine = m_fixture->start(text("-U -S"));
+        engine.removeOldFiles(OldFiles::Keep);
+        QVERIFY(QFile::exists(m_fixture->installed("of an update.new")));
+        engine.log(0, text("still open"));
+        QCOMPARE(m_fixture->lines().last(), text("   0 still open"));
+    }
+
+    void stopServicesRemovesTheServersService()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-ST"));
+        m_fixture->machine.service.current = Nvx::Util::ServiceState::Active;
+        const auto before = m_fixture->lines().size();
+        QCOMPARE(runPass(engine), 0);
+        const QStringList lines = m_fixture->lines().mid(before);
+        QCOMPARE(lines.mid(0, 2),
+                 QStringList({text("   0 Stopping Services"), text("   0 uninstallServer ")}));
+        QVERIFY(lines.filter(text("Beginning")).isEmpty());
+        QVERIFY(m_fixture->machine.service.current == Nvx::Util::ServiceState::NotInstalled);
+        QVERIFY(m_fixture->machine.boxes.isEmpty());
+    }
+
+    void theLocalisationRunEndsWithZeroAndRunsNothing()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-T"));
+        m_fixture->machine.calls.clear();
+        QCOMPARE(runPass(engine), 0);
+        QCOMPARE(m_fixture->lines().last(), text("   1 This build has no localization tool"));
         QVERIFY(m_fixture->machine.calls.isEmpty());
     }
 
@@ -162,6 +211,7 @@ private slots:
     {
         QFETCH(QString, options);
         cfg_utilitys &engine = m_fixture->start(options);
+        m_fixture->machine.calls.clear();
         QCOMPARE(runPass(engine), 1);
         QCOMPARE(m_fixture->machine.boxes.size(), 1);
         QVERIFY(m_fixture->machine.calls.isEmpty());

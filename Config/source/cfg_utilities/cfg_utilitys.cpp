@@ -28,6 +28,7 @@ cfg_utilitys *theEngine = nullptr;
 cfg_utilitys::cfg_utilitys(Nvx::Util::Machine &machine, QObject *parent)
     : QObject(parent)
     , m_machine(machine)
+    , m_service(machine)
     , m_log(joinPath(machine.executableFolder(), QStringLiteral("NVXConfig.log")))
 {
     theEngine = this;

@@ -8,6 +8,7 @@
 #include "run/reporter.h"
 #include "run/run_state.h"
 #include "run/step_context.h"
+#include "service/nvx_service.h"
 
 #include <QObject>
 
@@ -15,6 +16,13 @@ namespace Nvx::Util {
 class CpuInfo;
 }
 class ProgressView;
+
+/// What becomes of the files that earlier releases and runs have left.
+enum class OldFiles
+{
+    Keep,
+    Remove
+};
 
 /// The configuration engine: the state of one configuration run, its log, and every installation step as one
 /// of its operations. There is one in a process; it lives as long as the process and outlives the wizards
@@ -108,6 +116,23 @@ public:
     /// The launchers of all CAD systems, in their order.
     void installLaunchers(RunMode mode);
 
+    // The material database and the users' files; see the classes MaterialDatabase and UserFiles.
+    int checkMaterialDatabase(RunMode mode);
+    void resetSorvane(RunMode mode);
+
+    /// Removes old files, or does nothing. Afterwards the log is closed: what is logged later is lost.
+    void removeOldFiles(OldFiles treatment);
+
+    /// Registers the product's server as a service and starts it. Returns 0, 1 when the server program is
+    /// missing or 2 when it did not register itself; for these a box tells the user.
+    int installServer();
+
+    /// Stops the server and removes its service and the folders that it works in. Always returns 0.
+    int uninstallServer();
+
+    /// Uninstalls the server, and on install installs it again. Always returns 0.
+    int stopServices(RunMode mode);
+
 public slots:
     /// Performs one whole run: every step in its order, each told the run mode.
     void ProcessInstallation();
@@ -132,6 +157,7 @@ private:
     void tellProcessors(const Nvx::Util::CpuInfo &cpuInfo);
 
     Nvx::Util::Machine &m_machine;
+    NvxService m_service;
     RunState m_state;
     Nvx::Util::Log m_log;
     ProgressView *m_progressView = nullptr;

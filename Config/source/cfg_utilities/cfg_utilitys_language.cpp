@@ -21,6 +21,8 @@ const QString flagsFile = QStringLiteral("NVX_flags.txt");
 void cfg_utilitys::setUpLanguage(RunMode mode)
 {
     log(2, m_state.modeWord(mode) + QLatin1Char(' ') + tr("Language ") + m_state.locale);
+    if (mode == RunMode::Uninstall)
+        resetSorvane(RunMode::Uninstall);
     if (m_state.locale.isEmpty()) {
         log(0, tr("No Language locale Specified"));
         return;
@@ -66,6 +68,7 @@ void cfg_utilitys::switchLanguage(const QString &locale)
 {
     System::setLocale(locale);
     log(0, tr("ChangeLanguage = ") + locale);
+    resetSorvane(m_state.runMode);
     if (m_state.runMode == RunMode::Install)
         installLanguageFiles();
 }

@@ -21,10 +21,15 @@ void cfg_utilitys::ProcessInstallation()
     createParallelConfiguration(mode, cpuInfo);
     updateRegistry(mode);
     createFileAssociations(mode);
+    // What is registered now may be of an older version, so the server is always registered afresh.
+    uninstallServer();
+    if (mode == RunMode::Install)
+        installServer();
     createShortcuts(mode);
     installLaunchers(mode);
     m_machine.notifyAssociationsChanged();
     processFlagFile(QStringLiteral("NVX_flags.txt"), mode);
+    checkMaterialDatabase(mode);
     cleanLumara(mode);
 
     progress(0, tr("The installation or update is complete. Click finish to continue."));

@@ -46,9 +46,12 @@ int runPass(cfg_utilitys &engine)
     case WizardPlan::Action::RunSilently:
         engine.searchCADPackages();
         engine.ProcessInstallation();
+        if (plan.runMode == RunMode::Uninstall)
+            engine.removeOldFiles(OldFiles::Remove);
         return 0;
     case WizardPlan::Action::StopServices:
-        engine.log(1, Messages::tr("This build cannot stop services"));
+        engine.log(0, Messages::tr("Stopping Services"));
+        engine.stopServices(plan.runMode);
         return 0;
     case WizardPlan::Action::Localize:
         engine.log(1, Messages::tr("This build has no localization tool"));

@@ -1,0 +1,130 @@
+#include "service/server_service.h"
+
+#include "nvx_util/machine.h"
+#include "nvx_util/service_control.h"
+#include "nvx_util/system.h"
+#include "run/process_finder.h"
+#include "run/product.h"
+#include "run/product_files.h"
+#include "run/reporter.h"
+#include "run/run_state.h"
+#include "setup/command_runner.h"
+
+#include <QFile>
+
+using Nvx::Util::joinPath;
+using Nvx::Util::ServiceState;
+
+namespace {
+
+constexpr std::chrono::milliseconds pollInterval{100};
+constexpr int mostPolls = 100; // ten seconds
+
+QString analyzeFolder()
+{
+    return joinPath(Nvx::Util::System::getProgramDataPath(productFullName), QStringLiteral("Analyze"));
+}
+
+} // namespace
+
+ServerService::ServerService(const StepContext &context, NvxService &service)
+    : m_context(context)
+    , m_service(service)
+{
+}
+
+ServerService::Installed ServerService::install()
+{
+    const QString path = joinPath(m_context.state.installDir, QStringLiteral("NVXServer.exe"));
+    if (!QFile::exists(path)) {
+        m_context.reporter.inform(
+            1, tr("Unable to find server executable; Check_ Installation Directory path:") + path);
+        return Installed::ProgramMissing;
+    }
+
+    // The new server is to start without the configuration and the log of the old one.
+    removeProductFile(joinPath(analyzeFolder(), QStringLiteral("solver_manager.cfg")));
+    removeProductFile(joinPath(analyzeFolder(), QStringLiteral("solver_manager.log")));
+
+    if (!NvxService::install(m_context.machine, path, QString(), QString())) {
+        const QString text = tr("Unable to install the server");
+        m_context.reporter.log(1, text);
+        m_context.machine.tell(Nvx::Util::BoxKind::Critical, tr("Server Error"), text);
+        return Installed::RegistrationFailed;
+    }
+
+    // These are copies: people are shown the description that the server has registered for itself.
+    m_service.serviceDescription() = tr("Manages communication between NVX components.");
+    m_service.serviceName() = serverServiceName;
+    if (!m_service.start())
+        m_context.reporter.log(1, tr("The server has been registered, but could not be started"));
+    return Installed::Yes;
+}
+
+void ServerService::uninstall()
+{
+    m_context.reporter.log(0, tr("uninstallServer "));
+    stop();
+    remove();
+    removeWorkFolders();
+}
+
+void ServerService::stop()
+{
+    if (!m_service.stop()) {
+        m_context.reporter.log(0, tr("uninstallServer - could not stop service"));
+        endProcesses();
+        m_service.stop();
+    } else if (isActive()) {
+        m_context.reporter.log(1, tr("The server has not stopped in time and is ended"));
+        endProcesses();
+    }
+    // The service control manager needs a moment to notice that a process has ended. A service that it
+    // takes for active could only be marked for deletion.
+    waitUntil([this] { return !isActive(); });
+}
+
+void ServerService::endProcesses()
+{
+    const auto name = QStringLiteral("NVXServer");
+    findProcesses(m_context, {QStringLiteral("NVXSERVER.EXE"), QStringLiteral("NVXSERVER")}, {name, name},
+                  OnMatch::Terminate, QString());
+}
+
+void ServerService::remove()
+{
+    if (!m_service.isInstalled()) {
+        m_context.reporter.log(0, tr("uninstallServer - service was not installed"));
+        return;
+    }
+    if (!m_service.uninstall()) {
+        m_context.reporter.log(0, tr("uninstallServer - could not uninstall service"));
+        return;
+    }
+    // As long as the name is taken the server cannot register itself again.
+    if (!waitUntil([this] { return !m_service.isInstalled(); }))
+        m_context.reporter.log(1, tr("The service goes when it has ended and no other program looks at it"));
+}
+
+void ServerService::removeWorkFolders()
+{
+    CommandRunner runner(m_context);
+    runner.removeDirectory(analyzeFolder());
+    runner.removeDirectory(joinPath(m_context.state.installDir, QStringLiteral("HPCAnalyze")));
+}
+
+bool ServerService::isActive() const
+{
+    return m_context.machine.services().state(m_service.serviceName()) == ServiceState::Active;
+}
+
+template<typename Condition>
+bool ServerService::waitUntil(const Condition &condition) const
+{
+    for (int polls = 0; polls < mostPolls; ++polls) {
+        if (condition())
+            return true;
+        m_context.machine.sleep(pollInterval);
+    }
+    return condition();
+}
