@@ -1,6 +1,7 @@
 #include "registry_script.h"
 
 #include <QRegularExpression>
+#include <QtEndian>
 
 namespace {
 
@@ -10,10 +11,15 @@ QString withoutEscapes(QString text)
     return text.replace(escaped, QStringLiteral("\\1"));
 }
 
+QByteArray bytesOf(const QString &hexBytes)
+{
+    return QByteArray::fromHex(QString(hexBytes).remove(QLatin1Char(',')).toLatin1());
+}
+
 // A text with variables, which the Registry Editor writes as the bytes of its UTF-16 code units.
 QString expandableText(const QString &hexBytes)
 {
-    QByteArray bytes = QByteArray::fromHex(QString(hexBytes).remove(QLatin1Char(',')).toLatin1());
+    QByteArray bytes = bytesOf(hexBytes);
     bytes.chop(2); // the zero at the end
     return QString::fromUtf16(reinterpret_cast<const char16_t *>(bytes.constData()), bytes.size() / 2);
 }
@@ -24,6 +30,8 @@ QString textOf(const QString &written)
         return expandableText(written.mid(7));
     if (written.startsWith(QLatin1Char('"')))
         return withoutEscapes(written.mid(1, written.size() - 2));
+    if (written.startsWith(QLatin1String("hex(b):")))
+        return QString::number(qFromLittleEndian<qint64>(bytesOf(written.mid(7)).constData()));
     if (written.startsWith(QLatin1String("dword:")))
         return QString::number(static_cast<qint32>(written.mid(6).toUInt(nullptr, 16)));
     return QString();

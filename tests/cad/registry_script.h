@@ -3,5 +3,5 @@
 #include "support/table_registry.h"
 
 /// Puts into the registry what a script of the Registry Editor holds. Reads what the cases need: texts,
-/// numbers of 32 bits, and values of other kinds, which count as neither text nor number.
+/// numbers, and values of other kinds, which count as neither.
 void importScript(const QString &script, TableRegistry &registry);

@@ -275,21 +275,35 @@ private slots:
         QTEST(static_cast<int>(answer), "expected");
     }
 
-    void aQuestionShowsItsTextAndYesIsTheDefault()
+    void aBoxShowsItsTextAndYesIsTheDefaultUnlessTheAnswerIsOpen_data()
     {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<bool>("yesIsExpected");
+        QTest::newRow("information") << int(BoxKind::Information) << true;
+        QTest::newRow("warning") << int(BoxKind::Warning) << true;
+        QTest::newRow("question") << int(BoxKind::Question) << false;
+    }
+
+    void aBoxShowsItsTextAndYesIsTheDefaultUnlessTheAnswerIsOpen()
+    {
+        QFETCH(int, kind);
+        QFETCH(bool, yesIsExpected);
         QString title, text;
         bool yesIsDefault = false;
+        bool anyIsDefault = false;
         QTimer::singleShot(0, qApp, [&] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             title = box->windowTitle();
             text = box->text();
             yesIsDefault = box->defaultButton() == box->button(QMessageBox::Yes);
+            anyIsDefault = box->defaultButton() != nullptr;
             box->reject();
         });
-        m_machine.ask(BoxKind::Warning, QStringLiteral("Title"), QStringLiteral("Text?"));
+        m_machine.ask(static_cast<BoxKind>(kind), QStringLiteral("Title"), QStringLiteral("Text?"));
         QCOMPARE(title, QStringLiteral("Title"));
         QCOMPARE(text, QStringLiteral("Text?"));
-        QVERIFY(yesIsDefault);
+        QCOMPARE(yesIsDefault, yesIsExpected);
+        QCOMPARE(anyIsDefault, yesIsExpected);
     }
 
     void aShellLinkIsThereExactlyWhenTheAnswerSaysSo_data()

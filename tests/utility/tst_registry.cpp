@@ -65,6 +65,15 @@ private slots:
         QCOMPARE(RegistryKey(scratch).text(name), std::optional<QString>(QStringLiteral("x")));
     }
 
+    void aTextOrNumberThatIsATextIsThatText()
+    {
+        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("a"), QStringLiteral("x")));
+        QCOMPARE(RegistryKey(scratch).textOrNumber(QStringLiteral("A")),
+                 std::optional<QString>(QStringLiteral("x")));
+        QVERIFY(!RegistryKey(scratch).textOrNumber(QStringLiteral("missing")));
+        QVERIFY(!RegistryKey(scratch + QStringLiteral("\\Missing")).textOrNumber(QStringLiteral("a")));
+    }
+
     void theEmptyNameIsTheDefaultValue()
     {
         QVERIFY(RegistryKey(scratch).setText(QString(), QStringLiteral("default")));
