@@ -11,7 +11,8 @@ void probe(const Detection &detection, int year)
     const QList<ListedValue> values = detection.sortedValuesBelow(key);
     for (const ListedValue &value : values) {
         detection.log(value.name);
-        if (!value.name.toUpper().startsWith(QLatin1String("SOLIDWORKS FOLDER")))
+        const QString name = value.name.toUpper();
+        if (!name.startsWith(QLatin1String("SOLIDWORKS FOLDER")))
             continue;
         packages.solidWorksInstallDir = value.text;
         packages.solidWorksVersion = year;
