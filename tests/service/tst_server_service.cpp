@@ -159,6 +159,15 @@ private slots:
         assertFoldersRemoved();
     }
 
+    void theFoldersGoWhenTheServerCannotUseThemAnyMore()
+    {
+        m_machine->service.current = ServiceState::Active;
+        QList<ServiceState> states;
+        m_machine->whileRunning = [&](const ProgramCall &) { states << m_machine->service.current; };
+        uninstall();
+        QCOMPARE(states, QList<ServiceState>(2, ServiceState::NotInstalled));
+    }
+
     void aStoppedServiceIsDeleted()
     {
         m_machine->service.current = ServiceState::Stopped;
