@@ -1,0 +1,46 @@
+#include "window/filter_field.h"
+
+#include <QKeyEvent>
+#include <QShortcut>
+#include <QToolBar>
+
+namespace Window {
+
+FilterField::FilterField(QWidget *parent)
+    : QLineEdit(parent)
+{
+    constexpr int widthInCharacters = 28;
+    setObjectName(QStringLiteral("filterField"));
+    setPlaceholderText(tr("Filter (Ctrl+F)"));
+    setToolTip(tr("Shows the rows with this text only"));
+    setAccessibleName(tr("Filter"));
+    setClearButtonEnabled(true);
+    setMaximumWidth(widthInCharacters * fontMetrics().averageCharWidth());
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    auto *shortcut = new QShortcut(QKeySequence::Find, this);
+    connect(shortcut, &QShortcut::activated, this, [this] {
+        setFocus(Qt::ShortcutFocusReason);
+        selectAll();
+    });
+}
+
+FilterField *FilterField::atEndOf(QToolBar &toolBar)
+{
+    auto *space = new QWidget(&toolBar);
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    toolBar.addWidget(space);
+    auto *field = new FilterField(&toolBar);
+    toolBar.addWidget(field);
+    return field;
+}
+
+void FilterField::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && !text().isEmpty())
+        clear();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+} // namespace Window

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "window/row_mark.h"
+
+#include <QString>
+#include <QStringView>
+
+#include <cstddef>
+#include <initializer_list>
+#include <vector>
+
+namespace Window {
+
+/// The rows of a table in their natural order: a text for each column, and a mark. Texts that neighbouring
+/// rows have in common should be one text in memory, which makes filtering fast.
+class MarkedRows
+{
+public:
+    explicit MarkedRows(int columns = 0)
+        : m_columns(columns)
+    {
+    }
+
+    int columns() const { return m_columns; }
+    int size() const { return static_cast<int>(m_marks.size()); }
+
+    void reserve(std::size_t rows);
+
+    /// Adds a row at the end; the texts are as many as there are columns.
+    void add(std::initializer_list<QString> texts, RowMark mark);
+
+    const QString &text(int row, int column) const { return m_texts[cell(row, column)]; }
+    RowMark mark(int row) const { return m_marks[static_cast<std::size_t>(row)]; }
+
+private:
+    std::size_t cell(int row, int column) const
+    {
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns) +
+               static_cast<std::size_t>(column);
+    }
+
+    int m_columns;
+    std::vector<QString> m_texts; // row after row
+    std::vector<RowMark> m_marks;
+};
+
+/// For each row whether one of its texts holds the filter's, whatever the case. An empty filter is held by
+/// all.
+std::vector<bool> rowsWith(const MarkedRows &rows, const QString &filter);
+
+/// The numbers of the rows ordered by the texts of a column without regard to case, where those are equal in
+/// natural order; in natural order altogether for the column -1.
+std::vector<int> sortedRows(const MarkedRows &rows, int column, Qt::SortOrder order);
+
+} // namespace Window

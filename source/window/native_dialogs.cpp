@@ -1,0 +1,62 @@
+#include "window/native_dialogs.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace Window {
+
+namespace {
+
+// A file's name may hold what looks like the toolkit's rich text.
+void show(QMessageBox::Icon icon, QWidget *parent, const QString &title, const QString &text)
+{
+    QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+} // namespace
+
+QString NativeDialogs::fileToOpen(QWidget *parent, const FileQuestion &question)
+{
+    return QFileDialog::getOpenFileName(parent, question.title, question.folder, question.filter);
+}
+
+// A name typed without an ending gets that of the filter before the dialog asks about replacing the file.
+QString NativeDialogs::fileToSave(QWidget *parent, const FileQuestion &question)
+{
+    QFileDialog dialog(parent, question.title, question.folder, question.filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(question.filter.section(QLatin1Char('.'), -1));
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    return dialog.selectedFiles().value(0);
+}
+
+void NativeDialogs::warn(QWidget *parent, const QString &title, const QString &text)
+{
+    show(QMessageBox::Warning, parent, title, text);
+}
+
+void NativeDialogs::tell(QWidget *parent, const QString &title, const QString &text)
+{
+    show(QMessageBox::Information, parent, title, text);
+}
+
+UnsavedChoice NativeDialogs::askAboutUnsaved(QWidget *parent, const QString &title, const QString &text)
+{
+    QMessageBox box(QMessageBox::Warning, title, text,
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return UnsavedChoice::Save;
+    case QMessageBox::Discard:
+        return UnsavedChoice::Discard;
+    default:
+        return UnsavedChoice::Cancel;
+    }
+}
+
+} // namespace Window

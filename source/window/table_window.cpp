@@ -1,0 +1,229 @@
+#include "window/table_window.h"
+
+#include "window/dialogs.h"
+#include "window/dropped_file.h"
+#include "window/filter_field.h"
+#include "window/marked_table_view.h"
+#include "window/recent_files.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QStatusBar>
+
+namespace Window {
+
+namespace {
+
+// A status text may do without the file's name.
+QString withFile(QString text, const QString &fileName)
+{
+    return text.replace(QStringLiteral("%1"), fileName);
+}
+
+} // namespace
+
+TableWindow::~TableWindow() = default;
+
+bool TableWindow::openFile(const QString &fileName)
+{
+    return !isBusy() && mayLoseChanges() && load(fileName);
+}
+
+void TableWindow::newTable()
+{
+    if (isBusy() || !mayLoseChanges())
+        return;
+    clearTable();
+    m_fileName.clear();
+    takeOver(QString());
+    showStatus(m_texts.created);
+}
+
+void TableWindow::open()
+{
+    if (isBusy() || !mayLoseChanges())
+        return;
+    const QString chosen =
+        m_dialogs.fileToOpen(this, {m_texts.openTitle, m_memory.lastFolder(), m_texts.filter});
+    if (!chosen.isEmpty())
+        load(chosen);
+}
+
+bool TableWindow::save()
+{
+    if (isBusy())
+        return false;
+    if (m_fileName.isEmpty())
+        return saveAs();
+    if (!saveTo(m_fileName))
+        return false;
+    showStatus(m_texts.saved);
+    return true;
+}
+
+bool TableWindow::saveAs()
+{
+    if (isBusy())
+        return false;
+    const QString chosen =
+        m_dialogs.fileToSave(this, {m_texts.saveTitle, m_memory.lastFolder(), m_texts.filter});
+    if (chosen.isEmpty() || !saveTo(chosen))
+        return false;
+    showStatus(withFile(m_texts.savedAs, m_fileName));
+    return true;
+}
+
+void TableWindow::setUnsaved()
+{
+    m_isUnsaved = true;
+    m_save->setEnabled(true);
+    showPlace();
+}
+
+void TableWindow::showTable()
+{
+    m_view->showRows(rows());
+    showPlace();
+}
+
+void TableWindow::showStatus(const QString &text)
+{
+    statusBar()->showMessage(text);
+}
+
+// The table may be large, and much work: it is only lost when the user says so.
+bool TableWindow::mayLoseChanges()
+{
+    if (!m_isUnsaved)
+        return true;
+    const QString name = m_fileName.isEmpty() ? tr("Untitled") : QFileInfo(m_fileName).fileName();
+    switch (m_dialogs.askAboutUnsaved(this, m_texts.title,
+                                      tr("%1 has changes that are not saved. Save them?").arg(name))) {
+    case UnsavedChoice::Save:
+        return save();
+    case UnsavedChoice::Discard:
+        return true;
+    case UnsavedChoice::Cancel:
+        break;
+    }
+    return false;
+}
+
+bool TableWindow::load(const QString &fileName)
+{
+    const QString path = QDir::toNativeSeparators(QFileInfo(fileName).absoluteFilePath());
+    const Loading loading = loadTable(path);
+    if (loading.outcome == Loading::Outcome::Loaded) {
+        takeOver(path);
+        showStatus(withFile(m_texts.opened, path));
+        return true;
+    }
+    if (loading.outcome == Loading::Outcome::Failed) {
+        if (!QFile::exists(path))
+            m_recentFiles->remove(path);
+        m_dialogs.warn(this, m_texts.openTitle,
+                       QStringLiteral("%1\n\n%2\n%3").arg(m_texts.notLoaded, path, loading.reason));
+    }
+    return false;
+}
+
+bool TableWindow::saveTo(const QString &fileName)
+{
+    const QString path = QDir::toNativeSeparators(QFileInfo(fileName).absoluteFilePath());
+    if (!saveTable(path)) {
+        m_dialogs.warn(this, m_texts.saveTitle,
+                       tr("Could not save %1\n\nThe place may be write-protected or full. The table is kept "
+                          "here, not saved; save it in another place.")
+                           .arg(path));
+        return false;
+    }
+    m_fileName = path;
+    m_isUnsaved = false;
+    m_save->setEnabled(false);
+    m_memory.rememberFolderOf(path);
+    m_recentFiles->add(path);
+    showPlace();
+    return true;
+}
+
+// There is another table, of that file or of none.
+void TableWindow::takeOver(const QString &fileName)
+{
+    m_fileName = fileName;
+    m_isUnsaved = false;
+    for (QAction *action : {m_save, m_saveAs})
+        action->setEnabled(true);
+    for (QAction *action : std::as_const(m_tableActions))
+        action->setEnabled(true);
+    m_filter->setEnabled(true);
+    if (!fileName.isEmpty()) {
+        m_memory.rememberFolderOf(fileName);
+        m_recentFiles->add(fileName);
+    }
+    showTable();
+}
+
+void TableWindow::showPlace()
+{
+    const QString name = m_fileName.isEmpty() ? tr("Untitled") : QFileInfo(m_fileName).fileName();
+    const int all = m_view->rowsModel().rows().size();
+    const int shown = m_view->rowsModel().rowCount();
+    const QString count =
+        shown == all ? tr("Rows: %L1").arg(all) : tr("Rows: %L1 of %L2").arg(shown).arg(all);
+    const QString place = m_isUnsaved ? tr("%1 (not saved)").arg(name) : name;
+    m_place->setText(place + QStringLiteral("   ") + count);
+    m_place->setToolTip(m_fileName);
+}
+
+void TableWindow::closeEvent(QCloseEvent *event)
+{
+    if (isBusy()) {
+        m_closesAfterWork = true;
+        m_work->cancel();
+        event->ignore();
+        return;
+    }
+    if (!mayLoseChanges()) {
+        event->ignore();
+        return;
+    }
+    m_memory.store(*this, *m_view->horizontalHeader());
+    QMainWindow::closeEvent(event);
+}
+
+void TableWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!isBusy() && !droppedFile(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+// The program that the file comes from waits until this returns, so boxes come afterwards.
+void TableWindow::dropEvent(QDropEvent *event)
+{
+    const QString file = droppedFile(event->mimeData());
+    if (file.isEmpty())
+        return;
+    event->acceptProposedAction();
+    QMetaObject::invokeMethod(
+        this, [this, file] { openFile(file); }, Qt::QueuedConnection);
+}
+
+WindowWork::WindowWork(TableWindow &window, const QString &title, const QString &text)
+    : Progress(&window, title, text, window.progressDelay())
+    , m_window(window)
+{
+    window.m_work = this;
+}
+
+WindowWork::~WindowWork()
+{
+    m_window.m_work = nullptr;
+    if (std::exchange(m_window.m_closesAfterWork, false))
+        QMetaObject::invokeMethod(&m_window, &QWidget::close, Qt::QueuedConnection);
+}
+
+} // namespace Window

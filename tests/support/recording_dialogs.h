@@ -1,0 +1,56 @@
+#pragma once
+
+#include "window/dialogs.h"
+
+#include <QList>
+#include <QString>
+
+/// Dialogs that show nothing, write down what they are asked, and answer what the test has set.
+class RecordingDialogs : public Window::Dialogs
+{
+public:
+    struct Box
+    {
+        QString title;
+        QString text;
+    };
+
+    // What they answer; no file stands for a cancelled dialog.
+    QString fileToChoose;
+    Window::UnsavedChoice choice = Window::UnsavedChoice::Cancel;
+
+    // What they were asked.
+    QList<Window::FileQuestion> openQuestions;
+    QList<Window::FileQuestion> saveQuestions;
+    QList<Box> warnings;
+    QList<Box> tellings;
+    QList<Box> unsavedQuestions;
+
+    QString fileToOpen(QWidget *, const Window::FileQuestion &question) override
+    {
+        openQuestions.append(question);
+        return fileToChoose;
+    }
+
+    QString fileToSave(QWidget *, const Window::FileQuestion &question) override
+    {
+        saveQuestions.append(question);
+        return fileToChoose;
+    }
+
+    void warn(QWidget *, const QString &title, const QString &text) override
+    {
+        warnings.append({title, text});
+    }
+
+    void tell(QWidget *, const QString &title, const QString &text) override
+    {
+        tellings.append({title, text});
+    }
+
+    Window::UnsavedChoice askAboutUnsaved(QWidget *, const QString &title, const QString &text) override
+    {
+        unsavedQuestions.append({title, text});
+        return choice;
+    }
+};

@@ -1,0 +1,83 @@
+#include "window/row_mark.h"
+
+#include <QPalette>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+using Window::RowMark;
+
+namespace {
+
+double luminance(const QColor &color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+// As accessibility guidelines define it: from 1, the same, to 21, black on white.
+double contrast(const QColor &first, const QColor &second)
+{
+    const auto [darker, lighter] = std::minmax({luminance(first), luminance(second)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+int distance(const QColor &first, const QColor &second)
+{
+    return std::abs(first.red() - second.red()) + std::abs(first.green() - second.green()) +
+           std::abs(first.blue() - second.blue());
+}
+
+QPalette paletteOf(const QColor &base, const QColor &text)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::Text, text);
+    return palette;
+}
+
+void addPaletteRows()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("light") << paletteOf(Qt::white, Qt::black);
+    QTest::newRow("light grey") << paletteOf(QColor(0xef, 0xef, 0xef), QColor(0x20, 0x20, 0x20));
+    QTest::newRow("dark") << paletteOf(QColor(0x20, 0x20, 0x20), QColor(0xf0, 0xf0, 0xf0));
+    QTest::newRow("black") << paletteOf(Qt::black, Qt::white);
+}
+
+} // namespace
+
+class TestRowMark : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textIsReadableOnEveryMark_data() { addPaletteRows(); }
+    void textIsReadableOnEveryMark()
+    {
+        constexpr double strictestGuideline = 7;
+        QFETCH(QPalette, palette);
+        for (const RowMark mark : {RowMark::None, RowMark::New, RowMark::Obsolete})
+            QVERIFY(contrast(palette.color(QPalette::Text), markColor(palette, mark)) >= strictestGuideline);
+    }
+
+    void marksAreToldApart_data() { addPaletteRows(); }
+    void marksAreToldApart()
+    {
+        constexpr int plain = 40;
+        QFETCH(QPalette, palette);
+        const QColor none = markColor(palette, RowMark::None);
+        const QColor fresh = markColor(palette, RowMark::New);
+        const QColor obsolete = markColor(palette, RowMark::Obsolete);
+        QCOMPARE(none, palette.color(QPalette::Base));
+        QVERIFY(distance(fresh, none) >= plain);
+        QVERIFY(distance(obsolete, none) >= plain);
+        QVERIFY(distance(fresh, obsolete) >= plain);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRowMark)
+#include "tst_row_mark.moc"
