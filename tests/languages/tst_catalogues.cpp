@@ -62,7 +62,11 @@ bool update(const QString &catalogue, const QStringList &folders)
     lupdate.setWorkingDirectory(sourceRoot().path());
     lupdate.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     lupdate.start(QStringLiteral(NVX_LUPDATE),
-                  QStringList{QStringLiteral("-silent")} + folders +
+                  QStringList{QStringLiteral("-silent"), QStringLiteral("-I"),
+                              QStringLiteral("Config/source"), QStringLiteral("-I"),
+                              QStringLiteral("Utility/include"), QStringLiteral("-I"),
+                              QStringLiteral("source")} +
+                      folders +
                       QStringList{QStringLiteral("-locations"), QStringLiteral("none"),
                                   QStringLiteral("-no-obsolete"), QStringLiteral("-ts"), catalogue});
     return lupdate.waitForFinished(60'000) && lupdate.exitStatus() == QProcess::NormalExit &&

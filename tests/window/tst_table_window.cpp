@@ -3,6 +3,7 @@
 #include "support/test_folder.h"
 #include "window/marked_table_view.h"
 #include "window/table_window.h"
+#include "window/window_program.h"
 
 #include <QAction>
 #include <QDragEnterEvent>
@@ -172,6 +173,7 @@ private slots:
     void geometryWidthsAndFolderAreRemembered();
     void closingDuringWorkCancelsItFirst();
     void noOrdersAreTakenDuringWork();
+    void fileOfTheCommandLineIsOpened();
     void aboutNamesTheProgram();
 };
 
@@ -506,6 +508,15 @@ void TestTableWindow::noOrdersAreTakenDuringWork()
     QVERIFY(f.dialogs.openQuestions.isEmpty());
     QVERIFY(f.dialogs.saveQuestions.isEmpty());
     QVERIFY(!f.isEnabled("actionSave"));
+}
+
+void TestTableWindow::fileOfTheCommandLineIsOpened()
+{
+    Fixture f;
+    Window::openNamedFile(f.window, {});
+    Window::openNamedFile(f.window, {f.file});
+    QTRY_COMPARE(f.window.fileName(), f.file);
+    QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
 void TestTableWindow::aboutNamesTheProgram()

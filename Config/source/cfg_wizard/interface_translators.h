@@ -1,7 +1,8 @@
 #pragma once
 
+#include "nvx_util/translators.h"
+
 #include <QString>
-#include <QTranslator>
 
 /// The translations of the interface into one language, in force while this object lives. A file that is
 /// missing is passed over: what it would translate stays in English.
@@ -11,11 +12,7 @@ public:
     /// Loads the program's own texts, "nvxconfig.qm", and the toolkit's, "qt.qm" or else the file named after
     /// the locale ("qt_de_DE.qm"), from the sub-folder of the install dir that is named by the locale.
     InterfaceTranslators(const QString &installDir, const QString &locale);
-    InterfaceTranslators(const InterfaceTranslators &) = delete;
-    InterfaceTranslators &operator=(const InterfaceTranslators &) = delete;
-    ~InterfaceTranslators();
 
 private:
-    QTranslator m_program;
-    QTranslator m_toolkit;
+    Nvx::Util::Translators m_translators;
 };

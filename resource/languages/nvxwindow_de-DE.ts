@@ -1,0 +1,111 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<context>
+    <name>Window::FilterField</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>Filtern (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Shows the rows with this text only</source>
+        <translation>Zeigt nur die Zeilen mit diesem Text</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>Window::MarkedTableView</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>Window::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Window::RecentFiles</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt verwendet</translation>
+    </message>
+</context>
+<context>
+    <name>Window::TableWindow</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved. Save them?</source>
+        <translation>%1 enthält Änderungen, die nicht gespeichert sind. Sollen sie gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>Could not save %1
+
+The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+        <translation>%1 konnte nicht gespeichert werden
+
+Der Speicherort ist möglicherweise schreibgeschützt oder voll. Die Tabelle bleibt hier ungespeichert erhalten; speichern Sie sie an einem anderen Ort.</translation>
+    </message>
+    <message>
+        <source>Rows: %L1</source>
+        <translation>Zeilen: %L1</translation>
+    </message>
+    <message>
+        <source>Rows: %L1 of %L2</source>
+        <translation>Zeilen: %L1 von %L2</translation>
+    </message>
+    <message>
+        <source>%1 (not saved)</source>
+        <translation>%1 (nicht gespeichert)</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Öffnen...</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Speichern unter...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>Info...</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Symbolleiste</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,111 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en_US">
+<context>
+    <name>Window::FilterField</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>Filtra (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Shows the rows with this text only</source>
+        <translation>Mostra solo le righe che contengono questo testo</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+</context>
+<context>
+    <name>Window::MarkedTableView</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+</context>
+<context>
+    <name>Window::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>Window::RecentFiles</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Apri &amp;recenti</translation>
+    </message>
+</context>
+<context>
+    <name>Window::TableWindow</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Senza titolo</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved. Save them?</source>
+        <translation>%1 contiene modifiche non salvate. Salvarle?</translation>
+    </message>
+    <message>
+        <source>Could not save %1
+
+The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+        <translation>Impossibile salvare %1
+
+La posizione potrebbe essere protetta da scrittura o piena. La tabella resta aperta qui, non salvata; salvarla in un'altra posizione.</translation>
+    </message>
+    <message>
+        <source>Rows: %L1</source>
+        <translation>Righe: %L1</translation>
+    </message>
+    <message>
+        <source>Rows: %L1 of %L2</source>
+        <translation>Righe: %L1 di %L2</translation>
+    </message>
+    <message>
+        <source>%1 (not saved)</source>
+        <translation>%1 (non salvato)</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuovo</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Apri...</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Salva con nome...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>Informazioni...</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,111 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en_US">
+<context>
+    <name>Window::FilterField</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>フィルター (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Shows the rows with this text only</source>
+        <translation>このテキストを含む行だけを表示します</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>フィルター</translation>
+    </message>
+</context>
+<context>
+    <name>Window::MarkedTableView</name>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+</context>
+<context>
+    <name>Window::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>Window::RecentFiles</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近使ったファイル(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>Window::TableWindow</name>
+    <message>
+        <source>Untitled</source>
+        <translation>無題</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved. Save them?</source>
+        <translation>%1 には保存されていない変更があります。保存しますか?</translation>
+    </message>
+    <message>
+        <source>Could not save %1
+
+The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+        <translation>%1 を保存できませんでした
+
+保存先が書き込み禁止か、空き領域がない可能性があります。テーブルは未保存のまま残っています。別の場所に保存してください。</translation>
+    </message>
+    <message>
+        <source>Rows: %L1</source>
+        <translation>行数: %L1</translation>
+    </message>
+    <message>
+        <source>Rows: %L1 of %L2</source>
+        <translation>行数: %L1 / %L2</translation>
+    </message>
+    <message>
+        <source>%1 (not saved)</source>
+        <translation>%1 (未保存)</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新規作成</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>開く...</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>名前を付けて保存...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>バージョン情報...</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>ツール バー</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+</context>
+</TS>

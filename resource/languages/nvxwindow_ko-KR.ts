@@ -1,0 +1,111 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR" sourcelanguage="en_US">
+<context>
+    <name>Window::FilterField</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>필터(Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Shows the rows with this text only</source>
+        <translation>이 텍스트가 있는 행만 표시합니다</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>필터</translation>
+    </message>
+</context>
+<context>
+    <name>Window::MarkedTableView</name>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+</context>
+<context>
+    <name>Window::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>Window::RecentFiles</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>최근 파일(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>Window::TableWindow</name>
+    <message>
+        <source>Untitled</source>
+        <translation>제목 없음</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved. Save them?</source>
+        <translation>%1에 저장되지 않은 변경 내용이 있습니다. 저장하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Could not save %1
+
+The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+        <translation>%1을(를) 저장할 수 없습니다
+
+저장 위치가 쓰기 금지되어 있거나 공간이 부족할 수 있습니다. 테이블은 저장되지 않은 상태로 유지됩니다. 다른 위치에 저장하십시오.</translation>
+    </message>
+    <message>
+        <source>Rows: %L1</source>
+        <translation>행: %L1</translation>
+    </message>
+    <message>
+        <source>Rows: %L1 of %L2</source>
+        <translation>행: %L1/%L2</translation>
+    </message>
+    <message>
+        <source>%1 (not saved)</source>
+        <translation>%1(저장되지 않음)</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>새로 만들기</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>열기...</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>다른 이름으로 저장...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>끝내기</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>파일(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>도움말</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>정보...</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>도구 모음</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>정보</translation>
+    </message>
+</context>
+</TS>

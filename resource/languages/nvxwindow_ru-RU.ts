@@ -1,0 +1,111 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en_US">
+<context>
+    <name>Window::FilterField</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>Фильтр (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Shows the rows with this text only</source>
+        <translation>Показывает только строки с этим текстом</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Фильтр</translation>
+    </message>
+</context>
+<context>
+    <name>Window::MarkedTableView</name>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+</context>
+<context>
+    <name>Window::Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>Window::RecentFiles</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Недав&amp;ние файлы</translation>
+    </message>
+</context>
+<context>
+    <name>Window::TableWindow</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Без имени</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved. Save them?</source>
+        <translation>В %1 есть несохраненные изменения. Сохранить их?</translation>
+    </message>
+    <message>
+        <source>Could not save %1
+
+The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+        <translation>Не удалось сохранить %1
+
+Возможно, место защищено от записи или переполнено. Таблица остается открытой и не сохранена; сохраните ее в другом месте.</translation>
+    </message>
+    <message>
+        <source>Rows: %L1</source>
+        <translation>Строк: %L1</translation>
+    </message>
+    <message>
+        <source>Rows: %L1 of %L2</source>
+        <translation>Строк: %L1 из %L2</translation>
+    </message>
+    <message>
+        <source>%1 (not saved)</source>
+        <translation>%1 (не сохранено)</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Создать</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Открыть...</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Сохранить как...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Справка</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>О программе...</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Панель инструментов</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+</context>
+</TS>
