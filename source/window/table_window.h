@@ -25,6 +25,7 @@ struct TableWindowTexts
     QString title;
     QString iconFolder; ///< with new.png, open.png and save.png, such as ":/Utility/images/"
     QStringList headings;
+    QList<int> widths; ///< of the first columns, unless others are remembered
     QString openTitle; ///< of the file dialog
     QString saveTitle;
     QString filter;    ///< of the files, such as "*.xml"

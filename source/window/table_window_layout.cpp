@@ -34,6 +34,8 @@ TableWindow::TableWindow(Dialogs &dialogs, QSettings &settings, const TableWindo
     makeCentralWidget();
     makeStatusBar();
     resize(usualSize);
+    for (int column = 0; column < texts.widths.size(); ++column)
+        m_view->setColumnWidth(column, texts.widths.at(column));
     m_memory.restore(*this, *m_view->horizontalHeader());
 }
 
