@@ -44,6 +44,11 @@ void readMessageTableBody(QXmlStreamReader &xml, MessageTable &table)
 bool readMessageTable(QIODevice &device, MessageTable &table)
 {
     QXmlStreamReader xml(&device);
+    return readMessageTable(xml, table);
+}
+
+bool readMessageTable(QXmlStreamReader &xml, MessageTable &table)
+{
     while (!xml.atEnd()) {
         if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"messageTable")
             readMessageTableBody(xml, table);

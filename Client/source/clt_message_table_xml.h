@@ -15,6 +15,9 @@ class MessageTable;
 /// XML; the messages that were complete before the error are taken.
 bool readMessageTable(QIODevice &device, MessageTable &table);
 
+/// The same from a reader at the beginning of its document; it tells the error and the line.
+bool readMessageTable(QXmlStreamReader &xml, MessageTable &table);
+
 /// Merges the messages of the root on whose start element the reader stands into the table, to the root's end
 /// or that of the document.
 void readMessageTableBody(QXmlStreamReader &xml, MessageTable &table);

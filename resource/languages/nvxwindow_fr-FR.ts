@@ -51,9 +51,9 @@
         <source>Could not save %1
 
 The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
-        <translation>Impossible d'enregistrer %1
+        <translation>Impossible d&apos;enregistrer %1
 
-L'emplacement est peut-être protégé en écriture ou plein. La table reste ouverte ici, non enregistrée ; enregistrez-la à un autre emplacement.</translation>
+L&apos;emplacement est peut-être protégé en écriture ou plein. La table reste ouverte ici, non enregistrée ; enregistrez-la à un autre emplacement.</translation>
     </message>
     <message>
         <source>Rows: %L1</source>
@@ -101,7 +101,7 @@ L'emplacement est peut-être protégé en écriture ou plein. La table reste ouv
     </message>
     <message>
         <source>Tool Bar</source>
-        <translation>Barre d'outils</translation>
+        <translation>Barre d&apos;outils</translation>
     </message>
     <message>
         <source>About</source>

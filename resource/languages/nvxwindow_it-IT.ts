@@ -53,7 +53,7 @@
 The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
         <translation>Impossibile salvare %1
 
-La posizione potrebbe essere protetta da scrittura o piena. La tabella resta aperta qui, non salvata; salvarla in un'altra posizione.</translation>
+La posizione potrebbe essere protetta da scrittura o piena. La tabella resta aperta qui, non salvata; salvarla in un&apos;altra posizione.</translation>
     </message>
     <message>
         <source>Rows: %L1</source>

@@ -47,6 +47,11 @@ bool Progress::report(qint64 done, qint64 all)
     return !isCancelled();
 }
 
+bool ProgressFile::atEnd() const
+{
+    return m_progress.isCancelled() || error() != NoError || QFile::atEnd();
+}
+
 qint64 ProgressFile::readData(char *bytes, qint64 most)
 {
     return m_progress.report(pos(), size()) ? QFile::readData(bytes, most) : -1;

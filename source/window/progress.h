@@ -40,6 +40,9 @@ public:
     {
     }
 
+    /// Also when nothing more can be read: the toolkit's XML reader would ask again for ever.
+    bool atEnd() const override;
+
 protected:
     qint64 readData(char *bytes, qint64 most) override;
 

@@ -23,7 +23,9 @@ class RecentFiles;
 struct TableWindowTexts
 {
     QString title;
-    QString iconFolder; ///< with new.png, open.png and save.png, such as ":/Utility/images/"
+    /// With window.png, and new.png, open.png, save.png, saveas.png and exit.png for the actions that have a
+    /// picture, such as ":/Utility/images/".
+    QString iconFolder;
     QStringList headings;
     QList<int> widths; ///< of the first columns, unless others are remembered
     QString openTitle; ///< of the file dialog

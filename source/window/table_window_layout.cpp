@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -27,6 +28,7 @@ TableWindow::TableWindow(Dialogs &dialogs, QSettings &settings, const TableWindo
 {
     constexpr QSize usualSize(960, 600);
     setWindowTitle(texts.title);
+    setWindowIcon(QIcon(texts.iconFolder + QStringLiteral("window.png")));
     setAcceptDrops(true);
     makeActions();
     makeMenus();
@@ -45,8 +47,9 @@ QAction *TableWindow::fileAction(const QString &name, const QString &text, const
     auto *action = new QAction(text, this);
     action->setObjectName(name);
     action->setShortcut(shortcut);
-    if (!icon.isEmpty())
-        action->setIcon(QIcon(m_texts.iconFolder + icon));
+    const QString picture = m_texts.iconFolder + icon;
+    if (QFile::exists(picture))
+        action->setIcon(QIcon(picture));
     return action;
 }
 
@@ -58,8 +61,9 @@ void TableWindow::makeActions()
                         QKeySequence(QStringLiteral("Ctrl+O")));
     m_save = fileAction(QStringLiteral("actionSave"), tr("Save"), QStringLiteral("save.png"),
                         QKeySequence(QStringLiteral("Ctrl+S")));
-    m_saveAs = fileAction(QStringLiteral("actionSaveAs"), tr("Save As..."), QString(), QKeySequence());
-    m_exit = fileAction(QStringLiteral("actionExit"), tr("Exit"), QString(), QKeySequence());
+    m_saveAs = fileAction(QStringLiteral("actionSaveAs"), tr("Save As..."), QStringLiteral("saveas.png"),
+                          QKeySequence());
+    m_exit = fileAction(QStringLiteral("actionExit"), tr("Exit"), QStringLiteral("exit.png"), QKeySequence());
     m_save->setEnabled(false);
     m_saveAs->setEnabled(false);
     connect(m_new, &QAction::triggered, this, &TableWindow::newTable);

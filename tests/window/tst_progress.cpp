@@ -109,6 +109,7 @@ private slots:
         QCOMPARE(file.read(10).size(), 10);
         progress.cancel();
         QVERIFY(file.readAll().size() < 1'000'000);
+        QVERIFY(file.atEnd());
     }
 };
 

@@ -1,0 +1,189 @@
+// How long the Message Table Utility takes to open a table, beside filling a QTableWidget with plain items,
+// and to answer the typing in its filter field. Arguments: numbers of messages, by default 1000 10000 100000.
+
+#include "clt_message_table.h"
+#include "measure.h"
+#include "message_table_utility/error_message_table_utility.h"
+#include "message_table_utility/message_rows.h"
+#include "support/recording_dialogs.h"
+#include "window/marked_table_view.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QSettings>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <array>
+#include <vector>
+
+namespace {
+
+constexpr int columns = 4;
+constexpr int messagesPerContext = 12;
+
+using Cells = std::array<QString, columns>;
+
+Clt::Message messageOf(int number)
+{
+    Clt::Message message;
+    message.setSeverity(Clt::Severity::Warning);
+    message.setState(static_cast<Clt::MessageState>(number % 3));
+    message.setKey({QStringLiteral("MESSAGE_TAG_%1").arg(number, 7, 10, QLatin1Char('0')),
+                    QStringLiteral("Clt::Component%1::handleRequest")
+                        .arg(number / messagesPerContext, 6, 10, QLatin1Char('0')),
+                    QStringLiteral("client")});
+    message.setText(QStringLiteral("The value %1 lies outside the range of model %2.")
+                        .arg(QStringLiteral("%1"))
+                        .arg(number));
+    return message;
+}
+
+Clt::MessageTable tableOf(int count)
+{
+    Clt::MessageTable table;
+    for (int number = 0; number < count; ++number)
+        table.insert(messageOf(number));
+    return table;
+}
+
+/// What the table shows, as texts of their own.
+std::vector<Cells> cellsOf(const Clt::MessageTable &table)
+{
+    std::vector<Cells> cells;
+    for (const auto &[key, message] : table)
+        cells.push_back({key.process, key.context, key.tag, Clt::stateToText(message.state())});
+    return cells;
+}
+
+/// A shown table widget, to be filled anew each time.
+class PlainTable
+{
+public:
+    PlainTable()
+    {
+        m_widget.setColumnCount(columns);
+        m_widget.show();
+        QApplication::processEvents();
+    }
+
+    void clear() { m_widget.setRowCount(0); }
+
+    void fill(const std::vector<Cells> &rows)
+    {
+        m_widget.setRowCount(static_cast<int>(rows.size()));
+        for (int row = 0; row < m_widget.rowCount(); ++row) {
+            for (int column = 0; column < columns; ++column)
+                m_widget.setItem(row, column,
+                                 new QTableWidgetItem(
+                                     rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]));
+        }
+        QApplication::processEvents();
+    }
+
+private:
+    QTableWidget m_widget;
+};
+
+struct Opening
+{
+    double open = 0;  // from the file to the rows on the screen
+    double load = 0;  // reading the file alone
+    double show = 0;  // from the messages to the rows on the screen
+    double plain = 0; // filling the table widget
+};
+
+Opening measureOpening(MessageTableUtility &window, const QString &fileName, const std::vector<Cells> &cells)
+{
+    auto *view = window.findChild<Window::MarkedTableView *>(QStringLiteral("tableWidget"));
+    PlainTable plain;
+    Bench::Samples open{};
+    Bench::Samples load{};
+    Bench::Samples show{};
+    Bench::Samples fill{};
+    for (std::size_t run = 0; run < Bench::runs; ++run) {
+        plain.clear();
+        fill[run] = Bench::milliseconds([&] { plain.fill(cells); });
+        load[run] = Bench::milliseconds([&] {
+            Clt::MessageTable table;
+            if (!table.load(fileName))
+                qFatal("cannot load what was written");
+        });
+        window.newTable();
+        open[run] = Bench::milliseconds([&] {
+            if (!window.openFile(fileName))
+                qFatal("cannot open what was written");
+            QApplication::processEvents();
+        });
+        view->showRows(Window::MarkedRows(columns));
+        show[run] = Bench::milliseconds([&] {
+            view->showRows(Error::rowsOf(window.messages()));
+            QApplication::processEvents();
+        });
+    }
+    return {Bench::median(open), Bench::median(load), Bench::median(show), Bench::median(fill)};
+}
+
+/// The slowest key of typing and rubbing out, in the median of the runs.
+double measureFilter(MessageTableUtility &window)
+{
+    auto *field = window.findChild<QLineEdit *>(QStringLiteral("filterField"));
+    const QString typed = QStringLiteral("TAG_0042zz");
+    Bench::Samples slowest{};
+    for (double &sample : slowest) {
+        const auto press = [&](const QString &text) {
+            const double took = Bench::milliseconds([&] {
+                field->setText(text);
+                QApplication::processEvents();
+            });
+            sample = std::max(sample, took);
+        };
+        for (qsizetype length = 1; length <= typed.size(); ++length)
+            press(typed.left(length));
+        for (qsizetype length = typed.size(); length >= 0; --length)
+            press(typed.left(length));
+    }
+    return Bench::median(slowest);
+}
+
+void measure(int count, QTextStream &out)
+{
+    const QTemporaryDir folder;
+    const QString fileName = folder.filePath(QStringLiteral("table.xml"));
+    const Clt::MessageTable table = tableOf(count);
+    if (!table.save(fileName))
+        qFatal("cannot save");
+
+    QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    RecordingDialogs dialogs;
+    MessageTableUtility window(dialogs, settings);
+    window.show();
+    const Opening opening = measureOpening(window, fileName, cellsOf(table));
+    const double filter = measureFilter(window);
+    out << QString::asprintf("%9d %8.1f %8.1f %8.1f %8.1f %8.2f %8.1f\n", count, opening.open, opening.load,
+                             opening.show, opening.plain, opening.show / opening.plain, filter)
+        << Qt::flush;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QStringList counts = QApplication::arguments().mid(1);
+    if (counts.isEmpty())
+        counts = QStringLiteral("1000 10000 100000").split(QLatin1Char(' '));
+    QTextStream out(stdout);
+    out << "medians of five, in ms: opening a file; reading it alone; showing the messages that were read; "
+           "filling "
+           "a\n"
+        << "table widget with as many plain items; the ratio of these two; the slowest key in the filter "
+           "field\n"
+        << " messages     open     load     show    plain    ratio   filter\n"
+        << Qt::flush;
+    for (const QString &count : std::as_const(counts))
+        measure(count.toInt(), out);
+    return 0;
+}

@@ -1,0 +1,161 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="en_US">
+<context>
+    <name>MessageTableFile</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>第 %1 行: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTableUtility</name>
+    <message>
+        <source>Synchronize...</source>
+        <translation>同步...</translation>
+    </message>
+    <message>
+        <source>Synchronize with source code</source>
+        <translation>與原始程式碼同步</translation>
+    </message>
+    <message>
+        <source>Update Translation...</source>
+        <translation>更新翻譯...</translation>
+    </message>
+    <message>
+        <source>Update translation</source>
+        <translation>更新翻譯</translation>
+    </message>
+    <message>
+        <source>tr</source>
+        <translation>tr</translation>
+    </message>
+    <message>
+        <source>Found in the sources, not reviewed yet</source>
+        <translation>在原始程式碼中找到，尚未檢閱</translation>
+    </message>
+    <message>
+        <source>Not found in the sources any more</source>
+        <translation>原始程式碼中已不存在</translation>
+    </message>
+    <message>
+        <source>Message Table Utility</source>
+        <translation>訊息表公用程式</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>處理程序</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>內容</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>標籤</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>狀態</translation>
+    </message>
+    <message>
+        <source>Open Message Table</source>
+        <translation>開啟訊息表</translation>
+    </message>
+    <message>
+        <source>Save Message Table</source>
+        <translation>儲存訊息表</translation>
+    </message>
+    <message>
+        <source>Could not load message table</source>
+        <translation>無法載入訊息表</translation>
+    </message>
+    <message>
+        <source>Table saved</source>
+        <translation>已儲存表格</translation>
+    </message>
+    <message>
+        <source>Table saved as %1</source>
+        <translation>已將表格儲存為 %1</translation>
+    </message>
+    <message>
+        <source>Loading message table &quot;%1&quot;...</source>
+        <translation>正在載入訊息表 &quot;%1&quot;...</translation>
+    </message>
+    <message>
+        <source>Open Visual Studio Project</source>
+        <translation>開啟 Visual Studio 專案</translation>
+    </message>
+    <message>
+        <source>Visual Studio Project Error</source>
+        <translation>Visual Studio 專案錯誤</translation>
+    </message>
+    <message>
+        <source>Could not parse %1</source>
+        <translation>無法剖析 %1</translation>
+    </message>
+    <message>
+        <source>Synchronization cancelled, the table is as it was</source>
+        <translation>已取消同步，表格未變更</translation>
+    </message>
+    <message>
+        <source>Parser Error</source>
+        <translation>剖析錯誤</translation>
+    </message>
+    <message>
+        <source>Parsing</source>
+        <translation>剖析</translation>
+    </message>
+    <message>
+        <source>Parsing source files from %1</source>
+        <translation>正在剖析 %1 中的原始程式檔</translation>
+    </message>
+    <message>
+        <source>Found %1 keys</source>
+        <translation>找到 %1 個索引鍵</translation>
+    </message>
+    <message>
+        <source>Found 0 keys</source>
+        <translation>找到 0 個索引鍵</translation>
+    </message>
+    <message>
+        <source>Found %1 keys (%2 new, %3 existing, and %4 obsolete)</source>
+        <translation>找到 %1 個索引鍵 (%2 個新增、%3 個現有、%4 個過時)</translation>
+    </message>
+    <message>
+        <source>Elapsed time: %1 sec</source>
+        <translation>經過時間: %1 秒</translation>
+    </message>
+    <message>
+        <source>Open Qt Translation File</source>
+        <translation>開啟 Qt 翻譯檔</translation>
+    </message>
+    <message>
+        <source>Qt Translation File Error</source>
+        <translation>Qt 翻譯檔錯誤</translation>
+    </message>
+    <message>
+        <source>Could not load &apos;%1&apos;: %2</source>
+        <translation>無法載入 &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>Added %1 new strings to %2</source>
+        <translation>已將 %1 個新字串新增至 %2</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>無法儲存 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectScan</name>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 以及其他 %1 個</translation>
+    </message>
+    <message>
+        <source>These files were skipped: their messages were not found.</source>
+        <translation>已略過這些檔案: 未找到其中的訊息。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,50 @@
+#include "message_table_utility/project_scan.h"
+
+#include "error_source_scanner.h"
+#include "error_visual_studio_project.h"
+
+#include <QCoreApplication>
+
+namespace Error {
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ProjectScan)
+};
+
+} // namespace
+
+ProjectScan scanProject(const QString &projectFile, const Scan::VisualStudioProject &project,
+                        const ScanReceiver &receive)
+{
+    QStringList paths;
+    for (const QString &sourceFile : project.sourceFiles)
+        paths.append(Scan::sourceFilePath(projectFile, sourceFile));
+
+    ProjectScan scan;
+    const auto take = [&](qsizetype index, const Scan::SourceScanner &scanner) {
+        if (scanner.hasError())
+            scan.errors.append(
+                QStringLiteral("%1: %2").arg(project.sourceFiles.at(index), scanner.errorText()));
+        for (const QSet<Clt::MessageKey> &keys : scanner.keys().sets())
+            scan.keys.unite(keys);
+        return receive(index + 1, scan.keys.size()) ? Scan::Continuation::GoOn : Scan::Continuation::Stop;
+    };
+    Scan::scanFiles(project.process(), paths, take);
+    return scan;
+}
+
+QString scanErrorText(const QStringList &errors)
+{
+    constexpr qsizetype most = 10;
+    QStringList lines = errors.mid(0, most);
+    if (errors.size() > most)
+        lines.append(Texts::tr("... and %1 more").arg(errors.size() - most));
+    lines.append(QString());
+    lines.append(Texts::tr("These files were skipped: their messages were not found."));
+    return lines.join(u'\n');
+}
+
+} // namespace Error

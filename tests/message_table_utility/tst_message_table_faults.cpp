@@ -1,0 +1,221 @@
+// Files that are not as they should be, and places that are not.
+
+#include "utility_fixture.h"
+
+#include <QDir>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+// A large table file: the same message with another tag, again and again.
+void writeLargeTable(const QString &fileName, qint64 bytes)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write");
+    file.write("<messageTable>\n");
+    const QByteArray text(400, 'x');
+    for (int number = 0; file.pos() < bytes; ++number)
+        file.write("<message severity=\"Warning\"><key><process>client</process><context>C</context><tag>T" +
+                   QByteArray::number(number) + "</tag></key><text>" + text + "</text></message>\n");
+    file.write("</messageTable>\n");
+}
+
+constexpr qint64 largeFile = 200'000'000;
+
+} // namespace
+
+class TestMessageTableFaults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void badFileIsReportedAndTheTableKept_data();
+    void badFileIsReportedAndTheTableKept();
+    void truncatedFileIsReportedWithItsLine();
+    void folderIsNoTable();
+    void missingFileIsReported();
+    void largeFileThatIsNoTableIsRefusedAtOnce();
+    void loadingOfALargeFileIsCancelled();
+    void closingDuringLoadingEndsIt();
+    void savingWhereOneMayNotWriteLosesNothing_data();
+    void savingWhereOneMayNotWriteLosesNothing();
+    void savingOverAProtectedFileLosesNothing();
+    void namesOfFilesInOtherScriptsAreFine();
+};
+
+void TestMessageTableFaults::badFileIsReportedAndTheTableKept_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("text") << QByteArray("not a table\n");
+    QTest::newRow("bytes") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
+    QTest::newRow("truncated in a tag") << QByteArray("<messageTable><message sev");
+    QTest::newRow("truncated between messages")
+        << QByteArray("<messageTable><message severity=\"Warning\"><key><tag>T</tag></key></message>");
+    QTest::newRow("wrong nesting") << QByteArray("<messageTable><message></messageTable></message>");
+    QTest::newRow("two documents") << QByteArray("<messageTable/><messageTable/>");
+    QTest::newRow("an entity that grows for ever")
+        << QByteArray("<!DOCTYPE t [<!ENTITY a \"&b;&b;\"><!ENTITY b \"&a;&a;\">]><messageTable>&a;"
+                      "</messageTable>");
+}
+
+void TestMessageTableFaults::badFileIsReportedAndTheTableKept()
+{
+    QFETCH(QByteArray, bytes);
+    UtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    QVERIFY(writeFile(f.otherFile, bytes));
+    QVERIFY(!f.window.openFile(f.otherFile));
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Open Message Table"));
+    QVERIFY(f.dialogs.warnings.first().text.startsWith(
+        QStringLiteral("Could not load message table\n\n%1\nLine 1: ").arg(f.otherFile)));
+    QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+    QCOMPARE(f.window.fileName(), f.tableFile);
+    QCOMPARE(fileBytes(f.otherFile), bytes);
+}
+
+void TestMessageTableFaults::truncatedFileIsReportedWithItsLine()
+{
+    UtilityFixture f;
+    const QByteArray whole = *fileLines(f.tableFile);
+    QVERIFY(writeFile(f.otherFile, whole.left(whole.size() / 2)));
+    const qsizetype line = whole.left(whole.size() / 2).count('\n') + 1;
+    QVERIFY(!f.window.openFile(f.otherFile));
+    QVERIFY2(f.dialogs.warnings.first().text.contains(QStringLiteral("\nLine %1: ").arg(line)),
+             qPrintable(f.dialogs.warnings.first().text));
+    QVERIFY(!f.isEnabled("actionSave"));
+}
+
+void TestMessageTableFaults::folderIsNoTable()
+{
+    UtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    QVERIFY(!f.window.openFile(f.folder.path()));
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+    QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+}
+
+void TestMessageTableFaults::missingFileIsReported()
+{
+    UtilityFixture f;
+    QVERIFY(!f.window.openFile(f.otherFile));
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+    QVERIFY(f.dialogs.warnings.first().text.startsWith(
+        QStringLiteral("Could not load message table\n\n%1\n").arg(f.otherFile)));
+}
+
+void TestMessageTableFaults::largeFileThatIsNoTableIsRefusedAtOnce()
+{
+    UtilityFixture f;
+    QFile file(f.otherFile);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(largeFile));
+    file.close();
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!f.window.openFile(f.otherFile));
+    QVERIFY(timer.elapsed() < 2000);
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+}
+
+void TestMessageTableFaults::loadingOfALargeFileIsCancelled()
+{
+    UtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    writeLargeTable(f.otherFile, largeFile);
+    QString label;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (QProgressDialog *progress = UtilityFixture::shownProgress()) {
+            timer.stop();
+            label = progress->labelText();
+            progress->findChild<QPushButton *>()->click();
+        }
+    });
+    timer.start(1);
+    QElapsedTimer duration;
+    duration.start();
+    QVERIFY(!f.window.openFile(f.otherFile));
+    QVERIFY(duration.elapsed() < 2000);
+    QCOMPARE(label, QStringLiteral("Loading message table \"%1\"...").arg(f.otherFile));
+    QVERIFY(f.dialogs.warnings.isEmpty());
+    QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+    QCOMPARE(f.window.fileName(), f.tableFile);
+}
+
+void TestMessageTableFaults::closingDuringLoadingEndsIt()
+{
+    UtilityFixture f;
+    f.window.show();
+    writeLargeTable(f.otherFile, largeFile / 10);
+    QTimer::singleShot(1, &f.window, [&f] { f.window.close(); });
+    QVERIFY(!f.window.openFile(f.otherFile));
+    QTRY_VERIFY(!f.window.isVisible());
+    QVERIFY(f.dialogs.warnings.isEmpty());
+}
+
+void TestMessageTableFaults::savingWhereOneMayNotWriteLosesNothing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a folder that is not there") << QStringLiteral("no such folder/errors.xml");
+    QTest::newRow("a folder in place of the file") << QStringLiteral("project");
+}
+
+void TestMessageTableFaults::savingWhereOneMayNotWriteLosesNothing()
+{
+    QFETCH(QString, name);
+    UtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    f.writeSource(QStringLiteral("a.cpp"), "void f() { REPORT_ERROR(\"One\"); }");
+    f.chooseProject({QStringLiteral("a.cpp")});
+    f.window.synchronize();
+    QVERIFY(f.window.hasUnsavedChanges());
+    const QStringList before = f.shownRows();
+
+    f.dialogs.fileToChoose = f.folder.path(name);
+    f.action("actionSaveAs")->trigger();
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Save Message Table"));
+    QVERIFY(f.dialogs.warnings.first().text.startsWith(
+        QStringLiteral("Could not save %1\n").arg(f.dialogs.fileToChoose)));
+    QVERIFY(f.window.hasUnsavedChanges());
+    QVERIFY(f.isEnabled("actionSave"));
+    QCOMPARE(f.window.fileName(), f.tableFile);
+    QCOMPARE(f.shownRows(), before);
+    QVERIFY(f.window.save());
+    QVERIFY(f.window.openFile(f.tableFile));
+    QCOMPARE(f.shownRows(), before);
+}
+
+void TestMessageTableFaults::savingOverAProtectedFileLosesNothing()
+{
+    UtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    const QByteArray before = "somebody else's";
+    QVERIFY(writeFile(f.otherFile, before));
+    QVERIFY(QFile::setPermissions(f.otherFile, QFile::ReadOwner | QFile::ReadUser));
+    if (QFileInfo(f.otherFile).isWritable())
+        QSKIP("this user may write everything");
+    f.dialogs.fileToChoose = f.otherFile;
+    QVERIFY(!f.window.saveAs());
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+    QCOMPARE(fileBytes(f.otherFile), before);
+}
+
+void TestMessageTableFaults::namesOfFilesInOtherScriptsAreFine()
+{
+    UtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("größe 100% メッセージ %1.xml"));
+    QVERIFY(f.window.saveAs());
+    QCOMPARE(f.status(), QStringLiteral("Table saved as ") + f.dialogs.fileToChoose);
+    f.window.newTable();
+    QVERIFY(f.window.openFile(f.dialogs.fileToChoose));
+    QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+}
+
+QTEST_MAIN(TestMessageTableFaults)
+#include "tst_message_table_faults.moc"

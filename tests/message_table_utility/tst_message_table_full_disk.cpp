@@ -1,0 +1,55 @@
+#include "support/full_disk.h"
+#include "utility_fixture.h"
+
+#include <QTest>
+
+class TestMessageTableFullDisk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tableStaysUnsavedAndTheFileAsItWas()
+    {
+        UtilityFixture f;
+        QVERIFY(tableOf(5000).save(f.otherFile));
+        QVERIFY(f.window.openFile(f.otherFile));
+        f.writeSource(QStringLiteral("a.cpp"), "void f() { REPORT_ERROR(\"One\"); }");
+        f.chooseProject({QStringLiteral("a.cpp")});
+        f.window.synchronize();
+        QVERIFY(f.window.hasUnsavedChanges());
+        const std::optional<QByteArray> before = fileBytes(f.otherFile);
+        {
+            const FullDisk disk;
+            QVERIFY(!f.window.save());
+        }
+        QCOMPARE(f.dialogs.warnings.size(), 1);
+        QVERIFY(f.dialogs.warnings.first().text.startsWith(
+            QStringLiteral("Could not save %1\n").arg(f.otherFile)));
+        QCOMPARE(fileBytes(f.otherFile), before);
+        QVERIFY(f.window.hasUnsavedChanges());
+        QVERIFY(f.isEnabled("actionSave"));
+        QCOMPARE(f.view()->model()->rowCount(), 5001);
+
+        QVERIFY(f.window.save());
+        QVERIFY(fileBytes(f.otherFile) != before);
+    }
+
+    void translationFileStaysAsItWas()
+    {
+        UtilityFixture f;
+        QVERIFY(tableOf(5000).save(f.otherFile));
+        QVERIFY(f.window.openFile(f.otherFile));
+        const QByteArray before = "<TS/>";
+        QVERIFY(writeFile(f.translationFile, before));
+        f.dialogs.fileToChoose = f.translationFile;
+        {
+            const FullDisk disk;
+            f.window.updateTranslation();
+        }
+        QCOMPARE(f.status(), QStringLiteral("Could not save %1").arg(f.translationFile));
+        QCOMPARE(fileBytes(f.translationFile), before);
+    }
+};
+
+QTEST_MAIN(TestMessageTableFullDisk)
+#include "tst_message_table_full_disk.moc"

@@ -1,0 +1,128 @@
+// What the user sees of a long scan, and how it is stopped.
+
+#include "utility_fixture.h"
+
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+constexpr int manyFiles = 3000;
+
+// Calls the function again and again while the program handles its events, until it answers true.
+template<typename Try>
+class UntilTrue : public QObject
+{
+public:
+    explicit UntilTrue(Try attempt)
+        : m_attempt(attempt)
+    {
+        m_timer.start(1);
+        connect(&m_timer, &QTimer::timeout, this, [this] {
+            if (m_attempt())
+                m_timer.stop();
+        });
+    }
+
+    bool isDone() const { return !m_timer.isActive(); }
+
+private:
+    Try m_attempt;
+    QTimer m_timer;
+};
+
+} // namespace
+
+class TestMessageTableScan : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void progressNamesTheProject();
+    void cancelledScanLeavesTheTable();
+    void closingDuringAScanEndsIt();
+    void closingDuringAScanAsksAboutUnsavedChanges();
+};
+
+void TestMessageTableScan::progressNamesTheProject()
+{
+    UtilityFixture f;
+    f.window.newTable();
+    f.chooseLargeProject(manyFiles);
+    QString title;
+    QString label;
+    QString status;
+    const UntilTrue look([&] {
+        if (const QProgressDialog *progress = UtilityFixture::shownProgress()) {
+            title = progress->windowTitle();
+            label = progress->labelText();
+            status = f.status();
+        }
+        return !title.isEmpty();
+    });
+    f.action("actionSynchronize")->trigger();
+    QCOMPARE(title, QStringLiteral("Parsing"));
+    QCOMPARE(label, QStringLiteral("Parsing source files from %1").arg(f.projectFile));
+    QVERIFY2(status.startsWith(QStringLiteral("Found ")) && status.endsWith(QStringLiteral(" keys")),
+             qPrintable(status));
+    QVERIFY(!UtilityFixture::shownProgress());
+    QCOMPARE(f.view()->model()->rowCount(), manyFiles);
+}
+
+void TestMessageTableScan::cancelledScanLeavesTheTable()
+{
+    UtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    f.chooseLargeProject(manyFiles);
+    const UntilTrue cancel([] {
+        QProgressDialog *progress = UtilityFixture::shownProgress();
+        if (progress)
+            progress->findChild<QPushButton *>()->click();
+        return progress != nullptr;
+    });
+    f.action("actionSynchronize")->trigger();
+    QVERIFY(cancel.isDone());
+    QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+    QCOMPARE(f.window.messages().size(), std::size_t(3));
+    QVERIFY(!f.window.hasUnsavedChanges());
+    QVERIFY(!f.window.isBusy());
+    QCOMPARE(f.status(), QStringLiteral("Synchronization cancelled, the table is as it was"));
+    QVERIFY(f.dialogs.warnings.isEmpty());
+}
+
+void TestMessageTableScan::closingDuringAScanEndsIt()
+{
+    UtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    f.window.show();
+    f.chooseLargeProject(manyFiles);
+    const UntilTrue close([&] { return f.window.isBusy() && !f.window.close(); });
+    f.action("actionSynchronize")->trigger();
+    QVERIFY(close.isDone());
+    QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+    QTRY_VERIFY(!f.window.isVisible());
+    QVERIFY(f.dialogs.unsavedQuestions.isEmpty());
+}
+
+void TestMessageTableScan::closingDuringAScanAsksAboutUnsavedChanges()
+{
+    UtilityFixture f;
+    f.window.newTable();
+    f.window.show();
+    f.writeSource(QStringLiteral("a.cpp"), "void f() { REPORT_ERROR(\"One\"); }");
+    f.chooseProject({QStringLiteral("a.cpp")});
+    f.action("actionSynchronize")->trigger();
+    QVERIFY(f.window.hasUnsavedChanges());
+
+    f.chooseLargeProject(manyFiles);
+    const UntilTrue close([&] { return f.window.isBusy() && !f.window.close(); });
+    f.action("actionSynchronize")->trigger();
+    QVERIFY(close.isDone());
+    QTRY_COMPARE(f.dialogs.unsavedQuestions.size(), 1);
+    QVERIFY(f.window.isVisible());
+    QCOMPARE(f.shownRows(), QStringList(QStringLiteral("client|f|One|New")));
+}
+
+QTEST_MAIN(TestMessageTableScan)
+#include "tst_message_table_scan.moc"

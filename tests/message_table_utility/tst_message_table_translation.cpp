@@ -1,0 +1,114 @@
+// Bringing a translation file up to date from the window.
+
+#include "utility_fixture.h"
+
+#include <QTest>
+
+namespace {
+
+// Opens a table with two texts and chooses the translation file.
+void prepare(UtilityFixture &f, const QByteArray &translation)
+{
+    Clt::MessageTable table;
+    for (const char *tag : {"One", "Two"}) {
+        Clt::Message message = messageOf("client", "A::run", tag);
+        message.setText(QStringLiteral("Text %1").arg(QString::fromLatin1(tag)));
+        table.insert(message);
+    }
+    if (!table.save(f.otherFile) || !f.window.openFile(f.otherFile) ||
+        !writeFile(f.translationFile, translation))
+        qFatal("cannot prepare");
+    f.dialogs.fileToChoose = f.translationFile;
+}
+
+const QByteArray emptyTranslation = "<!DOCTYPE TS><TS version=\"2.1\" language=\"de_DE\"></TS>";
+
+} // namespace
+
+class TestMessageTableTranslation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void dialogAsksForATranslationFile()
+    {
+        UtilityFixture f;
+        f.window.newTable();
+        f.action("actionTranslate")->trigger();
+        QCOMPARE(f.dialogs.openQuestions.size(), 1);
+        QCOMPARE(f.dialogs.openQuestions.first().title, QStringLiteral("Open Qt Translation File"));
+        QCOMPARE(f.dialogs.openQuestions.first().filter, QStringLiteral("*.ts"));
+    }
+
+    void newTextsAreAdded()
+    {
+        UtilityFixture f;
+        prepare(f, emptyTranslation);
+        f.action("actionTranslate")->trigger();
+        QCOMPARE(f.status(), QStringLiteral("Added 2 new strings to %1").arg(f.translationFile));
+        const QByteArray written = *fileBytes(f.translationFile);
+        QVERIFY(written.contains("<source>Text One</source>"));
+        QVERIFY(written.contains("<source>Text Two</source>"));
+        QVERIFY(written.contains("language=\"de_DE\""));
+        QVERIFY(!f.window.hasUnsavedChanges());
+    }
+
+    void textsAreAddedOnce()
+    {
+        UtilityFixture f;
+        prepare(f, emptyTranslation);
+        f.action("actionTranslate")->trigger();
+        f.action("actionTranslate")->trigger();
+        QCOMPARE(f.status(), QStringLiteral("Added 0 new strings to %1").arg(f.translationFile));
+    }
+
+    void fileThatCannotBeLoadedIsLeft_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("empty") << QByteArray() << QStringLiteral(" at line 1");
+        QTest::newRow("no XML") << QByteArray("\x89PNG\r\n") << QStringLiteral(" at line 1");
+        QTest::newRow("truncated") << QByteArray("<TS version=\"2.1\">\n<context>\n")
+                                   << QStringLiteral(" at line 3");
+    }
+    void fileThatCannotBeLoadedIsLeft()
+    {
+        QFETCH(QByteArray, bytes);
+        UtilityFixture f;
+        prepare(f, bytes);
+        f.action("actionTranslate")->trigger();
+        QCOMPARE(f.dialogs.warnings.size(), 1);
+        QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Qt Translation File Error"));
+        const QString text = f.dialogs.warnings.first().text;
+        QVERIFY(text.startsWith(QStringLiteral("Could not load '%1': ").arg(f.translationFile)));
+        QFETCH(QString, reason);
+        QVERIFY2(text.endsWith(reason), qPrintable(text));
+        QCOMPARE(fileBytes(f.translationFile), bytes);
+    }
+
+    void missingFileIsReported()
+    {
+        UtilityFixture f;
+        prepare(f, emptyTranslation);
+        QVERIFY(QFile::remove(f.translationFile));
+        f.action("actionTranslate")->trigger();
+        QCOMPARE(f.dialogs.warnings.size(), 1);
+        QVERIFY(!QFile::exists(f.translationFile));
+    }
+
+    void fileThatCannotBeWrittenIsReported()
+    {
+        UtilityFixture f;
+        prepare(f, emptyTranslation);
+        QVERIFY(QFile::setPermissions(f.translationFile, QFile::ReadOwner | QFile::ReadUser));
+        f.action("actionTranslate")->trigger();
+        const bool isWritable = QFileInfo(f.translationFile).isWritable();
+        if (isWritable)
+            QSKIP("this user may write everything");
+        QCOMPARE(f.status(), QStringLiteral("Could not save %1").arg(f.translationFile));
+        QCOMPARE(fileBytes(f.translationFile), emptyTranslation);
+    }
+};
+
+QTEST_MAIN(TestMessageTableTranslation)
+#include "tst_message_table_translation.moc"
