@@ -9,6 +9,7 @@
 #include "message_table_utility/project_scan.h"
 #include "window/dialogs.h"
 #include "window/marked_table_view.h"
+#include "window/wait_cursor.h"
 
 #include <QAction>
 #include <QElapsedTimer>
@@ -23,6 +24,12 @@ using Window::RowMark;
 namespace {
 
 const QString iconFolder = QStringLiteral(":/ErrorTableUtility/images/");
+
+bool loadTranslation(Error::TranslationTable &table, const QString &file)
+{
+    const Window::WaitCursor wait;
+    return table.load(file);
+}
 
 auto obsoleteMessages(const Clt::MessageTable &table)
 {
@@ -146,6 +153,7 @@ MessageTableUtility::scanShowingProgress(const QString &projectFile, const Scan:
 // Save is for tables that differ from their file, so it stays as it is when the sources brought nothing new.
 void MessageTableUtility::takeKeys(const QSet<Clt::MessageKey> &keys, qint64 milliseconds)
 {
+    const Window::WaitCursor wait;
     const auto obsoleteBefore = obsoleteMessages(m_messages);
     const Error::KeyCounts counts = Error::synchronizeKeys(m_messages, keys);
     if (counts.added > 0 || obsoleteMessages(m_messages) != obsoleteBefore)
@@ -169,11 +177,12 @@ void MessageTableUtility::updateTranslation()
     if (file.isEmpty())
         return;
     Error::TranslationTable table;
-    if (!table.load(file)) {
+    if (!loadTranslation(table, file)) {
         dialogs().warn(this, tr("Qt Translation File Error"),
                        tr("Could not load '%1': %2").arg(file, table.errorString()));
         return;
     }
+    const Window::WaitCursor wait;
     const int added = Error::addMessageTexts(table, m_messages);
     if (table.save(file))
         showStatus(tr("Added %1 new strings to %2").arg(QString::number(added), file));

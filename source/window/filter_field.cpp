@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 #include <QShortcut>
-#include <QToolBar>
 
 namespace Window {
 
@@ -23,16 +22,6 @@ FilterField::FilterField(QWidget *parent)
         setFocus(Qt::ShortcutFocusReason);
         selectAll();
     });
-}
-
-FilterField *FilterField::atEndOf(QToolBar &toolBar)
-{
-    auto *space = new QWidget(&toolBar);
-    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    toolBar.addWidget(space);
-    auto *field = new FilterField(&toolBar);
-    toolBar.addWidget(field);
-    return field;
 }
 
 void FilterField::keyPressEvent(QKeyEvent *event)

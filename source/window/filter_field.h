@@ -2,8 +2,6 @@
 
 #include <QLineEdit>
 
-class QToolBar;
-
 namespace Window {
 
 /// A field into which one types what the rows of a table should hold. Ctrl+F goes there, Escape empties it.
@@ -13,9 +11,6 @@ class FilterField : public QLineEdit
 
 public:
     explicit FilterField(QWidget *parent = nullptr);
-
-    /// Makes a field at the right end of a tool bar; what is added to the tool bar later stands behind it.
-    static FilterField *atEndOf(QToolBar &toolBar);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -5,6 +5,7 @@
 #include "window/filter_field.h"
 #include "window/marked_table_view.h"
 #include "window/recent_files.h"
+#include "window/wait_cursor.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -134,7 +135,7 @@ bool TableWindow::load(const QString &fileName)
 bool TableWindow::saveTo(const QString &fileName)
 {
     const QString path = QDir::toNativeSeparators(QFileInfo(fileName).absoluteFilePath());
-    if (!saveTable(path)) {
+    if (!saveShowingWait(path)) {
         m_dialogs.warn(this, m_texts.saveTitle,
                        tr("Could not save %1\n\nThe place may be write-protected or full. The table is kept "
                           "here, not saved; save it in another place.")
@@ -148,6 +149,12 @@ bool TableWindow::saveTo(const QString &fileName)
     m_recentFiles->add(path);
     showPlace();
     return true;
+}
+
+bool TableWindow::saveShowingWait(const QString &path)
+{
+    const WaitCursor wait;
+    return saveTable(path);
 }
 
 // There is another table, of that file or of none.

@@ -145,6 +145,7 @@ private:
     bool mayLoseChanges();
     bool load(const QString &fileName);
     bool saveTo(const QString &fileName);
+    bool saveShowingWait(const QString &path);
     void takeOver(const QString &fileName);
     void showPlace();
 

@@ -30,6 +30,8 @@ TableWindow::TableWindow(Dialogs &dialogs, QSettings &settings, const TableWindo
     setWindowTitle(texts.title);
     setWindowIcon(QIcon(texts.iconFolder + QStringLiteral("window.png")));
     setAcceptDrops(true);
+    // It would offer to hide the tool bar, and nothing would bring that back.
+    setContextMenuPolicy(Qt::NoContextMenu);
     makeActions();
     makeMenus();
     makeToolBar();
@@ -99,9 +101,13 @@ void TableWindow::makeToolBar()
     QToolBar *bar = addToolBar(tr("Tool Bar"));
     bar->setObjectName(QStringLiteral("mainToolBar"));
     bar->addActions({m_new, m_open, m_save});
-    m_endOfButtons = bar->addSeparator();
-    m_filter = FilterField::atEndOf(*bar);
+    auto *space = new QWidget(bar);
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_endOfButtons = bar->addWidget(space);
+    m_filter = new FilterField(bar);
     m_filter->setEnabled(false);
+    bar->addWidget(m_filter);
+    bar->setMovable(false);
     connect(m_filter, &FilterField::textChanged, this, [this](const QString &text) {
         m_view->setFilter(text);
         showPlace();

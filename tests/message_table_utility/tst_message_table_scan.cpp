@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int manyFiles = 3000;
+constexpr int manyFiles = 2000;
 
 // Calls the function again and again while the program handles its events, until it answers true.
 template<typename Try>
@@ -67,7 +67,7 @@ void TestMessageTableScan::progressNamesTheProject()
     QVERIFY2(status.startsWith(QStringLiteral("Found ")) && status.endsWith(QStringLiteral(" keys")),
              qPrintable(status));
     QVERIFY(!UtilityFixture::shownProgress());
-    QCOMPARE(f.view()->model()->rowCount(), manyFiles);
+    QCOMPARE(f.shownRows(), QStringList(QStringLiteral("client|f|One|New")));
 }
 
 void TestMessageTableScan::cancelledScanLeavesTheTable()

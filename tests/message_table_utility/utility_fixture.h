@@ -99,16 +99,12 @@ struct UtilityFixture
         dialogs.fileToChoose = projectFile;
     }
 
-    /// Writes so many source files with a message each into the project, and chooses it.
+    /// Writes a project that compiles one source file with a message so many times, and chooses it.
     void chooseLargeProject(int files)
     {
-        QStringList names;
-        for (int number = 0; number < files; ++number) {
-            names.append(QStringLiteral("source%1.cpp").arg(number));
-            writeSource(names.last(), "void f() { REPORT_ERROR(\"Tag" + QByteArray::number(number) +
-                                          "\"); }" + QByteArray(20'000, ' '));
-        }
-        chooseProject(names);
+        const QString name = QStringLiteral("source.cpp");
+        writeSource(name, "void f() { REPORT_ERROR(\"One\"); }" + QByteArray(200'000, ';'));
+        chooseProject(QStringList(files, name));
     }
 
     static QProgressDialog *shownProgress()
