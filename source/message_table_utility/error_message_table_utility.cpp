@@ -127,13 +127,14 @@ void MessageTableUtility::synchronize()
     QElapsedTimer timer;
     timer.start();
     const std::optional<Error::ProjectScan> scan = scanShowingProgress(projectFile, *project);
+    const qint64 milliseconds = timer.elapsed();
     if (!scan) {
         showStatus(tr("Synchronization cancelled, the table is as it was"));
         return;
     }
     if (!scan->errors.isEmpty())
         dialogs().warn(this, tr("Parser Error"), Error::scanErrorText(scan->errors));
-    takeKeys(scan->keys, timer.elapsed());
+    takeKeys(scan->keys, milliseconds);
 }
 
 std::optional<Error::ProjectScan>

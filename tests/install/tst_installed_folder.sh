@@ -34,11 +34,26 @@ grep -qF 'Language de-DE' "$log" || fail "no language in the log"
 grep -qF 'Installation der Tutorials' "$log" || fail "the log is not in German"
 [ -s "$folder/machine/ProgramData/Velmora/NVX 2017/NVX2_config.nvxcfg" ] || fail "no configuration was written"
 for locale in de-DE fr-FR it-IT ja-JP ko-KR ru-RU zh-CN zh-TW; do
-    [ -s "$installed/bin/$locale/nvxconfig.qm" ] || fail "no translations for $locale"
+    for catalogue in nvxconfig nvxwindow messagetableutility; do
+        [ -s "$installed/bin/$locale/$catalogue.qm" ] || fail "no translations $catalogue for $locale"
+    done
     [ -s "$installed/bin/$locale/qt_${locale/-/_}.qm" ] || fail "no translations of the toolkit for $locale"
 done
 
 # The command line runs there too, with nothing else of ours in its environment.
 env -i LC_ALL=C.UTF-8 "$installed/bin/UpdateErrorTable" -h | grep -q '^Usage: UpdateErrorTable' ||
     fail "UpdateErrorTable does not run"
+
+# So does the window: it remembers the file that it opened, and goes on until it is ended.
+echo '<messageTable/>' >"$folder/table.xml"
+env -i LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME="$folder/config" HOME="$folder" \
+    "$installed/bin/MessageTableUtility" "$folder/table.xml" 2>"$folder/window.errors" &
+window=$!
+settings="$folder/config/Velmora/MessageTableUtility.conf"
+for ((i = 0; i < 100; ++i)); do
+    grep -qs 'table\.xml' "$settings" && break
+    sleep 0.2
+done
+kill "$window" || fail "MessageTableUtility does not run: $(cat "$folder/window.errors")"
+grep -qs 'table\.xml' "$settings" || fail "MessageTableUtility did not open its file"
 echo "the installed folder runs as it stands"

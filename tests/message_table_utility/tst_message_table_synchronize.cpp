@@ -34,6 +34,7 @@ private slots:
     void missingSourcesAreReportedAndTheRestIsScanned();
     void badSourceIsReportedWithItsLine();
     void manyErrorsFitIntoABox();
+    void elapsedTimeIsThatOfTheWork();
 };
 
 void TestMessageTableSynchronize::foundKeysAreNew()
@@ -196,6 +197,19 @@ void TestMessageTableSynchronize::manyErrorsFitIntoABox()
     const QString text = f.dialogs.warnings.first().text;
     QVERIFY(text.contains(QStringLiteral("\ngone9.cpp: Cannot open file\n... and 490 more\n")));
     QVERIFY(text.count(u'\n') < 15);
+}
+
+void TestMessageTableSynchronize::elapsedTimeIsThatOfTheWork()
+{
+    constexpr int reading = 2000; // milliseconds that the user takes for the box
+    UtilityFixture f;
+    f.window.newTable();
+    f.chooseProject({QStringLiteral("gone.cpp")});
+    f.dialogs.whileWarning = [] { QTest::qSleep(reading); };
+    f.action("actionSynchronize")->trigger();
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+    const QString elapsed = f.status().section(QStringLiteral("Elapsed time: "), 1).section(u' ', 0, 0);
+    QVERIFY2(elapsed.toDouble() < reading / 1000.0, qPrintable(f.status()));
 }
 
 QTEST_MAIN(TestMessageTableSynchronize)

@@ -30,6 +30,7 @@ private slots:
     void rowsAreReadableOnADarkPalette();
     void filterFindsStatesAndContexts();
     void sortedRowsReturnToKeyOrder();
+    void widthsOfColumnsAreKept();
     void tableOfManyMessagesIsShownWhole();
 };
 
@@ -299,6 +300,18 @@ void TestMessageTableUtility::sortedRowsReturnToKeyOrder()
     QCOMPARE(f.shownRows().first(), UtilityFixture::tableRows().at(2));
     click(2);
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+}
+
+void TestMessageTableUtility::widthsOfColumnsAreKept()
+{
+    UtilityFixture f;
+    for (int column = 0; column < 3; ++column)
+        QVERIFY(f.view()->columnWidth(column) >= 100);
+    QVERIFY(f.view()->columnWidth(1) > f.view()->columnWidth(0));
+    f.view()->setColumnWidth(1, 222);
+    QVERIFY(f.window.close());
+    const MessageTableUtility next(f.dialogs, f.settings);
+    QCOMPARE(next.findChild<QTableView *>(QStringLiteral("tableWidget"))->columnWidth(1), 222);
 }
 
 void TestMessageTableUtility::tableOfManyMessagesIsShownWhole()

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 /// Dialogs that show nothing, write down what they are asked, and answer what the test has set.
 class RecordingDialogs : public Window::Dialogs
 {
@@ -18,6 +20,9 @@ public:
     // What they answer; no file stands for a cancelled dialog.
     QString fileToChoose;
     Window::UnsavedChoice choice = Window::UnsavedChoice::Cancel;
+
+    // Called while a warning is shown.
+    std::function<void()> whileWarning;
 
     // What they were asked.
     QList<Window::FileQuestion> openQuestions;
@@ -41,6 +46,8 @@ public:
     void warn(QWidget *, const QString &title, const QString &text) override
     {
         warnings.append({title, text});
+        if (whileWarning)
+            whileWarning();
     }
 
     void tell(QWidget *, const QString &title, const QString &text) override
