@@ -1,0 +1,237 @@
+"""The pictures of tools/screenshots, taken on Windows machines of their own.
+
+    screenshots.py BUILD_FOLDER [--to FOLDER] [--scale PERCENT] [--program NAME] [--locale LOCALE]
+
+A picture is FOLDER/LOCALE/PROGRAM-PAGE.png, FOLDER by default docs/images. Needs a display (xvfb-run), the
+programs as `cmake --install` lays them out, and the sample product.
+"""
+
+import argparse
+import subprocess
+import sys
+import time
+import xml.etree.ElementTree as ElementTree
+from dataclasses import dataclass
+from pathlib import Path
+
+from winemachine import INSTALL_DIR, Machine, make_template
+
+ROOT = Path(__file__).resolve().parents[1]
+LANGUAGES = ROOT / "resource" / "languages"
+COMPLETE = "The installation or update is complete. Click finish to continue."
+SCREEN = "2560x1800"
+PATIENCE_S = 120
+
+# What the machines' user reads most comfortably; a family that the machine has must stand here.
+FAMILIES = {
+    "ja-JP": "Noto Sans CJK JP",
+    "ko-KR": "Noto Sans CJK KR",
+    "zh-CN": "Noto Sans CJK SC",
+    "zh-TW": "Noto Sans CJK TC",
+}
+OTHER_FAMILY = "Open Sans"
+SYSTEM_FAMILIES = ("MS Shell Dlg", "MS Shell Dlg 2", "Tahoma")
+
+
+@dataclass
+class Page:
+    """A page, the keys that lead to it from the one before, and the text in the log that it waits for."""
+
+    name: str
+    keys: tuple = ()
+    log_text: str = ""
+
+
+@dataclass
+class Program:
+    """A program, the catalogue of its texts, its pages in order, and the arguments that it is started with, in
+    which {locale} stands for the language."""
+
+    name: str
+    catalogue: str
+    pages: tuple
+    tokens: tuple = ()
+
+    def locales(self):
+        files = sorted(LANGUAGES.glob(self.catalogue + "_*.ts"))
+        return ["en-US"] + [file.stem.split("_")[1] for file in files]
+
+
+PROGRAMS = (
+    Program(
+        "NVXConfig",
+        "nvxconfig",
+        (
+            Page("welcome"),
+            Page("launchers", keys=("Return",)),
+            Page("conclusion", keys=("Return",), log_text=COMPLETE),
+        ),
+        tokens=("-L{locale}",),
+    ),
+)
+
+
+def translated(text, catalogue, locale):
+    """A text of the program in a language."""
+    file = LANGUAGES / ("%s_%s.ts" % (catalogue, locale))
+    if not file.exists():
+        return text
+    for message in ElementTree.parse(file).iter("message"):
+        if message.findtext("source") == text:
+            return message.findtext("translation")
+    raise ValueError("%s has no text '%s'" % (file.name, text))
+
+
+def wait_for(what, condition):
+    """Waits until the condition answers something, and answers that."""
+    deadline = time.monotonic() + PATIENCE_S
+    while True:
+        answer = condition()
+        if answer:
+            return answer
+        if time.monotonic() > deadline:
+            raise TimeoutError("waited in vain for " + what)
+        time.sleep(0.2)
+
+
+def answer_of(*command):
+    return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+
+
+def make_machine(build, locale, scale):
+    """A fresh machine of a user who speaks that language, with the product on it."""
+    unix_locale = locale.replace("-", "_") + ".UTF-8"
+    locales = build / "locales"
+    locales.mkdir(exist_ok=True)
+    if not (locales / unix_locale).exists():
+        answer_of("localedef", "-i", unix_locale.split(".")[0], "-f", "UTF-8", locales / unix_locale)
+    machine = Machine.create(
+        build / "screenshots", make_template(build / "wine-template"), unix_locale, locales
+    )
+    machine.put_product(build / "installed", build / "sample")
+    script = machine.path("C:\\screen.reg")
+    script.write_bytes(screen_settings(FAMILIES.get(locale, OTHER_FAMILY), scale).encode("utf-16"))
+    if machine.run("regedit", "/S", "C:\\screen.reg").returncode != 0:
+        raise RuntimeError("the machine's settings cannot be written")
+    machine.stop()
+    return machine
+
+
+def screen_settings(family, scale):
+    """A script for the Registry Editor: a desktop of our own, on which windows have title bars; its font and
+    its scaling."""
+    lines = [
+        "Windows Registry Editor Version 5.00",
+        "[HKEY_CURRENT_USER\\Software\\Wine\\Explorer]",
+        '"Desktop"="Default"',
+        "[HKEY_CURRENT_USER\\Software\\Wine\\Explorer\\Desktops]",
+        '"Default"="%s"' % SCREEN,
+        "[HKEY_CURRENT_USER\\Control Panel\\Desktop]",
+        '"LogPixels"=dword:%08x' % (96 * scale // 100),
+        "[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion\\FontSubstitutes]",
+    ]
+    lines += ['"%s"="%s"' % (name, family) for name in SYSTEM_FAMILIES]
+    return "\r\n".join(lines) + "\r\n"
+
+
+class Session:
+    """A program that runs on a machine and shows its window."""
+
+    def __init__(self, machine, program, locale):
+        self.machine, self.program, self.locale = machine, program, locale
+        self.log = machine.path(INSTALL_DIR + "\\NVXConfig.log")
+        self.last_picture = None
+        tokens = [token.format(locale=locale) for token in program.tokens]
+        self.process = subprocess.Popen(
+            ["wine", "%s\\%s.exe" % (INSTALL_DIR, program.name), *tokens],
+            cwd=machine.prefix,
+            env=machine.environment(),
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+        )
+
+    def window(self):
+        """The program's only window; nothing while it has none."""
+        pattern = "^%s\\.exe$" % self.program.name.lower()
+        found = answer_of("xdotool", "search", "--onlyvisible", "--class", pattern).split()
+        if len(found) > 1:
+            names = [answer_of("xdotool", "getwindowname", window).decode().strip() for window in found]
+            raise RuntimeError("more than one window is shown: " + ", ".join(names))
+        if not found and self.process.poll() is not None:
+            raise RuntimeError("%s has ended with %d" % (self.program.name, self.process.returncode))
+        return found[0].decode() if found else None
+
+    def picture(self):
+        """The window as a PNG; nothing while there is none."""
+        window = self.window()
+        options = ("-strip", "-define", "png:exclude-chunks=date,time", "-define", "png:compression-level=9")
+        return window and answer_of("import", "-window", window, *options, "png:-")
+
+    def still_picture(self):
+        """The window once it is another than before and no longer changes."""
+        seen = []
+
+        def calm():
+            seen.append(self.picture())
+            return len(seen) > 3 and len(set(seen[-4:])) == 1 and seen[-1] != self.last_picture and seen[-1]
+
+        wait_for("the window", self.window)
+        answer_of("xdotool", "mousemove", "0", "0")  # what lies below the pointer would light up
+        self.last_picture = wait_for("a page that stays as it is", calm)
+        return self.last_picture
+
+    def show(self, page):
+        for key in page.keys:
+            answer_of("xdotool", "key", key)
+        if page.log_text:
+            text = translated(page.log_text, self.program.catalogue, self.locale)
+            wait_for(
+                "'%s' in the log" % text,
+                lambda: self.log.exists() and text in self.log.read_text(encoding="utf-8"),
+            )
+        return self.still_picture()
+
+
+def take_pictures(build, program, locale, scale, folder):
+    machine = make_machine(build, locale, scale)
+    try:
+        session = Session(machine, program, locale)
+        for page in program.pages:
+            path = folder / locale / ("%s-%s.png" % (program.name, page.name))
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_bytes(session.show(page))
+            print("   " + str(path), flush=True)
+    finally:
+        machine.stop()
+
+
+def check_fonts():
+    families = answer_of("fc-list", ":", "family").decode()
+    missing = {family for family in (*FAMILIES.values(), OTHER_FAMILY) if family not in families}
+    if missing:
+        sys.exit("these fonts are missing: %s; run tools/setup" % ", ".join(sorted(missing)))
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="tools/screenshots")
+    parser.add_argument("build", type=Path)
+    parser.add_argument("--to", type=Path, default=ROOT / "docs" / "images")
+    parser.add_argument("--scale", type=int, default=100)
+    parser.add_argument("--program", choices=[program.name for program in PROGRAMS])
+    parser.add_argument("--locale")
+    chosen = parser.parse_args()
+    check_fonts()
+    taken = 0
+    for program in PROGRAMS:
+        for locale in program.locales():
+            if chosen.program not in (None, program.name) or chosen.locale not in (None, locale):
+                continue
+            take_pictures(chosen.build.resolve(), program, locale, chosen.scale, chosen.to)
+            taken += 1
+    if not taken:
+        sys.exit("there is no language " + chosen.locale)
+
+
+if __name__ == "__main__":
+    main()
