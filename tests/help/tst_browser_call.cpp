@@ -66,7 +66,7 @@ private slots:
         RandomText random(1);
         const QStringList heads{QString(), QStringLiteral("http://host/"), QStringLiteral("file:///C:\\"),
                                 QStringLiteral("C:\\"), QStringLiteral("x:")};
-        for (int i = 0; i < 20000; ++i) {
+        for (int i = 0; i < 3000; ++i) {
             const QString text = heads.at(random.below(5)) + random.text() + random.unspeakableText();
             const QString encoded = encodedAddress(text);
             for (const QChar c : encoded)
