@@ -2,7 +2,11 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/system.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QTest>
+#include <QTimer>
+#include <QWizard>
 
 namespace {
 
@@ -11,6 +15,25 @@ QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
+// Notices every window that is shown while it lives.
+class ShownWindows : public QObject
+{
+public:
+    ShownWindows() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool any() const { return m_any; }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        const auto *widget = qobject_cast<QWidget *>(object);
+        m_any = m_any || (event->type() == QEvent::Show && widget && widget->isWindow());
+        return false;
+    }
+
+private:
+    bool m_any = false;
+};
+
 } // namespace
 
 class tst_passes : public QObject
@@ -18,13 +41,24 @@ class tst_passes : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        connect(&m_close, &QTimer::timeout, this, [] {
+            if (QWizard *wizard = shownWizard())
+                wizard->close();
+        });
+    }
     void init()
     {
         m_fixture = std::make_unique<EngineFixture>();
         for (const char *name : {"NVXSolver.exe", "NVXServer.exe"})
             writeFile(m_fixture->installed(name));
     }
-    void cleanup() { m_fixture.reset(); }
+    void cleanup()
+    {
+        m_close.stop();
+        m_fixture.reset();
+    }
 
     void aChangedLanguageBringsAnotherPass()
     {
@@ -66,7 +100,7 @@ private slots:
         QFETCH(QString, options);
         QFETCH(QString, line);
         cfg_utilitys &engine = m_fixture->start(options);
-        QCOMPARE(runPass(engine), 0);
+        QCOMPARE(runProgram(engine), 0);
         QVERIFY(m_fixture->lines().contains(line));
         QVERIFY(engine.state().runComplete);
         QVERIFY(m_fixture->machine.boxes.isEmpty());
@@ -85,7 +119,7 @@ private slots:
         QFETCH(QString, options);
         QFETCH(bool, stays);
         writeFile(m_fixture->installed("of an update.new"));
-        QCOMPARE(runPass(m_fixture->start(options)), 0);
+        QCOMPARE(runProgram(m_fixture->start(options)), 0);
         QCOMPARE(QFile::exists(m_fixture->installed("of an update.new")), stays);
         const QString complete =
             text("   0 The installation or update is complete. Click finish to continue.");
@@ -96,7 +130,7 @@ private slots:
     void theLogIsClosedAfterTheOldFiles()
     {
         cfg_utilitys &engine = m_fixture->start(text("-U -S"));
-        runPass(engine);
+        runProgram(engine);
         const QStringList lines = m_fixture->lines();
         QCOMPARE(lines.last(), text("   0 Remove: Report .pyc files"));
         engine.log(0, text("too late"));
@@ -118,7 +152,7 @@ private slots:
         cfg_utilitys &engine = m_fixture->start(text("-ST"));
         m_fixture->machine.service.current = Nvx::Util::ServiceState::Active;
         const auto before = m_fixture->lines().size();
-        QCOMPARE(runPass(engine), 0);
+        QCOMPARE(runProgram(engine), 0);
         const QStringList lines = m_fixture->lines().mid(before);
         QCOMPARE(lines.mid(0, 2),
                  QStringList({text("   0 Stopping Services"), text("   0 uninstallServer ")}));
@@ -131,7 +165,7 @@ private slots:
     {
         cfg_utilitys &engine = m_fixture->start(text("-T"));
         m_fixture->machine.calls.clear();
-        QCOMPARE(runPass(engine), 0);
+        QCOMPARE(runProgram(engine), 0);
         QCOMPARE(m_fixture->lines().last(), text("   1 This build has no localization tool"));
         QVERIFY(m_fixture->machine.calls.isEmpty());
     }
@@ -140,7 +174,7 @@ private slots:
     {
         m_fixture->machine.running.add(text("C:\\CAD\\xtop.exe"));
         m_fixture->machine.running.add(text("C:\\NVX 2017\\NVXMonitor.exe"));
-        runPass(m_fixture->start(text("-I -S")));
+        runProgram(m_fixture->start(text("-I -S")));
         const QStringList order{text("   0 Wildfire terminated"),
                                 text("   0 CheckForRunningOstrade: silent=on terminate=off"),
                                 text("   0 NVX 2017 Job Monitor terminated"),
@@ -173,7 +207,8 @@ private slots:
     void everyRunLooksForRunningProgramsAndOnlyThoseThatInstallOrRemoveForCadSystems()
     {
         QFETCH(QString, options);
-        runPass(m_fixture->start(options));
+        closeSoon();
+        runProgram(m_fixture->start(options));
         const QStringList lines = m_fixture->lines();
         QCOMPARE(m_fixture->machine.running.limits.size(), 2);
         QCOMPARE(lines.filter(text("CheckForRunningOstrade")).size(), 1);
@@ -185,7 +220,7 @@ private slots:
         m_fixture->machine.running.add(text("C:\\CAD\\xtop.exe"));
         m_fixture->machine.answer = Nvx::Util::Answer::Dismissed;
         cfg_utilitys &engine = m_fixture->start(text("-I -S"));
-        QCOMPARE(runPass(engine), 0);
+        QCOMPARE(runProgram(engine), 0);
         QVERIFY(engine.state().runComplete);
         QVERIFY(m_fixture->machine.running.ended.isEmpty());
     }
@@ -194,31 +229,76 @@ private slots:
     {
         cfg_utilitys &engine = m_fixture->start(QString());
         QVERIFY(engine.state().runMode == RunMode::NotGiven);
-        runPass(engine);
+        closeSoon();
+        QCOMPARE(runProgram(engine), 0);
         QVERIFY(engine.state().runMode == RunMode::Install);
     }
 
-    void aRunThatNeedsPagesSaysThatThereAreNone_data()
+    void modesWithoutAWindowShowNone_data()
     {
         QTest::addColumn<QString>("options");
-        QTest::newRow("no mode") << QString();
-        QTest::newRow("silent without a mode") << text("-S");
-        QTest::newRow("install") << text("-I");
-        QTest::newRow("uninstall") << text("-U");
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("silent install") << text("-I -S") << false;
+        QTest::newRow("silent uninstall") << text("-U -S") << false;
+        QTest::newRow("silent uninstall, the other way round") << text("-S -U") << false;
+        QTest::newRow("stop services") << text("-ST") << false;
+        QTest::newRow("localisation") << text("-T") << false;
+        QTest::newRow("install") << text("-I") << true;
+        QTest::newRow("uninstall") << text("-U") << true;
+        QTest::newRow("silent without a mode") << text("-S") << true;
+        QTest::newRow("no mode") << QString() << true;
     }
 
-    void aRunThatNeedsPagesSaysThatThereAreNone()
+    void modesWithoutAWindowShowNone()
     {
         QFETCH(QString, options);
         cfg_utilitys &engine = m_fixture->start(options);
+        const ShownWindows windows;
+        closeSoon();
+        QCOMPARE(runProgram(engine), 0);
+        QTEST(windows.any(), "shown");
+    }
+
+    void aWindowThatIsClosedEndsTheProgramWithZero()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-I"));
         m_fixture->machine.calls.clear();
-        QCOMPARE(runPass(engine), 1);
-        QCOMPARE(m_fixture->machine.boxes.size(), 1);
-        QVERIFY(m_fixture->machine.calls.isEmpty());
+        closeSoon();
+        QCOMPARE(runProgram(engine), 0);
         QVERIFY(!engine.state().runComplete);
+        QVERIFY(m_fixture->machine.calls.isEmpty());
+    }
+
+    void finishEndsTheProgramWithZero()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-U"));
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, this, [&] {
+            const QWizard *wizard = shownWizard();
+            if (wizard && engine.state().runComplete)
+                wizard->button(QWizard::FinishButton)->click();
+        });
+        poll.start(50);
+        QCOMPARE(runProgram(engine), 0);
+        QCOMPARE(m_fixture->lines().last(), text("   0 Program exiting"));
     }
 
 private:
+    // Closes the wizard soon after it is shown.
+    void closeSoon() { m_close.start(200); }
+
+    static QWizard *shownWizard()
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget *window : windows) {
+            auto *wizard = qobject_cast<QWizard *>(window);
+            if (wizard && wizard->isVisible())
+                return wizard;
+        }
+        return nullptr;
+    }
+
+    QTimer m_close;
     std::unique_ptr<EngineFixture> m_fixture;
 };
 

@@ -82,6 +82,9 @@ public:
     /// is the one the run is taken for.
     void setUpLanguage(RunMode mode);
 
+    /// Makes another language the run's and the product's in the course of an installation.
+    void changeLanguage(const QString &locale);
+
     /// Keeps a marker file in the flags folder: on install it is made when missing, else it is removed if
     /// nobody has written into it.
     void processFlagFile(const QString &name, RunMode mode);

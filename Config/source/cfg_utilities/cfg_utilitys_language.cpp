@@ -42,6 +42,13 @@ void cfg_utilitys::setUpLanguage(RunMode mode)
         installSolverResources();
     }
     m_state.runMode = stored;
+    m_state.currentLocale = m_state.locale;
+}
+
+void cfg_utilitys::changeLanguage(const QString &locale)
+{
+    m_state.locale = locale;
+    setUpLanguage(RunMode::Install);
 }
 
 void cfg_utilitys::createFlagsFile()

@@ -1,11 +1,12 @@
 #include "cfg_wizard/start_up.h"
 
 #include "cfg_utilities/cfg_utilitys.h"
+#include "cfg_wizard/class_wizard.h"
 #include "cfg_wizard/interface_translators.h"
 #include "cfg_wizard/wizard_plan.h"
 #include "nvx_util/system.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 namespace {
 
@@ -14,13 +15,12 @@ struct Messages
     Q_DECLARE_TR_FUNCTIONS(StartUp)
 };
 
-// This build has the engine and the silent run; what it lacks it says, and does nothing in its place.
-int tellThatPagesAreMissing(cfg_utilitys &engine)
+int showPages(cfg_utilitys &engine, const WizardPlan &plan)
 {
-    engine.inform(1,
-                  Messages::tr("This build has no configuration pages. Use the options -I -S to install or "
-                               "-U -S to remove."));
-    return 1;
+    ClassWizard wizard(engine, plan.pages);
+    engine.searchCADPackages(); // which sets the boxes of the pages
+    wizard.show();
+    return QApplication::exec();
 }
 
 } // namespace
@@ -35,12 +35,11 @@ int runPasses(const cfg_utilitys &engine, const std::function<int()> &pass)
     }
 }
 
-int runPass(cfg_utilitys &engine)
+int runPass(cfg_utilitys &engine, const WizardPlan &plan)
 {
     engine.checkRunningCAD();
     engine.checkRunningProduct(OnMatch::List);
 
-    const WizardPlan plan = planFor(engine.state().runMode, engine.state().silent);
     engine.setRunMode(plan.runMode);
     switch (plan.action) {
     case WizardPlan::Action::RunSilently:
@@ -57,8 +56,13 @@ int runPass(cfg_utilitys &engine)
         engine.log(1, Messages::tr("This build has no localization tool"));
         return 0;
     case WizardPlan::Action::ShowPages:
-        engine.searchCADPackages();
         break;
     }
-    return tellThatPagesAreMissing(engine);
+    return showPages(engine, plan);
+}
+
+int runProgram(cfg_utilitys &engine)
+{
+    const WizardPlan plan = planFor(engine.state().runMode, engine.state().silent);
+    return runPasses(engine, [&] { return runPass(engine, plan); });
 }

@@ -25,7 +25,7 @@ struct RunState
     QString locale;            ///< interface language, such as "de-DE"
     QString installDir;        ///< folder of the running executable, native separators, no trailing one
     QString installDirEscaped; ///< installDir with every "\" doubled
-    QString currentLocale;     ///< the language remembered when the run began
+    QString currentLocale;     ///< the language that the pages are in
     QString commonDesktop;     ///< desktop folder of all users, empty if there is none
     bool cadSearchSuppressed = false; ///< CAD systems are not searched for
     QStringList pendingNotes;         ///< lines told first when the installation run starts

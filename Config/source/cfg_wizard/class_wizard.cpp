@@ -1,0 +1,84 @@
+#include "cfg_wizard/class_wizard.h"
+
+#include "cfg_utilities/cfg_utilitys.h"
+#include "cfg_wizard/conclusion_page.h"
+#include "cfg_wizard/feature_page.h"
+#include "cfg_wizard/welcome_page.h"
+#include "run/product.h"
+
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QPixmap>
+
+using Page = WizardPlan::Page;
+
+namespace {
+
+// The pages' header is as high as its picture: large text takes a higher one.
+QPixmap bannerFor(const QFontMetrics &text)
+{
+    const QPixmap banner(QStringLiteral(":/image/banner.png"));
+    const int wanted = 3 * text.lineSpacing() + 16;
+    if (banner.isNull() || banner.height() >= wanted)
+        return banner;
+    return banner.scaled(banner.width(), wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+ClassWizard::ClassWizard(cfg_utilitys &engine, const QList<Page> &pages)
+    : m_engine(engine)
+{
+    for (const Page page : pages)
+        setPage(static_cast<int>(page), makePage(page));
+    dress();
+    levelPages();
+}
+
+QWizardPage *ClassWizard::makePage(Page page)
+{
+    switch (page) {
+    case Page::Welcome:
+        return new WelcomePage(m_engine, static_cast<int>(Page::Feature), this);
+    case Page::Feature:
+        return new FeaturePage(m_engine, this);
+    case Page::Conclusion:
+        break;
+    }
+    return new ConclusionPage(m_engine, this);
+}
+
+void ClassWizard::dress()
+{
+    setPixmap(QWizard::BannerPixmap, bannerFor(fontMetrics()));
+    setWindowTitle(tr("%1 %2 Configuration Wizard").arg(productName, productRelease));
+    setWizardStyle(QWizard::ModernStyle);
+    setOption(QWizard::HaveHelpButton, false);
+    setOption(QWizard::NoCancelButton, true);
+}
+
+// The window keeps its height from page to page.
+void ClassWizard::levelPages()
+{
+    int tallest = 0;
+    const QList<int> ids = pageIds();
+    for (const int id : ids)
+        tallest = std::max(tallest, page(id)->sizeHint().height());
+    for (const int id : ids)
+        page(id)->setMinimumHeight(tallest);
+}
+
+void ClassWizard::accept()
+{
+    m_engine.log(0, tr("Program exiting"));
+    QWizard::accept();
+}
+
+// Escape would take the window away in the middle of a run, which goes on all the same.
+void ClassWizard::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel) && currentId() == static_cast<int>(Page::Conclusion) &&
+        !currentPage()->isComplete())
+        return;
+    QWizard::keyPressEvent(event);
+}

@@ -1,0 +1,88 @@
+#include "cfg_wizard/welcome_page.h"
+
+#include "cfg_utilities/cfg_utilitys.h"
+#include "cfg_wizard/start_up.h"
+#include "nvx_util/system.h"
+#include "run/product.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
+
+using Nvx::Util::System;
+
+namespace {
+
+// In the order of System::validLocales.
+constexpr const char *languageNames[] = {
+    QT_TRANSLATE_NOOP("WelcomePage", "English"),
+    QT_TRANSLATE_NOOP("WelcomePage", "Chinese (Simplified)"),
+    QT_TRANSLATE_NOOP("WelcomePage", "Chinese (Traditional)"),
+    QT_TRANSLATE_NOOP("WelcomePage", "German"),
+    QT_TRANSLATE_NOOP("WelcomePage", "French"),
+    QT_TRANSLATE_NOOP("WelcomePage", "Japanese"),
+    QT_TRANSLATE_NOOP("WelcomePage", "Italian"),
+    QT_TRANSLATE_NOOP("WelcomePage", "Korean"),
+    QT_TRANSLATE_NOOP("WelcomePage", "Russian"),
+};
+
+// Codes are compared without case: a command line may have spelled its own in any.
+int positionOf(const QComboBox &languages, const QString &code)
+{
+    return languages.findData(code, Qt::UserRole, Qt::MatchFixedString);
+}
+
+} // namespace
+
+WelcomePage::WelcomePage(cfg_utilitys &engine, int followingPage, QWidget *parent)
+    : QWizardPage(parent)
+    , m_engine(engine)
+    , m_followingPage(followingPage)
+    , m_languages(new QComboBox(this))
+{
+    setTitle(tr("Welcome"));
+    setSubTitle(QStringLiteral(" "));
+
+    auto *intro = new QLabel(
+        tr("This wizard will configure Velmora %1 %2 for your system.").arg(productName, productRelease),
+        this);
+    intro->setObjectName(QStringLiteral("m_intro"));
+    intro->setWordWrap(true);
+
+    auto *changeLanguage = new QLabel(tr("Change language"), this);
+    changeLanguage->setObjectName(QStringLiteral("m_changeLanguage"));
+    changeLanguage->setBuddy(m_languages);
+    m_languages->setObjectName(QStringLiteral("m_languages"));
+    m_languages->setAccessibleName(changeLanguage->text());
+    offerLanguages();
+
+    auto *layout = new QGridLayout(this);
+    layout->addWidget(intro, 0, 0, 1, 3);
+    layout->addWidget(new QLabel(QStringLiteral(" "), this), 1, 0);
+    layout->addWidget(new QLabel(QStringLiteral(" "), this), 2, 0);
+    layout->addWidget(changeLanguage, 3, 0);
+    layout->addWidget(m_languages, 3, 1);
+    layout->setColumnStretch(2, 1);
+}
+
+void WelcomePage::offerLanguages()
+{
+    const QStringList codes = System::validLocales();
+    qsizetype place = 0;
+    for (const char *name : languageNames)
+        m_languages->addItem(tr(name), codes.value(place++));
+    m_languages->setCurrentIndex(positionOf(*m_languages, m_engine.state().currentLocale));
+}
+
+int WelcomePage::nextId() const
+{
+    const int position = positionOf(*m_languages, m_engine.state().currentLocale);
+    const int selection = m_languages->currentIndex();
+    if (selection == position)
+        return m_followingPage;
+
+    m_engine.changeLanguage(m_languages->itemData(selection).toString());
+    QCoreApplication::exit(languageChanged);
+    return -1;
+}

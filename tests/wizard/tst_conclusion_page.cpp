@@ -1,0 +1,197 @@
+#include "cfg_wizard/conclusion_page.h"
+#include "wizard/wizard_fixture.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+const QString complete = text("The installation or update is complete. Click finish to continue.");
+
+} // namespace
+
+class tst_conclusion_page : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_fixture = std::make_unique<WizardFixture>(); }
+    void cleanup() { m_fixture.reset(); }
+
+    void theRunStartsOneSecondLater()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        m_fixture->show(text("-U"));
+        QTRY_COMPARE(m_fixture->runs(), 1);
+        QVERIFY2(timer.elapsed() >= 950, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void finishStaysGreyUntilTheLastRow()
+    {
+        m_fixture->show(text("-U"));
+        const QAbstractButton &finish = m_fixture->button(QWizard::FinishButton);
+        QVERIFY(finish.isVisible());
+        QVERIFY(!finish.isEnabled());
+        bool greyMeanwhile = true;
+        connect(m_fixture->progress().model(), &QAbstractItemModel::rowsInserted, this,
+                [&] { greyMeanwhile = greyMeanwhile && !finish.isEnabled(); });
+        QTRY_VERIFY(finish.isEnabled());
+        QVERIFY(greyMeanwhile);
+        QCOMPARE(m_fixture->rows().last(), complete);
+        QVERIFY(m_fixture->rows().contains(text("UnInstall Tutorials")));
+    }
+
+    void everyRowIsScrolledTo()
+    {
+        ClassWizard &wizard = m_fixture->show(text("-U"));
+        auto *page = qobject_cast<ConclusionPage *>(wizard.currentPage());
+        for (int row = 0; row < 200; ++row) {
+            page->appendRow(text("row %1").arg(row));
+            const QListWidget &list = m_fixture->progress();
+            QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(row))));
+        }
+    }
+
+    void theRunWaitsForThePage()
+    {
+        ClassWizard &wizard = m_fixture->show(text("-I"));
+        QTest::qWait(1200);
+        QCOMPARE(m_fixture->runs(), 0);
+        wizard.next();
+        QTRY_COMPARE(m_fixture->runs(), 1);
+    }
+
+    void goingBackInTimeStartsNoRun()
+    {
+        ClassWizard &wizard = m_fixture->show(text("-I"));
+        wizard.next();
+        QTest::qWait(300);
+        m_fixture->button(QWizard::BackButton).click();
+        QCOMPARE(wizard.currentPage()->title(), text("CAD Launchers "));
+        QTest::qWait(1200);
+        QCOMPARE(m_fixture->runs(), 0);
+
+        wizard.next();
+        QTRY_VERIFY(m_fixture->engine->state().runComplete);
+        QTest::qWait(1200);
+        QCOMPARE(m_fixture->runs(), 1);
+    }
+
+    void comingBackAfterARunStartsAnother()
+    {
+        ClassWizard &wizard = m_fixture->show(text("-I"));
+        wizard.next();
+        QTRY_VERIFY(m_fixture->button(QWizard::FinishButton).isEnabled());
+        m_fixture->button(QWizard::BackButton).click();
+        wizard.next();
+        QVERIFY(!m_fixture->button(QWizard::FinishButton).isEnabled());
+        QTRY_COMPARE(m_fixture->runs(), 2);
+        QTRY_VERIFY(m_fixture->button(QWizard::FinishButton).isEnabled());
+        QCOMPARE(m_fixture->rows().filter(complete).size(), 1);
+    }
+
+    void noSecondRunStartsDuringARun()
+    {
+        ClassWizard &wizard = m_fixture->show(text("-I"));
+        wizard.next();
+        auto *page = qobject_cast<ConclusionPage *>(wizard.currentPage());
+        bool backMeanwhile = true;
+        bool tried = false;
+        m_fixture->machine.whileRunning = [&](const auto &) {
+            if (std::exchange(tried, true))
+                return;
+            backMeanwhile = m_fixture->button(QWizard::BackButton).isEnabled();
+            wizard.back(); // as nobody can by the button
+            wizard.next();
+            page->handleFinalize();
+            QTest::qWait(1200);
+        };
+        QTRY_VERIFY(m_fixture->engine->state().runComplete);
+        QVERIFY(tried);
+        QCOMPARE(m_fixture->runs(), 1);
+        QVERIFY(!backMeanwhile);
+        QTRY_VERIFY(m_fixture->button(QWizard::FinishButton).isEnabled());
+        QVERIFY(m_fixture->button(QWizard::BackButton).isEnabled());
+        QCOMPARE(m_fixture->rows().last(), complete);
+    }
+
+    void aWindowClosedBeforeTheRunStartsNone()
+    {
+        ClassWizard &wizard = m_fixture->show(text("-U"));
+        QTimer::singleShot(300, &wizard, &QWidget::close);
+        QCOMPARE(QApplication::exec(), 0);
+        QTest::qWait(1200);
+        QCOMPARE(m_fixture->runs(), 0);
+    }
+
+    void aRunWhoseWindowIsClosedGoesOnToItsEnd()
+    {
+        ClassWizard &wizard = m_fixture->show(text("-I"));
+        wizard.next();
+        bool loopAlive = false;
+        m_fixture->machine.whileRunning = [&](const auto &) {
+            if (!wizard.isVisible())
+                return;
+            wizard.close();
+            QTimer::singleShot(0, this, [&] { loopAlive = true; });
+        };
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(loopAlive);
+        QVERIFY(m_fixture->engine->state().runComplete);
+        QCOMPARE(m_fixture->runs(), 1);
+        QCOMPARE(m_fixture->lines().last(), text("   0 ") + complete);
+    }
+
+    // A box that the run shows after its window was closed must wait for the user as always.
+    void anEventLoopInARunWhoseWindowIsClosedStillWaits()
+    {
+        ClassWizard &wizard = m_fixture->show(text("-U"));
+        bool waited = false;
+        m_fixture->machine.whileRunning = [&](const auto &) {
+            if (!wizard.isVisible())
+                return;
+            wizard.close();
+            QCoreApplication::processEvents();
+            QEventLoop box;
+            QTimer::singleShot(200, &box, [&] {
+                waited = true;
+                box.quit();
+            });
+            box.exec();
+        };
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(waited);
+    }
+
+    void aRunWhosePagesAreDeletedGoesOnToItsEnd()
+    {
+        m_fixture->show(text("-I")).next();
+        m_fixture->machine.whileRunning = [&](const auto &) { m_fixture->wizard.reset(); };
+        QTRY_VERIFY(m_fixture->engine->state().runComplete);
+        QVERIFY(!m_fixture->wizard);
+        QCOMPARE(m_fixture->lines().last(), text("   0 ") + complete);
+    }
+
+    void pendingNotesAreTheFirstRows()
+    {
+        m_fixture->show(text("-U"));
+        m_fixture->engine->addPendingNote(text("a note"));
+        QTRY_VERIFY(m_fixture->engine->state().runComplete);
+        QCOMPARE(m_fixture->rows().first(), text("a note"));
+        QVERIFY(m_fixture->rows().at(1).startsWith(text("Processors: ")));
+    }
+
+private:
+    std::unique_ptr<WizardFixture> m_fixture;
+};
+
+QTEST_MAIN(tst_conclusion_page)
+#include "tst_conclusion_page.moc"

@@ -1,0 +1,137 @@
+// The pages in the languages that are shipped: a change of language while the program runs, and whether every
+// text has its room.
+
+#include "cfg_wizard/feature_page.h"
+#include "cfg_wizard/interface_translators.h"
+#include "cfg_wizard/start_up.h"
+#include "nvx_util/system.h"
+#include "wizard/wizard_fixture.h"
+
+#include <QComboBox>
+#include <QTest>
+#include <QTimer>
+
+using Nvx::Util::System;
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+QString catalogue(const QString &locale, const QString &name)
+{
+    return text(NVX_LANGUAGES_FOLDER) + QLatin1Char('/') + locale + QLatin1Char('/') + name;
+}
+
+ClassWizard *shownWizard()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *wizard = qobject_cast<ClassWizard *>(window);
+        if (wizard && wizard->isVisible())
+            return wizard;
+    }
+    return nullptr;
+}
+
+// What the pages of a wizard say: the titles, the button that leads on, and the selected language.
+QString textsOf(const ClassWizard &wizard)
+{
+    const auto *languages = wizard.findChild<QComboBox *>(text("m_languages"));
+    return titlesOf(wizard) + QLatin1Char('|') + wizard.button(QWizard::NextButton)->text() +
+           QLatin1Char('|') + languages->currentText();
+}
+
+} // namespace
+
+class tst_language_change : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        m_poll.setInterval(20);
+        connect(&m_poll, &QTimer::timeout, this, &tst_language_change::act);
+    }
+
+    void init()
+    {
+        m_fixture = std::make_unique<WizardFixture>();
+        for (const char *locale : {"de-DE", "ja-JP"}) {
+            QVERIFY(QDir().mkpath(m_fixture->installed(locale)));
+            const QString toolkit =
+                text("qt_%1.qm").arg(text(locale).replace(QLatin1Char('-'), QLatin1Char('_')));
+            for (const QString &name : {text("nvxconfig.qm"), toolkit}) {
+                const QString target = m_fixture->test.path(text("NVX/%1/%2").arg(text(locale), name));
+                QVERIFY(QFile::copy(catalogue(text(locale), name), target));
+            }
+        }
+        m_choices.clear();
+        m_seen.clear();
+    }
+
+    void cleanup()
+    {
+        m_poll.stop();
+        m_fixture.reset();
+    }
+
+    void aChangeRebuildsThePagesInTheNewLanguage_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::newRow("no mode") << QString();
+        QTest::newRow("silent without a mode") << text("-S");
+    }
+
+    void aChangeRebuildsThePagesInTheNewLanguage()
+    {
+        QFETCH(QString, options);
+        m_choices = {text("de-DE"), text("ja-JP"), text("en-US")};
+        cfg_utilitys &engine = m_fixture->start(options);
+        m_poll.start();
+        QCOMPARE(runProgram(engine), 0);
+        QCOMPARE(m_seen, QStringList({text("Welcome|CAD Launchers |Conclusion |&Next >|English"),
+                                      text("Willkommen|CAD-Launcher |Abschluss |&Weiter >|Deutsch"),
+                                      text("ようこそ|CAD ランチャー |最終ステップ |次へ(&N) >|日本語"),
+                                      text("Welcome|CAD Launchers |Conclusion |&Next >|English")}));
+        QCOMPARE(engine.state().locale, text("en-US"));
+        QVERIFY(!engine.state().runComplete);
+    }
+
+    void theLanguageOfTheCommandLineIsThatOfThePages()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-Lde-DE"));
+        m_poll.start();
+        QCOMPARE(runProgram(engine), 0);
+        QCOMPARE(m_seen, QStringList(text("Willkommen|CAD-Launcher |Abschluss |&Weiter >|Deutsch")));
+    }
+
+private:
+    // On each new wizard: notes its texts, then chooses the next language and goes on, or closes the window.
+    void act()
+    {
+        ClassWizard *wizard = shownWizard();
+        if (!wizard)
+            return;
+        m_seen << textsOf(*wizard);
+        QVERIFY(wizard->currentPage() == wizard->page(wizard->pageIds().first()));
+        if (m_choices.isEmpty()) {
+            wizard->close();
+            return;
+        }
+        auto *languages = wizard->findChild<QComboBox *>(text("m_languages"));
+        languages->setCurrentIndex(languages->findData(m_choices.takeFirst()));
+        wizard->button(QWizard::NextButton)->click();
+    }
+
+    QTimer m_poll;
+    QStringList m_choices;
+    QStringList m_seen;
+    std::unique_ptr<WizardFixture> m_fixture;
+};
+
+QTEST_MAIN(tst_language_change)
+#include "tst_language_change.moc"

@@ -1,0 +1,128 @@
+#include "cfg_wizard/progress_list.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QScrollBar>
+#include <QTest>
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+// How many lines of text a row takes.
+int linesOf(const ProgressList &list, int row)
+{
+    const QListWidgetItem *item = list.item(row);
+    return list.visualItemRect(item).height() / list.fontMetrics().height();
+}
+
+} // namespace
+
+class tst_progress_list : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_list = std::make_unique<ProgressList>();
+        m_list->resize(300, 200);
+        m_list->show();
+        m_list->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_list.get()));
+        QGuiApplication::clipboard()->setText(text("from elsewhere"));
+    }
+    void cleanup() { m_list.reset(); }
+
+    void theSelectedRowsAreCopiedInTheirOrder()
+    {
+        for (const char *row : {"one", "two", "three", "four"})
+            m_list->appendRow(text(row));
+        for (const int row : {3, 0, 2})
+            m_list->item(row)->setSelected(true);
+        QTest::keyClick(m_list.get(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), text("one\nthree\nfour"));
+    }
+
+    void allRowsCanBeCopiedByKeys()
+    {
+        for (const char *row : {"one", "two"})
+            m_list->appendRow(text(row));
+        QTest::keyClick(m_list.get(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(m_list.get(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), text("one\ntwo"));
+    }
+
+    void aCopiedPathIsThePathItself()
+    {
+        const QString path = text("C:\\NVX/en-US\\Examples.7z");
+        m_list->appendRow(path);
+        m_list->selectAll();
+        m_list->copySelectedRows();
+        QCOMPARE(QGuiApplication::clipboard()->text(), path);
+    }
+
+    void withNothingSelectedTheClipboardStays()
+    {
+        m_list->appendRow(text("one"));
+        m_list->copySelectedRows();
+        QCOMPARE(QGuiApplication::clipboard()->text(), text("from elsewhere"));
+    }
+
+    void theSelectionStaysWhileRowsCome()
+    {
+        m_list->appendRow(text("one"));
+        m_list->item(0)->setSelected(true);
+        for (int i = 0; i < 50; ++i)
+            m_list->appendRow(text("more"));
+        QVERIFY(m_list->item(0)->isSelected());
+        QCOMPARE(m_list->selectedItems().size(), 1);
+    }
+
+    void theMenuCopiesToo()
+    {
+        QCOMPARE(m_list->contextMenuPolicy(), Qt::ActionsContextMenu);
+        QCOMPARE(m_list->actions().size(), 2);
+        m_list->appendRow(text("one"));
+        m_list->actions().at(1)->trigger();
+        m_list->actions().at(0)->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(), text("one"));
+    }
+
+    void aLongRowIsWrapped_data()
+    {
+        QTest::addColumn<QString>("row");
+        QTest::addColumn<bool>("wrapped");
+        QTest::newRow("short") << text("Install Tutorials") << false;
+        QTest::newRow("words") << QString(text("a word and ")).repeated(10) << true;
+        QTest::newRow("a path without blanks")
+            << text("C:") + QString(text("\\a-folder")).repeated(10) << true;
+    }
+
+    void aLongRowIsWrapped()
+    {
+        QFETCH(QString, row);
+        m_list->appendRow(row);
+        QTEST(linesOf(*m_list, 0) > 1, "wrapped");
+        QCOMPARE(m_list->horizontalScrollBar()->maximum(), 0);
+        QVERIFY(m_list->visualItemRect(m_list->item(0)).width() <= m_list->viewport()->width());
+    }
+
+    void aWiderListNeedsFewerLines()
+    {
+        m_list->appendRow(QString(text("a word and ")).repeated(10));
+        QVERIFY(linesOf(*m_list, 0) > 1);
+        m_list->resize(2000, 200);
+        QTRY_COMPARE(linesOf(*m_list, 0), 1);
+    }
+
+private:
+    std::unique_ptr<ProgressList> m_list;
+};
+
+QTEST_MAIN(tst_progress_list)
+#include "tst_progress_list.moc"

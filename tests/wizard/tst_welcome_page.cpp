@@ -1,0 +1,132 @@
+#include "nvx_util/system.h"
+#include "wizard/wizard_fixture.h"
+
+#include <QComboBox>
+#include <QTest>
+#include <QTimer>
+
+using Nvx::Util::System;
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+} // namespace
+
+class tst_welcome_page : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_fixture = std::make_unique<WizardFixture>(); }
+    void cleanup() { m_fixture.reset(); }
+
+    void itSaysWhatTheWizardDoes()
+    {
+        show(QString());
+        QStringList texts;
+        const auto labels = m_fixture->wizard->currentPage()->findChildren<QLabel *>();
+        for (const QLabel *label : labels)
+            texts << label->text();
+        texts.removeAll(text(" "));
+        QCOMPARE(texts, QStringList({text("This wizard will configure Velmora NVX 2017 for your system."),
+                                     text("Change language")}));
+    }
+
+    void itOffersTheLanguagesInTheirOrder()
+    {
+        QStringList offered;
+        const QComboBox &languages = show(QString());
+        for (int i = 0; i < languages.count(); ++i)
+            offered << languages.itemText(i) + text("=") + languages.itemData(i).toString();
+        QCOMPARE(offered, QStringList({text("English=en-US"), text("Chinese (Simplified)=zh-CN"),
+                                       text("Chinese (Traditional)=zh-TW"), text("German=de-DE"),
+                                       text("French=fr-FR"), text("Japanese=ja-JP"), text("Italian=it-IT"),
+                                       text("Korean=ko-KR"), text("Russian=ru-RU")}));
+    }
+
+    void theRunsLanguageIsSelected_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QString>("selected");
+        QTest::newRow("the system's") << QString() << text("English");
+        QTest::newRow("of the command line") << text("-Lja-JP") << text("Japanese");
+        QTest::newRow("spelled in capitals") << text("-LIT-IT") << text("Italian");
+        QTest::newRow("not offered") << text("-Lde") << QString();
+        QTest::newRow("none named") << text("-L") << text("Korean");
+    }
+
+    void theRunsLanguageIsSelected()
+    {
+        QFETCH(QString, options);
+        System::setLocale(text("ko-KR"));
+        QTEST(show(options).currentText(), "selected");
+    }
+
+    void theSameLanguageOnlyMovesOn_data() { theRunsLanguageIsSelected_data(); }
+
+    void theSameLanguageOnlyMovesOn()
+    {
+        QFETCH(QString, options);
+        System::setLocale(text("ko-KR"));
+        show(options);
+        const QStringList before = m_fixture->lines();
+        m_fixture->button(QWizard::NextButton).click();
+        QCOMPARE(m_fixture->wizard->currentPage()->title(), text("CAD Launchers "));
+        QCOMPARE(m_fixture->lines(), before);
+    }
+
+    void anotherLanguageEndsTheEventLoop()
+    {
+        QComboBox &languages = show(QString());
+        QTimer::singleShot(0, this, [&] {
+            languages.setCurrentText(text("Japanese"));
+            m_fixture->button(QWizard::NextButton).click();
+        });
+        QCOMPARE(QApplication::exec(), 901);
+        QCOMPARE(m_fixture->wizard->currentPage()->title(), text("Welcome"));
+    }
+
+    void anotherLanguageIsSetUpAtOnce()
+    {
+        writeFile(m_fixture->installed("ja-JP/VistrelResources.dll"), "Japanese");
+        show(text("-Lde-DE")).setCurrentText(text("Japanese"));
+        const auto before = m_fixture->lines().size();
+        QCOMPARE(m_fixture->wizard->nextId(), -1);
+        const RunState &state = m_fixture->engine->state();
+        QCOMPARE(state.locale, text("ja-JP"));
+        QCOMPARE(state.currentLocale, text("ja-JP"));
+        QVERIFY(state.runMode == RunMode::Install);
+        QCOMPARE(System::getLocale(), text("ja-JP"));
+        QCOMPARE(readFile(m_fixture->installed("VistrelResources.dll")), QByteArray("Japanese"));
+        const QStringList lines = m_fixture->lines().mid(before);
+        QVERIFY(lines.contains(text("   2 Install Language ja-JP")));
+        QCOMPARE(lines.filter(text("ChangeLanguage = ")),
+                 QStringList({text("   0 ChangeLanguage = en-US"), text("   0 ChangeLanguage = ja-JP")}));
+    }
+
+    void choosingAloneChangesNothing()
+    {
+        QComboBox &languages = show(QString());
+        const QStringList before = m_fixture->lines();
+        for (int i = 0; i < languages.count(); ++i)
+            languages.setCurrentIndex(i);
+        QTest::keyClick(m_fixture->wizard.get(), Qt::Key_Escape); // looks at the page, too
+        QCOMPARE(m_fixture->lines(), before);
+        QCOMPARE(m_fixture->engine->state().locale, text("en-US"));
+    }
+
+private:
+    QComboBox &show(const QString &options)
+    {
+        return *m_fixture->show(options).findChild<QComboBox *>(text("m_languages"));
+    }
+
+    std::unique_ptr<WizardFixture> m_fixture;
+};
+
+QTEST_MAIN(tst_welcome_page)
+#include "tst_welcome_page.moc"
