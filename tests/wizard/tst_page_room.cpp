@@ -101,7 +101,7 @@ private slots:
         const InterfaceTranslators translators(text(NVX_LANGUAGES_FOLDER), locale);
 
         WizardFixture fixture;
-        ClassWizard &wizard = fixture.build(QString());
+        ClassWizard &wizard = fixture.build(text("-L") + locale);
         labelBoxes(*wizard.findChild<FeaturePage *>());
         wizard.show();
         QVERIFY(QTest::qWaitForWindowExposed(&wizard));

@@ -69,6 +69,7 @@ FeaturePage::FeaturePage(cfg_utilitys &engine, QWidget *parent)
     }
     for (const int row : rowsBetweenGroups)
         layout->setRowMinimumHeight(row, fontMetrics().height() / 2);
+    layout->setRowStretch(boxPlaces[launcherCount - 1].row + 1, 1);
     m_engine.setLauncherBoxes(this);
 }
 

@@ -64,6 +64,7 @@ WelcomePage::WelcomePage(cfg_utilitys &engine, int followingPage, QWidget *paren
     layout->addWidget(changeLanguage, 3, 0);
     layout->addWidget(m_languages, 3, 1);
     layout->setColumnStretch(2, 1);
+    layout->setRowStretch(4, 1);
 }
 
 void WelcomePage::offerLanguages()
