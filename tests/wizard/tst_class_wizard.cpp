@@ -79,7 +79,6 @@ private slots:
         for (const auto page : {WizardPlan::Page::Welcome, WizardPlan::Page::Feature})
             QCOMPARE(wizard.page(int(page))->pixmap(QWizard::LogoPixmap).isNull(),
                      page == WizardPlan::Page::Welcome);
-        QVERIFY(!wizard.windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
     }
 
     void thePagesFollowEachOther()

@@ -4,6 +4,7 @@
 #include "cfg_wizard/conclusion_page.h"
 #include "cfg_wizard/feature_page.h"
 #include "cfg_wizard/welcome_page.h"
+#include "help/help_button.h"
 #include "run/product.h"
 
 #include <QFontMetrics>
@@ -29,6 +30,7 @@ QPixmap bannerFor(const QFontMetrics &text)
 ClassWizard::ClassWizard(cfg_utilitys &engine, const QList<Page> &pages)
     : m_engine(engine)
 {
+    removeTitleBarHelpButton(*this);
     for (const Page page : pages)
         setPage(static_cast<int>(page), makePage(page));
     dress();
