@@ -2,13 +2,17 @@
 // With the variable NVX_PICTURES the pages are saved as pictures into the folder that it names.
 
 #include "cfg_wizard/feature_page.h"
+#include "cfg_wizard/interface_font.h"
 #include "cfg_wizard/interface_translators.h"
 #include "nvx_util/system.h"
 #include "wizard/wizard_fixture.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGlyphRun>
+#include <QRawFont>
 #include <QTest>
+#include <QTextLayout>
 
 namespace {
 
@@ -99,6 +103,7 @@ private slots:
         font.setPointSizeF(m_font.pointSizeF() * percent / 100);
         QApplication::setFont(font);
         const InterfaceTranslators translators(text(NVX_LANGUAGES_FOLDER), locale);
+        const InterfaceFont interfaceFont(locale);
 
         WizardFixture fixture;
         ClassWizard &wizard = fixture.build(text("-L") + locale);
@@ -123,6 +128,30 @@ private slots:
             const QRect shown = fixture.progress().visualItemRect(fixture.progress().item(row));
             QVERIFY(shown.left() >= 0 && shown.right() <= room.right());
         }
+    }
+
+    void aCharacterHasTheShapeOfItsLanguage_data()
+    {
+        QTest::addColumn<QString>("locale");
+        for (const char *locale : {"ja-JP", "ko-KR", "zh-CN", "zh-TW"})
+            QTest::newRow(locale) << text(locale);
+    }
+
+    void aCharacterHasTheShapeOfItsLanguage()
+    {
+        QFETCH(QString, locale);
+        const QFont before = QApplication::font();
+        {
+            const InterfaceFont interfaceFont(locale);
+            QTextLayout layout(text("直"), QApplication::font());
+            layout.beginLayout();
+            layout.createLine();
+            layout.endLayout();
+            QCOMPARE(layout.glyphRuns().size(), 1);
+            const QString family = layout.glyphRuns().first().rawFont().familyName();
+            QVERIFY2(fontsOfLanguage(locale).contains(family), qPrintable(family));
+        }
+        QCOMPARE(QApplication::font(), before);
     }
 
 private:

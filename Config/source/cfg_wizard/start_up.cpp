@@ -2,6 +2,7 @@
 
 #include "cfg_utilities/cfg_utilitys.h"
 #include "cfg_wizard/class_wizard.h"
+#include "cfg_wizard/interface_font.h"
 #include "cfg_wizard/interface_translators.h"
 #include "cfg_wizard/wizard_plan.h"
 #include "nvx_util/system.h"
@@ -28,7 +29,9 @@ int showPages(cfg_utilitys &engine, const WizardPlan &plan)
 int runPasses(const cfg_utilitys &engine, const std::function<int()> &pass)
 {
     for (;;) {
-        const InterfaceTranslators translators(engine.state().installDir, Nvx::Util::System::getLocale());
+        const QString locale = Nvx::Util::System::getLocale();
+        const InterfaceTranslators translators(engine.state().installDir, locale);
+        const InterfaceFont font(locale);
         const int result = pass();
         if (result != languageChanged)
             return result;
