@@ -2,6 +2,7 @@
 #include "wizard/wizard_fixture.h"
 
 #include <QComboBox>
+#include <QFile>
 #include <QTest>
 #include <QTimer>
 
@@ -106,6 +107,24 @@ private slots:
         QVERIFY(lines.contains(text("   2 Install Language ja-JP")));
         QCOMPARE(lines.filter(text("ChangeLanguage = ")),
                  QStringList({text("   0 ChangeLanguage = en-US"), text("   0 ChangeLanguage = ja-JP")}));
+    }
+
+    void theShortcutIsMadeAnewAroundTheLanguage()
+    {
+        writeFile(m_fixture->test.path(text("Desktop/Velmora NVX 2017.lnk")), "named in the old language");
+        m_fixture->machine.desktop = m_fixture->test.path(text("Desktop"));
+        show(QString()).setCurrentText(text("French"));
+        const auto before = m_fixture->lines().size();
+        m_fixture->wizard->nextId();
+
+        const QStringList lines = m_fixture->lines().mid(before);
+        const QString desktop = text("   0 Desktop=") + m_fixture->machine.desktop;
+        QCOMPARE(lines.first(), desktop);
+        QCOMPARE(lines.at(1), text("   2 Install Language fr-FR"));
+        QVERIFY(lines.last().startsWith(text("   0 Create shortcut ")));
+        QCOMPARE(lines.at(lines.size() - 2), desktop);
+        QVERIFY(!QFile::exists(m_fixture->test.path(text("Desktop/Velmora NVX 2017.lnk"))));
+        QCOMPARE(m_fixture->machine.shellLinks.size(), 1);
     }
 
     void choosingAloneChangesNothing()

@@ -82,7 +82,8 @@ public:
     /// is the one the run is taken for.
     void setUpLanguage(RunMode mode);
 
-    /// Makes another language the run's and the product's in the course of an installation.
+    /// Makes another language the run's and the product's in the course of an installation. The shortcuts are
+    /// made anew.
     void changeLanguage(const QString &locale);
 
     /// Keeps a marker file in the flags folder: on install it is made when missing, else it is removed if

@@ -45,10 +45,13 @@ void cfg_utilitys::setUpLanguage(RunMode mode)
     m_state.currentLocale = m_state.locale;
 }
 
+// The shortcuts' names are those of the language in which they were made.
 void cfg_utilitys::changeLanguage(const QString &locale)
 {
+    createShortcuts(RunMode::Uninstall);
     m_state.locale = locale;
     setUpLanguage(RunMode::Install);
+    createShortcuts(RunMode::Install);
 }
 
 void cfg_utilitys::createFlagsFile()
