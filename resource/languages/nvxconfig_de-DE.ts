@@ -48,6 +48,17 @@
     </message>
 </context>
 <context>
+    <name>ClassWizard</name>
+    <message>
+        <source>%1 %2 Configuration Wizard</source>
+        <translation>Konfigurationsassistent für %1 %2</translation>
+    </message>
+    <message>
+        <source>Program exiting</source>
+        <translation>Das Programm wird beendet</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -105,6 +116,17 @@
     </message>
 </context>
 <context>
+    <name>ConclusionPage</name>
+    <message>
+        <source>Conclusion </source>
+        <translation>Abschluss </translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
     <name>ContextHelp</name>
     <message>
         <source>Help</source>
@@ -132,6 +154,49 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1 ist bereits vorhanden, keine Änderung</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturePage</name>
+    <message>
+        <source>Pro/ENGINEER Creo</source>
+        <translation>Pro/ENGINEER Creo</translation>
+    </message>
+    <message>
+        <source>SolidWorks</source>
+        <translation>SolidWorks</translation>
+    </message>
+    <message>
+        <source>Brevant</source>
+        <translation>Brevant</translation>
+    </message>
+    <message>
+        <source>UGS NX</source>
+        <translation>UGS NX</translation>
+    </message>
+    <message>
+        <source>Tamsel</source>
+        <translation>Tamsel</translation>
+    </message>
+    <message>
+        <source>Tamsel Architecture</source>
+        <translation>Tamsel Architecture</translation>
+    </message>
+    <message>
+        <source>Tamsel MEP</source>
+        <translation>Tamsel MEP</translation>
+    </message>
+    <message>
+        <source>SpaceClaim</source>
+        <translation>SpaceClaim</translation>
+    </message>
+    <message>
+        <source>CAD Launchers </source>
+        <translation>CAD-Launcher </translation>
+    </message>
+    <message>
+        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
+        <translation>Für die ausgewählten CAD-Systeme werden NVX-Launcher installiert.</translation>
     </message>
 </context>
 <context>
@@ -315,6 +380,17 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     </message>
 </context>
 <context>
+    <name>ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+</context>
+<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -394,20 +470,12 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
-        <translation>Diese Programmversion enthält keine Konfigurationsseiten. Verwenden Sie zum Installieren die Optionen -I -S und zum Entfernen -U -S.</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>Diese Programmversion enthält kein Lokalisierungswerkzeug</translation>
     </message>
     <message>
         <source>Stopping Services</source>
         <translation>Dienste werden beendet</translation>
-    </message>
-    <message>
-        <source>This build cannot stop services</source>
-        <translation>Diese Programmversion kann keine Dienste beenden</translation>
     </message>
 </context>
 <context>
@@ -453,6 +521,57 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     <message>
         <source>Running NVX 3D-ViewerConfig.</source>
         <translation>NVX 3D-ViewerConfig wird ausgeführt.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>English</source>
+        <translation>Englisch</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation>Chinesisch (vereinfacht)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation>Chinesisch (traditionell)</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Französisch</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japanisch</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>Italienisch</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Koreanisch</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Russisch</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Willkommen</translation>
+    </message>
+    <message>
+        <source>This wizard will configure Velmora %1 %2 for your system.</source>
+        <translation>Dieser Assistent konfiguriert Velmora %1 %2 für Ihr System.</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>Sprache ändern</translation>
     </message>
 </context>
 <context>
@@ -588,133 +707,6 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Suche nach CAD-Paketen abgeschlossen</translation>
-    </message>
-</context>
-<context>
-    <name>ClassWizard</name>
-    <message>
-        <source>%1 %2 Configuration Wizard</source>
-        <translation>Konfigurationsassistent für %1 %2</translation>
-    </message>
-    <message>
-        <source>Program exiting</source>
-        <translation>Das Programm wird beendet</translation>
-    </message>
-</context>
-<context>
-    <name>ConclusionPage</name>
-    <message>
-        <source>Conclusion </source>
-        <translation>Abschluss </translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-</context>
-<context>
-    <name>FeaturePage</name>
-    <message>
-        <source>Pro/ENGINEER Creo</source>
-        <translation>Pro/ENGINEER Creo</translation>
-    </message>
-    <message>
-        <source>SolidWorks</source>
-        <translation>SolidWorks</translation>
-    </message>
-    <message>
-        <source>Brevant</source>
-        <translation>Brevant</translation>
-    </message>
-    <message>
-        <source>UGS NX</source>
-        <translation>UGS NX</translation>
-    </message>
-    <message>
-        <source>Tamsel</source>
-        <translation>Tamsel</translation>
-    </message>
-    <message>
-        <source>Tamsel Architecture</source>
-        <translation>Tamsel Architecture</translation>
-    </message>
-    <message>
-        <source>Tamsel MEP</source>
-        <translation>Tamsel MEP</translation>
-    </message>
-    <message>
-        <source>SpaceClaim</source>
-        <translation>SpaceClaim</translation>
-    </message>
-    <message>
-        <source>CAD Launchers </source>
-        <translation>CAD-Launcher </translation>
-    </message>
-    <message>
-        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
-        <translation>Für die ausgewählten CAD-Systeme werden NVX-Launcher installiert.</translation>
-    </message>
-</context>
-<context>
-    <name>ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>&amp;Alles auswählen</translation>
-    </message>
-</context>
-<context>
-    <name>WelcomePage</name>
-    <message>
-        <source>English</source>
-        <translation>Englisch</translation>
-    </message>
-    <message>
-        <source>Chinese (Simplified)</source>
-        <translation>Chinesisch (vereinfacht)</translation>
-    </message>
-    <message>
-        <source>Chinese (Traditional)</source>
-        <translation>Chinesisch (traditionell)</translation>
-    </message>
-    <message>
-        <source>German</source>
-        <translation>Deutsch</translation>
-    </message>
-    <message>
-        <source>French</source>
-        <translation>Französisch</translation>
-    </message>
-    <message>
-        <source>Japanese</source>
-        <translation>Japanisch</translation>
-    </message>
-    <message>
-        <source>Italian</source>
-        <translation>Italienisch</translation>
-    </message>
-    <message>
-        <source>Korean</source>
-        <translation>Koreanisch</translation>
-    </message>
-    <message>
-        <source>Russian</source>
-        <translation>Russisch</translation>
-    </message>
-    <message>
-        <source>Welcome</source>
-        <translation>Willkommen</translation>
-    </message>
-    <message>
-        <source>This wizard will configure Velmora %1 %2 for your system.</source>
-        <translation>Dieser Assistent konfiguriert Velmora %1 %2 für Ihr System.</translation>
-    </message>
-    <message>
-        <source>Change language</source>
-        <translation>Sprache ändern</translation>
     </message>
 </context>
 </TS>

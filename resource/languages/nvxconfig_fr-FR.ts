@@ -48,6 +48,17 @@
     </message>
 </context>
 <context>
+    <name>ClassWizard</name>
+    <message>
+        <source>%1 %2 Configuration Wizard</source>
+        <translation>Assistant de configuration de %1 %2</translation>
+    </message>
+    <message>
+        <source>Program exiting</source>
+        <translation>Fermeture du programme</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -105,6 +116,17 @@
     </message>
 </context>
 <context>
+    <name>ConclusionPage</name>
+    <message>
+        <source>Conclusion </source>
+        <translation>Fin de la configuration </translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+</context>
+<context>
     <name>ContextHelp</name>
     <message>
         <source>Help</source>
@@ -132,6 +154,49 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1 existe déjà, aucune modification</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturePage</name>
+    <message>
+        <source>Pro/ENGINEER Creo</source>
+        <translation>Pro/ENGINEER Creo</translation>
+    </message>
+    <message>
+        <source>SolidWorks</source>
+        <translation>SolidWorks</translation>
+    </message>
+    <message>
+        <source>Brevant</source>
+        <translation>Brevant</translation>
+    </message>
+    <message>
+        <source>UGS NX</source>
+        <translation>UGS NX</translation>
+    </message>
+    <message>
+        <source>Tamsel</source>
+        <translation>Tamsel</translation>
+    </message>
+    <message>
+        <source>Tamsel Architecture</source>
+        <translation>Tamsel Architecture</translation>
+    </message>
+    <message>
+        <source>Tamsel MEP</source>
+        <translation>Tamsel MEP</translation>
+    </message>
+    <message>
+        <source>SpaceClaim</source>
+        <translation>SpaceClaim</translation>
+    </message>
+    <message>
+        <source>CAD Launchers </source>
+        <translation>Lanceurs CAO </translation>
+    </message>
+    <message>
+        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
+        <translation>Les lanceurs NVX seront installés pour les systèmes de CAO cochés.</translation>
     </message>
 </context>
 <context>
@@ -315,6 +380,17 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     </message>
 </context>
 <context>
+    <name>ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>Cop&amp;ier</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+</context>
+<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -394,20 +470,12 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
-        <translation>Cette version ne comporte pas de pages de configuration. Utilisez les options -I -S pour installer ou -U -S pour supprimer.</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>Cette version ne comporte pas d&apos;outil de localisation</translation>
     </message>
     <message>
         <source>Stopping Services</source>
         <translation>Arrêt des services</translation>
-    </message>
-    <message>
-        <source>This build cannot stop services</source>
-        <translation>Cette version ne peut pas arrêter les services</translation>
     </message>
 </context>
 <context>
@@ -453,6 +521,57 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     <message>
         <source>Running NVX 3D-ViewerConfig.</source>
         <translation>Exécution de NVX 3D-ViewerConfig.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>English</source>
+        <translation>Anglais</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation>Chinois (simplifié)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation>Chinois (traditionnel)</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Allemand</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japonais</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>Italien</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Coréen</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Russe</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Bienvenue</translation>
+    </message>
+    <message>
+        <source>This wizard will configure Velmora %1 %2 for your system.</source>
+        <translation>Cet assistant va configurer Velmora %1 %2 pour votre système.</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>Changer de langue</translation>
     </message>
 </context>
 <context>
@@ -588,133 +707,6 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Recherche des logiciels de CAO terminée</translation>
-    </message>
-</context>
-<context>
-    <name>ClassWizard</name>
-    <message>
-        <source>%1 %2 Configuration Wizard</source>
-        <translation>Assistant de configuration de %1 %2</translation>
-    </message>
-    <message>
-        <source>Program exiting</source>
-        <translation>Fermeture du programme</translation>
-    </message>
-</context>
-<context>
-    <name>ConclusionPage</name>
-    <message>
-        <source>Conclusion </source>
-        <translation>Fin de la configuration </translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progression</translation>
-    </message>
-</context>
-<context>
-    <name>FeaturePage</name>
-    <message>
-        <source>Pro/ENGINEER Creo</source>
-        <translation>Pro/ENGINEER Creo</translation>
-    </message>
-    <message>
-        <source>SolidWorks</source>
-        <translation>SolidWorks</translation>
-    </message>
-    <message>
-        <source>Brevant</source>
-        <translation>Brevant</translation>
-    </message>
-    <message>
-        <source>UGS NX</source>
-        <translation>UGS NX</translation>
-    </message>
-    <message>
-        <source>Tamsel</source>
-        <translation>Tamsel</translation>
-    </message>
-    <message>
-        <source>Tamsel Architecture</source>
-        <translation>Tamsel Architecture</translation>
-    </message>
-    <message>
-        <source>Tamsel MEP</source>
-        <translation>Tamsel MEP</translation>
-    </message>
-    <message>
-        <source>SpaceClaim</source>
-        <translation>SpaceClaim</translation>
-    </message>
-    <message>
-        <source>CAD Launchers </source>
-        <translation>Lanceurs CAO </translation>
-    </message>
-    <message>
-        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
-        <translation>Les lanceurs NVX seront installés pour les systèmes de CAO cochés.</translation>
-    </message>
-</context>
-<context>
-    <name>ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>Cop&amp;ier</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>&amp;Tout sélectionner</translation>
-    </message>
-</context>
-<context>
-    <name>WelcomePage</name>
-    <message>
-        <source>English</source>
-        <translation>Anglais</translation>
-    </message>
-    <message>
-        <source>Chinese (Simplified)</source>
-        <translation>Chinois (simplifié)</translation>
-    </message>
-    <message>
-        <source>Chinese (Traditional)</source>
-        <translation>Chinois (traditionnel)</translation>
-    </message>
-    <message>
-        <source>German</source>
-        <translation>Allemand</translation>
-    </message>
-    <message>
-        <source>French</source>
-        <translation>Français</translation>
-    </message>
-    <message>
-        <source>Japanese</source>
-        <translation>Japonais</translation>
-    </message>
-    <message>
-        <source>Italian</source>
-        <translation>Italien</translation>
-    </message>
-    <message>
-        <source>Korean</source>
-        <translation>Coréen</translation>
-    </message>
-    <message>
-        <source>Russian</source>
-        <translation>Russe</translation>
-    </message>
-    <message>
-        <source>Welcome</source>
-        <translation>Bienvenue</translation>
-    </message>
-    <message>
-        <source>This wizard will configure Velmora %1 %2 for your system.</source>
-        <translation>Cet assistant va configurer Velmora %1 %2 pour votre système.</translation>
-    </message>
-    <message>
-        <source>Change language</source>
-        <translation>Changer de langue</translation>
     </message>
 </context>
 </TS>

@@ -48,6 +48,17 @@
     </message>
 </context>
 <context>
+    <name>ClassWizard</name>
+    <message>
+        <source>%1 %2 Configuration Wizard</source>
+        <translation>Configurazione guidata di %1 %2</translation>
+    </message>
+    <message>
+        <source>Program exiting</source>
+        <translation>Chiusura del programma</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -105,6 +116,17 @@
     </message>
 </context>
 <context>
+    <name>ConclusionPage</name>
+    <message>
+        <source>Conclusion </source>
+        <translation>Completamento </translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+</context>
+<context>
     <name>ContextHelp</name>
     <message>
         <source>Help</source>
@@ -132,6 +154,49 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1 esiste già, nessuna modifica</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturePage</name>
+    <message>
+        <source>Pro/ENGINEER Creo</source>
+        <translation>Pro/ENGINEER Creo</translation>
+    </message>
+    <message>
+        <source>SolidWorks</source>
+        <translation>SolidWorks</translation>
+    </message>
+    <message>
+        <source>Brevant</source>
+        <translation>Brevant</translation>
+    </message>
+    <message>
+        <source>UGS NX</source>
+        <translation>UGS NX</translation>
+    </message>
+    <message>
+        <source>Tamsel</source>
+        <translation>Tamsel</translation>
+    </message>
+    <message>
+        <source>Tamsel Architecture</source>
+        <translation>Tamsel Architecture</translation>
+    </message>
+    <message>
+        <source>Tamsel MEP</source>
+        <translation>Tamsel MEP</translation>
+    </message>
+    <message>
+        <source>SpaceClaim</source>
+        <translation>SpaceClaim</translation>
+    </message>
+    <message>
+        <source>CAD Launchers </source>
+        <translation>Programmi di avvio CAD </translation>
+    </message>
+    <message>
+        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
+        <translation>I programmi di avvio di NVX verranno installati per i sistemi CAD selezionati.</translation>
     </message>
 </context>
 <context>
@@ -315,6 +380,17 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
 </context>
 <context>
+    <name>ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Seleziona &amp;tutto</translation>
+    </message>
+</context>
+<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -394,20 +470,12 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
-        <translation>Questa versione non contiene pagine di configurazione. Utilizzare le opzioni -I -S per installare o -U -S per rimuovere.</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>Questa versione non contiene lo strumento di localizzazione</translation>
     </message>
     <message>
         <source>Stopping Services</source>
         <translation>Arresto dei servizi in corso</translation>
-    </message>
-    <message>
-        <source>This build cannot stop services</source>
-        <translation>Questa versione non può arrestare i servizi</translation>
     </message>
 </context>
 <context>
@@ -453,6 +521,57 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     <message>
         <source>Running NVX 3D-ViewerConfig.</source>
         <translation>Esecuzione di NVX 3D-ViewerConfig.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>English</source>
+        <translation>Inglese</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation>Cinese (semplificato)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation>Cinese (tradizionale)</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Tedesco</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Francese</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Giapponese</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Coreano</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Russo</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Benvenuti</translation>
+    </message>
+    <message>
+        <source>This wizard will configure Velmora %1 %2 for your system.</source>
+        <translation>Questa procedura guidata configurerà Velmora %1 %2 per il sistema in uso.</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>Cambia lingua</translation>
     </message>
 </context>
 <context>
@@ -588,133 +707,6 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Ricerca dei pacchetti CAD completata</translation>
-    </message>
-</context>
-<context>
-    <name>ClassWizard</name>
-    <message>
-        <source>%1 %2 Configuration Wizard</source>
-        <translation>Configurazione guidata di %1 %2</translation>
-    </message>
-    <message>
-        <source>Program exiting</source>
-        <translation>Chiusura del programma</translation>
-    </message>
-</context>
-<context>
-    <name>ConclusionPage</name>
-    <message>
-        <source>Conclusion </source>
-        <translation>Completamento </translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Avanzamento</translation>
-    </message>
-</context>
-<context>
-    <name>FeaturePage</name>
-    <message>
-        <source>Pro/ENGINEER Creo</source>
-        <translation>Pro/ENGINEER Creo</translation>
-    </message>
-    <message>
-        <source>SolidWorks</source>
-        <translation>SolidWorks</translation>
-    </message>
-    <message>
-        <source>Brevant</source>
-        <translation>Brevant</translation>
-    </message>
-    <message>
-        <source>UGS NX</source>
-        <translation>UGS NX</translation>
-    </message>
-    <message>
-        <source>Tamsel</source>
-        <translation>Tamsel</translation>
-    </message>
-    <message>
-        <source>Tamsel Architecture</source>
-        <translation>Tamsel Architecture</translation>
-    </message>
-    <message>
-        <source>Tamsel MEP</source>
-        <translation>Tamsel MEP</translation>
-    </message>
-    <message>
-        <source>SpaceClaim</source>
-        <translation>SpaceClaim</translation>
-    </message>
-    <message>
-        <source>CAD Launchers </source>
-        <translation>Programmi di avvio CAD </translation>
-    </message>
-    <message>
-        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
-        <translation>I programmi di avvio di NVX verranno installati per i sistemi CAD selezionati.</translation>
-    </message>
-</context>
-<context>
-    <name>ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Copia</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>Seleziona &amp;tutto</translation>
-    </message>
-</context>
-<context>
-    <name>WelcomePage</name>
-    <message>
-        <source>English</source>
-        <translation>Inglese</translation>
-    </message>
-    <message>
-        <source>Chinese (Simplified)</source>
-        <translation>Cinese (semplificato)</translation>
-    </message>
-    <message>
-        <source>Chinese (Traditional)</source>
-        <translation>Cinese (tradizionale)</translation>
-    </message>
-    <message>
-        <source>German</source>
-        <translation>Tedesco</translation>
-    </message>
-    <message>
-        <source>French</source>
-        <translation>Francese</translation>
-    </message>
-    <message>
-        <source>Japanese</source>
-        <translation>Giapponese</translation>
-    </message>
-    <message>
-        <source>Italian</source>
-        <translation>Italiano</translation>
-    </message>
-    <message>
-        <source>Korean</source>
-        <translation>Coreano</translation>
-    </message>
-    <message>
-        <source>Russian</source>
-        <translation>Russo</translation>
-    </message>
-    <message>
-        <source>Welcome</source>
-        <translation>Benvenuti</translation>
-    </message>
-    <message>
-        <source>This wizard will configure Velmora %1 %2 for your system.</source>
-        <translation>Questa procedura guidata configurerà Velmora %1 %2 per il sistema in uso.</translation>
-    </message>
-    <message>
-        <source>Change language</source>
-        <translation>Cambia lingua</translation>
     </message>
 </context>
 </TS>

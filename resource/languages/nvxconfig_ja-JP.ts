@@ -48,6 +48,17 @@
     </message>
 </context>
 <context>
+    <name>ClassWizard</name>
+    <message>
+        <source>%1 %2 Configuration Wizard</source>
+        <translation>%1 %2 構成ウィザード</translation>
+    </message>
+    <message>
+        <source>Program exiting</source>
+        <translation>プログラムを終了しています</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -105,6 +116,17 @@
     </message>
 </context>
 <context>
+    <name>ConclusionPage</name>
+    <message>
+        <source>Conclusion </source>
+        <translation>最終ステップ </translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+</context>
+<context>
     <name>ContextHelp</name>
     <message>
         <source>Help</source>
@@ -132,6 +154,49 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1 は既に存在するため、何も行いません</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturePage</name>
+    <message>
+        <source>Pro/ENGINEER Creo</source>
+        <translation>Pro/ENGINEER Creo</translation>
+    </message>
+    <message>
+        <source>SolidWorks</source>
+        <translation>SolidWorks</translation>
+    </message>
+    <message>
+        <source>Brevant</source>
+        <translation>Brevant</translation>
+    </message>
+    <message>
+        <source>UGS NX</source>
+        <translation>UGS NX</translation>
+    </message>
+    <message>
+        <source>Tamsel</source>
+        <translation>Tamsel</translation>
+    </message>
+    <message>
+        <source>Tamsel Architecture</source>
+        <translation>Tamsel Architecture</translation>
+    </message>
+    <message>
+        <source>Tamsel MEP</source>
+        <translation>Tamsel MEP</translation>
+    </message>
+    <message>
+        <source>SpaceClaim</source>
+        <translation>SpaceClaim</translation>
+    </message>
+    <message>
+        <source>CAD Launchers </source>
+        <translation>CAD ランチャー </translation>
+    </message>
+    <message>
+        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
+        <translation>選択した CAD システムに NVX ランチャーがインストールされます。</translation>
     </message>
 </context>
 <context>
@@ -315,6 +380,17 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
+    <name>ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+</context>
+<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -394,20 +470,12 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
-        <translation>このビルドには構成ページがありません。インストールするにはオプション -I -S、削除するには -U -S を使用してください。</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>このビルドにはローカライズ ツールがありません</translation>
     </message>
     <message>
         <source>Stopping Services</source>
         <translation>サービスを停止しています</translation>
-    </message>
-    <message>
-        <source>This build cannot stop services</source>
-        <translation>このビルドではサービスを停止できません</translation>
     </message>
 </context>
 <context>
@@ -453,6 +521,57 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Running NVX 3D-ViewerConfig.</source>
         <translation>NVX 3D-ViewerConfig を実行しています。</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>English</source>
+        <translation>英語</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation>中国語 (簡体字)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation>中国語 (繁体字)</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>ドイツ語</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>フランス語</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>イタリア語</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>韓国語</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>ロシア語</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>ようこそ</translation>
+    </message>
+    <message>
+        <source>This wizard will configure Velmora %1 %2 for your system.</source>
+        <translation>このウィザードでは、お使いのシステム用に Velmora %1 %2 を構成します。</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>言語の変更</translation>
     </message>
 </context>
 <context>
@@ -588,133 +707,6 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD パッケージの検索が完了しました</translation>
-    </message>
-</context>
-<context>
-    <name>ClassWizard</name>
-    <message>
-        <source>%1 %2 Configuration Wizard</source>
-        <translation>%1 %2 構成ウィザード</translation>
-    </message>
-    <message>
-        <source>Program exiting</source>
-        <translation>プログラムを終了しています</translation>
-    </message>
-</context>
-<context>
-    <name>ConclusionPage</name>
-    <message>
-        <source>Conclusion </source>
-        <translation>最終ステップ </translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>進行状況</translation>
-    </message>
-</context>
-<context>
-    <name>FeaturePage</name>
-    <message>
-        <source>Pro/ENGINEER Creo</source>
-        <translation>Pro/ENGINEER Creo</translation>
-    </message>
-    <message>
-        <source>SolidWorks</source>
-        <translation>SolidWorks</translation>
-    </message>
-    <message>
-        <source>Brevant</source>
-        <translation>Brevant</translation>
-    </message>
-    <message>
-        <source>UGS NX</source>
-        <translation>UGS NX</translation>
-    </message>
-    <message>
-        <source>Tamsel</source>
-        <translation>Tamsel</translation>
-    </message>
-    <message>
-        <source>Tamsel Architecture</source>
-        <translation>Tamsel Architecture</translation>
-    </message>
-    <message>
-        <source>Tamsel MEP</source>
-        <translation>Tamsel MEP</translation>
-    </message>
-    <message>
-        <source>SpaceClaim</source>
-        <translation>SpaceClaim</translation>
-    </message>
-    <message>
-        <source>CAD Launchers </source>
-        <translation>CAD ランチャー </translation>
-    </message>
-    <message>
-        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
-        <translation>選択した CAD システムに NVX ランチャーがインストールされます。</translation>
-    </message>
-</context>
-<context>
-    <name>ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>コピー(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>すべて選択(&amp;A)</translation>
-    </message>
-</context>
-<context>
-    <name>WelcomePage</name>
-    <message>
-        <source>English</source>
-        <translation>英語</translation>
-    </message>
-    <message>
-        <source>Chinese (Simplified)</source>
-        <translation>中国語 (簡体字)</translation>
-    </message>
-    <message>
-        <source>Chinese (Traditional)</source>
-        <translation>中国語 (繁体字)</translation>
-    </message>
-    <message>
-        <source>German</source>
-        <translation>ドイツ語</translation>
-    </message>
-    <message>
-        <source>French</source>
-        <translation>フランス語</translation>
-    </message>
-    <message>
-        <source>Japanese</source>
-        <translation>日本語</translation>
-    </message>
-    <message>
-        <source>Italian</source>
-        <translation>イタリア語</translation>
-    </message>
-    <message>
-        <source>Korean</source>
-        <translation>韓国語</translation>
-    </message>
-    <message>
-        <source>Russian</source>
-        <translation>ロシア語</translation>
-    </message>
-    <message>
-        <source>Welcome</source>
-        <translation>ようこそ</translation>
-    </message>
-    <message>
-        <source>This wizard will configure Velmora %1 %2 for your system.</source>
-        <translation>このウィザードでは、お使いのシステム用に Velmora %1 %2 を構成します。</translation>
-    </message>
-    <message>
-        <source>Change language</source>
-        <translation>言語の変更</translation>
     </message>
 </context>
 </TS>

@@ -48,6 +48,17 @@
     </message>
 </context>
 <context>
+    <name>ClassWizard</name>
+    <message>
+        <source>%1 %2 Configuration Wizard</source>
+        <translation>%1 %2 구성 마법사</translation>
+    </message>
+    <message>
+        <source>Program exiting</source>
+        <translation>프로그램을 종료하는 중</translation>
+    </message>
+</context>
+<context>
     <name>ComLaunchers</name>
     <message>
         <source>Configure Brevant</source>
@@ -105,6 +116,17 @@
     </message>
 </context>
 <context>
+    <name>ConclusionPage</name>
+    <message>
+        <source>Conclusion </source>
+        <translation>마지막 단계 </translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>진행 상황</translation>
+    </message>
+</context>
+<context>
     <name>ContextHelp</name>
     <message>
         <source>Help</source>
@@ -132,6 +154,49 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1이(가) 이미 있으므로 아무 작업도 하지 않습니다</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturePage</name>
+    <message>
+        <source>Pro/ENGINEER Creo</source>
+        <translation>Pro/ENGINEER Creo</translation>
+    </message>
+    <message>
+        <source>SolidWorks</source>
+        <translation>SolidWorks</translation>
+    </message>
+    <message>
+        <source>Brevant</source>
+        <translation>Brevant</translation>
+    </message>
+    <message>
+        <source>UGS NX</source>
+        <translation>UGS NX</translation>
+    </message>
+    <message>
+        <source>Tamsel</source>
+        <translation>Tamsel</translation>
+    </message>
+    <message>
+        <source>Tamsel Architecture</source>
+        <translation>Tamsel Architecture</translation>
+    </message>
+    <message>
+        <source>Tamsel MEP</source>
+        <translation>Tamsel MEP</translation>
+    </message>
+    <message>
+        <source>SpaceClaim</source>
+        <translation>SpaceClaim</translation>
+    </message>
+    <message>
+        <source>CAD Launchers </source>
+        <translation>CAD 런처 </translation>
+    </message>
+    <message>
+        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
+        <translation>선택한 CAD 시스템에 NVX 런처가 설치됩니다.</translation>
     </message>
 </context>
 <context>
@@ -315,6 +380,17 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
+    <name>ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>모두 선택(&amp;A)</translation>
+    </message>
+</context>
+<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -394,20 +470,12 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no configuration pages. Use the options -I -S to install or -U -S to remove.</source>
-        <translation>이 빌드에는 구성 페이지가 없습니다. 설치하려면 -I -S, 제거하려면 -U -S 옵션을 사용하십시오.</translation>
-    </message>
-    <message>
         <source>This build has no localization tool</source>
         <translation>이 빌드에는 지역화 도구가 없습니다</translation>
     </message>
     <message>
         <source>Stopping Services</source>
         <translation>서비스를 중지하는 중</translation>
-    </message>
-    <message>
-        <source>This build cannot stop services</source>
-        <translation>이 빌드에서는 서비스를 중지할 수 없습니다</translation>
     </message>
 </context>
 <context>
@@ -453,6 +521,57 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Running NVX 3D-ViewerConfig.</source>
         <translation>NVX 3D-ViewerConfig를 실행하는 중입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>English</source>
+        <translation>영어</translation>
+    </message>
+    <message>
+        <source>Chinese (Simplified)</source>
+        <translation>중국어(간체)</translation>
+    </message>
+    <message>
+        <source>Chinese (Traditional)</source>
+        <translation>중국어(번체)</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>독일어</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>프랑스어</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>일본어</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>이탈리아어</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>러시아어</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>환영합니다</translation>
+    </message>
+    <message>
+        <source>This wizard will configure Velmora %1 %2 for your system.</source>
+        <translation>이 마법사는 사용 중인 시스템에 맞게 Velmora %1 %2을(를) 구성합니다.</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>언어 변경</translation>
     </message>
 </context>
 <context>
@@ -588,133 +707,6 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 패키지 찾기를 완료했습니다</translation>
-    </message>
-</context>
-<context>
-    <name>ClassWizard</name>
-    <message>
-        <source>%1 %2 Configuration Wizard</source>
-        <translation>%1 %2 구성 마법사</translation>
-    </message>
-    <message>
-        <source>Program exiting</source>
-        <translation>프로그램을 종료하는 중</translation>
-    </message>
-</context>
-<context>
-    <name>ConclusionPage</name>
-    <message>
-        <source>Conclusion </source>
-        <translation>마지막 단계 </translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>진행 상황</translation>
-    </message>
-</context>
-<context>
-    <name>FeaturePage</name>
-    <message>
-        <source>Pro/ENGINEER Creo</source>
-        <translation>Pro/ENGINEER Creo</translation>
-    </message>
-    <message>
-        <source>SolidWorks</source>
-        <translation>SolidWorks</translation>
-    </message>
-    <message>
-        <source>Brevant</source>
-        <translation>Brevant</translation>
-    </message>
-    <message>
-        <source>UGS NX</source>
-        <translation>UGS NX</translation>
-    </message>
-    <message>
-        <source>Tamsel</source>
-        <translation>Tamsel</translation>
-    </message>
-    <message>
-        <source>Tamsel Architecture</source>
-        <translation>Tamsel Architecture</translation>
-    </message>
-    <message>
-        <source>Tamsel MEP</source>
-        <translation>Tamsel MEP</translation>
-    </message>
-    <message>
-        <source>SpaceClaim</source>
-        <translation>SpaceClaim</translation>
-    </message>
-    <message>
-        <source>CAD Launchers </source>
-        <translation>CAD 런처 </translation>
-    </message>
-    <message>
-        <source>NVX launchers will be installed for the CAD systems that are checked.</source>
-        <translation>선택한 CAD 시스템에 NVX 런처가 설치됩니다.</translation>
-    </message>
-</context>
-<context>
-    <name>ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>복사(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>모두 선택(&amp;A)</translation>
-    </message>
-</context>
-<context>
-    <name>WelcomePage</name>
-    <message>
-        <source>English</source>
-        <translation>영어</translation>
-    </message>
-    <message>
-        <source>Chinese (Simplified)</source>
-        <translation>중국어(간체)</translation>
-    </message>
-    <message>
-        <source>Chinese (Traditional)</source>
-        <translation>중국어(번체)</translation>
-    </message>
-    <message>
-        <source>German</source>
-        <translation>독일어</translation>
-    </message>
-    <message>
-        <source>French</source>
-        <translation>프랑스어</translation>
-    </message>
-    <message>
-        <source>Japanese</source>
-        <translation>일본어</translation>
-    </message>
-    <message>
-        <source>Italian</source>
-        <translation>이탈리아어</translation>
-    </message>
-    <message>
-        <source>Korean</source>
-        <translation>한국어</translation>
-    </message>
-    <message>
-        <source>Russian</source>
-        <translation>러시아어</translation>
-    </message>
-    <message>
-        <source>Welcome</source>
-        <translation>환영합니다</translation>
-    </message>
-    <message>
-        <source>This wizard will configure Velmora %1 %2 for your system.</source>
-        <translation>이 마법사는 사용 중인 시스템에 맞게 Velmora %1 %2을(를) 구성합니다.</translation>
-    </message>
-    <message>
-        <source>Change language</source>
-        <translation>언어 변경</translation>
     </message>
 </context>
 </TS>
