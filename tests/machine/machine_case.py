@@ -70,7 +70,7 @@ class MachineCase(unittest.TestCase):
 
     @contextlib.contextmanager
     def held(self, path, mark_path="C:\\held"):
-        """A program has the file open and lets nobody else at it; the other path is a sign between the two."""
+        """A program has the file open and lets nobody else at it. The other path is a sign between us."""
         mark = self.machine.path(mark_path)
         mark.unlink(missing_ok=True)
         holder = subprocess.Popen(

@@ -1,0 +1,79 @@
+"""What the tests of the launchers share: a machine with all six CAD systems, and what is told to each."""
+
+from machine_case import MachineCase
+from cadsystems import (
+    CUSTOM_DIRS_10,
+    CUSTOM_DIRS_11,
+    FOREIGN_DIRS,
+    FOREIGN_ENTRY,
+    PROTK_2,
+    PROTK_3,
+    SPACE_CLAIM_ADDINS,
+    TAMSEL_ADDINS,
+    put_cad_systems,
+)
+from winemachine import INSTALL_DIR
+
+LAUNCHERS = INSTALL_DIR + "\\Launchers"
+MANIFEST = LAUNCHERS + "\\Tamsel\\NVX_2017.Addin"
+ADDIN = SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\NVX_2017_SpaceClaim"
+
+
+def creo_entry(release, install_dir=INSTALL_DIR, encoding="ascii"):
+    return (
+        "name NVX 2017\r\n"
+        "startup DLL\r\n"
+        "exec_file {0}\\Launchers\\ProEngineer-Wildfire\\Creo{1}\\NVX_2017_Creo{1}0.dll\r\n"
+        "text_dir {0}\\Text\r\n"
+        "revision 20\r\n"
+        "end\r\n"
+    ).format(install_dir, release).encode(encoding)
+
+
+def nx_line(sub_folder, install_dir=INSTALL_DIR, encoding="ascii"):
+    return ("\r\n%s\\Launchers\\UGNX%s\r\n" % (install_dir, sub_folder)).encode(encoding)
+
+
+def manifest(install_dir=INSTALL_DIR):
+    text = (
+        '<?xml version="1.0" encoding="utf-16" standalone="no"?>\n'
+        "<TamselAddIns>\n"
+        '<AddIn Type="Application">\n'
+        "<Name>NVX 2017</Name>\n"
+        "<Assembly>%s\\Launchers\\Tamsel\\NVX_2017_Tamsel2017.dll</Assembly>\n"
+        "<AddInId>D678F341-A94D-43BB-AD6F-8E0E9DABA31A</AddInId>\n"
+        "<VendorId>Velmora, Inc.</VendorId>\n"
+        "<FullClassName>Kelvane_2017.NvxApplication</FullClassName>\n"
+        "</AddIn>\n"
+        "</TamselAddIns>\n"
+    ) % install_dir
+    return text.encode("utf-8")[: len(text)]
+
+
+def target_manifest(year):
+    return TAMSEL_ADDINS + "\\%d\\NVX_2017.Addin" % year
+
+
+class LauncherCase(MachineCase):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        put_cad_systems(cls.machine)
+
+    def run_with(self, option, install_dir=INSTALL_DIR):
+        """One run of the program; answers the lines of its log."""
+        self.machine.path(install_dir + "\\NVXConfig.log").unlink(missing_ok=True)
+        code, lines = self.configure(install_dir, option, "-S", "-Len-US")
+        self.assert_complete(code, lines)
+        return lines
+
+    def read(self, path):
+        return self.machine.path(path).read_bytes()
+
+    def reset_files(self):
+        """Makes the shared files those of a machine without the product."""
+        for path in (PROTK_2, PROTK_3, CUSTOM_DIRS_10, CUSTOM_DIRS_11):
+            file = self.machine.path(path)
+            file.chmod(0o644)
+            file.write_bytes(FOREIGN_DIRS if "custom_dirs" in path else FOREIGN_ENTRY)
+            file.with_name(file.name + ".bak").unlink(missing_ok=True)
