@@ -1,0 +1,24 @@
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+   <defaultcodec>UTF-8</defaultcodec>
+   <context>
+      <name>Clt::Material</name>
+      <message>
+         <source>Öl</source>
+         <translation type="">Oil</translation>
+      </message>
+      <message>
+         <source>Вода</source>
+         <translation type="unfinished">Вода</translation>
+      </message>
+      <message>
+         <source>空気</source>
+         <translation type="unfinished">空気</translation>
+      </message>
+      <message>
+         <source>💧</source>
+         <translation type="unfinished">💧</translation>
+      </message>
+   </context>
+</TS>
