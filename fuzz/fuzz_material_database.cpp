@@ -1,5 +1,6 @@
-// Reads bytes as a material database. A table brought in step with the names holds them all, also once it was
-// written and read back, and has nothing to add then.
+// Reads bytes as a material database: as they are, or each as a piece of markup, so that documents come
+// about. A table brought in step with the names holds them all, also once it was written and read back, and
+// has nothing to add then.
 
 #include "error_translation_table.h"
 #include "error_translation_table_xml.h"
@@ -17,6 +18,18 @@ void require(bool condition)
 {
     if (!condition)
         std::abort();
+}
+
+QByteArray document(const QByteArray &bytes)
+{
+    static const QByteArrayList pieces{"<material>", "</material>", "<name>",   "</name>",  "<name/>",
+                                       "<x>",        "</x>",        "<m:name>", "&amp;",    "&#13;",
+                                       "&e;",        "<![CDATA[",   "]]>",      "<!--",     "-->",
+                                       "Air",        " ",           "\r\n",     "\xc3\x96", "<?pi?>"};
+    QByteArray text = "<!DOCTYPE m [<!ENTITY e 'A<x/>'>]><m xmlns:m='m'>";
+    for (const char byte : bytes)
+        text += pieces.at(static_cast<uchar>(byte) % pieces.size());
+    return text + "</m>";
 }
 
 mat::MaterialNames read(const QByteArray &bytes)
@@ -42,8 +55,8 @@ Error::TranslationTable writtenAndRead(const Error::TranslationTable &table)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
-    const mat::MaterialNames database =
-        read(QByteArray(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size)));
+    const QByteArray input(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
+    const mat::MaterialNames database = read(input.startsWith('m') ? document(input.mid(1)) : input);
     require(database.error.isEmpty() || database.names.isEmpty());
 
     Error::TranslationTable table;

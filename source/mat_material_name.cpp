@@ -7,12 +7,18 @@ namespace mat {
 
 namespace {
 
+/// A reader whose device fails is not at its end: it would ask the device again for ever.
+bool canRead(const QXmlStreamReader &xml)
+{
+    return !xml.atEnd() && !xml.hasError();
+}
+
 /// The text of the element on which the reader stands, that of elements within it included. Elements may be
 /// nested as deeply as the file likes, so this counts them and does not recur.
 QString readWholeText(QXmlStreamReader &xml)
 {
     QString text;
-    for (qint64 depth = 1; depth > 0 && !xml.atEnd();) {
+    for (qint64 depth = 1; depth > 0 && canRead(xml);) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::Characters)
             text += xml.text();
@@ -31,7 +37,7 @@ MaterialNames readMaterialNames(QIODevice &device)
     QXmlStreamReader xml(&device);
     MaterialNames read;
     qint64 openMaterials = 0;
-    while (!xml.atEnd()) {
+    while (canRead(xml)) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::StartElement && xml.name() == u"material")
             ++openMaterials;

@@ -17,7 +17,7 @@ MaterialNames namesIn(const QByteArray &database)
     return mat::readMaterialNames(device);
 }
 
-/// A device that breaks after the bytes.
+/// A device that breaks after the bytes, of which there should be more.
 class BrokenFile : public QBuffer
 {
 public:
@@ -26,6 +26,8 @@ public:
         setData(bytes);
         open(QIODevice::ReadOnly);
     }
+
+    bool atEnd() const override { return false; }
 
 protected:
     qint64 readData(char *bytes, qint64 most) override
@@ -145,12 +147,21 @@ private slots:
         QCOMPARE(read.names, QStringList());
     }
 
+    void deviceThatBreaksGivesNoNames_data()
+    {
+        QTest::addColumn<QByteArray>("read");
+        QTest::newRow("at once") << QByteArray();
+        QTest::newRow("between materials") << QByteArray("<m><material><name>A</name></material>");
+        QTest::newRow("within a name") << QByteArray("<m><material><name>A</name><name>B");
+    }
+
     void deviceThatBreaksGivesNoNames()
     {
-        BrokenFile device("<m><material><name>A</name></material>");
-        const MaterialNames read = mat::readMaterialNames(device);
-        QVERIFY(!read.error.isEmpty());
-        QCOMPARE(read.names, QStringList());
+        QFETCH(const QByteArray, read);
+        BrokenFile device(read);
+        const MaterialNames names = mat::readMaterialNames(device);
+        QVERIFY(!names.error.isEmpty());
+        QCOMPARE(names.names, QStringList());
     }
 
     void elementsNestedDeeplyAreRead_data()
