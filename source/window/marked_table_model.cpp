@@ -23,10 +23,12 @@ void MarkedTableModel::setRows(MarkedRows rows)
 
 void MarkedTableModel::setMarkToolTip(RowMark mark, const QString &text)
 {
-    if (mark == RowMark::New)
-        m_newToolTip = text;
-    else if (mark == RowMark::Obsolete)
-        m_obsoleteToolTip = text;
+    m_markToolTips.insert(mark, text);
+}
+
+void MarkedTableModel::setMarkWord(RowMark mark, const QString &word)
+{
+    m_markWords.insert(mark, word);
 }
 
 void MarkedTableModel::setFilter(const QString &filter)
@@ -65,8 +67,12 @@ QVariant MarkedTableModel::data(const QModelIndex &index, int role) const
     const RowMark mark = m_rows.mark(row);
     if (role == markRole)
         return static_cast<int>(mark);
-    if (role == Qt::ToolTipRole && mark != RowMark::None)
-        return mark == RowMark::New ? m_newToolTip : m_obsoleteToolTip;
+    if (mark == RowMark::None)
+        return QVariant();
+    if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole)
+        return m_markToolTips.value(mark);
+    if (role == markWordRole && index.column() == 0)
+        return m_markWords.value(mark);
     return QVariant();
 }
 

@@ -3,6 +3,7 @@
 #include "window/marked_rows.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QStringList>
 
 namespace Window {
@@ -16,6 +17,9 @@ public:
     /// The role of a row's RowMark, as an int.
     static constexpr int markRole = Qt::UserRole;
 
+    /// The role of the word for a row's mark, in the first column only.
+    static constexpr int markWordRole = Qt::UserRole + 1;
+
     explicit MarkedTableModel(const QStringList &headings, QObject *parent = nullptr);
 
     /// Shows other rows, under the filter and sorting that are there.
@@ -24,6 +28,10 @@ public:
 
     /// What the tool tip of a row with the mark says.
     void setMarkToolTip(RowMark mark, const QString &text);
+
+    /// The word that stands for the mark in the first column of a row, beside its text; none at first, which
+    /// suits a table that has the state in a column of its own.
+    void setMarkWord(RowMark mark, const QString &word);
 
     /// Shows only the rows that hold the text, whatever the case; all when it is empty.
     void setFilter(const QString &filter);
@@ -47,8 +55,8 @@ private:
     void show();
 
     QStringList m_headings;
-    QString m_newToolTip;
-    QString m_obsoleteToolTip;
+    QHash<RowMark, QString> m_markToolTips;
+    QHash<RowMark, QString> m_markWords;
     MarkedRows m_rows;
     QString m_filter;
     int m_sortColumn = -1;

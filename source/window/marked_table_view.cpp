@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -13,11 +14,22 @@ namespace Window {
 
 namespace {
 
-/// Paints a row on the colour of its mark, from the palette that is in force when it is painted.
+/// Paints a row on the colour of its mark, from the palette that is in force when it is painted, and the word
+/// for the mark at the end of the first cell.
 class MarkDelegate : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const QString word = index.data(MarkedTableModel::markWordRole).toString();
+        if (word.isEmpty()) {
+            QStyledItemDelegate::paint(painter, option, index);
+            return;
+        }
+        paintWithWord(*painter, option, index, word);
+    }
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
@@ -27,7 +39,33 @@ protected:
         if (mark != RowMark::None)
             option->backgroundBrush = markColor(option->palette, mark);
     }
+
+private:
+    void paintWithWord(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                       const QString &word) const;
 };
+
+// The text is shortened so that it ends before the word.
+void MarkDelegate::paintWithWord(QPainter &painter, const QStyleOptionViewItem &option,
+                                 const QModelIndex &index, const QString &word) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    QFont wordFont = cell.font;
+    wordFont.setItalic(true);
+    const int wordWidth = QFontMetrics(wordFont).horizontalAdvance(word);
+    const int gap = cell.fontMetrics.averageCharWidth();
+    cell.text =
+        cell.fontMetrics.elidedText(cell.text, cell.textElideMode, cell.rect.width() - wordWidth - 4 * gap);
+    cell.widget->style()->drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
+
+    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+    painter.save();
+    painter.setPen(cell.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+    painter.setFont(wordFont);
+    painter.drawText(cell.rect.adjusted(gap, 0, -gap, 0), Qt::AlignRight | Qt::AlignVCenter, word);
+    painter.restore();
+}
 
 } // namespace
 

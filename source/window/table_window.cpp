@@ -81,8 +81,13 @@ bool TableWindow::saveAs()
 void TableWindow::setUnsaved()
 {
     m_isUnsaved = true;
-    m_save->setEnabled(true);
+    enableSave();
     showPlace();
+}
+
+void TableWindow::enableSave()
+{
+    m_save->setEnabled(true);
 }
 
 void TableWindow::showTable()

@@ -116,6 +116,9 @@ protected:
     /// Tells that the table has changed since it was saved: Save is enabled.
     void setUnsaved();
 
+    /// Enables Save for a table that may well be that of its file.
+    void enableSave();
+
     /// Shows the rows of the table anew.
     void showTable();
 

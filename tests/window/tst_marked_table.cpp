@@ -97,6 +97,31 @@ private slots:
         QCOMPARE(toolTip(0), QStringLiteral("is new"));
         QCOMPARE(toolTip(1), QString());
         QCOMPARE(toolTip(2), QStringLiteral("is gone"));
+        QCOMPARE(view.model()->index(2, 0).data(Qt::AccessibleDescriptionRole).toString(),
+                 QStringLiteral("is gone"));
+    }
+
+    void wordForTheMarkStandsAtTheEndOfTheFirstCell()
+    {
+        ShownView view;
+        view.setColumnWidth(0, 200);
+        const QModelIndex marked = view.model()->index(2, 0);
+        const QRect cell = view.visualRect(marked);
+        const QRect end = cell.adjusted(cell.width() / 2, 0, 0, 0).translated(view.viewport()->pos());
+        const auto image = [&view, &end] { return view.grab(end).toImage(); };
+        const QImage before = image();
+        view.rowsModel().setMarkWord(RowMark::Obsolete, QStringLiteral("gone"));
+        QCOMPARE(view.model()->index(2, 1).data(Window::MarkedTableModel::markWordRole), QVariant());
+        QCOMPARE(view.model()->index(1, 0).data(Window::MarkedTableModel::markWordRole), QVariant());
+        QVERIFY(image() != before);
+        QCOMPARE(marked.data().toString(), QStringLiteral("a"));
+
+        const QImage withWord = image();
+        view.selectRow(2);
+        QVERIFY(image() != withWord);
+        view.clearSelection();
+        view.setCurrentIndex(QModelIndex());
+        QCOMPARE(image(), withWord);
     }
 
     void markedRowsArePaintedOnTheirColour()
