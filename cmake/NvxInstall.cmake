@@ -4,7 +4,7 @@
 # lie in bin, with the libraries that are not of the operating system itself in lib and Qt's plug-ins in
 # plugins.
 
-set(nvx_programs NVXConfig UpdateErrorTable MessageTableUtility)
+set(nvx_programs NVXConfig UpdateErrorTable MessageTableUtility MaterialNameUtility)
 
 if(WIN32)
     install(TARGETS ${nvx_programs} RUNTIME DESTINATION .)

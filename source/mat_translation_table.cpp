@@ -21,20 +21,11 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(MaterialTranslationTable)
 };
 
-const QString obsoleteType = QStringLiteral("obsolete");
-
-const Error::TranslationMessages &messagesOf(const TranslationTable &table)
-{
-    static const Error::TranslationMessages none;
-    const auto found = table.contexts().find(materialContext());
-    return found == table.contexts().end() ? none : found->second.messages();
-}
-
 bool wouldChangeType(const TranslationTable &table, const QSet<QString> &obsolete)
 {
-    const Error::TranslationMessages &messages = messagesOf(table);
+    const Error::TranslationMessages &messages = materialMessages(table);
     return std::any_of(messages.begin(), messages.end(), [&obsolete](const TranslationMessage &message) {
-        return message.type != obsoleteType && obsolete.contains(message.source);
+        return message.type != obsoleteType() && obsolete.contains(message.source);
     });
 }
 
@@ -62,9 +53,21 @@ QString materialContext()
     return QStringLiteral("Clt::Material");
 }
 
+QString obsoleteType()
+{
+    return QStringLiteral("obsolete");
+}
+
+const Error::TranslationMessages &materialMessages(const TranslationTable &table)
+{
+    static const Error::TranslationMessages none;
+    const auto found = table.contexts().find(materialContext());
+    return found == table.contexts().end() ? none : found->second.messages();
+}
+
 QSet<QString> heldNames(const TranslationTable &table)
 {
-    const Error::TranslationMessages &messages = messagesOf(table);
+    const Error::TranslationMessages &messages = materialMessages(table);
     QSet<QString> names;
     names.reserve(static_cast<qsizetype>(messages.size()));
     for (const TranslationMessage &message : messages)
@@ -98,7 +101,7 @@ NameSynchronization synchronizeNames(TranslationTable &table, const QStringList 
     result.isChanged = !difference.added.isEmpty() || wouldChangeType(table, difference.obsolete);
     for (const QString &name : difference.added)
         table.addString(materialContext(), name);
-    table.setType(materialContext(), difference.obsolete, obsoleteType);
+    table.setType(materialContext(), difference.obsolete, obsoleteType());
     return result;
 }
 

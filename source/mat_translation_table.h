@@ -1,5 +1,7 @@
 #pragma once
 
+#include "error_translation_message.h"
+
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -14,6 +16,12 @@ namespace mat {
 
 /// The context under which a translation table holds the names of materials.
 QString materialContext();
+
+/// The type of a name that the database does not have any more.
+QString obsoleteType();
+
+/// The names with their translations, in the order of the table.
+const Error::TranslationMessages &materialMessages(const Error::TranslationTable &table);
 
 /// The names that a table holds, obsolete ones included.
 QSet<QString> heldNames(const Error::TranslationTable &table);

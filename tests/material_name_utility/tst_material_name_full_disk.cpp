@@ -1,0 +1,36 @@
+#include "name_utility_fixture.h"
+#include "support/full_disk.h"
+
+#include <QTest>
+
+class TestMaterialNameFullDisk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tableStaysUnsavedAndTheFileAsItWas()
+    {
+        NameUtilityFixture f;
+        QVERIFY(f.window.openFile(f.tableFile));
+        f.writeDatabase(manyNames(5000));
+        f.window.synchronize(f.databaseFile);
+        const std::optional<QByteArray> before = fileBytes(f.tableFile);
+        {
+            const FullDisk disk;
+            QVERIFY(!f.window.save());
+        }
+        QCOMPARE(f.dialogs.warnings.size(), 1);
+        QVERIFY(f.dialogs.warnings.first().text.startsWith(
+            QStringLiteral("Could not save %1\n").arg(f.tableFile)));
+        QCOMPARE(fileBytes(f.tableFile), before);
+        QVERIFY(f.window.hasUnsavedChanges());
+        QVERIFY(f.isEnabled("actionSave"));
+        QCOMPARE(f.view()->model()->rowCount(), 5003);
+
+        QVERIFY(f.window.save());
+        QVERIFY(fileBytes(f.tableFile) != before);
+    }
+};
+
+QTEST_MAIN(TestMaterialNameFullDisk)
+#include "tst_material_name_full_disk.moc"
