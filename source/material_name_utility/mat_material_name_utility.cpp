@@ -6,6 +6,7 @@
 #include "window/dialogs.h"
 #include "window/dropped_file.h"
 #include "window/marked_table_view.h"
+#include "window/wait_cursor.h"
 
 #include <QAction>
 #include <QDir>
@@ -132,6 +133,7 @@ bool MaterialNameUtility::readDatabase()
 
 void MaterialNameUtility::takeNames()
 {
+    const Window::WaitCursor wait;
     if (!m_hasTable)
         newTable();
     const NameSynchronization result = synchronizeNames(m_table, m_materialNames);
