@@ -1,3 +1,4 @@
+#include "clt_xml_text.h"
 #include "error_translation_table.h"
 #include "error_translation_table_xml.h"
 #include "nvx_util/assertion.h"
@@ -29,7 +30,7 @@ QString readText(QXmlStreamReader &xml)
 {
     QString text;
     bool skippedElement = false;
-    while (!xml.atEnd()) {
+    while (Clt::canRead(xml)) {
         switch (xml.readNext()) {
         case QXmlStreamReader::Characters:
             text += xml.text();
@@ -70,7 +71,7 @@ std::optional<TranslationMessage> readMessage(QXmlStreamReader &xml)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"message", unit);
     TranslationMessage message;
-    while (!xml.atEnd()) {
+    while (Clt::canRead(xml)) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::EndElement)
             return message;
@@ -95,7 +96,7 @@ std::optional<TranslationContext> readContext(QXmlStreamReader &xml)
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"context", unit);
     QString name;
     TranslationMessages messages;
-    while (!xml.atEnd()) {
+    while (Clt::canRead(xml)) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::EndElement)
             return named(name, messages);
@@ -133,7 +134,7 @@ void readRoot(QXmlStreamReader &xml, TranslationTable &table)
     const QXmlStreamAttributes attributes = xml.attributes();
     table.setVersion(attributes.value(QLatin1String("version")).toString());
     table.setLanguage(attributes.value(QLatin1String("language")).toString());
-    while (!xml.atEnd()) {
+    while (Clt::canRead(xml)) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::EndElement)
             return;
@@ -148,7 +149,7 @@ TranslationReading readTranslationTable(QIODevice &device, TranslationTable &tab
 {
     TranslationReading reading;
     QXmlStreamReader xml(&device);
-    while (!xml.atEnd()) {
+    while (Clt::canRead(xml)) {
         if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != u"TS")
             continue;
         readRoot(xml, table);

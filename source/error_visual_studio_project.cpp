@@ -1,5 +1,6 @@
 #include "error_visual_studio_project.h"
 
+#include "clt_xml_text.h"
 #include "nvx_util/assertion.h"
 
 #include <QDir>
@@ -73,7 +74,7 @@ std::optional<VisualStudioProject> readVisualStudioProject(QIODevice &device)
         else
             xml.raiseError(QStringLiteral("Not a project"));
     }
-    while (!xml.atEnd())
+    while (Clt::canRead(xml))
         xml.readNext();
     return xml.hasError() ? std::nullopt : std::optional(project);
 }

@@ -1,5 +1,7 @@
 #include "mat_material_name.h"
 
+#include "clt_xml_text.h"
+
 #include <QFile>
 #include <QXmlStreamReader>
 
@@ -7,18 +9,12 @@ namespace mat {
 
 namespace {
 
-/// A reader whose device fails is not at its end: it would ask the device again for ever.
-bool canRead(const QXmlStreamReader &xml)
-{
-    return !xml.atEnd() && !xml.hasError();
-}
-
 /// The text of the element on which the reader stands, that of elements within it included. Elements may be
 /// nested as deeply as the file likes, so this counts them and does not recur.
 QString readWholeText(QXmlStreamReader &xml)
 {
     QString text;
-    for (qint64 depth = 1; depth > 0 && canRead(xml);) {
+    for (qint64 depth = 1; depth > 0 && Clt::canRead(xml);) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::Characters)
             text += xml.text();
@@ -37,7 +33,7 @@ MaterialNames readMaterialNames(QIODevice &device)
     QXmlStreamReader xml(&device);
     MaterialNames read;
     qint64 openMaterials = 0;
-    while (canRead(xml)) {
+    while (Clt::canRead(xml)) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::StartElement && xml.name() == u"material")
             ++openMaterials;

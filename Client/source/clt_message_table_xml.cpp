@@ -2,6 +2,7 @@
 
 #include "clt_message_table.h"
 #include "clt_message_xml.h"
+#include "clt_xml_text.h"
 #include "nvx_util/assertion.h"
 
 #include <QXmlStreamReader>
@@ -30,7 +31,7 @@ void writeNameSpace(QXmlStreamWriter &xml)
 void readMessageTableBody(QXmlStreamReader &xml, MessageTable &table)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"messageTable", unit);
-    while (!xml.atEnd()) {
+    while (canRead(xml)) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::EndElement)
             return;
@@ -49,7 +50,7 @@ bool readMessageTable(QIODevice &device, MessageTable &table)
 
 bool readMessageTable(QXmlStreamReader &xml, MessageTable &table)
 {
-    while (!xml.atEnd()) {
+    while (canRead(xml)) {
         if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"messageTable")
             readMessageTableBody(xml, table);
     }

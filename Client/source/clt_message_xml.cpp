@@ -66,7 +66,7 @@ std::optional<Message> readMessage(QXmlStreamReader &xml)
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"message", unit);
     Message message;
     message.setSeverity(textToSeverity(xml.attributes().value(QLatin1String("severity"))));
-    while (!xml.atEnd()) {
+    while (canRead(xml)) {
         switch (xml.readNext()) {
         case QXmlStreamReader::EndElement:
             return message;
@@ -84,7 +84,7 @@ MessageKey readMessageKey(QXmlStreamReader &xml)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"key", unit);
     MessageKey key;
-    while (!xml.atEnd()) {
+    while (canRead(xml)) {
         switch (xml.readNext()) {
         case QXmlStreamReader::EndElement:
             return key;

@@ -1,6 +1,7 @@
 #include "clt_xml_text.h"
 
 #include <QChar>
+#include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
 namespace Clt {
@@ -15,6 +16,11 @@ bool isXmlCharacter(char16_t unit)
 }
 
 } // namespace
+
+bool canRead(const QXmlStreamReader &xml)
+{
+    return !xml.hasError() && !xml.atEnd();
+}
 
 bool isXmlText(QStringView text)
 {

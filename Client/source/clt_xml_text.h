@@ -3,9 +3,15 @@
 #include <QString>
 #include <QStringView>
 
+class QXmlStreamReader;
 class QXmlStreamWriter;
 
 namespace Clt {
+
+/// True while the reader has more to give: it is not at the end of its document, and neither that nor its
+/// device has failed. (To the reader itself a device that failed is not at its end; it would be asked again
+/// for ever.)
+bool canRead(const QXmlStreamReader &xml);
 
 /// True when an XML 1.0 document can carry every character of the text: no control character other than tab,
 /// line feed and carriage return, no half of a surrogate pair, not U+FFFE or U+FFFF.

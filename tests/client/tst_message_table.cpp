@@ -1,6 +1,7 @@
 #include "clt_message_table.h"
 #include "clt_message_table_xml.h"
 #include "clt_message_xml.h"
+#include "support/broken_device.h"
 #include "support/file_bytes.h"
 #include "support/recorded_assertions.h"
 #include "support/test_folder.h"
@@ -297,6 +298,26 @@ private slots:
         QCOMPARE(failed.list(),
                  QStringList(QStringLiteral(
                      "xml.isStartElement() && xml.name() == u\"messageTable\" in clt_message_table")));
+    }
+
+    void deviceThatBreaksIsReadToThere_data()
+    {
+        QTest::addColumn<QByteArray>("read");
+        QTest::newRow("at once") << QByteArray();
+        QTest::newRow("within the root") << QByteArray("<messageTable>");
+        QTest::newRow("within a message")
+            << QByteArray("<messageTable><message severity=\"Status\"><text>T</text>");
+        QTest::newRow("within a key")
+            << QByteArray("<messageTable><message severity=\"Status\"><key><tag>T</tag>");
+        QTest::newRow("within a text") << QByteArray("<messageTable><message severity=\"Status\"><text>T");
+    }
+
+    void deviceThatBreaksIsReadToThere()
+    {
+        QFETCH(const QByteArray, read);
+        BrokenDevice device(read);
+        MessageTable table;
+        QVERIFY(!Clt::readMessageTable(device, table));
     }
 };
 

@@ -1,4 +1,5 @@
 #include "mat_material_name.h"
+#include "support/broken_device.h"
 #include "support/file_bytes.h"
 #include "support/test_folder.h"
 
@@ -16,26 +17,6 @@ MaterialNames namesIn(const QByteArray &database)
     device.open(QIODevice::ReadOnly);
     return mat::readMaterialNames(device);
 }
-
-/// A device that breaks after the bytes, of which there should be more.
-class BrokenFile : public QBuffer
-{
-public:
-    explicit BrokenFile(const QByteArray &bytes)
-    {
-        setData(bytes);
-        open(QIODevice::ReadOnly);
-    }
-
-    bool atEnd() const override { return false; }
-
-protected:
-    qint64 readData(char *bytes, qint64 most) override
-    {
-        const qint64 read = QBuffer::readData(bytes, most);
-        return read > 0 ? read : -1;
-    }
-};
 
 } // namespace
 
@@ -158,7 +139,7 @@ private slots:
     void deviceThatBreaksGivesNoNames()
     {
         QFETCH(const QByteArray, read);
-        BrokenFile device(read);
+        BrokenDevice device(read);
         const MaterialNames names = mat::readMaterialNames(device);
         QVERIFY(!names.error.isEmpty());
         QCOMPARE(names.names, QStringList());

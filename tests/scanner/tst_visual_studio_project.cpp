@@ -1,4 +1,5 @@
 #include "error_visual_studio_project.h"
+#include "support/broken_device.h"
 #include "support/test_folder.h"
 
 #include <QBuffer>
@@ -167,6 +168,12 @@ private slots:
         QCOMPARE(sourceFilePath(QDir::current().filePath(QStringLiteral("p/q/x.vcxproj")), sourceFile),
                  QDir::current().filePath(path));
         QCOMPARE(sourceFilePath(QStringLiteral("p/q/x.vcxproj"), sourceFile), QDir::current().filePath(path));
+    }
+
+    void deviceThatBreaksGivesNoProject()
+    {
+        BrokenDevice device("<Project><PropertyGroup/>");
+        QVERIFY(!Scan::readVisualStudioProject(device));
     }
 };
 

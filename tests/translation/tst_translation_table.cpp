@@ -1,5 +1,6 @@
 #include "error_translation_table.h"
 #include "error_translation_table_xml.h"
+#include "support/broken_device.h"
 #include "support/file_bytes.h"
 #include "support/test_folder.h"
 
@@ -302,6 +303,24 @@ private slots:
         QCOMPARE(fileBytes(fileName), QByteArray("<TS>"));
         QVERIFY(!QFile::exists(fileName + QStringLiteral(".damaged")));
         QVERIFY(!QFile::exists(folder.path(QStringLiteral("other.ts.damaged"))));
+    }
+
+    void deviceThatBreaksIsReadToThere_data()
+    {
+        QTest::addColumn<QByteArray>("read");
+        QTest::newRow("at once") << QByteArray();
+        QTest::newRow("within the root") << QByteArray("<TS><defaultcodec/>");
+        QTest::newRow("within a context") << QByteArray("<TS><context><name>C</name>");
+        QTest::newRow("within a message") << QByteArray("<TS><context><message><source>A</source>");
+        QTest::newRow("within a text") << QByteArray("<TS><context><message><source>A");
+    }
+
+    void deviceThatBreaksIsReadToThere()
+    {
+        QFETCH(const QByteArray, read);
+        BrokenDevice device(read);
+        TranslationTable table;
+        QVERIFY(!Error::readTranslationTable(device, table).error.isEmpty());
     }
 };
 
