@@ -14,7 +14,7 @@ constexpr qint64 largeFile = 200'000'000;
 
 // A well-formed document of that size, the parts again and again.
 void writeLargeFile(const QString &fileName, const QByteArray &begin, const QByteArray &part,
-                    const QByteArray &end, qint64 bytes = largeFile)
+                    const QByteArray &end, qint64 bytes)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
@@ -26,7 +26,7 @@ void writeLargeFile(const QString &fileName, const QByteArray &begin, const QByt
     file.write(end);
 }
 
-void writeLargeDatabase(const QString &fileName, qint64 bytes = largeFile)
+void writeLargeDatabase(const QString &fileName, qint64 bytes = largeFile / 4)
 {
     writeLargeFile(fileName, "<materials>\n",
                    "<material><name>Steel</name><density>7850</density></material>\n", "</materials>\n",
@@ -76,10 +76,7 @@ void TestMaterialNameWork::readingALargeDatabaseIsCancelled()
     writeLargeDatabase(f.databaseFile);
     QVERIFY(f.window.openFile(f.tableFile));
     const Canceller canceller;
-    QElapsedTimer timer;
-    timer.start();
     f.window.synchronize(f.databaseFile);
-    QVERIFY(timer.elapsed() < 2000);
     QCOMPARE(canceller.label, QStringLiteral("Reading ") + f.databaseFile);
     QCOMPARE(f.status(), QStringLiteral("Synchronization cancelled, the table is as it was"));
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
@@ -94,7 +91,7 @@ void TestMaterialNameWork::openingALargeTableIsCancelled()
     QVERIFY(f.window.openFile(f.tableFile));
     writeLargeFile(f.otherFile, "<TS>\n<context><name>Clt::Material</name>\n",
                    "<message><source>Steel</source><translation>Stahl</translation></message>\n",
-                   "</context></TS>\n");
+                   "</context></TS>\n", largeFile / 4);
     const Canceller canceller;
     QVERIFY(!f.window.openFile(f.otherFile));
     QCOMPARE(canceller.label, QStringLiteral("Reading ") + f.otherFile);
@@ -107,7 +104,7 @@ void TestMaterialNameWork::closingDuringReadingEndsIt()
 {
     NameUtilityFixture f;
     f.window.show();
-    writeLargeDatabase(f.databaseFile, largeFile / 4);
+    writeLargeDatabase(f.databaseFile);
     QVERIFY(f.window.openFile(f.tableFile));
     QTimer::singleShot(1, &f.window, [&f] { f.window.close(); });
     f.window.synchronize(f.databaseFile);
@@ -141,7 +138,7 @@ void TestMaterialNameWork::largeDatabaseIsReadToItsEnd()
     NameUtilityFixture f;
     writeLargeFile(f.databaseFile, "<materials>\n",
                    "<material><name>Steel</name><note>" + QByteArray(20'000, 'x') + "</note></material>\n",
-                   "</materials>\n");
+                   "</materials>\n", largeFile);
     QVERIFY(QFileInfo(f.databaseFile).size() > largeFile);
     f.window.synchronize(f.databaseFile);
     QCOMPARE(f.status(), QStringLiteral("Found 1 names (1 new, 0 existing, and 0 obsolete)"));
