@@ -5,6 +5,7 @@
 Without tokens a new machine is made and the program installs the product on it.
 """
 
+import contextlib
 import sys
 from pathlib import Path
 
@@ -18,6 +19,7 @@ from cadsystems import (
     TAMSEL_ADDINS,
     put_cad_systems,
 )
+from localization_share import Translators
 from winemachine import INSTALL_DIR, Machine, make_template, value_of
 
 # What Wine itself writes while any program runs.
@@ -130,6 +132,13 @@ def prepare(build):
     return machine
 
 
+def surroundings(machine, build, tokens):
+    """What a run meets beside the machine: the localisation tool has translators at the end of its share."""
+    if "-T" in tokens:
+        return Translators(machine, build, INSTALL_DIR)
+    return contextlib.nullcontext()
+
+
 def main(build, tokens):
     if tokens:
         machine = Machine(build / "demo")
@@ -145,7 +154,8 @@ def main(build, tokens):
     log_start = log_path.stat().st_size if log_path.exists() else 0
 
     heading("NVXConfig.exe " + " ".join(tokens))
-    answer = machine.run(INSTALL_DIR + "\\NVXConfig.exe", *tokens, folder=INSTALL_DIR)
+    with surroundings(machine, build, tokens):
+        answer = machine.run(INSTALL_DIR + "\\NVXConfig.exe", *tokens, folder=INSTALL_DIR)
     files_after, registry_after = machine.files(), machine.registry()
 
     heading("the log of this run")

@@ -470,10 +470,6 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no localization tool</source>
-        <translation>Diese Programmversion enthält kein Lokalisierungswerkzeug</translation>
-    </message>
-    <message>
         <source>Stopping Services</source>
         <translation>Dienste werden beendet</translation>
     </message>
@@ -707,6 +703,25 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Suche nach CAD-Paketen abgeschlossen</translation>
+    </message>
+</context>
+<context>
+    <name>util::util_localization_tool</name>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 ist beschädigt</translation>
+    </message>
+    <message>
+        <source>There is no folder of sources, nothing is translated</source>
+        <translation>Kein Quellordner vorhanden, es wird nichts übersetzt</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts to translate</source>
+        <translation>%1: zu übersetzende Texte: %2</translation>
+    </message>
+    <message>
+        <source>%1 texts to translate in %2 files</source>
+        <translation>Zu übersetzende Texte: %1, Dateien: %2</translation>
     </message>
 </context>
 </TS>

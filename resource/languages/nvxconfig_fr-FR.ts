@@ -470,10 +470,6 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no localization tool</source>
-        <translation>Cette version ne comporte pas d&apos;outil de localisation</translation>
-    </message>
-    <message>
         <source>Stopping Services</source>
         <translation>Arrêt des services</translation>
     </message>
@@ -707,6 +703,25 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Recherche des logiciels de CAO terminée</translation>
+    </message>
+</context>
+<context>
+    <name>util::util_localization_tool</name>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 est endommagé</translation>
+    </message>
+    <message>
+        <source>There is no folder of sources, nothing is translated</source>
+        <translation>Aucun dossier source, rien n’est traduit</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts to translate</source>
+        <translation>%1 : textes à traduire : %2</translation>
+    </message>
+    <message>
+        <source>%1 texts to translate in %2 files</source>
+        <translation>Textes à traduire : %1, fichiers : %2</translation>
     </message>
 </context>
 </TS>

@@ -470,10 +470,6 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no localization tool</source>
-        <translation>Questa versione non contiene lo strumento di localizzazione</translation>
-    </message>
-    <message>
         <source>Stopping Services</source>
         <translation>Arresto dei servizi in corso</translation>
     </message>
@@ -707,6 +703,25 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Ricerca dei pacchetti CAD completata</translation>
+    </message>
+</context>
+<context>
+    <name>util::util_localization_tool</name>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 è danneggiato</translation>
+    </message>
+    <message>
+        <source>There is no folder of sources, nothing is translated</source>
+        <translation>Nessuna cartella dei sorgenti, non viene tradotto nulla</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts to translate</source>
+        <translation>%1: testi da tradurre: %2</translation>
+    </message>
+    <message>
+        <source>%1 texts to translate in %2 files</source>
+        <translation>Testi da tradurre: %1, file: %2</translation>
     </message>
 </context>
 </TS>

@@ -470,10 +470,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no localization tool</source>
-        <translation>このビルドにはローカライズ ツールがありません</translation>
-    </message>
-    <message>
         <source>Stopping Services</source>
         <translation>サービスを停止しています</translation>
     </message>
@@ -707,6 +703,25 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD パッケージの検索が完了しました</translation>
+    </message>
+</context>
+<context>
+    <name>util::util_localization_tool</name>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 は破損しています</translation>
+    </message>
+    <message>
+        <source>There is no folder of sources, nothing is translated</source>
+        <translation>ソース フォルダーがないため、何も翻訳されません</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts to translate</source>
+        <translation>%1: 翻訳対象テキスト %2 件</translation>
+    </message>
+    <message>
+        <source>%1 texts to translate in %2 files</source>
+        <translation>翻訳対象テキスト %1 件 (%2 ファイル)</translation>
     </message>
 </context>
 </TS>

@@ -470,10 +470,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no localization tool</source>
-        <translation>이 빌드에는 지역화 도구가 없습니다</translation>
-    </message>
-    <message>
         <source>Stopping Services</source>
         <translation>서비스를 중지하는 중</translation>
     </message>
@@ -707,6 +703,25 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 패키지 찾기를 완료했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>util::util_localization_tool</name>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1이(가) 손상되었습니다</translation>
+    </message>
+    <message>
+        <source>There is no folder of sources, nothing is translated</source>
+        <translation>소스 폴더가 없어 아무것도 번역하지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts to translate</source>
+        <translation>%1: 번역할 텍스트 %2개</translation>
+    </message>
+    <message>
+        <source>%1 texts to translate in %2 files</source>
+        <translation>번역할 텍스트 %1개 (파일 %2개)</translation>
     </message>
 </context>
 </TS>

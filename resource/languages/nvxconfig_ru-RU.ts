@@ -470,10 +470,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no localization tool</source>
-        <translation>В этой сборке нет средства локализации</translation>
-    </message>
-    <message>
         <source>Stopping Services</source>
         <translation>Остановка служб</translation>
     </message>
@@ -707,6 +703,25 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>Поиск пакетов САПР завершен</translation>
+    </message>
+</context>
+<context>
+    <name>util::util_localization_tool</name>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>Файл %1 повреждён</translation>
+    </message>
+    <message>
+        <source>There is no folder of sources, nothing is translated</source>
+        <translation>Папка с исходными файлами отсутствует, перевод не выполняется</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts to translate</source>
+        <translation>%1: текстов для перевода: %2</translation>
+    </message>
+    <message>
+        <source>%1 texts to translate in %2 files</source>
+        <translation>Текстов для перевода: %1, файлов: %2</translation>
     </message>
 </context>
 </TS>

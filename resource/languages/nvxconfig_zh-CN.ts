@@ -470,10 +470,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no localization tool</source>
-        <translation>此版本没有本地化工具</translation>
-    </message>
-    <message>
         <source>Stopping Services</source>
         <translation>正在停止服务</translation>
     </message>
@@ -707,6 +703,25 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 软件包搜索完成</translation>
+    </message>
+</context>
+<context>
+    <name>util::util_localization_tool</name>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 已损坏</translation>
+    </message>
+    <message>
+        <source>There is no folder of sources, nothing is translated</source>
+        <translation>没有源文件夹，不进行任何翻译</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts to translate</source>
+        <translation>%1：待翻译文本 %2 条</translation>
+    </message>
+    <message>
+        <source>%1 texts to translate in %2 files</source>
+        <translation>待翻译文本 %1 条（共 %2 个文件）</translation>
     </message>
 </context>
 </TS>

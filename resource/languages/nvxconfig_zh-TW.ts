@@ -470,10 +470,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>StartUp</name>
     <message>
-        <source>This build has no localization tool</source>
-        <translation>此版本沒有當地語系化工具</translation>
-    </message>
-    <message>
         <source>Stopping Services</source>
         <translation>正在停止服務</translation>
     </message>
@@ -707,6 +703,25 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 套件搜尋完成</translation>
+    </message>
+</context>
+<context>
+    <name>util::util_localization_tool</name>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 已損壞</translation>
+    </message>
+    <message>
+        <source>There is no folder of sources, nothing is translated</source>
+        <translation>沒有來源資料夾，不進行任何翻譯</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts to translate</source>
+        <translation>%1：待翻譯文字 %2 條</translation>
+    </message>
+    <message>
+        <source>%1 texts to translate in %2 files</source>
+        <translation>待翻譯文字 %1 條（共 %2 個檔案）</translation>
     </message>
 </context>
 </TS>

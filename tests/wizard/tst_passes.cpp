@@ -161,15 +161,6 @@ private slots:
         QVERIFY(m_fixture->machine.boxes.isEmpty());
     }
 
-    void theLocalisationRunEndsWithZeroAndRunsNothing()
-    {
-        cfg_utilitys &engine = m_fixture->start(text("-T"));
-        m_fixture->machine.calls.clear();
-        QCOMPARE(runProgram(engine), 0);
-        QCOMPARE(m_fixture->lines().last(), text("   1 This build has no localization tool"));
-        QVERIFY(m_fixture->machine.calls.isEmpty());
-    }
-
     void runningProgramsAreLookedForBeforeCadSystemsAndBothBeforeTheRun()
     {
         m_fixture->machine.running.add(text("C:\\CAD\\xtop.exe"));
@@ -223,6 +214,29 @@ private slots:
         QCOMPARE(runProgram(engine), 0);
         QVERIFY(engine.state().runComplete);
         QVERIFY(m_fixture->machine.running.ended.isEmpty());
+    }
+
+    void theLocalizationRunEndsWithZeroAndItsLine()
+    {
+        writeFile(m_fixture->test.installDir() + text("/localization.xml"), "<localization/>");
+        QCOMPARE(runProgram(m_fixture->start(text("-T"))), 0);
+        const QStringList lines = m_fixture->lines();
+        QCOMPARE(lines.last(), text("   0 Localization script finishes cool"));
+        QCOMPARE(lines.at(lines.size() - 2),
+                 text("   1 There is no folder of sources, nothing is translated"));
+        QVERIFY(!lines.contains(text("   0 Searching for CAD Packages")));
+    }
+
+    void theLocalizationToolIsMadeOnce()
+    {
+        writeFile(m_fixture->test.installDir() + text("/localization.xml"), "<localization/>");
+        cfg_utilitys &engine = m_fixture->start(text("-T"));
+        QVERIFY(!engine.getLtool());
+        engine.initLocalizationTool();
+        const auto *tool = engine.getLtool();
+        QVERIFY(tool);
+        engine.initLocalizationTool();
+        QCOMPARE(engine.getLtool(), tool);
     }
 
     void aRunWithoutAModeBecomesAnInstall()

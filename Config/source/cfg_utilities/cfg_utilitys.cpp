@@ -1,6 +1,7 @@
 #include "cfg_utilities/cfg_utilitys.h"
 
 #include "cfg_utilities/flag_file.h"
+#include "localization/util_localization_tool.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
 #include "run/product.h"

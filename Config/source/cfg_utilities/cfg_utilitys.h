@@ -12,10 +12,15 @@
 
 #include <QObject>
 
+#include <memory>
+
 namespace Nvx::Util {
 class CpuInfo;
 }
 class ProgressView;
+namespace util {
+class util_localization_tool;
+}
 
 /// What becomes of the files that earlier releases and runs have left.
 enum class OldFiles
@@ -137,7 +142,13 @@ public:
     /// Uninstalls the server, and on install installs it again. Always returns 0.
     int stopServices(RunMode mode);
 
+    /// The localisation tool; null before initLocalizationTool.
+    util::util_localization_tool *getLtool() const { return m_localizationTool.get(); }
+
 public slots:
+    /// Makes the localisation tool, once.
+    void initLocalizationTool();
+
     /// Performs one whole run: every step in its order, each told the run mode.
     void ProcessInstallation();
 
@@ -164,6 +175,7 @@ private:
     NvxService m_service;
     RunState m_state;
     Nvx::Util::Log m_log;
+    std::unique_ptr<util::util_localization_tool> m_localizationTool;
     ProgressView *m_progressView = nullptr;
     CadPackages m_cadPackages;
     SharedFolders m_sharedFolders;

@@ -5,6 +5,7 @@
 #include "cfg_wizard/interface_font.h"
 #include "cfg_wizard/interface_translators.h"
 #include "cfg_wizard/wizard_plan.h"
+#include "localization/util_localization_tool.h"
 #include "nvx_util/system.h"
 
 #include <QApplication>
@@ -22,6 +23,13 @@ int showPages(cfg_utilitys &engine, const WizardPlan &plan)
     engine.searchCADPackages(); // which sets the boxes of the pages
     wizard.show();
     return QApplication::exec();
+}
+
+void localize(cfg_utilitys &engine)
+{
+    engine.initLocalizationTool();
+    engine.getLtool()->runScript();
+    engine.log(0, QStringLiteral("Localization script finishes cool"));
 }
 
 } // namespace
@@ -56,7 +64,7 @@ int runPass(cfg_utilitys &engine, const WizardPlan &plan)
         engine.stopServices(plan.runMode);
         return 0;
     case WizardPlan::Action::Localize:
-        engine.log(1, Messages::tr("This build has no localization tool"));
+        localize(engine);
         return 0;
     case WizardPlan::Action::ShowPages:
         break;

@@ -1,0 +1,23 @@
+// What reaches the localisation tool from outside: its settings, sources, forms and the translators' files.
+
+#include "localization/job_file.h"
+#include "localization/localization_settings.h"
+#include "localization/translatable_texts.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
+{
+    const QByteArray input(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
+    const auto settings = util::readLocalizationSettings(input);
+    const bool whole = util::isWholeTranslationFile(input);
+    const int calls = util::countTranslatableCalls(input);
+    const int strings = util::countTranslatableStrings(input);
+    // No document is both, and no call or text is shorter than its mark.
+    if ((settings && whole) || calls < 0 || strings < 0 || calls * 3 > input.size() ||
+        strings * 9 > input.size())
+        std::abort();
+    return 0;
+}

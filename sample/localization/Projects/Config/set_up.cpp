@@ -1,0 +1,6 @@
+#include <QCoreApplication>
+
+QString completion()
+{
+    return QCoreApplication::translate("SetUp", "The product has been set up");
+}

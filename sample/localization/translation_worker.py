@@ -1,0 +1,102 @@
+#!/usr/bin/env python3
+"""Stands for the translators at the other end of the share: watches the job folder, takes the job NVX360,
+gives every text of its files a made-up translation in each language, and says that it is done.
+
+    translation_worker.py SHARE [--once] [--settle SECONDS] [--damage CODE/NAME]
+
+SHARE is the folder that holds "pTrans". --once ends after one job. --settle says how long the uploaded files
+must have been left alone before they count as complete (2 seconds). --damage sends a file back cut in half.
+"""
+
+import argparse
+import sys
+import time
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+LANGUAGES = {
+    "deu": "de_DE",
+    "fra": "fr_FR",
+    "ita": "it_IT",
+    "jpn": "ja_JP",
+    "chs": "zh_CN",
+    "cht": "zh_TW",
+    "kor": "ko_KR",
+    "rus": "ru_RU",
+}
+JOB = "NVX360"
+
+
+def pseudo_translation(source, code):
+    """The text, marked with the language; its placeholders stay."""
+    return "[%s] %s" % (code, source)
+
+
+def translate(table, code):
+    """The bytes of a translation file in the language of a code."""
+    root = ElementTree.fromstring(table)
+    root.set("language", LANGUAGES[code])
+    for message in root.iter("message"):
+        translation = message.find("translation")
+        translation.attrib.pop("type", None)
+        text = pseudo_translation(message.findtext("source", ""), code)
+        forms = translation.findall("numerusform")
+        for form in forms:
+            form.text = text
+        if not forms:
+            translation.text = text
+    return b'<?xml version="1.0" encoding="utf-8"?>\n<!DOCTYPE TS>\n' + ElementTree.tostring(
+        root, encoding="utf-8"
+    )
+
+
+def is_settled(files, seconds):
+    try:
+        newest = max((file.stat().st_mtime for file in files), default=0)
+    except FileNotFoundError:
+        return False
+    return time.time() - newest >= seconds
+
+
+def take(job, files_folder, settle, damaged):
+    """Does a job and writes the answer."""
+    names = [
+        line.removeprefix("enu\\") for line in job.read_text(encoding="utf-8").splitlines() if line
+    ]
+    sources = [files_folder / "enu" / name for name in names]
+    while not is_settled(sources, settle):
+        time.sleep(0.1)
+    job.unlink()
+    for code in LANGUAGES:
+        folder = files_folder / code
+        folder.mkdir(parents=True, exist_ok=True)
+        for source in sources:
+            table = translate(source.read_bytes(), code)
+            if "%s/%s" % (code, source.name) == damaged:
+                table = table[: len(table) // 2]
+            (folder / source.name).write_bytes(table)
+    job.with_suffix(".done").write_bytes(b"")
+    print("%s: %d files in %d languages" % (JOB, len(names), len(LANGUAGES)), flush=True)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("share", type=Path)
+    parser.add_argument("--once", action="store_true")
+    parser.add_argument("--settle", type=float, default=2)
+    parser.add_argument("--damage", default="")
+    options = parser.parse_args()
+
+    shared = options.share / "pTrans"
+    job = shared / "~cBuild" / "job" / (JOB + ".job")
+    job.parent.mkdir(parents=True, exist_ok=True)
+    while True:
+        if job.exists():
+            take(job, shared / JOB, options.settle, options.damage)
+            if options.once:
+                return 0
+        time.sleep(0.1)
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,113 @@
+#include "localization/locale_folders.h"
+
+#include "localization/localization_languages.h"
+#include "nvx_util/system.h"
+#include "nvx_util/whole_file.h"
+#include "run/reporter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSet>
+
+using Nvx::Util::joinPath;
+
+namespace util {
+
+namespace {
+
+const QStringList compiledFiles = {QStringLiteral("*.qm")};
+
+QList<Language> allLanguages()
+{
+    QList<Language> languages = {sourceLanguage};
+    for (const Language &language : targetLanguages)
+        languages.append(language);
+    return languages;
+}
+
+} // namespace
+
+QStringList filesHandedOn()
+{
+    return {QStringLiteral("*.ts"), QStringLiteral("*.qm"), QStringLiteral("*.xaml"),
+            QStringLiteral("*.csv")};
+}
+
+QStringList matchingFiles(const QString &folder, const QStringList &patterns)
+{
+    return QDir(folder).entryList(patterns, QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+bool makeWritable(const QString &path)
+{
+    QFile file(path);
+    if (!file.exists())
+        return true;
+    const QFile::Permissions permissions = file.permissions();
+    if (permissions & QFile::WriteOwner)
+        return true;
+    return file.setPermissions(permissions | QFile::WriteOwner | QFile::WriteUser);
+}
+
+bool copyWhole(const QString &source, const QString &target)
+{
+    QFile file(source);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return false;
+    return makeWritable(target) && Nvx::Util::replaceWholeFile(target, bytes);
+}
+
+LocaleFolders::LocaleFolders(const QString &root, Reporter &reporter)
+    : m_folder(joinPath(root, QStringLiteral("Locale")))
+    , m_reporter(reporter)
+{
+}
+
+QString LocaleFolders::folder(const QString &locale) const
+{
+    return joinPath(m_folder, locale);
+}
+
+QString LocaleFolders::collected(const QString &code) const
+{
+    return joinPath(m_folder, QStringLiteral("collect/") + code);
+}
+
+void LocaleFolders::prepare()
+{
+    for (const Language &language : allLanguages()) {
+        const QString path = folder(language.locale);
+        QDir().mkpath(path);
+        const QStringList names = matchingFiles(path, compiledFiles);
+        for (const QString &name : names)
+            if (!makeWritable(joinPath(path, name)))
+                m_reporter.log(1, QStringLiteral("Permission fails:") + joinPath(path, name));
+    }
+}
+
+void LocaleFolders::collect()
+{
+    for (const Language &language : allLanguages())
+        collect(folder(language.locale), collected(language.code));
+}
+
+void LocaleFolders::collect(const QString &source, const QString &target)
+{
+    QDir().mkpath(target);
+    const QStringList names = matchingFiles(source, filesHandedOn());
+    const QSet<QString> kept(names.begin(), names.end());
+    const QStringList earlier = matchingFiles(target, filesHandedOn());
+    for (const QString &name : earlier) {
+        const QString path = joinPath(target, name);
+        if (!kept.contains(name) && !(makeWritable(path) && QFile::remove(path)))
+            m_reporter.log(1, QStringLiteral("Permission fails:") + path);
+    }
+    for (const QString &name : names)
+        if (!copyWhole(joinPath(source, name), joinPath(target, name)))
+            m_reporter.log(1, QStringLiteral("Permission fails:") + joinPath(target, name));
+}
+
+} // namespace util

@@ -1,0 +1,75 @@
+#include "localization/translation_tools.h"
+
+#include "localization/locale_folders.h"
+#include "nvx_util/machine.h"
+#include "nvx_util/system.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace util {
+
+namespace {
+
+// Beside the file, for the tool writes paths that are relative to it; with its suffix, for that tells the
+// tool the format.
+QString besideIt(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString name = file.completeBaseName() + QStringLiteral(".new.") + file.suffix();
+    return QDir::toNativeSeparators(file.dir().filePath(name));
+}
+
+} // namespace
+
+TranslationTools::TranslationTools(const StepContext &context, const QString &toolsFolder)
+    : m_context(context)
+    , m_runner(context)
+    , m_toolsFolder(toolsFolder)
+{
+}
+
+QString TranslationTools::find(const QString &name) const
+{
+    const QString folder = m_toolsFolder.isEmpty() ? m_context.machine.executableFolder() : m_toolsFolder;
+    QString tool = QStandardPaths::findExecutable(name, {folder});
+    if (tool.isEmpty() && m_toolsFolder.isEmpty())
+        tool = QStandardPaths::findExecutable(name);
+    // A tool that is not there is run all the same, for the log to say so.
+    return tool.isEmpty() ? Nvx::Util::joinPath(folder, name) : QDir::toNativeSeparators(tool);
+}
+
+bool TranslationTools::run(const QString &tool, const QStringList &arguments, const QString &workFolder)
+{
+    return m_runner.runCommand(find(tool), arguments, workFolder, timeLimitMs) == 0;
+}
+
+bool TranslationTools::update(const QString &project, const QString &translations)
+{
+    const QString draft = besideIt(translations);
+    QFile::remove(draft);
+    if (QFile::exists(translations) && !copyWhole(translations, draft))
+        return false;
+    const QString projectFolder = QDir::toNativeSeparators(QFileInfo(project).path());
+    const bool updated =
+        run(QStringLiteral("lupdate"), {project, QStringLiteral("-ts"), draft}, projectFolder) &&
+        copyWhole(draft, translations);
+    QFile::remove(draft);
+    return updated;
+}
+
+bool TranslationTools::release(const QString &translations, const QString &compiled)
+{
+    const QString draft = besideIt(compiled);
+    QFile::remove(draft);
+    const QString folder = QDir::toNativeSeparators(QFileInfo(translations).path());
+    const bool released =
+        run(QStringLiteral("lrelease"), {translations, QStringLiteral("-qm"), draft}, folder) &&
+        copyWhole(draft, compiled);
+    QFile::remove(draft);
+    return released;
+}
+
+} // namespace util

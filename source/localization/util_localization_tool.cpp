@@ -1,0 +1,195 @@
+#include "localization/util_localization_tool.h"
+
+#include "localization/locale_folders.h"
+#include "localization/localization_languages.h"
+#include "localization/translatable_texts.h"
+#include "localization/translation_tools.h"
+#include "mat_translation_table.h"
+#include "nvx_util/machine.h"
+#include "nvx_util/system.h"
+#include "run/reporter.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+using Nvx::Util::joinPath;
+using Nvx::Util::System;
+
+namespace util {
+
+namespace {
+
+const QString buildOutputFolder = QStringLiteral("C:\\build\\NVX2017");
+constexpr auto settlingTime = std::chrono::milliseconds(1000);
+
+bool isFolder(const QString &path)
+{
+    return QFileInfo(path).isDir();
+}
+
+QString onShare(const QString &share, const QString &relativePath)
+{
+    return share.isEmpty() ? QString() : joinPath(share, relativePath);
+}
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+util_localization_tool::util_localization_tool(const StepContext &context, QObject *parent)
+    : QObject(parent)
+    , m_filePatterns{QStringLiteral("*.ts"), QStringLiteral("*.xaml"), QStringLiteral("*.csv")}
+    , m_context(context)
+{
+    const LocalizationSettings settings = readSettings();
+    m_rootFolder = QDir::toNativeSeparators(settings.root);
+    m_shareFolder = onShare(settings.share, QStringLiteral("pTrans/NVX360"));
+    m_toolsFolder = settings.qtTools;
+    m_job = std::make_unique<TranslationJob>(
+        LocaleFolders(m_rootFolder, m_context.reporter), m_shareFolder,
+        onShare(settings.share, QStringLiteral("pTrans/~cBuild/job")), m_filePatterns, m_context.reporter,
+        [&machine = context.machine](std::chrono::milliseconds time) { machine.sleep(time); });
+}
+
+util_localization_tool::~util_localization_tool() = default;
+
+LocalizationSettings util_localization_tool::readSettings() const
+{
+    const QString path = joinPath(m_context.machine.executableFolder(), QStringLiteral("localization.xml"));
+    if (!QFile::exists(path)) {
+        LocalizationSettings settings;
+        settings.root =
+            firstExisting({buildOutputFolder, System::getProgramFilesPathFromRegistry(false)}, isFolder);
+        return settings;
+    }
+    std::optional<LocalizationSettings> settings = readLocalizationSettings(bytesOf(path));
+    if (!settings) {
+        // Guessing another folder could rewrite the wrong sources.
+        m_context.reporter.log(1, tr("%1 is damaged").arg(path));
+        return {};
+    }
+    settings->root = firstExisting({settings->root}, isFolder);
+    return *settings;
+}
+
+QString util_localization_tool::inRoot(const QString &relativePath) const
+{
+    return joinPath(m_rootFolder, relativePath);
+}
+
+QString util_localization_tool::inLocale(QLatin1String locale, const QString &name) const
+{
+    return inRoot(QStringLiteral("Locale/%1/%2").arg(locale, name));
+}
+
+void util_localization_tool::runScript()
+{
+    Reporter &reporter = m_context.reporter;
+    reporter.log(0, m_rootFolder);
+    reporter.log(0, m_shareFolder);
+    if (m_rootFolder.isEmpty()) {
+        reporter.log(1, tr("There is no folder of sources, nothing is translated"));
+        return;
+    }
+    LocaleFolders folders(m_rootFolder, reporter);
+    folders.prepare();
+    scanSources();
+    updateEnglishSources();
+    updateMaterialNames();
+    folders.collect();
+    folders.prepare();
+    m_context.machine.sleep(settlingTime);
+    runTranslationJob();
+    folders.prepare();
+    compile();
+    copyRibbon();
+}
+
+void util_localization_tool::scanSources()
+{
+    QStringList paths;
+    QDirIterator files(inRoot(QStringLiteral("Projects")), {QStringLiteral("*.cpp"), QStringLiteral("*.ui")},
+                       QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths.append(QDir::toNativeSeparators(files.next()));
+    paths.sort();
+
+    qint64 total = 0;
+    for (const QString &path : std::as_const(paths)) {
+        const QByteArray bytes = bytesOf(path);
+        const bool form = path.endsWith(QLatin1String(".ui"), Qt::CaseInsensitive);
+        const int count = form ? countTranslatableStrings(bytes) : countTranslatableCalls(bytes);
+        total += count;
+        m_context.reporter.log(0, tr("%1: %2 texts to translate").arg(path, QString::number(count)));
+    }
+    m_context.reporter.log(0, tr("%1 texts to translate in %2 files").arg(total).arg(paths.size()));
+}
+
+void util_localization_tool::updateEnglishSources()
+{
+    TranslationTools tools(m_context, m_toolsFolder);
+    if (tools.update(inRoot(QStringLiteral("Projects/Client/client.pro")),
+                     inLocale(sourceLanguage.locale, QStringLiteral("client.ts"))))
+        m_context.reporter.log(0, QStringLiteral("tr1 finishes cool"));
+    if (tools.update(inRoot(QStringLiteral("Projects/Config/Config.pro")),
+                     inLocale(sourceLanguage.locale, QStringLiteral("nvxconfig.ts"))))
+        m_context.reporter.log(0, QStringLiteral("tr2 finishes cool"));
+}
+
+void util_localization_tool::updateMaterialNames()
+{
+    const QString translations = inLocale(sourceLanguage.locale, QStringLiteral("matprop.ts"));
+    makeWritable(translations);
+    const mat::TableUpdate update = mat::updateTranslationFile(
+        inRoot(QStringLiteral("Projects/Client/runtime/matprop.mdb")), translations);
+    if (update.outcome == mat::TableUpdate::Outcome::Updated)
+        m_context.reporter.log(0, QStringLiteral("mat finishes cool"));
+    else
+        m_context.reporter.log(1, update.error);
+}
+
+void util_localization_tool::runTranslationJob()
+{
+    m_job->writeJobFile();
+    m_job->upload();
+    m_job->waitUntilDone();
+    m_context.reporter.log(0, QStringLiteral("job done"));
+    m_job->download();
+    m_context.reporter.log(0, QStringLiteral("cbuild finishes cool"));
+}
+
+void util_localization_tool::compile()
+{
+    TranslationTools tools(m_context, m_toolsFolder);
+    for (const Language &language : targetLanguages) {
+        m_context.reporter.log(0, QStringLiteral("release client ") + language.locale);
+        tools.release(inLocale(language.locale, QStringLiteral("client.ts")),
+                      inLocale(language.locale, QStringLiteral("client.qm")));
+        m_context.reporter.log(0, QStringLiteral("release config ") + language.locale);
+        tools.release(inLocale(language.locale, QStringLiteral("nvxconfig.ts")),
+                      inLocale(language.locale, QStringLiteral("nvxconfig.qm")));
+    }
+    m_context.reporter.log(0, QStringLiteral("release finishes cool"));
+}
+
+void util_localization_tool::copyRibbon()
+{
+    const auto name = QStringLiteral("Ribbon2D.xmal");
+    const QString source = inLocale(sourceLanguage.locale, name);
+    for (const Language &language : targetLanguages) {
+        const QString target = inLocale(language.locale, name);
+        if (!makeWritable(target))
+            m_context.reporter.log(1, QStringLiteral("Permission fails:") + target);
+        else if (!copyWhole(source, target))
+            m_context.reporter.log(1, QStringLiteral("Copy fails:") + target);
+    }
+    m_context.reporter.log(0, QStringLiteral("Ribbon2D copied cool"));
+}
+
+} // namespace util

@@ -1,0 +1,60 @@
+#include "localization/translatable_texts.h"
+
+#include <QTest>
+
+using util::countTranslatableCalls;
+using util::countTranslatableStrings;
+
+class tst_translatable_texts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void callsOfASourceAreCounted_data()
+    {
+        QTest::addColumn<QByteArray>("source");
+        QTest::addColumn<int>("count");
+        QTest::newRow("nothing") << QByteArray() << 0;
+        QTest::newRow("tr") << QByteArray("a = tr(\"Text\");") << 1;
+        QTest::newRow("tr of a class") << QByteArray("a = Window::tr (\n  \"Text\");") << 1;
+        QTest::newRow("translate") << QByteArray("qApp->translate(\"Context\", \"Text\")") << 1;
+        QTest::newRow("marked in a table")
+            << QByteArray("{QT_TR_NOOP(\"A\"), QT_TRANSLATE_NOOP(\"C\", \"B\")}") << 2;
+        QTest::newRow("by id") << QByteArray("qtTrId(\"id\") QT_TRID_NOOP(\"id\")") << 2;
+        QTest::newRow("one inside another") << QByteArray("tr(\"%1\").arg(tr(\"b\"))") << 2;
+        QTest::newRow("without a literal") << QByteArray("tr(text); QObject::tr(text + \"a\")") << 0;
+        QTest::newRow("in a comment") << QByteArray("// tr(\"a\")\n/* tr(\"b\") */") << 0;
+        QTest::newRow("in a literal") << QByteArray("\"tr(\\\"a\\\")\"") << 0;
+        QTest::newRow("part of a word") << QByteArray("str(\"a\"); tr_(\"b\"); matr(\"c\")") << 0;
+        QTest::newRow("not closed") << QByteArray("tr(\"a") << 1;
+        QTest::newRow("bytes of no text") << QByteArray("\xff\0tr(\"a\")\xfe", 10) << 1;
+    }
+
+    void callsOfASourceAreCounted()
+    {
+        QFETCH(const QByteArray, source);
+        QTEST(countTranslatableCalls(source), "count");
+    }
+
+    void textsOfAFormAreCounted_data()
+    {
+        QTest::addColumn<QByteArray>("form");
+        QTest::addColumn<int>("count");
+        QTest::newRow("nothing") << QByteArray() << 0;
+        QTest::newRow("two") << QByteArray("<ui><a><string>A</string></a><string>B</string></ui>") << 2;
+        QTest::newRow("marked as not to be translated")
+            << QByteArray("<ui><string notr=\"true\">A</string><string notr=\"false\">B</string></ui>") << 1;
+        QTest::newRow("empty") << QByteArray("<ui><string/><string></string></ui>") << 0;
+        QTest::newRow("before an error") << QByteArray("<ui><string>A</string><b") << 1;
+        QTest::newRow("no XML") << QByteArray("string") << 0;
+    }
+
+    void textsOfAFormAreCounted()
+    {
+        QFETCH(const QByteArray, form);
+        QTEST(countTranslatableStrings(form), "count");
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_translatable_texts)
+#include "tst_translatable_texts.moc"

@@ -1,0 +1,277 @@
+#include "localization/translation_job.h"
+#include "support/recording_reporter.h"
+#include "support/test_machine.h"
+
+#include <QTest>
+
+#include <memory>
+
+using util::LocaleFolders;
+using util::TranslationJob;
+
+namespace {
+
+const QByteArray whole = "<TS version=\"2.1\" language=\"de\"></TS>";
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+QString native(const QString &path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+} // namespace
+
+class tst_translation_job : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<TestFolder>();
+        m_reporter = std::make_unique<RecordingReporter>();
+        m_pauses.clear();
+        m_afterPause = nullptr;
+        QVERIFY(QDir().mkpath(path("share/pTrans/~cBuild/job")));
+        writeFile(path("root/Locale/en-US/client.ts"), whole);
+        writeFile(path("root/Locale/en-US/nvxconfig.ts"), whole);
+        for (const char *locale : {"de-DE", "fr-FR", "it-IT", "ja-JP", "zh-CN", "zh-TW", "ko-KR", "ru-RU"})
+            QVERIFY(QDir().mkpath(path("root/Locale/") + text(locale)));
+    }
+
+    void theJobFileNamesTheEnglishSourcesThatThereAre()
+    {
+        job()->writeJobFile();
+        QCOMPARE(readFile(path("share/pTrans/~cBuild/job/NVX360.job")),
+                 QByteArray("enu\\client.ts\nenu\\nvxconfig.ts\n"));
+        QCOMPARE(m_reporter->lines, QStringList{text("0 job file cool")});
+    }
+
+    void aNewRequestTakesTheEarlierAnswerAway()
+    {
+        const QString done = path("share/pTrans/~cBuild/job/NVX360.done");
+        writeFile(done);
+        job()->writeJobFile();
+        QVERIFY(!QFile::exists(done));
+    }
+
+    void anAnswerThatCannotBeTakenAwayIsLogged()
+    {
+        const QString done = path("share/pTrans/~cBuild/job/NVX360.done");
+        QVERIFY(QDir().mkpath(done)); // a folder is not removed like a file
+        job()->writeJobFile();
+        QCOMPARE(m_reporter->lines,
+                 QStringList({text("1 can't remove ") + done, text("1 ") + done + text(" still exist"),
+                              text("0 job file cool")}));
+    }
+
+    void withoutAJobFolderTheJobFileCannotBeOpened()
+    {
+        QVERIFY(QDir(path("share")).removeRecursively());
+        job()->writeJobFile();
+        QCOMPARE(m_reporter->lines,
+                 QStringList{text("1 can't open ") + path("share/pTrans/~cBuild/job/NVX360.job")});
+    }
+
+    void aJobFileThatCannotBeWrittenIsLogged()
+    {
+        const QString blocked = path("share/pTrans/~cBuild/job/NVX360.job");
+        QVERIFY(QDir().mkpath(blocked));
+        job()->writeJobFile();
+        QCOMPARE(m_reporter->lines, QStringList{text("1 can't write ") + blocked});
+    }
+
+    void theCollectedFilesOfEveryLanguageGoOntoTheShare()
+    {
+        writeFile(path("root/Locale/collect/enu/client.ts"), "english");
+        writeFile(path("root/Locale/collect/kor/client.ts"), "korean");
+        job()->upload();
+        QCOMPARE(readFile(path("share/pTrans/NVX360/enu/client.ts")), QByteArray("english"));
+        QCOMPARE(readFile(path("share/pTrans/NVX360/kor/client.ts")), QByteArray("korean"));
+        QStringList expected;
+        for (const char *code : {"enu", "deu", "fra", "ita", "jpn", "chs", "cht", "kor", "rus"})
+            expected.append(text("0 upload ") + path("share/pTrans/NVX360/") + text(code));
+        QCOMPARE(m_reporter->lines, expected);
+    }
+
+    void anUploadTakesOutWhatIsNoLongerCollectedAndNothingElse()
+    {
+        writeFile(path("root/Locale/collect/deu/client.ts"), "new");
+        writeFile(path("share/pTrans/NVX360/deu/client.ts"), "old");
+        writeFile(path("share/pTrans/NVX360/deu/gone.ts"), "old");
+        writeFile(path("share/pTrans/NVX360/deu/notes.txt"), "the translators' own");
+        job()->upload();
+        QCOMPARE(readFile(path("share/pTrans/NVX360/deu/client.ts")), QByteArray("new"));
+        QVERIFY(!QFile::exists(path("share/pTrans/NVX360/deu/gone.ts")));
+        QVERIFY(QFile::exists(path("share/pTrans/NVX360/deu/notes.txt")));
+    }
+
+    void anUploadThatFailsIsLoggedAndTheOthersGoOn()
+    {
+        writeFile(path("root/Locale/collect/deu/a.ts"), "a");
+        writeFile(path("root/Locale/collect/deu/b.ts"), "b");
+        QVERIFY(QDir().mkpath(path("share/pTrans/NVX360/deu/a.ts")));
+        job()->upload();
+        QVERIFY(m_reporter->lines.contains(text("1 upload fails ") + path("share/pTrans/NVX360/deu/a.ts")));
+        QCOMPARE(readFile(path("share/pTrans/NVX360/deu/b.ts")), QByteArray("b"));
+    }
+
+    void withoutAShareNothingIsUploadedAndNoShareIsMade()
+    {
+        QVERIFY(QDir(path("share")).removeRecursively());
+        writeFile(path("root/Locale/collect/deu/a.ts"), "a");
+        job()->upload();
+        QCOMPARE(m_reporter->lines, QStringList{text("1 ") + path("share/pTrans/NVX360 not available")});
+        QVERIFY(!QFile::exists(path("share")));
+    }
+
+    void anAnswerThatIsThereEndsTheWaitAtOnce()
+    {
+        writeFile(path("share/pTrans/~cBuild/job/NVX360.done"));
+        job()->waitUntilDone();
+        QCOMPARE(m_pauses, QList<std::chrono::milliseconds>());
+        QCOMPARE(m_reporter->lines, QStringList());
+    }
+
+    void theAnswerIsLookedForEveryTenSeconds()
+    {
+        m_afterPause = [this](qsizetype count) {
+            if (count == 3)
+                writeFile(path("share/pTrans/~cBuild/job/NVX360.done"));
+        };
+        job()->waitUntilDone();
+        QCOMPARE(m_pauses, QList<std::chrono::milliseconds>(3, std::chrono::seconds(10)));
+        QCOMPARE(m_reporter->lines, QStringList());
+    }
+
+    void theAnswerCountsAtTheLastLook()
+    {
+        m_afterPause = [this](qsizetype count) {
+            if (count == 200)
+                writeFile(path("share/pTrans/~cBuild/job/NVX360.done"));
+        };
+        job()->waitUntilDone();
+        QCOMPARE(m_pauses.size(), 200);
+        QCOMPARE(m_reporter->lines, QStringList());
+    }
+
+    void afterMoreThanTwoHundredLooksTheWaitIsGivenUp()
+    {
+        job()->waitUntilDone();
+        QCOMPARE(m_pauses.size(), 200);
+        std::chrono::milliseconds waited(0);
+        for (const auto pause : std::as_const(m_pauses))
+            waited += pause;
+        QCOMPARE(waited.count(), 2'000'000); // 33 minutes and 20 seconds
+        QCOMPARE(m_reporter->lines, QStringList{text("1 timeout")});
+    }
+
+    void aShareThatGoesAwayAndComesBackEndsTheWaitWithItsAnswer()
+    {
+        m_afterPause = [this](qsizetype count) {
+            if (count == 2)
+                QVERIFY(QDir(path("share")).removeRecursively());
+            if (count == 5)
+                writeFile(path("share/pTrans/~cBuild/job/NVX360.done"));
+        };
+        job()->waitUntilDone();
+        QCOMPARE(m_pauses.size(), 5);
+    }
+
+    void theFilesThatMatchComeBackIntoTheLocaleFolders()
+    {
+        writeFile(path("share/pTrans/NVX360/deu/client.ts"), whole);
+        writeFile(path("share/pTrans/NVX360/deu/menu.xaml"), "menu");
+        writeFile(path("share/pTrans/NVX360/deu/words.csv"), "words");
+        writeFile(path("share/pTrans/NVX360/deu/client.qm"), "compiled");
+        writeFile(path("share/pTrans/NVX360/enu/client.ts"), "<TS>changed</TS>");
+        job()->download();
+        QCOMPARE(readFile(path("root/Locale/de-DE/client.ts")), whole);
+        QCOMPARE(readFile(path("root/Locale/de-DE/menu.xaml")), QByteArray("menu"));
+        QCOMPARE(readFile(path("root/Locale/de-DE/words.csv")), QByteArray("words"));
+        QVERIFY(!QFile::exists(path("root/Locale/de-DE/client.qm")));
+        QCOMPARE(readFile(path("root/Locale/en-US/client.ts")), whole);
+    }
+
+    void aDamagedTranslationFileDoesNotReplaceAGoodOne_data()
+    {
+        QTest::addColumn<QByteArray>("damaged");
+        QTest::newRow("cut off") << whole.left(20);
+        QTest::newRow("no bytes") << QByteArray();
+        QTest::newRow("no translation file") << QByteArray("<html/>");
+    }
+
+    void aDamagedTranslationFileDoesNotReplaceAGoodOne()
+    {
+        QFETCH(const QByteArray, damaged);
+        writeFile(path("root/Locale/de-DE/client.ts"), whole);
+        writeFile(path("share/pTrans/NVX360/deu/client.ts"), damaged);
+        writeFile(path("share/pTrans/NVX360/deu/matprop.ts"), whole);
+        job()->download();
+        QCOMPARE(readFile(path("root/Locale/de-DE/client.ts")), whole);
+        QCOMPARE(readFile(path("root/Locale/de-DE/matprop.ts")), whole);
+        QVERIFY(m_reporter->lines.contains(text("1 download fails ") +
+                                           path("share/pTrans/NVX360/deu/client.ts")));
+    }
+
+    void aProtectedFileIsReplaced()
+    {
+        const QString target = path("root/Locale/de-DE/client.ts");
+        writeFile(target, "old");
+        QVERIFY(QFile::setPermissions(target, QFile::ReadOwner | QFile::ReadUser));
+        writeFile(path("share/pTrans/NVX360/deu/client.ts"), whole);
+        job()->download();
+        QCOMPARE(readFile(target), whole);
+    }
+
+    void aLanguageThatIsNotOnTheShareIsLogged()
+    {
+        writeFile(path("share/pTrans/NVX360/deu/client.ts"), whole);
+        job()->download();
+        QCOMPARE(m_reporter->lines.first(), text("0 download ") + path("share/pTrans/NVX360/deu"));
+        QCOMPARE(m_reporter->lines.size(), 1 + 7 * 2);
+        QCOMPARE(m_reporter->lines.at(2), text("1 download fails ") + path("share/pTrans/NVX360/fra"));
+    }
+
+    void withoutANamedShareEveryStepFailsAndTouchesNothing()
+    {
+        const auto nowhere = std::make_unique<TranslationJob>(LocaleFolders(path("root"), *m_reporter),
+                                                              QString(), QString(), QStringList{text("*.ts")},
+                                                              *m_reporter, [](std::chrono::milliseconds) {});
+        nowhere->writeJobFile();
+        nowhere->upload();
+        nowhere->waitUntilDone();
+        nowhere->download();
+        QCOMPARE(m_reporter->lines.first(), text("1 can't open ") + native(text("/NVX360.job")));
+        QCOMPARE(m_reporter->lines.at(1), text("1  not available"));
+        QCOMPARE(m_reporter->lines.at(2), text("1 timeout"));
+        QCOMPARE(readFile(path("root/Locale/en-US/client.ts")), whole);
+    }
+
+private:
+    QString path(const char *name) const { return m_folder->path(text(name)); }
+
+    std::unique_ptr<TranslationJob> job()
+    {
+        return std::make_unique<TranslationJob>(LocaleFolders(path("root"), *m_reporter),
+                                                path("share/pTrans/NVX360"), path("share/pTrans/~cBuild/job"),
+                                                QStringList{text("*.ts"), text("*.xaml"), text("*.csv")},
+                                                *m_reporter, [this](std::chrono::milliseconds pause) {
+                                                    m_pauses.append(pause);
+                                                    if (m_afterPause)
+                                                        m_afterPause(m_pauses.size());
+                                                });
+    }
+
+    std::unique_ptr<TestFolder> m_folder;
+    std::unique_ptr<RecordingReporter> m_reporter;
+    QList<std::chrono::milliseconds> m_pauses;
+    std::function<void(qsizetype)> m_afterPause;
+};
+
+QTEST_GUILESS_MAIN(tst_translation_job)
+#include "tst_translation_job.moc"

@@ -1,0 +1,163 @@
+// The runs of lupdate and lrelease: which program is started, and what becomes of its file.
+
+#include "localization/translation_tools.h"
+#include "run/run_state.h"
+#include "support/recording_machine.h"
+#include "support/recording_reporter.h"
+#include "support/test_machine.h"
+
+#include <QTest>
+
+#include <memory>
+
+using Nvx::Util::ProgramCall;
+using Nvx::Util::ProgramResult;
+using Outcome = ProgramResult::Outcome;
+using util::TranslationTools;
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+/// What a tool that succeeds writes into the file that it is told.
+void writeTarget(const ProgramCall &call)
+{
+    writeFile(call.arguments.last(), "new");
+}
+
+} // namespace
+
+class tst_translation_runs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<TestFolder>();
+        m_machine = std::make_unique<RecordingMachine>();
+        m_machine->ownFolder = m_folder->path();
+        m_reporter = std::make_unique<RecordingReporter>();
+        writeFile(path("client.ts"), "old");
+        writeFile(path("client.qm"), "old");
+    }
+
+    void anUpdateRunsInTheProjectsFolderForHalfAMinuteAtMost()
+    {
+        m_machine->whileRunning = writeTarget;
+        QVERIFY(tools().update(path("a b/client.pro"), path("client.ts")));
+        QCOMPARE(m_machine->calls.size(), 1);
+        const ProgramCall call = m_machine->calls.first();
+        QCOMPARE(call.workFolder, path("a b"));
+        QCOMPARE(call.timeoutMs, 30000);
+        QCOMPARE(call.arguments, QStringList({path("a b/client.pro"), text("-ts"), path("client.new.ts")}));
+        QCOMPARE(readFile(path("client.ts")), QByteArray("new"));
+        QVERIFY(!QFile::exists(path("client.new.ts")));
+    }
+
+    void anUpdateStartsFromTheFileThatIsThere()
+    {
+        QByteArray before;
+        m_machine->whileRunning = [&](const ProgramCall &call) { before = readFile(call.arguments.last()); };
+        QVERIFY(tools().update(path("client.pro"), path("client.ts")));
+        QCOMPARE(before, QByteArray("old"));
+    }
+
+    void aReleaseIsARunOfItsOwnForHalfAMinuteAtMost()
+    {
+        m_machine->whileRunning = writeTarget;
+        QVERIFY(tools().release(path("client.ts"), path("client.qm")));
+        QCOMPARE(m_machine->calls.size(), 1);
+        QCOMPARE(m_machine->calls.first().timeoutMs, 30000);
+        QCOMPARE(m_machine->calls.first().arguments,
+                 QStringList({path("client.ts"), text("-qm"), path("client.new.qm")}));
+        QCOMPARE(readFile(path("client.qm")), QByteArray("new"));
+        QVERIFY(!QFile::exists(path("client.new.qm")));
+    }
+
+    void aToolThatFailsLeavesTheFileAsItWas_data()
+    {
+        QTest::addColumn<Outcome>("outcome");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<bool>("writes");
+        QTest::newRow("missing") << Outcome::NotStarted << 0 << false;
+        QTest::newRow("answers 1") << Outcome::Exited << 1 << true;
+        QTest::newRow("ended at the time limit") << Outcome::TimedOut << 0 << true;
+        QTest::newRow("crashes") << Outcome::Crashed << 0 << true;
+    }
+
+    void aToolThatFailsLeavesTheFileAsItWas()
+    {
+        QFETCH(const Outcome, outcome);
+        QFETCH(const int, exitCode);
+        QFETCH(const bool, writes);
+        m_machine->programResult = {outcome, exitCode, {}};
+        if (writes)
+            m_machine->whileRunning = writeTarget;
+        QVERIFY(!tools().update(path("client.pro"), path("client.ts")));
+        QVERIFY(!tools().release(path("client.ts"), path("client.qm")));
+        QCOMPARE(readFile(path("client.ts")), QByteArray("old"));
+        QCOMPARE(readFile(path("client.qm")), QByteArray("old"));
+        QVERIFY(!QFile::exists(path("client.new.ts")));
+        QVERIFY(!QFile::exists(path("client.new.qm")));
+    }
+
+    void aReleaseThatWritesNothingFails()
+    {
+        writeFile(path("client.new.qm"), "left over by a run that was cut off");
+        QVERIFY(!tools().release(path("client.ts"), path("client.qm")));
+        QCOMPARE(readFile(path("client.qm")), QByteArray("old"));
+    }
+
+    void aProtectedFileIsReplaced()
+    {
+        QVERIFY(QFile::setPermissions(path("client.qm"), QFile::ReadOwner | QFile::ReadUser));
+        m_machine->whileRunning = writeTarget;
+        QVERIFY(tools().release(path("client.ts"), path("client.qm")));
+        QCOMPARE(readFile(path("client.qm")), QByteArray("new"));
+    }
+
+    void theToolsAreThoseOfTheFolderThatIsNamed()
+    {
+        TranslationTools(context(), path("tools")).release(path("client.ts"), path("client.qm"));
+        QVERIFY2(m_machine->calls.first().program.startsWith(path("tools")),
+                 qPrintable(m_machine->calls.first().program));
+    }
+
+    void withoutAFolderTheToolBesideTheExecutableIsTaken()
+    {
+        const QString tool = path(LRELEASE_NAME);
+        writeFile(tool, "#!/bin/sh\n");
+        QVERIFY(QFile::setPermissions(tool, QFile::permissions(tool) | QFile::ExeOwner | QFile::ExeUser));
+        tools().release(path("client.ts"), path("client.qm"));
+        QCOMPARE(m_machine->calls.first().program, tool);
+    }
+
+    void thenTheToolOfThePathIsTaken()
+    {
+        const QString tool = path("path/" LRELEASE_NAME);
+        writeFile(tool, "#!/bin/sh\n");
+        QVERIFY(QFile::setPermissions(tool, QFile::permissions(tool) | QFile::ExeOwner | QFile::ExeUser));
+        const QByteArray before = qgetenv("PATH");
+        qputenv("PATH", QFile::encodeName(path("path")));
+        tools().release(path("client.ts"), path("client.qm"));
+        qputenv("PATH", before);
+        QCOMPARE(m_machine->calls.first().program, tool);
+    }
+
+private:
+    QString path(const char *name) const { return m_folder->path(text(name)); }
+    StepContext context() { return {*m_machine, *m_reporter, m_state}; }
+    TranslationTools tools() { return {context(), QString()}; }
+
+    std::unique_ptr<TestFolder> m_folder;
+    std::unique_ptr<RecordingMachine> m_machine;
+    std::unique_ptr<RecordingReporter> m_reporter;
+    RunState m_state;
+};
+
+QTEST_GUILESS_MAIN(tst_translation_runs)
+#include "tst_translation_runs.moc"

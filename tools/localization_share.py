@@ -1,0 +1,67 @@
+"""What a run of "NVXConfig.exe -T" needs on a machine: sources, the translation tools, a share, and the
+translators at its other end.
+
+    with Translators(machine, build, install_dir) as translators:
+        machine.run(install_dir + "\\\\NVXConfig.exe", "-T")
+"""
+
+import shutil
+import subprocess
+import sys
+from pathlib import Path
+
+HERE = Path(__file__).resolve().parent
+SAMPLE = HERE.parent / "sample" / "localization"
+HOST_TOOLS = Path("/usr/lib/qt6/bin")
+ROOT = "C:\\build\\Übersetzung a b"
+SHARE = "C:\\translators"
+TOOLS = "C:\\build\\tools"
+
+
+class Translators:
+    """Puts everything on the machine, and has a worker at the share while the block runs."""
+
+    def __init__(self, machine, build, install_dir, *worker_options):
+        self.machine = machine
+        self.build = Path(build)
+        self.install_dir = install_dir
+        self.worker_options = worker_options
+        self.worker = None
+
+    def put_sources(self):
+        for folder in ("Projects", "Locale"):
+            shutil.copytree(
+                SAMPLE / folder, self.machine.path(ROOT + "\\" + folder), dirs_exist_ok=True
+            )
+
+    def put_tools(self):
+        folder = self.machine.path(TOOLS)
+        folder.mkdir(parents=True, exist_ok=True)
+        for tool in ("lupdate", "lrelease"):
+            program = folder / (tool + ".exe")
+            shutil.copy(self.build / "sample" / "localization" / "unix_tool.exe", program)
+            Path(str(program) + ".tool").write_text(str(HOST_TOOLS / tool))
+
+    def put_settings(self):
+        settings = self.machine.path(self.install_dir) / "localization.xml"
+        settings.write_text(
+            "<localization>\n   <root>%s</root>\n   <share>%s</share>\n   <qtTools>%s</qtTools>\n"
+            "</localization>\n" % (ROOT, SHARE, TOOLS),
+            encoding="utf-8",
+        )
+
+    def __enter__(self):
+        self.put_sources()
+        self.put_tools()
+        self.put_settings()
+        share = self.machine.path(SHARE)
+        (share / "pTrans" / "~cBuild" / "job").mkdir(parents=True, exist_ok=True)
+        self.worker = subprocess.Popen(
+            [sys.executable, SAMPLE / "translation_worker.py", share, *self.worker_options],
+            stdout=subprocess.DEVNULL,
+        )
+        return self
+
+    def __exit__(self, *_):
+        self.worker.terminate()
+        self.worker.wait()
