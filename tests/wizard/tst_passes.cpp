@@ -154,8 +154,9 @@ private slots:
         const auto before = m_fixture->lines().size();
         QCOMPARE(runProgram(engine), 0);
         const QStringList lines = m_fixture->lines().mid(before);
-        QCOMPARE(lines.mid(0, 2),
-                 QStringList({text("   0 Stopping Services"), text("   0 uninstallServer ")}));
+        QCOMPARE(lines.mid(0, 3),
+                 QStringList({text("   0 CheckForRunningOstrade: silent=off terminate=off"),
+                              text("   0 Stopping Services"), text("   0 uninstallServer ")}));
         QVERIFY(lines.filter(text("Beginning")).isEmpty());
         QVERIFY(m_fixture->machine.service.current == Nvx::Util::ServiceState::NotInstalled);
         QVERIFY(m_fixture->machine.boxes.isEmpty());
@@ -185,14 +186,15 @@ private slots:
     void everyRunLooksForRunningProgramsAndOnlyThoseThatInstallOrRemoveForCadSystems_data()
     {
         QTest::addColumn<QString>("options");
+        QTest::addColumn<int>("listings"); // one more where the server is looked for
         QTest::addColumn<int>("searches");
-        QTest::newRow("silent install") << text("-I -S") << 1;
-        QTest::newRow("silent uninstall") << text("-U -S") << 1;
-        QTest::newRow("install") << text("-I") << 1;
-        QTest::newRow("uninstall") << text("-U") << 1;
-        QTest::newRow("no mode") << QString() << 1;
-        QTest::newRow("stop services") << text("-ST") << 0;
-        QTest::newRow("localisation") << text("-T") << 0;
+        QTest::newRow("silent install") << text("-I -S") << 3 << 1;
+        QTest::newRow("silent uninstall") << text("-U -S") << 3 << 1;
+        QTest::newRow("install") << text("-I") << 2 << 1;
+        QTest::newRow("uninstall") << text("-U") << 2 << 1;
+        QTest::newRow("no mode") << QString() << 2 << 1;
+        QTest::newRow("stop services") << text("-ST") << 3 << 0;
+        QTest::newRow("localisation") << text("-T") << 2 << 0;
     }
 
     void everyRunLooksForRunningProgramsAndOnlyThoseThatInstallOrRemoveForCadSystems()
@@ -201,7 +203,7 @@ private slots:
         closeSoon();
         runProgram(m_fixture->start(options));
         const QStringList lines = m_fixture->lines();
-        QCOMPARE(m_fixture->machine.running.limits.size(), 2);
+        QTEST(int(m_fixture->machine.running.limits.size()), "listings");
         QCOMPARE(lines.filter(text("CheckForRunningOstrade")).size(), 1);
         QTEST(int(lines.count(text("   0 Searching for CAD Packages"))), "searches");
     }

@@ -1,0 +1,126 @@
+// From the CAD systems of a machine by way of the boxes on the page to what the run does.
+
+#include "cfg_wizard/start_up.h"
+#include "nvx_util/registry_key.h"
+#include "wizard/wizard_fixture.h"
+
+#include <QCheckBox>
+#include <QTest>
+#include <QTimer>
+
+using Nvx::Util::RegistryKey;
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+RegistryKey spaceClaim()
+{
+    return RegistryKey(text("HKEY_LOCAL_MACHINE\\Software\\Classes\\SpaceClaim.Location"));
+}
+
+ClassWizard *shownWizard()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *wizard = qobject_cast<ClassWizard *>(window);
+        if (wizard && wizard->isVisible())
+            return wizard;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_launcher_choice : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_fixture = std::make_unique<WizardFixture>();
+        QVERIFY(spaceClaim().setText(text("Version"), text("2016")));
+    }
+
+    void cleanup()
+    {
+        spaceClaim().removeWhole();
+        m_fixture.reset();
+    }
+
+    void aTickedBoxConfiguresItsLauncher_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<bool>("unticks");
+        QTest::addColumn<bool>("configured");
+        QTest::newRow("left ticked") << text("-I") << false << true;
+        QTest::newRow("unticked") << text("-I") << true << false;
+        QTest::newRow("no mode, unticked") << QString() << true << false;
+    }
+
+    void aTickedBoxConfiguresItsLauncher()
+    {
+        QFETCH(QString, options);
+        QFETCH(bool, unticks);
+        cfg_utilitys &engine = start(options);
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, this, [&] { act(unticks); });
+        poll.start(50);
+        QCOMPARE(runProgram(engine), 0);
+        QCOMPARE(m_boxes, QStringList({text("SpaceClaim ")}));
+        QTEST(m_fixture->lines().contains(text("   0 SpaceClaim")), "configured");
+    }
+
+    void anUninstallTakesTheLaunchersOfAllThatWasFound()
+    {
+        cfg_utilitys &engine = start(text("-U"));
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, this, [&] { act(false); });
+        poll.start(50);
+        QCOMPARE(runProgram(engine), 0);
+        QVERIFY(m_fixture->lines().contains(text("   0 SpaceClaim")));
+    }
+
+private:
+    cfg_utilitys &start(const QString &options) const
+    {
+        cfg_utilitys &engine = m_fixture->start(options);
+        SharedFolders folders;
+        folders.spaceClaimAddin = m_fixture->test.path(text("Addins"));
+        engine.setSharedFolders(folders);
+        return engine;
+    }
+
+    // Goes through the pages: notes which boxes can be ticked and are, unticks them or not, and ends.
+    void act(bool unticks)
+    {
+        const ClassWizard *wizard = shownWizard();
+        if (!wizard)
+            return;
+        const auto boxes = wizard->currentPage()->findChildren<QCheckBox *>();
+        if (!boxes.isEmpty())
+            m_boxes.clear();
+        for (QCheckBox *box : boxes) {
+            QCOMPARE(box->isEnabled(), box->isChecked());
+            if (!box->isEnabled())
+                continue;
+            m_boxes << box->text();
+            if (unticks)
+                box->click();
+        }
+        for (const auto which : {QWizard::NextButton, QWizard::FinishButton}) {
+            if (wizard->button(which)->isVisible() && wizard->button(which)->isEnabled())
+                wizard->button(which)->click();
+        }
+    }
+
+    QStringList m_boxes;
+    std::unique_ptr<WizardFixture> m_fixture;
+};
+
+QTEST_MAIN(tst_launcher_choice)
+#include "tst_launcher_choice.moc"
