@@ -94,7 +94,7 @@ private slots:
         m_poll.start();
         QCOMPARE(runProgram(engine), 0);
         QCOMPARE(m_seen, QStringList({text("Welcome|CAD Launchers |Conclusion |&Next >|English"),
-                                      text("Willkommen|CAD-Launcher |Abschluss |&Weiter >|Deutsch"),
+                                      text("Willkommen|CAD-Startprogramme |Abschluss |&Weiter >|Deutsch"),
                                       text("ようこそ|CAD ランチャー |最終ステップ |次へ(&N) >|日本語"),
                                       text("Welcome|CAD Launchers |Conclusion |&Next >|English")}));
         QCOMPARE(engine.state().locale, text("en-US"));
@@ -106,7 +106,7 @@ private slots:
         cfg_utilitys &engine = m_fixture->start(text("-Lde-DE"));
         m_poll.start();
         QCOMPARE(runProgram(engine), 0);
-        QCOMPARE(m_seen, QStringList(text("Willkommen|CAD-Launcher |Abschluss |&Weiter >|Deutsch")));
+        QCOMPARE(m_seen, QStringList(text("Willkommen|CAD-Startprogramme |Abschluss |&Weiter >|Deutsch")));
     }
 
 private:
