@@ -53,13 +53,11 @@ private slots:
     {
         {
             Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 50);
-            QVERIFY(!reportFor(progress, 200));
+            QTRY_VERIFY(progress.report(3, 4) && shownDialog());
             const QProgressDialog *dialog = shownDialog();
-            QVERIFY(dialog);
             QCOMPARE(dialog->windowTitle(), QStringLiteral("Title"));
             QCOMPARE(dialog->labelText(), QStringLiteral("Text"));
-            QVERIFY(dialog->value() > dialog->maximum() / 4);
-            QVERIFY(dialog->value() < dialog->maximum());
+            QCOMPARE(dialog->value(), dialog->maximum() * 3 / 4);
         }
         QVERIFY(!shownDialog());
     }
@@ -67,7 +65,10 @@ private slots:
     void cancelButtonEndsTheWork()
     {
         Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 0);
-        QTimer::singleShot(100, this, [] { shownDialog()->findChild<QPushButton *>()->click(); });
+        QTimer::singleShot(100, this, [] {
+            if (const QProgressDialog *dialog = shownDialog())
+                dialog->findChild<QPushButton *>()->click();
+        });
         QVERIFY(reportFor(progress, 20'000));
         QVERIFY(progress.isCancelled());
         QVERIFY(!progress.report(1, 2));
@@ -108,7 +109,7 @@ private slots:
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.read(10).size(), 10);
         progress.cancel();
-        QVERIFY(file.readAll().size() < 1'000'000);
+        QVERIFY(file.readAll().size() < 100'000); // what was read ahead
         QVERIFY(file.atEnd());
     }
 };
