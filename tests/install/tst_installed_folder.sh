@@ -34,7 +34,7 @@ grep -qF 'Language de-DE' "$log" || fail "no language in the log"
 grep -qF 'Installation der Tutorials' "$log" || fail "the log is not in German"
 [ -s "$folder/machine/ProgramData/Velmora/NVX 2017/NVX2_config.nvxcfg" ] || fail "no configuration was written"
 for locale in de-DE fr-FR it-IT ja-JP ko-KR ru-RU zh-CN zh-TW; do
-    for catalogue in nvxconfig nvxwindow messagetableutility; do
+    for catalogue in nvxconfig nvxwindow messagetableutility materialnameutility; do
         [ -s "$installed/bin/$locale/$catalogue.qm" ] || fail "no translations $catalogue for $locale"
     done
     [ -s "$installed/bin/$locale/qt_${locale/-/_}.qm" ] || fail "no translations of the toolkit for $locale"
@@ -44,16 +44,21 @@ done
 env -i LC_ALL=C.UTF-8 "$installed/bin/UpdateErrorTable" -h | grep -q '^Usage: UpdateErrorTable' ||
     fail "UpdateErrorTable does not run"
 
-# So does the window: it remembers the file that it opened, and goes on until it is ended.
+# So do the windows: each remembers the file that it opened, and goes on until it is ended.
+try_window() {
+    local program=$1 file=$2 settings=$folder/config/Velmora/$1.conf window i
+    env -i LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME="$folder/config" HOME="$folder" \
+        "$installed/bin/$program" "$file" 2>"$folder/$program.errors" &
+    window=$!
+    for ((i = 0; i < 100; ++i)); do
+        grep -qsF "${file##*/}" "$settings" && break
+        sleep 0.2
+    done
+    kill "$window" || fail "$program does not run: $(cat "$folder/$program.errors")"
+    grep -qsF "${file##*/}" "$settings" || fail "$program did not open its file"
+}
 echo '<messageTable/>' >"$folder/table.xml"
-env -i LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME="$folder/config" HOME="$folder" \
-    "$installed/bin/MessageTableUtility" "$folder/table.xml" 2>"$folder/window.errors" &
-window=$!
-settings="$folder/config/Velmora/MessageTableUtility.conf"
-for ((i = 0; i < 100; ++i)); do
-    grep -qs 'table\.xml' "$settings" && break
-    sleep 0.2
-done
-kill "$window" || fail "MessageTableUtility does not run: $(cat "$folder/window.errors")"
-grep -qs 'table\.xml' "$settings" || fail "MessageTableUtility did not open its file"
+try_window MessageTableUtility "$folder/table.xml"
+echo '<TS/>' >"$folder/matprop.ts"
+try_window MaterialNameUtility "$folder/matprop.ts"
 echo "the installed folder runs as it stands"
