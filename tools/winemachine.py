@@ -8,6 +8,8 @@ links, everything else is its own.
     machine.run(r"C:\\NVX\\NVXConfig.exe", "-I", "-S")
     machine.registry()["HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"]["Locale"]
     machine.stop()
+
+As a program, winemachine.py FOLDER makes the template in a folder.
 """
 
 import hashlib
@@ -15,6 +17,7 @@ import os
 import re
 import shutil
 import subprocess
+import sys
 import tempfile
 from pathlib import Path
 
@@ -230,3 +233,7 @@ def value_of(registry, key, name):
                 if value_name.lower() == name.lower():
                     return value
     return None
+
+
+if __name__ == "__main__":
+    make_template(sys.argv[1])
