@@ -99,8 +99,7 @@ private slots:
         QTest::addColumn<bool>("wrapped");
         QTest::newRow("short") << text("Install Tutorials") << false;
         QTest::newRow("words") << QString(text("a word and ")).repeated(10) << true;
-        QTest::newRow("a path without blanks")
-            << text("C:") + QString(text("\\a-folder")).repeated(10) << true;
+        QTest::newRow("a path without blanks") << text("C:") + QString(text("\\folder")).repeated(15) << true;
     }
 
     void aLongRowIsWrapped()
