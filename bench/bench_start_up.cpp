@@ -81,8 +81,8 @@ void runChild(const QStringList &arguments)
         qFatal("%s did not come to its first page", qPrintable(arguments.first()));
 }
 
-// The file that stands for the registry is flushed to the disk at every change. The registry's own changes wait
-// for no disk, so the file lies in memory where there is a folder for that.
+// The file that stands for the registry is flushed to the disk at every change. The registry's own changes
+// wait for no disk, so the file lies in memory where there is a folder for that.
 QString memoryFolder()
 {
     const auto memory = QStringLiteral("/dev/shm");
