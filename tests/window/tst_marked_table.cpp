@@ -7,7 +7,6 @@
 #include <QTest>
 
 using Window::MarkedRows;
-using Window::MarkedTableModel;
 using Window::MarkedTableView;
 using Window::RowMark;
 
