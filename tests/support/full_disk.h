@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 #include <csignal>
 #include <sys/resource.h>
 
@@ -8,12 +10,12 @@
 class FullDisk
 {
 public:
-    static constexpr rlim_t mostBytes = 64 * 1024;
+    static constexpr qint64 mostBytes = 64 * 1024;
 
     FullDisk()
     {
         getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{mostBytes, m_before.rlim_max};
+        const rlimit limit{static_cast<rlim_t>(mostBytes), m_before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
         m_handler = std::signal(SIGXFSZ, SIG_IGN);
     }

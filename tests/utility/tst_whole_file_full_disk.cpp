@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr auto mostBytes = FullDisk::mostBytes;
+constexpr qint64 mostBytes = FullDisk::mostBytes;
 
 Clt::MessageTable largeTable()
 {

@@ -39,7 +39,7 @@ private slots:
     {
         QTest::addColumn<QString>("filter");
         QTest::addColumn<std::vector<bool>>("with");
-        const auto row = [](const char *name, const char *filter, std::vector<bool> with) {
+        const auto row = [](const char *name, const char *filter, const std::vector<bool> &with) {
             QTest::newRow(name) << QString::fromUtf8(filter) << with;
         };
         row("no filter", "", {true, true, true, true});
