@@ -473,10 +473,6 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <source>Stopping Services</source>
         <translation>Dienste werden beendet</translation>
     </message>
-    <message>
-        <source>This build has no localization tool</source>
-        <translation>Diese Programmversion enthält kein Lokalisierungswerkzeug</translation>
-    </message>
 </context>
 <context>
     <name>TamselLauncher</name>

@@ -473,10 +473,6 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <source>Stopping Services</source>
         <translation>Arresto dei servizi in corso</translation>
     </message>
-    <message>
-        <source>This build has no localization tool</source>
-        <translation>Questa versione non contiene lo strumento di localizzazione</translation>
-    </message>
 </context>
 <context>
     <name>TamselLauncher</name>

@@ -473,10 +473,6 @@ Click No to continue without stopping the processes.</source>
         <source>Stopping Services</source>
         <translation>サービスを停止しています</translation>
     </message>
-    <message>
-        <source>This build has no localization tool</source>
-        <translation>このビルドにはローカライズ ツールがありません</translation>
-    </message>
 </context>
 <context>
     <name>TamselLauncher</name>

@@ -473,10 +473,6 @@ Click No to continue without stopping the processes.</source>
         <source>Stopping Services</source>
         <translation>서비스를 중지하는 중</translation>
     </message>
-    <message>
-        <source>This build has no localization tool</source>
-        <translation>이 빌드에는 지역화 도구가 없습니다</translation>
-    </message>
 </context>
 <context>
     <name>TamselLauncher</name>

@@ -473,10 +473,6 @@ Click No to continue without stopping the processes.</source>
         <source>Stopping Services</source>
         <translation>Остановка служб</translation>
     </message>
-    <message>
-        <source>This build has no localization tool</source>
-        <translation>В этой сборке нет средства локализации</translation>
-    </message>
 </context>
 <context>
     <name>TamselLauncher</name>

