@@ -192,11 +192,11 @@
     </message>
     <message>
         <source>CAD Launchers </source>
-        <translation>CAD-Launcher </translation>
+        <translation>CAD-Startprogramme </translation>
     </message>
     <message>
         <source>NVX launchers will be installed for the CAD systems that are checked.</source>
-        <translation>Für die ausgewählten CAD-Systeme werden NVX-Launcher installiert.</translation>
+        <translation>Für die ausgewählten CAD-Systeme werden NVX-Startprogramme installiert.</translation>
     </message>
 </context>
 <context>

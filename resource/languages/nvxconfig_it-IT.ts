@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>Il nome della cartella di installazione non può essere rappresentato nella tabella codici del sistema, l&apos;utilità di avvio non viene inserita in %1</translation>
+        <translation>Il nome della cartella di installazione non può essere rappresentato nella tabella codici del sistema, il programma di avvio non viene inserito in %1</translation>
     </message>
 </context>
 <context>
@@ -341,7 +341,7 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
     <message>
         <source>CAD Launcher Installation</source>
-        <translation>Installazione degli strumenti di avvio CAD</translation>
+        <translation>Installazione dei programmi di avvio CAD</translation>
     </message>
     <message>
         <source>Velmora %1 Installation</source>

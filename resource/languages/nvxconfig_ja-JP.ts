@@ -341,7 +341,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>CAD Launcher Installation</source>
-        <translation>CAD 起動ツールのインストール</translation>
+        <translation>CAD ランチャーのインストール</translation>
     </message>
     <message>
         <source>Velmora %1 Installation</source>

@@ -341,7 +341,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>CAD Launcher Installation</source>
-        <translation>CAD 시작 관리자 설치</translation>
+        <translation>CAD 런처 설치</translation>
     </message>
     <message>
         <source>Velmora %1 Installation</source>

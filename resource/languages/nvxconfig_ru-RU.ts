@@ -341,7 +341,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>CAD Launcher Installation</source>
-        <translation>Установка средств запуска САПР</translation>
+        <translation>Установка модулей запуска для САПР</translation>
     </message>
     <message>
         <source>Velmora %1 Installation</source>

@@ -192,11 +192,11 @@
     </message>
     <message>
         <source>CAD Launchers </source>
-        <translation>CAD 启动器 </translation>
+        <translation>CAD 启动程序 </translation>
     </message>
     <message>
         <source>NVX launchers will be installed for the CAD systems that are checked.</source>
-        <translation>将为选中的 CAD 系统安装 NVX 启动器。</translation>
+        <translation>将为选中的 CAD 系统安装 NVX 启动程序。</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,7 @@
 #include <QJsonObject>
 
 #include <limits>
+#include <sys/stat.h>
 #include <utility>
 
 namespace Nvx::Util {
@@ -23,16 +24,49 @@ QString registryFile()
     return machine.isEmpty() ? QString() : joinPath(machine, QStringLiteral("registry.json"));
 }
 
+// What tells a version of a file from every other: it is replaced whole, so a new one is a new file.
+struct FileVersion
+{
+    dev_t device = 0;
+    ino_t number = 0;
+    off_t size = -1;
+    timespec changed = {};
+
+    bool operator==(const FileVersion &other) const
+    {
+        return device == other.device && number == other.number && size == other.size &&
+               changed.tv_sec == other.changed.tv_sec && changed.tv_nsec == other.changed.tv_nsec;
+    }
+};
+
+FileVersion versionOf(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return {};
+    return {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
+}
+
+// A run asks for a hundred keys, so the file is read again only when it is another one.
 QJsonObject readRegistry()
 {
-    QFile file(registryFile());
+    thread_local FileVersion lastVersion;
+    thread_local QJsonObject lastRegistry;
+    const QString path = registryFile();
+    const FileVersion version = versionOf(path);
+    if (version.size >= 0 && version == lastVersion)
+        return lastRegistry;
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QJsonObject();
-    return QJsonDocument::fromJson(file.readAll()).object();
+    lastRegistry = QJsonDocument::fromJson(file.readAll()).object();
+    lastVersion = version;
+    return lastRegistry;
 }
 
 bool writeRegistry(const QJsonObject &registry)
 {
+    System::makePath(Platform::machineFolder());
     return replaceWholeFile(registryFile(), QJsonDocument(registry).toJson());
 }
 
