@@ -1,14 +1,22 @@
 """The whole product on a machine with every CAD system: installed and removed, again and again. What the steps are
 and in which order, and what stays."""
 
+import getpass
 import unittest
 
-from launcher_case import CUSTOM_DIRS_10, CUSTOM_DIRS_11, MANIFEST, PROTK_2, PROTK_3, LauncherCase
+from launcher_case import (
+    CUSTOM_DIRS_10,
+    CUSTOM_DIRS_11,
+    SPACE_CLAIM_ADDINS,
+    TAMSEL_ADDINS,
+    LauncherCase,
+)
 from machine_case import COMPLETE
-from winemachine import INSTALL_DIR, SHARED_DATA
+from winemachine import INSTALL_DIR, SHARED_DATA, TUTORIALS
 
 CYCLES = 20
 LOG = INSTALL_DIR + "\\NVXConfig.log"
+USER_DATA = "C:\\users\\" + getpass.getuser() + "\\AppData\\Roaming\\Velmora\\NVX 2017"
 CUSTOM_DIRS = (CUSTOM_DIRS_10, CUSTOM_DIRS_11)
 
 # The line with which each step begins, in the order of the run.
@@ -56,6 +64,25 @@ REMOVAL = [
     "   0 Processing NVX_flags.txt",
     "   0 Checking material database",
     COMPLETE,
+]
+
+# What a removal leaves of what an install brought: files that belong to the user or tell of the product, and folders
+# that others may use too.
+LEFT = [
+    LOG,
+    SHARED_DATA + "\\NVX2_config.nvxcfg",
+    SHARED_DATA + "\\HPCAnalyze\\",
+    USER_DATA + "\\",
+    TUTORIALS.rpartition("\\")[0] + "\\",
+    CUSTOM_DIRS_10 + ".bak",
+    CUSTOM_DIRS_11 + ".bak",
+    SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\",
+    *(TAMSEL_ADDINS + "\\%d\\" % year for year in (2016, 2017, 2018)),
+    # The libraries of the chosen language, which lie in the install dir as the product's own files do.
+    INSTALL_DIR + "\\VelmoraApplicationFrameRes.dll",
+    INSTALL_DIR + "\\VistrelResources.dll",
+    # The sample's viewer notes how it was started.
+    INSTALL_DIR + "\\NVX Viewer\\last-start.txt",
 ]
 
 
@@ -112,17 +139,7 @@ class Cycles(LauncherCase):
 
     def test_nothing_is_left_but_what_is_meant_to_stay(self):
         left = sorted(path for path in self.first if path not in self.before)
-        self.assertEqual(
-            left,
-            sorted(
-                [
-                    LOG,
-                    CUSTOM_DIRS_10 + ".bak",
-                    CUSTOM_DIRS_11 + ".bak",
-                    SHARED_DATA + "\\NVX2_config.nvxcfg",
-                ]
-            ),
-        )
+        self.assertEqual(left, sorted(LEFT))
 
     def test_only_the_menus_of_nx_are_not_as_before(self):
         changed = [
