@@ -7,6 +7,7 @@ programs as `cmake --install` lays them out, and the sample product.
 """
 
 import argparse
+import shutil
 import subprocess
 import sys
 import time
@@ -14,11 +15,13 @@ import xml.etree.ElementTree as ElementTree
 from dataclasses import dataclass
 from pathlib import Path
 
+from cadsystems import put_cad_systems
 from winemachine import INSTALL_DIR, Machine, make_template
 
 ROOT = Path(__file__).resolve().parents[1]
 LANGUAGES = ROOT / "resource" / "languages"
 COMPLETE = "The installation or update is complete. Click finish to continue."
+TABLES = "C:\\tables"
 SCREEN = "2560x1800"
 PATIENCE_S = 120
 
@@ -51,8 +54,11 @@ class Program:
     catalogue: str
     pages: tuple
     tokens: tuple = ()
+    only: tuple = ()  # the languages that it is shown in, all of them when empty
 
     def locales(self):
+        if self.only:
+            return list(self.only)
         files = sorted(LANGUAGES.glob(self.catalogue + "_*.ts"))
         return ["en-US"] + [file.stem.split("_")[1] for file in files]
 
@@ -67,6 +73,20 @@ PROGRAMS = (
             Page("conclusion", keys=("Return",), log_text=COMPLETE),
         ),
         tokens=("-L{locale}",),
+    ),
+    Program(
+        "MessageTableUtility",
+        "messagetableutility",
+        (Page("window"),),
+        tokens=(TABLES + "\\errors.xml",),
+        only=("en-US", "ja-JP"),
+    ),
+    Program(
+        "MaterialNameUtility",
+        "materialnameutility",
+        (Page("window"),),
+        tokens=(TABLES + "\\matprop.ts",),
+        only=("en-US", "ja-JP"),
     ),
 )
 
@@ -109,6 +129,8 @@ def make_machine(build, locale, scale):
         build / "screenshots", make_template(build / "wine-template"), unix_locale, locales
     )
     machine.put_product(build / "installed", build / "sample")
+    put_cad_systems(machine)
+    shutil.copytree(ROOT / "sample" / "tables", machine.path(TABLES))
     script = machine.path("C:\\screen.reg")
     script.write_bytes(screen_settings(FAMILIES.get(locale, OTHER_FAMILY), scale).encode("utf-16"))
     if machine.run("regedit", "/S", "C:\\screen.reg").returncode != 0:
