@@ -5,7 +5,7 @@ gives every text of its files a made-up translation in each language, and says t
     translation_worker.py SHARE [--once] [--settle SECONDS] [--damage CODE/NAME]
 
 SHARE is the folder that holds "pTrans". --once ends after one job. --settle says how long the uploaded files
-must have been left alone before they count as complete (2 seconds). --damage sends a file back cut in half.
+must have been left alone before they count as complete (5 seconds). --damage sends a file back cut in half.
 """
 
 import argparse
@@ -50,11 +50,14 @@ def translate(table, code):
     )
 
 
-def is_settled(files, seconds):
-    try:
-        newest = max((file.stat().st_mtime for file in files), default=0)
-    except FileNotFoundError:
+def is_settled(files_folder, sources, seconds):
+    """Whether the sources are there and nothing has come or gone anywhere for some time."""
+    if not all(source.exists() for source in sources):
         return False
+    try:
+        newest = max(path.stat().st_mtime for path in files_folder.rglob("*"))
+    except (FileNotFoundError, ValueError):
+        return not sources
     return time.time() - newest >= seconds
 
 
@@ -64,7 +67,7 @@ def take(job, files_folder, settle, damaged):
         line.removeprefix("enu\\") for line in job.read_text(encoding="utf-8").splitlines() if line
     ]
     sources = [files_folder / "enu" / name for name in names]
-    while not is_settled(sources, settle):
+    while not is_settled(files_folder, sources, settle):
         time.sleep(0.1)
     job.unlink()
     for code in LANGUAGES:
@@ -83,7 +86,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("share", type=Path)
     parser.add_argument("--once", action="store_true")
-    parser.add_argument("--settle", type=float, default=2)
+    parser.add_argument("--settle", type=float, default=5)
     parser.add_argument("--damage", default="")
     options = parser.parse_args()
 

@@ -81,9 +81,10 @@ void TranslationJob::upload()
         m_reporter.log(1, m_shareFolder + QStringLiteral(" not available"));
         return;
     }
-    upload(m_folders.collected(sourceLanguage.code), joinPath(m_shareFolder, sourceLanguage.code));
+    // The sources come last: a worker that has them has everything.
     for (const Language &language : targetLanguages)
         upload(m_folders.collected(language.code), joinPath(m_shareFolder, language.code));
+    upload(m_folders.collected(sourceLanguage.code), joinPath(m_shareFolder, sourceLanguage.code));
 }
 
 void TranslationJob::upload(const QString &source, const QString &target)

@@ -85,7 +85,7 @@ private slots:
         QCOMPARE(m_reporter->lines, QStringList{text("1 can't write ") + blocked});
     }
 
-    void theCollectedFilesOfEveryLanguageGoOntoTheShare()
+    void theCollectedFilesOfEveryLanguageGoOntoTheShareTheSourcesLast()
     {
         writeFile(path("root/Locale/collect/enu/client.ts"), "english");
         writeFile(path("root/Locale/collect/kor/client.ts"), "korean");
@@ -93,7 +93,7 @@ private slots:
         QCOMPARE(readFile(path("share/pTrans/NVX360/enu/client.ts")), QByteArray("english"));
         QCOMPARE(readFile(path("share/pTrans/NVX360/kor/client.ts")), QByteArray("korean"));
         QStringList expected;
-        for (const char *code : {"enu", "deu", "fra", "ita", "jpn", "chs", "cht", "kor", "rus"})
+        for (const char *code : {"deu", "fra", "ita", "jpn", "chs", "cht", "kor", "rus", "enu"})
             expected.append(text("0 upload ") + path("share/pTrans/NVX360/") + text(code));
         QCOMPARE(m_reporter->lines, expected);
     }

@@ -367,15 +367,6 @@ class Faults(SetUpCase):
         self.assertIn("-2147024690 Create shortcut " + desktop + LINK + " Failed", lines)
         self.assertEqual(list(self.machine.path(desktop).iterdir()), [])
 
-    def test_a_target_of_over_260_characters_is_a_clear_failure(self):
-        folder = "C:\\" + "\\".join(["ein ziemlich langer Ordnername %d" % i for i in range(7)])
-        folder += "x" * (255 - len(folder))
-        self.put_product(folder)
-        lines = self.install(folder)
-        self.assertIn("   1 This text is too long for a shortcut: " + folder + "\\NVX.exe", lines)
-        self.assertIn("-2147024690 Create shortcut " + DESKTOP + LINK + " Failed", lines)
-        self.assertFalse(self.exists(DESKTOP + LINK))
-
     def test_a_desktop_that_takes_no_file_is_logged_with_the_shells_result(self):
         link = self.machine.path(DESKTOP + LINK)
         link.unlink(missing_ok=True)
