@@ -156,10 +156,12 @@ class AllSystems(LauncherCase):
         self.assertIn(SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\", self.files["removal"])
 
     def test_a_second_install_changes_no_file_of_a_cad_system(self):
-        def without_log(files):
-            return {path: found for path, found in files.items() if not path.endswith(".log")}
+        # The logs grow, and a shortcut holds when its program was looked at last.
+        def lasting(files):
+            changing = (".log", ".lnk")
+            return {path: found for path, found in files.items() if not path.endswith(changing)}
 
-        self.assertEqual(without_log(self.files["first"]), without_log(self.files["second"]))
+        self.assertEqual(lasting(self.files["first"]), lasting(self.files["second"]))
 
 
 if __name__ == "__main__":

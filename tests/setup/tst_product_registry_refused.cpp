@@ -1,4 +1,4 @@
-// The registry refuses every change: where it is a file, because its folder is not there.
+// The registry refuses every change: where it is a file, because its folder cannot be made.
 
 #include "setup/product_registry.h"
 #include "setup/setup_fixture.h"
@@ -22,7 +22,8 @@ private slots:
     void everyValueThatIsRefusedIsLoggedAndTheStepGoesOn()
     {
         SetupFixture fixture;
-        fixture.test.setVariable("NVX_MACHINE", fixture.test.path(text("missing")));
+        writeFile(fixture.test.path(text("in the way")));
+        fixture.test.setVariable("NVX_MACHINE", fixture.test.path(text("in the way/machine")));
         fixture.state.locale = text("de-DE");
         QCOMPARE(updateRegistry(fixture.context(), RunMode::Install), 0);
         const QStringList refused = fixture.reporter.lines.filter(text("1 The registry refuses the value "));
