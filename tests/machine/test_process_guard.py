@@ -53,7 +53,7 @@ class ProductGuard(MachineCase):
     def setUp(self):
         self.put_product()
         # The server of an earlier install is one of the product's programs.
-        self.machine.run(INSTALL_DIR + "\\NVXConfig.exe", "-ST")
+        self.machine.run(INSTALL_DIR + "\\NVXConfig.exe", "-ST", "-S")
         self.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink(missing_ok=True)
 
     def start(self, windows_path, source, machine=None):
