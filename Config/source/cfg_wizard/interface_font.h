@@ -5,8 +5,8 @@
 #include <QStringList>
 
 /// The fonts whose Chinese characters have the shapes that readers of a language ("ja-JP") expect: the same
-/// character looks different in Japan, Korea, China and Taiwan. In the order of preference, whether the machine
-/// has them or not; none for a language without such characters.
+/// character looks different in Japan, Korea, China and Taiwan. In the order of preference, whether the
+/// machine has them or not; none for a language without such characters.
 QStringList fontsOfLanguage(const QString &locale);
 
 /// Lets the application take the characters that its own font lacks from the fonts of a language, while this
