@@ -17,7 +17,7 @@ struct ComLauncher
     void (*step)(const StepContext &, const LauncherBoxes &, RunMode);
     Launcher launcher;
     const char *title;
-    const char *library;
+    const char *dll;
 };
 
 const ComLauncher brevant{installBrevantLauncher, Launcher::Brevant, "Configure Brevant",
@@ -43,7 +43,7 @@ private slots:
         QFETCH(const ComLauncher, of);
         m_fixture->tick(of.launcher);
         of.step(m_fixture->context(), m_fixture->boxes, RunMode::Install);
-        const QString library = m_fixture->installed(of.library);
+        const QString library = m_fixture->installed(of.dll);
         QCOMPARE(arguments(), QList<QStringList>({{text("-u"), text("-s"), library}, {text("-s"), library}}));
         QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 ") + text(of.title)} +
                                              runLines(text("regsvr32 -u -s ") + library) +
@@ -56,7 +56,7 @@ private slots:
         QFETCH(const ComLauncher, of);
         m_fixture->tick(of.launcher);
         of.step(m_fixture->context(), m_fixture->boxes, RunMode::Uninstall);
-        const QString library = m_fixture->installed(of.library);
+        const QString library = m_fixture->installed(of.dll);
         QCOMPARE(arguments(), QList<QStringList>({{text("-u"), text("-s"), library}}));
         QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 ") + text(of.title)} +
                                              runLines(text("regsvr32 -u -s ") + library));

@@ -22,7 +22,7 @@ constexpr qsizetype shellLinkTextCapacity = 260;
 /// The result for a text that does not fit: the number of the system's error "file name too long".
 constexpr auto shellLinkTextTooLong = static_cast<qint32>(0x800700CEU);
 
-/// The result on a machine without shell links: the number of the system's error "not implemented".
+/// The result on a machine that has no shell links: the number of the system's error E_NOTIMPL.
 constexpr auto shellLinksMissing = static_cast<qint32>(0x80004001U);
 
 /// The first text of the link that does not fit, the link file's own path among them; empty when all do.
