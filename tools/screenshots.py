@@ -47,8 +47,8 @@ class Page:
 
 @dataclass
 class Program:
-    """A program, the catalogue of its texts, its pages in order, and the arguments that it is started with, in
-    which {locale} stands for the language."""
+    """A program, the catalogue of its texts, its pages in order, and the arguments that it is started with,
+    in which {locale} stands for the language."""
 
     name: str
     catalogue: str

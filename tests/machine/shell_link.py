@@ -1,5 +1,5 @@
-"""Reads link files of the shell, which is what shortcuts on the desktop are: the parts of [MS-SHLLINK] that the
-tests look at."""
+"""Reads link files of the shell, which is what shortcuts on the desktop are: the parts of [MS-SHLLINK] that
+the tests look at."""
 
 import struct
 import uuid

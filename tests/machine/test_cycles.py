@@ -1,5 +1,5 @@
-"""The whole product on a machine with every CAD system: installed and removed, again and again. What the steps are
-and in which order, and what stays."""
+"""The whole product on a machine with every CAD system: installed and removed, again and again. What the
+steps are and in which order, and what stays."""
 
 import getpass
 import unittest
@@ -66,8 +66,8 @@ REMOVAL = [
     COMPLETE,
 ]
 
-# What a removal leaves of what an install brought: files that belong to the user or tell of the product, and folders
-# that others may use too.
+# What a removal leaves of what an install brought: files that belong to the user or tell of the product, and
+# folders that others may use too.
 LEFT = [
     LOG,
     SHARED_DATA + "\\NVX2_config.nvxcfg",
@@ -115,7 +115,7 @@ class Cycles(LauncherCase):
 
     @classmethod
     def put_product_again(cls):
-        """Brings the files back that a removal takes out of the install dir, as the product's installer does."""
+        """Brings the files back that a removal takes from the install dir, as the installer does."""
         cls.put_product(cls())
 
     @classmethod

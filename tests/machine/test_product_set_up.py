@@ -1,5 +1,6 @@
-"""What makes the product known to the machine and its users: the file types, the registry values, the uninstall
-entry, the viewer's configuration and the shortcut, made by the system's own Registry Editor and shell."""
+"""What makes the product known to the machine and its users: the file types, the registry values, the
+uninstall entry, the viewer's configuration and the shortcut, made by the system's own Registry Editor and
+shell."""
 
 import shutil
 import unittest
