@@ -8,7 +8,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QProgressDialog>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTableView>
@@ -89,17 +88,6 @@ struct NameUtilityFixture
     {
         if (!writeFile(databaseFile, databaseOf(names)))
             qFatal("cannot write the database");
-    }
-
-    static QProgressDialog *shownProgress()
-    {
-        const QWidgetList widgets = QApplication::topLevelWidgets();
-        for (QWidget *widget : widgets) {
-            auto *dialog = qobject_cast<QProgressDialog *>(widget);
-            if (dialog && dialog->isVisible())
-                return dialog;
-        }
-        return nullptr;
     }
 
     TestFolder folder;

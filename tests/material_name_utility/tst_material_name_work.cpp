@@ -1,10 +1,10 @@
 // Work that takes long: it shows how far it is, and is cancelled by its dialog or by closing the window.
 
 #include "name_utility_fixture.h"
+#include "support/shown_progress.h"
 
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -33,28 +33,6 @@ void writeLargeDatabase(const QString &fileName, qint64 bytes = largeFile / 4)
                    bytes);
 }
 
-/// Clicks the button of the progress dialog when that shows; keeps what it says.
-class Canceller : public QObject
-{
-public:
-    Canceller()
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this] {
-            if (QProgressDialog *progress = NameUtilityFixture::shownProgress()) {
-                m_timer.stop();
-                label = progress->labelText();
-                progress->findChild<QPushButton *>()->click();
-            }
-        });
-        m_timer.start(1);
-    }
-
-    QString label;
-
-private:
-    QTimer m_timer;
-};
-
 } // namespace
 
 class TestMaterialNameWork : public QObject
@@ -75,7 +53,7 @@ void TestMaterialNameWork::readingALargeDatabaseIsCancelled()
     NameUtilityFixture f;
     writeLargeDatabase(f.databaseFile);
     QVERIFY(f.window.openFile(f.tableFile));
-    const Canceller canceller;
+    const ProgressCanceller canceller;
     f.window.synchronize(f.databaseFile);
     QCOMPARE(canceller.label, QStringLiteral("Reading ") + f.databaseFile);
     QCOMPARE(f.status(), QStringLiteral("Synchronization cancelled, the table is as it was"));
@@ -92,7 +70,7 @@ void TestMaterialNameWork::openingALargeTableIsCancelled()
     writeLargeFile(f.otherFile, "<TS>\n<context><name>Clt::Material</name>\n",
                    "<message><source>Steel</source><translation>Stahl</translation></message>\n",
                    "</context></TS>\n", largeFile / 4);
-    const Canceller canceller;
+    const ProgressCanceller canceller;
     QVERIFY(!f.window.openFile(f.otherFile));
     QCOMPARE(canceller.label, QStringLiteral("Reading ") + f.otherFile);
     QVERIFY(f.dialogs.warnings.isEmpty());

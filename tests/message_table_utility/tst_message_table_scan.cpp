@@ -1,36 +1,13 @@
 // What the user sees of a long scan, and how it is stopped.
 
+#include "support/shown_progress.h"
 #include "utility_fixture.h"
 
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
 constexpr int manyFiles = 2000;
-
-// Calls the function again and again while the program handles its events, until it answers true.
-template<typename Try>
-class UntilTrue : public QObject
-{
-public:
-    explicit UntilTrue(Try attempt)
-        : m_attempt(attempt)
-    {
-        m_timer.start(1);
-        connect(&m_timer, &QTimer::timeout, this, [this] {
-            if (m_attempt())
-                m_timer.stop();
-        });
-    }
-
-    bool isDone() const { return !m_timer.isActive(); }
-
-private:
-    Try m_attempt;
-    QTimer m_timer;
-};
 
 } // namespace
 
@@ -54,7 +31,7 @@ void TestMessageTableScan::progressNamesTheProject()
     QString label;
     QString status;
     const UntilTrue look([&] {
-        if (const QProgressDialog *progress = UtilityFixture::shownProgress()) {
+        if (const QProgressDialog *progress = shownProgress()) {
             title = progress->windowTitle();
             label = progress->labelText();
             status = f.status();
@@ -66,7 +43,7 @@ void TestMessageTableScan::progressNamesTheProject()
     QCOMPARE(label, QStringLiteral("Parsing source files from %1").arg(f.projectFile));
     QVERIFY2(status.startsWith(QStringLiteral("Found ")) && status.endsWith(QStringLiteral(" keys")),
              qPrintable(status));
-    QVERIFY(!UtilityFixture::shownProgress());
+    QVERIFY(!shownProgress());
     QCOMPARE(f.shownRows(), QStringList(QStringLiteral("client|f|One|New")));
 }
 
@@ -75,14 +52,9 @@ void TestMessageTableScan::cancelledScanLeavesTheTable()
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     f.chooseLargeProject(manyFiles);
-    const UntilTrue cancel([] {
-        QProgressDialog *progress = UtilityFixture::shownProgress();
-        if (progress)
-            progress->findChild<QPushButton *>()->click();
-        return progress != nullptr;
-    });
+    const ProgressCanceller canceller;
     f.action("actionSynchronize")->trigger();
-    QVERIFY(cancel.isDone());
+    QCOMPARE(canceller.title, QStringLiteral("Parsing"));
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
     QCOMPARE(f.window.messages().size(), std::size_t(3));
     QVERIFY(!f.window.hasUnsavedChanges());

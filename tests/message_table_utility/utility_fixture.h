@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
-#include <QProgressDialog>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTableView>
@@ -105,17 +104,6 @@ struct UtilityFixture
         const QString name = QStringLiteral("source.cpp");
         writeSource(name, "void f() { REPORT_ERROR(\"One\"); }" + QByteArray(200'000, ';'));
         chooseProject(QStringList(files, name));
-    }
-
-    static QProgressDialog *shownProgress()
-    {
-        const QWidgetList widgets = QApplication::topLevelWidgets();
-        for (QWidget *widget : widgets) {
-            auto *dialog = qobject_cast<QProgressDialog *>(widget);
-            if (dialog && dialog->isVisible())
-                return dialog;
-        }
-        return nullptr;
     }
 
     TestFolder folder;

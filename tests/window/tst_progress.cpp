@@ -1,4 +1,5 @@
 #include "support/file_bytes.h"
+#include "support/shown_progress.h"
 #include "support/test_folder.h"
 #include "window/progress.h"
 
@@ -11,17 +12,6 @@ using Window::Progress;
 using Window::ProgressFile;
 
 namespace {
-
-QProgressDialog *shownDialog()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        auto *dialog = qobject_cast<QProgressDialog *>(widget);
-        if (dialog && dialog->isVisible())
-            return dialog;
-    }
-    return nullptr;
-}
 
 // Reports until that is refused or the time is over; whether it was refused.
 bool reportFor(Progress &progress, int milliseconds)
@@ -46,27 +36,27 @@ private slots:
     {
         Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 10'000);
         QVERIFY(!reportFor(progress, 200));
-        QVERIFY(!shownDialog());
+        QVERIFY(!shownProgress());
     }
 
     void longWorkShowsHowFarItIs()
     {
         {
             Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 50);
-            QTRY_VERIFY(progress.report(3, 4) && shownDialog());
-            const QProgressDialog *dialog = shownDialog();
+            QTRY_VERIFY(progress.report(3, 4) && shownProgress());
+            const QProgressDialog *dialog = shownProgress();
             QCOMPARE(dialog->windowTitle(), QStringLiteral("Title"));
             QCOMPARE(dialog->labelText(), QStringLiteral("Text"));
             QCOMPARE(dialog->value(), dialog->maximum() * 3 / 4);
         }
-        QVERIFY(!shownDialog());
+        QVERIFY(!shownProgress());
     }
 
     void cancelButtonEndsTheWork()
     {
         Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 0);
         QTimer::singleShot(100, this, [] {
-            if (const QProgressDialog *dialog = shownDialog())
+            if (const QProgressDialog *dialog = shownProgress())
                 dialog->findChild<QPushButton *>()->click();
         });
         QVERIFY(reportFor(progress, 20'000));
@@ -79,14 +69,14 @@ private slots:
         Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 0);
         constexpr qint64 large = Q_INT64_C(1) << 40;
         QVERIFY(progress.report(large / 2, large));
-        QCOMPARE(shownDialog()->value(), shownDialog()->maximum() / 2);
+        QCOMPARE(shownProgress()->value(), shownProgress()->maximum() / 2);
     }
 
     void workOfUnknownSizeIsAtItsBeginning()
     {
         Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 0);
         QVERIFY(progress.report(7, 0));
-        QCOMPARE(shownDialog()->value(), 0);
+        QCOMPARE(shownProgress()->value(), 0);
     }
 
     void fileIsReadToItsEnd()
