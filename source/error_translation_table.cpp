@@ -83,14 +83,19 @@ void TranslationTable::setType(const QString &contextName, const QSet<QString> &
 
 bool TranslationTable::load(const QString &fileName)
 {
-    TranslationReading reading;
     QFile file(fileName);
+    return load(file);
+}
+
+bool TranslationTable::load(QFile &file)
+{
+    TranslationReading reading;
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         reading.error = file.errorString();
     else
         reading = readTranslationTable(file, *this);
     m_errorString = reading.error;
-    m_damagedFile = reading.error.isEmpty() && reading.foundRoot ? QString() : fileName;
+    m_damagedFile = reading.error.isEmpty() && reading.foundRoot ? QString() : file.fileName();
     return m_errorString.isEmpty();
 }
 

@@ -8,6 +8,8 @@
 
 #include <map>
 
+class QFile;
+
 namespace Error {
 
 /// The strings that are translated under one name, in the order of the file, equal ones included.
@@ -79,6 +81,9 @@ public:
     /// errorString() set, when the file cannot be opened or is no well-formed XML; what stands before the
     /// error is taken.
     bool load(const QString &fileName);
+
+    /// The same from a file that is not open yet.
+    bool load(QFile &file);
 
     /// Why the last load failed: the system's words for a file that cannot be opened, "ERROR at line LINE"
     /// for one that is not well formed. Empty after a load that did not fail.

@@ -146,6 +146,14 @@
         <source>Could not save %1</source>
         <translation>%1 konnte nicht gespeichert werden</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>Update cancelled, the translation is as it was</source>
+        <translation>Aktualisierung abgebrochen, die Übersetzung ist unverändert</translation>
+    </message>
 </context>
 <context>
     <name>ProjectScan</name>

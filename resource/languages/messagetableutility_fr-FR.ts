@@ -146,6 +146,14 @@
         <source>Could not save %1</source>
         <translation>Impossible d&apos;enregistrer %1</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lecture de %1</translation>
+    </message>
+    <message>
+        <source>Update cancelled, the translation is as it was</source>
+        <translation>Mise à jour annulée, la traduction est inchangée</translation>
+    </message>
 </context>
 <context>
     <name>ProjectScan</name>

@@ -146,6 +146,14 @@
         <source>Could not save %1</source>
         <translation>Impossibile salvare %1</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lettura di %1</translation>
+    </message>
+    <message>
+        <source>Update cancelled, the translation is as it was</source>
+        <translation>Aggiornamento annullato, la traduzione è invariata</translation>
+    </message>
 </context>
 <context>
     <name>ProjectScan</name>

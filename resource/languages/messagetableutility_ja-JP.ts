@@ -146,6 +146,14 @@
         <source>Could not save %1</source>
         <translation>%1 を保存できませんでした</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 を読み込んでいます</translation>
+    </message>
+    <message>
+        <source>Update cancelled, the translation is as it was</source>
+        <translation>更新をキャンセルしました。翻訳は変更されていません</translation>
+    </message>
 </context>
 <context>
     <name>ProjectScan</name>

@@ -146,6 +146,14 @@
         <source>Could not save %1</source>
         <translation>%1을(를) 저장할 수 없습니다</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1을(를) 읽는 중</translation>
+    </message>
+    <message>
+        <source>Update cancelled, the translation is as it was</source>
+        <translation>업데이트가 취소되었으며 번역은 변경되지 않았습니다</translation>
+    </message>
 </context>
 <context>
     <name>ProjectScan</name>

@@ -146,6 +146,14 @@
         <source>Could not save %1</source>
         <translation>Не удалось сохранить %1</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Чтение %1</translation>
+    </message>
+    <message>
+        <source>Update cancelled, the translation is as it was</source>
+        <translation>Обновление отменено, перевод не изменён</translation>
+    </message>
 </context>
 <context>
     <name>ProjectScan</name>

@@ -146,6 +146,14 @@
         <source>Could not save %1</source>
         <translation>无法保存 %1</translation>
     </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>正在读取 %1</translation>
+    </message>
+    <message>
+        <source>Update cancelled, the translation is as it was</source>
+        <translation>已取消更新，翻译未更改</translation>
+    </message>
 </context>
 <context>
     <name>ProjectScan</name>

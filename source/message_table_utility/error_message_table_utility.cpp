@@ -25,12 +25,6 @@ namespace {
 
 const QString iconFolder = QStringLiteral(":/ErrorTableUtility/images/");
 
-bool loadTranslation(Error::TranslationTable &table, const QString &file)
-{
-    const Window::WaitCursor wait;
-    return table.load(file);
-}
-
 auto obsoleteMessages(const Clt::MessageTable &table)
 {
     return std::count_if(table.begin(), table.end(), [](const auto &entry) {
@@ -170,6 +164,19 @@ void MessageTableUtility::takeKeys(const QSet<Clt::MessageKey> &keys, qint64 mil
     showStatus(found + QStringLiteral("   ") + tr("Elapsed time: %1 sec").arg(seconds));
 }
 
+Window::Loading MessageTableUtility::loadTranslation(Error::TranslationTable &table, const QString &fileName)
+{
+    using Outcome = Window::Loading::Outcome;
+    Window::WindowWork work(*this, tr("Update translation"), tr("Reading %1").arg(fileName));
+    Window::ProgressFile file(fileName, work);
+    const bool isLoaded = table.load(file);
+    if (work.isCancelled())
+        return {Outcome::Cancelled, QString()};
+    if (!isLoaded)
+        return {Outcome::Failed, table.errorString()};
+    return {};
+}
+
 void MessageTableUtility::updateTranslation()
 {
     if (isBusy())
@@ -178,9 +185,14 @@ void MessageTableUtility::updateTranslation()
     if (file.isEmpty())
         return;
     Error::TranslationTable table;
-    if (!loadTranslation(table, file)) {
+    const Window::Loading loading = loadTranslation(table, file);
+    if (loading.outcome == Window::Loading::Outcome::Cancelled) {
+        showStatus(tr("Update cancelled, the translation is as it was"));
+        return;
+    }
+    if (loading.outcome == Window::Loading::Outcome::Failed) {
         dialogs().warn(this, tr("Qt Translation File Error"),
-                       tr("Could not load '%1': %2").arg(file, table.errorString()));
+                       tr("Could not load '%1': %2").arg(file, loading.reason));
         return;
     }
     const Window::WaitCursor wait;

@@ -6,6 +6,10 @@
 
 #include <optional>
 
+namespace Error {
+class TranslationTable;
+}
+
 /// The window on a message table: opens and saves it, brings it in step with the sources of a project, and a
 /// translation file in step with it.
 class MessageTableUtility : public Window::TableWindow
@@ -37,6 +41,7 @@ private:
     // Nothing when it was cancelled.
     std::optional<Error::ProjectScan> scanShowingProgress(const QString &projectFile,
                                                           const Scan::VisualStudioProject &project);
+    Window::Loading loadTranslation(Error::TranslationTable &table, const QString &fileName);
     void takeKeys(const QSet<Clt::MessageKey> &keys, qint64 milliseconds);
 
     Clt::MessageTable m_messages;
