@@ -108,10 +108,12 @@ private slots:
     void droppedTitlesAndActionsReadBackEmpty()
     {
         QFETCH(const quint32, seed);
-        const std::optional<QByteArray> bytes = written(randomTable(seed));
+        const MessageTable table = randomTable(seed);
+        const std::optional<QByteArray> bytes = written(table);
         QVERIFY(bytes);
         const std::optional<MessageTable> again = readBack(*bytes);
         QVERIFY(again);
+        QCOMPARE(again->size(), table.size());
         for (const auto &[key, message] : *again) {
             QVERIFY(keepsTitle(message) || message.title().isEmpty());
             QVERIFY(message.severity() == Severity::Critical || message.action().isEmpty());

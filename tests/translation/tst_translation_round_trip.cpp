@@ -98,6 +98,19 @@ private slots:
             }
         }
     }
+
+    void aFileWithoutItsLastTagGivesEveryMessage_data() { seedRows(); }
+
+    void aFileWithoutItsLastTagGivesEveryMessage()
+    {
+        QFETCH(const quint32, seed);
+        const TranslationTable table = randomTranslationTable(seed);
+        QByteArray bytes = written(table);
+        bytes.truncate(bytes.lastIndexOf("</TS>"));
+        TranslationTable part;
+        QVERIFY(!read(bytes, part).error.isEmpty());
+        QCOMPARE(shown(part), shown(table));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestTranslationRoundTrip)
