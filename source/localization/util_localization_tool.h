@@ -25,12 +25,6 @@ public:
     explicit util_localization_tool(const StepContext &context, QObject *parent = nullptr);
     ~util_localization_tool() override;
 
-    /// The folder of sources and locale folders, an existing one; empty when there is none.
-    QString rootFolder() const { return m_rootFolder; }
-
-    /// The folder of the files on the share; empty when no share is named.
-    QString shareFolder() const { return m_shareFolder; }
-
     /// Does all of it, in order. Each step logs what it does and what fails; none stops the others. Without a
     /// root folder nothing is done.
     void runScript();
@@ -43,13 +37,12 @@ private:
     void scanSources();
     void updateEnglishSources();
     void updateMaterialNames();
-
     void runTranslationJob();
     void compile();
     void copyRibbon();
 
-    QString m_rootFolder;
-    QString m_shareFolder;
+    QString m_rootFolder;  ///< of sources and locale folders, an existing one; empty when there is none
+    QString m_shareFolder; ///< of the files on the share; empty when no share is named
     std::unique_ptr<TranslationJob> m_job;
     QStringList m_filePatterns;
 

@@ -66,11 +66,6 @@ void ContextHelp::setOffline(bool offline)
     m_place = offline ? HelpPlace::Installed : HelpPlace::Online;
 }
 
-bool ContextHelp::isOffline() const
-{
-    return m_place == HelpPlace::Installed;
-}
-
 QString ContextHelp::defaultPage() const
 {
     return m_machine.executableFolder() + QStringLiteral("/NVXDefaultHelp.html");

@@ -31,7 +31,6 @@ public:
 
     /// Chooses the installed help instead of the online help, for the next initialise.
     void setOffline(bool offline);
-    bool isOffline() const;
 
     /// A mark for those who show help; the help itself takes no notice of it.
     void setMarked(bool marked) { m_marked = marked; }
