@@ -1,0 +1,64 @@
+# What the areas of the sample product are made of: one call each for a program, a library, a file or an
+# archive, and at the end one that makes them the area. "product" is the folder that they are built into.
+
+# sample_program(NAME SOURCE): a program that runs wherever it is copied.
+function(sample_program name source)
+    add_executable(${name} ${source})
+    target_link_libraries(${name} PRIVATE nvx_options)
+    target_link_options(${name} PRIVATE -static)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF RUNTIME_OUTPUT_DIRECTORY "${product}")
+    set_property(DIRECTORY APPEND PROPERTY sample_parts ${name})
+endfunction()
+
+# sample_library(NAME FOLDER SOURCE...): the target sample_NAME, a library in a folder of the product.
+function(sample_library name folder)
+    sample_library_named(sample_${name} ${name} "${folder}" ${ARGN})
+endfunction()
+
+# sample_library_named(TARGET NAME FOLDER SOURCE...): the same for a name that several libraries have.
+function(sample_library_named target name folder)
+    add_library(${target} SHARED ${ARGN})
+    target_link_libraries(${target} PRIVATE nvx_options)
+    target_link_options(${target} PRIVATE -static)
+    set_target_properties(${target} PROPERTIES
+        PREFIX "" OUTPUT_NAME "${name}" AUTOMOC OFF
+        RUNTIME_OUTPUT_DIRECTORY "${product}/${folder}"
+        ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/import/${folder}")
+    set_property(DIRECTORY APPEND PROPERTY sample_parts ${target})
+endfunction()
+
+# sample_copy(SOURCE TARGET): puts a file into the product, under the path TARGET there.
+function(sample_copy source target)
+    get_filename_component(source "${source}" ABSOLUTE)
+    get_filename_component(folder "${product}/${target}" DIRECTORY)
+    add_custom_command(OUTPUT "${product}/${target}"
+        COMMAND ${CMAKE_COMMAND} -E make_directory "${folder}"
+        COMMAND ${CMAKE_COMMAND} -E copy "${source}" "${product}/${target}"
+        DEPENDS "${source}"
+        VERBATIM)
+    set_property(DIRECTORY APPEND PROPERTY sample_files "${product}/${target}")
+endfunction()
+
+# sample_archive(ARCHIVE FOLDER): packs what the folder holds into the file ARCHIVE.
+function(sample_archive archive folder)
+    find_program(NVX_SEVEN_ZIP 7zz REQUIRED)
+    file(GLOB_RECURSE files CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*")
+    add_custom_command(OUTPUT "${archive}"
+        COMMAND ${CMAKE_COMMAND} -E rm -f "${archive}"
+        COMMAND ${NVX_SEVEN_ZIP} a -bso0 -bsp0 "${archive}" .
+        WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/${folder}"
+        DEPENDS ${files}
+        VERBATIM)
+    set_property(DIRECTORY APPEND PROPERTY sample_files "${archive}")
+endfunction()
+
+# sample_area(NAME): makes what the calls before it in this folder have named a part of the sample product.
+function(sample_area name)
+    get_property(files DIRECTORY PROPERTY sample_files)
+    get_property(parts DIRECTORY PROPERTY sample_parts)
+    add_custom_target(sample_${name} DEPENDS ${files})
+    if(parts)
+        add_dependencies(sample_${name} ${parts})
+    endif()
+    add_dependencies(sample_product sample_${name})
+endfunction()
