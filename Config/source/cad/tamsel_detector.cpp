@@ -50,7 +50,7 @@ QString probe(const Detection &detection, const EditionTexts &texts, int year)
         QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\") +
         productCode;
     detection.log(QStringLiteral("%1 Key2=%2").arg(texts.tag, uninstallKey));
-    const QString dir = detection.registry.valueOf(uninstallKey, QStringLiteral("InstallLocation"));
+    QString dir = detection.registry.valueOf(uninstallKey, QStringLiteral("InstallLocation"));
     detection.log(QStringLiteral("%1 InstallDir=%2").arg(texts.tag, dir));
     return dir;
 }
