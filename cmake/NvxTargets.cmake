@@ -49,6 +49,22 @@ function(nvx_test name)
     endif()
 endfunction()
 
+# nvx_python_test(NAME [NEEDS TARGET...] [ENVIRONMENT NAME=VALUE...]): the tests of NAME.py, registered with
+# ctest, and only if there are any.
+function(nvx_python_test name)
+    cmake_parse_arguments(ARG "" "" "NEEDS;ENVIRONMENT" ${ARGN})
+    find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
+    add_test(NAME ${name}
+        COMMAND ${Python3_EXECUTABLE} -B -m unittest -v ${name}
+        WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}")
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "LC_ALL=C.UTF-8;${ARG_ENVIRONMENT}"
+        PASS_REGULAR_EXPRESSION "Ran [1-9][0-9]* tests? in [^\n]*\n\nOK")
+    if(ARG_NEEDS)
+        add_custom_target(${name}_needs ALL DEPENDS ${ARG_NEEDS})
+    endif()
+endfunction()
+
 # nvx_fuzzer(NAME LINKS TARGET...): a libFuzzer program of NAME.cpp, run by ctest and as long as one likes by
 # hand. Where the folder corpus/NAME has inputs to start from, ctest makes a fixed number of runs from them, the
 # same ones each time; else it runs for a few seconds. What is found is not written into the sources.
