@@ -1,0 +1,83 @@
+"""What the tests of the documents read: their blocks, links, headings and tables."""
+
+import re
+from dataclasses import dataclass
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+DOCUMENTS = sorted(
+    path for path in [*ROOT.glob("*.md"), *ROOT.glob("docs/*.md")] if path.name != "CHANGELOG.md"
+)
+
+_BLOCK = re.compile(r"^<!-- (?P<remark>[^\n]*) -->\n```\w*\n(?P<text>.*?)^```$", re.DOTALL | re.MULTILINE)
+_FENCED = re.compile(r"^```.*?^```$", re.DOTALL | re.MULTILINE)
+_LINK = re.compile(r"\[[^\]]*\]\(([^)\s]+)\)")
+_CODE = re.compile(r"`([^`\n]+)`")
+
+
+@dataclass(frozen=True)
+class Block:
+    """A fenced block with the remark that stands before it: what it is, and of what."""
+
+    what: str
+    name: str
+    text: str
+
+
+def text_of(path):
+    return (ROOT / path).read_text(encoding="utf-8")
+
+
+def blocks_of(document):
+    """The blocks that have a remark, in their order: "<!-- WHAT: NAME -->" or "<!-- WHAT -->"."""
+    blocks = []
+    for match in _BLOCK.finditer(document):
+        what, _, name = match["remark"].partition(": ")
+        blocks.append(Block(what, name, match["text"]))
+    return blocks
+
+
+def prose_of(document):
+    """The document without its fenced blocks."""
+    return _FENCED.sub("", document)
+
+
+def links_of(document):
+    """Where the links and pictures of a document lead."""
+    return _LINK.findall(prose_of(document))
+
+
+def code_of(document):
+    """What stands between back quotes in the prose."""
+    return _CODE.findall(prose_of(document))
+
+
+def anchors_of(document):
+    """The names by which a document's headings are linked."""
+    anchors = set()
+    for heading in re.findall(r"^#+ (.*)$", prose_of(document), re.MULTILINE):
+        kept = re.sub(r"[^\w\- ]", "", heading.lower())
+        anchors.add(kept.replace(" ", "-"))
+    return anchors
+
+
+def section_of(document, heading):
+    """The text below a heading, to the next one of its level; KeyError when there is none."""
+    parts = re.split(r"^## (.*)$", document, flags=re.MULTILINE)
+    return dict(zip(parts[1::2], parts[2::2]))[heading]
+
+
+def rows_of(text):
+    """The cells of all table rows in a text; rules and headings above a rule are left out."""
+    lines = text.splitlines()
+    rows = []
+    for place, line in enumerate(lines):
+        below = lines[place + 1] if place + 1 < len(lines) else ""
+        if not line.startswith("|") or _is_rule(line) or _is_rule(below):
+            continue
+        rows.append([cell.strip() for cell in line.strip().strip("|").split("|")])
+    return rows
+
+
+def _is_rule(line):
+    return bool(re.match(r"^\|[-| ]+\|$", line))
