@@ -18,6 +18,11 @@ if(NVX_SANITIZE)
         -fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(nvx_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(NVX_COVERAGE)
+    # Several threads count at once, and a counter must not lose any.
+    target_compile_options(nvx_options INTERFACE --coverage -O0 -fprofile-update=atomic)
+    target_link_options(nvx_options INTERFACE --coverage)
+endif()
 
 # nvx_library(NAME SOURCES FILE... LINKS TARGET... [INCLUDES FOLDER]): a static library of one room.
 # Headers are included as they lie below INCLUDES, by default the folder "source".

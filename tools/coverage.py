@@ -1,0 +1,222 @@
+"""What the tests reached, as the compiler's counters tell it.
+
+coverage.py read BUILD FILE ROOM...    reads the counters below a build folder into a file; the rooms are the
+                                       folders whose sources count
+coverage.py table FILE                 a line for each folder, and one for all
+coverage.py missed FILE FOLDER         the lines and branches below the folder that were not reached
+"""
+
+import json
+import os
+import subprocess
+import sys
+from collections import defaultdict
+from multiprocessing import Pool
+from pathlib import Path, PurePosixPath
+
+# The compiler's own: they run before main and have branches of their own for every global value.
+START_UP = ("_GLOBAL__sub_I_", "_Z41__static_initialization_and_destruction_0")
+
+
+class Source:
+    """How often each line of a source file was run, and each of the two ways of its conditions.
+
+    Conditions belong to a place: the line and the function, which may be there many times, as often as a
+    template or a constructor is compiled. What one of them reached is reached.
+    """
+
+    def __init__(self):
+        self.lines = defaultdict(int)
+        self.conditions = {}
+
+    def add_line(self, number, count):
+        self.lines[number] += count
+
+    def add_conditions(self, number, function, ways):
+        place = (number, function, len(ways))
+        before = self.conditions.get(place, [0] * len(ways))
+        self.conditions[place] = [one + other for one, other in zip(before, ways)]
+
+    def add(self, other):
+        for number, count in other.lines.items():
+            self.add_line(number, count)
+        for (number, function, _), ways in other.conditions.items():
+            self.add_conditions(number, function, ways)
+
+    def branches(self):
+        """The counts of the ways by their line.
+
+        A condition in a line that was run which was never looked at itself is part of the clean-up after an
+        exception; or the one before it, of which one way was not gone, stands for it.
+        """
+        branches = defaultdict(list)
+        for (number, _, _), ways in self.conditions.items():
+            for pair in zip(ways[::2], ways[1::2]):
+                if any(pair) or not self.lines[number]:
+                    branches[number] += pair
+        return branches
+
+    def missed_ranges(self):
+        """The first and last line of each stretch of code that was not run."""
+        ranges = []
+        is_open = False
+        for number, count in sorted(self.lines.items()):
+            if count == 0 and is_open:
+                ranges[-1][1] = number
+            elif count == 0:
+                ranges.append([number, number])
+            is_open = count == 0
+        return ranges
+
+    def missed_branches(self):
+        """Line, ways not taken and all ways, of each line that was run but has not gone every way."""
+        for number, counts in sorted(self.branches().items()):
+            if self.lines[number] and 0 in counts:
+                yield number, counts.count(0), len(counts)
+
+
+class Tally:
+    """How much there is, and how much of it was reached."""
+
+    def __init__(self):
+        self.lines = self.lines_reached = self.branches = self.branches_reached = 0
+
+    def add(self, source):
+        branches = [count for counts in source.branches().values() for count in counts]
+        self.lines += len(source.lines)
+        self.lines_reached += sum(1 for count in source.lines.values() if count)
+        self.branches += len(branches)
+        self.branches_reached += sum(1 for count in branches if count)
+
+    def row(self, name):
+        return (
+            f"{name:38}{part(self.lines_reached, self.lines):>24}"
+            f"{part(self.branches_reached, self.branches):>24}"
+        )
+
+
+def part(reached, every):
+    return f"{reached} of {every} {100 * reached / every:6.1f} %" if every else "none"
+
+
+def decisions(branches, code):
+    """The counts of the two ways of each condition in a line of code.
+
+    A call from which an exception may come has two ways of its own, to what follows and to the clean-up; no
+    code of ours throws. The ways of a switch are lines themselves, its cases; what is made once is looked at each
+    time, by several threads at once if need be.
+    """
+    pairs = zip(branches[::2], branches[1::2])
+    counts = []
+    for pair in () if code.startswith(("switch ", "static ")) else pairs:
+        if not any(way["throw"] for way in pair):
+            counts += [way["count"] for way in pair]
+    return counts
+
+
+def read_unit(arguments):
+    """The sources of one compiled unit, by their paths from the root on."""
+    notes, root, rooms = arguments
+    gcov = ["gcov", "--json-format", "--stdout", "--branch-probabilities", notes.name]
+    answer = subprocess.run(gcov, cwd=notes.parent, capture_output=True, check=True, text=True)
+    unit = json.loads(answer.stdout)
+    sources = {}
+    for file in unit["files"]:
+        path = Path(os.path.normpath(os.path.join(unit["current_working_directory"], file["file"])))
+        if path.exists() and any(room in path.parents for room in rooms):
+            sources[str(path.relative_to(root))] = read_source(path, file)
+    return sources
+
+
+def read_source(path, file):
+    source = Source()
+    code = path.read_text(encoding="utf-8").splitlines()
+    places = {
+        function["name"]: (function["start_line"], function["start_column"])
+        for function in file["functions"]
+    }
+    for line in file["lines"]:
+        name = line.get("function_name", "")
+        number = line["line_number"]
+        text = code[number - 1].strip()
+        # At the end of a block there is but the clean-up of what was declared in it.
+        if name.startswith(START_UP) or text in ("{", "}", "};"):
+            continue
+        source.add_line(number, line["count"])
+        ways = decisions(line["branches"], text)
+        if ways:
+            source.add_conditions(number, places.get(name), ways)
+    return source
+
+
+def read(build, target, rooms):
+    root = Path(__file__).resolve().parent.parent
+    units = [
+        (notes.resolve(), root, [root / room for room in rooms])
+        for notes in Path(build).rglob("*.gcno")
+        if "_autogen" not in str(notes)
+    ]
+    sources = defaultdict(Source)
+    with Pool() as pool:
+        for unit in pool.imap_unordered(read_unit, units, chunksize=8):
+            for path, source in unit.items():
+                sources[path].add(source)
+    store(sources, target)
+
+
+def store(sources, target):
+    content = {
+        path: {"lines": sorted(source.lines.items()), "conditions": sorted(source.conditions.items())}
+        for path, source in sorted(sources.items())
+    }
+    with open(target, "w", encoding="utf-8") as file:
+        json.dump(content, file)
+
+
+def stored(path):
+    sources = {}
+    with open(path, encoding="utf-8") as file:
+        for name, content in json.load(file).items():
+            source = sources[name] = Source()
+            for number, count in content["lines"]:
+                source.add_line(number, count)
+            for (number, function, _), ways in content["conditions"]:
+                source.add_conditions(number, tuple(function), ways)
+    return sources
+
+
+def print_table(sources):
+    folders = defaultdict(Tally)
+    total = Tally()
+    for path, source in sources.items():
+        folders[str(PurePosixPath(path).parent)].add(source)
+        total.add(source)
+    print(f"{'folder':38}{'lines':>24}{'branches':>24}")
+    for name, tally in sorted(folders.items()):
+        print(tally.row(name))
+    print(total.row("all"))
+
+
+def print_missed(sources, folder):
+    """Whether there is anything below the folder."""
+    wanted = PurePosixPath(folder)
+    below = [path for path in sorted(sources) if wanted in (PurePosixPath(path), *PurePosixPath(path).parents)]
+    for path in below:
+        for first, last in sources[path].missed_ranges():
+            print(f"{path}:{first}" + (f"-{last}" if last != first else ""))
+        for number, missed, every in sources[path].missed_branches():
+            print(f"{path}:{number} {missed} of {every} branches")
+    return bool(below)
+
+
+def main(order, *arguments):
+    if order == "read":
+        read(arguments[0], arguments[1], arguments[2:])
+    elif order == "table":
+        print_table(stored(arguments[0]))
+    elif not print_missed(stored(arguments[0]), arguments[1]):
+        sys.exit(f"error: nothing was counted below {arguments[1]}")
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
