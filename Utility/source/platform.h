@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 class QProcess;
@@ -61,5 +62,14 @@ bool flushToDisk(int descriptor);
 
 /// Gives a file another name in its folder. False, and nothing changed, when the name is taken.
 bool renameToFreeName(const QString &from, const QString &to);
+
+/// Gives a file another name in its folder, in place of the file that has it. False, and nothing changed,
+/// when that file cannot be replaced.
+bool renameOver(const QString &from, const QString &to);
+
+/// Makes this process the one that writes a file, for as long as the answer lives. Null when there is no such
+/// file, or another process has claimed it. Where the system keeps an open file from being removed, that is
+/// all that is needed, and the answer is never null.
+std::shared_ptr<void> claimFile(const QString &path);
 
 } // namespace Nvx::Util::Platform

@@ -3,13 +3,26 @@
 #include "platform.h"
 
 #include <QFile>
-#include <QSaveFile>
+#include <QFileInfo>
+
+#include <memory>
 
 namespace Nvx::Util {
 
 namespace {
 
 constexpr qint64 chunk = qint64{64} * 1024;
+
+// Beside a file of somebody else's only a name that nobody else gives is ours to clear away.
+QString partOfReplacement(const QString &fileName)
+{
+    return fileName + QStringLiteral(".nvxpart");
+}
+
+QString partOfCopy(const QString &target)
+{
+    return target + QStringLiteral(".part");
+}
 
 bool hasContents(const QString &fileName, const QByteArray &contents)
 {
@@ -25,56 +38,118 @@ bool hasContents(const QString &fileName, const QByteArray &contents)
     return true;
 }
 
-// The file is only as good as its last byte: on a full disk QSaveFile takes what fits for a success.
-bool writeAll(QSaveFile &file, const QByteArray &contents)
+// A part that another process is writing is none: on Unix that process has claimed it, on Windows a file that
+// is open cannot be removed.
+void removeLeftPart(const QString &part)
 {
-    return file.write(contents) == contents.size() && file.flush() && Platform::flushToDisk(file.handle());
+    if (QFile::exists(part) && Platform::claimFile(part))
+        QFile::remove(part);
 }
 
-bool copyAll(QFile &source, QFile &target)
+/// The file that is written beside the one to come, and gets its name when it is whole. It goes when it was
+/// not renamed. Its name is always the same one, so that what a crash leaves is found again.
+class PartFile
+{
+public:
+    explicit PartFile(const QString &name)
+        : m_name(name)
+        , m_file(name)
+    {
+    }
+    PartFile(const PartFile &) = delete;
+    PartFile &operator=(const PartFile &) = delete;
+    ~PartFile()
+    {
+        m_file.close();
+        if (m_claim)
+            QFile::remove(m_name);
+    }
+
+    /// False when it cannot be made, or another process is writing it.
+    bool create()
+    {
+        removeLeftPart(m_name);
+        if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+            m_claim = Platform::claimFile(m_name);
+        return m_claim != nullptr;
+    }
+
+    bool write(QByteArrayView bytes) { return m_file.write(bytes.data(), bytes.size()) == bytes.size(); }
+
+    /// Puts all of it on the disk and gives it its name.
+    bool finish(bool (*rename)(const QString &, const QString &), const QString &fileName)
+    {
+        if (!m_file.flush() || !Platform::flushToDisk(m_file.handle()))
+            return false;
+        m_file.close();
+        if (!rename(m_name, fileName))
+            return false;
+        m_claim.reset();
+        return true;
+    }
+
+    void setPermissions(QFile::Permissions permissions) { m_file.setPermissions(permissions); }
+
+private:
+    QString m_name;
+    QFile m_file;
+    std::shared_ptr<void> m_claim;
+};
+
+bool copyAll(QFile &source, PartFile &target)
 {
     QByteArray bytes(chunk, Qt::Uninitialized);
     for (;;) {
         const qint64 read = source.read(bytes.data(), chunk);
-        if (read < 0 || (read == 0 && !source.atEnd()))
-            return false;
-        if (read == 0)
-            return target.flush() && Platform::flushToDisk(target.handle());
-        if (target.write(bytes.constData(), read) != read)
+        if (read <= 0)
+            return read == 0 && source.atEnd();
+        if (!target.write(QByteArrayView(bytes).first(read)))
             return false;
     }
 }
 
-// Writes the copy that is to be renamed; what an earlier one that was cut off has left makes way.
-bool writePart(const QString &source, const QString &partName)
+// The file that a name stands for. It need not exist.
+QString behindLinks(const QString &fileName)
 {
-    QFile from(source);
-    if (!from.open(QIODevice::ReadOnly))
-        return false;
-    QFile::remove(partName);
-    QFile part(partName);
-    return part.open(QIODevice::WriteOnly | QIODevice::NewOnly) && copyAll(from, part);
+    const QFileInfo file(fileName);
+    return file.isSymLink() ? file.symLinkTarget() : fileName;
 }
 
 } // namespace
 
 bool replaceWholeFile(const QString &fileName, const QByteArray &contents)
 {
-    if (hasContents(fileName, contents))
+    if (fileName.isEmpty())
+        return false;
+    const QString name = behindLinks(fileName);
+    if (hasContents(name, contents)) {
+        removeLeftPart(partOfReplacement(name));
         return true;
-    QSaveFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && writeAll(file, contents) && file.commit();
+    }
+    const QFileInfo old(name);
+    if (old.isDir() || (old.exists() && !old.isWritable()))
+        return false;
+    PartFile part(partOfReplacement(name));
+    if (!part.create() || !part.write(contents))
+        return false;
+    if (old.exists())
+        part.setPermissions(old.permissions());
+    return part.finish(Platform::renameOver, name);
 }
 
 bool copyToFreeName(const QString &source, const QString &target)
 {
-    if (QFile::exists(target))
+    QFile from(source);
+    if (QFile::exists(target) || !from.open(QIODevice::ReadOnly))
         return false;
-    const QString part = target + QStringLiteral(".part");
-    if (writePart(source, part) && Platform::renameToFreeName(part, target))
-        return true;
-    QFile::remove(part);
-    return false;
+    PartFile part(partOfCopy(target));
+    return part.create() && copyAll(from, part) && part.finish(Platform::renameToFreeName, target);
+}
+
+void removeUnfinished(const QString &fileName)
+{
+    removeLeftPart(partOfReplacement(fileName));
+    removeLeftPart(partOfCopy(fileName));
 }
 
 } // namespace Nvx::Util

@@ -1,4 +1,5 @@
 #include "nvx_util/whole_file.h"
+#include "platform.h"
 #include "support/file_bytes.h"
 #include "support/test_folder.h"
 
@@ -7,6 +8,15 @@
 #include <QTest>
 
 using Nvx::Util::replaceWholeFile;
+
+namespace {
+
+QStringList namesIn(const TestFolder &folder)
+{
+    return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+} // namespace
 
 class TestWholeFile : public QObject
 {
@@ -97,6 +107,60 @@ private slots:
         const QFile::Permissions before = QFile::permissions(fileName);
         QVERIFY(replaceWholeFile(fileName, "new"));
         QCOMPARE(QFile::permissions(fileName), before);
+    }
+
+    void whatACrashHasLeftGoes_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("the file is replaced") << QByteArray("new");
+        QTest::newRow("the file has these bytes already") << QByteArray("old");
+    }
+
+    void whatACrashHasLeftGoes()
+    {
+        QFETCH(const QByteArray, contents);
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("file"));
+        QVERIFY(writeFile(fileName, "old"));
+        QVERIFY(writeFile(fileName + QStringLiteral(".nvxpart"), "longer than what is to be written"));
+        QVERIFY(replaceWholeFile(fileName, contents));
+        QCOMPARE(fileBytes(fileName), contents);
+        QCOMPARE(namesIn(folder), QStringList(QStringLiteral("file")));
+    }
+
+    void filesOfOthersWithSuchNamesStay()
+    {
+        const TestFolder folder;
+        const QStringList names{QStringLiteral("file.aBcDeF"), QStringLiteral("file.backup"),
+                                QStringLiteral("file.part"), QStringLiteral("other.nvxpart")};
+        for (const QString &name : names)
+            QVERIFY(writeFile(folder.path(name), "mine"));
+        QVERIFY(replaceWholeFile(folder.path(QStringLiteral("file")), "new"));
+        QCOMPARE(namesIn(folder), QStringList(QStringLiteral("file")) + names);
+    }
+
+    void whatAnotherProcessIsWritingStays()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("file"));
+        QVERIFY(writeFile(fileName, "old"));
+        QFile part(fileName + QStringLiteral(".nvxpart"));
+        QVERIFY(part.open(QIODevice::WriteOnly));
+        const auto claim = Nvx::Util::Platform::claimFile(part.fileName());
+        QVERIFY(!replaceWholeFile(fileName, "new"));
+        Nvx::Util::removeUnfinished(fileName);
+        QCOMPARE(fileBytes(fileName), QByteArray("old"));
+        QVERIFY(QFile::exists(part.fileName()));
+    }
+
+    void whatIsUnfinishedIsRemovedAndNothingElse()
+    {
+        const TestFolder folder;
+        for (const char *name : {"file", "file.nvxpart", "file.part", "file.parts", "fil.part"})
+            QVERIFY(writeFile(folder.path(QString::fromLatin1(name)), "x"));
+        Nvx::Util::removeUnfinished(folder.path(QStringLiteral("file")));
+        QCOMPARE(namesIn(folder), QStringList({QStringLiteral("fil.part"), QStringLiteral("file"),
+                                               QStringLiteral("file.parts")}));
     }
 };
 

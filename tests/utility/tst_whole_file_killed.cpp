@@ -3,14 +3,18 @@
 #include "support/test_folder.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QTest>
+
+#include <array>
 
 namespace {
 
 constexpr int size = 4 * 1024 * 1024;
 constexpr int kills = 40;
 const QString replaceOption = QStringLiteral("--replace");
+const QString contendOption = QStringLiteral("--contend");
 const QString copyOption = QStringLiteral("--copy");
 
 QByteArray contents(char letter)
@@ -26,6 +30,13 @@ int replaceForever(const QString &fileName)
     while (Nvx::Util::replaceWholeFile(fileName, first) && Nvx::Util::replaceWholeFile(fileName, second))
         ;
     return 1;
+}
+
+/// The same, and goes on where another one was at it.
+int contendForever(const QString &fileName)
+{
+    for (char letter = 'a';; letter = letter == 'a' ? 'b' : 'a')
+        static_cast<void>(Nvx::Util::replaceWholeFile(fileName, contents(letter)));
 }
 
 /// Copies the file and removes the copy, again and again until somebody kills this program.
@@ -59,6 +70,36 @@ private slots:
             const std::optional<QByteArray> left = fileBytes(fileName);
             QVERIFY(left == contents('a') || left == contents('b'));
         }
+        // What the last one was writing goes with the next call.
+        QVERIFY(Nvx::Util::replaceWholeFile(fileName, "whole"));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("file")));
+    }
+
+    void writersAtOnceLeaveAWholeFile()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("file"));
+        QVERIFY(Nvx::Util::replaceWholeFile(fileName, contents('a')));
+        std::array<QProcess, 3> writers;
+        for (QProcess &writer : writers) {
+            writer.start(QCoreApplication::applicationFilePath(), {contendOption, fileName});
+            QVERIFY(writer.waitForStarted());
+        }
+        QElapsedTimer clock;
+        clock.start();
+        int looks = 0;
+        while (clock.elapsed() < 2000) {
+            const std::optional<QByteArray> found = fileBytes(fileName);
+            // On Windows the file cannot be opened while it is given its name.
+            QVERIFY(!found || found == contents('a') || found == contents('b'));
+            looks += found ? 1 : 0;
+        }
+        for (QProcess &writer : writers) {
+            QVERIFY(!writer.waitForFinished(1));
+            writer.kill();
+            QVERIFY(writer.waitForFinished());
+        }
+        QVERIFY(looks > 0);
     }
 
     void killedCopierLeavesAWholeCopyOrNone()
@@ -86,6 +127,8 @@ int main(int argc, char *argv[])
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == replaceOption)
         return replaceForever(arguments.value(2));
+    if (arguments.value(1) == contendOption)
+        return contendForever(arguments.value(2));
     if (arguments.value(1) == copyOption)
         return copyForever(arguments.value(2), arguments.value(3));
     TestWholeFileKilled test;

@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <cstdio>
 #include <unistd.h>
 
 namespace Nvx::Util::Platform {
@@ -13,6 +14,11 @@ bool renameToFreeName(const QString &from, const QString &to)
         return false;
     QFile::remove(from);
     return true;
+}
+
+bool renameOver(const QString &from, const QString &to)
+{
+    return rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
 } // namespace Nvx::Util::Platform

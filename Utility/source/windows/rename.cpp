@@ -23,4 +23,10 @@ bool renameToFreeName(const QString &from, const QString &to)
     return MoveFileExW(longPath(from).c_str(), longPath(to).c_str(), MOVEFILE_WRITE_THROUGH) != 0;
 }
 
+bool renameOver(const QString &from, const QString &to)
+{
+    return MoveFileExW(longPath(from).c_str(), longPath(to).c_str(),
+                       MOVEFILE_WRITE_THROUGH | MOVEFILE_REPLACE_EXISTING) != 0;
+}
+
 } // namespace Nvx::Util::Platform

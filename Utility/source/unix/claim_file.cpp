@@ -1,0 +1,61 @@
+#include "platform.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Nvx::Util::Platform {
+
+namespace {
+
+/// A descriptor with a lock on it, which the system takes away when the process ends, however it does.
+class Lock
+{
+public:
+    explicit Lock(const QByteArray &path)
+        : m_descriptor(open(path.constData(), O_RDONLY | O_CLOEXEC))
+    {
+    }
+    Lock(const Lock &) = delete;
+    Lock &operator=(const Lock &) = delete;
+    ~Lock()
+    {
+        if (m_descriptor >= 0)
+            close(m_descriptor);
+    }
+
+    bool take() const
+    {
+        // Where the file system has no locks, two processes at once are nothing that could be told.
+        return m_descriptor >= 0 && (flock(m_descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK);
+    }
+
+    /// Another process may have removed the file, and made one of that name, before the lock was ours.
+    bool isOn(const QByteArray &path) const
+    {
+        struct stat held = {};
+        struct stat named = {};
+        return fstat(m_descriptor, &held) == 0 && stat(path.constData(), &named) == 0 &&
+               held.st_dev == named.st_dev && held.st_ino == named.st_ino;
+    }
+
+private:
+    int m_descriptor;
+};
+
+} // namespace
+
+std::shared_ptr<void> claimFile(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    auto lock = std::make_shared<Lock>(name);
+    if (!lock->take() || !lock->isOn(name))
+        return nullptr;
+    return lock;
+}
+
+} // namespace Nvx::Util::Platform
