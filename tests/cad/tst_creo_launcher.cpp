@@ -205,6 +205,17 @@ private slots:
         QCOMPARE(m_fixture->takeLines().filter(text("1 Unable to read ") + protk(2)).size(), 2);
     }
 
+    void whatACrashHasLeftGoes()
+    {
+        find(2, foreign);
+        writeFile(protk(2) + text(".nvxpart"), "half");
+        step(RunMode::Uninstall);
+        QCOMPARE(namesIn(QFileInfo(protk(2)).path()), QStringList{text("protk.dat")});
+        QVERIFY(QFile::rename(protk(2), protk(2) + text(".nvxpart"))); // it was to be made
+        step(RunMode::Uninstall);
+        QCOMPARE(namesIn(QFileInfo(protk(2)).path()), QStringList());
+    }
+
     void noOtherFileIsLeftBesideIt()
     {
         find(2, foreign);

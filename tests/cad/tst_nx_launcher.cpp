@@ -54,6 +54,25 @@ private slots:
                               text("0 Checking") + menu("NX 10"), text("0 Creating") + menu("NX 10")}));
     }
 
+    void whatACrashHasLeftGoes_data()
+    {
+        QTest::addColumn<RunMode>("mode");
+        QTest::newRow("at an install") << RunMode::Install;
+        QTest::newRow("at a removal") << RunMode::Uninstall;
+    }
+
+    void whatACrashHasLeftGoes()
+    {
+        QFETCH(RunMode, mode);
+        find(V10_0, "NX 10", foreign + line("\\NX10"));
+        writeFile(backup("NX 10"), foreign);
+        for (const QString &file : {menu("NX 10"), backup("NX 10")})
+            writeFile(file + text(".nvxpart"), "half");
+        step(mode);
+        QCOMPARE(namesIn(QFileInfo(menu("NX 10")).path()),
+                 QStringList({text("custom_dirs.dat"), text("custom_dirs.dat.bak")}));
+    }
+
     void nx11HasNoSubFolder()
     {
         find(V11_0, "NX 11", foreign);

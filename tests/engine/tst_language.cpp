@@ -210,6 +210,20 @@ private slots:
         QCOMPARE(readFile(flagsFile()), QByteArray("prepared"));
     }
 
+    void aPreparedFlagsFileThatCannotBeCopiedIsLoggedAndComesWithTheNextRun()
+    {
+        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(text("prepared")));
+        writeFile(m_fixture->test.path(text("prepared/NVX_flags.txt")), "prepared");
+        const QString inTheWay = flagsFile() + text(".part/in the way");
+        writeFile(inTheWay);
+        m_fixture->start(text("-I"));
+        QVERIFY(m_fixture->lines().contains(text("   1 Unable to create ") + flagsFile()));
+        QVERIFY(!QFile::exists(flagsFile()));
+        QVERIFY(QDir(QFileInfo(inTheWay).path()).removeRecursively());
+        m_fixture->start(text("-I"));
+        QCOMPARE(readFile(flagsFile()), QByteArray("prepared"));
+    }
+
     void aPreparedFolderWithoutTheFileGivesAnEmptyOne()
     {
         m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(text("prepared")));

@@ -247,6 +247,14 @@ private slots:
         QCOMPARE(readFile(flag("NVX_other.txt")), QByteArray("mine"));
     }
 
+    void aCopyOfTheFlagsFileThatWasCutOffGoes()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-U -S"));
+        writeFile(flag("NVX_flags.txt.part"), "half");
+        engine.processFlagFile(text("NVX_flags.txt"), RunMode::Uninstall);
+        QVERIFY(!QFile::exists(flag("NVX_flags.txt.part")));
+    }
+
     void anUnchangedFlagFileIsRemoved_data()
     {
         QTest::addColumn<QByteArray>("contents");

@@ -80,6 +80,28 @@ private slots:
         QCOMPARE(m_reporter->lines, QStringList{checking});
     }
 
+    void aCopyThatWasCutOffGoes_data()
+    {
+        QTest::addColumn<RunMode>("mode");
+        QTest::newRow("at an install") << RunMode::Install;
+        QTest::newRow("at a removal") << RunMode::Uninstall;
+    }
+
+    void aCopyThatWasCutOffGoes()
+    {
+        QFETCH(RunMode, mode);
+        writeFile(m_working, "mine");
+        writeFile(m_working + text(".part"), "half");
+        writeFile(m_previous + text(".part"), "half");
+        writeFile(joinPath(m_sharedData, text("mine.part")), "mine");
+        check(mode);
+        QStringList left{text("mine.part")};
+        if (mode == RunMode::Install)
+            left << text("matprop.nvxmdb");
+        left.sort();
+        QCOMPARE(filesOfSharedData(), left);
+    }
+
     void aSecondInstallCopiesNothing()
     {
         check(RunMode::Install);

@@ -101,6 +101,22 @@ private slots:
         QVERIFY(!QDir(m_sharedData).exists());
     }
 
+    void whatACrashHasLeftGoesInEveryMode_data()
+    {
+        QTest::addColumn<RunMode>("mode");
+        QTest::newRow("install") << RunMode::Install;
+        QTest::newRow("uninstall") << RunMode::Uninstall;
+    }
+
+    void whatACrashHasLeftGoesInEveryMode()
+    {
+        QFETCH(RunMode, mode);
+        writeFile(m_file + text(".nvxpart"), "half");
+        run(mode, processors(1, 4, false));
+        QVERIFY(!QFile::exists(m_file + text(".nvxpart")));
+        QCOMPARE(QFile::exists(m_file), mode == RunMode::Install);
+    }
+
     void aFileThatCannotBeSavedDoesNotKeepTheFolderFromBeingMade()
     {
         QVERIFY(QDir().mkpath(m_file)); // a folder of that name is in the way

@@ -6,6 +6,7 @@
 #include "cad/protk_file.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
+#include "nvx_util/whole_file.h"
 #include "run/launcher_boxes.h"
 #include "run/product.h"
 #include "run/product_files.h"
@@ -33,6 +34,7 @@ void sweepProgramFolder(const StepContext &context, RunMode mode)
 
 void removeEntries(const StepContext &context, const QString &protk)
 {
+    Nvx::Util::removeUnfinished(protk);
     if (!QFile::exists(protk))
         return;
     context.reporter.log(0, Messages::tr("Removing Ostrade from:") + protk);

@@ -3,6 +3,7 @@
 #include "cad/cad_packages.h"
 #include "cad/foreign_file.h"
 #include "cad/nx_custom_dirs.h"
+#include "nvx_util/whole_file.h"
 #include "run/launcher_boxes.h"
 #include "run/reporter.h"
 
@@ -22,6 +23,11 @@ QString customDirsPath(const QString &nxInstallDir)
     return nxInstallDir + QDir::toNativeSeparators(QStringLiteral("/UGII/MENUS/custom_dirs.dat"));
 }
 
+QString backupOf(const QString &menu)
+{
+    return menu + QStringLiteral(".bak");
+}
+
 void removeLines(const StepContext &context, const QString &menu)
 {
     if (!QFile::exists(menu))
@@ -34,7 +40,7 @@ void removeLines(const StepContext &context, const QString &menu)
 
 void keepBackup(const StepContext &context, const QString &menu)
 {
-    const QString backup = menu + QStringLiteral(".bak");
+    const QString backup = backupOf(menu);
     if (QFile::exists(backup))
         return;
     context.reporter.log(0, Messages::tr("Copying %1 to %2").arg(menu, backup));
@@ -76,6 +82,8 @@ void installNXLauncher(const StepContext &context, const CadPackages &packages, 
         if (installDir.isEmpty())
             continue;
         const QString menu = customDirsPath(installDir);
+        for (const QString &file : {menu, backupOf(menu)})
+            Nvx::Util::removeUnfinished(file);
         if (mode != RunMode::Install) {
             removeLines(context, menu);
             continue;

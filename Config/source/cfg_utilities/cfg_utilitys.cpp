@@ -4,6 +4,7 @@
 #include "localization/util_localization_tool.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
+#include "nvx_util/whole_file.h"
 #include "run/product.h"
 #include "run/product_files.h"
 #include "run/progress_view.h"
@@ -93,6 +94,7 @@ void cfg_utilitys::processFlagFile(const QString &name, RunMode mode)
     progress(0, tr("Processing ") + name);
     const QString folder = System::getFlagsDirPath();
     const QString path = joinPath(folder, name);
+    Nvx::Util::removeUnfinished(path);
     if (mode != RunMode::Install) {
         if (isUnchangedFlagFile(path)) {
             log(0, name + tr(" has not changed"));
@@ -107,7 +109,7 @@ void cfg_utilitys::processFlagFile(const QString &name, RunMode mode)
     log(0, tr("Creating ") + name);
     System::makePath(folder);
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write("\r\n") != 2)
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write("\r\n") != 2 || !file.flush())
         log(1, tr("Unable to create %1").arg(path));
 }
 

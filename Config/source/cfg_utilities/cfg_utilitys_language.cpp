@@ -2,6 +2,7 @@
 
 #include "cfg_utilities/cfg_utilitys.h"
 #include "nvx_util/system.h"
+#include "nvx_util/whole_file.h"
 #include "run/product_files.h"
 
 #include <QDir>
@@ -65,7 +66,9 @@ void cfg_utilitys::createFlagsFile()
     const QString prepared = System::getEnv(QStringLiteral("OSTRADE2017TEMP"));
     const QString source = joinPath(prepared, flagsFile);
     if (!prepared.isEmpty() && QFile::exists(source)) {
-        QFile::copy(source, target);
+        // Whole or not at all: what is there once is never copied again.
+        if (!Nvx::Util::copyToFreeName(source, target))
+            log(1, tr("Unable to create %1").arg(target));
         return;
     }
     QFile file(target);

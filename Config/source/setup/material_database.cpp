@@ -21,6 +21,21 @@ const auto workingFile = QStringLiteral("matprop.nvxmdb");
 constexpr int furtherLooks = 4;
 constexpr std::chrono::milliseconds pauseBeforeLook{10};
 
+QString shared(const QString &fileName)
+{
+    return joinPath(System::getProgramDataPath(productFullName), fileName);
+}
+
+QString previousYear()
+{
+    return QString::number(productRelease.toInt() - 1);
+}
+
+QString previousDatabase()
+{
+    return shared(QStringLiteral("Materials %1.nvxmdb").arg(previousYear()));
+}
+
 // The users' database goes by this one name: a copy never takes the place of anything.
 void copyIfMissing(const QString &source, const QString &target)
 {
@@ -38,6 +53,9 @@ MaterialDatabase::MaterialDatabase(const StepContext &context)
 int MaterialDatabase::check(RunMode mode)
 {
     m_context.reporter.progress(0, tr("Checking material database"));
+    // A copy that a crash cut off is nobody's database, and as long as one of these.
+    for (const QString &database : {shared(workingFile), previousDatabase()})
+        Nvx::Util::removeUnfinished(database);
     if (mode == RunMode::Install)
         install();
     else if (mode == RunMode::Uninstall)
@@ -54,7 +72,7 @@ void MaterialDatabase::install()
         m_context.reporter.log(0, tr("Installation error: ") + source + tr(" does not exist."));
         return;
     }
-    const QString target = joinPath(System::getProgramDataPath(productFullName), workingFile);
+    const QString target = shared(workingFile);
     if (QFile::exists(target))
         return;
     m_context.reporter.log(0, tr("Copy: ") + source + tr(" to: ") + target);
@@ -63,12 +81,10 @@ void MaterialDatabase::install()
 
 void MaterialDatabase::copyPreviousRelease()
 {
-    const QString year = QString::number(productRelease.toInt() - 1);
-    const QString target = joinPath(System::getProgramDataPath(productFullName),
-                                    QStringLiteral("Materials %1.nvxmdb").arg(year));
+    const QString target = previousDatabase();
     if (QFile::exists(target))
         return;
-    const QString folder = System::getEnv(QStringLiteral("OSTRADE%1DIR").arg(year));
+    const QString folder = System::getEnv(QStringLiteral("OSTRADE%1DIR").arg(previousYear()));
     const QString source = joinPath(folder, shippedFile);
     if (!folder.isEmpty() && QFile::exists(source))
         copyIfMissing(source, target);
@@ -91,7 +107,7 @@ void MaterialDatabase::remove()
     removeProductFile(leftover);
     // The line names the program's folder; the database lies in the folder that all users share.
     m_context.reporter.log(0, tr("Remove: ") + beside(workingFile));
-    removeProductFile(joinPath(System::getProgramDataPath(productFullName), workingFile));
+    removeProductFile(shared(workingFile));
 }
 
 QString MaterialDatabase::beside(const QString &fileName) const

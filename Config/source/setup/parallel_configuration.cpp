@@ -6,6 +6,7 @@
 #include "nvx_util/cpu_info.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
+#include "nvx_util/whole_file.h"
 #include "run/product.h"
 #include "run/reporter.h"
 
@@ -53,13 +54,14 @@ bool save(const QString &path, const QString &sharedFolder, const QString &analy
 
 void createParallelConfiguration(const StepContext &context, RunMode mode, const Nvx::Util::CpuInfo &cpuInfo)
 {
+    const QString sharedData = System::getProgramDataPath(productFullName);
+    const QString file = joinPath(sharedData, QString::fromLatin1(Nvx2ConfigFile::DefaultName));
+    Nvx::Util::removeUnfinished(file);
     if (mode != RunMode::Install)
         return;
 
-    const QString sharedData = System::getProgramDataPath(productFullName);
     const QString sharedFolder = joinPath(context.machine.executableFolder(), QStringLiteral("NVX2_share"));
     const QString analysisFolder = joinPath(sharedData, QStringLiteral("HPCAnalyze"));
-    const QString file = joinPath(sharedData, QString::fromLatin1(Nvx2ConfigFile::DefaultName));
 
     System::makePath(sharedData);
     if (save(file, sharedFolder, analysisFolder, cpuInfo))
