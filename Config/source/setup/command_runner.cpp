@@ -44,8 +44,14 @@ bool createBatchFile(const QString &path, const QByteArray &commandLine)
     QFile::remove(path);
     QFile file(path);
     // Only a file that is new is ours to run.
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) &&
-           file.write(commandLine) == commandLine.size();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return false;
+    // Cut off by a full disk, the command could name another folder.
+    if (file.write(commandLine) == commandLine.size() && file.flush())
+        return true;
+    file.close();
+    QFile::remove(path);
+    return false;
 }
 
 } // namespace

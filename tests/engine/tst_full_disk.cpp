@@ -1,0 +1,358 @@
+// Whole runs on a disk that fills up: they come to their end, leave nothing of others half written, and a run
+// with room again ends as if nothing had been.
+
+#include "cad/creo_names.h"
+#include "engine/engine_fixture.h"
+#include "nvx_util/registry_key.h"
+#include "nvx_util/system.h"
+#include "support/small_disk.h"
+
+#include <QDirIterator>
+#include <QGuiApplication>
+#include <QTest>
+
+#include <cstdio>
+
+using Nvx::Util::joinPath;
+using Nvx::Util::ProgramCall;
+using Nvx::Util::ProgramResult;
+using Nvx::Util::RegistryKey;
+
+namespace {
+
+constexpr int notRun = 77; // what ctest is told to take for a test that could not run
+constexpr qint64 diskPages = 256;
+// More than a run needs.
+constexpr qint64 mostPages = 40;
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+const QByteArray foreignEntries = QByteArray("name Other\r\nexec_file C:\\gr\xf6\xdf"
+                                             "er.dll\r\nend\r\n")
+                                      .repeated(300);
+const QByteArray foreignDirs = QByteArray("C:\\Siemens\\gr\xf6\xdf"
+                                          "er\r\n")
+                                   .repeated(300);
+const QByteArray shippedDatabase(3 * SmallDisk::page, 'm');
+
+using Files = QMap<QString, QByteArray>;
+
+/// What is full.
+enum class Full
+{
+    DataDisk,
+    WholeDisk
+};
+
+/// A machine whose disk is small. Its programs do what the real ones do to the disk.
+class SmallMachine
+{
+public:
+    explicit SmallMachine(Full full)
+        : m_folder(fixture.test.path(text("disk")))
+    {
+        QDir().mkpath(m_folder);
+        disk = std::make_unique<SmallDisk>(m_folder, diskPages);
+        fixture.test.setVariable("NVX_MACHINE", m_folder);
+        fixture.test.unsetVariable("OSTRADE2016DIR");
+        fixture.machine.desktop = joinPath(m_folder, text("Desktop"));
+        installDir = full == Full::WholeDisk ? joinPath(m_folder, text("NVX")) : fixture.test.installDir();
+        fixture.machine.ownFolder = installDir;
+        fixture.machine.whileRunning = [this](const ProgramCall &call) { act(call); };
+        for (const char *name : {"NVXSolver.exe", "NVXServer.exe"})
+            writeFile(joinPath(installDir, text(name)));
+        writeFile(joinPath(installDir, text("matprop.mdb")), shippedDatabase);
+        writeFile(joinPath(installDir, text("en-US/matprop.mdb")), shippedDatabase);
+        putCadSystems();
+    }
+
+    void run(const char *mode)
+    {
+        badPrograms.clear();
+        cfg_utilitys &engine = fixture.start(text(mode) + text(" -S -Len-US"));
+        engine.searchCADPackages();
+        engine.ProcessInstallation();
+        if (engine.state().runMode == RunMode::Uninstall)
+            engine.removeOldFiles(OldFiles::Remove);
+        isComplete = engine.state().runComplete;
+        fixture.engine.reset();
+    }
+
+    /// The log as it is, of all runs.
+    QStringList lines() const { return logLines(joinPath(installDir, text("NVXConfig.log"))); }
+
+    /// All files but the log and what fills the disk, by their path in the test's folder.
+    Files files() const
+    {
+        Files found;
+        for (const QString &top : {m_folder, installDir}) {
+            QDirIterator entries(top, QDir::Files | QDir::Hidden | QDir::System,
+                                 QDirIterator::Subdirectories);
+            while (entries.hasNext()) {
+                const QString path = entries.next();
+                if (!path.endsWith(text("/filler")) && !path.endsWith(text("/NVXConfig.log")))
+                    found.insert(path.mid(fixture.test.path({}).size()), shownAs(readFile(path)));
+            }
+        }
+        return found;
+    }
+
+    EngineFixture fixture;
+    std::unique_ptr<SmallDisk> disk;
+    QString installDir;
+    QString protk;
+    QString menu;
+    bool isComplete = false;
+    /// Somebody makes room when the server registers itself.
+    bool makesRoomUnderWay = false;
+    /// What was run though it was not whole.
+    QStringList badPrograms;
+
+private:
+    void putCadSystems()
+    {
+        const QString creo = joinPath(m_folder, text("PTC/Creo 3.0/Parametric"));
+        protk = protkPath(creo, QString(), 3);
+        writeFile(protk, foreignEntries);
+        const QString software = text("HKEY_LOCAL_MACHINE\\Software\\");
+        RegistryKey(software + text("PTC\\Creo Parametric\\3.0\\F000")).setText(text("InstallDir"), creo);
+        const QString nx = joinPath(m_folder, text("NX 11.0"));
+        menu = joinPath(nx, text("UGII/MENUS/custom_dirs.dat"));
+        writeFile(menu, foreignDirs);
+        RegistryKey(software + text("Unigraphics Solutions\\NX\\11.0")).setText(text("UGII_BASE_DIR"), nx);
+    }
+
+    // The test's folder has another name each time.
+    QByteArray shownAs(QByteArray contents) const
+    {
+        return contents.replace(fixture.test.path({}).toUtf8(), "TEST/");
+    }
+
+    void act(const ProgramCall &call)
+    {
+        bool isDone = true;
+        if (call.program.endsWith(text("7z.exe")))
+            isDone = unpack(call.arguments.last().mid(2));
+        else if (call.program == text("cmd.exe"))
+            isDone = removeFolder(call.arguments.last());
+        else if (call.program == text("regedit"))
+            isDone = import(call.arguments.last());
+        else if (call.program.endsWith(text("NVXServer.exe")))
+            registerServer();
+        fixture.machine.programResult = {ProgramResult::Outcome::Exited, isDone ? 0 : 8, {}};
+    }
+
+    void registerServer()
+    {
+        fixture.machine.service.current = Nvx::Util::ServiceState::Stopped;
+        if (makesRoomUnderWay)
+            disk->makeRoom();
+    }
+
+    // As the unpacker does, it goes on with the next file when one does not fit.
+    static bool unpack(const QString &folder)
+    {
+        bool isDone = true;
+        for (const char *name : {"one.txt", "sub/two.txt"}) {
+            const QString path = joinPath(folder, text(name));
+            QDir().mkpath(QFileInfo(path).path());
+            QFile file(path);
+            const QByteArray contents(SmallDisk::page + 1, 'u');
+            isDone = file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() &&
+                     file.flush() && isDone;
+        }
+        return isDone;
+    }
+
+    bool removeFolder(const QString &batchFile)
+    {
+        static const QRegularExpression command(text("^rmdir /s /q \"([^\"]+)\"$"));
+        const QString batch = QString::fromUtf8(readFile(batchFile));
+        const QRegularExpressionMatch match = command.match(batch);
+        if (!match.hasMatch()) {
+            badPrograms << text("batch file: ") + batch;
+            return false;
+        }
+        return QDir(match.captured(1)).removeRecursively();
+    }
+
+    bool import(const QString &script)
+    {
+        const QByteArray bytes = readFile(script);
+        const bool isWhole = bytes.startsWith("Windows Registry Editor") &&
+                             (bytes.endsWith("nvxpkg.ico\\\"\"\n") || bytes.endsWith("NVX2017.tpl]\n"));
+        if (!isWhole)
+            badPrograms << text("script: ") + QString::fromUtf8(bytes);
+        return isWhole;
+    }
+
+    QString m_folder;
+};
+
+/// Every number of free pages from none to more than enough.
+void addRows()
+{
+    QTest::addColumn<Full>("full");
+    QTest::addColumn<qint64>("pages");
+    for (qint64 pages = 0; pages <= mostPages; ++pages) {
+        QTest::addRow("the disk of the data, %lld pages", pages) << Full::DataDisk << pages;
+        QTest::addRow("the whole disk, %lld pages", pages) << Full::WholeDisk << pages;
+    }
+}
+
+/// The paths of what is in one only or not the same in both.
+QStringList differences(const Files &left, const Files &right)
+{
+    QSet<QString> paths;
+    for (const Files &files : {left, right}) {
+        for (auto file = files.begin(); file != files.end(); ++file) {
+            if (!left.contains(file.key()) || !right.contains(file.key()) ||
+                left.value(file.key()) != right.value(file.key()))
+                paths.insert(file.key());
+        }
+    }
+    return paths.values();
+}
+
+QStringList unfinished(const Files &files)
+{
+    return files.keys().filter(QRegularExpression(text("part$|\\.reg$|work\\.bat$|qt_temp")));
+}
+
+} // namespace
+
+class TestFullDisk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        for (const Full full : {Full::DataDisk, Full::WholeDisk}) {
+            SmallMachine machine(full);
+            QVERIFY(machine.disk->isMounted());
+            machine.run("-I");
+            m_installed.insert(full, machine.files());
+            machine.run("-U");
+            m_removed.insert(full, machine.files());
+        }
+    }
+
+    void installGoesToItsEnd_data() { addRows(); }
+
+    void installGoesToItsEnd()
+    {
+        QFETCH(Full, full);
+        QFETCH(qint64, pages);
+        SmallMachine machine(full);
+        const Files before = machine.files();
+        QVERIFY(machine.disk->leave(pages));
+        machine.run("-I");
+        checkWhole(machine, before, m_installed.value(full));
+        if (full == Full::DataDisk)
+            checkTold(machine, m_installed.value(full));
+
+        machine.disk->makeRoom();
+        machine.run("-I");
+        QCOMPARE(differences(machine.files(), m_installed.value(full)), QStringList());
+    }
+
+    void removalGoesToItsEnd_data() { addRows(); }
+
+    void removalGoesToItsEnd()
+    {
+        QFETCH(Full, full);
+        QFETCH(qint64, pages);
+        SmallMachine machine(full);
+        machine.run("-I");
+        QVERIFY(machine.disk->leave(pages));
+        machine.run("-U");
+        checkWhole(machine, m_installed.value(full), m_removed.value(full));
+        if (full == Full::DataDisk)
+            checkTold(machine, m_removed.value(full));
+
+        machine.disk->makeRoom();
+        machine.run("-U");
+        QCOMPARE(differences(machine.files(), m_removed.value(full)), QStringList());
+    }
+
+    void logThatGetsRoomUnderWayHoldsTheWholeRun()
+    {
+        SmallMachine machine(Full::WholeDisk);
+        QVERIFY(machine.disk->leave(0));
+        machine.makesRoomUnderWay = true;
+        machine.run("-I");
+        const QStringList lines = machine.lines();
+        QCOMPARE(lines.filter(QRegularExpression(text("^! (?!Processors: )"))), QStringList());
+        QCOMPARE(lines.first(), text("   0 "));
+        const QString tutorials = Nvx::Util::System::getTutorialsDirPath();
+        QVERIFY(lines.contains(text("   1 Unable to create %1work.bat, this folder is not removed: %2")
+                                   .arg(machine.installDir, tutorials)));
+        QCOMPARE(lines.last(),
+                 text("   0 The installation or update is complete. Click finish to continue."));
+    }
+
+    // Some rows must have been too small and others large enough, or the others would show nothing.
+    void cleanupTestCase()
+    {
+        QVERIFY(m_disturbed > 0);
+        QVERIFY(m_undisturbed > 0);
+    }
+
+private:
+    // The run is at its end, and each file that is shared with others is as before or as after a run with
+    // room.
+    void checkWhole(const SmallMachine &machine, const Files &before, const Files &after)
+    {
+        QVERIFY(machine.isComplete);
+        QCOMPARE(machine.badPrograms, QStringList());
+        const Files files = machine.files();
+        QCOMPARE(unfinished(files), QStringList());
+        for (const char *ending : {"/protk.dat", "/custom_dirs.dat", "/custom_dirs.dat.bak",
+                                   "/matprop.nvxmdb", "/NVX2_config.nvxcfg"}) {
+            for (auto file = files.begin(); file != files.end(); ++file) {
+                if (file.key().endsWith(text(ending)))
+                    QVERIFY2(file.value() == before.value(file.key()) ||
+                                 file.value() == after.value(file.key()),
+                             qPrintable(file.key()));
+            }
+        }
+        for (const QString &path : {machine.protk, machine.menu})
+            QVERIFY2(QFile::exists(path), qPrintable(path));
+        ++(files == after ? m_undisturbed : m_disturbed);
+    }
+
+    // The log lies where there is room: it names every file that could not be written.
+    static void checkTold(const SmallMachine &machine, const Files &after)
+    {
+        const QStringList lines = machine.lines();
+        QCOMPARE(lines.filter(text("The installation or update is complete.")).isEmpty(), false);
+        const Files files = machine.files();
+        for (const QString &path : {machine.protk, machine.menu}) {
+            const QString key = path.mid(machine.fixture.test.path({}).size());
+            QCOMPARE(lines.contains(text("   1 Unable to write ") + path),
+                     files.value(key) != after.value(key));
+        }
+    }
+
+    QMap<Full, Files> m_installed;
+    QMap<Full, Files> m_removed;
+    int m_disturbed = 0;
+    int m_undisturbed = 0;
+};
+
+int main(int argc, char *argv[])
+{
+    if (!SmallDisk::arePermitted()) {
+        std::puts("Not run: this process may not mount a file system.");
+        return notRun;
+    }
+    const QGuiApplication application(argc, argv);
+    TestFullDisk test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_full_disk.moc"
