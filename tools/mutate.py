@@ -1,0 +1,371 @@
+"""Runs the tests of each pure function on small changes of it; called by tools/mutate.
+
+A change (mutant) that no test notices survives, and is printed. Everything happens in a copy of the sources
+in build/mutate. There the tests are built once as the native preset has them; then each mutant is compiled
+alone, not optimised, with the file's includes precompiled, and linked in front of the library that holds the
+unchanged file.
+
+tools/mutate.txt names the files, the tests of each in the order in which they are run, and the changes that
+make no difference, with the reason.
+"""
+
+import argparse
+import json
+import os
+import random
+import resource
+import shlex
+import shutil
+import signal
+import subprocess
+import sys
+import time
+from concurrent.futures import ThreadPoolExecutor
+from dataclasses import dataclass, field
+from pathlib import Path
+from queue import Queue
+from xml.etree import ElementTree
+
+from mutants import mutants_of, mutated
+
+ROOT = Path(__file__).resolve().parent.parent
+LIST = ROOT / "tools" / "mutate.txt"
+COPY = ROOT / "build" / "mutate"
+BUILD = COPY / "build" / "native"  # as in a checkout, so that the cache knows the objects
+WORK = COPY / "build" / "mutants"
+MEMORY = 2 << 30  # bytes that a test may take
+OUTCOMES = ("killed", "timed out", "did not compile", "survived", "accepted")
+
+
+def stop(complaint):
+    sys.exit(f"error: {complaint}")
+
+
+@dataclass
+class Unit:
+    """A source file, its tests, and the changes of it that make no difference: (source, change) -> reason."""
+
+    file: str
+    tests: list
+    accepted: dict = field(default_factory=dict)
+
+
+def read_list(text):
+    """The units of tools/mutate.txt:
+
+    FILE: TEST TEST...
+        > THE LINE OF THE SOURCE
+            CHANGE because REASON
+    """
+    units = []
+    source = ""
+    for number, line in enumerate(text.split("\n"), 1):
+        stripped = line.strip()
+        if not stripped or line.startswith("#"):
+            continue
+        if not line.startswith(" "):
+            file, _, tests = line.partition(":")
+            units.append(Unit(file, tests.split()))
+        elif stripped.startswith("> "):
+            source = stripped[2:]
+        else:
+            change, because, reason = stripped.rpartition(" because ")
+            if not because or not reason or not units:
+                stop(f"{LIST}:{number}: a change, 'because' and a reason are expected")
+            units[-1].accepted[source, change] = reason
+    return units
+
+
+# --- the copy -------------------------------------------------------------------------------------------
+
+
+def bring_copy_up_to_date():
+    """Only files that differ are written, so that only they are built again."""
+    listed = subprocess.run(
+        ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+        cwd=ROOT, check=True, capture_output=True, text=True,
+    )  # fmt: skip
+    names = [name for name in listed.stdout.split("\0") if name and (ROOT / name).is_file()]
+    for name in names:
+        target, contents = COPY / name, (ROOT / name).read_bytes()
+        if not target.is_file() or target.read_bytes() != contents:
+            target.parent.mkdir(parents=True, exist_ok=True)
+            target.write_bytes(contents)
+            shutil.copymode(ROOT / name, target)
+    kept = {str(COPY / name) for name in names}
+    for folder, subfolders, present in os.walk(COPY):
+        if folder == str(COPY) and "build" in subfolders:
+            subfolders.remove("build")
+        for path in (os.path.join(folder, name) for name in present):
+            if path not in kept:
+                os.remove(path)
+
+
+def build(targets):
+    WORK.mkdir(parents=True, exist_ok=True)
+    log = WORK / "build.log"
+    fast_linker = ["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if shutil.which("ld.lld") else []
+    with open(log, "w", encoding="utf-8") as output:
+        for command in (["cmake", "--preset", "native", *fast_linker], ["ninja", "-C", BUILD, *targets]):
+            if subprocess.run(command, cwd=COPY, stdout=output, stderr=output, check=False).returncode != 0:
+                stop(f"the copy does not build; see {log}")
+
+
+# --- one file ------------------------------------------------------------------------------------------
+
+
+def compile_command(file):
+    """The compiler's call for a file of the copy, without its launcher, its input and its output."""
+    entries = json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8"))
+    command = next((entry["command"] for entry in entries if entry["file"] == str(COPY / file)), None)
+    if command is None:
+        stop(f"{file} is not compiled in the native build")
+    words = shlex.split(command)
+    launcher = [at for at, word in enumerate(words) if word.endswith("ccache")]
+    words = words[launcher[-1] + 1 :] if launcher else words
+    for option in ("-o", "-c"):
+        at = words.index(option)
+        del words[at : at + 2]
+    words = [word for word in words if word != "-Werror"]
+    return [*words, "-O0", "-g0", "-w", "-iquote", str((COPY / file).parent)]
+
+
+def link_command(test):
+    """The linker's call for a test, split at the test's own name."""
+    target = subprocess.run(
+        f"ninja -t targets all | grep -oE '^[^ ]*/{test}(\\.exe)?:' | head -n 1",
+        cwd=BUILD, shell=True, check=True, capture_output=True, text=True,
+    ).stdout.strip().rstrip(":")  # fmt: skip
+    if not target:
+        stop(f"there is no test {test}")
+    last = subprocess.run(
+        ["ninja", "-t", "commands", "-s", target], cwd=BUILD, check=True, capture_output=True, text=True
+    ).stdout.strip()
+    words = [word for word in shlex.split(last) if word not in (":", "&&")]
+    return words, target
+
+
+@dataclass
+class Test:
+    name: str
+    link: list
+    target: str
+    runs: list = field(default_factory=list)  # of some functions (none: all), with seconds
+
+    def link_with(self, object_file, program):
+        """Links the test, the object taking the place of the library's."""
+        words = [str(program) if word == self.target else word for word in self.link]
+        first = next(at for at, word in enumerate(words) if word.endswith(".a"))
+        command = [*words[:first], str(object_file), *words[first:], "-Wl,--strip-debug"]
+        subprocess.run(command, cwd=BUILD, check=True, stderr=subprocess.PIPE)
+
+
+class Bench:
+    """What compiles and tries the mutants of one file."""
+
+    def __init__(self, unit, place):
+        self.unit = unit
+        self.place = place
+        self.text = (COPY / unit.file).read_text(encoding="utf-8")
+        self.command = compile_command(unit.file)
+        self.tests = [Test(name, *link_command(name)) for name in unit.tests]
+        shutil.rmtree(place, ignore_errors=True)
+        place.mkdir(parents=True)
+        self.preamble_end = self.precompile_includes()
+
+    def precompile_includes(self):
+        """The includes at the top of the file come precompiled; the rest is what is compiled each time."""
+        lines = self.text.split("\n")
+        length = 0
+        while length < len(lines) and (not lines[length] or lines[length].startswith(("#include", "//"))):
+            length += 1
+        (self.place / "preamble.h").write_text("\n".join(lines[:length]) + "\n", encoding="utf-8")
+        command = [*self.command, "-x", "c++-header", "preamble.h", "-o", "preamble.h.gch"]
+        subprocess.run(command, cwd=self.place, check=True)
+        return length
+
+    def compile(self, text, folder):
+        """Compiles a text in the file's name, which assertions tell; False when it does not compile."""
+        lines = text.split("\n")
+        source = folder / "mutant.cpp"
+        rest = "\n".join(lines[self.preamble_end :])
+        named = f'#line {self.preamble_end + 1} "{COPY / self.unit.file}"\n'
+        source.write_text(named + rest, encoding="utf-8")
+        object_file = folder / "mutant.o"
+        command = [*self.command, "-include", "preamble.h", "-c", str(source), "-o", str(object_file)]
+        done = subprocess.run(command, cwd=self.place, capture_output=True, text=True, check=False)
+        return done.returncode == 0
+
+    def outcome(self, text, folder):
+        """What becomes of a text of the file: 'killed', 'timed out', 'did not compile' or 'survived'."""
+        if not self.compile(text, folder):
+            return "did not compile"
+        for test in self.tests:
+            program = folder / test.name
+            test.link_with(folder / "mutant.o", program)
+            for functions, seconds in test.runs:
+                result, _ = run_test(program, functions, folder, seconds)
+                if result != "passed":
+                    return result
+        return "survived"
+
+    def try_unchanged(self, folder):
+        """The tests pass on the unchanged file, and take so long."""
+        if not self.compile(self.text, folder):
+            stop(f"{self.unit.file} does not compile unchanged")
+        for test in self.tests:
+            program = folder / test.name
+            test.link_with(folder / "mutant.o", program)
+            times = folder / "times.xml"
+            result, seconds = run_test(program, ["-o", f"{times},xml"], folder, 60)
+            if result != "passed":
+                stop(f"{test.name} fails on the unchanged {self.unit.file}; see {times}")
+            quick, slow = quick_and_slow_functions(times.read_text(encoding="utf-8"))
+            test.runs = [(quick, seconds), (slow, seconds)] if quick and slow else [([], seconds)]
+
+
+def quick_and_slow_functions(report):
+    """The functions of a test's report; those that take long run only when the others have passed."""
+    quick, slow = [], []
+    for function in ElementTree.fromstring(report).iter("TestFunction"):
+        if function.get("name") not in ("initTestCase", "cleanupTestCase"):
+            milliseconds = float(function.find("Duration").get("msecs"))
+            (slow if milliseconds > 100 else quick).append(function.get("name"))
+    return quick, slow
+
+
+def run_test(program, options, folder, seconds):
+    """Runs a test that usually takes so many seconds of processor time: how it went, and the time it took.
+
+    A test that loops is ended by its processor time, which does not depend on what else the machine does.
+    """
+    scratch = folder / "scratch"
+    shutil.rmtree(scratch, ignore_errors=True)
+    scratch.mkdir()
+    most = int(1 + 5 * seconds)
+
+    def limits():
+        os.setsid()
+        resource.setrlimit(resource.RLIMIT_CPU, (most, most + 1))
+        resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
+        resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+    environment = dict(
+        os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8", HOME=str(scratch), TMPDIR=str(scratch)
+    )
+    with open(folder / "output", "wb") as output:
+        started = os.times()
+        test = subprocess.Popen(
+            [program, "-nocrashhandler", *options], cwd=scratch, env=environment, preexec_fn=limits,
+            stdin=subprocess.DEVNULL, stdout=output, stderr=output,
+        )  # fmt: skip
+        try:
+            status = test.wait(timeout=30 + 20 * most)
+        except subprocess.TimeoutExpired:
+            status = -signal.SIGXCPU
+        try:
+            os.killpg(test.pid, signal.SIGKILL)  # also what the test has started
+        except ProcessLookupError:
+            pass
+        test.wait()
+    used = os.times()
+    seconds = used.children_user + used.children_system - started.children_user - started.children_system
+    if status == 0:
+        return "passed", seconds
+    return ("timed out" if status in (-signal.SIGXCPU, -signal.SIGKILL) else "killed"), seconds
+
+
+# --- all of them -------------------------------------------------------------------------------------
+
+
+def chosen_mutants(unit, text, lines, arguments):
+    found = [mutant for mutant in mutants_of(text) if not lines or mutant.line in lines]
+    if arguments.sample and arguments.sample < len(found):
+        found = sorted(random.Random(f"{arguments.seed}:{unit.file}").sample(found, arguments.sample))
+    return found
+
+
+def try_unit(unit, lines, arguments):
+    """Tries the mutants of one file, several at once; prints survivors, and answers the counts."""
+    place = WORK / unit.file.replace("/", "-")
+    bench = Bench(unit, place)
+    folders = Queue()
+    for number in range(arguments.jobs):
+        (place / str(number)).mkdir()
+        folders.put(place / str(number))
+    bench.try_unchanged(place / "0")
+    known = {(mutant.source, mutant.change) for mutant in mutants_of(bench.text)}
+    for source, change in unit.accepted.keys() - known:
+        print(f"{unit.file}: accepted, but there is no such change: {source} [{change}]")
+
+    def attempt(mutant):
+        if (mutant.source, mutant.change) in unit.accepted:
+            return "accepted"
+        folder = folders.get()
+        try:
+            return bench.outcome(mutated(bench.text, mutant), folder)
+        finally:
+            folders.put(folder)
+
+    counts = dict.fromkeys(OUTCOMES, 0)
+    found = chosen_mutants(unit, bench.text, lines, arguments)
+    with ThreadPoolExecutor(arguments.jobs) as pool:
+        for mutant, outcome in zip(found, pool.map(attempt, found)):
+            counts[outcome] += 1
+            if outcome == "survived" or arguments.all:
+                print(f"{unit.file}:{mutant.line}: {outcome}: {mutant.source} [{mutant.change}]", flush=True)
+    shutil.rmtree(place)
+    return counts
+
+
+def row(name, counts, seconds):
+    numbers = "".join(f"{counts[outcome]:{len(outcome) + 2}}" for outcome in OUTCOMES)
+    return f"{sum(counts.values()):7}{numbers}{seconds:8.0f} s  {name}"
+
+
+def read_arguments():
+    parser = argparse.ArgumentParser(
+        prog="tools/mutate", description="Tells which changes of the sources no test notices."
+    )
+    parser.add_argument("files", nargs="*", metavar="FILE", help="FILE or FILE:LINE of tools/mutate.txt")
+    parser.add_argument("--sample", type=int, metavar="N", help="only N changes of each file")
+    parser.add_argument("--seed", default="1", metavar="S", help="which ones are taken (1)")
+    parser.add_argument("--jobs", type=int, default=2, metavar="N", help="how many are tried at once (2)")
+    parser.add_argument("--all", action="store_true", help="print what became of every change")
+    return parser.parse_args()
+
+
+def chosen_units(arguments):
+    """The units asked for, and the lines of each that are asked for, if not all."""
+    units = {unit.file: unit for unit in read_list(LIST.read_text(encoding="utf-8"))}
+    lines = {}
+    for name in arguments.files or units:
+        file, _, line = name.partition(":")
+        if file not in units:
+            stop(f"{file} is not in {LIST}")
+        lines.setdefault(file, set()).update({int(line)} if line else ())
+    return [(units[file], wanted) for file, wanted in lines.items()]
+
+
+def main():
+    arguments = read_arguments()
+    chosen = chosen_units(arguments)
+    bring_copy_up_to_date()
+    build(sorted({test for unit, _ in chosen for test in unit.tests}))
+    total = dict.fromkeys(OUTCOMES, 0)
+    rows = []
+    begun = time.monotonic()
+    for unit, lines in chosen:
+        started = time.monotonic()
+        counts = try_unit(unit, lines, arguments)
+        rows.append(row(unit.file, counts, time.monotonic() - started))
+        print(rows[-1], flush=True)
+        for outcome in OUTCOMES:
+            total[outcome] += counts[outcome]
+    print("\nmutants" + "".join(f"  {outcome}" for outcome in OUTCOMES) + "      time  file")
+    print("\n".join([*rows, row("all", total, time.monotonic() - begun)]))
+    sys.exit(1 if total["survived"] else 0)
+
+
+if __name__ == "__main__":
+    main()
