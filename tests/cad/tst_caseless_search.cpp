@@ -17,6 +17,8 @@ private slots:
         QTest::newRow("the text alone") << QByteArray("C:\\Prog\\NVX") << path << true;
         QTest::newRow("other case") << QByteArray("in c:\\pROG\\nvx\\other") << path << true;
         QTest::newRow("at the end") << QByteArray("xC:\\PROG\\NVX") << path << true;
+        QTest::newRow("the first letter") << QByteArray("in A") << QStringLiteral("a") << true;
+        QTest::newRow("the last letter") << QByteArray("in Z") << QStringLiteral("z") << true;
         QTest::newRow("cut off") << QByteArray("C:\\Prog\\NV") << path << false;
         QTest::newRow("in two parts") << QByteArray("C:\\Prog\nC:\\NVX") << path << false;
         QTest::newRow("no bytes") << QByteArray() << path << false;
