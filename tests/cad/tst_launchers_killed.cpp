@@ -8,6 +8,8 @@
 #include "nvx_util/code_page.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTest>
 
@@ -59,15 +61,18 @@ int configureForever(const QString &option, const QString &folder)
     }
 }
 
-// Starts such a program, kills it after a while, another one each time, and does so often.
+// Starts such a program, kills it a while after it has rewritten the file, another one each time, and does so
+// often.
 template<typename Check>
-void killOften(const QString &option, const QString &folder, Check check)
+void killOften(const QString &option, const QString &folder, const QString &file, Check check)
 {
     for (int kill = 0; kill < kills; ++kill) {
+        const QDateTime before = QFileInfo(file).lastModified();
         QProcess program;
         program.start(QCoreApplication::applicationFilePath(), {option, folder});
         QVERIFY(program.waitForStarted());
-        QVERIFY(!program.waitForFinished(30 + 7 * kill % 50));
+        QVERIFY(QTest::qWaitFor([&] { return QFileInfo(file).lastModified() != before; }, 20'000));
+        QVERIFY(!program.waitForFinished(7 * kill % 50));
         program.kill();
         QVERIFY(program.waitForFinished());
         check();
@@ -93,7 +98,7 @@ private slots:
         const Places places(folder.path());
         writeFile(places.protk, foreign);
         const QByteArray entered = Nvx::Util::toAnsi(creoEntry(installDir, installDir, 3)).value() + foreign;
-        killOften(creoOption, folder.path(), [&] {
+        killOften(creoOption, folder.path(), places.protk, [&] {
             const QByteArray left = readFile(places.protk);
             QVERIFY(left == foreign || left == entered);
         });
@@ -105,7 +110,7 @@ private slots:
         const Places places(folder.path());
         writeFile(places.menu, foreign);
         const QString line = customDirsLine(installDir, key);
-        killOften(nxOption, folder.path(), [&] {
+        killOften(nxOption, folder.path(), places.menu, [&] {
             // Each removal leaves an empty line.
             const QByteArray left = readFile(places.menu);
             QVERIFY(left.startsWith(foreign));

@@ -107,7 +107,7 @@ class Folders(MachineCase):
         self.assertTrue(any("\\Python\\DLLs" in line for line in lines))
 
     def test_a_missing_folder_is_no_error(self):
-        self.assertFalse(self.exists(TUTORIALS + "\\x"))
+        shutil.rmtree(self.machine.path(TUTORIALS), ignore_errors=True)
         self.install()
         self.assertTrue(self.exists(TUTORIALS + "\\First steps\\02 Heat sink.txt"))
 
@@ -141,6 +141,7 @@ class Folders(MachineCase):
         self.assertEqual(self.machine.path(flags).read_bytes(), b"mine\r\n")
         self.write(flags, b" \r\n\t")
         code, lines = self.configure("C:\\NVX", "-U", "-S", "-Len-US")
+        self.assert_removed(code, lines)
         self.assertIn("   0 NVX_flags.txt has not changed", lines)
         self.assertFalse(self.exists(flags))
 

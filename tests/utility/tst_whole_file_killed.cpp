@@ -3,7 +3,9 @@
 #include "support/test_folder.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTest>
 
@@ -60,11 +62,13 @@ private slots:
         const QString fileName = folder.path(QStringLiteral("file"));
         QVERIFY(Nvx::Util::replaceWholeFile(fileName, contents('a')));
         for (int kill = 0; kill < kills; ++kill) {
+            const QDateTime before = QFileInfo(fileName).lastModified();
             QProcess writer;
             writer.start(QCoreApplication::applicationFilePath(), {replaceOption, fileName});
             QVERIFY(writer.waitForStarted());
-            // The writer must still be at it when it is killed, at another point each time.
-            QVERIFY(!writer.waitForFinished(30 + 7 * kill % 50));
+            // The writer must be at it when it is killed, at another point each time.
+            QVERIFY(QTest::qWaitFor([&] { return QFileInfo(fileName).lastModified() != before; }, 20'000));
+            QVERIFY(!writer.waitForFinished(7 * kill % 50));
             writer.kill();
             QVERIFY(writer.waitForFinished());
             const std::optional<QByteArray> left = fileBytes(fileName);
@@ -112,7 +116,8 @@ private slots:
             QProcess copier;
             copier.start(QCoreApplication::applicationFilePath(), {copyOption, source, target});
             QVERIFY(copier.waitForStarted());
-            QVERIFY(!copier.waitForFinished(30 + 7 * kill % 50));
+            QVERIFY(QTest::qWaitFor([&] { return QFile::exists(target); }, 20'000));
+            QVERIFY(!copier.waitForFinished(7 * kill % 50));
             copier.kill();
             QVERIFY(copier.waitForFinished());
             QVERIFY(!QFile::exists(target) || fileBytes(target) == contents('a'));
