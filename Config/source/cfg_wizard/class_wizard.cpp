@@ -18,7 +18,7 @@ namespace {
 // The pages' header is as high as its picture: large text takes a higher one.
 QPixmap bannerFor(const QFontMetrics &text)
 {
-    const QPixmap banner(QStringLiteral(":/image/banner.png"));
+    QPixmap banner(QStringLiteral(":/image/banner.png"));
     const int wanted = 3 * text.lineSpacing() + 16;
     if (banner.isNull() || banner.height() >= wanted)
         return banner;
