@@ -46,6 +46,11 @@ bool SourceScanner::scan()
         return false;
     }
     const QByteArray contents = file.readAll();
+    // The messages of the part that is missing would count as obsolete, and nobody would be told.
+    if (file.error() != QFileDevice::NoError) {
+        m_errorText = QStringLiteral("Cannot read file");
+        return false;
+    }
     // All encodings that are read write a macro's name in the same bytes.
     if (namesMacro(viewOf(contents)))
         scanText(toSourceText(contents));

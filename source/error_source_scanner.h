@@ -41,7 +41,7 @@ public:
 
     bool hasError() const { return !m_errorText.isEmpty(); }
 
-    /// "Cannot open file", or "MESSAGE (line LINE)"; empty when there is no error.
+    /// "Cannot open file", "Cannot read file", or "MESSAGE (line LINE)"; empty when there is no error.
     const QString &errorText() const { return m_errorText; }
 
     const KeySets &keys() const { return m_keys; }

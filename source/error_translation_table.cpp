@@ -19,12 +19,8 @@ TranslationMessage unfinished(const QString &source)
 
 bool keepDamaged(const QString &fileName)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray contents = file.readAll();
-    return file.error() == QFile::NoError &&
-           Nvx::Util::replaceWholeFile(fileName + QStringLiteral(".damaged"), contents);
+    const std::optional<QByteArray> contents = Nvx::Util::readWholeFile(fileName);
+    return contents && Nvx::Util::replaceWholeFile(fileName + QStringLiteral(".damaged"), *contents);
 }
 
 } // namespace

@@ -117,6 +117,17 @@ QString behindLinks(const QString &fileName)
 
 } // namespace
 
+std::optional<QByteArray> readWholeFile(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArray contents = file.readAll();
+    if (file.error() != QFileDevice::NoError || contents.size() < file.size())
+        return std::nullopt;
+    return contents;
+}
+
 bool replaceWholeFile(const QString &fileName, const QByteArray &contents)
 {
     if (fileName.isEmpty())

@@ -51,13 +51,8 @@ bool makeWritable(const QString &path)
 
 bool copyWhole(const QString &source, const QString &target)
 {
-    QFile file(source);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return false;
-    return makeWritable(target) && Nvx::Util::replaceWholeFile(target, bytes);
+    const std::optional<QByteArray> bytes = Nvx::Util::readWholeFile(source);
+    return bytes && makeWritable(target) && Nvx::Util::replaceWholeFile(target, *bytes);
 }
 
 LocaleFolders::LocaleFolders(const QString &root, Reporter &reporter)

@@ -138,16 +138,11 @@ void TranslationJob::download(const QString &source, const QString &target)
 
 bool TranslationJob::takeOver(const QString &source, const QString &target)
 {
-    QFile file(source);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return false;
+    const std::optional<QByteArray> bytes = Nvx::Util::readWholeFile(source);
     const bool translation = source.endsWith(QLatin1String(".ts"), Qt::CaseInsensitive);
-    if (translation && !isWholeTranslationFile(bytes))
+    if (!bytes || (translation && !isWholeTranslationFile(*bytes)))
         return false;
-    return makeWritable(target) && Nvx::Util::replaceWholeFile(target, bytes);
+    return makeWritable(target) && Nvx::Util::replaceWholeFile(target, *bytes);
 }
 
 } // namespace util

@@ -99,6 +99,14 @@ private slots:
         QCOMPARE(scanner.errorText(), QStringLiteral("Cannot open file"));
     }
 
+    // Opens and does not read, where there is such a file.
+    void aFileThatFailsIsAnError()
+    {
+        SourceScanner scanner(QStringLiteral("client"), QStringLiteral("/proc/self/mem"));
+        QVERIFY(!scanner.scan());
+        QVERIFY2(scanner.errorText().startsWith(QStringLiteral("Cannot ")), qPrintable(scanner.errorText()));
+    }
+
     void keysOfAFileWithAnErrorAreNotKept()
     {
         const QString fileName = m_folder.path(QStringLiteral("error.txt"));

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QTest>
 
+using Nvx::Util::readWholeFile;
 using Nvx::Util::replaceWholeFile;
 
 namespace {
@@ -23,6 +24,39 @@ class TestWholeFile : public QObject
     Q_OBJECT
 
 private slots:
+    void allOfAFileIsRead_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("none") << QByteArray();
+        QTest::newRow("every line end") << QByteArray("a\nb\r\nc\r");
+        QTest::newRow("a NUL") << QByteArray("a\0b", 3);
+        QTest::newRow("megabytes") << QByteArray(3 << 20, 'x') + 'a';
+    }
+
+    void allOfAFileIsRead()
+    {
+        QFETCH(const QByteArray, contents);
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("Größe 保存.txt"));
+        QVERIFY(writeFile(fileName, contents));
+        QCOMPARE(readWholeFile(fileName), std::optional(contents));
+    }
+
+    void whatCannotBeReadGivesNothing_data()
+    {
+        QTest::addColumn<QString>("fileName");
+        QTest::newRow("a missing file") << QStringLiteral("missing/file");
+        QTest::newRow("a folder") << QDir::tempPath();
+        // Opens and does not read, where there is such a file.
+        QTest::newRow("a file that fails") << QStringLiteral("/proc/self/mem");
+    }
+
+    void whatCannotBeReadGivesNothing()
+    {
+        QFETCH(const QString, fileName);
+        QVERIFY(!readWholeFile(fileName));
+    }
+
     void contentsAreTheBytes_data()
     {
         QTest::addColumn<QByteArray>("old");

@@ -5,7 +5,6 @@
 #include "run/reporter.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 namespace {
 
@@ -18,15 +17,10 @@ struct Messages
 
 std::optional<QByteArray> readForeignFile(Reporter &reporter, const QString &path)
 {
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) {
-        QByteArray contents = file.readAll();
-        // What is read only in part, because another process has locked the rest, must not be written back.
-        if (file.error() == QFileDevice::NoError && contents.size() >= file.size())
-            return contents;
-    }
-    reporter.log(1, Messages::tr("Unable to read %1").arg(path));
-    return std::nullopt;
+    std::optional<QByteArray> contents = Nvx::Util::readWholeFile(path);
+    if (!contents)
+        reporter.log(1, Messages::tr("Unable to read %1").arg(path));
+    return contents;
 }
 
 std::optional<QByteArray> toForeignText(Reporter &reporter, const QString &path, const QString &text)

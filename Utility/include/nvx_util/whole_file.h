@@ -3,7 +3,13 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 namespace Nvx::Util {
+
+/// All the bytes of a file; nothing when it cannot be opened or not all of it can be read, as when another
+/// process has locked a part.
+[[nodiscard]] std::optional<QByteArray> readWholeFile(const QString &fileName);
 
 /// Makes the bytes the contents of the file, whole or not at all: they are written beside it, under the name
 /// with ".nvxpart" behind it, flushed to the disk, and renamed over the old file. Whoever looks, also after a
