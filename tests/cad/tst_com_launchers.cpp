@@ -1,16 +1,12 @@
 #include "cad/com_launchers.h"
 #include "launcher_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 struct ComLauncher
 {

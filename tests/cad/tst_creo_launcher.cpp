@@ -2,17 +2,13 @@
 #include "cad/creo_names.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
+#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QByteArray foreign = "name Other\r\nstartup DLL\r\nexec_file C:\\gr\xf6\xdf"
                            "er.dll\r\nend\r\n";

@@ -1,16 +1,8 @@
 #include "cad/creo_names.h"
+#include "support/text.h"
 
 #include <QDir>
 #include <QTest>
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_creo_names : public QObject
 {

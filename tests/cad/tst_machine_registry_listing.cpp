@@ -1,6 +1,7 @@
 #include "cad/machine_registry_listing.h"
 #include "nvx_util/registry_key.h"
 #include "support/test_machine.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -9,11 +10,6 @@ using Nvx::Util::RegistryKey;
 namespace {
 
 const QString scratch = QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\Listing scratch");
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 } // namespace
 

@@ -1,16 +1,12 @@
 #include "cad/nx_custom_dirs.h"
 #include "nvx_util/code_page.h"
 #include "random_bytes.h"
+#include "support/text.h"
 
 #include <QElapsedTimer>
 #include <QTest>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QString installDir = QStringLiteral("C:\\Prog\\NVX");
 const QString key = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\9.5");

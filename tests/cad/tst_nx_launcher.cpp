@@ -2,6 +2,7 @@
 #include "cad/nx_launcher.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -10,11 +11,6 @@
 using Nvx::Util::joinPath;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 // The places of the versions among those that the search looks for.
 enum Version : size_t

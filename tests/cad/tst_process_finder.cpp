@@ -3,21 +3,13 @@
 #include "run/step_context.h"
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
+#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
 
 using Kind = RecordingProcesses::Kind;
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_process_finder : public QObject
 {

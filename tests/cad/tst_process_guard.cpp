@@ -3,6 +3,7 @@
 #include "run/step_context.h"
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -15,11 +16,6 @@ using Nvx::Util::BoxKind;
 Q_DECLARE_METATYPE(Nvx::Util::Answer)
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const char *const monitor = "C:\\Velmora\\NVX 2017\\NVXMonitor.exe";
 

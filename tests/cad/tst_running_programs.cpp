@@ -7,6 +7,7 @@
 #include "run/step_context.h"
 #include "support/recording_reporter.h"
 #include "support/test_folder.h"
+#include "support/text.h"
 
 #include <QDir>
 #include <QFile>
@@ -22,11 +23,6 @@ using Nvx::Util::Answer;
 using Nvx::Util::BoxKind;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 // The machine itself, whose questions are answered at once.
 class AnsweringMachine : public Nvx::Util::NativeMachine

@@ -1,5 +1,6 @@
 #include "cad/space_claim_launcher.h"
 #include "launcher_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -8,11 +9,6 @@
 using Nvx::Util::joinPath;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const char *const library = "NVX_2017_SpaceClaim.dll";
 const char *const manifest = "NVX_2017_SpaceClaim.xml";

@@ -1,21 +1,13 @@
 #include "cad/tamsel_launcher.h"
 #include "cad/tamsel_manifest.h"
 #include "launcher_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
 
 using Nvx::Util::joinPath;
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_tamsel_launcher : public QObject
 {

@@ -1,5 +1,6 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/registry_key.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -8,11 +9,6 @@
 using Nvx::Util::RegistryKey;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 // Keeps what the page would show.
 class RecordingBoxes : public LauncherBoxes

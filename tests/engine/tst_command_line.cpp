@@ -1,13 +1,9 @@
 #include "cfg_utilities/command_line.h"
+#include "support/text.h"
 
 #include <QTest>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QString systemLocale = QStringLiteral("fr-FR");
 

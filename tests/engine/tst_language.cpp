@@ -1,5 +1,6 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/system.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -7,11 +8,6 @@ using Nvx::Util::joinPath;
 using Nvx::Util::System;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 QString flagsFile()
 {

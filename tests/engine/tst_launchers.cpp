@@ -1,17 +1,9 @@
 #include "engine/engine_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_launchers : public QObject
 {

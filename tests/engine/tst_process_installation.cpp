@@ -1,6 +1,7 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/system.h"
 #include "run/progress_view.h"
+#include "support/text.h"
 
 #include <QGuiApplication>
 #include <QTest>
@@ -10,11 +11,6 @@ using Nvx::Util::joinPath;
 using Nvx::Util::System;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 // Keeps what the last page of the wizard would show.
 class RecordingView : public ProgressView

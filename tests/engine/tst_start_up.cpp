@@ -1,6 +1,7 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -8,11 +9,6 @@ using Nvx::Util::RegistryKey;
 using Nvx::Util::System;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 RegistryKey environment()
 {

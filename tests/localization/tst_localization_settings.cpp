@@ -1,18 +1,10 @@
 #include "localization/localization_settings.h"
+#include "support/text.h"
 
 #include <QTest>
 
 using util::firstExisting;
 using util::readLocalizationSettings;
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_localization_settings : public QObject
 {

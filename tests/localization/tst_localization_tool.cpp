@@ -5,6 +5,7 @@
 #include "run/run_state.h"
 #include "support/recording_reporter.h"
 #include "support/test_machine.h"
+#include "support/text.h"
 
 #include <QDirIterator>
 #include <QProcess>
@@ -16,11 +17,6 @@
 using util::util_localization_tool;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QStringList locales = {text("de-DE"), text("fr-FR"), text("it-IT"), text("ja-JP"),
                              text("zh-CN"), text("zh-TW"), text("ko-KR"), text("ru-RU")};

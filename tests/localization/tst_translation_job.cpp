@@ -1,6 +1,7 @@
 #include "localization/translation_job.h"
 #include "support/recording_reporter.h"
 #include "support/test_machine.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -12,11 +13,6 @@ using util::TranslationJob;
 namespace {
 
 const QByteArray whole = "<TS version=\"2.1\" language=\"de\"></TS>";
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 QString native(const QString &path)
 {

@@ -5,6 +5,7 @@
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
 #include "support/test_machine.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -16,11 +17,6 @@ using Outcome = ProgramResult::Outcome;
 using util::TranslationTools;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 /// What a tool that succeeds writes into the file that it is told.
 void writeTarget(const ProgramCall &call)

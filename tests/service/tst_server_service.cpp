@@ -4,6 +4,7 @@
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
 #include "support/test_machine.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -17,11 +18,6 @@ using Outcome = Nvx::Util::ProgramResult::Outcome;
 using namespace std::chrono_literals;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QString start = text("start NVX 2017 Server");
 const QString stop = text("stop NVX 2017 Server");

@@ -4,6 +4,7 @@
 #include "service/nvx_service.h"
 #include "support/test_folder.h"
 #include "support/test_machine.h"
+#include "support/text.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -17,11 +18,6 @@ using Nvx::Util::ServiceStop;
 using namespace std::chrono_literals;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QString name = text("NVX 2017 Server");
 

@@ -1,20 +1,12 @@
 #include "service/nvx_service.h"
 #include "support/recording_machine.h"
+#include "support/text.h"
 
 #include <QTest>
 
 using Nvx::Util::ProgramResult;
 using Nvx::Util::ServiceState;
 using Outcome = ProgramResult::Outcome;
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_service_controller : public QObject
 {

@@ -1,10 +1,8 @@
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
-#include "run/run_state.h"
 #include "setup/archive_components.h"
-#include "support/recording_machine.h"
-#include "support/recording_reporter.h"
-#include "support/test_machine.h"
+#include "setup/setup_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -13,35 +11,19 @@
 using Nvx::Util::joinPath;
 using Nvx::Util::ProgramCall;
 
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
-
 class tst_archive_components : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void cleanup() { m_test.reset(); }
+    void cleanup() { m_fixture.reset(); }
 
     void init()
     {
-        m_test = std::make_unique<TestMachine>();
-        m_machine = std::make_unique<RecordingMachine>();
-        m_reporter = std::make_unique<RecordingReporter>();
+        m_fixture = std::make_unique<SetupFixture>();
         m_done.clear();
-        m_state = RunState();
-        m_state.installDir = m_test->installDir();
-        m_state.modeWords = QStringList{text("Install"), text("UnInstall"), text("Found "), text(" Success"),
-                                        text(" Failed")};
-        m_machine->ownFolder = m_state.installDir;
         // What is done, in order: each removal as "remove PATH", each program with its arguments.
-        m_machine->whileRunning = [this](const ProgramCall &call) {
+        m_fixture->machine.whileRunning = [this](const ProgramCall &call) {
             if (call.program == text("cmd.exe")) {
                 const QString commandLine = QString::fromUtf8(readFile(call.arguments.last()));
                 m_done << text("remove ") + commandLine.section(QLatin1Char('"'), 1, 1);
@@ -57,8 +39,8 @@ private slots:
         const QString tutorials = Nvx::Util::System::getTutorialsDirPath();
         QCOMPARE(m_done, QStringList({text("remove ") + tutorials,
                                       sevenZip(installed("en-US/Examples.7z"), tutorials)}));
-        QCOMPARE(m_machine->calls.last().timeoutMs, 30000);
-        QCOMPARE(m_machine->calls.last().workFolder, m_state.installDir);
+        QCOMPARE(m_fixture->machine.calls.last().timeoutMs, 30000);
+        QCOMPARE(m_fixture->machine.calls.last().workFolder, m_fixture->state.installDir);
         QCOMPARE(titles(),
                  QStringList({text("progress 0 Install Tutorials"), text("0 Installing Tutorials")}));
     }
@@ -81,7 +63,7 @@ private slots:
         QCOMPARE(m_done, QStringList({text("remove ") + installed("Python/DLLs"),
                                       text("remove ") + installed("Python/Lib"),
                                       sevenZip(installed("Python/python26_x64.7z"), installed("Python"))}));
-        QCOMPARE(m_machine->calls.last().timeoutMs, -1);
+        QCOMPARE(m_fixture->machine.calls.last().timeoutMs, -1);
         QVERIFY(!QFile::exists(installed("Python/Ostrade/NVX/old.pyc")));
         QVERIFY(QFile::exists(installed("Python/Ostrade/NVX/own.py")));
         QCOMPARE(titles(), QStringList({text("progress 0 Install Python (locally for NVX)"),
@@ -112,7 +94,7 @@ private slots:
         QCOMPARE(components().installMertleServer(RunMode::Install), 0);
         const QString mertle = joinPath(text("C:\\Translators"), text("NVX_MertleServer"));
         QCOMPARE(m_done, QStringList{sevenZip(joinPath(mertle, text("NVX_MertleServer.7z")), mertle)});
-        QCOMPARE(m_machine->calls.last().timeoutMs, -1);
+        QCOMPARE(m_fixture->machine.calls.last().timeoutMs, -1);
         QCOMPARE(titles(),
                  QStringList({text("progress 0 Install Mertle Server"), text("0 Installing Mertle Server")}));
     }
@@ -146,8 +128,8 @@ private slots:
         QFETCH(int, mode);
         QFETCH(QString, word);
         QCOMPARE(components().installMertleServer(static_cast<RunMode>(mode)), 0);
-        QVERIFY(m_machine->calls.isEmpty());
-        QCOMPARE(m_reporter->lines,
+        QVERIFY(m_fixture->machine.calls.isEmpty());
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({text("progress 0 %1 Mertle Server").arg(word),
                               text("0 There is no translators folder, the Mertle Server is left alone")}));
     }
@@ -161,9 +143,9 @@ private:
         QTest::newRow("stop services") << int(RunMode::StopServices) << text("Found ");
     }
 
-    ArchiveComponents components() { return ArchiveComponents({*m_machine, *m_reporter, m_state}); }
+    ArchiveComponents components() { return ArchiveComponents(m_fixture->context()); }
 
-    QString installed(const char *name) const { return joinPath(m_state.installDir, text(name)); }
+    QString installed(const char *name) const { return joinPath(m_fixture->state.installDir, text(name)); }
 
     QString sevenZip(const QString &archive, const QString &folder) const
     {
@@ -174,7 +156,7 @@ private:
     QStringList titles() const
     {
         QStringList lines;
-        for (const QString &line : m_reporter->lines) {
+        for (const QString &line : m_fixture->reporter.lines) {
             if (line.startsWith(text("progress")) || line.startsWith(text("0 Installing")))
                 lines << line;
         }
@@ -187,10 +169,7 @@ private:
             .setText(text("Folder"), folder);
     }
 
-    std::unique_ptr<TestMachine> m_test;
-    std::unique_ptr<RecordingMachine> m_machine;
-    std::unique_ptr<RecordingReporter> m_reporter;
-    RunState m_state;
+    std::unique_ptr<SetupFixture> m_fixture;
     QStringList m_done;
 };
 

@@ -1,13 +1,9 @@
 #include "setup/association_scripts.h"
+#include "support/text.h"
 
 #include <QTest>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const AssociationNames names = associationNamesOf(QStringLiteral("2017"));
 const QString escaped = QStringLiteral("C:\\\\Program Files\\\\NVX");

@@ -1,8 +1,6 @@
-#include "run/run_state.h"
 #include "setup/command_runner.h"
-#include "support/recording_machine.h"
-#include "support/recording_reporter.h"
-#include "support/test_machine.h"
+#include "setup/setup_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -12,38 +10,22 @@ using Nvx::Util::ProgramCall;
 using Nvx::Util::ProgramResult;
 using Outcome = ProgramResult::Outcome;
 
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
-
 class tst_command_runner : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void cleanup() { m_test.reset(); }
+    void cleanup() { m_fixture.reset(); }
 
-    void init()
-    {
-        m_test = std::make_unique<TestMachine>();
-        m_machine = std::make_unique<RecordingMachine>();
-        m_reporter = std::make_unique<RecordingReporter>();
-        m_state = RunState();
-        m_state.installDir = m_test->installDir();
-    }
+    void init() { m_fixture = std::make_unique<SetupFixture>(); }
 
     void aRunIsLoggedWithItsArgumentsFolderAndOutput()
     {
-        m_machine->programResult = {Outcome::Exited, 0, "first\n\n second \n"};
+        m_fixture->machine.programResult = {Outcome::Exited, 0, "first\n\n second \n"};
         const int code =
             runner().runCommand(text("C:\\a b\\7z.exe"), {text("x"), text("-y")}, text("C:\\work"));
         QCOMPARE(code, 0);
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({text("0 Command:C:\\a b\\7z.exe x -y"), text("0 WorkDir:C:\\work"),
                               text("0 Output:"), text("0   first"), text("0   second")}));
     }
@@ -51,22 +33,22 @@ private slots:
     void withoutArgumentsNothingFollowsTheProgram()
     {
         runner().runCommand(text("a.exe"), {}, text("w"));
-        QCOMPARE(m_reporter->lines.first(), text("0 Command:a.exe"));
+        QCOMPARE(m_fixture->reporter.lines.first(), text("0 Command:a.exe"));
     }
 
     void anEmptyWorkFolderIsTheInstallDir()
     {
         runner().runCommand(text("a.exe"), {}, QString());
-        QCOMPARE(m_reporter->lines.at(1), text("0 WorkDir:") + m_state.installDir);
-        QCOMPARE(m_machine->calls.first().workFolder, m_state.installDir);
+        QCOMPARE(m_fixture->reporter.lines.at(1), text("0 WorkDir:") + m_fixture->state.installDir);
+        QCOMPARE(m_fixture->machine.calls.first().workFolder, m_fixture->state.installDir);
     }
 
     void theUsualTimeOutIsThirtySecondsAndMinusOneIsNone()
     {
         runner().runCommand(text("a.exe"), {}, QString());
         runner().runCommand(text("a.exe"), {}, QString(), -1);
-        QCOMPARE(m_machine->calls.at(0).timeoutMs, 30000);
-        QCOMPARE(m_machine->calls.at(1).timeoutMs, -1);
+        QCOMPARE(m_fixture->machine.calls.at(0).timeoutMs, 30000);
+        QCOMPARE(m_fixture->machine.calls.at(1).timeoutMs, -1);
     }
 
     void theExitCodeIsTheLevelOfTheOutput_data()
@@ -95,57 +77,57 @@ private slots:
     {
         QFETCH(int, outcome);
         QFETCH(int, exitCode);
-        m_machine->programResult = {static_cast<Outcome>(outcome), exitCode, "x\n"};
+        m_fixture->machine.programResult = {static_cast<Outcome>(outcome), exitCode, "x\n"};
         QTEST(runner().runCommand(text("a.exe"), {}, QString()), "answer");
-        QTEST(m_reporter->lines.mid(2), "lines");
+        QTEST(m_fixture->reporter.lines.mid(2), "lines");
     }
 
     void aSystemCommandIsLoggedByItsNameAndStartedFromTheSystemFolder()
     {
         runner().runSystemCommand(text("regedit"), {text("-s")}, QString());
-        QCOMPARE(m_reporter->lines.first(), text("0 Command:regedit -s"));
-        QVERIFY(m_machine->calls.first().place == ProgramCall::Place::SystemFolder);
-        QVERIFY(m_machine->calls.first().quoting == ProgramCall::Quoting::Arguments);
+        QCOMPARE(m_fixture->reporter.lines.first(), text("0 Command:regedit -s"));
+        QVERIFY(m_fixture->machine.calls.first().place == ProgramCall::Place::SystemFolder);
+        QVERIFY(m_fixture->machine.calls.first().quoting == ProgramCall::Quoting::Arguments);
     }
 
     void aFolderIsRemovedByABatchFileBesideTheInstallDir()
     {
-        const QString batchFile = m_state.installDir + text("work.bat");
+        const QString batchFile = m_fixture->state.installDir + text("work.bat");
         QByteArray commandLine;
-        m_machine->whileRunning = [&](const ProgramCall &) { commandLine = readFile(batchFile); };
-        m_machine->programResult = {Outcome::Exited, 0, "gone\r\n"};
+        m_fixture->machine.whileRunning = [&](const ProgramCall &) { commandLine = readFile(batchFile); };
+        m_fixture->machine.programResult = {Outcome::Exited, 0, "gone\r\n"};
         QVERIFY(runner().removeDirectory(text("C:\\a b\\Lib")));
 
         QCOMPARE(commandLine, QByteArray("rmdir /s /q \"C:\\a b\\Lib\""));
         QVERIFY(!QFile::exists(batchFile));
-        const ProgramCall &call = m_machine->calls.first();
+        const ProgramCall &call = m_fixture->machine.calls.first();
         QCOMPARE(call.program, text("cmd.exe"));
         QCOMPARE(call.arguments, QStringList({text("/C"), batchFile}));
         QVERIFY(call.place == ProgramCall::Place::SystemFolder);
         QVERIFY(call.quoting == ProgramCall::Quoting::CommandInterpreter);
         QCOMPARE(call.timeoutMs, 30000);
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({text("0 Command:cmd.exe /C %1 ").arg(batchFile), text("0  output:gone\r\n")}));
     }
 
     void anOldBatchFileIsReplaced()
     {
-        const QString batchFile = m_state.installDir + text("work.bat");
+        const QString batchFile = m_fixture->state.installDir + text("work.bat");
         writeFile(batchFile, "format c:\r\n");
         QByteArray commandLine;
-        m_machine->whileRunning = [&](const ProgramCall &) { commandLine = readFile(batchFile); };
+        m_fixture->machine.whileRunning = [&](const ProgramCall &) { commandLine = readFile(batchFile); };
         runner().removeDirectory(text("C:\\a"));
         QCOMPARE(commandLine, QByteArray("rmdir /s /q \"C:\\a\""));
     }
 
     void aBatchFileThatCannotBeMadeIsNotRun()
     {
-        const QString batchFile = m_state.installDir + text("work.bat");
+        const QString batchFile = m_fixture->state.installDir + text("work.bat");
         QVERIFY(QDir().mkpath(batchFile + text("/x"))); // a folder of that name is in the way
         QVERIFY(runner().removeDirectory(text("C:\\a")));
-        QVERIFY(m_machine->calls.isEmpty());
+        QVERIFY(m_fixture->machine.calls.isEmpty());
         QCOMPARE(
-            m_reporter->lines,
+            m_fixture->reporter.lines,
             QStringList{text("1 Unable to create %1, this folder is not removed: C:\\a").arg(batchFile)});
     }
 
@@ -153,16 +135,16 @@ private slots:
     {
         const QString path = text("C:\\a") + QChar(0xD800);
         QVERIFY(runner().removeDirectory(path));
-        QVERIFY(m_machine->calls.isEmpty());
-        QCOMPARE(m_reporter->lines.size(), 1);
-        QVERIFY(m_reporter->lines.first().endsWith(path));
+        QVERIFY(m_fixture->machine.calls.isEmpty());
+        QCOMPARE(m_fixture->reporter.lines.size(), 1);
+        QVERIFY(m_fixture->reporter.lines.first().endsWith(path));
     }
 
     void aRemovalWhoseInterpreterFailsIsLoggedAndCountsAsDone()
     {
-        m_machine->programResult = {Outcome::NotStarted, 0, {}};
+        m_fixture->machine.programResult = {Outcome::NotStarted, 0, {}};
         QVERIFY(runner().removeDirectory(text("C:\\a")));
-        QCOMPARE(m_reporter->lines.last(), text("-2  output:"));
+        QCOMPARE(m_fixture->reporter.lines.last(), text("-2  output:"));
     }
 
     void theRemovalCommandNamesExactlyTheFolder_data()
@@ -199,7 +181,7 @@ private slots:
     void filesAreRemovedWhoseUpperCasePathContainsThePattern()
     {
         QFETCH(QString, pattern);
-        const QString folder = m_test->path(text("Reports"));
+        const QString folder = m_fixture->test.path(text("Reports"));
         for (const char *name : {"A.LOGBOOK", "X.LOG", "b.txt", "c.log"})
             writeFile(folder + QLatin1Char('/') + text(name));
         writeFile(folder + text("/below/d.LOG"));
@@ -210,15 +192,15 @@ private slots:
 
     void everyRemovalIsLogged()
     {
-        const QString folder = m_test->path(text("Reports"));
+        const QString folder = m_fixture->test.path(text("Reports"));
         writeFile(folder + text("/a.pyc"));
         runner().removeMatchingFiles(folder, text(".PYC"));
-        QCOMPARE(m_reporter->lines, QStringList{text("0 Removing:%1/a.pyc").arg(folder)});
+        QCOMPARE(m_fixture->reporter.lines, QStringList{text("0 Removing:%1/a.pyc").arg(folder)});
     }
 
     void aHiddenFileIsRemovedLikeAnyOther()
     {
-        const QString folder = m_test->path(text("Reports"));
+        const QString folder = m_fixture->test.path(text("Reports"));
         writeFile(folder + text("/.old.pyc"));
         QVERIFY(runner().removeMatchingFiles(folder, text(".PYC")));
         QVERIFY(!QFile::exists(folder + text("/.old.pyc")));
@@ -226,26 +208,23 @@ private slots:
 
     void aFolderOfTheMatchingNameStays()
     {
-        const QString folder = m_test->path(text("Reports"));
+        const QString folder = m_fixture->test.path(text("Reports"));
         writeFile(folder + text("/cache.pyc/x"));
         runner().removeMatchingFiles(folder, text("CACHE.PYC"));
         QVERIFY(QFile::exists(folder + text("/cache.pyc/x")));
-        QVERIFY(m_reporter->lines.isEmpty());
+        QVERIFY(m_fixture->reporter.lines.isEmpty());
     }
 
     void aMissingFolderGivesFalseAndNoLine()
     {
-        QVERIFY(!runner().removeMatchingFiles(m_test->path(text("missing")), text(".PYC")));
-        QVERIFY(m_reporter->lines.isEmpty());
+        QVERIFY(!runner().removeMatchingFiles(m_fixture->test.path(text("missing")), text(".PYC")));
+        QVERIFY(m_fixture->reporter.lines.isEmpty());
     }
 
 private:
-    CommandRunner runner() { return CommandRunner({*m_machine, *m_reporter, m_state}); }
+    CommandRunner runner() { return CommandRunner(m_fixture->context()); }
 
-    std::unique_ptr<TestMachine> m_test;
-    std::unique_ptr<RecordingMachine> m_machine;
-    std::unique_ptr<RecordingReporter> m_reporter;
-    RunState m_state;
+    std::unique_ptr<SetupFixture> m_fixture;
 };
 
 QTEST_GUILESS_MAIN(tst_command_runner)

@@ -2,6 +2,7 @@
 #include "setup/association_scripts.h"
 #include "setup/file_associations.h"
 #include "setup/setup_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -11,11 +12,6 @@ using Nvx::Util::ProgramCall;
 using Nvx::Util::ProgramResult;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 QByteArray asFile(const QStringList &lines)
 {

@@ -1,9 +1,7 @@
 #include "nvx_util/system.h"
-#include "run/run_state.h"
 #include "setup/material_database.h"
-#include "support/recording_machine.h"
-#include "support/recording_reporter.h"
-#include "support/test_machine.h"
+#include "setup/setup_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -14,11 +12,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
 const QString checking = text("progress 0 Checking material database");
 
 } // namespace
@@ -28,20 +21,16 @@ class tst_material_database : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { m_test.reset(); }
+    void cleanup() { m_fixture.reset(); }
 
     void init()
     {
-        m_test = std::make_unique<TestMachine>();
-        m_test->unsetVariable("OSTRADE2016DIR");
-        m_machine = std::make_unique<RecordingMachine>();
-        m_reporter = std::make_unique<RecordingReporter>();
+        m_fixture = std::make_unique<SetupFixture>();
+        m_fixture->test.unsetVariable("OSTRADE2016DIR");
         // The program's folder is the one that counts, wherever the install dir is.
-        m_state = RunState();
-        m_state.installDir = m_test->path(text("elsewhere"));
-        m_machine->ownFolder = m_test->installDir();
+        m_fixture->state.installDir = m_fixture->test.path(text("elsewhere"));
         m_sharedData = Nvx::Util::System::getProgramDataPath(text("NVX 2017"));
-        m_shipped = joinPath(m_machine->ownFolder, text("matprop.mdb"));
+        m_shipped = joinPath(m_fixture->machine.ownFolder, text("matprop.mdb"));
         m_working = joinPath(m_sharedData, text("matprop.nvxmdb"));
         m_previous = joinPath(m_sharedData, text("Materials 2016.nvxmdb"));
         writeFile(m_shipped, "shipped");
@@ -52,10 +41,10 @@ private slots:
         QVERIFY(!QDir(m_sharedData).exists());
         QCOMPARE(check(RunMode::Install), 0);
         QCOMPARE(readFile(m_working), QByteArray("shipped"));
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({checking, text("0 Copy: %1 to: %2").arg(m_shipped, m_working)}));
         QCOMPARE(filesOfSharedData(), QStringList{text("matprop.nvxmdb")});
-        QVERIFY(m_machine->sleeps.isEmpty());
+        QVERIFY(m_fixture->machine.sleeps.isEmpty());
     }
 
     void anExistingDatabaseIsTheUsers_data()
@@ -77,7 +66,7 @@ private slots:
         check(RunMode::Install);
         QVERIFY(QFile::exists(m_working));
         QCOMPARE(readFile(m_working), users);
-        QCOMPARE(m_reporter->lines, QStringList{checking});
+        QCOMPARE(m_fixture->reporter.lines, QStringList{checking});
     }
 
     void aCopyThatWasCutOffGoes_data()
@@ -106,10 +95,10 @@ private slots:
     {
         check(RunMode::Install);
         writeFile(m_shipped, "shipped anew");
-        m_reporter->lines.clear();
+        m_fixture->reporter.lines.clear();
         check(RunMode::Install);
         QCOMPARE(readFile(m_working), QByteArray("shipped"));
-        QCOMPARE(m_reporter->lines, QStringList{checking});
+        QCOMPARE(m_fixture->reporter.lines, QStringList{checking});
     }
 
     void aDatabaseThatAppearsLateIsCopied_data()
@@ -124,12 +113,12 @@ private slots:
     {
         QFETCH(int, sleeps);
         QVERIFY(QFile::remove(m_shipped));
-        m_machine->afterSleep = [&] {
-            if (m_machine->sleeps.size() == sleeps)
+        m_fixture->machine.afterSleep = [&] {
+            if (m_fixture->machine.sleeps.size() == sleeps)
                 writeFile(m_shipped, "late");
         };
         check(RunMode::Install);
-        QCOMPARE(m_machine->sleeps, QList<std::chrono::milliseconds>(sleeps, 10ms));
+        QCOMPARE(m_fixture->machine.sleeps, QList<std::chrono::milliseconds>(sleeps, 10ms));
         QCOMPARE(readFile(m_working), QByteArray("late"));
     }
 
@@ -137,8 +126,8 @@ private slots:
     {
         QVERIFY(QFile::remove(m_shipped));
         QCOMPARE(check(RunMode::Install), 0);
-        QCOMPARE(m_machine->sleeps, QList<std::chrono::milliseconds>(4, 10ms));
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->machine.sleeps, QList<std::chrono::milliseconds>(4, 10ms));
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({checking, text("progress 0 Installation error matprop.mdb does not exist?"),
                               text("0 Installation error: %1 does not exist.").arg(m_shipped)}));
         QVERIFY(!QFile::exists(m_working));
@@ -155,10 +144,10 @@ private slots:
     void thePreviousReleaseIsCarriedForward()
     {
         writeFile(previousFolderFile(), "of 2016");
-        m_test->setVariable("OSTRADE2016DIR", m_test->path(text("NVX 2016")));
+        m_fixture->test.setVariable("OSTRADE2016DIR", m_fixture->test.path(text("NVX 2016")));
         check(RunMode::Install);
         QCOMPARE(readFile(m_previous), QByteArray("of 2016"));
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({checking, text("0 Copy: %1 to: %2").arg(m_shipped, m_working)}));
     }
 
@@ -166,7 +155,7 @@ private slots:
     {
         QVERIFY(QFile::remove(m_shipped));
         writeFile(previousFolderFile(), "of 2016");
-        m_test->setVariable("OSTRADE2016DIR", m_test->path(text("NVX 2016")));
+        m_fixture->test.setVariable("OSTRADE2016DIR", m_fixture->test.path(text("NVX 2016")));
         check(RunMode::Install);
         QCOMPARE(readFile(m_previous), QByteArray("of 2016"));
     }
@@ -175,7 +164,7 @@ private slots:
     {
         writeFile(m_previous, "mine of 2016");
         writeFile(previousFolderFile(), "newer");
-        m_test->setVariable("OSTRADE2016DIR", m_test->path(text("NVX 2016")));
+        m_fixture->test.setVariable("OSTRADE2016DIR", m_fixture->test.path(text("NVX 2016")));
         check(RunMode::Install);
         QCOMPARE(readFile(m_previous), QByteArray("mine of 2016"));
     }
@@ -195,10 +184,10 @@ private slots:
         QFETCH(bool, isSet);
         QFETCH(QString, folder);
         if (isSet)
-            m_test->setVariable("OSTRADE2016DIR", folder);
+            m_fixture->test.setVariable("OSTRADE2016DIR", folder);
         check(RunMode::Install);
         QCOMPARE(filesOfSharedData(), QStringList{text("matprop.nvxmdb")});
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({checking, text("0 Copy: %1 to: %2").arg(m_shipped, m_working)}));
     }
 
@@ -206,22 +195,22 @@ private slots:
     {
         writeFile(m_sharedData); // a file is in the folder's place
         QCOMPARE(check(RunMode::Install), 0);
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({checking, text("0 Copy: %1 to: %2").arg(m_shipped, m_working)}));
         QCOMPARE(readFile(m_sharedData), QByteArray(""));
     }
 
     void anUninstallRemovesTheDatabaseOfTheSharedFolder()
     {
-        const QString leftover = joinPath(m_machine->ownFolder, text("matprop.new"));
-        const QString named = joinPath(m_machine->ownFolder, text("matprop.nvxmdb"));
+        const QString leftover = joinPath(m_fixture->machine.ownFolder, text("matprop.new"));
+        const QString named = joinPath(m_fixture->machine.ownFolder, text("matprop.nvxmdb"));
         writeFile(leftover, "old");
         writeFile(named, "not meant");
         writeFile(m_working, "mine");
         writeFile(m_previous, "mine of 2016");
         QVERIFY(QFile::setPermissions(m_working, QFile::ReadOwner | QFile::ReadUser));
         QCOMPARE(check(RunMode::Uninstall), 0);
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({checking, text("0 Remove: ") + leftover, text("0 Remove: ") + named}));
         QVERIFY(!QFile::exists(leftover));
         QVERIFY(!QFile::exists(m_working));
@@ -233,7 +222,7 @@ private slots:
     void anUninstallWithoutADatabaseLogsTheSame()
     {
         check(RunMode::Uninstall);
-        QCOMPARE(m_reporter->lines.size(), 3);
+        QCOMPARE(m_fixture->reporter.lines.size(), 3);
     }
 
     void anyOtherModeOnlyShowsTheStatus_data()
@@ -249,25 +238,22 @@ private slots:
         QFETCH(int, mode);
         writeFile(m_working, "mine");
         check(static_cast<RunMode>(mode));
-        QCOMPARE(m_reporter->lines, QStringList{checking});
+        QCOMPARE(m_fixture->reporter.lines, QStringList{checking});
         QCOMPARE(readFile(m_working), QByteArray("mine"));
         QCOMPARE(filesOfSharedData(), QStringList{text("matprop.nvxmdb")});
     }
 
 private:
-    int check(RunMode mode) { return MaterialDatabase({*m_machine, *m_reporter, m_state}).check(mode); }
+    int check(RunMode mode) { return MaterialDatabase(m_fixture->context()).check(mode); }
 
-    QString previousFolderFile() const { return m_test->path(text("NVX 2016/matprop.mdb")); }
+    QString previousFolderFile() const { return m_fixture->test.path(text("NVX 2016/matprop.mdb")); }
 
     QStringList filesOfSharedData() const
     {
         return QDir(m_sharedData).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
     }
 
-    std::unique_ptr<TestMachine> m_test;
-    std::unique_ptr<RecordingMachine> m_machine;
-    std::unique_ptr<RecordingReporter> m_reporter;
-    RunState m_state;
+    std::unique_ptr<SetupFixture> m_fixture;
     QString m_sharedData;
     QString m_shipped;
     QString m_working;

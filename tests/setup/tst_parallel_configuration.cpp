@@ -1,10 +1,8 @@
 #include "nvx_util/cpu_info.h"
 #include "nvx_util/system.h"
-#include "run/run_state.h"
 #include "setup/parallel_configuration.h"
-#include "support/recording_machine.h"
-#include "support/recording_reporter.h"
-#include "support/test_machine.h"
+#include "setup/setup_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -15,11 +13,6 @@ using Nvx::Util::joinPath;
 using Nvx::Util::ProcessorCounts;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 CpuInfo processors(qint32 count, qint32 cores, bool hyperThreading)
 {
@@ -37,14 +30,11 @@ class tst_parallel_configuration : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { m_test.reset(); }
+    void cleanup() { m_fixture.reset(); }
 
     void init()
     {
-        m_test = std::make_unique<TestMachine>();
-        m_machine = std::make_unique<RecordingMachine>();
-        m_reporter = std::make_unique<RecordingReporter>();
-        m_machine->ownFolder = m_test->installDir();
+        m_fixture = std::make_unique<SetupFixture>();
         m_sharedData = Nvx::Util::System::getProgramDataPath(text("NVX 2017"));
         m_file = joinPath(m_sharedData, text("NVX2_config.nvxcfg"));
         m_analysisFolder = joinPath(m_sharedData, text("HPCAnalyze"));
@@ -65,13 +55,13 @@ private slots:
         run(RunMode::Install, processors(2, 8, hyperThreading));
         QCOMPARE(written(),
                  text("ExePath = %1\nAnalyzePath = %2\nNumberOfThreads = 8\nMpi = %3\nSocketsPerNode = 2\n")
-                     .arg(joinPath(m_machine->ownFolder, text("NVX2_share")), m_analysisFolder, mpi));
+                     .arg(joinPath(m_fixture->machine.ownFolder, text("NVX2_share")), m_analysisFolder, mpi));
     }
 
     void bothResultsAreLogged()
     {
         run(RunMode::Install, processors(1, 4, false));
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({text("0 Created NVX2 default configuration: ") + m_file,
                               text("0 Created NVX2 analyze folder: ") + m_analysisFolder}));
         QVERIFY(QDir(m_analysisFolder).exists());
@@ -83,7 +73,8 @@ private slots:
         run(RunMode::Install, processors(1, 16, false));
         QVERIFY(written().contains(text("NumberOfThreads = 16\n")));
         QVERIFY(!written().contains(text("NumberOfThreads = 4\n")));
-        QCOMPARE(m_reporter->lines.last(), text("0 Created NVX2 analyze folder: ") + m_analysisFolder);
+        QCOMPARE(m_fixture->reporter.lines.last(),
+                 text("0 Created NVX2 analyze folder: ") + m_analysisFolder);
     }
 
     void inOtherModesNothingIsWrittenOrLogged_data()
@@ -97,7 +88,7 @@ private slots:
     {
         QFETCH(int, mode);
         run(static_cast<RunMode>(mode), processors(1, 4, false));
-        QVERIFY(m_reporter->lines.isEmpty());
+        QVERIFY(m_fixture->reporter.lines.isEmpty());
         QVERIFY(!QDir(m_sharedData).exists());
     }
 
@@ -121,7 +112,7 @@ private slots:
     {
         QVERIFY(QDir().mkpath(m_file)); // a folder of that name is in the way
         run(RunMode::Install, processors(1, 4, false));
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({text("1 Unable to create NVX2 default configuration: ") + m_file,
                               text("0 Created NVX2 analyze folder: ") + m_analysisFolder}));
     }
@@ -130,31 +121,29 @@ private slots:
     {
         writeFile(m_analysisFolder); // a file of that name is in the way
         run(RunMode::Install, processors(1, 4, false));
-        QCOMPARE(m_reporter->lines,
+        QCOMPARE(m_fixture->reporter.lines,
                  QStringList({text("0 Created NVX2 default configuration: ") + m_file,
                               text("1 Unable to create NVX2 analyze folder: ") + m_analysisFolder}));
     }
 
     void aFolderThatTheCodePageCannotWriteIsNotWrittenWrong()
     {
-        m_machine->ownFolder = m_test->installDir() + QChar(0xD800);
+        m_fixture->machine.ownFolder = m_fixture->test.installDir() + QChar(0xD800);
         run(RunMode::Install, processors(1, 4, false));
-        QCOMPARE(m_reporter->lines.first(), text("1 Unable to create NVX2 default configuration: ") + m_file);
+        QCOMPARE(m_fixture->reporter.lines.first(),
+                 text("1 Unable to create NVX2 default configuration: ") + m_file);
         QVERIFY(!QFile::exists(m_file));
     }
 
 private:
     void run(RunMode mode, const CpuInfo &cpuInfo)
     {
-        createParallelConfiguration({*m_machine, *m_reporter, m_state}, mode, cpuInfo);
+        createParallelConfiguration(m_fixture->context(), mode, cpuInfo);
     }
 
     QString written() const { return QString::fromUtf8(readFile(m_file)).remove(QLatin1Char('\r')); }
 
-    std::unique_ptr<TestMachine> m_test;
-    std::unique_ptr<RecordingMachine> m_machine;
-    std::unique_ptr<RecordingReporter> m_reporter;
-    RunState m_state;
+    std::unique_ptr<SetupFixture> m_fixture;
     QString m_sharedData;
     QString m_file;
     QString m_analysisFolder;

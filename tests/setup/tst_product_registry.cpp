@@ -3,6 +3,7 @@
 #include "setup/product_registry.h"
 #include "setup/product_values.h"
 #include "setup/setup_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -12,11 +13,6 @@ using Nvx::Util::joinPath;
 using Nvx::Util::RegistryKey;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QString entry =
     QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\NVX 2017");

@@ -2,17 +2,9 @@
 
 #include "setup/product_registry.h"
 #include "setup/setup_fixture.h"
+#include "support/text.h"
 
 #include <QTest>
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_product_registry_refused : public QObject
 {

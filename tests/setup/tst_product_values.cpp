@@ -1,13 +1,9 @@
 #include "setup/product_values.h"
+#include "support/text.h"
 
 #include <QTest>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QString machineKey = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora\\NVX");
 const QString userKey = QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2");

@@ -1,5 +1,6 @@
 #include "setup/setup_fixture.h"
 #include "setup/shortcuts.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -8,11 +9,6 @@
 using Nvx::Util::ShellLink;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 QString letters(qsizetype count)
 {

@@ -1,18 +1,10 @@
 #include "setup/uninstall_command.h"
 #include "support/random_text.h"
+#include "support/text.h"
 
 #include <QTest>
 
 #include <algorithm>
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_uninstall_command : public QObject
 {

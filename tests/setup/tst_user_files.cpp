@@ -1,9 +1,7 @@
 #include "nvx_util/system.h"
-#include "run/run_state.h"
+#include "setup/setup_fixture.h"
 #include "setup/user_files.h"
-#include "support/recording_machine.h"
-#include "support/recording_reporter.h"
-#include "support/test_machine.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -13,35 +11,20 @@ using Nvx::Util::joinPath;
 using Nvx::Util::ProgramCall;
 using Nvx::Util::System;
 
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
-
 class tst_user_files : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void cleanup() { m_test.reset(); }
+    void cleanup() { m_fixture.reset(); }
 
     void init()
     {
-        m_test = std::make_unique<TestMachine>();
-        m_machine = std::make_unique<RecordingMachine>();
-        m_reporter = std::make_unique<RecordingReporter>();
+        m_fixture = std::make_unique<SetupFixture>();
         m_removedFolders.clear();
-        m_state = RunState();
-        m_state.installDir = m_test->installDir();
-        m_state.modeWords = QStringList{text("Install"), text("UnInstall"), text("Found "), text(" Success"),
-                                        text(" Failed")};
-        m_machine->ownFolder = m_test->path(text("program"));
+        m_fixture->machine.ownFolder = m_fixture->test.path(text("program"));
         m_sharedData = System::getProgramDataPath(text("NVX 2017"));
-        m_machine->whileRunning = [this](const ProgramCall &call) {
+        m_fixture->machine.whileRunning = [this](const ProgramCall &call) {
             const QString commandLine = QString::fromUtf8(readFile(call.arguments.last()));
             m_removedFolders << commandLine.section(QLatin1Char('"'), 1, 1);
         };
@@ -53,9 +36,9 @@ private slots:
         writeFile(installed("plugins/Reports/report.pyc"));
         writeFile(joinPath(m_sharedData, text("old.dat")));
         files().removeOldFiles();
-        QCOMPARE(m_removedFolders, QStringList{joinPath(m_machine->ownFolder, text("Launchers"))});
+        QCOMPARE(m_removedFolders, QStringList{joinPath(m_fixture->machine.ownFolder, text("Launchers"))});
         QCOMPARE(told(),
-                 QStringList({text("0 Removing:") + m_state.installDir + text("/a.new"),
+                 QStringList({text("0 Removing:") + m_fixture->state.installDir + text("/a.new"),
                               text("0 Command:cmd.exe"), text("0 Remove: ") + m_sharedData + text("*.dat"),
                               text("0 Removing:") + m_sharedData + text("/old.dat"),
                               text("0 Remove: Report .pyc files"),
@@ -88,10 +71,10 @@ private slots:
     void onlyFilesThatMatchGo()
     {
         QFETCH(QString, file);
-        writeFile(m_test->path(file));
+        writeFile(m_fixture->test.path(file));
         files().removeOldFiles();
         files().removeLog();
-        QTEST(QFile::exists(m_test->path(file)), "stays");
+        QTEST(QFile::exists(m_fixture->test.path(file)), "stays");
     }
 
     void missingFoldersAreNoError()
@@ -142,15 +125,15 @@ private slots:
     }
 
 private:
-    UserFiles files() { return UserFiles({*m_machine, *m_reporter, m_state}); }
+    UserFiles files() { return UserFiles(m_fixture->context()); }
 
-    QString installed(const char *name) const { return m_test->path(text("NVX/") + text(name)); }
+    QString installed(const char *name) const { return m_fixture->test.path(text("NVX/") + text(name)); }
 
     // What was reported, of external programs only that one ran.
     QStringList told() const
     {
         QStringList lines;
-        for (const QString &line : std::as_const(m_reporter->lines)) {
+        for (const QString &line : std::as_const(m_fixture->reporter.lines)) {
             if (line.startsWith(text("0 Command:cmd.exe")))
                 lines << text("0 Command:cmd.exe");
             else if (!line.startsWith(text("0  output:")))
@@ -159,10 +142,7 @@ private:
         return lines;
     }
 
-    std::unique_ptr<TestMachine> m_test;
-    std::unique_ptr<RecordingMachine> m_machine;
-    std::unique_ptr<RecordingReporter> m_reporter;
-    RunState m_state;
+    std::unique_ptr<SetupFixture> m_fixture;
     QString m_sharedData;
     QStringList m_removedFolders;
 };

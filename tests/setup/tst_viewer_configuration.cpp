@@ -1,16 +1,8 @@
 #include "setup/setup_fixture.h"
 #include "setup/viewer_configuration.h"
+#include "support/text.h"
 
 #include <QTest>
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_viewer_configuration : public QObject
 {

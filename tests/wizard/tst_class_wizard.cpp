@@ -1,3 +1,4 @@
+#include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
 #include <QAccessible>
@@ -6,11 +7,6 @@
 #include <QTest>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QString allPages = text("Welcome|CAD Launchers |Conclusion ");
 

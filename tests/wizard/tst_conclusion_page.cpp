@@ -1,4 +1,5 @@
 #include "cfg_wizard/conclusion_page.h"
+#include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
 #include <QElapsedTimer>
@@ -7,11 +8,6 @@
 #include <QTimer>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QString complete = text("The installation or update is complete. Click finish to continue.");
 

@@ -1,5 +1,6 @@
 #include "cfg_wizard/feature_page.h"
 #include "engine/engine_fixture.h"
+#include "support/text.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -8,11 +9,6 @@
 #include <QWizard>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 void addBoxRows()
 {

@@ -5,6 +5,7 @@
 #include "cfg_wizard/interface_translators.h"
 #include "cfg_wizard/start_up.h"
 #include "nvx_util/system.h"
+#include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
 #include <QComboBox>
@@ -14,11 +15,6 @@
 using Nvx::Util::System;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 QString catalogue(const QString &locale, const QString &name)
 {

@@ -2,6 +2,7 @@
 
 #include "cfg_wizard/start_up.h"
 #include "nvx_util/registry_key.h"
+#include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
 #include <QCheckBox>
@@ -11,11 +12,6 @@
 using Nvx::Util::RegistryKey;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 RegistryKey spaceClaim()
 {

@@ -5,6 +5,7 @@
 #include "cfg_wizard/interface_font.h"
 #include "cfg_wizard/interface_translators.h"
 #include "nvx_util/system.h"
+#include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
 #include <QCheckBox>
@@ -15,11 +16,6 @@
 #include <QTextLayout>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 QString nameOf(const QWidget &widget)
 {

@@ -1,6 +1,7 @@
 #include "cfg_wizard/start_up.h"
 #include "engine/engine_fixture.h"
 #include "nvx_util/system.h"
+#include "support/text.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -9,11 +10,6 @@
 #include <QWizard>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 // Notices every window that is shown while it lives.
 class ShownWindows : public QObject

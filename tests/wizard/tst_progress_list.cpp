@@ -1,4 +1,5 @@
 #include "cfg_wizard/progress_list.h"
+#include "support/text.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -7,11 +8,6 @@
 #include <QTest>
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 // How many lines of text a row takes.
 int linesOf(const ProgressList &list, int row)

@@ -1,4 +1,5 @@
 #include "nvx_util/system.h"
+#include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
 #include <QComboBox>
@@ -7,15 +8,6 @@
 #include <QTimer>
 
 using Nvx::Util::System;
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class tst_welcome_page : public QObject
 {
