@@ -103,8 +103,8 @@ def decisions(branches, code):
     """The counts of the two ways of each condition in a line of code.
 
     A call from which an exception may come has two ways of its own, to what follows and to the clean-up; no
-    code of ours throws. The ways of a switch are lines themselves, its cases; what is made once is looked at each
-    time, by several threads at once if need be.
+    code of ours throws. The ways of a switch are lines themselves, its cases. What is made once is guarded by
+    the compiler.
     """
     pairs = zip(branches[::2], branches[1::2])
     counts = []
@@ -200,7 +200,7 @@ def print_table(sources):
 def print_missed(sources, folder):
     """Whether there is anything below the folder."""
     wanted = PurePosixPath(folder)
-    below = [path for path in sorted(sources) if wanted in (PurePosixPath(path), *PurePosixPath(path).parents)]
+    below = [path for path in sorted(sources) if PurePosixPath(path).is_relative_to(wanted)]
     for path in below:
         for first, last in sources[path].missed_ranges():
             print(f"{path}:{first}" + (f"-{last}" if last != first else ""))
