@@ -50,6 +50,24 @@ private slots:
         QVERIFY(!isUnchangedFlagFile(path));
     }
 
+    void aNewFileHoldsAnEmptyLine()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("NVX_flags.txt"));
+        QVERIFY(createFlagFile(path));
+        QCOMPARE(readFile(path), QByteArray("\r\n"));
+        QVERIFY(isUnchangedFlagFile(path));
+    }
+
+    void aFileThatIsThereIsNotMadeAnew()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(QStringLiteral("NVX_flags.txt"));
+        writeFile(path, "on");
+        QVERIFY(!createFlagFile(path));
+        QCOMPARE(readFile(path), QByteArray("on"));
+    }
+
     void noFileCountsAsUnchanged()
     {
         const TestFolder folder;

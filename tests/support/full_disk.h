@@ -5,17 +5,17 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// While it lives, no file of this process grows beyond the most bytes, as on a disk that is full then. For
+/// While it lives, no file of this process grows beyond so many bytes, as on a disk that is full then. For
 /// Unix only.
 class FullDisk
 {
 public:
     static constexpr qint64 mostBytes = 64 * 1024;
 
-    FullDisk()
+    explicit FullDisk(qint64 bytes = mostBytes)
     {
         getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{static_cast<rlim_t>(mostBytes), m_before.rlim_max};
+        const rlimit limit{static_cast<rlim_t>(bytes), m_before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
         m_handler = std::signal(SIGXFSZ, SIG_IGN);
     }

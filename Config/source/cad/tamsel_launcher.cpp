@@ -49,12 +49,12 @@ QString manifestOfYear(const QString &root, int year)
 void writeManifest(const StepContext &context, const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         context.reporter.log(file.error(), Messages::tr("Open failed:") + file.errorString());
         return;
     }
     const QByteArray manifest = tamselManifest(context.state.installDir);
-    if (file.write(manifest) != manifest.size() || !file.flush())
+    if (file.write(manifest) != manifest.size())
         context.reporter.log(1, Messages::tr("Unable to write %1").arg(path));
 }
 

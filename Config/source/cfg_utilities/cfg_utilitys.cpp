@@ -108,8 +108,7 @@ void cfg_utilitys::processFlagFile(const QString &name, RunMode mode)
         return;
     log(0, tr("Creating ") + name);
     System::makePath(folder);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write("\r\n") != 2 || !file.flush())
+    if (!createFlagFile(path))
         log(1, tr("Unable to create %1").arg(path));
 }
 

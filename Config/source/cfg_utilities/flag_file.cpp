@@ -23,3 +23,10 @@ bool isUnchangedFlagFile(const QString &path)
         return true;
     return file.open(QIODevice::ReadOnly) && holdsOnlyWhiteSpace(file);
 }
+
+bool createFlagFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered) &&
+           file.write("\r\n") == 2;
+}

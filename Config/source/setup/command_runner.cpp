@@ -43,14 +43,13 @@ bool createBatchFile(const QString &path, const QByteArray &commandLine)
 {
     QFile::remove(path);
     QFile file(path);
-    // Only a file that is new is ours to run.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+    // Only a file that is new is ours to run, and only whole: what a full disk cuts short names another
+    // folder.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return false;
-    // Cut off by a full disk, the command could name another folder.
-    if (file.write(commandLine) == commandLine.size() && file.flush())
+    if (file.write(commandLine) == commandLine.size())
         return true;
-    file.close();
-    QFile::remove(path);
+    file.remove();
     return false;
 }
 

@@ -18,44 +18,32 @@ struct Messages
     Q_DECLARE_TR_FUNCTIONS(FileAssociations)
 };
 
-// The lines as the file holds them; none when the code page lacks a character of one. The Registry Editor
+// The lines as the file holds them; nothing when the code page lacks a character of one. The Registry Editor
 // reads a script without a byte order mark in that code page, whatever version its first line names.
-QList<QByteArray> encoded(const QStringList &lines)
+std::optional<QByteArray> encoded(const QStringList &lines)
 {
-    QList<QByteArray> bytes;
-    for (const QString &line : lines) {
-        const std::optional<QByteArray> written = Nvx::Util::toAnsi(line + QLatin1Char('\n'));
-        if (!written)
-            return {};
-        bytes.append(*written);
-    }
-    return bytes;
+    return Nvx::Util::toAnsi(lines.join(QLatin1Char('\n')) + QLatin1Char('\n'));
 }
 
-bool createScript(const QString &path, const QList<QByteArray> &lines)
+bool createScript(const QString &path, const QByteArray &script)
 {
     removeProductFile(path);
     QFile file(path);
-    // Only a file that is new is ours to import.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return false;
-    for (const QByteArray &line : lines) {
-        if (file.write(line) != line.size())
-            return false;
-    }
-    return file.flush();
+    // Only a file that is new and whole is ours to import.
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered) &&
+           file.write(script) == script.size();
 }
 
 void importScript(const StepContext &context, const QString &path, const QStringList &lines)
 {
-    const QList<QByteArray> bytes = encoded(lines);
-    if (bytes.isEmpty()) {
+    const std::optional<QByteArray> script = encoded(lines);
+    if (!script) {
         context.reporter.log(1, Messages::tr("The system's code page cannot write the folder, no files are "
                                              "associated with the product: %1")
                                     .arg(context.state.installDir));
         return;
     }
-    if (createScript(path, bytes))
+    if (createScript(path, *script))
         CommandRunner(context).runSystemCommand(QStringLiteral("regedit"), {QStringLiteral("-s"), path},
                                                 context.state.installDir, CommandRunner::usualTimeoutMs);
     else

@@ -1,0 +1,66 @@
+// Files of CAD systems that cannot be read whole, and add-ins on a disk that is full.
+
+#include "cad/foreign_file.h"
+#include "cad/tamsel_launcher.h"
+#include "launcher_fixture.h"
+#include "support/full_disk.h"
+#include "support/odd_files.h"
+
+#include <QTest>
+
+namespace {
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+} // namespace
+
+class tst_launchers_odd_files : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void whatCannotBeReadWholeIsNotTakenForTheFile_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("it breaks when it is read") << breakingFile();
+        QTest::newRow("it is shorter than it says") << boastingFile();
+    }
+
+    void whatCannotBeReadWholeIsNotTakenForTheFile()
+    {
+        QFETCH(const QString, path);
+        QVERIFY(QFile::exists(path));
+        RecordingReporter reporter;
+        QVERIFY(!readForeignFile(reporter, path));
+        QCOMPARE(reporter.lines, QStringList(text("1 Unable to read ") + path));
+    }
+
+    void aManifestThatIsNotWholeIsLogged_data()
+    {
+        QTest::addColumn<qint64>("freeBytes");
+        QTest::newRow("nothing is free") << qint64(0);
+        QTest::newRow("room for its beginning") << qint64(20);
+    }
+
+    void aManifestThatIsNotWholeIsLogged()
+    {
+        QFETCH(const qint64, freeBytes);
+        LauncherFixture fixture;
+        QVERIFY(QDir().mkpath(fixture.installed("Launchers/Tamsel")));
+        {
+            const FullDisk disk(freeBytes);
+            installTamselAddin(fixture.context(), fixture.folders, RunMode::Install, 2017);
+        }
+        const QStringList lines = fixture.takeLines().filter(text("Unable to write "));
+        QCOMPARE(lines.size(), 1);
+        QVERIFY2(
+            lines.first().startsWith(text("1 Unable to write ") + fixture.installed("Launchers/Tamsel/")),
+            qPrintable(lines.first()));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_launchers_odd_files)
+#include "tst_launchers_odd_files.moc"
