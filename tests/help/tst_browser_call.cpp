@@ -45,6 +45,7 @@ private slots:
         row("a path", "C:\\Program Files\\NVX/NVXDefaultHelp.html",
             "file:///C:/Program%20Files/NVX/NVXDefaultHelp.html");
         row("a path with signs", "C:\\100% & #1\\a?.html", "file:///C:/100%25%20&%20%231/a%3F.html");
+        row("a letter and a colon are no drive without a slash", "C:a b.html", "c:a%20b.html");
         row("a path on another machine", "\\\\server\\share\\a b.html", "file://server/share/a%20b.html");
         row("a path without a drive", "/opt/NVX/a b.html", "file:///opt/NVX/a%20b.html");
         row("installed help", "file:///C:\\ProgramData\\Velmora\\NVX 2017/NVXHelp/index.html?query=a b",
@@ -64,6 +65,7 @@ private slots:
     void anEncodedAddressNeverHoldsBlanksQuotesOrBackslashes()
     {
         RandomText random(1);
+        const QString outside = QStringLiteral("\"\\<>^`{|}"); // the standard has no place for them
         const QStringList heads{QString(), QStringLiteral("http://host/"), QStringLiteral("file:///C:\\"),
                                 QStringLiteral("C:\\"), QStringLiteral("x:")};
         int encodedTexts = 0;
@@ -72,7 +74,7 @@ private slots:
             const QString encoded = encodedAddress(text);
             encodedTexts += encoded.isEmpty() ? 0 : 1;
             for (const QChar c : encoded)
-                QVERIFY2(c > u' ' && c < u'\x7f' && c != u'"' && c != u'\\', qPrintable(text));
+                QVERIFY2(c > u' ' && c < u'\x7f' && !outside.contains(c), qPrintable(text));
         }
         QVERIFY2(encodedTexts > 1000, qPrintable(QString::number(encodedTexts)));
     }
@@ -158,6 +160,8 @@ private slots:
         row("a path with blanks and no quotes", browser + QStringLiteral(" -x"),
             {browser, QStringLiteral("-x"), address});
         row("a path with blanks and no quotes, alone", browser, {browser, address});
+        row("a folder that looks like a program", QStringLiteral("C:\\b.exes\\a b.exe %1"),
+            {QStringLiteral("C:\\b.exes\\a b.exe"), bare});
         row("a program of no suffix", QStringLiteral("/usr/bin/browser %1"),
             {QStringLiteral("/usr/bin/browser"), bare});
         row("blanks around", QStringLiteral("  ") + quoted + QStringLiteral("  "), {browser, address});
@@ -211,6 +215,7 @@ private slots:
         row("command.com /c start %1");
         row("powershell.exe -c start %1");
         row("pwsh -c start %1");
+        row("cmd");
         row("\"C:\\My Tools\\browse.bat\" %1");
         row("C:\\browse.CMD %1");
         row("\"C:\\browse.bat. .\" %1");

@@ -20,7 +20,7 @@ QPixmap bannerFor(const QFontMetrics &text)
 {
     QPixmap banner(QStringLiteral(":/image/banner.png"));
     const int wanted = 3 * text.lineSpacing() + 16;
-    if (banner.isNull() || banner.height() >= wanted)
+    if (banner.height() >= wanted)
         return banner;
     return banner.scaled(banner.width(), wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

@@ -34,13 +34,6 @@ QUrl urlOf(QString address)
     return QUrl(address);
 }
 
-// What an address may hold by its standard.
-bool isAddressCharacter(char c)
-{
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
-           QByteArrayView("-._~:/?#[]@!$&'()*+,;=%").contains(c);
-}
-
 /// Reads arguments one by one.
 class ArgumentReader
 {
@@ -141,8 +134,7 @@ bool interpretsArguments(QString program)
     const QStringList suffixes{QStringLiteral("bat"), QStringLiteral("cmd")};
     const QStringList interpreters{QStringLiteral("cmd"), QStringLiteral("command"),
                                    QStringLiteral("powershell"), QStringLiteral("pwsh")};
-    return suffixes.contains(file.suffix()) || interpreters.contains(file.completeBaseName()) ||
-           interpreters.contains(file.fileName());
+    return suffixes.contains(file.suffix()) || interpreters.contains(file.completeBaseName());
 }
 
 bool looksLikeAnOption(const QString &argument)
@@ -155,17 +147,7 @@ bool looksLikeAnOption(const QString &argument)
 QString encodedAddress(const QString &address)
 {
     const QUrl url = urlOf(address);
-    if (!url.isValid())
-        return QString();
-    QByteArray encoded;
-    const QByteArray written = url.toEncoded();
-    for (const char c : written) {
-        if (isAddressCharacter(c))
-            encoded += c;
-        else
-            encoded += '%' + QByteArray(1, c).toHex().toUpper();
-    }
-    return QString::fromLatin1(encoded);
+    return url.isValid() ? QString::fromLatin1(url.toEncoded()) : QString();
 }
 
 QString expandVariables(const QString &text, const std::function<QString(const QString &)> &valueOf)

@@ -25,15 +25,15 @@ struct Messages
     Q_DECLARE_TR_FUNCTIONS(ParallelConfiguration)
 };
 
-bool canBeWritten(const QString &text)
+bool canBeWritten(const QStringList &texts)
 {
-    return Nvx::Util::toAnsi(text).has_value();
+    return Nvx::Util::toAnsi(texts.join(QLatin1Char('\n'))).has_value();
 }
 
 bool save(const QString &path, const QString &sharedFolder, const QString &analysisFolder,
           const Nvx::Util::CpuInfo &cpuInfo)
 {
-    if (!canBeWritten(path) || !canBeWritten(sharedFolder) || !canBeWritten(analysisFolder))
+    if (!canBeWritten({path, sharedFolder, analysisFolder}))
         return false;
 
     const qint32 cores = cpuInfo.coresPerProcessor();
