@@ -197,7 +197,28 @@ private slots:
         QVERIFY(!QDir(System::getUserDataPath()).exists());
     }
 
-    void anUninstallWithoutTheSolverTakesTheWorkingFolder()
+    void anUninstallWithoutTheSolverOrAFolderTakesTheWorkingFolder_data()
+    {
+        QTest::addColumn<bool>("hasFolder");
+        QTest::newRow("without the solver") << true;
+        QTest::newRow("without a folder") << false;
+    }
+
+    void anUninstallWithoutTheSolverOrAFolderTakesTheWorkingFolder()
+    {
+        QFETCH(const bool, hasFolder);
+        const QString folder = m_fixture->test.path(text("empty"));
+        QVERIFY(QDir().mkdir(folder));
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder));
+        if (!hasFolder)
+            m_fixture->machine.ownFolder.clear();
+        const RunState &state = m_fixture->start(text("-U")).state();
+        QDir::setCurrent(before);
+        QCOMPARE(QDir(state.installDir).canonicalPath(), QDir(folder).canonicalPath());
+    }
+
+    void theWorkingFolderIsLoggedWhenItIsTaken()
     {
         const RunState &state = m_fixture->start(text("-U")).state();
         QCOMPARE(state.installDir, System::getWorkingDirPath());

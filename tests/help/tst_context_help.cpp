@@ -221,6 +221,15 @@ private slots:
                  (QStringList{QStringLiteral("-url"), QStringLiteral("host/%22%20-evil%20%22x%20&%20calc")}));
     }
 
+    void aVariableThatIsNotSetStaysAsItIsInTheBrowsersCommand()
+    {
+        setBrowser(QStringLiteral("\"%NVX_TEST_FOLDER%\\b.exe\" \"%1\""));
+        m_folders->unsetVariable("NVX_TEST_FOLDER");
+        m_help->openAddress(QStringLiteral("http://host/"));
+        QCOMPARE(m_machine->starts.size(), 1);
+        QCOMPARE(m_machine->starts.first().program, QStringLiteral("%NVX_TEST_FOLDER%\\b.exe"));
+    }
+
     void nothingIsStartedForWhatIsNoAddress()
     {
         m_help->openAddress(QString());

@@ -168,6 +168,67 @@ private slots:
         QCOMPARE(int(tokenizer.directive()), int(Directive::None));
     }
 
+    void textsThatEndInTheMiddleAreReadToTheirEnd_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("kinds");
+        QTest::newRow("a slash between words")
+            << QByteArray("a / b") << QStringLiteral("Identifier Other Identifier EOF");
+        QTest::newRow("a slash") << QByteArray("a /") << QStringLiteral("Identifier Other EOF");
+        QTest::newRow("a slash behind a string")
+            << QByteArray("\"a\" / b") << QStringLiteral("String Other Identifier EOF");
+        QTest::newRow("a word that is no prefix, with a string")
+            << QByteArray("\"a\" tr\"b\"") << QStringLiteral("String Identifier String EOF");
+        QTest::newRow("a number sign") << QByteArray("a\n#") << QStringLiteral("Identifier EOF");
+        QTest::newRow("a number sign and blanks")
+            << QByteArray("a\n# \t") << QStringLiteral("Identifier EOF");
+        QTest::newRow("a directive") << QByteArray("a\n#define B c") << QStringLiteral("Identifier EOF");
+        QTest::newRow("a directive with a slash")
+            << QByteArray("a\n#define B /") << QStringLiteral("Identifier EOF");
+        QTest::newRow("a directive that goes on nowhere")
+            << QByteArray("a\n#define B \\") << QStringLiteral("Identifier EOF");
+        QTest::newRow("a minus sign") << QByteArray("a -") << QStringLiteral("Identifier Other EOF");
+    }
+
+    void textsThatEndInTheMiddleAreReadToTheirEnd()
+    {
+        QFETCH(const QByteArray, text);
+        QTEST(kindsOf({text.constData(), static_cast<std::size_t>(text.size())}), "kinds");
+    }
+
+    void literalsAreDecoded_data()
+    {
+        QTest::addColumn<QByteArray>("literal");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("a character beyond 16 bits")
+            << QByteArray("\"\\U0001F600\"") << QString::fromUtf8("\xF0\x9F\x98\x80");
+        QTest::newRow("a number beyond all characters") << QByteArray("\"a\\U00110000b\"")
+                                                        << QString::fromUtf8("a\xEF\xBF\xBD"
+                                                                             "b");
+        QTest::newRow("a number of more digits than fit")
+            << QByteArray("L\"a\\x100000041\"") << QString::fromUtf8("a\xEF\xBF\xBD");
+        QTest::newRow("braces") << QByteArray("\"\\u{41}b\"") << QStringLiteral("Ab");
+        QTest::newRow("braces that are not closed") << QByteArray("\"\\u{41\"") << QStringLiteral("u{41");
+        QTest::newRow("braces around nothing") << QByteArray("\"\\u{}\"") << QStringLiteral("u{}");
+        QTest::newRow("braces around no number") << QByteArray("\"\\u{4g}\"") << QStringLiteral("u{4g}");
+        QTest::newRow("a backslash at the end of the text") << QByteArray("\"a\\") << QStringLiteral("a");
+    }
+
+    void literalsAreDecoded()
+    {
+        QFETCH(const QByteArray, literal);
+        Tokenizer tokenizer({literal.constData(), static_cast<std::size_t>(literal.size())});
+        tokenizer.next();
+        QCOMPARE(tokenizer.kind(), TokenKind::String);
+        QTEST(tokenizer.string(), "text");
+    }
+
+    void joinedTokensLeaveDirectivesAndCommentsOut()
+    {
+        QCOMPARE(joinTokens("Clt :: Yes /* or */\n#if A\n| const No\n#endif\n"),
+                 std::string("Clt::Yes|const No"));
+    }
+
     void lastIdentifierAndLastStringAreKeptApart()
     {
         Tokenizer tokenizer("name \"text\" ( other ) \"more\" ;");

@@ -79,6 +79,18 @@ private slots:
         QCOMPARE(readFile(source), QByteArray("new"));
     }
 
+    void aTargetThatCannotBeRemovedStays()
+    {
+        const TestFolder folder;
+        const QString source = folder.path(QStringLiteral("de-DE.dll"));
+        const QString target = folder.path(QStringLiteral("a.dll"));
+        writeFile(source, "new");
+        QVERIFY(QDir().mkdir(target)); // a folder in its place
+        QVERIFY(!replaceProductFile(source, target));
+        QVERIFY(QDir(target).exists());
+        QCOMPARE(namesIn(folder.path()).size(), 2);
+    }
+
     void aMissingSourceLeavesNoFile()
     {
         const TestFolder folder;

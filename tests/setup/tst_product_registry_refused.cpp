@@ -1,7 +1,11 @@
-// The registry refuses every change: where it is a file, because its folder cannot be made.
+// The registry refuses every change: where it is a file, because its folder cannot be made or the disk is
+// full.
 
+#include "nvx_util/registry_key.h"
 #include "setup/product_registry.h"
+#include "setup/product_values.h"
 #include "setup/setup_fixture.h"
+#include "support/full_disk.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -23,6 +27,22 @@ private slots:
         QCOMPARE(refused.first(), text("1 The registry refuses the value CurrentVersion of "
                                        "HKEY_LOCAL_MACHINE\\Software\\Velmora\\NVX"));
         QCOMPARE(fixture.machine.calls.size(), 1); // the viewer is configured all the same
+    }
+
+    void everyGroupThatStaysIsLoggedAndTheRemovalGoesOn()
+    {
+        SetupFixture fixture;
+        const QString large(2 * FullDisk::mostBytes, QLatin1Char('x'));
+        for (const char *group : {"\\WebServices", "\\Lumara"})
+            QVERIFY(Nvx::Util::RegistryKey(userProductKey() + text(group)).setText(text("a"), text("b")));
+        QVERIFY(Nvx::Util::RegistryKey(userProductKey()).setText(text("large"), large));
+        {
+            const FullDisk disk;
+            QCOMPARE(updateRegistry(fixture.context(), RunMode::Uninstall), 0);
+        }
+        const QString refused = text("1 The registry refuses to remove ") + userProductKey();
+        QCOMPARE(fixture.reporter.lines.filter(text("1 The registry refuses ")),
+                 QStringList({refused + text("\\WebServices"), refused + text("\\Lumara")}));
     }
 };
 

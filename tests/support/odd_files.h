@@ -18,6 +18,15 @@ inline QString closedFile()
     return QStringLiteral("/sys/bus/cpu/uevent");
 }
 
+/// What the operating system says when the file is read.
+inline QString errorOf(const QString &fileName)
+{
+    QFile file(fileName);
+    if (file.open(QIODevice::ReadOnly))
+        file.readAll();
+    return file.errorString();
+}
+
 /// Cannot be written, and nobody can change that.
 inline QString protectedFile()
 {

@@ -250,6 +250,20 @@ private slots:
         QVERIFY2(commandLine.contains(QLatin1String("tst_native_machine")), qPrintable(commandLine));
     }
 
+    void theExecutableFolderIsTheOneOfThisProgram()
+    {
+        QCOMPARE(m_machine.executableFolder(),
+                 QDir::toNativeSeparators(QCoreApplication::applicationDirPath()));
+    }
+
+    void timePassesAsLongAsItWasSaid()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        m_machine.sleep(std::chrono::milliseconds(200));
+        QVERIFY(timer.elapsed() >= 190);
+    }
+
     void aProcessVariableIsSetForThisProcess()
     {
         QVERIFY(m_machine.setProcessVariable("NVX_TEST_VARIABLE", "C:\\NVX 2017"));
@@ -275,26 +289,30 @@ private slots:
         QTEST(static_cast<int>(answer), "expected");
     }
 
-    void aBoxShowsItsTextAndYesIsTheDefaultUnlessTheAnswerIsOpen_data()
+    void aBoxShowsItsTextAndKindAndYesIsTheDefaultUnlessTheAnswerIsOpen_data()
     {
         QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("expectedIcon");
         QTest::addColumn<bool>("yesIsExpected");
-        QTest::newRow("information") << int(BoxKind::Information) << true;
-        QTest::newRow("warning") << int(BoxKind::Warning) << true;
-        QTest::newRow("question") << int(BoxKind::Question) << false;
+        QTest::newRow("information") << int(BoxKind::Information) << int(QMessageBox::Information) << true;
+        QTest::newRow("warning") << int(BoxKind::Warning) << int(QMessageBox::Warning) << true;
+        QTest::newRow("failure") << int(BoxKind::Critical) << int(QMessageBox::Critical) << true;
+        QTest::newRow("question") << int(BoxKind::Question) << int(QMessageBox::Question) << false;
     }
 
-    void aBoxShowsItsTextAndYesIsTheDefaultUnlessTheAnswerIsOpen()
+    void aBoxShowsItsTextAndKindAndYesIsTheDefaultUnlessTheAnswerIsOpen()
     {
         QFETCH(int, kind);
         QFETCH(bool, yesIsExpected);
         QString title, text;
+        QMessageBox::Icon icon = QMessageBox::NoIcon;
         bool yesIsDefault = false;
         bool anyIsDefault = false;
         QTimer::singleShot(0, qApp, [&] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             title = box->windowTitle();
             text = box->text();
+            icon = box->icon();
             yesIsDefault = box->defaultButton() == box->button(QMessageBox::Yes);
             anyIsDefault = box->defaultButton() != nullptr;
             box->reject();
@@ -302,6 +320,7 @@ private slots:
         m_machine.ask(static_cast<BoxKind>(kind), QStringLiteral("Title"), QStringLiteral("Text?"));
         QCOMPARE(title, QStringLiteral("Title"));
         QCOMPARE(text, QStringLiteral("Text?"));
+        QTEST(static_cast<int>(icon), "expectedIcon");
         QCOMPARE(yesIsDefault, yesIsExpected);
         QCOMPARE(anyIsDefault, yesIsExpected);
     }

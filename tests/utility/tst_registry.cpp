@@ -74,6 +74,13 @@ private slots:
         QVERIFY(!RegistryKey(scratch + QStringLiteral("\\Missing")).textOrNumber(QStringLiteral("a")));
     }
 
+    void aTextOrNumberThatIsANumberIsItsDigits()
+    {
+        QVERIFY(RegistryKey(scratch).setNumber(QStringLiteral("a"), 4294967295));
+        QCOMPARE(RegistryKey(scratch).textOrNumber(QStringLiteral("A")),
+                 std::optional<QString>(QStringLiteral("4294967295")));
+    }
+
     void theEmptyNameIsTheDefaultValue()
     {
         QVERIFY(RegistryKey(scratch).setText(QString(), QStringLiteral("default")));
@@ -208,6 +215,13 @@ private slots:
         Registry::readKelvaneTranslatorsFolder(buffer.data(), 10);
         QCOMPARE(QString::fromWCharArray(buffer.data()), QString(expectedLength, QLatin1Char('x')));
         QVERIFY(buffer[10] == L'?' && buffer[11] == L'?');
+    }
+
+    void aBufferWithoutRoomIsLeftAlone()
+    {
+        wchar_t buffer = L'?';
+        Registry::readKelvaneTranslatorsFolder(&buffer, 0);
+        QVERIFY(buffer == L'?');
     }
 
 private:

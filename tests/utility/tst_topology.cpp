@@ -57,6 +57,7 @@ private slots:
         const TestFolder folder;
         describe(folder, {{0, 0}, {0, 1}});
         QVERIFY(QDir().mkpath(folder.path(QStringLiteral("cpu2"))));
+        writeFile(folder.path(QStringLiteral("cpu3/topology/physical_package_id")), "0\n");
         QVERIFY(QDir().mkpath(folder.path(QStringLiteral("cpufreq/topology"))));
         const auto counts = readTopology(folder.path());
         QVERIFY(counts);

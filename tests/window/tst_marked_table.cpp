@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QSignalSpy>
 #include <QTest>
 
 using Window::MarkedRows;
@@ -133,6 +134,33 @@ private slots:
             const auto mark = view.rowsModel().rows().mark(row);
             QCOMPARE(image.pixelColor(place).rgb(), markColor(view.palette(), mark).rgb());
         }
+    }
+
+    void whatIsNoCellHasNoText()
+    {
+        MarkedTableView view(headings);
+        view.showRows(sampleRows());
+        const QAbstractItemModel &model = *view.model();
+        QVERIFY(!model.data(QModelIndex()).isValid());
+        const QModelIndex cell = model.index(0, 0);
+        QCOMPARE(model.rowCount(cell), 0);
+        QCOMPARE(model.columnCount(cell), 0);
+    }
+
+    void orderOrFilterThatIsInForceResetsNothing()
+    {
+        MarkedTableView view(headings);
+        view.showRows(sampleRows());
+        Window::MarkedTableModel &model = view.rowsModel();
+        model.sort(0, Qt::DescendingOrder);
+        model.setFilter(QStringLiteral("n"));
+        const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        model.sort(0, Qt::DescendingOrder);
+        model.setFilter(QStringLiteral("n"));
+        QCOMPARE(resets.size(), 0);
+        model.sort(0, Qt::AscendingOrder);
+        model.setFilter(QString());
+        QCOMPARE(resets.size(), 2);
     }
 
     void clicksSortAndReturnToNaturalOrder()

@@ -45,6 +45,16 @@ private slots:
         QVERIFY(m_fixture->rows().contains(text("UnInstall Tutorials")));
     }
 
+    void aPageWithoutAWizardRunsToo()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-U"));
+        ConclusionPage page(engine);
+        page.initializePage();
+        QVERIFY(!page.isComplete());
+        QTRY_VERIFY(page.isComplete());
+        QCOMPARE(m_fixture->runs(), 1);
+    }
+
     void everyRowIsScrolledTo()
     {
         ClassWizard &wizard = m_fixture->show(text("-U"));

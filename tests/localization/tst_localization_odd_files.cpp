@@ -1,0 +1,188 @@
+// Files that cannot be read whole, and files whose write protection stays.
+
+#include "localization/locale_folders.h"
+#include "localization/translation_job.h"
+#include "localization/translation_tools.h"
+#include "localization/util_localization_tool.h"
+#include "run/run_state.h"
+#include "support/odd_files.h"
+#include "support/recording_machine.h"
+#include "support/recording_reporter.h"
+#include "support/test_machine.h"
+
+#include <QTest>
+
+#include <memory>
+
+using util::LocaleFolders;
+
+namespace {
+
+const QByteArray whole = "<TS version=\"2.1\" language=\"de\"></TS>";
+
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+void addUnreadableFiles()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("it cannot be opened") << closedFile();
+    QTest::newRow("it breaks when it is read") << breakingFile();
+}
+
+} // namespace
+
+class tst_localization_odd_files : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_test = std::make_unique<TestMachine>();
+        m_reporter = std::make_unique<RecordingReporter>();
+        m_machine = std::make_unique<RecordingMachine>();
+        m_machine->ownFolder = m_test->installDir();
+        QVERIFY(QDir().mkpath(path("root/Locale/de-DE")));
+        QVERIFY(QDir().mkpath(path("share/job")));
+    }
+
+    void whatCannotBeReadIsNotCopied_data() { addUnreadableFiles(); }
+
+    void whatCannotBeReadIsNotCopied()
+    {
+        QFETCH(const QString, file);
+        writeFile(path("target"), "old");
+        QVERIFY(!util::copyWhole(file, path("target")));
+        QCOMPARE(readFile(path("target")), QByteArray("old"));
+    }
+
+    void nothingIsCopiedOverAFileWhoseProtectionStays()
+    {
+        writeFile(path("source"), "new");
+        QVERIFY(linkTo(protectedFile(), path("target")));
+        QVERIFY(!util::makeWritable(path("target")));
+        QVERIFY(!util::copyWhole(path("source"), path("target")));
+    }
+
+    void aCompiledFileWhoseProtectionStaysIsLogged()
+    {
+        const QString compiled = path("root/Locale/de-DE/client.qm");
+        QVERIFY(linkTo(protectedFile(), compiled));
+        LocaleFolders(path("root"), *m_reporter).prepare();
+        QCOMPARE(m_reporter->lines, QStringList(text("1 Permission fails:") + compiled));
+    }
+
+    void anEarlierFileThatStaysAmongTheCollectedOnesIsLogged()
+    {
+        const QString earlier = path("root/Locale/collect/deu/gone.ts");
+        QVERIFY(QDir().mkpath(QFileInfo(earlier).path()));
+        QVERIFY(linkTo(protectedFile(), earlier));
+        LocaleFolders(path("root"), *m_reporter).collect();
+        QCOMPARE(m_reporter->lines, QStringList(text("1 Permission fails:") + earlier));
+        QVERIFY(QFile::exists(earlier));
+    }
+
+    void anAnswerWhoseProtectionStaysIsLogged()
+    {
+        const QString done = path("share/job/NVX360.done");
+        QVERIFY(linkTo(protectedFile(), done));
+        job().writeJobFile();
+        QCOMPARE(m_reporter->lines.mid(0, 2),
+                 QStringList({text("1 can't remove ") + done, text("1 ") + done + text(" still exist")}));
+    }
+
+    void aLanguageWithoutAFolderOnTheShareIsLoggedAndTheOthersAreUploaded()
+    {
+        writeFile(path("share/NVX360/deu"), "a file in the folder's place");
+        writeFile(path("root/Locale/collect/fra/client.ts"), whole);
+        job().upload();
+        QVERIFY(m_reporter->lines.contains(text("1 %1 not available").arg(path("share/NVX360/deu"))));
+        QCOMPARE(readFile(path("share/NVX360/fra/client.ts")), whole);
+    }
+
+    void aTranslationThatCannotBeReadIsNotTakenOver_data() { addUnreadableFiles(); }
+
+    void aTranslationThatCannotBeReadIsNotTakenOver()
+    {
+        QFETCH(const QString, file);
+        writeFile(path("root/Locale/de-DE/words.csv"), "old");
+        const QString answered = path("share/NVX360/deu/words.csv");
+        QVERIFY(QDir().mkpath(QFileInfo(answered).path()));
+        QVERIFY(linkTo(file, answered));
+        job().download();
+        QVERIFY(m_reporter->lines.contains(text("1 download fails ") + answered));
+        QCOMPARE(readFile(path("root/Locale/de-DE/words.csv")), QByteArray("old"));
+    }
+
+    void aTranslationIsNotTakenOverIntoAFileWhoseProtectionStays()
+    {
+        writeFile(path("share/NVX360/deu/client.ts"), whole);
+        QVERIFY(linkTo(protectedFile(), path("root/Locale/de-DE/client.ts")));
+        job().download();
+        QVERIFY(m_reporter->lines.contains(text("1 download fails ") + path("share/NVX360/deu/client.ts")));
+    }
+
+    void translationsThatCannotBeReadAreNotUpdated()
+    {
+        QVERIFY(linkTo(breakingFile(), path("client.ts")));
+        QVERIFY(!tools().update(path("client.pro"), path("client.ts")));
+        QVERIFY(m_machine->calls.isEmpty());
+    }
+
+    void whatAToolMadeIsNotPutIntoAFileWhoseProtectionStays()
+    {
+        m_machine->whileRunning = [](const Nvx::Util::ProgramCall &call) {
+            writeFile(call.arguments.last(), "new");
+        };
+        QVERIFY(linkTo(protectedFile(), path("client.qm")));
+        QVERIFY(!tools().release(path("client.ts"), path("client.qm")));
+        QVERIFY(!QFile::exists(path("client.new.qm")));
+
+        QVERIFY(linkTo(protectedFile(), path("client.ts")));
+        QVERIFY(!tools().update(path("client.pro"), path("client.ts")));
+        QVERIFY(!QFile::exists(path("client.new.ts")));
+        QCOMPARE(m_machine->calls.size(), 2);
+    }
+
+    void aRibbonThatCannotBeCopiedIsLoggedForEachLanguage()
+    {
+        writeFile(path("NVX/localization.xml"),
+                  "<localization><root>" + path("root").toUtf8() + "</root></localization>");
+        writeFile(path("root/Projects/form.ui"), "<ui/>");
+        QVERIFY(linkTo(closedFile(), path("root/Projects/closed.cpp")));
+        const QString german = path("root/Locale/de-DE/Ribbon2D.xmal");
+        const QString french = path("root/Locale/fr-FR/Ribbon2D.xmal");
+        QVERIFY(linkTo(protectedFile(), german));
+        util::util_localization_tool(context()).runScript();
+        QVERIFY(m_reporter->lines.contains(text("1 Permission fails:") + german));
+        QVERIFY(m_reporter->lines.contains(text("1 Copy fails:") + french));
+        QVERIFY(m_reporter->lines.contains(
+            text("0 %1: 0 texts to translate").arg(path("root/Projects/closed.cpp"))));
+    }
+
+private:
+    QString path(const char *name) const { return m_test->path(text(name)); }
+    StepContext context() { return {*m_machine, *m_reporter, m_state}; }
+    util::TranslationTools tools() { return {context(), QString()}; }
+
+    util::TranslationJob job()
+    {
+        return {LocaleFolders(path("root"), *m_reporter),
+                path("share/NVX360"),
+                path("share/job"),
+                {text("*.ts"), text("*.csv")},
+                *m_reporter,
+                [](std::chrono::milliseconds) {}};
+    }
+
+    std::unique_ptr<TestMachine> m_test;
+    std::unique_ptr<RecordingReporter> m_reporter;
+    std::unique_ptr<RecordingMachine> m_machine;
+    RunState m_state;
+};
+
+QTEST_GUILESS_MAIN(tst_localization_odd_files)
+#include "tst_localization_odd_files.moc"

@@ -1,0 +1,35 @@
+// Files that break when they are read, and files that cannot be opened.
+
+#include "support/odd_files.h"
+#include "utility_fixture.h"
+
+#include <QTest>
+
+class TestMessageTableOddFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tableThatCannotBeReadIsReportedAndTheOldOneKept_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("it cannot be opened") << closedFile();
+        QTest::newRow("it breaks when it is read") << breakingFile();
+    }
+
+    void tableThatCannotBeReadIsReportedAndTheOldOneKept()
+    {
+        QFETCH(const QString, file);
+        UtilityFixture f;
+        QVERIFY(f.window.openFile(f.tableFile));
+        QVERIFY(!f.window.openFile(file));
+        QCOMPARE(f.dialogs.warnings.size(), 1);
+        const QString warning = f.dialogs.warnings.first().text;
+        QVERIFY2(warning.endsWith(file + u'\n' + errorOf(file)), qPrintable(warning));
+        QCOMPARE(f.window.fileName(), f.tableFile);
+        QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+    }
+};
+
+QTEST_MAIN(TestMessageTableOddFiles)
+#include "tst_message_table_odd_files.moc"

@@ -1,0 +1,57 @@
+// Files that do not answer as ordinary ones do.
+
+#include "nvx_util/whole_file.h"
+#include "support/file_bytes.h"
+#include "support/odd_files.h"
+#include "support/test_folder.h"
+
+#include <QFileInfo>
+#include <QTest>
+
+class TestWholeFileOdd : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void copyOfWhatCannotBeReadWholeLeavesNothing_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::newRow("it breaks when it is read") << breakingFile();
+        QTest::newRow("it is shorter than it says") << boastingFile();
+    }
+
+    void copyOfWhatCannotBeReadWholeLeavesNothing()
+    {
+        QFETCH(const QString, source);
+        const TestFolder folder;
+        QVERIFY(QFileInfo::exists(source));
+        QVERIFY(!Nvx::Util::copyToFreeName(source, folder.path(QStringLiteral("copy"))));
+        QVERIFY(QDir(folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    }
+
+    void linkThatLeadsNowhereIsNotCopiedOver()
+    {
+        const TestFolder folder;
+        const QString source = folder.path(QStringLiteral("source"));
+        const QString target = folder.path(QStringLiteral("target"));
+        QVERIFY(writeFile(source, "new"));
+        QVERIFY(QFile::link(folder.path(QStringLiteral("nowhere")), target));
+        QVERIFY(!Nvx::Util::copyToFreeName(source, target));
+        QVERIFY(QFileInfo(target).isSymLink());
+        QVERIFY(!QFile::exists(target + QStringLiteral(".part")));
+        QVERIFY(!QFile::exists(folder.path(QStringLiteral("nowhere"))));
+    }
+
+    void fileThatIsShorterThanItSaysDoesNotHoldWhatBeginsLikeIt()
+    {
+        const std::optional<QByteArray> line = fileBytes(boastingFile());
+        const qint64 claimed = QFileInfo(boastingFile()).size();
+        QVERIFY(line && line->size() < claimed);
+        // Were it taken for the same, this would count as done; it is not ours to write.
+        QVERIFY(!Nvx::Util::replaceWholeFile(boastingFile(), line->leftJustified(claimed, 'x')));
+        QCOMPARE(fileBytes(boastingFile()), line);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestWholeFileOdd)
+#include "tst_whole_file_odd.moc"

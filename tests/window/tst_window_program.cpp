@@ -1,0 +1,56 @@
+#include "line_window.h"
+#include "window/window_program.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+
+class TestWindowProgram : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // Settings of the user who runs the tests are not touched; on Windows the tests have a machine of their
+    // own.
+    void initTestCase()
+    {
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
+    }
+
+    void theNamedFileIsShownUntilTheProgramEnds()
+    {
+        const QString file = m_folder.path(QStringLiteral("lines.txt"));
+        QVERIFY(writeFile(file, "a\nb\n"));
+        QByteArray program("program");
+        QByteArray argument = QFile::encodeName(file);
+        char *argv[] = {program.data(), argument.data(), nullptr};
+        QString opened;
+        QString version;
+        bool isVisible = false;
+        const auto make = [&](Window::Dialogs &dialogs, QSettings &settings) {
+            auto window = std::make_unique<LineWindow>(dialogs, settings);
+            QTimer::singleShot(200, window.get(), [&, window = window.get()] {
+                opened = window->fileName();
+                isVisible = window->isVisible();
+                version = QApplication::applicationVersion();
+                QApplication::exit(7);
+            });
+            return window;
+        };
+        const int result = Window::runWindowProgram(2, argv, QStringLiteral("LineUtility"),
+                                                    QStringLiteral("lineutility"), make);
+        QCOMPARE(result, 7);
+        QCOMPARE(opened, file);
+        QVERIFY(isVisible);
+        QVERIFY(!version.isEmpty());
+        QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("LineUtility"));
+    }
+
+private:
+    TestFolder m_folder;
+};
+
+// The program makes its own application.
+QTEST_APPLESS_MAIN(TestWindowProgram)
+#include "tst_window_program.moc"
