@@ -58,6 +58,8 @@ private slots:
         row("-Lde-de keeps its spelling", "NVXConfig.exe -Lde-de", none, false, "de-de");
         row("-Lde is taken as it stands", "NVXConfig.exe -Lde", none, false, "de");
         row("-L alone is an empty locale", "NVXConfig.exe -L", none, false, "");
+        for (const char *locale : {"de-DE", "fr-FR", "it-IT", "ja-JP", "ko-KR", "ru-RU", "zh-CN", "zh-TW"})
+            row(locale, QByteArray("NVXConfig.exe -L").append(locale).constData(), none, false, locale);
         row("an unknown locale is en-US", "NVXConfig.exe -Lxx", none, false, "en-US");
         row("-Len-US is en-US", "NVXConfig.exe -Len-US", none, false, "en-US");
         row("the later locale wins", "NVXConfig.exe -Lde-DE -Lko-KR", none, false, "ko-KR");

@@ -46,6 +46,15 @@ private slots:
             "file:///C:/Program%20Files/NVX/NVXDefaultHelp.html");
         row("a path with signs", "C:\\100% & #1\\a?.html", "file:///C:/100%25%20&%20%231/a%3F.html");
         row("a letter and a colon are no drive without a slash", "C:a b.html", "c:a%20b.html");
+        row("the root of a drive", "C:\\", "file:///C:/");
+        row("a path with slashes", "a:/x", "file:///a:/x");
+        row("a digit is no drive", "1:/x", "");
+        row("a letter of another alphabet is no drive", "ä:/x", "");
+        row("a drive alone is no path", "C:", "c:");
+        row("a drive without a separator is no path", "C:x", "c:x");
+        row("the first and the last of letters and digits", "http://host/azAZ09", "http://host/azAZ09");
+        row("signs of an address", "http://host/-._~:/?#[]@!$&'()*+,;=%2F",
+            "http://host/-._~:/?#[]@!$&'()*+,;=%2F");
         row("a path on another machine", "\\\\server\\share\\a b.html", "file://server/share/a%20b.html");
         row("a path without a drive", "/opt/NVX/a b.html", "file:///opt/NVX/a%20b.html");
         row("installed help", "file:///C:\\ProgramData\\Velmora\\NVX 2017/NVXHelp/index.html?query=a b",

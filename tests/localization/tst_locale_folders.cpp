@@ -51,6 +51,7 @@ private slots:
         RecordingReporter reporter;
         LocaleFolders(root.path(), reporter).prepare();
         QVERIFY(isWritable(compiled));
+        QVERIFY(QFile::permissions(compiled) & QFile::ReadOwner);
         QVERIFY(!isWritable(source));
     }
 

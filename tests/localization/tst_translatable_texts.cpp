@@ -20,6 +20,8 @@ private slots:
         QTest::newRow("translate") << QByteArray("qApp->translate(\"Context\", \"Text\")") << 1;
         QTest::newRow("marked in a table")
             << QByteArray("{QT_TR_NOOP(\"A\"), QT_TRANSLATE_NOOP(\"C\", \"B\")}") << 2;
+        QTest::newRow("the older and the longer names")
+            << QByteArray("trUtf8(\"A\") QT_TRANSLATE_NOOP3(\"C\", \"B\", \"note\")") << 2;
         QTest::newRow("by id") << QByteArray("qtTrId(\"id\") QT_TRID_NOOP(\"id\")") << 2;
         QTest::newRow("one inside another") << QByteArray("tr(\"%1\").arg(tr(\"b\"))") << 2;
         QTest::newRow("without a literal") << QByteArray("tr(text); QObject::tr(text + \"a\")") << 0;
@@ -46,6 +48,7 @@ private slots:
             << QByteArray("<ui><string notr=\"true\">A</string><string notr=\"false\">B</string></ui>") << 1;
         QTest::newRow("empty") << QByteArray("<ui><string/><string></string></ui>") << 0;
         QTest::newRow("before an error") << QByteArray("<ui><string>A</string><b") << 1;
+        QTest::newRow("cut off within a text") << QByteArray("<ui><string>A") << 0;
         QTest::newRow("no XML") << QByteArray("string") << 0;
     }
 

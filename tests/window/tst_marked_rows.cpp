@@ -92,6 +92,8 @@ private slots:
         QTest::newRow("down, equal ones as they were")
             << 0 << Qt::DescendingOrder << std::vector<int>{2, 0, 1, 3};
         QTest::newRow("without case") << 1 << Qt::AscendingOrder << std::vector<int>{2, 1, 0, 3};
+        QTest::newRow("the column behind the last")
+            << 2 << Qt::AscendingOrder << std::vector<int>{0, 1, 2, 3};
         QTest::newRow("no such column") << 7 << Qt::AscendingOrder << std::vector<int>{0, 1, 2, 3};
     }
     void rowsAreSorted()
