@@ -127,7 +127,8 @@ def compile_command(file):
         at = words.index(option)
         del words[at : at + 2]
     words = [word for word in words if word != "-Werror"]
-    return [*words, "-O0", "-g0", "-w", "-iquote", str((COPY / file).parent)]
+    # Its time decides how long a run takes; this compiler reads precompiled includes twice as fast.
+    return ["clang++", *words[1:], "-O0", "-g0", "-w", "-iquote", str((COPY / file).parent)]
 
 
 def link_command(test):
@@ -180,7 +181,8 @@ class Bench:
         while length < len(lines) and (not lines[length] or lines[length].startswith(("#include", "//"))):
             length += 1
         (self.place / "preamble.h").write_text("\n".join(lines[:length]) + "\n", encoding="utf-8")
-        command = [*self.command, "-x", "c++-header", "preamble.h", "-o", "preamble.h.gch"]
+        command = [*self.command, "-x", "c++-header", "-fpch-instantiate-templates", "preamble.h"]
+        command += ["-o", "preamble.pch"]
         subprocess.run(command, cwd=self.place, check=True)
         return length
 
@@ -192,7 +194,7 @@ class Bench:
         named = f'#line {self.preamble_end + 1} "{COPY / self.unit.file}"\n'
         source.write_text(named + rest, encoding="utf-8")
         object_file = folder / "mutant.o"
-        command = [*self.command, "-include", "preamble.h", "-c", str(source), "-o", str(object_file)]
+        command = [*self.command, "-include-pch", "preamble.pch", "-c", str(source), "-o", str(object_file)]
         done = subprocess.run(command, cwd=self.place, capture_output=True, text=True, check=False)
         return done.returncode == 0
 
