@@ -91,7 +91,8 @@ LOGIC = re.compile(r" (?:<|>|<=|>=|==|!=|&&|\|\|) |!|=|;")
 NOTHING = re.compile(r"(?:\{\}|false|true|0|nullptr|std::nullopt|[A-Z][\w:]*(?:<[\w:]+>)?(?:\(\)|\{\}))")
 TEXTS_AROUND = re.compile(r"(?:QStringLiteral|QLatin1String|QLatin1Char|QChar|QString|QByteArray)\(")
 
-NO_STATEMENT = re.compile(r"[\w.]+\.reserve\(|(?:return|break|continue|case|default|using|static_assert|friend)\b")
+WITHOUT_EFFECT = re.compile(r"static_assert|NVX_ASSERT|[\w.]+\.reserve\(")  # on anything that a test sees
+NO_STATEMENT = re.compile(r"(?:return|break|continue|case|default|using|static_assert|friend)\b")
 BEFORE_STATEMENT = re.compile(r"(?:[;{}:]|\belse)$|^(?:else )?(?:if|for) \(.*\)$")
 DECLARATION = re.compile(
     r"(?:(?:static|constexpr|const|mutable|auto|using|explicit|virtual|friend|enum|template|typedef|Q_\w+)\b"
@@ -130,7 +131,7 @@ class Finder:
     def add(self, start, end, replacement, change):
         line = self.line_of(start)
         source = self.lines[line - 1].strip()
-        if not source.startswith(("static_assert", "NVX_ASSERT")):  # which hold whatever a test does
+        if not WITHOUT_EFFECT.match(source):
             self.found.append(Mutant(start, end, replacement, line, source, change))
 
     def replace(self, start, end, replacement):

@@ -100,11 +100,15 @@ QString System::getProgramFilesPathFromRegistry(bool thirtyTwoBit)
     return windows.text(value).value_or(QString());
 }
 
+QString supportedLocale(QString systemName)
+{
+    systemName.replace(QLatin1Char('_'), QLatin1Char('-'));
+    return System::validLocales().contains(systemName) ? systemName : builtInLocale;
+}
+
 QString supportedSystemLocale()
 {
-    QString name = QLocale::system().name();
-    name.replace(QLatin1Char('_'), QLatin1Char('-'));
-    return System::validLocales().contains(name) ? name : builtInLocale;
+    return supportedLocale(QLocale::system().name());
 }
 
 } // namespace Nvx::Util

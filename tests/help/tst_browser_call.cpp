@@ -171,6 +171,8 @@ private slots:
         row("a path with blanks and no quotes, alone", browser, {browser, address});
         row("a folder that looks like a program", QStringLiteral("C:\\b.exes\\a b.exe %1"),
             {QStringLiteral("C:\\b.exes\\a b.exe"), bare});
+        row("a program that is all suffix", QStringLiteral(".exe -x b.exe"),
+            {QStringLiteral(".exe"), QStringLiteral("-x"), QStringLiteral("b.exe"), address});
         row("a program of no suffix", QStringLiteral("/usr/bin/browser %1"),
             {QStringLiteral("/usr/bin/browser"), bare});
         row("blanks around", QStringLiteral("  ") + quoted + QStringLiteral("  "), {browser, address});

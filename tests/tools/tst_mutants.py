@@ -51,6 +51,8 @@ class TestMutants(unittest.TestCase):
             "joined texts": ('auto b = x + "%1";', []),
             "a comment": ("auto b = c; // x < y, 1, true", []),
             "a directive": ("#define b 1 < 2", []),
+            "room made beforehand": ("m_texts.reserve(x + 1);", []),
+            "an assertion": ("NVX_ASSERT(x < y, unit);", []),
             "an escape alone": (r'auto b = "\n";', []),
         }
         for name, (line, expected) in rows.items():

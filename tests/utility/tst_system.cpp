@@ -115,6 +115,24 @@ private slots:
         QVERIFY(System::validLocales().contains(System::getLocale()));
     }
 
+    void theSystemsLocaleIsTakenWhenTheProductSpeaksIt_data()
+    {
+        QTest::addColumn<QString>("systemName");
+        QTest::addColumn<QString>("locale");
+        QTest::newRow("German") << QStringLiteral("de_DE") << QStringLiteral("de-DE");
+        QTest::newRow("Chinese of Taiwan") << QStringLiteral("zh_TW") << QStringLiteral("zh-TW");
+        QTest::newRow("written with a hyphen already") << QStringLiteral("ja-JP") << QStringLiteral("ja-JP");
+        QTest::newRow("another country's German") << QStringLiteral("de_AT") << QStringLiteral("en-US");
+        QTest::newRow("a language that is not spoken") << QStringLiteral("sv_SE") << QStringLiteral("en-US");
+        QTest::newRow("none") << QStringLiteral("C") << QStringLiteral("en-US");
+    }
+
+    void theSystemsLocaleIsTakenWhenTheProductSpeaksIt()
+    {
+        QFETCH(QString, systemName);
+        QTEST(Nvx::Util::supportedLocale(systemName), "locale");
+    }
+
     void variablesOfTheEnvironmentAreReadAndMissingOnesAreEmpty()
     {
         m_machine->setVariable("NVX_TEST_VARIABLE", QStringLiteral("a b"));

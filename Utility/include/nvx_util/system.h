@@ -57,8 +57,11 @@ public:
     static QString getProgramFilesPathFromRegistry(bool thirtyTwoBit);
 };
 
-/// The name of the system's locale with a hyphen ("de-DE") when it is one of System::validLocales, else
-/// "en-US".
+/// A locale that the system names "de_DE" with a hyphen, "de-DE", when it is one of System::validLocales,
+/// else "en-US".
+QString supportedLocale(QString systemName);
+
+/// That of the system's own locale.
 QString supportedSystemLocale();
 
 /// folder and relativePath (written with "/") joined by one native separator, with native separators
