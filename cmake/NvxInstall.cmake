@@ -4,9 +4,11 @@
 # lie in bin, with the libraries that are not of the operating system itself in lib and Qt's plug-ins in
 # plugins.
 
-set(nvx_programs NVXConfig UpdateErrorTable MessageTableUtility MaterialNameUtility)
+set(nvx_tools UpdateErrorTable MessageTableUtility MaterialNameUtility)
+set(nvx_programs NVXConfig ${nvx_tools})
 
 if(WIN32)
+    set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME programs)
     install(TARGETS ${nvx_programs} RUNTIME DESTINATION .)
     install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION . FILES_MATCHING PATTERN "*.qm")
 
@@ -21,11 +23,27 @@ if(WIN32)
             COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${library}
             OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
         get_filename_component(path "${path}" REALPATH)
-        install(FILES "${path}" DESTINATION .)
+        # Nine tenths of the largest one is of use in a debugger only.
+        set(stripped "${CMAKE_BINARY_DIR}/runtime/${library}")
+        file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/runtime")
+        execute_process(
+            COMMAND "${CMAKE_STRIP}" -o "${stripped}" "${path}" COMMAND_ERROR_IS_FATAL ANY)
+        install(FILES "${stripped}" DESTINATION .)
     endforeach()
+    include(NvxLicences)
+
+    # The sample product is laid out for the set-up program only.
+    foreach(folder product translators)
+        install(DIRECTORY "${CMAKE_BINARY_DIR}/sample/${folder}" DESTINATION .
+            COMPONENT sample EXCLUDE_FROM_ALL)
+    endforeach()
+    install(FILES "${NVX_CACHE}/7zip-windows/LICENSE.txt" DESTINATION product/licences/7-Zip
+        COMPONENT sample EXCLUDE_FROM_ALL)
     return()
 endif()
 
+# The developers' tools are a package of their own: what is only of the configuration is apart.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME tools)
 set_target_properties(${nvx_programs} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
 foreach(program ${nvx_programs})
     # The old kind of run path serves the libraries' own libraries too.
@@ -38,12 +56,18 @@ set(system_libraries
     "^lib(c|m|dl|rt|pthread|resolv|gcc_s|stdc\\+\\+)\\.so"
     "^lib(GL|GLX|GLdispatch|EGL|OpenGL|gbm|drm)[.-]"
     "^lib(X|x)" "^libfontconfig" "^libfreetype" "^libwayland")
-install(TARGETS ${nvx_programs}
-    RUNTIME_DEPENDENCY_SET nvx_dependencies
+install(TARGETS ${nvx_tools}
+    RUNTIME_DEPENDENCY_SET nvx_tools_dependencies
     RUNTIME DESTINATION bin)
-install(RUNTIME_DEPENDENCY_SET nvx_dependencies
+install(RUNTIME_DEPENDENCY_SET nvx_tools_dependencies
     PRE_EXCLUDE_REGEXES ${system_libraries}
     DESTINATION lib)
+install(TARGETS NVXConfig
+    RUNTIME_DEPENDENCY_SET nvx_configuration_dependencies
+    RUNTIME DESTINATION bin COMPONENT configuration)
+install(RUNTIME_DEPENDENCY_SET nvx_configuration_dependencies
+    PRE_EXCLUDE_REGEXES ${system_libraries}
+    DESTINATION lib COMPONENT configuration)
 
 get_target_property(qt_core_library Qt6::Core LOCATION)
 get_filename_component(qt_library_folder "${qt_core_library}" DIRECTORY)
@@ -54,4 +78,8 @@ endforeach()
 install(FILES "${qt_library_folder}/libQt6XcbQpa.so.6" DESTINATION lib)
 file(WRITE "${CMAKE_BINARY_DIR}/qt.conf" "[Paths]\nPrefix=..\nPlugins=plugins\n")
 install(FILES "${CMAKE_BINARY_DIR}/qt.conf" DESTINATION bin)
-install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION bin FILES_MATCHING PATTERN "*.qm")
+install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION bin
+    FILES_MATCHING PATTERN "*.qm" PATTERN "nvxconfig.qm" EXCLUDE)
+install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION bin COMPONENT configuration
+    FILES_MATCHING PATTERN "nvxconfig.qm")
+include(NvxLicences)

@@ -8,10 +8,7 @@ folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 installed="$folder/NVX 2017 größe"
 
-fail() {
-    echo "FAIL: $*" >&2
-    exit 1
-}
+. "$(dirname "${BASH_SOURCE[0]}")/installed.sh"
 
 "$cmake" --install "$build" --prefix "$installed" >"$folder/install.log"
 program="$installed/bin/NVXConfig"
@@ -46,21 +43,9 @@ done
 env -i LC_ALL=C.UTF-8 "$installed/bin/UpdateErrorTable" -h | grep -q '^Usage: UpdateErrorTable' ||
     fail "UpdateErrorTable does not run"
 
-# So do the windows: each remembers the file that it opened, and goes on until it is ended.
-try_window() {
-    local program=$1 file=$2 settings=$folder/config/Velmora/$1.conf window i
-    env -i LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME="$folder/config" HOME="$folder" \
-        "$installed/bin/$program" "$file" 2>"$folder/$program.errors" &
-    window=$!
-    for ((i = 0; i < 100; ++i)); do
-        grep -qsF "${file##*/}" "$settings" && break
-        sleep 0.2
-    done
-    kill "$window" || fail "$program does not run: $(cat "$folder/$program.errors")"
-    grep -qsF "${file##*/}" "$settings" || fail "$program did not open its file"
-}
+# So do the windows.
 echo '<messageTable/>' >"$folder/table.xml"
-try_window MessageTableUtility "$folder/table.xml"
+try_window MessageTableUtility "$folder/table.xml" messagetableutility nvxwindow qt_de_DE
 echo '<TS/>' >"$folder/matprop.ts"
-try_window MaterialNameUtility "$folder/matprop.ts"
+try_window MaterialNameUtility "$folder/matprop.ts" materialnameutility nvxwindow qt_de_DE
 echo "the installed folder runs as it stands"

@@ -1,0 +1,188 @@
+; How the product's files come to the machine: all of them or none.
+;
+; They are unpacked beside their places first, in a folder of ours, so that a full disk or a broken set-up is
+; met before anything has changed. Then each one that is there moves into that folder, and the new one into
+; its place. Until the set-up is through, that can be taken back, also by the next set-up when this one was
+; killed.
+
+!define WORK "\setup in progress"
+!define NEW "${WORK}\new"
+!define OLD "${WORK}\old"
+; There from the moment when everything is unpacked until all is settled.
+!define MARK "${WORK}\replacing"
+
+; Does something with each file of the product, with $Root set to the folder that it belongs in.
+!macro EachFile ACTION
+    StrCpy $Root $INSTDIR
+    !insertmacro EachProductFile ${ACTION}
+    StrCpy $Root $Translators
+    !insertmacro EachTranslatorsFile ${ACTION}
+!macroend
+
+; The same with each folder, a folder after those in it.
+!macro EachFolder ACTION
+    StrCpy $Root $Translators
+    !insertmacro EachTranslatorsFolder ${ACTION}
+    StrCpy $Root $INSTDIR
+    !insertmacro EachProductFolder ${ACTION}
+!macroend
+
+!macro Unpack FOLDER FILE SOURCE
+    SetOutPath "$Root${NEW}${FOLDER}"
+    File "${SOURCE}"
+!macroend
+
+; The functions take the folder in $R0 and the file in $R1.
+!macro CallWith FUNCTION FOLDER FILE
+    StrCpy $R0 "${FOLDER}"
+    StrCpy $R1 "${FILE}"
+    Call ${FUNCTION}
+!macroend
+!macro Replace FOLDER FILE SOURCE
+    !insertmacro CallWith ReplaceFile "${FOLDER}" "${FILE}"
+!macroend
+!macro TakeBack FOLDER FILE SOURCE
+    !insertmacro CallWith TakeFileBack "${FOLDER}" "${FILE}"
+!macroend
+!macro DropWork FOLDER FILE SOURCE
+    !insertmacro CallWith DropWorkFile "${FOLDER}" "${FILE}"
+!macroend
+!macro DropWorkFolder FOLDER
+    RMDir "$Root${NEW}${FOLDER}"
+    RMDir "$Root${OLD}${FOLDER}"
+!macroend
+!macro DropFolder FOLDER
+    RMDir "$Root${FOLDER}"
+!macroend
+
+; Puts the unpacked file in its place and keeps the one that was there. What cannot be done is asked about,
+; and ends a silent set-up.
+Function ReplaceFile
+    StrCpy $0 "$Root$R1"
+again:
+    ${If} ${FileExists} "$0\*.*"
+        ; A folder of somebody else's.
+        Goto failed
+    ${ElseIf} ${FileExists} "$0"
+        CreateDirectory "$Root${OLD}$R0"
+        Delete "$Root${OLD}$R1"
+        ClearErrors
+        Rename "$0" "$Root${OLD}$R1"
+        IfErrors failed
+    ${EndIf}
+    CreateDirectory "$Root$R0"
+    ClearErrors
+    Rename "$Root${NEW}$R1" "$0"
+    IfErrors failed
+    Return
+failed:
+    MessageBox MB_RETRYCANCEL|MB_ICONSTOP "$(^FileError_NoIgnore)" /SD IDCANCEL IDRETRY again
+    Abort "$(^CantWrite)$0"
+FunctionEnd
+
+; The other way round. May be done again, from wherever it was broken off.
+Function TakeFileBack
+    ${IfNot} ${FileExists} "$Root${NEW}$R1"
+        Rename "$Root$R1" "$Root${NEW}$R1"
+    ${EndIf}
+    ${If} ${FileExists} "$Root${OLD}$R1"
+        Rename "$Root${OLD}$R1" "$Root$R1"
+    ${EndIf}
+FunctionEnd
+
+; A program that runs cannot be deleted; Windows does that when it starts next.
+Function DropWorkFile
+    Delete "$Root${NEW}$R1"
+    Delete /REBOOTOK "$Root${OLD}$R1"
+FunctionEnd
+
+Function UnpackFiles
+    !insertmacro EachFile Unpack
+    ; The folder that a program works in cannot be removed.
+    SetOutPath $TEMP
+    StrCpy $0 "$INSTDIR${NEW}\uninstall.exe"
+    ClearErrors
+    WriteUninstaller "$0"
+    ${If} ${Errors}
+        Abort "$(^CantWrite)$0"
+    ${EndIf}
+FunctionEnd
+
+Function ReplaceFiles
+    StrCpy $0 "$INSTDIR${MARK}"
+    ClearErrors
+    FileOpen $1 "$0" w
+    ${If} ${Errors}
+        Abort "$(^CantWrite)$0"
+    ${EndIf}
+    FileClose $1
+    !insertmacro EachFile Replace
+    StrCpy $Root $INSTDIR
+    !insertmacro CallWith ReplaceFile "" "\uninstall.exe"
+FunctionEnd
+
+; From here on nothing is taken back.
+Function SettleFiles
+    Delete "$INSTDIR${MARK}"
+    Call DropWorkFiles
+FunctionEnd
+
+Function DropWorkFiles
+    !insertmacro EachFile DropWork
+    StrCpy $Root $INSTDIR
+    !insertmacro CallWith DropWorkFile "" "\uninstall.exe"
+    !insertmacro EachFolder DropWorkFolder
+    RMDir "$Translators${WORK}"
+    RMDir "$INSTDIR${WORK}"
+FunctionEnd
+
+; Makes the folders what they were before a set-up that did not come to its end.
+Function TakeFilesBack
+    SetOutPath $TEMP
+    ${If} ${FileExists} "$INSTDIR${MARK}"
+        !insertmacro EachFile TakeBack
+        StrCpy $Root $INSTDIR
+        !insertmacro CallWith TakeFileBack "" "\uninstall.exe"
+        Delete "$INSTDIR${MARK}"
+    ${EndIf}
+    Call DropWorkFiles
+    !insertmacro EachFolder DropFolder
+    Call DropOuterFolders
+FunctionEnd
+
+; The folders around ours, as long as nobody else has something in them.
+!macro OuterFolders UN
+Function ${UN}DropOuterFolders
+    RMDir "$PROGRAMFILES64\Velmora\Kelvane\Translators"
+    RMDir "$PROGRAMFILES64\Velmora\Kelvane"
+    RMDir "$PROGRAMFILES64\Velmora"
+FunctionEnd
+!macroend
+!insertmacro OuterFolders ""
+!insertmacro OuterFolders "un."
+
+; A removal takes the files of the list away, and those that the product has made beside them: the libraries
+; of the chosen language and the viewer's note. $Left names a file that could not be deleted.
+!macro Remove FOLDER FILE SOURCE
+    StrCpy $R1 "$Root${FILE}"
+    Call un.RemoveFile
+!macroend
+
+Function un.RemoveFile
+    Delete "$R1"
+    ${If} ${FileExists} "$R1"
+        StrCpy $Left $R1
+        DetailPrint "$(^CantWrite)$R1"
+    ${EndIf}
+FunctionEnd
+
+Function un.RemoveFiles
+    SetOutPath $TEMP
+    !insertmacro EachFile Remove
+    StrCpy $Root $INSTDIR
+    !insertmacro Remove "" "\VistrelResources.dll" ""
+    !insertmacro Remove "" "\VelmoraApplicationFrameRes.dll" ""
+    !insertmacro Remove "\ja" "\ja\ZorvRes.dll" ""
+    !insertmacro Remove "\NVX Viewer" "\NVX Viewer\last-start.txt" ""
+    RMDir "$INSTDIR\ja"
+FunctionEnd

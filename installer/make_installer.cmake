@@ -1,0 +1,66 @@
+# Makes the set-up program of what CPack has laid out: the folder "product" is what belongs into the install
+# dir, "translators" what belongs into the folder of the translators. Run by CPack.
+
+find_program(makensis makensis REQUIRED)
+
+# describe_files(NAME FOLDER): adds macros to `lists` that do something with each file of the folder, and with
+# each folder, a folder after those in it; adds the size of the files to `bytes`.
+function(describe_files name folder)
+    file(GLOB_RECURSE files RELATIVE "${folder}" LIST_DIRECTORIES false "${folder}/*")
+    list(SORT files)
+    set(folders "")
+    string(APPEND lists "!macro Each${name}File ACTION\n")
+    foreach(file ${files})
+        get_filename_component(parent "${file}" DIRECTORY)
+        set(place "")
+        if(parent)
+            set(place "/${parent}")
+        endif()
+        string(REPLACE "/" "\\" windows_place "${place}")
+        string(REPLACE "/" "\\" windows_file "/${file}")
+        string(APPEND lists
+            "    !insertmacro \${ACTION} \"${windows_place}\" \"${windows_file}\" \"${folder}/${file}\"\n")
+        file(SIZE "${folder}/${file}" size)
+        math(EXPR bytes "${bytes} + ${size}")
+        while(place)
+            list(APPEND folders "${place}")
+            string(REGEX REPLACE "/[^/]*$" "" place "${place}")
+        endwhile()
+    endforeach()
+    list(REMOVE_DUPLICATES folders)
+    list(SORT folders ORDER DESCENDING)
+    string(APPEND lists "!macroend\n!macro Each${name}Folder ACTION\n")
+    foreach(place ${folders})
+        string(REPLACE "/" "\\" place "${place}")
+        string(APPEND lists "    !insertmacro \${ACTION} \"${place}\"\n")
+    endforeach()
+    string(APPEND lists "    !insertmacro \${ACTION} \"\"\n!macroend\n")
+    set(lists "${lists}" PARENT_SCOPE)
+    set(bytes "${bytes}" PARENT_SCOPE)
+endfunction()
+
+set(lists "")
+set(bytes 0)
+set(laid_out "${CPACK_TEMPORARY_DIRECTORY}")
+describe_files(Product "${laid_out}/product")
+describe_files(Translators "${laid_out}/translators")
+set(lists_file "${CPACK_TOPLEVEL_DIRECTORY}/files.nsh")
+# The mark of the encoding, without which the compiler would read the names in another one.
+string(ASCII 239 187 191 mark)
+file(WRITE "${lists_file}" "${mark}${lists}")
+
+math(EXPR kilobytes "${bytes} / 1024")
+set(set_up "${CPACK_TOPLEVEL_DIRECTORY}/${CPACK_PACKAGE_NAME}-${CPACK_PACKAGE_VERSION}-setup.exe")
+execute_process(
+    COMMAND "${makensis}" -V2 -WX -INPUTCHARSET UTF8
+        "-DPRODUCT_VERSION=${CPACK_PACKAGE_VERSION}"
+        "-DPRODUCT_KILOBYTES=${kilobytes}"
+        "-DLISTS=${lists_file}"
+        "-DICON=${NVX_INSTALLER_ICON}"
+        "-DOUT_FILE=${set_up}"
+        "${CMAKE_CURRENT_LIST_DIR}/nvx.nsi"
+    RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+    message(FATAL_ERROR "The set-up program was not made: makensis answered ${result}")
+endif()
+set(CPACK_EXTERNAL_BUILT_PACKAGES "${set_up}")

@@ -1,0 +1,187 @@
+; The installer of NVX 2017: copies the product, runs its configuration, and takes both back.
+;
+;     /S            without a window; the exit status is 0 only when all is installed
+;     /LANG=de-DE   the language of the installer and of the product
+;     /D=FOLDER     where to; the last option, without quotes
+;
+; A product that is installed already is replaced where it is, in its language if no other is named.
+;
+; Defined by the build: PRODUCT_VERSION, PRODUCT_KILOBYTES, LISTS (the lists of the files), ICON and OUT_FILE.
+
+Target amd64-unicode
+SetCompressor /SOLID lzma
+
+!include MUI2.nsh
+!include LogicLib.nsh
+!include FileFunc.nsh
+!include WinMessages.nsh
+
+Name "NVX 2017"
+OutFile "${OUT_FILE}"
+InstallDir "$PROGRAMFILES64\Velmora\NVX 2017"
+BrandingText "Velmora NVX 2017"
+RequestExecutionLevel admin
+ManifestDPIAware true
+ManifestSupportedOS all
+AllowSkipFiles off
+
+Var Locale
+; The folder that a file of the lists belongs in: the install dir or the translators' one.
+Var Root
+Var Translators
+; What the set-up has done that would have to be taken back: "", "stopped", "registered".
+Var Done
+; Whether the product was there before.
+Var Upgrade
+Var VersionBefore
+; A file that a removal could not delete.
+Var Left
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_ABORTWARNING
+!define MUI_LANGDLL_ALLLANGUAGES
+
+!insertmacro MUI_PAGE_WELCOME
+!define MUI_PAGE_CUSTOMFUNCTION_PRE SkipWhenInstalled
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+
+!include "${LISTS}"
+!include registry.nsh
+!include languages.nsh
+!include configuration.nsh
+!include files.nsh
+
+VIProductVersion "${PRODUCT_VERSION}.0"
+VIFileVersion "${PRODUCT_VERSION}.0"
+!macro TellVersion LOCALE NAME ID
+    VIAddVersionKey /LANG=${LANG_${ID}} CompanyName "Velmora"
+    VIAddVersionKey /LANG=${LANG_${ID}} ProductName "NVX 2017"
+    VIAddVersionKey /LANG=${LANG_${ID}} ProductVersion "2017"
+    VIAddVersionKey /LANG=${LANG_${ID}} FileDescription "NVX 2017"
+    VIAddVersionKey /LANG=${LANG_${ID}} FileVersion "${PRODUCT_VERSION}"
+    VIAddVersionKey /LANG=${LANG_${ID}} LegalCopyright "Velmora"
+!macroend
+!insertmacro EachLanguage TellVersion
+
+Function .onInit
+    SetRegView 64
+    SetShellVarContext all
+    Call ChooseLanguage
+    ${GetParameters} $1
+    ClearErrors
+    ${GetOptions} $1 "/LANG=" $0
+    ${If} ${Errors}
+        ; Asks nothing in a silent run.
+        !insertmacro MUI_LANGDLL_DISPLAY
+        Call NameLocale
+    ${EndIf}
+    Call FindInstalled
+FunctionEnd
+
+; $Upgrade; a product that is installed stays in its folder.
+Function FindInstalled
+    ReadRegStr $0 HKLM "${UNINSTALL_KEY}" "InstallLocation"
+    StrCpy $Upgrade no
+    ${If} $0 != ""
+    ${AndIf} ${FileExists} "$0\NVXConfig.exe"
+        StrCpy $INSTDIR $0
+        StrCpy $Upgrade yes
+    ${EndIf}
+FunctionEnd
+
+Function SkipWhenInstalled
+    ${If} $Upgrade == yes
+        Abort
+    ${EndIf}
+FunctionEnd
+
+Section
+    StrCpy $Done ""
+    Call FindTranslators
+    ${If} ${FileExists} "$INSTDIR${MARK}"
+        Call TakeFilesBack
+    ${EndIf}
+    ; Also one that was not registered, or whose folder was chosen on the page.
+    ${If} ${FileExists} "$INSTDIR\NVXConfig.exe"
+        StrCpy $Upgrade yes
+    ${EndIf}
+
+    ReadRegStr $VersionBefore HKLM "${UNINSTALL_KEY}" "DisplayVersion"
+    Call UnpackFiles
+    ${If} $Upgrade == yes
+        ; The server's program is free when its service is gone.
+        StrCpy $Done stopped
+        StrCpy $R0 "-ST -S -L$Locale"
+        Call Configure
+    ${EndIf}
+    Call ReplaceFiles
+
+    StrCpy $Done registered
+    Call WriteEntry
+    Call SetVariables
+    StrCpy $R0 "-I -S -L$Locale"
+    Call Configure
+    ${If} ${Errors}
+        Abort "$(^Exec)$INSTDIR\NVXConfig.exe"
+    ${EndIf}
+    Call SettleFiles
+SectionEnd
+
+Function .onInstFailed
+    Call TakeFilesBack
+    ${If} $Upgrade == yes
+    ${AndIf} $Done != ""
+        ; The product of before goes on, in its language.
+        ${If} $VersionBefore == ""
+            Call ClearEntry
+        ${Else}
+            WriteRegStr HKLM "${UNINSTALL_KEY}" "DisplayVersion" "$VersionBefore"
+        ${EndIf}
+        Call InstalledLocale
+        ${If} $0 != ""
+            StrCpy $Locale $0
+        ${EndIf}
+        Call SetVariables
+        StrCpy $R0 "-I -S -L$Locale"
+        Call Configure
+    ${ElseIf} $Done == registered
+        Call ClearVariables
+        Call ClearEntry
+    ${EndIf}
+FunctionEnd
+
+Function un.onInit
+    SetRegView 64
+    SetShellVarContext all
+    Call un.ChooseLanguage
+    ReadRegStr $Translators HKLM "${UNINSTALL_KEY}" "TranslatorsFolder"
+FunctionEnd
+
+Section un.Product
+    ${If} ${FileExists} "$INSTDIR\NVXConfig.exe"
+        StrCpy $R0 "-U -S -L$Locale"
+        Call un.Configure
+        ${If} ${Errors}
+            Abort "$(^Exec)$INSTDIR\NVXConfig.exe"
+        ${EndIf}
+    ${EndIf}
+    StrCpy $Left ""
+    Call un.RemoveFiles
+    ${If} $Left != ""
+        ; The entry stays, and with it the way to try again.
+        Abort "$(^CantWrite)$Left"
+    ${EndIf}
+    StrCpy $Root $Translators
+    !insertmacro EachTranslatorsFolder DropFolder
+    Call un.ClearVariables
+    Call un.ClearEntry
+    Delete "$INSTDIR\uninstall.exe"
+    StrCpy $Root $INSTDIR
+    !insertmacro EachProductFolder DropFolder
+    Call un.DropOuterFolders
+SectionEnd

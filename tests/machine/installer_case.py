@@ -1,0 +1,62 @@
+"""What the tests of the set-up program share."""
+
+import hashlib
+import shutil
+import time
+
+import machine_case
+from winemachine import INSTALL_DIR
+
+SET_UP = machine_case.BUILD / "package" / "NVX-2017-17.2.0-setup.exe"
+UNINSTALL_KEY = (
+    "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\NVX 2017"
+)
+# What the product leaves of its own in the install dir, and the set-up's removal takes away.
+EXTRAS = [
+    INSTALL_DIR + "\\" + name
+    for name in (
+        "VelmoraApplicationFrameRes.dll",
+        "VistrelResources.dll",
+        "NVX Viewer\\last-start.txt",
+    )
+]
+
+
+class InstallerCase:
+    """Beside a MachineCase: runs the set-up program on its machine."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        shutil.copy(SET_UP, cls.machine.path("C:\\set-up.exe"))
+
+    def set_up(self, *tokens):
+        return self.machine.run("C:\\set-up.exe", *tokens).returncode
+
+    def remove(self, command):
+        """Runs the command of the uninstall entry as Windows does, without a window, and waits for its end:
+        the program goes on in a copy of itself."""
+        program, _, options = command.removeprefix('"').partition('"')
+        self.machine.run(program, *options.split(), "/S")
+        for _ in range(400):
+            if not self.exists(program) and not self.is_removing():
+                return
+            time.sleep(0.5)
+        self.fail("the removal does not come to its end")
+
+    def is_removing(self):
+        """Whether a copy of the uninstaller runs, under the name that it gives itself."""
+        shown = self.machine.run("tasklist").stdout
+        return b"Un_" in shown or b"Au_" in shown
+
+    def server_is_running(self):
+        started = self.machine.run("net", "start").stdout.decode("utf-8", "replace")
+        return "NVX 2017 Server" in started
+
+    def log_lines(self, install_dir=INSTALL_DIR):
+        return machine_case.log_lines(self.machine.path(install_dir) / "NVXConfig.log")
+
+
+def hash_of(contents):
+    """As Machine.files tells it."""
+    return hashlib.sha256(contents).hexdigest()

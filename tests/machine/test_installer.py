@@ -1,0 +1,213 @@
+"""The set-up program, run without a window: what it brings, how the product is told of it, and what a removal
+leaves. How it fails stands in test_installer_faults.py."""
+
+import unittest
+
+from installer_case import EXTRAS, UNINSTALL_KEY, InstallerCase, hash_of
+from launcher_case import ADDIN, LauncherCase, target_manifest
+from cadsystems import COM_CLASSES, PROTK_2
+from machine_case import BUILD, MachineCase
+from test_cycles import LEFT
+from winemachine import (
+    ENVIRONMENT_KEY,
+    INSTALL_DIR,
+    SHARED_DATA,
+    TRANSLATORS,
+    TRANSLATORS_KEY,
+    TUTORIALS,
+    value_of,
+)
+
+VARIABLES = ("OSTRADE", "OSTRADE2017DIR", "OSTRADE2017TEMP")
+PRODUCT_KEY = "HKEY_LOCAL_MACHINE\\Software\\Velmora\\NVX\\17.2"
+SHORTCUT = "C:\\users\\Public\\Desktop\\Velmora NVX 2017.lnk"
+# Somebody else's files in our folders.
+FOREIGN = [INSTALL_DIR + "\\my notes.txt", INSTALL_DIR + "\\licences\\Qt\\mine.txt"]
+MATERIALS = SHARED_DATA + "\\matprop.nvxmdb"
+MENU = INSTALL_DIR + "\\Launchers\\UGNX\\startup\\NVX_2017.men"
+
+
+class Installer(InstallerCase, LauncherCase):
+    """Installed in German, turned to French by the product, installed again, and removed."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        case = cls()
+        for path in FOREIGN:
+            case.write(path, b"mine")
+        cls.before = cls.machine.files()
+
+        cls.code = case.set_up("/S", "/LANG=de-DE")
+        cls.running = case.server_is_running()
+        cls.installed = cls.machine.files()
+        cls.registry = cls.machine.registry()
+        cls.lines = case.log_lines()
+
+        case.configure(INSTALL_DIR, "-I", "-S", "-Lfr-FR")
+        cls.french_registry = cls.machine.registry()
+
+        case.write(MATERIALS, b"the user's materials")
+        case.write(MENU, b"of an older release")
+        case.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink()
+        cls.second_code = case.set_up("/S", "/NONSENSE")
+        cls.second_running = case.server_is_running()
+        cls.second = cls.machine.files()
+        cls.second_registry = cls.machine.registry()
+        cls.second_lines = case.log_lines()
+
+        case.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink()
+        case.remove(cls.command_of(cls.second_registry))
+        cls.removed = cls.machine.files()
+        cls.removed_registry = cls.machine.registry()
+        cls.removal_lines = case.log_lines()
+
+    @staticmethod
+    def command_of(registry):
+        return value_of(registry, UNINSTALL_KEY, "UninstallString")
+
+    def test_it_ends_with_exit_status_0(self):
+        self.assertEqual((self.code, self.second_code), (0, 0))
+
+    def test_every_file_of_the_sample_and_the_programs_is_there(self):
+        for place, folder in (
+            (INSTALL_DIR, BUILD / "sample" / "product"),
+            (INSTALL_DIR, BUILD / "installed"),
+            (TRANSLATORS, BUILD / "sample" / "translators"),
+        ):
+            files = [path for path in folder.rglob("*") if path.is_file()]
+            self.assertTrue(files)
+            for path in files:
+                there = place + "\\" + str(path.relative_to(folder)).replace("/", "\\")
+                self.assertIn(there, self.installed)
+        self.assertIn(INSTALL_DIR + "\\licences\\7-Zip\\LICENSE.txt", self.installed)
+
+    def test_nothing_of_its_own_work_is_left(self):
+        for files in (self.installed, self.second, self.removed):
+            self.assertEqual([path for path in files if "setup in progress" in path], [])
+
+    def test_the_product_is_configured_in_the_installers_language(self):
+        self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Lde-DE", self.lines)
+        self.assertIn("   0 Installation der Tutorials", self.lines)
+        self.assertEqual(value_of(self.registry, PRODUCT_KEY, "Locale"), "de-DE")
+        for name in ("VistrelResources.dll", "VelmoraApplicationFrameRes.dll"):
+            self.assertEqual(
+                self.installed[INSTALL_DIR + "\\" + name],
+                self.installed[INSTALL_DIR + "\\de-DE\\" + name],
+            )
+        self.assertIn(TUTORIALS + "\\First steps\\01 Pipe bend.txt", self.installed)
+        self.assertIn(TRANSLATORS + "\\NVX_MertleServer\\server\\settings.txt", self.installed)
+        self.assertIn(SHORTCUT, self.installed)
+
+    def test_the_server_runs(self):
+        self.assertEqual((self.running, self.second_running), (True, True))
+
+    def test_the_launchers_are_in_the_cad_systems(self):
+        for path in (ADDIN + ".xml", target_manifest(2017)):
+            self.assertIn(path, self.installed)
+            self.assertNotIn(path, self.removed)
+        for key in COM_CLASSES.values():
+            self.assertIsNotNone(value_of(self.registry, key + "\\InprocServer32", ""))
+            self.assertIsNone(value_of(self.removed_registry, key + "\\InprocServer32", ""))
+        self.assertNotEqual(self.installed[PROTK_2], self.before[PROTK_2])
+        self.assertEqual(self.removed[PROTK_2], self.before[PROTK_2])
+
+    def test_the_machine_is_told_where_the_product_lies(self):
+        for name in VARIABLES:
+            self.assertEqual(value_of(self.registry, ENVIRONMENT_KEY, name), INSTALL_DIR)
+            self.assertEqual(value_of(self.second_registry, ENVIRONMENT_KEY, name), INSTALL_DIR)
+        self.assertEqual(value_of(self.registry, TRANSLATORS_KEY, "Folder"), TRANSLATORS)
+
+    def test_windows_lists_the_product_among_its_programs(self):
+        def value(name):
+            return value_of(self.registry, UNINSTALL_KEY, name)
+
+        self.assertEqual(value("DisplayName"), "Velmora NVX 2017")
+        self.assertEqual(value("DisplayVersion"), "17.2.0")
+        self.assertEqual(value("InstallLocation"), INSTALL_DIR)
+        command = '"%s\\uninstall.exe" /LANG=de-DE' % INSTALL_DIR
+        self.assertEqual((value("UninstallString"), value("UninstallPath")), (command, command))
+        self.assertEqual(value("QuietUninstallString"), '"%s\\uninstall.exe" /S' % INSTALL_DIR)
+        size = int(value("EstimatedSize").removeprefix("dword:"), 16)
+        self.assertTrue(20_000 < size < 200_000, size)
+
+    def test_the_product_turns_the_command_of_the_entry_to_another_language(self):
+        log = "   0 Updating language registry uninstall currently is:"
+        self.assertIn(log + self.command_of(self.registry), self.lines)
+        for name in ("UninstallString", "UninstallPath"):
+            self.assertEqual(
+                value_of(self.french_registry, UNINSTALL_KEY, name),
+                '"%s\\uninstall.exe" /LANG=fr-FR' % INSTALL_DIR,
+            )
+
+    def test_a_second_set_up_keeps_the_language_of_the_product(self):
+        self.assertIn("   0 Command Line:NVXConfig.exe -ST -S -Lfr-FR", self.second_lines)
+        self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Lfr-FR", self.second_lines)
+        self.assertEqual(value_of(self.second_registry, PRODUCT_KEY, "Locale"), "fr-FR")
+
+    def test_a_second_set_up_brings_its_files_and_leaves_the_users(self):
+        self.assertEqual(self.second[MENU], self.installed[MENU])
+        self.assertEqual(self.second[MATERIALS], hash_of(b"the user's materials"))
+        self.assertEqual(sorted(self.second), sorted(self.installed))
+
+    def test_the_removal_runs_the_products_own(self):
+        self.assertIn("   0 Command Line:NVXConfig.exe -U -S -Lfr-FR", self.removal_lines)
+
+    def test_nothing_is_left_but_what_is_meant_to_stay(self):
+        left = sorted(path for path in self.removed if path not in self.before)
+        self.assertEqual(left, sorted(path for path in LEFT if path not in EXTRAS))
+
+    def test_somebody_elses_files_survive(self):
+        for path in FOREIGN:
+            self.assertEqual(self.removed.get(path), self.before[path], path)
+
+    def test_the_registry_keeps_nothing_that_the_set_up_wrote(self):
+        for name in VARIABLES:
+            self.assertIsNone(value_of(self.removed_registry, ENVIRONMENT_KEY, name))
+        for key in self.removed_registry:
+            self.assertNotIn("Uninstall\\NVX 2017", key)
+            self.assertNotIn("Kelvane", key)
+            self.assertNotIn("NVX 2017 Server", key)
+
+
+class OtherPlaces(InstallerCase, MachineCase):
+    def tearDown(self):
+        command = value_of(self.machine.registry(), UNINSTALL_KEY, "UninstallString")
+        if command:
+            self.remove(command)
+
+    def test_a_language_that_is_not_ours_gives_english(self):
+        for option in ("/LANG=xx-YY", "/LANG=", "/LANG=de"):
+            with self.subTest(option):
+                self.assertEqual(self.set_up("/S", option), 0)
+                self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Len-US", self.log_lines())
+                self.remove('"%s\\uninstall.exe" /LANG=en-US' % INSTALL_DIR)
+
+    def test_a_japanese_set_up_takes_the_files_of_its_language_back(self):
+        self.assertEqual(self.set_up("/S", "/LANG=ja-JP"), 0)
+        self.assertTrue(self.exists(INSTALL_DIR + "\\ja\\ZorvRes.dll"))
+        self.remove('"%s\\uninstall.exe" /LANG=ja-JP' % INSTALL_DIR)
+        self.assertEqual(list(self.machine.files(INSTALL_DIR)), [INSTALL_DIR + "\\NVXConfig.log"])
+
+    def test_a_folder_with_what_looks_like_options_is_a_folder_like_others(self):
+        folder = "C:\\CAD -U -X größe\\NVX"
+        self.assertEqual(self.set_up("/S", "/LANG=de-DE", "/D=" + folder), 0)
+        registry = self.machine.registry()
+        self.assertEqual(value_of(registry, ENVIRONMENT_KEY, "OSTRADE"), folder)
+        self.assertEqual(value_of(registry, PRODUCT_KEY, "InstallationDirectory"), folder)
+        self.remove(value_of(registry, UNINSTALL_KEY, "UninstallString"))
+        self.assertEqual(list(self.machine.files(folder)), [folder + "\\NVXConfig.log"])
+
+    def test_the_folder_of_the_translators_that_the_machine_has_is_used_and_stays(self):
+        folder = "C:\\Translators"
+        self.write(folder + "\\other server.txt", b"somebody else's")
+        self.machine.set_value(TRANSLATORS_KEY, "Folder", folder)
+        self.assertEqual(self.set_up("/S"), 0)
+        self.assertTrue(self.exists(folder + "\\NVX_MertleServer\\server\\settings.txt"))
+        self.remove('"%s\\uninstall.exe" /LANG=en-US' % INSTALL_DIR)
+        self.assertEqual(list(self.machine.files(folder)), [folder + "\\other server.txt"])
+        self.assertEqual(value_of(self.machine.registry(), TRANSLATORS_KEY, "Folder"), folder)
+
+
+if __name__ == "__main__":
+    unittest.main()
