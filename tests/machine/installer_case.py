@@ -46,8 +46,7 @@ class InstallerCase:
 
     def is_removing(self):
         """Whether a copy of the uninstaller runs, under the name that it gives itself."""
-        shown = self.machine.run("tasklist").stdout
-        return b"Un_" in shown or b"Au_" in shown
+        return b"Un.exe" in self.machine.run("tasklist").stdout
 
     def server_is_running(self):
         started = self.machine.run("net", "start").stdout.decode("utf-8", "replace")

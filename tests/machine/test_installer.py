@@ -2,6 +2,7 @@
 leaves. How it fails stands in test_installer_faults.py."""
 
 import unittest
+import zipfile
 
 from installer_case import EXTRAS, UNINSTALL_KEY, InstallerCase, hash_of
 from launcher_case import ADDIN, LauncherCase, target_manifest
@@ -28,7 +29,7 @@ MENU = INSTALL_DIR + "\\Launchers\\UGNX\\startup\\NVX_2017.men"
 
 
 class Installer(InstallerCase, LauncherCase):
-    """Installed in German, turned to French by the product, installed again, and removed."""
+    """Installed in German, turned to Japanese by the product, installed again, and removed."""
 
     @classmethod
     def setUpClass(cls):
@@ -44,8 +45,8 @@ class Installer(InstallerCase, LauncherCase):
         cls.registry = cls.machine.registry()
         cls.lines = case.log_lines()
 
-        case.configure(INSTALL_DIR, "-I", "-S", "-Lfr-FR")
-        cls.french_registry = cls.machine.registry()
+        case.configure(INSTALL_DIR, "-I", "-S", "-Lja-JP")
+        cls.japanese_registry = cls.machine.registry()
 
         case.write(MATERIALS, b"the user's materials")
         case.write(MENU, b"of an older release")
@@ -132,29 +133,34 @@ class Installer(InstallerCase, LauncherCase):
         self.assertTrue(20_000 < size < 200_000, size)
 
     def test_the_product_turns_the_command_of_the_entry_to_another_language(self):
-        log = "   0 Updating language registry uninstall currently is:"
-        self.assertIn(log + self.command_of(self.registry), self.lines)
+        found = "   0 Sprache im Deinstallationseintrag der Registrierung, bisher:"
+        self.assertIn(found + self.command_of(self.registry), self.lines)
         for name in ("UninstallString", "UninstallPath"):
             self.assertEqual(
-                value_of(self.french_registry, UNINSTALL_KEY, name),
-                '"%s\\uninstall.exe" /LANG=fr-FR' % INSTALL_DIR,
+                value_of(self.japanese_registry, UNINSTALL_KEY, name),
+                '"%s\\uninstall.exe" /LANG=ja-JP' % INSTALL_DIR,
             )
 
     def test_a_second_set_up_keeps_the_language_of_the_product(self):
-        self.assertIn("   0 Command Line:NVXConfig.exe -ST -S -Lfr-FR", self.second_lines)
-        self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Lfr-FR", self.second_lines)
-        self.assertEqual(value_of(self.second_registry, PRODUCT_KEY, "Locale"), "fr-FR")
+        self.assertIn("   0 Command Line:NVXConfig.exe -ST -S -Lja-JP", self.second_lines)
+        self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Lja-JP", self.second_lines)
+        self.assertEqual(value_of(self.second_registry, PRODUCT_KEY, "Locale"), "ja-JP")
 
     def test_a_second_set_up_brings_its_files_and_leaves_the_users(self):
         self.assertEqual(self.second[MENU], self.installed[MENU])
         self.assertEqual(self.second[MATERIALS], hash_of(b"the user's materials"))
-        self.assertEqual(sorted(self.second), sorted(self.installed))
+        second = [path for path in self.second if path.startswith(INSTALL_DIR)]
+        first = [path for path in self.installed if path.startswith(INSTALL_DIR)]
+        self.assertEqual(sorted(second), sorted([*first, INSTALL_DIR + "\\ja\\ZorvRes.dll"]))
 
     def test_the_removal_runs_the_products_own(self):
-        self.assertIn("   0 Command Line:NVXConfig.exe -U -S -Lfr-FR", self.removal_lines)
+        self.assertIn("   0 Command Line:NVXConfig.exe -U -S -Lja-JP", self.removal_lines)
 
     def test_nothing_is_left_but_what_is_meant_to_stay(self):
-        left = sorted(path for path in self.removed if path not in self.before)
+        # The copy of the removal's program goes when Windows starts next.
+        left = sorted(
+            path for path in self.removed if path not in self.before and "\\Temp\\~nsu" not in path
+        )
         self.assertEqual(left, sorted(path for path in LEFT if path not in EXTRAS))
 
     def test_somebody_elses_files_survive(self):
@@ -191,7 +197,8 @@ class OtherPlaces(InstallerCase, MachineCase):
 
     def test_a_folder_with_what_looks_like_options_is_a_folder_like_others(self):
         folder = "C:\\CAD -U -X größe\\NVX"
-        self.assertEqual(self.set_up("/S", "/LANG=de-DE", "/D=" + folder), 0)
+        # The option takes the rest of the command line and knows no quotes.
+        self.assertEqual(self.set_up("/S", "/LANG=de-DE", *("/D=" + folder).split()), 0)
         registry = self.machine.registry()
         self.assertEqual(value_of(registry, ENVIRONMENT_KEY, "OSTRADE"), folder)
         self.assertEqual(value_of(registry, PRODUCT_KEY, "InstallationDirectory"), folder)
@@ -207,6 +214,18 @@ class OtherPlaces(InstallerCase, MachineCase):
         self.remove('"%s\\uninstall.exe" /LANG=en-US' % INSTALL_DIR)
         self.assertEqual(list(self.machine.files(folder)), [folder + "\\other server.txt"])
         self.assertEqual(value_of(self.machine.registry(), TRANSLATORS_KEY, "Folder"), folder)
+
+
+class Programs(unittest.TestCase):
+    def test_the_zip_holds_the_programs_and_all_that_they_need_and_nothing_of_the_sample(self):
+        (path,) = (BUILD / "package").glob("*.zip")
+        with zipfile.ZipFile(path) as archive:
+            self.assertIsNone(archive.testzip())
+            names = [name for name in archive.namelist() if not name.endswith("/")]
+        laid_out = BUILD / "installed"
+        wanted = [str(file.relative_to(laid_out)) for file in laid_out.rglob("*") if file.is_file()]
+        self.assertIn("NVXConfig.exe", wanted)
+        self.assertEqual(sorted(names), sorted(path.stem + "/" + name for name in wanted))
 
 
 if __name__ == "__main__":

@@ -64,6 +64,20 @@ class Upgrade(InstallerCase, MachineCase):
             value_of(registry, UNINSTALL_KEY, "UninstallString").endswith('uninstall.exe" /LANG=de-DE')
         )
 
+    def test_what_a_killed_set_up_had_replaced_is_put_back(self):
+        # It was killed when it had replaced the menu and nothing else.
+        work = self.machine.path(INSTALL_DIR) / "setup in progress"
+        shutil.copytree(self.machine.path(INSTALL_DIR), work / "new")
+        menu = MENU[len(INSTALL_DIR) + 1 :].replace("\\", "/")
+        (work / "new" / menu).unlink()
+        (work / "old" / menu).parent.mkdir(parents=True)
+        (work / "old" / menu).write_bytes(b"of the product before")
+        (work / "replacing").touch()
+        with self.held(HELD):
+            self.assertNotEqual(self.set_up("/S"), 0)
+        self.assertEqual(self.machine.path(MENU).read_bytes(), b"of the product before")
+        self.machine.path(MENU).write_bytes(b"of an older release")
+
 
 if __name__ == "__main__":
     unittest.main()
