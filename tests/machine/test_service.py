@@ -1,6 +1,8 @@
 """The product's server as a service of a real machine: installed, installed again, stopped and removed, also
 when the server does not behave."""
 
+import re
+import time
 import unittest
 
 from machine_case import MachineCase
@@ -78,6 +80,18 @@ class Service(MachineCase):
             ["   0 uninstallServer ", "   0 uninstallServer - could not stop service"],
         )
         self.assertTrue(self.is_running())
+
+    def test_a_server_whose_process_was_ended_is_registered_again_without_a_wait(self):
+        self.run_with("-I")
+        self.machine.run("taskkill", "/f", "/im", "NVXServer.exe")
+        beginning, not_stopped = "uninstallServer ", "uninstallServer - could not stop service"
+        self.assertEqual(self.run_with("-I"), ["   0 " + beginning, "   0 " + not_stopped])
+        self.assertTrue(self.is_running())
+        # The control manager may take it for running for ever; ten seconds is what it would be given.
+        log = self.machine.log(FOLDER)
+        removal = re.search("^(.{24})    0 %s\n(.{24})    0 Command:" % not_stopped, log, re.MULTILINE)
+        asked, gone = (time.mktime(time.strptime(stamp)) for stamp in removal.groups())
+        self.assertLess(gone - asked, 9)
 
     def test_an_uninstall_removes_the_service_and_its_folders(self):
         self.run_with("-I")

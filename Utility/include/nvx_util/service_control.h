@@ -10,8 +10,8 @@ namespace Nvx::Util {
 enum class ServiceState
 {
     NotInstalled, ///< it knows no service of that name
-    Stopped,
-    Active ///< running, on its way there or back, or its state is closed to us
+    Stopped,      ///< also when its process has ended without a word
+    Active        ///< running, on its way there or back, or its state is closed to us
 };
 
 /// What became of the request to stop a service.

@@ -75,6 +75,17 @@ ProcessHandle processOf(const ServiceHandle &service)
     return ProcessHandle(OpenProcess(SYNCHRONIZE, FALSE, status->dwProcessId));
 }
 
+/// Whether the process of a service has ended, of which the control manager may learn late or never.
+bool isWithoutProcess(const SERVICE_STATUS_PROCESS &status)
+{
+    if (status.dwProcessId == 0)
+        return status.dwCurrentState == SERVICE_RUNNING; // else it may have none yet
+    const ProcessHandle process(OpenProcess(SYNCHRONIZE, FALSE, status.dwProcessId));
+    if (!process)
+        return GetLastError() == ERROR_INVALID_PARAMETER; // there is none of that id
+    return WaitForSingleObject(process.get(), 0) == WAIT_OBJECT_0;
+}
+
 /// Waits until the service has stopped. What cannot be asked any more counts as stopped.
 bool waitUntilStopped(const ServiceHandle &service, Clock::time_point deadline)
 {
@@ -115,7 +126,10 @@ ServiceState NativeServices::state(const QString &name) const
     if (!service.handle)
         return service.isClosedToUs ? ServiceState::Active : ServiceState::NotInstalled;
     const auto status = statusOf(service.handle);
-    return status && status->dwCurrentState == SERVICE_STOPPED ? ServiceState::Stopped : ServiceState::Active;
+    if (!status)
+        return ServiceState::Active;
+    const bool isStopped = status->dwCurrentState == SERVICE_STOPPED || isWithoutProcess(*status);
+    return isStopped ? ServiceState::Stopped : ServiceState::Active;
 }
 
 QString NativeServices::description(const QString &name) const
