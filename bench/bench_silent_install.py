@@ -1,26 +1,47 @@
-"""A silent install beside the same external programs started from one batch file, on one Windows machine.
+"""A silent install beside the same external programs started from one batch file, on one Windows machine with
+CAD systems and archives of real size.
 
     bench_silent_install.py BUILD_FOLDER
 
 BUILD_FOLDER is the Windows build, with the product laid out in its folder "installed". Prints the medians of
-five runs each, in turn, and their ratio.
+five runs each, in turn: of an install, of its programs alone, and of an install over a running server; then
+where the time of an install goes, as its log grows.
 """
 
+import re
+import shutil
 import statistics
 import sys
+import threading
 import time
 from pathlib import Path
 
+from product_archives import make_archives
+
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tools"))
 
-from winemachine import INSTALL_DIR, TRANSLATORS, TUTORIALS, Machine, make_template  # noqa: E402
+from cadsystems import put_cad_systems  # noqa: E402
+from winemachine import (  # noqa: E402
+    INSTALL_DIR,
+    SHARED_DATA,
+    TRANSLATORS,
+    TUTORIALS,
+    Machine,
+    make_template,
+)
 
 PYTHON = INSTALL_DIR + "\\Python"
 MERTLE = TRANSLATORS + "\\NVX_MertleServer"
+SERVER = "NVX 2017 Server"
+SCRIPT = INSTALL_DIR + "\\FileAssociations.reg"
+LOG = INSTALL_DIR + "\\NVXConfig.log"
+COMPLETE = "The installation or update is complete."
+RUNS = 5
 
 
 def batch_file():
-    """The commands of an installation, as its log has them."""
+    """The commands of an installation in their order. The service control manager, which starts the server
+    too, is no program; the batch file goes without it."""
 
     def remove(folder):
         return 'cmd.exe /C ""C:\\remove.bat" "%s""' % folder
@@ -28,38 +49,198 @@ def batch_file():
     def unpack(archive, folder):
         return '"%s\\7z.exe" x "%s" -y "-o%s"' % (INSTALL_DIR, archive, folder)
 
+    def register(system):
+        library = '"%s\\Launchers\\%s\\NVX_2017_%s.dll"' % (INSTALL_DIR, system, system)
+        return ["regsvr32 -u -s " + library, "regsvr32 -s " + library]
+
     lines = [
+        remove(SHARED_DATA + "\\Sorvane"),
         remove(TUTORIALS),
         unpack(INSTALL_DIR + "\\en-US\\Examples.7z", TUTORIALS),
         remove(PYTHON + "\\DLLs"),
         remove(PYTHON + "\\Lib"),
         unpack(PYTHON + "\\python26_x64.7z", PYTHON),
         unpack(MERTLE + "\\NVX_MertleServer.7z", MERTLE),
+        '"%s\\NVX Viewer\\NVXViewerConfig.exe" -i' % INSTALL_DIR,
+        "start /wait regedit -s C:\\script0.reg",
+        "start /wait regedit -s C:\\script1.reg",
+        remove(SHARED_DATA + "\\Analyze"),
+        remove(INSTALL_DIR + "\\HPCAnalyze"),
+        '"%s\\NVXServer.exe" -i' % INSTALL_DIR,
+        *register("Brevant"),
+        *register("SolidWorks"),
     ]
     return "\r\n".join(lines) + "\r\n"
 
 
-def seconds(machine, program, *tokens):
+def make_machine(build):
+    machine = Machine.create(build / "bench", make_template(build / "wine-template"))
+    machine.put_product(build / "installed", build / "sample")
+    put_cad_systems(machine)
+    places = {
+        "Examples.7z": INSTALL_DIR + "\\en-US",
+        "python26_x64.7z": PYTHON,
+        "NVX_MertleServer.7z": MERTLE,
+    }
+    for name, archive in make_archives(build / "bench-archives").items():
+        shutil.copy(archive, machine.path(places[name] + "\\" + name))
+    machine.path("C:\\install.bat").write_text(batch_file())
+    machine.path("C:\\remove.bat").write_text("rmdir /s /q %1\r\n")
+    return machine
+
+
+class Watcher(threading.Thread):
+    """Looks at a file until it is told to stop, and keeps what `look` makes of it each time."""
+
+    def __init__(self, look):
+        super().__init__()
+        self._look = look
+        self._stop_asked = threading.Event()
+
+    def run(self):
+        while not self._stop_asked.wait(0.004):
+            self._look()
+
+    def __enter__(self):
+        self.start()
+        return self
+
+    def __exit__(self, *_):
+        self._stop_asked.set()
+        self.join()
+        self._look()
+
+
+class Scripts:
+    """The scripts that an install has the Registry Editor import, which are gone when it is."""
+
+    def __init__(self, machine):
+        self._path = machine.path(SCRIPT)
+        self.found = []
+
+    def look(self):
+        try:
+            script = self._path.read_bytes()
+        except FileNotFoundError:
+            return
+        if self.found and script.startswith(self.found[-1]):
+            self.found[-1] = script
+        elif script:
+            self.found.append(script)
+
+
+class LogTimes:
+    """The lines of a growing log, each with the time at which it was seen."""
+
+    def __init__(self, machine):
+        self._path = machine.path(LOG)
+        self._read = self._path.stat().st_size if self._path.exists() else 0
+        self.lines = []
+
+    def look(self):
+        try:
+            with self._path.open("rb") as log:
+                log.seek(self._read)
+                grown = log.read()
+        except FileNotFoundError:
+            return
+        self._read += len(grown)
+        now = time.monotonic()
+        self.lines += [(now, line) for line in grown.decode("utf-8").splitlines()]
+
+
+def install(machine):
+    answer = machine.run(INSTALL_DIR + "\\NVXConfig.exe", "-I", "-S", "-Len-US", folder=INSTALL_DIR)
+    if answer.returncode != 0 or COMPLETE not in machine.log().splitlines()[-1]:
+        raise RuntimeError("the install did not come to its end: %r" % answer.stdout)
+
+
+def run_batch(machine):
+    answer = machine.run("cmd.exe", "/C", "C:\\install.bat", folder=INSTALL_DIR)
+    if answer.returncode != 0 or answer.stdout.count(b"Everything is Ok") != 3:
+        raise RuntimeError("the batch file failed: %r" % answer.stdout[-2000:])
+
+
+def remove_server(machine):
+    for order in ("stop", "delete"):
+        machine.run("sc", order, SERVER)
+    if machine.run("sc", "query", SERVER).returncode == 0:
+        raise RuntimeError("the server cannot be removed")
+
+
+def seconds(work, machine):
     start = time.monotonic()
-    machine.run(program, *tokens, folder=INSTALL_DIR)
+    work(machine)
     return time.monotonic() - start
 
 
-def main(build):
-    machine = Machine.create(build / "bench", make_template(build / "wine-template"))
-    machine.put_product(build / "installed", build / "sample")
-    machine.path("C:\\install.bat").write_text(batch_file())
-    machine.path("C:\\remove.bat").write_text("rmdir /s /q %1\r\n")
+class Split:
+    """Where the time of one install went, in seconds."""
 
-    installs, batches = [], []
-    for _ in range(6):  # the first of each warms the machine up
-        installs.append(seconds(machine, INSTALL_DIR + "\\NVXConfig.exe", "-I", "-S", "-Len-US"))
-        batches.append(seconds(machine, "cmd.exe", "/C", "C:\\install.bat"))
+    def __init__(self, start, lines, end):
+        commands = [i for i, (_, line) in enumerate(lines) if "   0 Command:" in line]
+        outputs = [i for i, (_, line) in enumerate(lines) if re.search(r"\d+ ( o|O)utput:", line)]
+        server = next(i for i, (_, line) in enumerate(lines) if "0 Desktop=" in line)
+        if len(commands) != len(outputs):
+            raise RuntimeError("%d commands, %d outputs" % (len(commands), len(outputs)))
+        self.start = lines[0][0] - start
+        self.programs = sum(lines[o][0] - lines[c][0] for c, o in zip(commands, outputs))
+        self.server = lines[server][0] - lines[server - 1][0]
+        self.exit = end - lines[-1][0]
+        self.own = end - start - self.start - self.programs - self.server - self.exit
+
+
+def timed_install(machine):
+    """The seconds of an install, and how they split."""
+    times = LogTimes(machine)
+    start = time.monotonic()
+    with Watcher(times.look):
+        install(machine)
+        end = time.monotonic()
+    return end - start, Split(start, times.lines, end)
+
+
+def warm_up(machine):
+    scripts = Scripts(machine)
+    with Watcher(scripts.look):
+        install(machine)
+    if len(scripts.found) != 2:
+        raise RuntimeError("not two scripts for the Registry Editor but %d" % len(scripts.found))
+    for number, script in enumerate(scripts.found):
+        machine.path("C:\\script%d.reg" % number).write_bytes(script)
+    remove_server(machine)
+    run_batch(machine)
+    remove_server(machine)
+
+
+def show(name, samples):
+    print("%-28s %6.0f ms" % (name, statistics.median(samples) * 1000), flush=True)
+
+
+def main(build):
+    machine = make_machine(build)
+    warm_up(machine)
+    installs, updates, batches, splits = [], [], [], []
+    for _ in range(RUNS):
+        took, split = timed_install(machine)
+        installs.append(took)
+        splits.append(split)
+        updates.append(seconds(install, machine))
+        remove_server(machine)
+        batches.append(seconds(run_batch, machine))
+        remove_server(machine)
     machine.stop()
-    install, batch = statistics.median(installs[1:]), statistics.median(batches[1:])
-    print("silent install           %6.0f ms" % (install * 1000))
-    print("the same programs alone  %6.0f ms" % (batch * 1000))
-    print("ratio                    %6.2f" % (install / batch))
+
+    show("silent install", installs)
+    show("the same programs alone", batches)
+    show("install over a server", updates)
+    print("ratio %31.2f" % (statistics.median(installs) / statistics.median(batches)))
+    print("of an install:")
+    show("  start to the first line", [split.start for split in splits])
+    show("  programs that are logged", [split.programs for split in splits])
+    show("  the server's registration", [split.server for split in splits])
+    show("  our own work", [split.own for split in splits])
+    show("  from the last line to exit", [split.exit for split in splits])
 
 
 if __name__ == "__main__":

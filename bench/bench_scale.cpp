@@ -1,0 +1,126 @@
+// How the time per item grows with their number: scanning sources for macros, bringing a message table in
+// step with their keys, and reading a material database and bringing a translation table in step with it.
+// Argument: the number of items. Prints one line of medians, in nanoseconds per item.
+
+#include "clt_message_table.h"
+#include "error_message_table_update.h"
+#include "error_source_scanner.h"
+#include "error_translation_table.h"
+#include "mat_material_name.h"
+#include "mat_translation_table.h"
+#include "measure.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int macrosPerFile = 100;
+
+QByteArray sourceOf(int first, int end)
+{
+    QByteArray source = "#include \"session.h\"\n\nnamespace Clt {\n";
+    for (int number = first; number < end; ++number) {
+        const QByteArray name = QByteArray::number(number);
+        source += "\nbool Session" + name +
+                  "::open(int port)\n{\n    // The port may be taken.\n"
+                  "    if (!m_socket.bind(port, \"any\")) {\n        REPORT_ERROR(\"NO_PORT_" +
+                  name + "\");\n        return false;\n    }\n    return true;\n}\n";
+    }
+    return source + "\n} // namespace Clt\n";
+}
+
+QStringList writeSources(const QTemporaryDir &folder, int macros)
+{
+    QStringList fileNames;
+    for (int first = 0; first < macros; first += macrosPerFile) {
+        const QString fileName = folder.filePath(QStringLiteral("%1.cpp").arg(first));
+        QFile file(fileName);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("cannot write");
+        file.write(sourceOf(first, qMin(macros, first + macrosPerFile)));
+        fileNames.append(fileName);
+    }
+    return fileNames;
+}
+
+QByteArray databaseOf(int materials)
+{
+    QByteArray database = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<materials>\n";
+    for (int number = 0; number < materials; ++number)
+        database += "   <material>\n      <name>Steel, grade " + QByteArray::number(number) +
+                    "</name>\n      <density unit=\"kg/m3\">7850</density>\n   </material>\n";
+    return database + "</materials>\n";
+}
+
+QSet<Clt::MessageKey> keysIn(const QStringList &fileNames)
+{
+    QSet<Clt::MessageKey> found;
+    const auto receive = [&found](qsizetype, const Scan::SourceScanner &scanner) {
+        for (const QSet<Clt::MessageKey> &keys : scanner.keys().sets())
+            found.unite(keys);
+        return Scan::Continuation::GoOn;
+    };
+    Scan::scanFiles(QStringLiteral("client"), fileNames, receive, 1);
+    return found;
+}
+
+mat::MaterialNames namesIn(const QByteArray &database)
+{
+    QBuffer device;
+    device.setData(database);
+    device.open(QIODevice::ReadOnly);
+    return mat::readMaterialNames(device);
+}
+
+/// The median of five, in nanoseconds per item.
+template<typename Work>
+double perItem(int items, Work work)
+{
+    Bench::Samples samples{};
+    for (double &sample : samples)
+        sample = Bench::milliseconds(work);
+    return Bench::median(samples) * 1e6 / items;
+}
+
+void measure(int items)
+{
+    const QTemporaryDir folder;
+    const QStringList fileNames = writeSources(folder, items);
+    const QByteArray database = databaseOf(items);
+    const QSet<Clt::MessageKey> keys = keysIn(fileNames);
+    const QStringList names = namesIn(database).names;
+    if (keys.size() != items || names.size() != items)
+        qFatal("found %lld keys and %lld names", static_cast<long long>(keys.size()),
+               static_cast<long long>(names.size()));
+
+    const double scan = perItem(items, [&] { keysIn(fileNames); });
+    const double synchronise = perItem(items, [&] {
+        Clt::MessageTable table;
+        Error::synchronizeKeys(table, keys);
+    });
+    const double read = perItem(items, [&] { namesIn(database); });
+    Error::TranslationTable filled;
+    const double feed = perItem(items, [&] {
+        filled = Error::TranslationTable();
+        mat::synchronizeNames(filled, names);
+    });
+    const double again = perItem(items, [&] { mat::synchronizeNames(filled, names); });
+    std::printf("%9d %8.0f %8.0f %8.0f %8.0f %8.0f\n", items, scan, synchronise, read, feed, again);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const int items = QCoreApplication::arguments().value(1).toInt();
+    if (items <= 0)
+        qFatal("usage: bench_scale ITEMS");
+    measure(items);
+    return 0;
+}

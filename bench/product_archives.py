@@ -1,0 +1,74 @@
+"""Archives of a real product's size for the sample product, the same bytes each time.
+
+    make_archives(folder)    answers the folders "tutorials", "python" and "mertle" by their archives' names
+
+Together they hold some 2,000 files of 80 MB: studies and modules that read like text, and results that hardly
+can be packed.
+"""
+
+import random
+import shutil
+import subprocess
+from pathlib import Path
+
+# What a component holds: how many files of text and of how many bytes each, then the same of binary ones.
+_CONTENTS = {
+    "Examples.7z": {"folder": "Study %02d", "text": (400, 30_000), "binary": (80, 400_000)},
+    "python26_x64.7z": {"folder": "Lib/package_%02d", "text": (1200, 9_000), "binary": (60, 150_000)},
+    "NVX_MertleServer.7z": {"folder": "server/part_%02d", "text": (200, 12_000), "binary": (60, 220_000)},
+}
+_FILES_IN_FOLDER = 40
+_STAMP = "made-of"
+
+
+def make_archives(folder):
+    """{archive name: its path}; they are made once in the folder."""
+    folder = Path(folder)
+    archives = {name: folder / name for name in _CONTENTS}
+    stamp = folder / _STAMP
+    if stamp.exists() and stamp.read_text() == repr(_CONTENTS):
+        return archives
+    shutil.rmtree(folder, ignore_errors=True)
+    for name, contents in _CONTENTS.items():
+        unpacked = folder / "unpacked"
+        _write_files(unpacked, contents, random.Random(name))
+        subprocess.run(
+            ["7zz", "a", "-bso0", "-bsp0", "-mx=5", str(archives[name].absolute()), "."],
+            cwd=unpacked,
+            check=True,
+        )
+        shutil.rmtree(unpacked)
+    stamp.write_text(repr(_CONTENTS))
+    return archives
+
+
+def _write_files(top, contents, chance):
+    words = [
+        "".join(chance.choices("abcdefghijklmnopqrstuvwxyz", k=chance.randint(2, 11)))
+        for _ in range(3000)
+    ]
+    number = 0
+    for kind, ending, write in (("text", "txt", _text), ("binary", "bin", _binary)):
+        count, size = contents[kind]
+        for _ in range(count):
+            place = top / (contents["folder"] % (number // _FILES_IN_FOLDER))
+            place.mkdir(parents=True, exist_ok=True)
+            (place / ("%s_%04d.%s" % (kind, number, ending))).write_bytes(
+                write(words, size, chance)
+            )
+            number += 1
+
+
+def _text(words, size, chance):
+    # Ten bytes a word at most on the average: never too few.
+    lines = " ".join(chance.choices(words, k=size // 4)).encode()
+    return b"\r\n".join(lines[at : at + 90] for at in range(0, size, 90))[:size]
+
+
+def _binary(_words, size, chance):
+    # Numbers of a grid: their first bytes hardly change, their last ones hold nothing but noise.
+    noise = chance.randbytes(size // 2)
+    mixed = bytearray(size)
+    mixed[0::2] = noise + bytes(size - size // 2 - len(noise))
+    mixed[1::2] = bytes(16) * (size // 32) + bytes(size // 2 - 16 * (size // 32))
+    return bytes(mixed)
