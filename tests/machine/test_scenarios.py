@@ -1,0 +1,205 @@
+"""Runs the scenarios: every folder in "scenarios" is a test of its name. README.md there says what a folder
+holds."""
+
+import contextlib
+import difflib
+import os
+import shutil
+import unittest
+from pathlib import Path
+
+from machine_case import BUILD, SCRIPTED_TOOL, MachineCase, log_lines
+from scenario import FileLine, Run, log_difference, read_scenario
+from test_process_guard import GUARDED, Program
+from winemachine import TRANSLATORS_KEY, Machine, make_template, value_of
+
+SCENARIOS = Path(__file__).resolve().parent / "scenarios"
+
+# What a run makes on its way and takes away again, by the ends of the names.
+PASSING = ("work.bat", "FileAssociations.reg", ".part")
+
+
+class Scenarios(MachineCase):
+    """The methods are made below, one a folder. Each has a machine of its own."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.template = make_template(BUILD / "wine-template")
+
+    @classmethod
+    def tearDownClass(cls):
+        """Every test has taken its machine away."""
+
+    def setUp(self):
+        self.machine = Machine.create(BUILD / "machines" / self._testMethodName, self.template)
+        self.addCleanup(shutil.rmtree, self.machine.prefix)
+        self.addCleanup(self.machine.stop)
+        self.marks = 0
+        self.put = {}  # what lies on the machine by our hand: {path: contents}
+
+    def play(self, folder):
+        scenario = read_scenario(folder)
+        if scenario.locale != self.machine.locale:
+            self.machine.locale = scenario.locale
+            self.machine.locale_folder = BUILD / "locales"
+        self.prepare(scenario)
+        with contextlib.ExitStack() as held:
+            programs = [(p, self.start(p)) for p in scenario.processes]
+            for line in scenario.before:
+                self.hold(line, held)
+            for step in scenario.steps:
+                if isinstance(step, Run):
+                    self.run_once(scenario, step)
+                else:
+                    self.do(step)
+                    self.hold(step, held)
+        for process, program in programs:
+            with self.subTest(process.path):
+                self.assertEqual(program.is_running(), not process.is_ended)
+                program.stop()
+        self.assert_log(scenario)
+        registry = self.machine.registry()
+        for expectation in scenario.registry:
+            with self.subTest(expectation.key, name=expectation.name):
+                self.assert_registry(registry, expectation)
+        self.assert_files(scenario.after)
+
+    def prepare(self, scenario):
+        self.put_product(scenario.install_dir)
+        for line in scenario.before:
+            self.do(line)
+        if scenario.script:
+            script = scenario.script.replace("\n", "\r\n").encode("utf-16-le")
+            path = self.write("C:\\scenario.reg", b"\xff\xfe" + script)
+            self.assertEqual(self.machine.run("regedit", "/S", "C:\\scenario.reg").returncode, 0)
+            path.unlink()
+
+    def do(self, line: FileLine):
+        """Changes the machine as a line of files-before.txt says."""
+        path = self.machine.path(line.path)
+        if line.word == "folder":
+            path.mkdir(parents=True, exist_ok=True)
+        elif line.word == "without":
+            self.assertTrue(path.exists(), "the product has no " + line.path)
+            shutil.rmtree(path) if path.is_dir() else path.unlink()
+        elif line.word == "protected":
+            path.chmod(0o444)
+        elif line.word == "translators":
+            shutil.copytree(BUILD / "sample" / "translators", path, dirs_exist_ok=True)
+            self.machine.set_value(TRANSLATORS_KEY, "Folder", line.path)
+        elif line.word == "tool":
+            self.write(line.path, SCRIPTED_TOOL.read_bytes())
+            self.write(line.path + ".script", line.contents)
+        elif line.word == "file":
+            self.write(line.path, line.contents)
+            self.put[line.path] = line.contents
+
+    def hold(self, line, held):
+        if line.word == "held":
+            self.marks += 1
+            held.enter_context(self.held(line.path, "C:\\mark %d" % self.marks))
+
+    def start(self, process):
+        name = process.path.rpartition("\\")[2].lower()
+        source = next(p for p in (GUARDED / "product").iterdir() if p.name.lower() == name)
+        return Program(self.machine, process.path, source)
+
+    def run_once(self, scenario, run):
+        program = scenario.install_dir + "\\NVXConfig.exe"
+        folder = run.folder
+        if folder:
+            self.machine.path(folder).mkdir(parents=True, exist_ok=True)
+        answer = self.machine.run(program, *run.tokens, folder=folder)
+        self.assertEqual(answer.returncode, 0, run.tokens)
+        self.assert_nothing_passing_is_left()
+
+    def assert_nothing_passing_is_left(self):
+        for place, folders, names in os.walk(self.machine.path("C:\\")):
+            folders[:] = [name for name in folders if name != "windows"]
+            left = [name for name in names if name.endswith(PASSING)]
+            self.assertEqual(left, [], place)
+
+    def assert_log(self, scenario):
+        log = self.machine.path(scenario.install_dir + "\\NVXConfig.log")
+        lines = log_lines(log) if log.is_file() else []
+        difference = log_difference(scenario.log, lines)
+        with self.subTest("the log"):
+            if difference:
+                self.fail("\n".join(difference))
+
+    def assert_registry(self, registry, expectation):
+        shown = expectation.key + ("" if expectation.name is None else ", " + (expectation.name or "@"))
+        if expectation.name is None:
+            key = expectation.key.lower()
+            found = [path for path in registry if (path.lower() + "\\").startswith(key + "\\")]
+            self.assertEqual(bool(found), expectation.is_there, "%s: %s" % (shown, found))
+        else:
+            found = value_of(registry, expectation.key, expectation.name)
+            self.assertEqual(found, expectation.text, shown)
+
+    def assert_files(self, after):
+        named = {line.path.lower(): line for line in after}
+        for path, contents in self.put.items():
+            if path.lower() not in named and not is_told_to_be_gone(path, named):
+                with self.subTest(path):
+                    self.assert_contents(path, contents)
+        for line in after:
+            with self.subTest("%s %s" % (line.word, line.path)):
+                self.assert_file(line)
+
+    def assert_file(self, line):
+        path = self.machine.path(line.path)
+        if line.word == "nothing":
+            self.assertFalse(path.exists(), "is there: " + line.path)
+        elif line.word == "folder":
+            self.assertTrue(path.is_dir(), "is no folder: " + line.path)
+        elif line.word == "only":
+            self.assertTrue(path.is_dir(), "is no folder: " + line.path)
+            self.assertEqual(sorted(p.name for p in path.iterdir()), sorted(line.names))
+        elif line.like:
+            self.assert_contents(line.path, self.machine.path(line.like).read_bytes())
+        elif line.contents is not None:
+            self.assert_contents(line.path, line.contents)
+        else:
+            self.assertTrue(path.is_file(), "is no file: " + line.path)
+
+    def assert_contents(self, windows_path, expected):
+        path = self.machine.path(windows_path)
+        self.assertTrue(path.is_file(), "is no file: " + windows_path)
+        found = path.read_bytes()
+        if found != expected:
+            lines = difflib.ndiff(_shown(expected), _shown(found))
+            self.fail("%s: - as wanted, + as found\n%s" % (windows_path, "\n".join(lines)))
+
+
+def is_told_to_be_gone(path, named):
+    """Whether one of the folders around a file is to be gone, or is to hold other names only."""
+    for at, character in enumerate(path):
+        folder = named.get(path[:at].lower()) if character == "\\" else None
+        if folder and folder.word == "nothing":
+            return True
+        if folder and folder.word == "only" and path[at + 1 :].partition("\\")[0] not in folder.names:
+            return True
+    return False
+
+
+def _shown(contents):
+    """The lines of a file with all that is invisible in them."""
+    return [ascii(line)[2:-1] for line in contents[:20000].splitlines(keepends=True)]
+
+
+def _add_tests():
+    def test_of(folder):
+        return lambda case: case.play(folder)
+
+    part, parts = map(int, os.environ.get("NVX_PART", "1/1").split("/"))
+    folders = sorted(folder for folder in SCENARIOS.iterdir() if folder.is_dir())
+    for number, folder in enumerate(folders):
+        if number % parts == part - 1:
+            setattr(Scenarios, "test_" + folder.name, test_of(folder))
+
+
+_add_tests()
+
+if __name__ == "__main__":
+    unittest.main()
