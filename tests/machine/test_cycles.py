@@ -12,9 +12,12 @@ from launcher_case import (
     LauncherCase,
 )
 from machine_case import COMPLETE
-from winemachine import INSTALL_DIR, SHARED_DATA, TUTORIALS
+from winemachine import PROGRAM_FILES, SHARED_DATA, TUTORIALS
 
 CYCLES = 20
+# The guard leaves a server of this path alone, which does not name the release: a removal stops it as a
+# service is stopped, instead of waiting until the machine notices that its process has been ended.
+INSTALL_DIR = PROGRAM_FILES + "\\Velmora\\NVX"
 LOG = INSTALL_DIR + "\\NVXConfig.log"
 USER_DATA = "C:\\users\\" + getpass.getuser() + "\\AppData\\Roaming\\Velmora\\NVX 2017"
 CUSTOM_DIRS = (CUSTOM_DIRS_10, CUSTOM_DIRS_11)
@@ -101,7 +104,7 @@ class Cycles(LauncherCase):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        cls.put_product(cls())
+        cls.put_product(cls(), INSTALL_DIR)
         cls.before = cls.machine.files()
         cls.installed_lines = cls.run_alone("-I", "-S", "-Len-US")
         cls.installed = cls.machine.files()
@@ -116,7 +119,7 @@ class Cycles(LauncherCase):
     @classmethod
     def put_product_again(cls):
         """Brings the files back that a removal takes from the install dir, as the installer does."""
-        cls.put_product(cls())
+        cls.put_product(cls(), INSTALL_DIR)
 
     @classmethod
     def run_alone(cls, *tokens):
