@@ -13,8 +13,8 @@ namespace Nvx::Util {
 
 /// Makes the bytes the contents of the file, whole or not at all: they are written beside it, under the name
 /// with ".nvxpart" behind it, flushed to the disk, and renamed over the old file. Whoever looks, also after a
-/// crash or on a full disk, finds the old file or the new one; a part that a crash has left goes with the next
-/// call. A file that has these very bytes already is left alone, with its time stamp. The old file's
+/// crash or on a full disk, finds the old file or the new one; a part that a crash has left goes with the
+/// next call. A file that has these very bytes already is left alone, with its time stamp. The old file's
 /// permissions are kept, and a symbolic link stays one. The folder must exist. False when the file is not
 /// writable, another process is replacing it, or the bytes could not be put on the disk; the old file is then
 /// as it was.
