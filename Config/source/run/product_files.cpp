@@ -29,10 +29,12 @@ bool removeProductFile(const QString &path)
     if (!isThere(path))
         return true;
     QFile file(path);
-    if (file.remove())
-        return true;
-    file.setPermissions(file.permissions() | QFile::WriteOwner | QFile::WriteUser);
-    return file.remove();
+    if (!file.remove()) {
+        file.setPermissions(file.permissions() | QFile::WriteOwner | QFile::WriteUser);
+        file.remove();
+    }
+    // The system may take a removal for done that the disk then refuses, or that waits for another program.
+    return !isThere(path);
 }
 
 bool replaceProductFile(const QString &source, const QString &target)
