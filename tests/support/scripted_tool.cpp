@@ -12,9 +12,12 @@
 //     forget        removes the file of orders, so that the next start finds none
 //     read          reads its standard input to the end
 //     sleep MS      waits
+//     wait PATH     waits until the file is gone
+//     only-for TEXT ends with 0 unless one of its arguments holds the text
 //     exit CODE     ends with that exit code
 //     crash         ends as by a fault
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -44,10 +47,22 @@ void sleepFor(int milliseconds)
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
 
+void waitUntilGone(const std::string &path)
+{
+    while (std::filesystem::exists(path))
+        sleepFor(50);
+}
+
 void writeArguments(std::ostream &output, int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i)
         output << argv[i] << '\n';
+}
+
+bool isFor(const std::string &text, int argc, char **argv)
+{
+    return std::any_of(argv + 1, argv + argc,
+                       [&](const char *argument) { return std::string(argument).find(text) != text.npos; });
 }
 
 void obey(const std::string &order, const std::string &operand, int argc, char **argv)
@@ -70,6 +85,8 @@ void obey(const std::string &order, const std::string &operand, int argc, char *
         std::cout << "read " << std::string(std::istreambuf_iterator<char>(std::cin), {}).size() << '\n';
     else if (order == "sleep")
         sleepFor(std::stoi(operand));
+    else if (order == "wait")
+        waitUntilGone(operand);
     else if (order == "arguments")
         writeArguments(std::cout, argc, argv);
     else if (order == "record") {
@@ -98,6 +115,8 @@ int main(int argc, char **argv)
             std::cout.flush();
             return std::stoi(operand);
         }
+        if (order == "only-for" && !isFor(operand, argc, argv))
+            return 0;
         if (order == "crash") {
             std::cout.flush();
             std::abort();
