@@ -7,7 +7,10 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
+#include <vector>
 
 namespace Error {
 
@@ -24,6 +27,17 @@ struct ScanResult
     QSet<Clt::MessageKey> keys;
     int skippedFiles = 0;
 };
+
+/// The found keys that do not exist, in key order: a table is filled in the least time in its own order.
+std::vector<Clt::MessageKey> newKeys(const QSet<Clt::MessageKey> &found,
+                                     const QSet<Clt::MessageKey> &existing)
+{
+    std::vector<Clt::MessageKey> keys;
+    std::copy_if(found.begin(), found.end(), std::back_inserter(keys),
+                 [&existing](const Clt::MessageKey &key) { return !existing.contains(key); });
+    std::sort(keys.begin(), keys.end());
+    return keys;
+}
 
 ScanResult scanProject(const QString &projectFile, const Scan::VisualStudioProject &project, ProgressLog &log)
 {
@@ -64,9 +78,7 @@ KeyCounts synchronizeKeys(Clt::MessageTable &table, const QSet<Clt::MessageKey> 
 {
     const QSet<Clt::MessageKey> existing = table.keys();
     KeyCounts counts{found.size(), 0, existing.size(), 0};
-    for (const Clt::MessageKey &key : found) {
-        if (existing.contains(key))
-            continue;
+    for (const Clt::MessageKey &key : newKeys(found, existing)) {
         Clt::Message message;
         message.setKey(key);
         message.setState(Clt::MessageState::New);
