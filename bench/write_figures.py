@@ -1,0 +1,137 @@
+"""Puts what tools/bench measured into the documentation, in place of the figures there.
+
+    write_figures.py FOLDER DOCUMENT
+
+FOLDER holds the files "rows", "tables", "scale", "install" and "load" of one run. What stands before
+and after the two marks in the document stays.
+"""
+
+import datetime
+import os
+import platform
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+BEGIN = "<!-- figures of tools/bench -->"
+END = "<!-- end of the figures -->"
+
+
+def first_line(*command):
+    answer = subprocess.run(
+        command,
+        stdout=subprocess.PIPE,
+        stderr=subprocess.DEVNULL,
+        env={**os.environ, "WINEDEBUG": "-all"},
+        check=True,
+    )
+    return answer.stdout.decode().splitlines()[0]
+
+
+def value_in(file, pattern):
+    return re.search(pattern, Path(file).read_text(), re.MULTILINE).group(1).strip()
+
+
+def table(titles, rows):
+    lines = ["| " + " | ".join(titles) + " |", "|" + "---|" * len(titles)]
+    lines += ["| " + " | ".join(row) + " |" for row in rows]
+    return lines
+
+
+def machine_lines(folder):
+    gigabytes = int(value_in("/proc/meminfo", r"^MemTotal: *(\d+)")) / 1024 / 1024
+    load = (folder / "load").read_text().split()[0]
+    system = value_in("/etc/os-release", r'^PRETTY_NAME="(.*)"')
+    facts = (
+        ("Date", datetime.date.today().isoformat()),
+        ("Processor", value_in("/proc/cpuinfo", r"^model name\s*: (.*)")),
+        ("Processors for us", str(len(os.sched_getaffinity(0)))),
+        ("Memory", "%.0f GB" % gigabytes),
+        ("System", "%s, Linux %s" % (system, platform.release())),
+        ("Compiler", first_line("c++", "--version")),
+        ("Qt", first_line("/usr/lib/qt6/bin/qmake", "-query", "QT_VERSION")),
+        ("Wine", first_line("wine", "--version")),
+        ("Load average at the start", load),
+    )
+    return table(("", ""), facts)
+
+
+def held_lines(folder):
+    rows = []
+    for line in (folder / "rows").read_text().splitlines():
+        work, peer, ours, peers, ratio, comparison, limit, held = line.split("\t")
+        wanted = "%s times as fast" if comparison == "faster" else "within %s times"
+        times = ("%.1f" % float(ours), "%.1f" % float(peers))
+        rows.append((work, peer, *times, ratio, wanted % limit, held))
+    titles = ("Work", "Beside", "Ours, ms", "Peer, ms", "Ratio", "Wanted", "")
+    return table(titles, rows)
+
+
+def numbers(line):
+    return [float(word) for word in line.split()]
+
+
+def scale_lines(folder):
+    """Nanoseconds an item. The messages' own program prints milliseconds for loading and saving."""
+    tables = {}
+    for line in (folder / "tables").read_text().splitlines():
+        if re.match(r"^ *\d+ ", line):
+            count, load, _, _, save, _, _, feed, again, update, update_again, _ = numbers(line)
+            each = 1e6 / count
+            tables[count] = [load * each, save * each, feed, again, update, update_again]
+    rows = []
+    for line in (folder / "scale").read_text().splitlines():
+        count, *values = numbers(line)
+        shown = ["%.0f" % value for value in tables[count] + values]
+        rows.append(("{:,.0f}".format(count), *shown))
+    titles = (
+        "Items",
+        "load a message table",
+        "save it",
+        "feed a translation table",
+        "again",
+        "file to file",
+        "again",
+        "scan macros, one thread",
+        "enter their keys into a table",
+        "read material names",
+        "enter them into a table",
+        "again",
+    )
+    return table(titles, rows)
+
+
+def install_lines(folder):
+    rows = []
+    for line in (folder / "install").read_text().splitlines():
+        timed = re.match(r"^( *)(\S.*?) +(\d+) ms$", line)
+        if timed:
+            rows.append((("of it: " if timed.group(1) else "") + timed.group(2), timed.group(3)))
+    return table(("A silent install", "ms"), rows)
+
+
+def main(folder, document):
+    figures = [
+        *machine_lines(folder),
+        "",
+        "In the rows that say so the unit is ns a message, not ms.",
+        "",
+        *held_lines(folder),
+        "",
+        "Time per item, in ns:",
+        "",
+        *scale_lines(folder),
+        "",
+        *install_lines(folder),
+    ]
+    text = document.read_text(encoding="utf-8")
+    before, rest = text.split(BEGIN)
+    after = rest.split(END)[1]
+    document.write_text(
+        before + BEGIN + "\n\n" + "\n".join(figures) + "\n\n" + END + after, encoding="utf-8"
+    )
+
+
+if __name__ == "__main__":
+    main(Path(sys.argv[1]), Path(sys.argv[2]))
