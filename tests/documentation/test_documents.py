@@ -8,7 +8,7 @@ from documents import DOCUMENTS, ROOT, anchors_of, blocks_of, code_of, links_of,
 
 # What a path in a document begins with.
 FOLDERS = ("Utility", "FileIO", "Config", "Client", "source", "resource", "sample")
-FOLDERS += ("tests", "fuzz", "bench", "docs", "tools", "cmake")
+FOLDERS += ("tests", "fuzz", "bench", "docs", "tools", "cmake", "installer")
 _PATH = re.compile(r"^(?:%s)/[\w./*-]*$" % "|".join(FOLDERS))
 # A name of code: a call, or several words in one.
 _NAME = re.compile(r"^(?:\w+::)*([a-z]+[A-Z]\w+|[A-Z][a-z]+[A-Z]\w+|\w+_\w+)(?:\(\))?$")
@@ -89,7 +89,9 @@ class Documents(unittest.TestCase):
             with self.subTest(name):
                 named = named_code(text_of(name))
                 self.assertGreater(len(named), 5)
-                self.assertEqual([code for code in named if code not in words], [])
+                # A recipe's example is made up.
+                real = [code for code in named if "Nordcad" not in code]
+                self.assertEqual([code for code in real if code not in words], [])
 
 
 class TheChecks(unittest.TestCase):
