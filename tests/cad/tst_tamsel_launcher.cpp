@@ -178,6 +178,17 @@ private slots:
         QCOMPARE(readFile(first(2017)), tamselManifest(m_fixture->state.installDir));
     }
 
+    void aFolderThatCannotBeMadeKeepsNothingElseFromBeingWritten()
+    {
+        const QString inTheWay = m_fixture->folders.applicationDataOfOld;
+        writeFile(inTheWay, "a file in the folder's place");
+        makeSecondTarget(2017);
+        addin(RunMode::Install, 2017);
+        QVERIFY(QFileInfo(inTheWay).isFile());
+        QCOMPARE(readFile(own()), tamselManifest(m_fixture->state.installDir));
+        QCOMPARE(readFile(second(2017)), readFile(own()));
+    }
+
     void aFolderOfAnotherSystemIsNotMadeHere()
     {
         m_fixture->folders.applicationDataOfOld = text("NVX test, not a full path");

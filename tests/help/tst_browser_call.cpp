@@ -44,6 +44,7 @@ private slots:
         row("a mail", "mailto:a@b?subject=x y", "mailto:a@b?subject=x%20y");
         row("a path", "C:\\Program Files\\NVX/NVXDefaultHelp.html",
             "file:///C:/Program%20Files/NVX/NVXDefaultHelp.html");
+        row("a path with slashes", "C:/Program Files/a.html", "file:///C:/Program%20Files/a.html");
         row("a path with signs", "C:\\100% & #1\\a?.html", "file:///C:/100%25%20&%20%231/a%3F.html");
         row("a letter and a colon are no drive without a slash", "C:a b.html", "c:a%20b.html");
         row("the root of a drive", "C:\\", "file:///C:/");

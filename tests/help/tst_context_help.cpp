@@ -255,9 +255,20 @@ private slots:
         QVERIFY(!readFile(written).contains("old"));
     }
 
+    void anEmptyFileOfIdsThatCannotBeWrittenIsTold_data()
+    {
+        QTest::addColumn<bool>("hasFolder");
+        QTest::newRow("a file in the folder's place") << false;
+        QTest::newRow("a folder in the file's place") << true;
+    }
+
     void anEmptyFileOfIdsThatCannotBeWrittenIsTold()
     {
-        writeFile(System::getUserDataPath(), "a file in the folder's place");
+        QFETCH(const bool, hasFolder);
+        if (hasFolder)
+            QVERIFY(QDir().mkpath(System::getUserDataPath() + QStringLiteral("/NVXHelpIds.xml")));
+        else
+            writeFile(System::getUserDataPath());
         QVERIFY(!writeEmptyHelpIds());
     }
 

@@ -12,9 +12,11 @@
 #include "support/test_machine.h"
 
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QTest>
 
 #include <csignal>
+#include <cstdio>
 #include <memory>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -25,6 +27,9 @@ using Nvx::Util::System;
 namespace {
 
 const QString scratch = QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\Test scratch");
+
+// With this option the program tells the system's language instead of testing.
+constexpr char localeOption[] = "--locale";
 
 // A child process that does what it is told and ends.
 template<typename Act>
@@ -57,6 +62,29 @@ private slots:
         QCOMPARE(System::getFlagsDirPath(), root + QStringLiteral("ProgramData/Velmora/NVX 2017"));
         QCOMPARE(System::getTutorialsDirPath(),
                  root + QStringLiteral("Public/Documents/Velmora/NVX 2017/Tutorials"));
+    }
+
+    void theSystemsLanguageIsTakenWhenThereAreTranslations_data()
+    {
+        QTest::addColumn<QString>("system");
+        QTest::addColumn<QByteArray>("locale");
+        QTest::newRow("Japanese") << QStringLiteral("ja_JP.UTF-8") << QByteArray("ja-JP");
+        QTest::newRow("German of Germany") << QStringLiteral("de_DE.UTF-8") << QByteArray("de-DE");
+        QTest::newRow("German of Switzerland") << QStringLiteral("de_CH.UTF-8") << QByteArray("en-US");
+        QTest::newRow("none") << QStringLiteral("C") << QByteArray("en-US");
+    }
+
+    // The toolkit looks at the system's language once in a process, so another one has to look.
+    void theSystemsLanguageIsTakenWhenThereAreTranslations()
+    {
+        QFETCH(const QString, system);
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LC_ALL"), system);
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(localeOption)});
+        QVERIFY(process.waitForFinished());
+        QTEST(process.readAllStandardOutput(), "locale");
     }
 
     void withoutAFolderForTheMachineTheRegistryIsEmptyAndRefusesEveryChange()
@@ -178,5 +206,15 @@ private:
     std::unique_ptr<TestMachine> m_test;
 };
 
-QTEST_GUILESS_MAIN(tst_unix_machine)
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (argc == 2 && qstrcmp(argv[1], localeOption) == 0) {
+        std::fputs(Nvx::Util::supportedSystemLocale().toLatin1().constData(), stdout);
+        return 0;
+    }
+    tst_unix_machine test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_unix_machine.moc"

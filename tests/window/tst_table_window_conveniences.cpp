@@ -19,6 +19,7 @@ private slots:
     void filterStandsAtTheEndOfTheToolBar();
     void controlFGoesToTheFilterAndEscapeEmptiesIt();
     void geometryWidthsAndFolderAreRemembered();
+    void geometryThatIsNoneIsNotTaken();
     void closingDuringWorkCancelsItFirst();
     void noOrdersAreTakenDuringWork();
     void aboutNamesTheProgram();
@@ -38,6 +39,16 @@ void TestTableWindowConveniences::otherThingsAreNotDropped()
     QVERIFY(!drop(f.window, {}));
     QVERIFY(!drop(f.window, {QUrl(QStringLiteral("http://www.velmora.example/lines.txt"))}));
     QVERIFY(!drop(f.window, {QUrl::fromLocalFile(f.file), QUrl::fromLocalFile(f.otherFile)}));
+
+    // Nor when they come without having been announced.
+    QMimeData nothing;
+    QDropEvent dropping(QPoint(10, 10), Qt::CopyAction, &nothing, Qt::LeftButton, Qt::NoModifier);
+    dropping.ignore();
+    QCoreApplication::sendEvent(&f.window, &dropping);
+    QVERIFY(!dropping.isAccepted());
+    QCoreApplication::processEvents();
+    QVERIFY(f.window.fileName().isEmpty());
+    QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
 void TestTableWindowConveniences::fileOfTheCommandLineIsOpened()
@@ -128,6 +139,18 @@ void TestTableWindowConveniences::geometryWidthsAndFolderAreRemembered()
     QCOMPARE(window.size(), QSize(500, 300));
     window.open();
     QCOMPARE(dialogs.openQuestions.last().folder, folder.path());
+}
+
+void TestTableWindowConveniences::geometryThatIsNoneIsNotTaken()
+{
+    const TestFolder folder;
+    QSettings settings(folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    RecordingDialogs dialogs;
+    const QSize usual = LineWindow(dialogs, settings).size();
+    settings.setValue(QStringLiteral("geometry"), QByteArray("no geometry"));
+    settings.setValue(QStringLiteral("columnWidths"), QVariantList{1});
+    const LineWindow window(dialogs, settings);
+    QCOMPARE(window.size(), usual);
 }
 
 void TestTableWindowConveniences::closingDuringWorkCancelsItFirst()
