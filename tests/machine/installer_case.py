@@ -2,7 +2,7 @@
 
 import hashlib
 import shutil
-import time
+import subprocess
 
 import machine_case
 from winemachine import INSTALL_DIR
@@ -31,22 +31,16 @@ class InstallerCase:
         shutil.copy(SET_UP, cls.machine.path("C:\\set-up.exe"))
 
     def set_up(self, *tokens):
-        return self.machine.run("C:\\set-up.exe", *tokens).returncode
+        return self.machine.run("C:\\set-up.exe", *tokens, timeout=900).returncode
 
     def remove(self, command):
         """Runs the command of the uninstall entry as Windows does, without a window, and waits for its end:
         the program goes on in a copy of itself."""
         program, _, options = command.removeprefix('"').partition('"')
-        self.machine.run(program, *options.split(), "/S")
-        for _ in range(400):
-            if not self.exists(program) and not self.is_removing():
-                return
-            time.sleep(0.5)
-        self.fail("the removal does not come to its end")
-
-    def is_removing(self):
-        """Whether a copy of the uninstaller runs, under the name that it gives itself."""
-        return b"Un.exe" in self.machine.run("tasklist").stdout
+        self.machine.run(program, *options.split(), "/S", timeout=900)
+        # The machine ends with its last program.
+        subprocess.run(["wineserver", "-w"], env=self.machine.environment(), timeout=900)
+        self.assertFalse(self.exists(program), "the removal has not come to its end")
 
     def server_is_running(self):
         started = self.machine.run("net", "start").stdout.decode("utf-8", "replace")

@@ -45,7 +45,7 @@ class Installer(InstallerCase, LauncherCase):
         cls.registry = cls.machine.registry()
         cls.lines = case.log_lines()
 
-        case.configure(INSTALL_DIR, "-I", "-S", "-Lja-JP")
+        case.configure(INSTALL_DIR, "-I", "-S", "-Lja-JP", timeout=900)
         cls.japanese_registry = cls.machine.registry()
 
         case.write(MATERIALS, b"the user's materials")
