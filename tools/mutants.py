@@ -38,9 +38,14 @@ def blank(text, by):
     return "".join(char if char == "\n" else by for char in text)
 
 
+# What stands behind #else is for another machine.
+OTHER_BRANCH = re.compile(r"^[ \t]*#[ \t]*else\b.*?^[ \t]*#[ \t]*endif\b", re.DOTALL | re.MULTILINE)
+
+
 def mask(text):
     """The text at the same length with nothing in it but code, and the ranges of its literals."""
     literals = []
+    text = OTHER_BRANCH.sub(lambda match: blank(match.group(), " "), text)
 
     def masked(match):
         kind = match.lastgroup if match.lastgroup != "mark" else "raw"
@@ -108,8 +113,8 @@ def apart(line, following):
     first, second = ASSIGNMENT.match(line), ASSIGNMENT.match(following)
     if not first or not second or ("(" in first[3] and "(" in second[3]):
         return False
-    last_names = [re.findall(r"\w+", re.sub(r"\[.*\]", "", match[1]))[-1] for match in (first, second)]
-    return last_names[0] not in re.findall(r"\w+", following) and last_names[1] not in re.findall(r"\w+", line)
+    names = [re.findall(r"\w+", re.sub(r"\[.*\]", "", match[1]))[-1] for match in (first, second)]
+    return names[0] not in re.findall(r"\w+", following) and names[1] not in re.findall(r"\w+", line)
 
 
 class Finder:

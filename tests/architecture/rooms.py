@@ -1,7 +1,7 @@
 """The rooms of the code, as docs/architecture.md lists them, and what the sources say of each other.
 
-The table in the document is the one place where the arrows between the rooms stand: `read_rooms` reads it, and
-`forbidden_includes` and `forbidden_links` hold the #include lines and the CMake files against it.
+The table in the document is the one place where the arrows between the rooms stand: `read_rooms` reads it,
+and `forbidden_includes` and `forbidden_links` hold the #include lines and the CMake files against it.
 """
 
 import re

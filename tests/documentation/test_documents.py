@@ -98,7 +98,8 @@ class TheChecks(unittest.TestCase):
     """The checks find what they look for."""
 
     DOCUMENT = """# One page
-See [there](docs/there.md#deep-down), ![picture](a.png) and `tools/nothing --all`, `docs/NAME/README.md`, not `tools`.
+See [there](docs/there.md#deep-down), ![picture](a.png) and `tools/nothing --all`, `docs/NAME/README.md`,
+not `tools`.
 ## Deep, down: `in` it
 ```
 [no link](in a block) `tools/in-a-block`

@@ -1,5 +1,5 @@
-"""What docs/administrators.md shows is so: the excerpts of logs come from runs like these, and its scripts roll
-the product out and find the failures."""
+"""What docs/administrators.md shows is so: the excerpts of logs come from runs like these, and its scripts
+roll the product out and find the failures."""
 
 import re
 import subprocess
@@ -134,7 +134,7 @@ class AdministratorsGuide(MachineCase):
         return code, report.read_text(encoding="utf-8") if report.exists() else None
 
     def roll_out(self, log, set_up="exit 0"):
-        """Runs the script for a roll-out beside a set-up that leaves this log and does what the orders say."""
+        """Runs the script for a roll-out beside a set-up that leaves this log and obeys the orders."""
         self.write(SHARE + "\\nvx-setup.exe", SCRIPTED_TOOL.read_bytes())
         self.write(SHARE + "\\nvx-setup.exe.script", ("record\n" + set_up).encode())
         for path in self.machine.path(SHARE).glob("nvx-setup.exe.arguments"):

@@ -307,7 +307,7 @@ private slots:
 
     void wideSearchesAgreeWithPlainOnesAtEveryPosition()
     {
-        const std::string pattern = "a{*/\nT_x\"K_\\*/}'#/ ";
+        const std::string pattern = "a{*/\nT_x\"K_\\*/}'#/ Ta_K ";
         for (std::size_t length = 0; length < 80; ++length) {
             std::string text;
             while (text.size() < length)

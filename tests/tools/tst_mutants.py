@@ -40,7 +40,10 @@ class TestMutants(unittest.TestCase):
             "a character": ("auto b = 'x';", ["auto b = 'y';"]),
             "a raw text": ('auto b = R"(a"b)";', ['auto b = R"(b"b)";']),
             "a condition by itself": ("if (x)", ["if (!(x))"]),
-            "a choice": ("auto b = x ? y : z;", ["auto b = x && false ? y : z;", "auto b = x || true ? y : z;"]),
+            "a choice": (
+                "auto b = x ? y : z;",
+                ["auto b = x && false ? y : z;", "auto b = x || true ? y : z;"],
+            ),
             "a step": ("const auto b = ++x;", ["const auto b = --x;"]),
             "a statement": ("call(x);", [";"]),
             "a returned value": ("return x;", ["return {};"]),
@@ -51,6 +54,7 @@ class TestMutants(unittest.TestCase):
             "joined texts": ('auto b = x + "%1";', []),
             "a comment": ("auto b = c; // x < y, 1, true", []),
             "a directive": ("#define b 1 < 2", []),
+            "another machine's branch": ("#if x\n#else\n    auto b = x < 1;\n#endif", []),
             "room made beforehand": ("m_texts.reserve(x + 1);", []),
             "an assertion": ("NVX_ASSERT(x < y, unit);", []),
             "an escape alone": (r'auto b = "\n";', []),
@@ -106,7 +110,8 @@ class TestList(unittest.TestCase):
     def test_files_tests_and_what_makes_no_difference(self):
         first, second = read_list(
             "# a comment\na.cpp: tst_a tst_b\n"
-            "    > if (a < b) // because\n        < to <= because they never meet\n        drop ! because of c\n"
+            "    > if (a < b) // because\n"
+            "        < to <= because they never meet\n        drop ! because of c\n"
             "\nb.cpp: tst_b\n"
         )
         self.assertEqual((first.file, first.tests), ("a.cpp", ["tst_a", "tst_b"]))

@@ -24,6 +24,15 @@ QByteArray contents(char letter)
     return QByteArray(size, letter);
 }
 
+/// The names of the other files in a file's folder.
+QStringList namesBeside(const QString &fileName)
+{
+    const QFileInfo file(fileName);
+    QStringList names = file.dir().entryList(QDir::Files | QDir::Hidden);
+    names.removeAll(file.fileName());
+    return names;
+}
+
 /// Replaces the file again and again until somebody kills this program.
 int replaceForever(const QString &fileName)
 {
@@ -116,12 +125,16 @@ private slots:
             QProcess copier;
             copier.start(QCoreApplication::applicationFilePath(), {copyOption, source, target});
             QVERIFY(copier.waitForStarted());
-            QVERIFY(QTest::qWaitFor([&] { return QFile::exists(target); }, 20'000));
+            // The copy itself is there for moments only, what is being written nearly always.
+            QVERIFY(QTest::qWaitFor([&] { return namesBeside(source).size() > 0; }, 20'000));
             QVERIFY(!copier.waitForFinished(7 * kill % 50));
             copier.kill();
             QVERIFY(copier.waitForFinished());
             QVERIFY(!QFile::exists(target) || fileBytes(target) == contents('a'));
-            QFile::remove(target); // what was being written may stay, and must not be in the next one's way
+            // What was being written may stay; it must not be taken for the next one's.
+            const QStringList left = namesBeside(source);
+            for (const QString &name : left)
+                QVERIFY(QFile::remove(folder.path(name)));
         }
     }
 };

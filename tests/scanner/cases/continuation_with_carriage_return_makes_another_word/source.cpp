@@ -1,0 +1,5 @@
+void f() {
+  MY_\
+REPORT_ERROR("A");
+  REPORT_ERROR("C");
+}
