@@ -14,14 +14,9 @@ namespace {
 constexpr qint64 chunk = qint64{64} * 1024;
 
 // Beside a file of somebody else's only a name that nobody else gives is ours to clear away.
-QString partOfReplacement(const QString &fileName)
+QString partOf(const QString &fileName)
 {
     return fileName + QStringLiteral(".nvxpart");
-}
-
-QString partOfCopy(const QString &target)
-{
-    return target + QStringLiteral(".part");
 }
 
 bool hasContents(const QString &fileName, const QByteArray &contents)
@@ -108,11 +103,18 @@ bool copyAll(QFile &source, PartFile &target)
     }
 }
 
-// The file that a name stands for. It need not exist.
+constexpr int mostLinks = 40;
+
+// The file that a name stands for, which need not exist; links that lead in a circle stand for none.
 QString behindLinks(const QString &fileName)
 {
-    const QFileInfo file(fileName);
-    return file.isSymLink() ? file.symLinkTarget() : fileName;
+    QFileInfo file(fileName);
+    for (int link = 0; file.isSymLink(); ++link) {
+        if (link == mostLinks)
+            return QString();
+        file.setFile(file.symLinkTarget());
+    }
+    return file.filePath();
 }
 
 } // namespace
@@ -130,17 +132,17 @@ std::optional<QByteArray> readWholeFile(const QString &fileName)
 
 bool replaceWholeFile(const QString &fileName, const QByteArray &contents)
 {
-    if (fileName.isEmpty())
-        return false;
     const QString name = behindLinks(fileName);
+    if (name.isEmpty())
+        return false;
     if (hasContents(name, contents)) {
-        removeLeftPart(partOfReplacement(name));
+        removeLeftPart(partOf(name));
         return true;
     }
     const QFileInfo old(name);
     if (old.isDir() || (old.exists() && !old.isWritable()))
         return false;
-    PartFile part(partOfReplacement(name));
+    PartFile part(partOf(name));
     if (!part.create() || !part.write(contents))
         return false;
     if (old.exists())
@@ -153,14 +155,13 @@ bool copyToFreeName(const QString &source, const QString &target)
     QFile from(source);
     if (QFile::exists(target) || !from.open(QIODevice::ReadOnly))
         return false;
-    PartFile part(partOfCopy(target));
+    PartFile part(partOf(target));
     return part.create() && copyAll(from, part) && part.finish(Platform::renameToFreeName, target);
 }
 
 void removeUnfinished(const QString &fileName)
 {
-    removeLeftPart(partOfReplacement(fileName));
-    removeLeftPart(partOfCopy(fileName));
+    removeLeftPart(partOf(fileName));
 }
 
 } // namespace Nvx::Util

@@ -210,7 +210,7 @@ private slots:
     {
         m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(text("prepared")));
         writeFile(m_fixture->test.path(text("prepared/NVX_flags.txt")), "prepared");
-        const QString inTheWay = flagsFile() + text(".part/in the way");
+        const QString inTheWay = flagsFile() + text(".nvxpart/in the way");
         writeFile(inTheWay);
         m_fixture->start(text("-I"));
         QVERIFY(m_fixture->lines().contains(text("   1 Unable to create ") + flagsFile()));

@@ -246,9 +246,9 @@ private slots:
     void aCopyOfTheFlagsFileThatWasCutOffGoes()
     {
         cfg_utilitys &engine = m_fixture->start(text("-U -S"));
-        writeFile(flag("NVX_flags.txt.part"), "half");
+        writeFile(flag("NVX_flags.txt.nvxpart"), "half");
         engine.processFlagFile(text("NVX_flags.txt"), RunMode::Uninstall);
-        QVERIFY(!QFile::exists(flag("NVX_flags.txt.part")));
+        QVERIFY(!QFile::exists(flag("NVX_flags.txt.nvxpart")));
     }
 
     void anUnchangedFlagFileIsRemoved_data()

@@ -19,6 +19,8 @@ private slots:
         machine.ownFolder = folders.installDir();
         writeFile(folders.path(QStringLiteral("NVX/NVXHelpIds.xml")),
                   "<help_ids><help_url online_prefix='x'/></help_ids>");
+        // A sanitizer opens a pipe when it meets a type for the first time.
+        QVERIFY(ContextHelp(machine).initialise());
         ContextHelp help(machine);
         {
             const NoMoreFiles none;

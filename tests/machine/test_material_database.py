@@ -32,8 +32,8 @@ class MaterialDatabase(MachineCase):
         self.machine.path(FOLDER + "\\NVXConfig.log").unlink(missing_ok=True)
         code, lines = self.configure(FOLDER, *tokens, **environment)
         self.assertEqual(code, 0)
-        self.assertFalse(self.exists(WORKING + ".part"))
-        self.assertFalse(self.exists(PREVIOUS + ".part"))
+        self.assertFalse(self.exists(WORKING + ".nvxpart"))
+        self.assertFalse(self.exists(PREVIOUS + ".nvxpart"))
         return lines
 
     def install(self, **environment):

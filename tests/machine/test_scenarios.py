@@ -16,7 +16,7 @@ from winemachine import TRANSLATORS_KEY, Machine, make_template, value_of
 SCENARIOS = Path(__file__).resolve().parent / "scenarios"
 
 # What a run makes on its way and takes away again, by the ends of the names.
-PASSING = ("work.bat", "FileAssociations.reg", ".part")
+PASSING = ("work.bat", "FileAssociations.reg", ".nvxpart")
 
 
 class Scenarios(MachineCase):

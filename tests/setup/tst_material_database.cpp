@@ -80,11 +80,11 @@ private slots:
     {
         QFETCH(RunMode, mode);
         writeFile(m_working, "mine");
-        writeFile(m_working + text(".part"), "half");
-        writeFile(m_previous + text(".part"), "half");
-        writeFile(joinPath(m_sharedData, text("mine.part")), "mine");
+        writeFile(m_working + text(".nvxpart"), "half");
+        writeFile(m_previous + text(".nvxpart"), "half");
+        writeFile(joinPath(m_sharedData, text("mine.nvxpart")), "mine");
         check(mode);
-        QStringList left{text("mine.part")};
+        QStringList left{text("mine.nvxpart")};
         if (mode == RunMode::Install)
             left << text("matprop.nvxmdb");
         left.sort();

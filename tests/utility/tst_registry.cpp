@@ -74,11 +74,21 @@ private slots:
         QVERIFY(!RegistryKey(scratch + QStringLiteral("\\Missing")).textOrNumber(QStringLiteral("a")));
     }
 
-    void aTextOrNumberThatIsANumberIsItsDigits()
+    void aTextOrNumberThatIsANumberIsItsSignedDigits_data()
     {
-        QVERIFY(RegistryKey(scratch).setNumber(QStringLiteral("a"), 4294967295));
-        QCOMPARE(RegistryKey(scratch).textOrNumber(QStringLiteral("A")),
-                 std::optional<QString>(QStringLiteral("4294967295")));
+        QTest::addColumn<quint32>("number");
+        QTest::addColumn<QString>("digits");
+        QTest::newRow("zero") << quint32{0} << QStringLiteral("0");
+        QTest::newRow("the largest signed one") << quint32{0x7fffffff} << QStringLiteral("2147483647");
+        QTest::newRow("the smallest signed one") << quint32{0x80000000} << QStringLiteral("-2147483648");
+        QTest::newRow("all bits") << quint32{0xffffffff} << QStringLiteral("-1");
+    }
+
+    void aTextOrNumberThatIsANumberIsItsSignedDigits()
+    {
+        QFETCH(const quint32, number);
+        QVERIFY(RegistryKey(scratch).setNumber(QStringLiteral("a"), number));
+        QTEST(RegistryKey(scratch).textOrNumber(QStringLiteral("A")).value_or(QString()), "digits");
     }
 
     void theEmptyNameIsTheDefaultValue()

@@ -106,7 +106,7 @@ private slots:
     void whatAnEarlierCopyHasLeftIsNoObstacle()
     {
         QVERIFY(writeFile(m_source, "new"));
-        QVERIFY(writeFile(m_target + QStringLiteral(".part"), "longer than what is to be copied"));
+        QVERIFY(writeFile(m_target + QStringLiteral(".nvxpart"), "longer than what is to be copied"));
         QVERIFY(copyToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_target), QByteArray("new"));
         QCOMPARE(namesIn(*m_folder).size(), 2);

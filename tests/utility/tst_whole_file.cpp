@@ -190,11 +190,12 @@ private slots:
     void whatIsUnfinishedIsRemovedAndNothingElse()
     {
         const TestFolder folder;
-        for (const char *name : {"file", "file.nvxpart", "file.part", "file.parts", "fil.part"})
-            QVERIFY(writeFile(folder.path(QString::fromLatin1(name)), "x"));
+        const QStringList others{QStringLiteral("fil.nvxpart"), QStringLiteral("file"),
+                                 QStringLiteral("file.nvxparts"), QStringLiteral("file.part")};
+        for (const QString &name : others + QStringList(QStringLiteral("file.nvxpart")))
+            QVERIFY(writeFile(folder.path(name), "x"));
         Nvx::Util::removeUnfinished(folder.path(QStringLiteral("file")));
-        QCOMPARE(namesIn(folder), QStringList({QStringLiteral("fil.part"), QStringLiteral("file"),
-                                               QStringLiteral("file.parts")}));
+        QCOMPARE(namesIn(folder), others);
     }
 };
 

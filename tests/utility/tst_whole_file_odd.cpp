@@ -38,8 +38,48 @@ private slots:
         QVERIFY(QFile::link(folder.path(QStringLiteral("nowhere")), target));
         QVERIFY(!Nvx::Util::copyToFreeName(source, target));
         QVERIFY(QFileInfo(target).isSymLink());
-        QVERIFY(!QFile::exists(target + QStringLiteral(".part")));
+        QVERIFY(!QFile::exists(target + QStringLiteral(".nvxpart")));
         QVERIFY(!QFile::exists(folder.path(QStringLiteral("nowhere"))));
+    }
+
+    void linkStaysOneWhenItsFileIsReplaced_data()
+    {
+        QTest::addColumn<int>("links");
+        QTest::addColumn<QByteArray>("old");
+        QTest::newRow("a link") << 1 << QByteArray("old");
+        QTest::newRow("a link to a link to a link") << 3 << QByteArray("old");
+        QTest::newRow("a link to a file that is to come") << 2 << QByteArray();
+    }
+
+    void linkStaysOneWhenItsFileIsReplaced()
+    {
+        QFETCH(const int, links);
+        QFETCH(const QByteArray, old);
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("file"));
+        QVERIFY(old.isEmpty() || writeFile(fileName, old));
+        QString link = fileName;
+        for (int number = 0; number < links; ++number) {
+            QVERIFY(QFile::link(link, link + QStringLiteral("+")));
+            link += QLatin1Char('+');
+        }
+        QVERIFY(Nvx::Util::replaceWholeFile(link, "new"));
+        QCOMPARE(fileBytes(fileName), QByteArray("new"));
+        QVERIFY(!QFileInfo(fileName).isSymLink());
+        for (; link != fileName; link.chop(1))
+            QVERIFY(QFileInfo(link).isSymLink());
+    }
+
+    void linksInACircleAreNotReplaced()
+    {
+        const TestFolder folder;
+        const QString first = folder.path(QStringLiteral("first"));
+        const QString second = folder.path(QStringLiteral("second"));
+        QVERIFY(QFile::link(second, first));
+        QVERIFY(QFile::link(first, second));
+        QVERIFY(!Nvx::Util::replaceWholeFile(first, "new"));
+        QVERIFY(QFileInfo(first).isSymLink());
+        QVERIFY(QFileInfo(second).isSymLink());
     }
 
     void fileThatIsShorterThanItSaysDoesNotHoldWhatBeginsLikeIt()

@@ -52,5 +52,10 @@ private:
 };
 
 // The program makes its own application.
-QTEST_APPLESS_MAIN(TestWindowProgram)
+int main(int argc, char *argv[])
+{
+    TestWindowProgram test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_window_program.moc"

@@ -32,7 +32,8 @@ public:
     /// The text of a value; nothing when it is missing or holds no text. Variables in it are not expanded.
     std::optional<QString> text(const QString &valueName) const;
 
-    /// The text of a value, for a number its decimal digits; nothing when it is missing or of another kind.
+    /// The text of a value, for a number its decimal digits, those of a signed one; nothing when it is
+    /// missing or of another kind.
     std::optional<QString> textOrNumber(const QString &valueName) const;
 
     /// Writes a text value, making the key when it is missing. False when the registry refuses.

@@ -20,14 +20,14 @@ namespace Nvx::Util {
 /// as it was.
 [[nodiscard]] bool replaceWholeFile(const QString &fileName, const QByteArray &contents);
 
-/// Copies a file to a name that is free, whole or not at all: the copy is written beside, under the name with
-/// ".part" behind it, flushed to the disk, and renamed. Nothing that has the name is ever replaced, not even
-/// what comes there meanwhile. The copy has the permissions of a new file. False when the name is taken, the
-/// source cannot be read or the disk does not take the copy; no part of it is left then.
+/// Copies a file to a name that is free, whole or not at all, by way of a part as above. Nothing that has the
+/// name is ever replaced, not even what comes there meanwhile. The copy has the permissions of a new file.
+/// False when the name is taken, the source cannot be read or the disk does not take the copy; no part of it
+/// is left then.
 [[nodiscard]] bool copyToFreeName(const QString &source, const QString &target);
 
-/// Removes the part that a replacement of the file or a copy to its name has left which a crash cut off. The
-/// file itself, and what another process is writing at this moment, stay.
+/// Removes the part that a crash has left of a replacement of the file, or of a copy to its name. The file
+/// itself, and what another process is writing at this moment, stay.
 void removeUnfinished(const QString &fileName);
 
 } // namespace Nvx::Util

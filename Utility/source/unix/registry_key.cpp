@@ -141,9 +141,11 @@ std::optional<QString> RegistryKey::textOrNumber(const QString &valueName) const
 {
     const QJsonObject values = valuesOf(readRegistry(), m_path);
     const QJsonValue value = values.value(nameIn(values, valueName));
-    if (value.isDouble())
-        return QString::number(value.toInteger());
-    return text(valueName);
+    if (!value.isDouble())
+        return text(valueName);
+    const qint64 number = value.toInteger();
+    const bool hasThirtyTwoBits = number == static_cast<quint32>(number);
+    return QString::number(hasThirtyTwoBits ? static_cast<qint32>(number) : number);
 }
 
 bool RegistryKey::setText(const QString &valueName, const QString &text)
