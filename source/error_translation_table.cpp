@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QFileInfo>
 
 #include <utility>
 
@@ -15,6 +16,12 @@ namespace {
 TranslationMessage unfinished(const QString &source)
 {
     return {source, source, QStringLiteral("unfinished"), QString()};
+}
+
+/// Whether both name one file that is there, however they are spelled.
+bool isSameFile(const QString &one, const QString &other)
+{
+    return QFile::exists(one) && QFile::exists(other) && QFileInfo(one) == QFileInfo(other);
 }
 
 bool keepDamaged(const QString &fileName)
@@ -100,11 +107,12 @@ bool TranslationTable::save(const QString &fileName)
     QBuffer contents;
     if (!contents.open(QIODevice::WriteOnly | QIODevice::Text) || !writeTranslationTable(contents, *this))
         return false;
-    if (fileName == m_damagedFile && QFile::exists(fileName) && !keepDamaged(fileName))
+    const bool isDamaged = isSameFile(fileName, m_damagedFile);
+    if (isDamaged && !keepDamaged(fileName))
         return false;
     if (!Nvx::Util::replaceWholeFile(fileName, contents.data()))
         return false;
-    if (fileName == m_damagedFile)
+    if (isDamaged)
         m_damagedFile.clear();
     return true;
 }

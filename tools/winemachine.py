@@ -100,6 +100,18 @@ class Machine:
             answer.stdout = output.read()
         return answer
 
+    def start(self, program, *tokens):
+        """Starts a program of the machine and does not wait for it; answers its process, which shows
+        nothing."""
+        return subprocess.Popen(
+            ["wine", program, *tokens],
+            cwd=self.prefix,
+            env=self.environment(),
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+        )
+
     def stop(self):
         """Ends every process of the machine and writes its registry to the disk."""
         for option in ("-k", "-w"):

@@ -50,14 +50,17 @@ def translate(table, code):
     )
 
 
-def is_settled(files_folder, sources, seconds):
-    """Whether the sources are there and nothing has come or gone anywhere for some time."""
+def is_settled(job, files_folder, sources, seconds):
+    """Whether the sources are there and nothing has come or gone anywhere for some time.
+
+    The job comes before the files: those of an earlier job may still lie there, long settled.
+    """
     if not all(source.exists() for source in sources):
         return False
     try:
-        newest = max(path.stat().st_mtime for path in files_folder.rglob("*"))
-    except (FileNotFoundError, ValueError):
-        return not sources
+        newest = max(path.stat().st_mtime for path in (job, *files_folder.rglob("*")))
+    except FileNotFoundError:  # something has just gone
+        return False
     return time.time() - newest >= seconds
 
 
@@ -67,7 +70,7 @@ def take(job, files_folder, settle, damaged):
         line.removeprefix("enu\\") for line in job.read_text(encoding="utf-8").splitlines() if line
     ]
     sources = [files_folder / "enu" / name for name in names]
-    while not is_settled(files_folder, sources, settle):
+    while not is_settled(job, files_folder, sources, settle):
         time.sleep(0.1)
     job.unlink()
     for code in LANGUAGES:

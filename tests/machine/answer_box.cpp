@@ -1,7 +1,8 @@
 // Closes a box that a program shows, as its close button does: answer_box TITLE MARK
 //
 // Waits for a window with that title, at the latest for four minutes, makes the file MARK when it is there,
-// and closes it. Answers 1 when none came, 2 when it would not close.
+// and closes it as soon as somebody has taken the file away. Answers 1 when none came, 2 when it would not
+// close.
 
 #include <array>
 #include <string>
@@ -48,6 +49,8 @@ int wmain(int argc, wchar_t **argv)
     if (!box)
         return 1;
     CloseHandle(CreateFileW(argv[2], GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    for (int waits = 0; waits < 1200 && GetFileAttributesW(argv[2]) != INVALID_FILE_ATTRIBUTES; ++waits)
+        Sleep(50);
     for (int tries = 0; tries < 100 && IsWindow(box); ++tries) {
         PostMessageW(box, WM_CLOSE, 0, 0);
         Sleep(100);

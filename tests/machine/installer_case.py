@@ -11,15 +11,6 @@ SET_UP = machine_case.BUILD / "package" / "NVX-2017-17.2.0-setup.exe"
 UNINSTALL_KEY = (
     "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\NVX 2017"
 )
-# What the product leaves of its own in the install dir, and the set-up's removal takes away.
-EXTRAS = [
-    INSTALL_DIR + "\\" + name
-    for name in (
-        "VelmoraApplicationFrameRes.dll",
-        "VistrelResources.dll",
-        "NVX Viewer\\last-start.txt",
-    )
-]
 
 
 class InstallerCase:

@@ -5,7 +5,6 @@ import contextlib
 import os
 import re
 import shutil
-import subprocess
 import sys
 import time
 import unittest
@@ -87,13 +86,7 @@ class MachineCase(unittest.TestCase):
         """A program has the file open and lets nobody else at it. The other path is a sign between us."""
         mark = self.machine.path(mark_path)
         mark.unlink(missing_ok=True)
-        holder = subprocess.Popen(
-            ["wine", str(HOLD_FILE), path, mark_path],
-            env=self.machine.environment(),
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
+        holder = self.machine.start(str(HOLD_FILE), path, mark_path)
         try:
             for _ in range(600):
                 if mark.exists() or holder.poll() is not None:

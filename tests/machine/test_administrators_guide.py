@@ -2,7 +2,6 @@
 roll the product out and find the failures."""
 
 import re
-import subprocess
 import sys
 import time
 import unittest
@@ -101,14 +100,7 @@ class AdministratorsGuide(MachineCase):
     def run_without_service(self):
         """The box waits for somebody: the run is ended when the log has its text."""
         refusal = self.write(INSTALL_DIR + "\\NVXServer.exe.fails-to-register")
-        run = subprocess.Popen(
-            ["wine", INSTALL_DIR + "\\NVXConfig.exe", "-I", "-S", "-Len-US"],
-            cwd=self.machine.prefix,
-            env=self.machine.environment(),
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
+        run = self.machine.start(INSTALL_DIR + "\\NVXConfig.exe", "-I", "-S", "-Len-US")
         log = self.machine.path(LOG)
         deadline = time.monotonic() + 120
         while not (log.exists() and b" Unable to install the server" in log.read_bytes()):

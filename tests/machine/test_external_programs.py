@@ -3,7 +3,6 @@ says what happened, and nothing that is not the product's is lost."""
 
 import contextlib
 import shutil
-import subprocess
 import time
 import unittest
 
@@ -79,14 +78,7 @@ class ProgramCase(LauncherCase):
     def start(self, mode="-I"):
         """Starts a silent run that is not waited for."""
         self.machine.path(LOG).unlink(missing_ok=True)
-        process = subprocess.Popen(
-            ["wine", INSTALL_DIR + "\\NVXConfig.exe", mode, "-S", "-Len-US"],
-            cwd=self.machine.prefix,
-            env=self.machine.environment(),
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
+        process = self.machine.start(INSTALL_DIR + "\\NVXConfig.exe", mode, "-S", "-Len-US")
         self.addCleanup(self.machine.stop)
         return process
 
@@ -224,20 +216,10 @@ class Server(ProgramCase):
         run."""
         mark = self.machine.path("C:\\box")
         mark.unlink(missing_ok=True)
-        before = []
-
-        def is_up():
-            before[:] = self.lines() if self.machine.path(LOG).exists() else []
-            return mark.exists() or answering.poll() is not None
-
-        answering = subprocess.Popen(
-            ["wine", str(ANSWER_BOX), title, "C:\\box"],
-            env=self.machine.environment(),
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
-        self.wait_for("the box", is_up)
+        answering = self.machine.start(str(ANSWER_BOX), title, "C:\\box")
+        self.wait_for("the box", lambda: mark.exists() or answering.poll() is not None)
+        before = self.lines()
+        mark.unlink(missing_ok=True)
         self.assertEqual(answering.wait(60), 0)
         return before, self.finish(process)
 

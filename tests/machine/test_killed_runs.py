@@ -8,7 +8,6 @@ import os
 import random
 import shutil
 import signal
-import subprocess
 import time
 import unittest
 from pathlib import Path
@@ -106,14 +105,7 @@ class KilledRuns(LauncherCase):
         """Starts a run and kills it when its log has so many lines, and a moment later. False when it had
         come to its end by then."""
         before = line_count(self.machine.path(LOG))
-        process = subprocess.Popen(
-            ["wine", INSTALL_DIR + "\\NVXConfig.exe", mode, "-S", "-Len-US"],
-            cwd=self.machine.prefix,
-            env=self.machine.environment(),
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
+        process = self.machine.start(INSTALL_DIR + "\\NVXConfig.exe", mode, "-S", "-Len-US")
         while line_count(self.machine.path(LOG)) - before < line and process.poll() is None:
             time.sleep(0.001)
         time.sleep(delay)

@@ -1,12 +1,9 @@
 """The users' material database on a real machine: whatever a run meets, it is never lost and never replaced;
 only a removal of the product takes it."""
 
-import contextlib
-import subprocess
-import time
 import unittest
 
-from machine_case import BUILD, MachineCase
+from machine_case import MachineCase
 from winemachine import SHARED_DATA
 
 FOLDER = "C:\\Program Files\\Velmora\\Größe"
@@ -41,29 +38,6 @@ class MaterialDatabase(MachineCase):
 
     def read(self, path):
         return self.machine.path(path).read_bytes()
-
-    @contextlib.contextmanager
-    def held(self, path):
-        """A program has the file open and lets nobody else at it."""
-        mark = self.machine.path("C:\\held")
-        mark.unlink(missing_ok=True)
-        holder = subprocess.Popen(
-            ["wine", str(BUILD / "tests" / "machine" / "hold_file.exe"), path, "C:\\held"],
-            env=self.machine.environment(),
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
-        try:
-            for _ in range(600):
-                if mark.exists():
-                    break
-                time.sleep(0.1)
-            self.assertTrue(mark.exists(), "the file could not be held")
-            yield
-        finally:
-            mark.unlink(missing_ok=True)
-            self.assertEqual(holder.wait(60), 0)
 
     def test_a_first_install_copies_the_shipped_database(self):
         lines = self.install()

@@ -20,14 +20,7 @@ class Program:
         shutil.copy(GUARDED / source, self.path)
         self._running = self.path.with_name(self.path.name + ".running")
         self._running.unlink(missing_ok=True)
-        self._process = subprocess.Popen(
-            ["wine", windows_path],
-            cwd=machine.prefix,
-            env=machine.environment(),
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
+        self._process = machine.start(windows_path)
         deadline = time.monotonic() + 60
         while not self._running.exists():
             if time.monotonic() > deadline or self._process.poll() is not None:

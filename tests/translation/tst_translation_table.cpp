@@ -280,6 +280,33 @@ private slots:
         QCOMPARE(fileBytes(keptName), QByteArray("<TS>\r\n<context>"));
     }
 
+    void damagedFileIsKeptHoweverItIsSpelled_data()
+    {
+        QTest::addColumn<QString>("loaded");
+        QTest::addColumn<QString>("saved");
+        const QString native = m_folder.path(QStringLiteral("table.ts"));
+        const QString portable = QDir::fromNativeSeparators(native);
+        const QString roundabout = m_folder.path(QStringLiteral("./table.ts"));
+        QTest::newRow("native") << native << native;
+        QTest::newRow("portable") << portable << portable;
+        QTest::newRow("loaded native, saved portable") << native << portable;
+        QTest::newRow("loaded portable, saved native") << portable << native;
+        QTest::newRow("by way of its folder") << native << roundabout;
+    }
+
+    void damagedFileIsKeptHoweverItIsSpelled()
+    {
+        QFETCH(const QString, loaded);
+        QFETCH(const QString, saved);
+        const QString keptName = m_folder.path(QStringLiteral("table.ts.damaged"));
+        QFile::remove(keptName);
+        QVERIFY(writeFile(loaded, "<TS>"));
+        TranslationTable table;
+        QVERIFY(!table.load(loaded));
+        QVERIFY(table.save(saved));
+        QCOMPARE(fileBytes(keptName), QByteArray("<TS>"));
+    }
+
     void damagedFileThatCannotBeKeptIsNotReplaced()
     {
         const TestFolder folder;
@@ -322,6 +349,9 @@ private slots:
         TranslationTable table;
         QVERIFY(!Error::readTranslationTable(device, table).error.isEmpty());
     }
+
+private:
+    const TestFolder m_folder;
 };
 
 QTEST_GUILESS_MAIN(TestTranslationTable)

@@ -120,17 +120,25 @@ struct LineWindowFixture
     LineWindow window{dialogs, settings};
 };
 
-// Drags a file over the window and drops it there; whether the window wanted it.
-inline bool drop(QWidget &window, const QList<QUrl> &urls)
+// Drags a file over the window and drops what comes then; whether the window wanted either.
+inline bool drop(QWidget &window, const QList<QUrl> &dragged, const QList<QUrl> &dropped)
 {
     QMimeData mime;
-    mime.setUrls(urls);
+    mime.setUrls(dragged);
     QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     enter.ignore();
     QCoreApplication::sendEvent(&window, &enter);
     if (!enter.isAccepted())
         return false;
+    mime.setUrls(dropped);
     QDropEvent dropping(QPoint(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    dropping.ignore();
     QCoreApplication::sendEvent(&window, &dropping);
-    return true;
+    return dropping.isAccepted();
+}
+
+// Drags a file over the window and drops it there; whether the window wanted it.
+inline bool drop(QWidget &window, const QList<QUrl> &urls)
+{
+    return drop(window, urls, urls);
 }
