@@ -30,7 +30,8 @@ class MachineCase(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.machine = Machine.create(
-            BUILD / "machines" / cls.__name__,
+            # Two modules may have a class of one name, and run at the same time.
+            BUILD / "machines" / (cls.__module__ + "." + cls.__name__),
             make_template(BUILD / "wine-template"),
             cls.locale,
             BUILD / "locales",
