@@ -48,7 +48,7 @@ def machine_lines(folder):
         ("Processor", value_in("/proc/cpuinfo", r"^model name\s*: (.*)")),
         ("Processors for us", str(len(os.sched_getaffinity(0)))),
         ("Memory", "%.0f GB" % gigabytes),
-        ("System", "%s, Linux %s" % (system, platform.release())),
+        ("System", "%s, Linux %s" % (system, platform.release().partition("-")[0])),
         ("Compiler", first_line("c++", "--version")),
         ("Qt", first_line("/usr/lib/qt6/bin/qmake", "-query", "QT_VERSION")),
         ("Wine", first_line("wine", "--version")),

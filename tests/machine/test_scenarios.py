@@ -192,10 +192,10 @@ def _add_tests():
     def test_of(folder):
         return lambda case: case.play(folder)
 
-    part, parts = map(int, os.environ.get("NVX_PART", "1/1").split("/"))
+    lane, lanes = map(int, os.environ.get("NVX_LANE", "1/1").split("/"))
     folders = sorted(folder for folder in SCENARIOS.iterdir() if folder.is_dir())
     for number, folder in enumerate(folders):
-        if number % parts == part - 1:
+        if number % lanes == lane - 1:
             setattr(Scenarios, "test_" + folder.name, test_of(folder))
 
 
