@@ -101,6 +101,8 @@ Function SkipWhenInstalled
 FunctionEnd
 
 Section
+    ; What the page of the folder says is needed.
+    AddSize ${PRODUCT_KILOBYTES}
     StrCpy $Done ""
     Call FindTranslators
     ${If} ${FileExists} "$INSTDIR${MARK}"

@@ -66,7 +66,7 @@ def read_list(text):
         if not line.startswith(" "):
             file, _, tests = line.partition(":")
             units.append(Unit(file, tests.split()))
-        elif stripped.startswith("> "):
+        elif line.startswith("    > "):  # a change may begin so too, further in
             source = stripped[2:]
         else:
             change, because, reason = stripped.rpartition(" because ")

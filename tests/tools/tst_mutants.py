@@ -111,12 +111,12 @@ class TestList(unittest.TestCase):
         first, second = read_list(
             "# a comment\na.cpp: tst_a tst_b\n"
             "    > if (a < b) // because\n"
-            "        < to <= because they never meet\n        drop ! because of c\n"
+            "        > to >= because they never meet\n        drop ! because of c\n"
             "\nb.cpp: tst_b\n"
         )
         self.assertEqual((first.file, first.tests), ("a.cpp", ["tst_a", "tst_b"]))
         line = "if (a < b) // because"
-        self.assertEqual(first.accepted, {(line, "< to <="): "they never meet", (line, "drop !"): "of c"})
+        self.assertEqual(first.accepted, {(line, "> to >="): "they never meet", (line, "drop !"): "of c"})
         self.assertEqual((second.file, second.tests, second.accepted), ("b.cpp", ["tst_b"], {}))
 
     def test_what_is_accepted_needs_a_reason(self):
