@@ -35,7 +35,7 @@ QString applyArguments(const QString &text, const QStringList &arguments)
     QString filled = text;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         if (filled.contains(u'%' + QString::number(i + 1)))
-            filled = filled.arg(arguments.at(i), 0, QLatin1Char(' '));
+            filled = filled.arg(arguments.at(i));
     }
     return filled;
 }

@@ -17,6 +17,7 @@ private slots:
         QTest::newRow("one of them twice") << QStringLiteral("%1 and %2 and %1") << 2;
         QTest::newRow("the same twice") << QStringLiteral("%1%1") << 1;
         QTest::newRow("ten is one of its own") << QStringLiteral("%10") << 1;
+        QTest::newRow("nine") << QStringLiteral("%9") << 1;
         QTest::newRow("ten and one") << QStringLiteral("%10 %1") << 2;
         QTest::newRow("zero counts") << QStringLiteral("%0") << 1;
         QTest::newRow("leading zero is another text") << QStringLiteral("%01 %1") << 2;

@@ -63,6 +63,30 @@ private slots:
         QVERIFY(table.begin() == table.end());
     }
 
+    // A table of 100,000 messages has few processes and contexts.
+    void neighboursHaveTheTextsOfTheirKeysInCommon()
+    {
+        MessageTable table;
+        const QStringList tags{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+        for (const QString &tag : tags)
+            table.insert(
+                messageOf(QStringLiteral("process").repeated(2), QStringLiteral("context").repeated(2), tag));
+        const MessageKey &first = table.begin()->first;
+        for (const auto &[key, message] : table) {
+            QCOMPARE(key.process.constData(), first.process.constData());
+            QCOMPARE(key.context.constData(), first.context.constData());
+        }
+    }
+
+    void aKeyThatIsMissingHasAnEmptyMessage()
+    {
+        MessageTable table;
+        table.insert(messageOf(p, QStringLiteral("A::B"), QStringLiteral("t"), QStringLiteral("text")));
+        const Message missing = table.message(keyOf(p, QStringLiteral("B"), QStringLiteral("t")));
+        QVERIFY(missing.text().isEmpty());
+        QCOMPARE(missing.key(), MessageKey());
+    }
+
     void messagesStandInKeyOrder()
     {
         MessageTable table;

@@ -32,6 +32,7 @@ private slots:
         row("a first half before a letter", QString(QChar(0xD83D)) + QLatin1Char('a'), false);
         row("two first halves", QString(2, QChar(0xD83D)), false);
         row("a second half", QString(QChar(0xDE00)), false);
+        row("two second halves", QString(2, QChar(0xDE00)), false);
         row("the last that counts", QString(QChar(0xFFFD)), true);
         row("U+FFFE", QString(QChar(0xFFFE)), false);
         row("U+FFFF", QString(QChar(0xFFFF)), false);

@@ -32,6 +32,16 @@ private slots:
         QCOMPARE(saved(file, folder.path(QStringLiteral("x.nvxcfg"))), QByteArray("b = 3\na = 2\n"));
     }
 
+    void theSolverKnowsTheFileAndItsSettingsByTheseNames()
+    {
+        QCOMPARE(Nvx2ConfigFile::DefaultName, "NVX2_config.nvxcfg");
+        QCOMPARE(Nvx2ConfigFile::AnalyzePath, "AnalyzePath");
+        QCOMPARE(Nvx2ConfigFile::ExePath, "ExePath");
+        QCOMPARE(Nvx2ConfigFile::Mpi, "Mpi");
+        QCOMPARE(Nvx2ConfigFile::NumberOfThreads, "NumberOfThreads");
+        QCOMPARE(Nvx2ConfigFile::SocketsPerNode, "SocketsPerNode");
+    }
+
     void valuesOfTheCodePageAreWrittenInUtf8()
     {
         const TestFolder folder;

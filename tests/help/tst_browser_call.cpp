@@ -103,6 +103,8 @@ private slots:
         row("%1 %HOME%", "%1 C:\\Home");
         row("%UNKNOWN% %HOME%", "%UNKNOWN% C:\\Home");
         row("%UNKNOWN%HOME%", "%UNKNOWNC:\\Home");
+        row("%HOME%\\b.exe -x", "C:\\Home\\b.exe -x");
+        row("%%HOME%", "%C:\\Home");
         row("100% %", "100% %");
         row("%%", "%%");
         row("%", "%");
@@ -134,6 +136,7 @@ private slots:
         row("quotes within", "a\" b\"c", {s("a bc")});
         row("an empty one", "a \"\" b", {s("a"), QString(s("")), s("b")});
         row("a quote in quotes", "\"a\"\"b\"", {s("a\"b")});
+        row("blanks behind a quote in quotes", "\"a\"\"b c\" d", {s("a\"b c"), s("d")});
         row("an escaped quote", "a\\\"b c", {s("a\"b"), s("c")});
         row("backslashes", "C:\\a\\\\b", {s("C:\\a\\\\b")});
         row("a backslash before the closing quote", "\"C:\\a b\\\\\" c", {s("C:\\a b\\"), s("c")});
@@ -177,6 +180,8 @@ private slots:
         row("a program of no suffix", QStringLiteral("/usr/bin/browser %1"),
             {QStringLiteral("/usr/bin/browser"), bare});
         row("blanks around", QStringLiteral("  ") + quoted + QStringLiteral("  "), {browser, address});
+        row("an option right behind the quote", quoted + QStringLiteral("-x"),
+            {browser, QStringLiteral("-x"), address});
         row("a quote that is not closed", QStringLiteral("\"") + browser, {browser, address});
         row("an apostrophe is a character", quoted + QStringLiteral(" '%1'"),
             {browser, QStringLiteral("'%1'").arg(bare)});

@@ -41,7 +41,9 @@ private slots:
         const QString link = folder.path(QStringLiteral("a.lnk"));
         QVERIFY(QFile::link(folder.path(QStringLiteral("gone.exe")), link));
         QVERIFY(removeProductFile(link));
-        QCOMPARE(namesIn(folder.path()), QStringList());
+        // A link that leads nowhere is among the names only when they are asked for.
+        QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
+                 QStringList());
     }
 
     void ofALinkTheTargetStays()

@@ -1,8 +1,13 @@
+#include "nvx_util/cpu_info.h"
+#include "nvx_util/log.h"
 #include "support/test_machine.h"
 #include "unix/topology.h"
 
 #include <QTest>
 
+using Nvx::Util::countProcessors;
+using Nvx::Util::CpuInfo;
+using Nvx::Util::Log;
 using Nvx::Util::Platform::readTopology;
 
 namespace {
@@ -39,6 +44,17 @@ private slots:
         QCOMPARE(counts->processors, 1);
         QCOMPARE(counts->coresPerProcessor, 2);
         QVERIFY(counts->hyperThreading);
+    }
+
+    void theTopologyOfThisMachineIsWhatTheProbeTells()
+    {
+        const TestFolder folder;
+        Log log(folder.path(QStringLiteral("a.log")));
+        const CpuInfo probed(log, folder.path());
+        const auto counts =
+            readTopology(QStringLiteral("/sys/devices/system/cpu")).value_or(countProcessors(0, 0, false));
+        QCOMPARE(probed.processorCount(), counts.processors);
+        QCOMPARE(probed.coresPerProcessor(), counts.coresPerProcessor);
     }
 
     void theSameCoreNumberInTwoPackagesIsTwoCores()

@@ -146,8 +146,7 @@ bool looksLikeAnOption(const QString &argument)
 
 QString encodedAddress(const QString &address)
 {
-    const QUrl url = urlOf(address);
-    return url.isValid() ? QString::fromLatin1(url.toEncoded()) : QString();
+    return QString::fromLatin1(urlOf(address).toEncoded()); // nothing for what is no address
 }
 
 QString expandVariables(const QString &text, const std::function<QString(const QString &)> &valueOf)
