@@ -21,7 +21,7 @@ if(WIN32)
     set(CPACK_EXTERNAL_ENABLE_STAGING ON)
     set(CPACK_EXTERNAL_PACKAGE_SCRIPT "${PROJECT_SOURCE_DIR}/installer/make_installer.cmake")
     set(NVX_SET_UP_PROJECTS "${nvx_package_of};programs;/product;${nvx_package_of};sample;/")
-    set(NVX_INSTALLER_ICON "${PROJECT_SOURCE_DIR}/resource/images/program.ico")
+    set(NVX_INSTALLER_PICTURES "${PROJECT_SOURCE_DIR}/resource/images")
     configure_file("${CMAKE_CURRENT_LIST_DIR}/package_by_generator.cmake.in"
         "${CMAKE_BINARY_DIR}/package_by_generator.cmake" @ONLY)
     set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_BINARY_DIR}/package_by_generator.cmake")

@@ -56,7 +56,8 @@ execute_process(
         "-DPRODUCT_VERSION=${CPACK_PACKAGE_VERSION}"
         "-DPRODUCT_KILOBYTES=${kilobytes}"
         "-DLISTS=${lists_file}"
-        "-DICON=${NVX_INSTALLER_ICON}"
+        "-DICON=${NVX_INSTALLER_PICTURES}/program.ico"
+        "-DSIDE_PICTURE=${NVX_INSTALLER_PICTURES}/setup.bmp"
         "-DOUT_FILE=${set_up}"
         "${CMAKE_CURRENT_LIST_DIR}/nvx.nsi"
     RESULT_VARIABLE result)

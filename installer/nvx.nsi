@@ -6,7 +6,8 @@
 ;
 ; A product that is installed already is replaced where it is, in its language if no other is named.
 ;
-; Defined by the build: PRODUCT_VERSION, PRODUCT_KILOBYTES, LISTS (the lists of the files), ICON and OUT_FILE.
+; Defined by the build: PRODUCT_VERSION, PRODUCT_KILOBYTES, LISTS (the lists of the files), ICON,
+; SIDE_PICTURE and OUT_FILE.
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -39,6 +40,7 @@ Var Left
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE_PICTURE}"
 !define MUI_ABORTWARNING
 !define MUI_LANGDLL_ALLLANGUAGES
 
