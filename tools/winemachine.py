@@ -123,6 +123,12 @@ class Machine:
                 timeout=60,
             )
 
+    def start_to_stay(self):
+        """Starts the machine anew, to go on for half a minute when its last program has ended, with its
+        services; else it goes on for three seconds, in which a busy host may not start the next program."""
+        self.stop()
+        subprocess.run(["wineserver", "-p30"], env=self.environment(), check=True)
+
     def set_value(self, key, name, text):
         """Writes a text into the registry, as an administrator would with the machine's own tool."""
         answer = self.run("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", text, "/f")

@@ -39,6 +39,7 @@ class Installer(InstallerCase, LauncherCase):
             case.write(path, b"mine")
         cls.before = cls.machine.files()
 
+        cls.machine.start_to_stay()
         cls.code = case.set_up("/S", "/LANG=de-DE")
         cls.running = case.server_is_running()
         cls.installed = cls.machine.files()
@@ -51,6 +52,7 @@ class Installer(InstallerCase, LauncherCase):
         case.write(MATERIALS, b"the user's materials")
         case.write(MENU, b"of an older release")
         case.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink()
+        cls.machine.start_to_stay()
         cls.second_code = case.set_up("/S", "/NONSENSE")
         cls.second_running = case.server_is_running()
         cls.second = cls.machine.files()
@@ -101,7 +103,8 @@ class Installer(InstallerCase, LauncherCase):
         self.assertIn(SHORTCUT, self.installed)
 
     def test_the_server_runs(self):
-        self.assertEqual((self.running, self.second_running), (True, True))
+        self.assertTrue(self.running, "\n".join(self.lines))
+        self.assertTrue(self.second_running, "\n".join(self.second_lines))
 
     def test_the_launchers_are_in_the_cad_systems(self):
         for path in (ADDIN + ".xml", target_manifest(2017)):
