@@ -263,6 +263,8 @@ void DeclarationHead::takeName(std::string_view word)
 
 void DeclarationHead::takeDoubleColon()
 {
+    if (m_stage == Stage::Bases)
+        return;
     if (m_previous != Previous::Name && m_previous != Previous::CloseAngle) {
         m_name.clear();
         ++m_names;

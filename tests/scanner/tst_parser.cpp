@@ -38,6 +38,23 @@ private slots:
                          QStringLiteral("RightBrace N depth=1"), QStringLiteral("RightBrace  depth=0")}));
     }
 
+    void enumerationsAndLinkageAreNoScopes_data()
+    {
+        QTest::addColumn<QByteArray>("head");
+        QTest::newRow("enumeration") << QByteArray("enum E");
+        QTest::newRow("enumeration behind a macro") << QByteArray("enum EXPORT(x) E");
+        QTest::newRow("enumeration that is a class") << QByteArray("enum class E : int");
+        QTest::newRow("enumeration that is a structure") << QByteArray("enum struct E");
+        QTest::newRow("linkage") << QByteArray("extern \"C\"");
+    }
+
+    void enumerationsAndLinkageAreNoScopes()
+    {
+        QFETCH(const QByteArray, head);
+        QCOMPARE(traceOf((head + " { } // REPORT_ERROR").toStdString()),
+                 QStringList({QStringLiteral("LeftBrace  depth=1"), QStringLiteral("RightBrace  depth=0")}));
+    }
+
     void tracesTokensThatItDoesNotExpect_data()
     {
         QTest::addColumn<QByteArray>("text");

@@ -1,0 +1,198 @@
+#include "error_source_parser.h"
+
+#include <QTest>
+
+using namespace Scan;
+
+namespace {
+
+// The contexts of the calls in a text in which CALL stands for a call; none is written "none".
+QStringList contextsOf(QByteArray text)
+{
+    text.replace("CALL", "REPORT_ERROR(\"Tag\");");
+    Parser parser({text.constData(), static_cast<std::size_t>(text.size())});
+    QStringList contexts;
+    if (parser.parse())
+        return {QStringLiteral("an error")};
+    for (const Call &call : parser.calls())
+        contexts.append(call.context.isEmpty() ? QStringLiteral("none") : call.context);
+    return contexts;
+}
+
+void addColumns()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("contexts");
+}
+
+void addRow(const char *name, const QByteArray &text, const char *contexts)
+{
+    QTest::newRow(name) << text << QString::fromLatin1(contexts);
+}
+
+void verifyContexts()
+{
+    QFETCH(const QByteArray, text);
+    QFETCH(const QString, contexts);
+    QCOMPARE(contextsOf(text).join(u' '), contexts);
+}
+
+} // namespace
+
+/// What the braces behind a declaration's head open, told by the contexts of the calls within them.
+class TestDeclarationHead : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void functionsAreNamed_data()
+    {
+        addColumns();
+        addRow("returning a pointer to a member", "int C::*f() { CALL }", "f");
+        addRow("returning a reference to an array", "int (&f(int a))[3] { CALL }", "f");
+        addRow("returning a reference to a function", "void (&C::f(int a))(int) { CALL }", "C::f");
+        addRow("qualified as global", "int *::f() { CALL }", "f");
+        addRow("qualified as global behind a macro", "Q_DECLARE(A) int *::f() { CALL }", "f");
+        addRow("returning a pointer behind a macro", "Q_DECLARE(A)\nint *f() { CALL }", "f");
+        addRow("returning a class", "auto f() -> struct S { CALL }", "f");
+        addRow("returning an enumeration", "auto f() -> enum E { CALL }", "f");
+        addRow("call operator behind a sign", "struct S { int &operator()(int a) { CALL } };",
+               "S::operator()");
+        addRow("conversion behind a macro", "struct S { Q_DISABLE(S) operator bool() { CALL } };",
+               "S::operator bool");
+        addRow("destructor before a macro", "C::~C() EXCEPT(true) { CALL }", "C::~C");
+        addRow("of C, named by a word of C++", "void catch(int a) { CALL }", "catch");
+        addRow("with a default argument that calls", "void f(int a = [] { CALL }()) { CALL }", "none f");
+        addRow("without a type, behind macros", "TAGS REPORT_ERROR_NOOP(\"A\") main() { CALL }", "none main");
+        addRow("in a namespace of many names", "namespace a::b::c::d::e::f::g::h::i::j { void k() { CALL } }",
+               "c::d::e::f::g::h::i::j::k");
+    }
+
+    void functionsAreNamed() { verifyContexts(); }
+
+    void templatesAreReadToTheirEnd_data()
+    {
+        addColumns();
+        addRow("comparison in parentheses", "template <> void f<(3 > 2)>() { CALL }", "f");
+        addRow("shift", "template <> void f<1 << 3>() { CALL }", "f");
+        addRow("shift of a template's member", "template <> void f<A<int>::x << 3>() { CALL }", "f");
+        addRow("stray parenthesis", "template <class T)> void f() { CALL }", "f");
+        addRow("member template", "void A<T>::template f<int>() { CALL }", "A::f");
+        addRow("requires-expression behind the parameters",
+               "template <class T> void f(T t) requires requires { t.x; } { CALL }", "f");
+        addRow("requires-expression before another requirement",
+               "template <class T> requires requires(T t) { t.x; } && A<T> void f(T) { CALL }", "f");
+        addRow("constructor with a requirement", "C::C(T t) requires A<T> : m{1} { CALL }", "C::C");
+        addRow("constructor with a requires-expression",
+               "C::C(T t) requires requires { t.x; } : m(1) { CALL }", "C::C");
+    }
+
+    void templatesAreReadToTheirEnd() { verifyContexts(); }
+
+    void classesAreNamed_data()
+    {
+        addColumns();
+        addRow("with a base qualified as global", "struct S : public ::QDialog { void f() { CALL } };",
+               "S::f");
+        addRow("with a second base qualified as global", "struct S : A, ::N::B { void f() { CALL } };",
+               "S::f");
+        addRow("with a base of a template of a global", "struct S : A<::B> { void f() { CALL } };", "S::f");
+        addRow("behind a macro", "Q_MACRO struct EXPORT(x) S { void f() { CALL } };", "S::f");
+        addRow("behind a macro and alignment", "struct Q_A EXPORT alignas(8) S { void f() { CALL } };",
+               "S::f");
+    }
+
+    void classesAreNamed() { verifyContexts(); }
+
+    // What one declaration leaves open must not change what the next one is called.
+    void declarationsDoNotTouchTheNext_data()
+    {
+        addColumns();
+        addRow("operator that is taken over", "struct S : B { using B::operator=; S() { CALL } };", "S::S");
+        addRow("operator taken over before a macro's block",
+               "using B::operator=; BEGIN_GROUP { void f() { CALL } }", "f");
+        addRow("bit-field as wide as a comparison says",
+               "struct S { int a : N < 4 ? 1 : 2; void f() { CALL } };", "S::f");
+        addRow("parenthesis that is not closed", "void f(int a; void g() { CALL }", "g");
+        addRow("parenthesis that is not closed in a comparison",
+               "int a : b < (c; template <class T> void f() { CALL }", "f");
+        addRow("requires-expression that breaks off",
+               "template <class T> requires requires; void f() { CALL }", "f");
+        addRow("label of a macro before a macro's block",
+               "struct S { MY_SLOTS: BEGIN_GROUP { void f() { CALL } } };", "S::f");
+    }
+
+    void declarationsDoNotTouchTheNext() { verifyContexts(); }
+
+    void initialisersAreNoFunctions_data()
+    {
+        addColumns();
+        addRow("of a table that a macro names", "static Tag TABLE(errors)[] = { CALL };", "none");
+        addRow("lambda", "Foo foo{[] { foreach (a, b) { CALL } }};", "none");
+        addRow("lambda behind a name", "Foo foo{a, [] { foreach (b, c) { CALL } }};", "none");
+        addRow("lambda in the second branch of a choice",
+               "Foo foo = a ? B{} : C{d, [] { foreach (e, f) { CALL } }};", "none");
+        addRow("of a variable with an assembler name", "Tag tag asm(\"tag\"){CALL};", "none");
+    }
+
+    void initialisersAreNoFunctions() { verifyContexts(); }
+
+    void accessSpecifierEndsAMacro_data()
+    {
+        addColumns();
+        for (const char *specifier :
+             {"public", "protected", "private", "signals", "Q_SIGNALS", "private slots", "public Q_SLOTS"})
+            addRow(specifier, QByteArray("struct S { MACRO(x) ") + specifier + ": void f() { CALL } };",
+                   "S::f");
+    }
+
+    void accessSpecifierEndsAMacro() { verifyContexts(); }
+
+    void attributeBehindATypeIsNotTheFunction_data()
+    {
+        addColumns();
+        for (const char *attribute : {"__attribute__((cold))", "__declspec(noinline)", "alignas(8)"})
+            addRow(attribute, QByteArray("int ") + attribute + " f() { CALL }", "f");
+    }
+
+    void attributeBehindATypeIsNotTheFunction() { verifyContexts(); }
+
+    void macroBehindASpecifierIsNotTheFunction_data()
+    {
+        addColumns();
+        for (const char *specifier : {"const", "volatile", "noexcept", "override", "final"})
+            addRow(specifier, QByteArray("struct S { void f() ") + specifier + " EXCEPT(true) { CALL } };",
+                   "S::f");
+    }
+
+    void macroBehindASpecifierIsNotTheFunction() { verifyContexts(); }
+
+    // A macro's name alone opens a group of declarations, and a specifier is no name.
+    void macroBehindASpecifierOpensAGroup_data()
+    {
+        addColumns();
+        for (const char *specifier : {"constexpr", "constinit", "explicit", "friend", "inline", "mutable",
+                                      "static", "typedef", "virtual"})
+            addRow(specifier, QByteArray(specifier) + " BEGIN_GROUP { void f() { CALL } }", "f");
+        addRow("linkage behind a macro", "Q_MACRO extern \"C\" { void f() { CALL } }", "f");
+        addRow("constructor with a condition", "BEGIN_S { explicit(true) S(int a) { CALL } }", "S");
+    }
+
+    void macroBehindASpecifierOpensAGroup() { verifyContexts(); }
+
+    // As behind a brace too many.
+    void statementsAmongDeclarationsAreNoFunctions_data()
+    {
+        addColumns();
+        for (const char *statement : {"if (a)", "for (int a : b)", "while (a)", "switch (a)"})
+            addRow(statement, QByteArray("void f() { } } ") + statement + " { CALL } void g() { CALL }",
+                   "none g");
+        addRow("assertion without semicolon", "static_assert(sizeof(int) == 4) main() { CALL }", "main");
+    }
+
+    void statementsAmongDeclarationsAreNoFunctions() { verifyContexts(); }
+};
+
+QTEST_GUILESS_MAIN(TestDeclarationHead)
+
+#include "tst_declaration_head.moc"
