@@ -32,18 +32,13 @@ void QualifiedName::append(std::string_view part)
 
 void DeclarationHead::reset(std::string_view enclosingClass)
 {
-    m_name.clear();
+    begin(Kind::Unknown, Previous::Nothing);
     m_enclosingClass = enclosingClass;
     m_partBegin = nullptr;
-    m_joins = false;
-    m_kind = Kind::Unknown;
     m_stage = Stage::Names;
-    m_previous = Previous::Nothing;
     m_requiresExpression = false;
-    m_names = 0;
     m_groupDepth = 0;
     m_angleDepth = 0;
-    m_angleGroupDepth = 0;
 }
 
 void DeclarationHead::blockClosed()
@@ -54,9 +49,8 @@ void DeclarationHead::blockClosed()
 
 BraceMeaning DeclarationHead::braceMeaning() const
 {
-    const bool namesMember = m_previous == Previous::Name || m_previous == Previous::CloseAngle;
     if (m_groupDepth > 0 || m_requiresExpression || m_stage == Stage::Initialiser ||
-        m_stage == Stage::Operator || (m_stage == Stage::MemberList && namesMember))
+        m_stage == Stage::Operator || (m_stage == Stage::MemberList && m_previous == Previous::Name))
         return BraceMeaning::Block;
     switch (m_kind) {
     case Kind::Namespace:
@@ -121,15 +115,13 @@ void DeclarationHead::takeInGroup(const Tokenizer &token)
         ++m_groupDepth;
     } else if (isClosing(token)) {
         --m_groupDepth;
-        // Brackets, those of an attribute say, may stand between a function's name and its parameters.
-        if (m_groupDepth == 0 && m_previous == Previous::Other)
-            m_previous = Previous::CloseGroup;
     } else if (isFirstParameter && (token.text() == "*" || token.text() == "&")) {
         m_groupDepth = 0;
         m_kind = Kind::Unknown;
     }
 }
 
+// A name remains the previous one behind its template arguments.
 void DeclarationHead::takeInAngle(const Tokenizer &token)
 {
     if (isOpening(token)) {
@@ -142,21 +134,19 @@ void DeclarationHead::takeInAngle(const Tokenizer &token)
         m_angleDepth += shift ? -1U : 1U;
     } else if (m_angleGroupDepth == 0 && token.text() == ">") {
         --m_angleDepth;
-        m_previous = Previous::CloseAngle;
     }
 }
 
 // An operator's name reaches to its parameter list; that of the call operator holds parentheses itself.
 void DeclarationHead::takeInOperator(const Tokenizer &token)
 {
-    const bool opens = token.kind() == TokenKind::LeftParen;
-    if (opens && m_previous == Previous::Other) {
+    if (token.kind() == TokenKind::LeftParen && m_previous == Previous::Other) {
         const char *const end = token.text().data();
         m_stage = Stage::Names;
         takeName({m_partBegin, static_cast<std::size_t>(end - m_partBegin)});
         openParenthesis();
     } else {
-        m_previous = opens && m_previous == Previous::OperatorWord ? Previous::OpenGroup : Previous::Other;
+        m_previous = Previous::Other;
     }
 }
 
@@ -265,7 +255,7 @@ void DeclarationHead::takeDoubleColon()
 {
     if (m_stage == Stage::Bases)
         return;
-    if (m_previous != Previous::Name && m_previous != Previous::CloseAngle) {
+    if (m_previous != Previous::Name) {
         m_name.clear();
         ++m_names;
     }
@@ -300,6 +290,7 @@ void DeclarationHead::takeSymbol(std::string_view symbol)
         m_angleGroupDepth = 0;
         return;
     }
+    // Brackets, those of an attribute say, may stand between a function's name and its parameters.
     if (symbol == "[") {
         m_groupDepth = 1;
         return;
@@ -308,15 +299,13 @@ void DeclarationHead::takeSymbol(std::string_view symbol)
         m_stage = Stage::Initialiser;
     else if (symbol == "->" && m_stage == Stage::Names && m_kind == Kind::Function)
         m_stage = Stage::TrailingClause;
-    m_partBegin = nullptr;
     m_joins = false;
     m_previous = Previous::Other;
 }
 
 void DeclarationHead::openParenthesis()
 {
-    const bool behindName = m_previous == Previous::Name || m_previous == Previous::CloseAngle;
-    if (behindName && m_stage == Stage::Names && m_name.count() > 0 && namesFunction()) {
+    if (m_previous == Previous::Name && m_stage == Stage::Names && namesFunction()) {
         m_function = m_name;
         m_kind = Kind::Function;
         m_previous = Previous::OpenParameters;

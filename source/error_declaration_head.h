@@ -96,8 +96,6 @@ private:
         OpenGroup,
         OpenParameters,
         CloseBlock,
-        CloseGroup,
-        CloseAngle,
         OperatorWord,
         Other
     };
