@@ -43,6 +43,9 @@ void DeclarationHead::reset(std::string_view enclosingClass)
 
 void DeclarationHead::blockClosed()
 {
+    // One among parameters or arguments, a value made there say, ends nothing.
+    if (m_groupDepth > 0 || m_angleDepth > 0)
+        return;
     m_previous = Previous::CloseBlock;
     m_requiresExpression = false;
 }

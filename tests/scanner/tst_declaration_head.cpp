@@ -70,6 +70,27 @@ private slots:
 
     void functionsAreNamed() { verifyContexts(); }
 
+    // A block among the parameters does not end the head.
+    void blocksMayStandAmongParametersAndArguments_data()
+    {
+        addColumns();
+        addRow("default of a method", "struct S { void f(A a = {}) const { CALL } };", "S::f");
+        addRow("default before a macro", "void f(A a = {}) NOEXCEPT { CALL }", "f");
+        addRow("default before a macro with arguments", "void f(A a = A{}) EXCEPT(true) { CALL }", "f");
+        addRow("default before a trailing type", "auto f(A a = {}) -> decltype(a) { CALL }", "f");
+        addRow("default of a constructor", "C::C(A a = {}) noexcept : m(1), ::B{} { CALL }", "C::C");
+        addRow("lambda by default", "void f(A a = [] { }) noexcept { CALL }", "f");
+        addRow("exception specification", "struct S { void f() noexcept(noexcept(T{})) override { CALL } };",
+               "S::f");
+        addRow("alignment of a class", "struct alignas(T{}) S { void f() { CALL } };", "S::f");
+        addRow("parameter of a template", "template <int N = int{}> struct S { void f() { CALL } };", "S::f");
+        addRow("argument of a template", "template <> void f<int{}>() { CALL }", "f");
+        addRow("parameter of a requires-expression",
+               "template <class T> void f() requires requires(decltype(T{}) t) { t.x; } { CALL }", "f");
+    }
+
+    void blocksMayStandAmongParametersAndArguments() { verifyContexts(); }
+
     void templatesAreReadToTheirEnd_data()
     {
         addColumns();
