@@ -119,10 +119,7 @@ void Tokenizer::takeLiterals(std::size_t begin)
     std::size_t quote = begin;
     while (m_text[quote] != '"')
         ++quote;
-    const std::size_t end = literalsEnd(begin, quote);
-    const std::size_t behind = m_position;
-    take(TokenKind::String, begin, end);
-    m_position = behind;
+    take(TokenKind::String, begin, literalsEnd(begin, quote));
 }
 
 // Makes the literal and those adjacent to it the last string and goes on behind them and the blanks that

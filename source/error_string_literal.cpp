@@ -193,7 +193,7 @@ void decodeRaw(std::string_view content, LiteralText &text)
     while (at < content.size()) {
         const std::size_t lineEnd = std::min(content.find("\r\n", at), content.size());
         text.appendBytes(content.substr(at, lineEnd - at));
-        at = lineEnd + (lineEnd < content.size() ? 1 : 0);
+        at = lineEnd + 1;
     }
 }
 
