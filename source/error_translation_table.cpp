@@ -107,12 +107,11 @@ bool TranslationTable::save(const QString &fileName)
     QBuffer contents;
     if (!contents.open(QIODevice::WriteOnly | QIODevice::Text) || !writeTranslationTable(contents, *this))
         return false;
-    const bool isDamaged = isSameFile(fileName, m_damagedFile);
-    if (isDamaged && !keepDamaged(fileName))
+    if (isSameFile(fileName, m_damagedFile) && !keepDamaged(fileName))
         return false;
     if (!Nvx::Util::replaceWholeFile(fileName, contents.data()))
         return false;
-    if (isDamaged)
+    if (isSameFile(fileName, m_damagedFile)) // also when it was gone until now
         m_damagedFile.clear();
     return true;
 }

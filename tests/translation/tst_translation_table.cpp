@@ -360,6 +360,34 @@ private slots:
         QVERIFY(!QFile::exists(folder.path(QStringLiteral("other.ts.damaged"))));
     }
 
+    void otherFilesAreReplacedWithoutBeingKept()
+    {
+        const TestFolder folder;
+        const QString damaged = folder.path(QStringLiteral("damaged.ts"));
+        const QString other = folder.path(QStringLiteral("other.ts"));
+        QVERIFY(writeFile(damaged, "<TS>"));
+        QVERIFY(writeFile(other, "old"));
+        QVERIFY(TranslationTable().save(other));
+        TranslationTable table;
+        QVERIFY(!table.load(damaged));
+        QVERIFY(table.save(other));
+        QVERIFY(!QFile::exists(other + QStringLiteral(".damaged")));
+        QCOMPARE(fileBytes(damaged), QByteArray("<TS>"));
+    }
+
+    void damagedFileThatIsGoneIsNoObstacle()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        QVERIFY(writeFile(fileName, "<TS>"));
+        TranslationTable table;
+        QVERIFY(!table.load(fileName));
+        QVERIFY(QFile::remove(fileName));
+        QVERIFY(table.save(fileName));
+        QVERIFY(table.save(fileName));
+        QVERIFY(!QFile::exists(fileName + QStringLiteral(".damaged")));
+    }
+
     void deviceThatBreaksIsReadToThere_data()
     {
         QTest::addColumn<QByteArray>("read");
