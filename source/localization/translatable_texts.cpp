@@ -35,7 +35,6 @@ int countTranslatableCalls(const QByteArray &source)
 {
     Scan::Tokenizer tokens(std::string_view(source.constData(), static_cast<size_t>(source.size())));
     int count = 0;
-    tokens.next();
     while (tokens.kind() != Scan::TokenKind::EndOfFile) {
         const bool marker = isMarker(tokens);
         tokens.next();

@@ -96,6 +96,21 @@ private slots:
         QCOMPARE(reporter.lines, QStringList());
     }
 
+    void collectingAgainReplacesTheEarlierCopiesInTheirFolder()
+    {
+        const TestFolder root;
+        const QString source = root.path(QStringLiteral("Locale/de-DE/client.ts"));
+        const QString copy = root.path(QStringLiteral("Locale/collect/deu/client.ts"));
+        RecordingReporter reporter;
+        LocaleFolders folders(root.path(), reporter);
+        for (const char *contents : {"old", "new"}) {
+            writeFile(source, contents);
+            folders.collect();
+            QCOMPARE(readFile(copy), QByteArray(contents));
+        }
+        QCOMPARE(reporter.lines, QStringList());
+    }
+
     void aCopyThatCannotBeMadeIsLogged()
     {
         const TestFolder root;

@@ -1,5 +1,6 @@
 #include "error_visual_studio_project.h"
 #include "support/broken_device.h"
+#include "support/file_bytes.h"
 #include "support/test_folder.h"
 
 #include <QBuffer>
@@ -104,6 +105,11 @@ private slots:
             << QByteArray("<Project><ItemDefinitionGroup><ClCompile "
                           "Include=\"a.cpp\"/></ItemDefinitionGroup></Project>")
             << QStringList();
+        QTest::newRow("groups of a choice or a target are none of the project")
+            << QByteArray("<Project><Choose><ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Choose>"
+                          "<Target><ItemGroup><ClCompile Include=\"b.cpp\"/></ItemGroup></Target>"
+                          "<ItemGroup><ClCompile Include=\"c.cpp\"/></ItemGroup></Project>")
+            << QStringList{QStringLiteral("c.cpp")};
         QTest::newRow("generated code")
             << withItems("<ClCompile Include=\"x\\generatedFILES\\a.cpp\"/>") << QStringList();
         QTest::newRow("libraries") << withItems("<ClCompile Include=\"..\\libRAries\\a.cpp\"/>")
@@ -143,6 +149,18 @@ private slots:
         const auto project = read("\xEF\xBB\xBF" + withGlobals("<RootNamespace>client</RootNamespace>"));
         QVERIFY(project);
         QCOMPARE(project->rootNamespace, QStringLiteral("client"));
+    }
+
+    void projectIsReadFromItsFile()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(QStringLiteral("größe.vcxproj"));
+        QVERIFY(writeFile(fileName, withItems("<ClCompile Include=\"a.cpp\"/>")));
+        const auto project = readVisualStudioProject(fileName);
+        QVERIFY(project);
+        QCOMPARE(project->sourceFiles, QStringList{QStringLiteral("a.cpp")});
+        QVERIFY(writeFile(fileName, "<Project>"));
+        QVERIFY(!readVisualStudioProject(fileName));
     }
 
     void fileThatCannotBeOpenedIsNoProject()
