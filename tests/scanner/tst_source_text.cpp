@@ -43,28 +43,26 @@ private slots:
         QTest::newRow("letters") << QByteArray("abc") << QByteArray("abc");
         QTest::newRow("UTF-8") << QByteArray("a\xC3\xBC") << QByteArray("a\xC3\xBC");
         QTest::newRow("a byte order mark alone") << QByteArray("\xEF\xBB\xBF") << QByteArray();
-        QTest::newRow("UTF-8 behind a byte order mark")
-            << QByteArray("\xEF\xBB\xBF"
-                          "a\xC3\xBC")
-            << QByteArray("a\xC3\xBC");
+        QTest::newRow("UTF-8 behind a byte order mark") << QByteArray("\xEF\xBB\xBF"
+                                                                      "a\xC3\xBC")
+                                                        << QByteArray("a\xC3\xBC");
         QTest::newRow("a second byte order mark is text") << QByteArray("\xEF\xBB\xBF\xEF\xBB\xBF"
                                                                         "a")
                                                           << QByteArray("\xEF\xBB\xBF"
                                                                         "a");
-        QTest::newRow("a wrong byte behind a byte order mark")
-            << QByteArray("\xEF\xBB\xBF"
-                          "a\xFC"
-                          "b")
-            << QByteArray("a\xEF\xBF\xBD"
-                          "b");
+        QTest::newRow("a wrong byte behind a byte order mark") << QByteArray("\xEF\xBB\xBF"
+                                                                             "a\xFC"
+                                                                             "b")
+                                                               << QByteArray("a\xEF\xBF\xBD"
+                                                                             "b");
         QTest::newRow("a replacement character of the file's own")
             << QByteArray("a\xEF\xBF\xBD") << QByteArray("a\xEF\xBF\xBD");
         QTest::newRow("half a byte order mark") << QByteArray("\xEF\xBB"
                                                               "a")
                                                 << QByteArray("\xC3\xAF\xC2\xBB"
                                                               "a");
-        QTest::newRow("UTF-8 and a wrong byte") << QByteArray("\xC3\xBC\xFC")
-                                                << QByteArray("\xC3\x83\xC2\xBC\xC3\xBC");
+        QTest::newRow("UTF-8 and a wrong byte")
+            << QByteArray("\xC3\xBC\xFC") << QByteArray("\xC3\x83\xC2\xBC\xC3\xBC");
         QTest::newRow("a character cut off") << QByteArray("a\xC3") << QByteArray("a\xC3\x83");
     }
 
