@@ -31,6 +31,18 @@ int distance(const QColor &first, const QColor &second)
            std::abs(first.blue() - second.blue());
 }
 
+// Whether 28 of 100 parts of the colour are of the tint.
+bool isTinted(const QColor &color, const QColor &base, const QColor &tint)
+{
+    constexpr double tolerance = 0.0005;
+    const auto agrees = [](double part, double of, double with) {
+        return std::abs(part - (0.72 * of + 0.28 * with)) < tolerance;
+    };
+    return agrees(color.redF(), base.redF(), tint.redF()) &&
+           agrees(color.greenF(), base.greenF(), tint.greenF()) &&
+           agrees(color.blueF(), base.blueF(), tint.blueF());
+}
+
 QPalette paletteOf(const QColor &base, const QColor &text)
 {
     QPalette palette;
@@ -62,6 +74,15 @@ private slots:
         QFETCH(QPalette, palette);
         for (const RowMark mark : {RowMark::None, RowMark::New, RowMark::Obsolete})
             QVERIFY(contrast(palette.color(QPalette::Text), markColor(palette, mark)) >= strictestGuideline);
+    }
+
+    void newRowsAreTintedGreenAndObsoleteOnesOrange_data() { addPaletteRows(); }
+    void newRowsAreTintedGreenAndObsoleteOnesOrange()
+    {
+        QFETCH(QPalette, palette);
+        const QColor base = palette.color(QPalette::Base);
+        QVERIFY(isTinted(markColor(palette, RowMark::New), base, QColor(QStringLiteral("#2ea043"))));
+        QVERIFY(isTinted(markColor(palette, RowMark::Obsolete), base, QColor(QStringLiteral("#d97a06"))));
     }
 
     void marksAreToldApart_data() { addPaletteRows(); }
