@@ -46,7 +46,7 @@ bool makeWritable(const QString &path)
     const QFile::Permissions permissions = file.permissions();
     if (permissions & QFile::WriteOwner)
         return true;
-    return file.setPermissions(permissions | QFile::WriteOwner | QFile::WriteUser);
+    return file.setPermissions(permissions | QFile::WriteOwner);
 }
 
 bool copyWhole(const QString &source, const QString &target)
