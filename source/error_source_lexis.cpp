@@ -189,13 +189,14 @@ std::size_t skipBlanksAndComments(std::string_view text, std::size_t from)
 std::size_t characterLiteralEnd(std::string_view text, std::size_t quote)
 {
     const QuotedEnd end = quotedEnd(text, quote);
-    return end.closed ? suffixEnd(text, end.end + 1) : std::min(end.end, text.size());
+    return end.closed ? suffixEnd(text, end.end + 1) : end.end;
 }
 
 std::size_t singleQuoteEnd(std::string_view text, std::size_t quote, std::size_t floor)
 {
     const std::size_t begin = wordBegin(text, quote, floor);
-    const bool afterNumber = quote > floor && isWordByte(text[quote - 1]) && isDigit(text[begin]);
+    // Where no word stands before the quote, it begins with the quote, which is no digit.
+    const bool afterNumber = isDigit(text[begin]) && isWordByte(text[quote - 1]);
     if (afterNumber && quote + 1 < text.size() && hasClass(text[quote + 1], WordByte))
         return numberEnd(text, quote + 1);
     return characterLiteralEnd(text, quote);
