@@ -35,7 +35,6 @@ Parser::Parser(std::string_view text, Trace trace)
     , m_trace(std::move(trace))
     , m_scopes(1)
 {
-    resetHead();
 }
 
 std::optional<SourceError> Parser::parse()
@@ -192,7 +191,6 @@ void Parser::takeLeftBrace()
         break;
     case BraceMeaning::Block:
         m_state.blockDepth = 1;
-        m_state.inFunction = false;
         break;
     }
     traceBrace();

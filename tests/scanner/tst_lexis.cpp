@@ -9,8 +9,8 @@ using namespace Scan;
 namespace {
 
 // What may stand in memory behind a text; none of it may change what is made of the text.
-constexpr std::string_view tails[] = {"", "a", "0", "_", "\n", "\r\n", "\\\n", "\n\n", "'",
-                                      "\"", "'a", "/", "*", "*/", "//", "(", ")", "\"(", " "};
+constexpr std::string_view tails[] = {"",   "a", "0", "_",  "\n", "\r\n", "\\\n", "\n\n", "'", "\"",
+                                      "'a", "/", "*", "*/", "//", "(",    ")",    "\"(",  " "};
 
 // The text as a view of a longer one, and on its own.
 void withEveryTail(std::string_view text, const std::function<void(std::string_view)> &check)
@@ -285,9 +285,8 @@ private slots:
 
     void singleQuotesBelongToNumbersOrLiterals()
     {
-        checkTaken([](std::string_view text, std::size_t quote) {
-            return Lexis::singleQuoteEnd(text, quote, 0);
-        });
+        checkTaken(
+            [](std::string_view text, std::size_t quote) { return Lexis::singleQuoteEnd(text, quote, 0); });
     }
 
     void theFloorTellsWhatANumberIs()

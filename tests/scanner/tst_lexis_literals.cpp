@@ -86,8 +86,8 @@ void checkRow(Lexis::Literal::Form form)
     const auto quote = static_cast<std::size_t>(2 + prefix.size());
     for (const std::string_view tail : tails) {
         const std::string longer = text + std::string(tail);
-        const Lexis::Literal literal = Lexis::literalAt(std::string_view(longer).substr(0, text.size()),
-                                                        prefix.toStdString(), quote);
+        const Lexis::Literal literal =
+            Lexis::literalAt(std::string_view(longer).substr(0, text.size()), prefix.toStdString(), quote);
         QCOMPARE(QByteArray(literal.content.data(), static_cast<qsizetype>(literal.content.size())), content);
         QCOMPARE(literal.end, quote + static_cast<std::size_t>(quoted.size()));
         QCOMPARE(static_cast<int>(literal.form), static_cast<int>(form));

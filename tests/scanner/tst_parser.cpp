@@ -110,6 +110,16 @@ private slots:
         QCOMPARE(parser.usedNamespaces(), std::vector<QString>{QStringLiteral("A")});
     }
 
+    void questionsWithinQuestionsAreReadSixteenDeep()
+    {
+        std::string text = "x";
+        for (int i = 0; i < 17; ++i)
+            text = "ASK_QUESTION(\"A\", Yes, " + text + ")";
+        Parser parser(text);
+        QVERIFY(!parser.parse());
+        QCOMPARE(parser.calls().size(), std::size_t(16));
+    }
+
     // Conditionals and scopes without end must not cost more than their number.
     void deepNestingIsReadInTimeThatGrowsWithIt()
     {

@@ -117,6 +117,26 @@ private slots:
         QVERIFY(scanner.keys().keys(CallFamily::Error).isEmpty());
     }
 
+    void aScanKnowsNothingOfTheOneBefore()
+    {
+        const QString fileName = m_folder.path(QStringLiteral("again.txt"));
+        SourceScanner scanner(QStringLiteral("client"), fileName);
+        QVERIFY(writeFile(fileName, "void f() { REPORT_ERROR(\"A\"); }"));
+        QVERIFY(scanner.scan());
+        QCOMPARE(scanner.keys().keys(CallFamily::Error).size(), 1);
+
+        QVERIFY(writeFile(fileName, "void f() { REPORT_ERROR(\"\\1\"); }"));
+        QVERIFY(!scanner.scan());
+        QVERIFY(scanner.keys().keys(CallFamily::Error).isEmpty());
+
+        QVERIFY(writeFile(fileName, "void f() { REPORT_ERROR(\"B\"); }"));
+        QVERIFY(scanner.scan());
+        QCOMPARE(scanner.errorText(), QString());
+        const QSet<Clt::MessageKey> expected = {
+            {QStringLiteral("B"), QStringLiteral("f"), QStringLiteral("client")}};
+        QCOMPARE(scanner.keys().keys(CallFamily::Error), expected);
+    }
+
     void debugLinesOfTheCategoryTellOfKeys()
     {
         QLoggingCategory::setFilterRules(QStringLiteral("nvx.scanner.debug=true"));

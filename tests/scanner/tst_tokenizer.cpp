@@ -300,9 +300,29 @@ private slots:
 
     void textsWithoutMacroNamesAreKnown()
     {
-        for (const char *text :
-             {"", "R", "_", "K_", "T_", "REPORT_", "ASK_", "REPORT_ERRO", "QT_REPORT_ERROR", "\\", "A\\\nB"})
+        for (const char *text : {"", "R", "_", "K_", "T_", "REPORT_", "ASK_", "REPORT_ERRO", "EPORT_ERROR",
+                                 "SK_QUESTION", "QT_REPORT_ERROR", "\\", "A\\\nB"})
             QVERIFY2(!namesMacro(text), text);
+    }
+
+    void macroNamesAreFoundWhereverTheyAreBroken()
+    {
+        const std::string name = "REPORT_ERROR";
+        for (std::size_t at = 1; at < name.size(); ++at) {
+            const std::string text = std::string(name).insert(at, "\\\n");
+            QVERIFY2(namesMacro(text), text.c_str());
+            QVERIFY2(!namesMacro('x' + text), text.c_str());
+        }
+    }
+
+    // Whatever stands in memory before the text.
+    void aContinuationBeforeAMacroNameIsNoPartOfIt()
+    {
+        const std::string text = "x\\\nREPORT_ERROR";
+        const MacroFinder::Macro macro = MacroFinder(std::string_view(text).substr(1)).next(0);
+        QCOMPARE(macro.kind, TokenKind::ReportError);
+        QCOMPARE(macro.begin, std::size_t(2));
+        QCOMPARE(macro.end, text.size() - 1);
     }
 
     void wideSearchesAgreeWithPlainOnesAtEveryPosition()

@@ -1,5 +1,6 @@
 #include "error_progress_log.h"
 
+#include <QBuffer>
 #include <QTest>
 #include <QTextStream>
 
@@ -76,6 +77,29 @@ private slots:
             log.showProgress(QStringLiteral("next"));
         }
         QCOMPARE(m_text, QStringLiteral("first\r     \rnext\r    \r"));
+    }
+
+    void progressReachesTheTerminalAtOnce()
+    {
+        QBuffer terminal;
+        QVERIFY(terminal.open(QIODevice::WriteOnly));
+        QTextStream stream(&terminal);
+        ProgressLog log(stream, ProgressLog::Progress::Shown);
+        log.showProgress(QStringLiteral("half"));
+        QCOMPARE(terminal.data(), QByteArray("half"));
+    }
+
+    void everythingReachesTheTerminalAtTheEnd()
+    {
+        QBuffer terminal;
+        QVERIFY(terminal.open(QIODevice::WriteOnly));
+        QTextStream stream(&terminal);
+        {
+            ProgressLog log(stream, ProgressLog::Progress::Shown);
+            log.writeLine(QStringLiteral("one"));
+            log.showProgress(QStringLiteral("half"));
+        }
+        QCOMPARE(terminal.data(), QByteArray("one\nhalf\r    \r"));
     }
 
 private:

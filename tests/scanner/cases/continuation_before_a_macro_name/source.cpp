@@ -1,0 +1,4 @@
+void f() { g; \
+REPORT_ERROR("A"); \
+\
+REPORT_MESSAGE("B"); }

@@ -1,0 +1,3 @@
+namespace checked {
+void f(int x) checked(x) { REPORT_ERROR("A"); }
+}

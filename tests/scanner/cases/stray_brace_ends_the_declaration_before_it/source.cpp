@@ -1,0 +1,4 @@
+namespace N }
+void f() { REPORT_ERROR("A"); }
+int a = }
+void g() { REPORT_ERROR("B"); }
