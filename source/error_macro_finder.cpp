@@ -39,8 +39,10 @@ void MacroFinder::search(std::size_t from)
 {
     for (std::size_t at = Wide::findMacroHint(m_text, from); at < m_text.size();
          at = Wide::findMacroHint(m_text, at + 1)) {
+        if (at < m_examined)
+            continue;
         const bool hit = m_text[at] == '\\' ? continuesWord(m_text, at) : endsBeginning(m_text, at);
-        if (hit && at >= m_examined && takeWordAround(at) && m_macro.begin >= from)
+        if (hit && takeWordAround(at) && m_macro.begin >= from)
             return;
     }
     m_macro = {TokenKind::EndOfFile, m_text.size(), m_text.size()};

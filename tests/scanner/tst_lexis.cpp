@@ -116,6 +116,8 @@ private slots:
         addTaken("behind a letter, no backslash, and a line feed", "\\xr\n", "name", ";");
         addTaken("behind a backslash that is not at the line's end", "x\\y\n", "name", ";");
         addTaken("behind a backslash and a blank", "x\\ \n", "name", ";");
+        addTaken("behind a backslash and a sign", "x\\;", "name", ";");
+        addTaken("behind a backslash, a carriage return and a sign", "x\\\r;", "name", ";");
         addTaken("behind a continuation that no word byte precedes", ";\\\n", "name", ";");
         addTaken("behind a continuation that a blank precedes", "x \\\r\n", "name", ";");
         addTaken("behind a continuation at the start of the text", "\\\n", "name", ";");
@@ -277,6 +279,7 @@ private slots:
         addTaken("a literal behind a blank", "1 ", "'a'", ";'");
         addTaken("a literal behind its prefix", "L", "'a'", ";'");
         addTaken("a literal behind a prefix with a digit", "u8", "'a'", ";'");
+        addTaken("a literal behind a number and a continuation", "1\\\n", "'2'", ";'");
         addTaken("a literal behind a number and a sign", "1+", "'a'", ";'");
         addTaken("a literal behind a number, as no digit follows", "1", "'{'", ";'");
         addTaken("a quote behind a number, at the end of the text", "1", "'", "");
