@@ -58,6 +58,17 @@ bool isDelimiterByte(char byte)
     return byte != ')' && byte != '\\' && byte != '"' && !hasClass(byte, Blank);
 }
 
+// The length of the line continuation that ends at the position and begins behind the floor; 0 when there is
+// none.
+std::size_t lengthOfContinuationBefore(std::string_view text, std::size_t end, std::size_t floor)
+{
+    for (const std::size_t length : {2U, 3U}) {
+        if (end > floor + length && continuationLength(text, end - length) == length)
+            return length;
+    }
+    return 0;
+}
+
 // The raw string whose opening quote is at the position; nothing when its delimiter is none.
 std::optional<Literal> rawLiteral(std::string_view text, std::size_t quote)
 {
@@ -89,7 +100,7 @@ std::optional<Literal> rawLiteral(std::string_view text, std::size_t quote)
 
 std::size_t continuationLength(std::string_view text, std::size_t at)
 {
-    if (text[at] != '\\' || at + 1 >= text.size())
+    if (at + 1 >= text.size() || text[at] != '\\')
         return 0;
     if (text[at + 1] == '\n')
         return 2;
@@ -102,11 +113,9 @@ std::size_t wordEnd(std::string_view text, std::size_t begin)
     for (;;) {
         while (at < text.size() && hasClass(text[at], WordByte))
             ++at;
-        if (at == text.size() || text[at] != '\\')
-            return at;
         std::size_t behind = at;
-        while (behind < text.size() && continuationLength(text, behind) != 0)
-            behind += continuationLength(text, behind);
+        while (const std::size_t length = continuationLength(text, behind))
+            behind += length;
         if (behind == at || behind >= text.size() || !hasClass(text[behind], WordByte))
             return at;
         at = behind;
@@ -120,13 +129,9 @@ std::size_t wordBegin(std::string_view text, std::size_t end, std::size_t floor)
         while (begin > floor && hasClass(text[begin - 1], WordByte))
             --begin;
         std::size_t before = begin;
-        while (before >= floor + 2 && text[before - 1] == '\n') {
-            const std::size_t length = text[before - 2] == '\r' ? 3 : 2;
-            if (before < floor + length || text[before - length] != '\\')
-                break;
+        while (const std::size_t length = lengthOfContinuationBefore(text, before, floor))
             before -= length;
-        }
-        if (before == begin || before == floor || !hasClass(text[before - 1], WordByte))
+        if (before == begin || !hasClass(text[before - 1], WordByte))
             return begin;
         begin = before;
     }
@@ -196,17 +201,18 @@ std::size_t singleQuoteEnd(std::string_view text, std::size_t quote, std::size_t
 {
     const std::size_t begin = wordBegin(text, quote, floor);
     // Where no word stands before the quote, it begins with the quote, which is no digit.
-    const bool afterNumber = isDigit(text[begin]) && isWordByte(text[quote - 1]);
-    if (afterNumber && quote + 1 < text.size() && hasClass(text[quote + 1], WordByte))
-        return numberEnd(text, quote + 1);
+    if (isDigit(text[begin]) && isWordByte(text[quote - 1])) {
+        const std::size_t end = numberEnd(text, quote - 1);
+        if (end > quote)
+            return end;
+    }
     return characterLiteralEnd(text, quote);
 }
 
 bool isLiteralPrefix(std::string_view word)
 {
     static constexpr std::string_view prefixes[] = {"R", "L", "u", "U", "u8", "LR", "uR", "UR", "u8R"};
-    return word.size() <= 3 &&
-           std::find(std::begin(prefixes), std::end(prefixes), word) != std::end(prefixes);
+    return std::find(std::begin(prefixes), std::end(prefixes), word) != std::end(prefixes);
 }
 
 Literal literalAt(std::string_view text, std::string_view prefix, std::size_t quote)

@@ -308,6 +308,7 @@ private slots:
         addTaken("behind a continuation", "", " A \\\nB", "\nC");
         addTaken("behind a continuation with a carriage return", "", " A \\\r\nB", "\nC");
         addTaken("with the line, whatever a backslash stands in", "", " \\ A", "\nB");
+        addTaken("with the line, at a string behind a backslash", "", " \\\"/*\"", "\n*/");
         addTaken("with the line, at a backslash behind a continuation", "", " \\\n\\A", "\nB");
         addTaken("behind a comment", "", " A /* b\nc */ D", "\nE");
         addTaken("with a comment that ends with the line", "", " A // b", "\nC");
@@ -354,8 +355,11 @@ private slots:
     void directivesBeginTheirLine()
     {
         QFETCH(const QByteArray, before);
-        const std::string text = before.toStdString() + "#if\n";
-        QTEST(Lexis::beginsLine(text, std::size_t(before.size())), "begins");
+        // Whatever stands in memory before the text.
+        for (const char head : {'x', ' ', '\n', '*', '/'}) {
+            const std::string text = head + before.toStdString() + "#if\n";
+            QTEST(Lexis::beginsLine(std::string_view(text).substr(1), std::size_t(before.size())), "begins");
+        }
     }
 };
 

@@ -7,8 +7,8 @@ using namespace Scan;
 namespace {
 
 // What may stand in memory behind a text; none of it may change what is made of the text.
-constexpr std::string_view tails[] = {"",     "a", "0", "_",   "\n", "\\\n", "\"",
-                                      "\"\"", "(", ")", ")\"", " ",  "a(",   "a(b)a\""};
+constexpr std::string_view tails[] = {"",  "a", "0",   "_", "\n", "\\\n",    "\"",  "\"\"",
+                                      "(", ")", ")\"", " ", "a(", "a(b)a\"", "R\"("};
 
 struct Expected
 {
