@@ -3,6 +3,8 @@
 #include "error_source_lexis.h"
 #include "error_wide_scan.h"
 
+#include <algorithm>
+
 namespace Scan {
 
 namespace {
@@ -12,12 +14,10 @@ constexpr std::string_view beginnings[] = {"REPORT", "ASK"};
 
 bool endsBeginning(std::string_view text, std::size_t hint)
 {
-    for (const std::string_view beginning : beginnings) {
-        if (hint + 1 >= beginning.size() &&
-            text.substr(hint + 1 - beginning.size(), beginning.size()) == beginning)
-            return true;
-    }
-    return false;
+    return std::any_of(std::begin(beginnings), std::end(beginnings), [&](std::string_view beginning) {
+        return hint + 1 >= beginning.size() &&
+               text.substr(hint + 1 - beginning.size(), beginning.size()) == beginning;
+    });
 }
 
 // A macro name may be broken by a line continuation, so that no part of it can be searched for.
