@@ -201,7 +201,7 @@ std::size_t singleQuoteEnd(std::string_view text, std::size_t quote, std::size_t
 {
     const std::size_t begin = wordBegin(text, quote, floor);
     // Where no word stands before the quote, it begins with the quote, which is no digit.
-    if (isDigit(text[begin]) && isWordByte(text[quote - 1])) {
+    if (isDigit(text[begin])) {
         const std::size_t end = numberEnd(text, quote - 1);
         if (end > quote)
             return end;
