@@ -234,8 +234,9 @@ Literal literalAt(std::string_view text, std::string_view prefix, std::size_t qu
 std::optional<std::size_t> literalQuote(std::string_view text, std::size_t begin)
 {
     constexpr std::size_t longestPrefix = 3;
+    const std::size_t limit = std::min(text.size(), begin + longestPrefix);
     std::size_t quote = begin;
-    while (quote < text.size() && quote - begin < longestPrefix && hasClass(text[quote], WordByte))
+    while (quote < limit && hasClass(text[quote], WordByte))
         ++quote;
     if (quote == text.size() || text[quote] != '"')
         return std::nullopt;
