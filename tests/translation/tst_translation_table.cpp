@@ -407,7 +407,7 @@ private slots:
     }
 
 private:
-    const TestFolder m_folder;
+    TestFolder m_folder;
 };
 
 QTEST_GUILESS_MAIN(TestTranslationTable)
