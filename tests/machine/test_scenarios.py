@@ -110,7 +110,7 @@ class Scenarios(MachineCase):
         if folder:
             self.machine.path(folder).mkdir(parents=True, exist_ok=True)
         answer = self.machine.run(program, *run.tokens, folder=folder)
-        self.assertEqual(answer.returncode, 0, run.tokens)
+        self.assertEqual(answer.returncode, 0, (run.tokens, answer.stdout[-2000:]))
         self.assert_nothing_passing_is_left()
 
     def assert_nothing_passing_is_left(self):
