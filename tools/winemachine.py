@@ -1,8 +1,13 @@
 """A Windows machine under Wine, made for one purpose and thrown away.
 
 Each machine is a Wine prefix of its own: files, registry, services and processes that no other machine sees.
-A fresh one is a copy of a template that is made once; its Windows folder is shared with the template by hard
-links, everything else is its own.
+A fresh one is a copy of a template that is made once; the programs and libraries of its Windows folder are
+shared with the template by hard links, everything else is its own.
+
+A machine has one server process, which holds its registry and starts its programs. Left alone, the server ends
+as soon as the last program has ended, and a program that connects at that moment is dropped: it ends with
+status 1 or 0 and has done nothing. Here the server is a child process that is started before the first program
+and runs until `stop`; a machine counts as started when a program of it has run to its end.
 
     machine = Machine.create(folder)
     machine.run(r"C:\\NVX\\NVXConfig.exe", "-I", "-S")
@@ -12,13 +17,17 @@ links, everything else is its own.
 As a program, winemachine.py FOLDER makes the template in a folder.
 """
 
+import ctypes
 import hashlib
 import os
 import re
 import shutil
+import signal
+import socket
 import subprocess
 import sys
 import tempfile
+import time
 from pathlib import Path
 
 PROGRAM_FILES = "C:\\Program Files"
@@ -30,6 +39,18 @@ TRANSLATORS_KEY = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Kelvane\\Translators"
 ENVIRONMENT_KEY = (
     "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment"
 )
+SERVICES = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"
+# They start with the machine and take half the time of a start.
+NEEDLESS_SERVICES = ("Eventlog", "PlugPlay", "NDIS", "nsiproxy")
+# Kinds of files in the Windows folder of which all machines share one copy.
+SHARED_KINDS = {".dll", ".exe", ".sys", ".drv", ".ocx", ".cpl", ".acm", ".ds", ".ax", ".nls", ".tlb", ".msstyles"}
+START_TIMEOUT_S = 60
+STOP_TIMEOUT_S = 120
+LOCK_TAKEN = 2  # the exit status of a server that finds another one in its place
+
+
+class MachineError(Exception):
+    """The machine itself failed, not a program on it."""
 
 
 class Machine:
@@ -39,15 +60,18 @@ class Machine:
         self.prefix = Path(prefix).absolute()
         self.locale = locale
         self.locale_folder = locale_folder
+        self._server = None
 
     @classmethod
     def create(cls, prefix, template, locale="C.UTF-8", locale_folder=None):
-        """A fresh machine in the folder `prefix`, in place of what is there."""
+        """A fresh machine in the folder `prefix`, replacing what is there. It starts with its first program."""
         machine = cls(prefix, locale, locale_folder)
         if machine.prefix.exists():
             machine.stop()
             shutil.rmtree(machine.prefix)
         _copy_template(Path(template), machine.prefix)
+        # Servers are found by the inode of their folder, which a deleted folder leaves to the next one.
+        machine.stop()
         return machine
 
     def path(self, windows_path):
@@ -74,10 +98,11 @@ class Machine:
         return environment
 
     def run(self, program, *tokens, folder=None, timeout=240, **environment):
-        """Runs a program of the machine to its end; answers its exit code, and what it wrote in `stdout`.
+        """Runs a program of the machine to its end; returns its exit code, and what it wrote in `stdout`.
 
         A program that outlives the time-out raises subprocess.TimeoutExpired, and the machine is stopped.
         """
+        self.start_up()
         working_folder = self.path(folder) if folder else self.prefix
         command = ["wine", program, *tokens]
         # The first program starts the machine's services, which keep its output open for as long as they
@@ -101,8 +126,9 @@ class Machine:
         return answer
 
     def start(self, program, *tokens):
-        """Starts a program of the machine and does not wait for it; answers its process, which shows
-        nothing."""
+        """Starts a program of the machine and does not wait for it; returns its process, whose output is
+        dropped."""
+        self.start_up()
         return subprocess.Popen(
             ["wine", program, *tokens],
             cwd=self.prefix,
@@ -112,22 +138,31 @@ class Machine:
             stderr=subprocess.DEVNULL,
         )
 
+    def start_up(self):
+        """Starts the machine unless it runs; its services have started when this returns."""
+        if self._server:
+            if self._server.poll() is None:
+                return
+            raise MachineError("the server of %s ended with %d" % (self.prefix, self._server.returncode))
+        self._server = _start_server(self.environment())
+        try:
+            answer = self.run("cmd", "/c", "echo started", timeout=START_TIMEOUT_S)
+            if answer.returncode != 0 or answer.stdout.splitlines()[-1:] != [b"started"]:
+                raise MachineError("%s does not start: %r" % (self.prefix, answer))
+        except BaseException:
+            self.stop()
+            raise
+
     def stop(self):
         """Ends every process of the machine and writes its registry to the disk."""
-        for option in ("-k", "-w"):
-            subprocess.run(
-                ["wineserver", option],
-                env=self.environment(),
-                stdout=subprocess.DEVNULL,
-                stderr=subprocess.DEVNULL,
-                timeout=60,
-            )
-
-    def start_to_stay(self):
-        """Starts the machine anew, to go on for half a minute when its last program has ended, with its
-        services; else it goes on for three seconds, in which a busy host may not start the next program."""
-        self.stop()
-        subprocess.run(["wineserver", "-p30"], env=self.environment(), check=True)
+        server, self._server = self._server, None
+        if server:
+            server.send_signal(signal.SIGINT)
+            # Never by force: that would lose the registry.
+            if server.wait(STOP_TIMEOUT_S) != 0:
+                raise MachineError("the server of %s ended with %d" % (self.prefix, server.returncode))
+        else:
+            _stop_other_server(self.environment())
 
     def set_value(self, key, name, text):
         """Writes a text into the registry, as an administrator would with the machine's own tool."""
@@ -165,16 +200,66 @@ class Machine:
         """Copies the sample product and our program to the machine, as an installer does. `installed` is a
         folder laid out by `cmake --install`, `sample` the built sample product."""
         for source in (Path(sample) / "product", Path(installed)):
-            shutil.copytree(source, self.path(install_dir), dirs_exist_ok=True)
+            _copy_anew(source, self.path(install_dir))
         if translators:
-            shutil.copytree(
-                Path(sample) / "translators", self.path(translators), dirs_exist_ok=True
-            )
+            _copy_anew(Path(sample) / "translators", self.path(translators))
             self.set_value(TRANSLATORS_KEY, "Folder", translators)
 
     def log(self, install_dir=INSTALL_DIR):
         """The text of the run's log."""
         return (self.path(install_dir) / "NVXConfig.log").read_text(encoding="utf-8")
+
+
+def _start_server(environment):
+    """Starts the server of a machine as a child process that ends with this one. Returns when it listens."""
+    deadline = time.monotonic() + START_TIMEOUT_S
+    while True:
+        server = subprocess.Popen(
+            ["wineserver", "--foreground", "--persistent"],
+            env=environment,
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+            preexec_fn=_end_with_parent,
+        )
+        while server.poll() is None and not _is_listening(server):
+            if time.monotonic() > deadline:
+                server.kill()
+                raise MachineError("the server of %s does not listen" % environment["WINEPREFIX"])
+            time.sleep(0.005)
+        if server.poll() is None:
+            return server
+        if server.returncode != LOCK_TAKEN or time.monotonic() > deadline:
+            raise MachineError("no server for %s: %d" % (environment["WINEPREFIX"], server.returncode))
+        _stop_other_server(environment)
+
+
+def _end_with_parent():
+    """In the child: it gets SIGTERM, at which a server saves its registry, when its parent has ended."""
+    PR_SET_PDEATHSIG = 1
+    ctypes.CDLL(None).prctl(PR_SET_PDEATHSIG, signal.SIGTERM)
+
+
+def _is_listening(server):
+    """Whether a server takes programs: its working folder then holds the socket that they connect to."""
+    with socket.socket(socket.AF_UNIX) as probe:
+        try:
+            probe.connect("/proc/%d/cwd/socket" % server.pid)
+            return True
+        except OSError:
+            return False
+
+
+def _stop_other_server(environment):
+    """Ends the server of a machine, if there is one, that another process started."""
+    for option in ("-k", "-w"):
+        subprocess.run(
+            ["wineserver", option],
+            env=environment,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+            timeout=STOP_TIMEOUT_S,
+        )
 
 
 def make_template(folder):
@@ -189,17 +274,31 @@ def make_template(folder):
     shutil.rmtree(folder, ignore_errors=True)
     (folder / "home").mkdir(parents=True)
     machine = Machine(folder)
-    machine.run("wineboot", "--init")
+    machine.start_up()  # the first start fills the folder
+    for service in NEEDLESS_SERVICES:
+        machine.run("reg", "add", SERVICES + service, "/v", "Start", "/t", "REG_DWORD", "/d", "4", "/f")
     machine.stop()
     stamp.write_text(version)
     return folder
+
+
+def _copy_anew(source, target):
+    """Copies a folder over another one. A file that was there is replaced, not written into: a program of the
+    machine may be running from it."""
+
+    def copy(file, place):
+        Path(place).unlink(missing_ok=True)
+        return shutil.copy2(file, place)
+
+    shutil.copytree(source, target, dirs_exist_ok=True, copy_function=copy)
 
 
 def _copy_template(template, prefix):
     windows = template / "drive_c" / "windows"
 
     def copy(source, target):
-        if Path(source).is_relative_to(windows):
+        # Programs are replaced, if at all, and never written into; anything else may be, win.ini for one.
+        if Path(source).suffix.lower() in SHARED_KINDS and Path(source).is_relative_to(windows):
             os.link(source, target)
         else:
             shutil.copy2(source, target)

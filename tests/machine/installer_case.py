@@ -2,7 +2,7 @@
 
 import hashlib
 import shutil
-import subprocess
+import time
 
 import machine_case
 from winemachine import INSTALL_DIR
@@ -29,8 +29,9 @@ class InstallerCase:
         the program goes on in a copy of itself."""
         program, _, options = command.removeprefix('"').partition('"')
         self.machine.run(program, *options.split(), "/S", timeout=900)
-        # The machine ends with its last program.
-        subprocess.run(["wineserver", "-w"], env=self.machine.environment(), timeout=900)
+        deadline = time.monotonic() + 900
+        while self.processes("\\~nsu") and time.monotonic() < deadline:
+            time.sleep(0.1)
         self.assertFalse(self.exists(program), "the removal has not come to its end")
 
     def server_is_running(self):

@@ -39,7 +39,6 @@ class Installer(InstallerCase, LauncherCase):
             case.write(path, b"mine")
         cls.before = cls.machine.files()
 
-        cls.machine.start_to_stay()
         cls.code = case.set_up("/S", "/LANG=de-DE")
         cls.running = case.server_is_running()
         cls.installed = cls.machine.files()
@@ -52,7 +51,6 @@ class Installer(InstallerCase, LauncherCase):
         case.write(MATERIALS, b"the user's materials")
         case.write(MENU, b"of an older release")
         case.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink()
-        cls.machine.start_to_stay()
         cls.second_code = case.set_up("/S", "/NONSENSE")
         cls.second_running = case.server_is_running()
         cls.second = cls.machine.files()

@@ -19,7 +19,6 @@ class Service(MachineCase):
     def setUp(self):
         self.put_product(FOLDER)
         self.machine.path(FOLDER + "\\NVXConfig.log").unlink(missing_ok=True)
-        self.machine.start_to_stay()
 
     def tearDown(self):
         for ending in ("refuses-to-stop", "hangs-at-stop"):

@@ -1,0 +1,109 @@
+"""The test machines themselves: a program that is started does its work, whatever the machine's server was doing
+before, and what a program has written is there afterwards."""
+
+import contextlib
+import os
+import shutil
+import signal
+import subprocess
+import threading
+import time
+import unittest
+from unittest import mock
+
+from machine_case import BUILD
+import winemachine
+from winemachine import Machine, MachineError, make_template, value_of
+
+KEY = "HKEY_CURRENT_USER\\Software\\Tried"
+
+
+class WineMachine(unittest.TestCase):
+    def setUp(self):
+        self.template = make_template(BUILD / "wine-template")
+        self.machine = Machine.create(BUILD / "machines" / self.id(), self.template)
+        self.addCleanup(shutil.rmtree, self.machine.prefix)
+        self.addCleanup(self.machine.stop)
+
+    @contextlib.contextmanager
+    def foreign_server(self, *options):
+        """A server of the machine that this process did not start through it."""
+        server = subprocess.Popen(
+            ["wineserver", "--foreground", *options], env=self.machine.environment(), stderr=subprocess.DEVNULL
+        )
+        try:
+            while server.poll() is None and not winemachine._is_listening(server):
+                time.sleep(0.01)
+            yield server
+        finally:
+            if server.poll() is None:
+                server.kill()
+            server.wait()
+
+    def value(self, name):
+        return value_of(self.machine.registry(), KEY, name)
+
+    def test_a_program_that_connects_to_an_ending_server_is_not_dropped(self):
+        with self.foreign_server("-p3") as server:
+            command = ["wine", "cmd", "/c", "exit"]
+            subprocess.run(command, env=self.machine.environment(), check=True, stdout=subprocess.DEVNULL)
+            time.sleep(2)
+            # It sleeps over the moment at which it gives up; a program that connects now would be dropped.
+            os.kill(server.pid, signal.SIGSTOP)
+            awake = threading.Timer(3, os.kill, (server.pid, signal.SIGCONT))
+            awake.start()
+            self.machine.set_value(KEY, "kept", "x")
+            awake.join()
+        self.assertEqual(self.value("kept"), "x")
+
+    def test_the_server_of_a_deleted_folder_with_the_same_inode_serves_no_other_machine(self):
+        # The folder moves, which leaves it its inode; the server goes on with what it has read.
+        moved = Machine(str(self.machine.prefix) + " moved")
+        with self.foreign_server("-p") as server:
+            os.rename(self.machine.prefix, moved.prefix)
+            self.addCleanup(os.rename, moved.prefix, self.machine.prefix)
+            self.addCleanup(moved.stop)
+            moved.start_up()
+            self.assertIsNotNone(server.poll())
+            self.assertIsNone(moved._server.poll())
+
+    def test_nothing_is_lost_between_programs_however_long_they_are_apart(self):
+        for number, pause in enumerate((0, 0.4, 0.5, 3.2)):
+            time.sleep(pause)
+            self.machine.set_value(KEY, str(number), "x")
+        registry = self.machine.registry()
+        self.assertEqual([value_of(registry, KEY, str(number)) for number in range(4)], ["x"] * 4)
+
+    def test_a_machine_whose_server_was_killed_says_so(self):
+        self.machine.start_up()
+        self.machine._server.kill()
+        self.machine._server.wait()
+        with self.assertRaises(MachineError):
+            self.machine.run("cmd", "/c", "exit")
+        with self.assertRaises(MachineError):
+            self.machine.stop()
+
+    def test_a_machine_on_which_no_program_runs_has_not_started(self):
+        answer = subprocess.CompletedProcess([], 1, stdout=b"")
+        with mock.patch.object(Machine, "run", return_value=answer):
+            with self.assertRaises(MachineError):
+                self.machine.start_up()
+
+    def test_a_server_ends_with_the_process_that_started_it_and_saves_the_registry(self):
+        script = (
+            "import os, sys; sys.path.insert(0, sys.argv[1]); from winemachine import Machine\n"
+            "machine = Machine(sys.argv[2]); machine.set_value(sys.argv[3], 'kept', 'x')\n"
+            "print(machine._server.pid, flush=True); os._exit(0)"
+        )
+        tools = os.path.dirname(winemachine.__file__)
+        done = subprocess.run(
+            ["python3", "-B", "-c", script, tools, self.machine.prefix, KEY], stdout=subprocess.PIPE, check=True
+        )
+        deadline = time.monotonic() + 60
+        while os.path.exists("/proc/%d/cwd/socket" % int(done.stdout)) and time.monotonic() < deadline:
+            time.sleep(0.05)
+        self.assertEqual(self.value("kept"), "x")
+
+
+if __name__ == "__main__":
+    unittest.main()
