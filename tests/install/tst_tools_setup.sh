@@ -1,0 +1,85 @@
+#!/usr/bin/env bash
+# tst_tools_setup.sh SETUP: runs tools/setup with a cache folder of the test's own, on a machine on which everything
+# is missing. In place of the programs that install, fetch and build are scripts that only record their call.
+set -euo pipefail
+setup=$1
+
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+calls=$folder/calls
+export NVX_CACHE=$folder/cache PATH=$folder/bin:$PATH calls folder
+mkdir "$folder/bin"
+
+fail() {
+    echo "FAIL: $*" >&2
+    cat "$folder"/*.log >&2
+    exit 1
+}
+
+# stand_in PROGRAM: makes the script that runs in the program's place, from the input.
+stand_in() {
+    {
+        echo '#!/usr/bin/env bash'
+        # shellcheck disable=SC2016
+        echo 'echo "${0##*/} $*" >>"$calls"'
+        cat
+    } >"$folder/bin/$1"
+    chmod +x "$folder/bin/$1"
+}
+
+stand_in sudo <<'END'
+exec "$@"
+END
+stand_in dpkg-query <<'END'
+[ -f "$folder/packages-installed" ] || exit 1
+shift 3
+case "$*" in
+    qt6-base-dev) echo 6.4.2 ;;
+    *) printf 'installed\n%.0s' "$@" ;;
+esac
+END
+stand_in apt-get <<'END'
+case "$*" in install\ *) touch "$folder/packages-installed" ;; esac
+END
+stand_in dpkg-source <<'END'
+mkdir "${@: -1}"
+END
+stand_in npm <<'END'
+mkdir -p package/win/x64
+touch package/win/x64/7za.exe package/LICENSE.txt
+tar -czf 7zip-bin-5.2.0.tgz package
+END
+# The build lasts long enough for the other tools/setup to come upon it.
+stand_in cmake <<'END'
+case $1 in
+    --build) sleep 3 ;;
+    --install) mkdir "$(dirname "$2")/qt-windows" ;;
+esac
+END
+
+count() { grep -cE "$1" "$calls" || true; }
+
+# Two at the same time: both end well, and each piece of the work is done once.
+"$setup" >"$folder/first.log" 2>&1 &
+first=$!
+"$setup" >"$folder/second.log" 2>&1 || fail "the second one ended with exit status $?"
+wait $first || fail "the first one ended with exit status $?"
+for work in 'apt-get install' 'npm pack' 'apt-get .* source ' 'cmake -S' 'cmake --build' 'cmake --install'; do
+    [ "$(count "^$work")" = 1 ] || fail "'$work' was called $(count "^$work") times"
+done
+grep -qhF 'waiting for the tools/setup' "$folder"/first.log "$folder"/second.log || fail "none has waited"
+[ -f "$NVX_CACHE/qt-windows/built-from" ] || fail "Qt is not where the build looks for it"
+[ -f "$NVX_CACHE/7zip-windows/7za.exe" ] || fail "7-Zip is not where the build looks for it"
+
+# When all is there it only looks, and says nothing.
+: >"$calls"
+"$setup" >"$folder/third.log" 2>&1 || fail "the third one ended with exit status $?"
+[ -s "$folder/third.log" ] && fail "it says something though there is nothing to do"
+[ "$(count '^dpkg-query')" = "$(count '')" ] || fail "it calls: $(cat "$calls")"
+
+# What is missing is made again, and only that.
+rm "$NVX_CACHE/7zip-windows/7za.exe"
+"$setup" >"$folder/fourth.log" 2>&1 || fail "the fourth one ended with exit status $?"
+[ "$(count '^npm pack')" = 1 ] || fail "7-Zip is missing and was not fetched"
+[ "$(count '^(apt-get|cmake)')" = 0 ] || fail "it calls: $(cat "$calls")"
+echo "tools/setup does its work once"
