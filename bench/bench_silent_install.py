@@ -3,9 +3,9 @@ CAD systems and archives of real size.
 
     bench_silent_install.py BUILD_FOLDER
 
-BUILD_FOLDER is the Windows build, with the product laid out in its folder "installed". Prints the medians of
-five runs each, in turn: of an install, of its programs alone, and of an install over a running server; then
-where the time of an install goes, as its log grows.
+BUILD_FOLDER is the Windows build; its targets installed_configuration and sample_product have been built.
+Prints the medians of five runs each, in turn: of an install, of its programs alone, and of an install over a
+running server; then where the time of an install goes, as its log grows.
 """
 
 import re
@@ -75,7 +75,7 @@ def batch_file():
 
 def make_machine(build):
     machine = Machine.create(build / "bench", make_template(build / "wine-template"))
-    machine.put_product(build / "installed", build / "sample")
+    machine.put_product(build / "installed_configuration", build / "sample")
     put_cad_systems(machine)
     places = {
         "Examples.7z": INSTALL_DIR + "\\en-US",

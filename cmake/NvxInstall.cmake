@@ -3,13 +3,47 @@
 # For Windows everything lies beside the program, as the product's installer copies it. Elsewhere the programs
 # lie in bin, with the libraries that are not of the operating system itself in lib and Qt's plug-ins in
 # plugins.
+#
+# `cmake --install` does not build. These targets build what is installed:
+#
+#     built_configuration       the configuration program and the translations
+#     built_tools               the developers' tools and the translations
+#     built_programs            both
+#
+# and these build it and install it into the build's folder of the same name:
+#
+#     installed_configuration   the configuration program with all it needs, for Windows
+#     installed_programs        all programs
 
 set(nvx_tools UpdateErrorTable MessageTableUtility MaterialNameUtility)
 set(nvx_programs NVXConfig ${nvx_tools})
 
+add_custom_target(built_configuration)
+add_dependencies(built_configuration NVXConfig translations)
+add_custom_target(built_tools)
+add_dependencies(built_tools ${nvx_tools} translations)
+add_custom_target(built_programs)
+add_dependencies(built_programs built_configuration built_tools)
+
+# nvx_installed(WHAT [OPTION...]): the target installed_WHAT, which installs what built_WHAT builds. The options
+# are those of `cmake --install`.
+function(nvx_installed what)
+    set(folder "${CMAKE_BINARY_DIR}/installed_${what}")
+    # A file that is no longer installed must not stay from the last time.
+    add_custom_target(installed_${what}
+        COMMAND ${CMAKE_COMMAND} -E rm -rf "${folder}"
+        COMMAND ${CMAKE_COMMAND} --install "${CMAKE_BINARY_DIR}" --prefix "${folder}" ${ARGN}
+        VERBATIM)
+    add_dependencies(installed_${what} built_${what})
+endfunction()
+nvx_installed(programs)
+
 if(WIN32)
-    set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME programs)
-    install(TARGETS ${nvx_programs} RUNTIME DESTINATION .)
+    nvx_installed(configuration --component configuration)
+    # The developers' tools use the configuration program's libraries and languages.
+    set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME configuration)
+    install(TARGETS NVXConfig RUNTIME DESTINATION .)
+    install(TARGETS ${nvx_tools} RUNTIME DESTINATION . COMPONENT tools)
     install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION . FILES_MATCHING PATTERN "*.qm")
 
     foreach(library Core Gui Widgets)

@@ -2,6 +2,8 @@
 #
 #     windows   a ZIP of the programs with all that they need, and the set-up program of the sample product
 #     native    a TGZ of the developers' tools, a folder that runs as it stands
+#
+# The target "packaged" builds what `cpack` packs.
 
 set(CPACK_PACKAGE_VENDOR "Velmora")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
@@ -13,19 +15,25 @@ set(CPACK_PACKAGE_CHECKSUM SHA256)
 
 # What goes into each package: "build folder;project;component;folder in the package", each.
 set(nvx_package_of "${CMAKE_BINARY_DIR};${PROJECT_NAME}")
+add_custom_target(packaged)
 if(WIN32)
+    add_dependencies(packaged built_programs sample_product)
     set(CPACK_GENERATOR ZIP External)
     set(CPACK_PACKAGE_NAME "NVX-2017")
     set(CPACK_PACKAGE_FILE_NAME "NVX-2017-programs-${PROJECT_VERSION}-win64")
-    set(CPACK_INSTALL_CMAKE_PROJECTS "${nvx_package_of};programs;/")
+    set(CPACK_INSTALL_CMAKE_PROJECTS "${nvx_package_of};configuration;/;${nvx_package_of};tools;/")
     set(CPACK_EXTERNAL_ENABLE_STAGING ON)
     set(CPACK_EXTERNAL_PACKAGE_SCRIPT "${PROJECT_SOURCE_DIR}/installer/make_installer.cmake")
-    set(NVX_SET_UP_PROJECTS "${nvx_package_of};programs;/product;${nvx_package_of};sample;/")
+    set(NVX_SET_UP_PROJECTS
+        "${nvx_package_of};configuration;/product"
+        "${nvx_package_of};tools;/product"
+        "${nvx_package_of};sample;/")
     set(NVX_INSTALLER_PICTURES "${PROJECT_SOURCE_DIR}/resource/images")
     configure_file("${CMAKE_CURRENT_LIST_DIR}/package_by_generator.cmake.in"
         "${CMAKE_BINARY_DIR}/package_by_generator.cmake" @ONLY)
     set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_BINARY_DIR}/package_by_generator.cmake")
 else()
+    add_dependencies(packaged built_tools)
     set(CPACK_GENERATOR TGZ)
     set(CPACK_PACKAGE_NAME "nvx-2017-tools")
     set(CPACK_PACKAGE_FILE_NAME "nvx-2017-tools-${PROJECT_VERSION}-linux-x86_64")

@@ -125,7 +125,7 @@ def prepare(build):
     heading("making a new Windows machine")
     template = make_template(build / "wine-template")
     machine = Machine.create(build / "demo", template)
-    machine.put_product(build / "installed", build / "sample")
+    machine.put_product(build / "installed_configuration", build / "sample")
     put_cad_systems(machine)
     machine.stop()
     print("drive C is %s" % (machine.prefix / "drive_c"))

@@ -27,22 +27,33 @@ quietly() {
     fi
 }
 
-# Builds with one line a minute, so that a watcher sees that it lives.
+# build_with_progress FOLDER LOG [TARGET...]: builds with one line a minute, so that a watcher sees that it lives.
 build_with_progress() {
     local folder=$1 log=$2
+    shift 2
     mkdir -p "$(dirname "$log")"
-    cmake --build "$folder" >"$log" 2>&1 &
-    local builder=$!
-    local seconds=0
+    cmake --build "$folder" ${1:+--target "$@"} >"$log" 2>&1 &
+    local builder=$! started=$SECONDS minutes=0
     while kill -0 $builder 2>/dev/null; do
-        sleep 2
-        seconds=$((seconds + 2))
-        if [ $((seconds % 60)) = 0 ]; then
-            echo "   $(grep -oE '^\[[0-9]+/[0-9]+\]' "$log" | tail -n 1) after $((seconds / 60)) min"
+        sleep 0.1
+        if [ $(((SECONDS - started) / 60)) -gt $minutes ]; then
+            minutes=$(((SECONDS - started) / 60))
+            echo "   $(grep -oE '^\[[0-9]+/[0-9]+\]' "$log" | tail -n 1) after $minutes min"
         fi
     done
     wait $builder || {
         grep -m 20 -A 5 'FAILED\|error:' "$log" >&2
         fail "$folder did not build; the whole output is in $log"
     }
+}
+
+# build_preset PRESET [TARGET...]: builds the targets of a preset, by default all that its tests need. Configures
+# the preset when it has not been configured yet or when the presets have changed; for all else the build itself
+# notices.
+build_preset() {
+    local preset=$1 folder=$root/build/$1
+    shift
+    [ "$folder/build.ninja" -nt "$root/CMakePresets.json" ] ||
+        (cd "$root" && quietly "$root/build/log/configure-$preset.log" cmake --preset "$preset")
+    build_with_progress "$folder" "$root/build/log/build-$preset.log" "$@"
 }

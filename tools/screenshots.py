@@ -3,7 +3,7 @@
     screenshots.py BUILD_FOLDER [--to FOLDER] [--scale PERCENT] [--program NAME] [--locale LOCALE]
 
 A picture is FOLDER/LOCALE/PROGRAM-PAGE.png, FOLDER by default docs/images. Needs a display (xvfb-run), the
-programs as `cmake --install` lays them out, and the sample product.
+programs as the target installed_programs lays them out, and the sample product.
 """
 
 import argparse
@@ -128,7 +128,7 @@ def make_machine(build, locale, scale):
     machine = Machine.create(
         build / "screenshots", make_template(build / "wine-template"), unix_locale, locales
     )
-    machine.put_product(build / "installed", build / "sample")
+    machine.put_product(build / "installed_programs", build / "sample")
     put_cad_systems(machine)
     shutil.copytree(ROOT / "sample" / "tables", machine.path(TABLES))
     script = machine.path("C:\\screen.reg")
