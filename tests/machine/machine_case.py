@@ -16,6 +16,7 @@ from winemachine import INSTALL_DIR, Machine, make_template  # noqa: E402
 
 # The build folder, handed over by ctest.
 BUILD = Path(os.environ["NVX_BUILD"])
+LANE = os.environ.get("NVX_LANE", "1")
 HOLD_FILE = BUILD / "tests" / "machine" / "hold_file.exe"
 SCRIPTED_TOOL = BUILD / "tests" / "scripted_tool.exe"
 COMPLETE = "   0 The installation or update is complete. Click finish to continue."
@@ -30,8 +31,8 @@ class MachineCase(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.machine = Machine.create(
-            # Two modules may have a class of one name, and run at the same time.
-            BUILD / "machines" / (cls.__module__ + "." + cls.__name__),
+            # Two modules may have a class of one name, and run at the same time; so may two lanes of one.
+            BUILD / "machines" / ".".join((cls.__module__, cls.__name__, LANE)),
             make_template(BUILD / "wine-template"),
             cls.locale,
             BUILD / "locales",

@@ -43,6 +43,8 @@ def _make_equal(source, target):
         elif entry.is_dir():
             _make_equal(Path(entry.path), target / name)
         elif _stamp(entry.path) != _stamp(target / name):
+            # Never written into: the machine may share the file with others.
+            (target / name).unlink(missing_ok=True)
             shutil.copy2(entry.path, target / name)
 
 

@@ -21,7 +21,7 @@ from launcher_case import (
     LauncherCase,
     target_manifest,
 )
-from machine_case import BUILD
+from machine_case import BUILD, LANE
 from machine_state import MachineState
 from cadsystems import COM_CLASSES
 from test_cycles import INSTALL, INSTALL_DIR, LOG, REMOVAL, steps_of
@@ -74,7 +74,7 @@ class KilledRuns(LauncherCase):
         cls.machine.set_value(ENVIRONMENT_KEY, "OSTRADE2017TEMP", "C:\\prepared")
         case.write("C:\\prepared\\NVX_flags.txt", TEXT)
         case.write(SHARED_DATA + "\\mine.txt", b"mine")
-        cls.kept = BUILD / "machines" / "KilledRunsKept"
+        cls.kept = BUILD / "machines" / ("KilledRunsKept." + LANE)
         cls.bare = MachineState(cls.machine, cls.kept / "bare")
         cls.bare_files = cls.machine.files()
         cls.install = case.undisturbed("-I")
@@ -104,9 +104,15 @@ class KilledRuns(LauncherCase):
     def kill_at(self, mode, line, delay):
         """Starts a run and kills it when its log has so many lines, and a moment later. False when it had
         come to its end by then."""
-        before = line_count(self.machine.path(LOG))
+        log = self.machine.path(LOG)
+        before = line_count(log)
         process = self.machine.start(INSTALL_DIR + "\\NVXConfig.exe", mode, "-S", "-Len-US")
-        while line_count(self.machine.path(LOG)) - before < line and process.poll() is None:
+        size = None
+        while process.poll() is None:
+            grown = log.stat().st_size if log.exists() else 0
+            if grown != size and line_count(log) - before >= line:
+                break
+            size = grown
             time.sleep(0.001)
         time.sleep(delay)
         process.kill()

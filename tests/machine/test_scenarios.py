@@ -192,11 +192,8 @@ def _add_tests():
     def test_of(folder):
         return lambda case: case.play(folder)
 
-    lane, lanes = map(int, os.environ.get("NVX_LANE", "1/1").split("/"))
-    folders = sorted(folder for folder in SCENARIOS.iterdir() if folder.is_dir())
-    for number, folder in enumerate(folders):
-        if number % lanes == lane - 1:
-            setattr(Scenarios, "test_" + folder.name, test_of(folder))
+    for folder in sorted(folder for folder in SCENARIOS.iterdir() if folder.is_dir()):
+        setattr(Scenarios, "test_" + folder.name, test_of(folder))
 
 
 _add_tests()

@@ -1,0 +1,26 @@
+"""Runs the tests of a module in this folder, or every n-th of them: run_lane.py MODULE [LANE/LANES]
+
+Lanes run side by side; each has machines of its own."""
+
+import sys
+import unittest
+
+
+def tests_in(suite):
+    """The single tests of a suite, in their order."""
+    for part in suite:
+        if isinstance(part, unittest.TestSuite):
+            yield from tests_in(part)
+        else:
+            yield part
+
+
+def main(module, lane="1/1"):
+    number, lanes = map(int, lane.split("/"))
+    tests = list(tests_in(unittest.defaultTestLoader.loadTestsFromName(module)))
+    result = unittest.TextTestRunner(verbosity=2).run(unittest.TestSuite(tests[number - 1 :: lanes]))
+    return 0 if result.wasSuccessful() else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
