@@ -24,6 +24,7 @@ COMPLETE = "The installation or update is complete. Click finish to continue."
 TABLES = "C:\\tables"
 SCREEN = "2560x1800"
 PATIENCE_S = 120
+MARLETT = Path("/usr/share/wine/fonts/marlett.ttf")
 
 # What the machines' user reads most comfortably; a family that the machine has must stand here.
 FAMILIES = {
@@ -131,6 +132,8 @@ def make_machine(build, locale, scale):
     machine.put_product(build / "installed_programs", build / "sample")
     put_cad_systems(machine)
     shutil.copytree(ROOT / "sample" / "tables", machine.path(TABLES))
+    # Wine looks for the font of its title bars' buttons in a folder that Debian fills under another name.
+    shutil.copy(MARLETT, machine.path("C:\\windows\\Fonts\\marlett.ttf"))
     script = machine.path("C:\\screen.reg")
     script.write_bytes(screen_settings(FAMILIES.get(locale, OTHER_FAMILY), scale).encode("utf-16"))
     if machine.run("regedit", "/S", "C:\\screen.reg").returncode != 0:
@@ -164,14 +167,7 @@ class Session:
         self.log = machine.path(INSTALL_DIR + "\\NVXConfig.log")
         self.last_picture = None
         tokens = [token.format(locale=locale) for token in program.tokens]
-        self.process = subprocess.Popen(
-            ["wine", "%s\\%s.exe" % (INSTALL_DIR, program.name), *tokens],
-            cwd=machine.prefix,
-            env=machine.environment(),
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
+        self.process = machine.start("%s\\%s.exe" % (INSTALL_DIR, program.name), *tokens)
 
     def window(self):
         """The program's only window; nothing while it has none."""
@@ -239,7 +235,7 @@ def main():
     parser = argparse.ArgumentParser(prog="tools/screenshots")
     parser.add_argument("build", type=Path)
     parser.add_argument("--to", type=Path, default=ROOT / "docs" / "images")
-    parser.add_argument("--scale", type=int, default=100)
+    parser.add_argument("--scale", type=int, default=200)
     parser.add_argument("--program", choices=[program.name for program in PROGRAMS])
     parser.add_argument("--locale")
     chosen = parser.parse_args()
