@@ -9,6 +9,10 @@ target_compile_options(nvx_options INTERFACE
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Wundef)
 target_compile_definitions(nvx_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # The compiler cache sees which precompiled header is used.
+    target_compile_options(nvx_options INTERFACE -fpch-preprocess)
+endif()
 if(WIN32)
     target_compile_definitions(nvx_options INTERFACE
         UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
@@ -29,6 +33,7 @@ endif()
 function(nvx_library name)
     cmake_parse_arguments(ARG "" "INCLUDES" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
+    set_property(GLOBAL APPEND PROPERTY NVX_LIBRARIES ${name})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE nvx_options)
     if(NOT ARG_INCLUDES)
         set(ARG_INCLUDES "${CMAKE_CURRENT_SOURCE_DIR}/source")
@@ -36,22 +41,71 @@ function(nvx_library name)
     target_include_directories(${name} PUBLIC "${ARG_INCLUDES}")
 endfunction()
 
-# nvx_test(NAME [SOURCES FILE...] [LINKS TARGET...] [NEEDS TARGET...]): a test program, registered with
-# ctest. NAME.cpp is its source; NEEDS names programs that it starts.
+# Options of the test programs alone. They are compiled more often than they run: without optimisation, and with
+# line numbers only.
+add_library(nvx_test_options INTERFACE)
+target_compile_options(nvx_test_options INTERFACE -O0)
+if(CMAKE_BUILD_TYPE MATCHES "Deb")
+    target_compile_options(nvx_test_options INTERFACE -g1)
+endif()
+
+# nvx_test_properties(TEST): the environment of a registered test that is a program of the build.
+function(nvx_test_properties test)
+    set_tests_properties(${test} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    if(WIN32)
+        # The tests share one Windows machine, and its registry.
+        set_tests_properties(${test} PROPERTIES RESOURCE_LOCK windows_machine)
+    endif()
+endfunction()
+
+# nvx_test(NAME [SOURCES FILE...] [LINKS TARGET...] [NEEDS TARGET...]): a test that is a program of its own because
+# it has its own main, registered with ctest. NAME.cpp is its source; NEEDS names programs that it starts.
 function(nvx_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;NEEDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test nvx_options)
+    set_property(GLOBAL APPEND PROPERTY NVX_TESTS ${name})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test nvx_options nvx_test_options)
     if(ARG_NEEDS)
         add_dependencies(${name} ${ARG_NEEDS})
     endif()
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
-    if(WIN32)
-        # The tests share one Windows machine, and its registry.
-        set_tests_properties(${name} PROPERTIES RESOURCE_LOCK windows_machine)
+    nvx_test_properties(${name})
+endfunction()
+
+# nvx_tests(PROGRAM TESTS NAME... [UNREGISTERED NAME...] [SOURCES FILE...] [LINKS TARGET...] [NEEDS TARGET...]):
+# the test classes of a module, in one program. NAME.cpp holds the class NAME, declared a test by NVX_TEST(NAME) or
+# NVX_GUILESS_TEST(NAME) of tests/support/test_class.h. Each class is registered with ctest under its name and runs
+# in a process of its own; those after UNREGISTERED the caller registers. NEEDS names programs that tests start.
+function(nvx_tests program)
+    cmake_parse_arguments(ARG "" "" "TESTS;UNREGISTERED;SOURCES;LINKS;NEEDS" ${ARGN})
+    set(declarations "")
+    set(entries "")
+    set(files "")
+    foreach(test IN LISTS ARG_TESTS ARG_UNREGISTERED)
+        string(APPEND declarations "int run_${test}(int argc, char *argv[]);\n")
+        string(APPEND entries "        {\"${test}\", run_${test}},\n")
+        list(APPEND files ${test}.cpp)
+    endforeach()
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/test_program.cpp.in"
+        "${CMAKE_CURRENT_BINARY_DIR}/${program}.cpp" @ONLY)
+    add_executable(${program} ${files} ${ARG_SOURCES} "${CMAKE_CURRENT_BINARY_DIR}/${program}.cpp")
+    set_property(GLOBAL APPEND PROPERTY NVX_TESTS ${program})
+    target_link_libraries(${program} PRIVATE
+        ${ARG_LINKS} nvx_test_support Qt6::Test nvx_options nvx_test_options)
+    if(ARG_NEEDS)
+        add_dependencies(${program} ${ARG_NEEDS})
     endif()
+    foreach(test IN LISTS ARG_TESTS)
+        add_test(NAME ${test} COMMAND ${program} ${test})
+        nvx_test_properties(${test})
+    endforeach()
+endfunction()
+
+# nvx_test_definitions(NAME DEFINITION...): preprocessor definitions for one test class of nvx_tests. Definitions
+# that hold paths go to the file that needs them, so that the other files stay in the compiler cache.
+function(nvx_test_definitions test)
+    set_property(SOURCE ${test}.cpp APPEND PROPERTY COMPILE_DEFINITIONS ${ARGN})
 endfunction()
 
 # nvx_python_test(NAME [NEEDS TARGET...] [ENVIRONMENT NAME=VALUE...]): the tests of NAME.py, registered with

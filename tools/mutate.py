@@ -13,6 +13,7 @@ import argparse
 import json
 import os
 import random
+import re
 import resource
 import shlex
 import shutil
@@ -102,14 +103,39 @@ def bring_copy_up_to_date():
                 os.remove(path)
 
 
-def build(targets):
+def build(tests):
+    """Builds the programs that hold these tests; returns {test: [target of its program, argument...]}."""
     WORK.mkdir(parents=True, exist_ok=True)
     log = WORK / "build.log"
     fast_linker = ["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if shutil.which("ld.lld") else []
     with open(log, "w", encoding="utf-8") as output:
-        for command in (["cmake", "--preset", "native", *fast_linker], ["ninja", "-C", BUILD, *targets]):
-            if subprocess.run(command, cwd=COPY, stdout=output, stderr=output, check=False).returncode != 0:
+
+        def run(command):
+            done = subprocess.run(command, cwd=COPY, stdout=output, stderr=output, check=False)
+            if done.returncode != 0:
                 stop(f"the copy does not build; see {log}")
+
+        run(["cmake", "--preset", "native", *fast_linker])
+        commands = {}
+        for file in sorted(BUILD.rglob("CTestTestfile.cmake")):
+            commands |= test_commands(file.read_text(encoding="utf-8"), BUILD)
+        for test in tests:
+            if test not in commands:
+                stop(f"there is no test {test}")
+        run(["ninja", "-C", str(BUILD), *sorted({commands[test][0] for test in tests})])
+    return {test: commands[test] for test in tests}
+
+
+def test_commands(registered, folder):
+    """The tests that a file of ctest registers and that are programs of the build below the folder:
+    {name: [target, argument...]}."""
+    line = r'^add_test\((?:\[=*\[)?(\w+)(?:\]=*\])? (".*")\)$'
+    commands = {}
+    for name, words in re.findall(line, registered, re.MULTILINE):
+        program, *arguments = shlex.split(words)
+        if Path(program).is_relative_to(folder):
+            commands[name] = [Path(program).relative_to(folder).as_posix(), *arguments]
+    return commands
 
 
 # --- one file ------------------------------------------------------------------------------------------
@@ -124,34 +150,29 @@ def compile_command(file):
     words = shlex.split(command)
     launcher = [at for at, word in enumerate(words) if word.endswith("ccache")]
     words = words[launcher[-1] + 1 :] if launcher else words
-    for option in ("-o", "-c"):
-        at = words.index(option)
-        del words[at : at + 2]
+    for option in ("-o", "-c", "-include"):  # the included one is the build's precompiled header
+        while option in words:
+            at = words.index(option)
+            del words[at : at + 2]
     words = [word for word in words if word != "-Werror"]
     # Its time decides how long a run takes; this compiler reads precompiled includes twice as fast.
     return ["clang++", *words[1:], "-O0", "-g0", "-w", "-iquote", str((COPY / file).parent)]
 
 
-def link_command(test):
-    """The linker's call for a test, split at the test's own name."""
-    target = subprocess.run(
-        f"ninja -t targets all | grep -oE '^[^ ]*/{test}(\\.exe)?:' | head -n 1",
-        cwd=BUILD, shell=True, check=True, capture_output=True, text=True,
-    ).stdout.strip().rstrip(":")  # fmt: skip
-    if not target:
-        stop(f"there is no test {test}")
+def link_command(target):
+    """The words of the linker's call for a program."""
     last = subprocess.run(
         ["ninja", "-t", "commands", "-s", target], cwd=BUILD, check=True, capture_output=True, text=True
     ).stdout.strip()
-    words = [word for word in shlex.split(last) if word not in (":", "&&")]
-    return words, target
+    return [word for word in shlex.split(last) if word not in (":", "&&")]
 
 
 @dataclass
 class Test:
     name: str
+    target: str  # the program that holds it
+    arguments: list  # by which the program runs it
     link: list
-    target: str
     runs: list = field(default_factory=list)  # of some functions (none: all), with seconds
 
     def link_with(self, object_file, program):
@@ -165,12 +186,15 @@ class Test:
 class Bench:
     """What compiles and tries the mutants of one file."""
 
-    def __init__(self, unit, place):
+    def __init__(self, unit, place, commands):
         self.unit = unit
         self.place = place
         self.text = (COPY / unit.file).read_text(encoding="utf-8")
         self.command = compile_command(unit.file)
-        self.tests = [Test(name, *link_command(name)) for name in unit.tests]
+        self.tests = [
+            Test(name, target, arguments, link_command(target))
+            for name, (target, *arguments) in ((name, commands[name]) for name in unit.tests)
+        ]
         shutil.rmtree(place, ignore_errors=True)
         place.mkdir(parents=True)
         self.preamble_end = self.precompile_includes()
@@ -207,11 +231,11 @@ class Bench:
             program = folder / test.name
             test.link_with(folder / "mutant.o", program)
             for functions, seconds in test.runs:
-                result, _ = run_test(program, functions, folder, seconds)
+                result, _ = run_test(program, [*test.arguments, *functions], folder, seconds)
                 # Some hosts end a program for its processor time long before it has used it.
                 for _ in range(ATTEMPTS - 1):
                     if result == "timed out":
-                        result, _ = run_test(program, functions, folder, seconds)
+                        result, _ = run_test(program, [*test.arguments, *functions], folder, seconds)
                 if result != "passed":
                     return result
         return "survived"
@@ -224,7 +248,7 @@ class Bench:
             program = folder / test.name
             test.link_with(folder / "mutant.o", program)
             times = folder / "times.xml"
-            result, seconds = run_test(program, ["-o", f"{times},xml"], folder, 60)
+            result, seconds = run_test(program, [*test.arguments, "-o", f"{times},xml"], folder, 60)
             if result != "passed":
                 stop(f"{test.name} fails on the unchanged {self.unit.file}; see {times}")
             quick, slow = quick_and_slow_functions(times.read_text(encoding="utf-8"))
@@ -292,10 +316,10 @@ def chosen_mutants(unit, text, lines, arguments):
     return found
 
 
-def try_unit(unit, lines, arguments):
+def try_unit(unit, lines, arguments, commands):
     """Tries the mutants of one file, several at once; prints survivors, and answers the counts."""
     place = WORK / unit.file.replace("/", "-")
-    bench = Bench(unit, place)
+    bench = Bench(unit, place, commands)
     folders = Queue()
     for number in range(arguments.jobs):
         (place / str(number)).mkdir()
@@ -358,13 +382,13 @@ def main():
     arguments = read_arguments()
     chosen = chosen_units(arguments)
     bring_copy_up_to_date()
-    build(sorted({test for unit, _ in chosen for test in unit.tests}))
+    commands = build(sorted({test for unit, _ in chosen for test in unit.tests}))
     total = dict.fromkeys(OUTCOMES, 0)
     rows = []
     begun = time.monotonic()
     for unit, lines in chosen:
         started = time.monotonic()
-        counts = try_unit(unit, lines, arguments)
+        counts = try_unit(unit, lines, arguments, commands)
         rows.append(row(unit.file, counts, time.monotonic() - started))
         print(rows[-1], flush=True)
         for outcome in OUTCOMES:

@@ -1,6 +1,7 @@
 #include "cad_case.h"
 #include "registry_script.h"
 #include "support/case_folders.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -60,5 +61,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_cad_search)
+NVX_GUILESS_TEST(tst_cad_search)
 #include "tst_cad_search.moc"

@@ -7,6 +7,7 @@
 #include "registry_script.h"
 #include "support/case_folders.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QTest>
@@ -79,8 +80,8 @@ private:
     {
         const QString file = m_folder.path(QStringLiteral("case.reg"));
         const QString script = QChar(0xFEFF) + header + body;
-        QVERIFY(writeFile(file, QByteArray(reinterpret_cast<const char *>(script.utf16()),
-                                           script.size() * qsizetype(sizeof(char16_t)))));
+        QVERIFY(writeBytes(file, QByteArray(reinterpret_cast<const char *>(script.utf16()),
+                                            script.size() * qsizetype(sizeof(char16_t)))));
         Nvx::Util::ProgramCall call;
         call.program = QStringLiteral("regedit.exe");
         call.arguments = {QStringLiteral("/S"), file};
@@ -94,5 +95,5 @@ private:
     QStringList m_caseKeys;
 };
 
-QTEST_GUILESS_MAIN(tst_cad_search_registry)
+NVX_GUILESS_TEST(tst_cad_search_registry)
 #include "tst_cad_search_registry.moc"

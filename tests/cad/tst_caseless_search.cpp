@@ -1,5 +1,6 @@
 #include "cad/eight_bit_text.h"
 #include "nvx_util/code_page.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -56,5 +57,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_caseless_search)
+NVX_GUILESS_TEST(tst_caseless_search)
 #include "tst_caseless_search.moc"

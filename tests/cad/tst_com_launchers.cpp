@@ -1,5 +1,6 @@
 #include "cad/com_launchers.h"
 #include "launcher_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -117,5 +118,5 @@ private:
     std::unique_ptr<LauncherFixture> m_fixture;
 };
 
-QTEST_GUILESS_MAIN(tst_com_launchers)
+NVX_GUILESS_TEST(tst_com_launchers)
 #include "tst_com_launchers.moc"

@@ -2,6 +2,7 @@
 #include "cad/creo_names.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -262,5 +263,5 @@ private:
     std::unique_ptr<LauncherFixture> m_fixture;
 };
 
-QTEST_GUILESS_MAIN(tst_creo_launcher)
+NVX_GUILESS_TEST(tst_creo_launcher)
 #include "tst_creo_launcher.moc"

@@ -1,4 +1,5 @@
 #include "cad/creo_names.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QDir>
@@ -62,5 +63,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_creo_names)
+NVX_GUILESS_TEST(tst_creo_names)
 #include "tst_creo_names.moc"

@@ -87,7 +87,7 @@ const QByteArray foreign = QByteArray("name Other\r\nexec_file C:\\gr\xf6\xdf"
 
 } // namespace
 
-class TestLaunchersKilled : public QObject
+class tst_launchers_killed : public QObject
 {
     Q_OBJECT
 
@@ -130,7 +130,7 @@ int main(int argc, char *argv[])
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == creoOption || arguments.value(1) == nxOption)
         return configureForever(arguments.value(1), arguments.value(2));
-    TestLaunchersKilled test;
+    tst_launchers_killed test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -5,6 +5,7 @@
 #include "launcher_fixture.h"
 #include "support/full_disk.h"
 #include "support/odd_files.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -62,5 +63,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_launchers_odd_files)
+NVX_GUILESS_TEST(tst_launchers_odd_files)
 #include "tst_launchers_odd_files.moc"

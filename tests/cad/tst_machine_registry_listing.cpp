@@ -1,5 +1,6 @@
 #include "cad/machine_registry_listing.h"
 #include "nvx_util/registry_key.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 #include "support/text.h"
 
@@ -50,5 +51,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_machine_registry_listing)
+NVX_GUILESS_TEST(tst_machine_registry_listing)
 #include "tst_machine_registry_listing.moc"

@@ -1,6 +1,7 @@
 #include "cad/nx_custom_dirs.h"
 #include "nvx_util/code_page.h"
 #include "random_bytes.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QElapsedTimer>
@@ -223,5 +224,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_nx_custom_dirs)
+NVX_GUILESS_TEST(tst_nx_custom_dirs)
 #include "tst_nx_custom_dirs.moc"

@@ -2,6 +2,7 @@
 #include "cad/nx_launcher.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -237,5 +238,5 @@ private:
     std::unique_ptr<LauncherFixture> m_fixture;
 };
 
-QTEST_GUILESS_MAIN(tst_nx_launcher)
+NVX_GUILESS_TEST(tst_nx_launcher)
 #include "tst_nx_launcher.moc"

@@ -3,6 +3,7 @@
 #include "run/step_context.h"
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -117,5 +118,5 @@ private:
     RunState m_state;
 };
 
-QTEST_GUILESS_MAIN(tst_process_finder)
+NVX_GUILESS_TEST(tst_process_finder)
 #include "tst_process_finder.moc"

@@ -3,6 +3,7 @@
 #include "run/step_context.h"
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -253,5 +254,5 @@ private:
     RunState m_state;
 };
 
-QTEST_GUILESS_MAIN(tst_process_guard)
+NVX_GUILESS_TEST(tst_process_guard)
 #include "tst_process_guard.moc"

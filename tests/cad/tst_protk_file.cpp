@@ -2,6 +2,7 @@
 #include "cad/protk_file.h"
 #include "nvx_util/code_page.h"
 #include "random_bytes.h"
+#include "support/test_class.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -218,5 +219,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_protk_file)
+NVX_GUILESS_TEST(tst_protk_file)
 #include "tst_protk_file.moc"

@@ -6,6 +6,7 @@
 #include "run/run_state.h"
 #include "run/step_context.h"
 #include "support/recording_reporter.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 #include "support/text.h"
 
@@ -198,5 +199,5 @@ private:
     RunState m_state;
 };
 
-QTEST_GUILESS_MAIN(tst_running_programs)
+NVX_GUILESS_TEST(tst_running_programs)
 #include "tst_running_programs.moc"

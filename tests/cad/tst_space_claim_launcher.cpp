@@ -1,5 +1,6 @@
 #include "cad/space_claim_launcher.h"
 #include "launcher_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -128,5 +129,5 @@ private:
     std::unique_ptr<LauncherFixture> m_fixture;
 };
 
-QTEST_GUILESS_MAIN(tst_space_claim_launcher)
+NVX_GUILESS_TEST(tst_space_claim_launcher)
 #include "tst_space_claim_launcher.moc"

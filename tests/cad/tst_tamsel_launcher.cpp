@@ -1,6 +1,7 @@
 #include "cad/tamsel_launcher.h"
 #include "cad/tamsel_manifest.h"
 #include "launcher_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -234,5 +235,5 @@ private:
     std::unique_ptr<LauncherFixture> m_fixture;
 };
 
-QTEST_GUILESS_MAIN(tst_tamsel_launcher)
+NVX_GUILESS_TEST(tst_tamsel_launcher)
 #include "tst_tamsel_launcher.moc"

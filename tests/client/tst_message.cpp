@@ -1,4 +1,5 @@
 #include "clt_message.h"
+#include "support/test_class.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -44,7 +45,7 @@ Message messageIn(const QString &context)
 
 } // namespace
 
-class TestMessage : public QObject
+class tst_message : public QObject
 {
     Q_OBJECT
 
@@ -219,5 +220,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessage)
+NVX_GUILESS_TEST(tst_message)
 #include "tst_message.moc"

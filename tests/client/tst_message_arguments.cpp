@@ -1,8 +1,9 @@
 #include "clt_message_arguments.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
-class TestMessageArguments : public QObject
+class tst_message_arguments : public QObject
 {
     Q_OBJECT
 
@@ -83,5 +84,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessageArguments)
+NVX_GUILESS_TEST(tst_message_arguments)
 #include "tst_message_arguments.moc"

@@ -1,5 +1,6 @@
 #include "clt_message_enumerations.h"
 #include "support/recorded_assertions.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -19,7 +20,7 @@ QStringList failures(int count)
 
 } // namespace
 
-class TestMessageEnumerations : public QObject
+class tst_message_enumerations : public QObject
 {
     Q_OBJECT
 
@@ -274,5 +275,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessageEnumerations)
+NVX_GUILESS_TEST(tst_message_enumerations)
 #include "tst_message_enumerations.moc"

@@ -1,4 +1,5 @@
 #include "clt_message_key.h"
+#include "support/test_class.h"
 
 #include <QHash>
 #include <QTest>
@@ -15,7 +16,7 @@ MessageKey keyOf(const char *process, const char *context, const char *tag)
 
 } // namespace
 
-class TestMessageKey : public QObject
+class tst_message_key : public QObject
 {
     Q_OBJECT
 
@@ -153,5 +154,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessageKey)
+NVX_GUILESS_TEST(tst_message_key)
 #include "tst_message_key.moc"

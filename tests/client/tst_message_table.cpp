@@ -4,6 +4,7 @@
 #include "support/broken_device.h"
 #include "support/file_bytes.h"
 #include "support/recorded_assertions.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QBuffer>
@@ -49,7 +50,7 @@ void standOnRoot(QXmlStreamReader &xml, const QString &document)
 
 } // namespace
 
-class TestMessageTable : public QObject
+class tst_message_table : public QObject
 {
     Q_OBJECT
 
@@ -255,7 +256,7 @@ private slots:
         QFETCH(const QString, text);
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("table.xml"));
-        QVERIFY(writeFile(fileName, "old"));
+        QVERIFY(writeBytes(fileName, "old"));
         MessageTable asText;
         asText.insert(messageOf(p, p, p, text));
         QVERIFY(!asText.save(fileName));
@@ -345,5 +346,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessageTable)
+NVX_GUILESS_TEST(tst_message_table)
 #include "tst_message_table.moc"

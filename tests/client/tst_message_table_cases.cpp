@@ -1,11 +1,12 @@
 #include "message_table_case.h"
 #include "support/case_folders.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QTest>
 
-class TestMessageTableCases : public QObject
+class tst_message_table_cases : public QObject
 {
     Q_OBJECT
 
@@ -31,5 +32,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessageTableCases)
+NVX_GUILESS_TEST(tst_message_table_cases)
 #include "tst_message_table_cases.moc"

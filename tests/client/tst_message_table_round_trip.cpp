@@ -1,6 +1,7 @@
 #include "clt_message_table.h"
 #include "clt_message_table_xml.h"
 #include "support/random_text.h"
+#include "support/test_class.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -81,7 +82,7 @@ void seedRows()
 
 } // namespace
 
-class TestMessageTableRoundTrip : public QObject
+class tst_message_table_round_trip : public QObject
 {
     Q_OBJECT
 
@@ -160,5 +161,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessageTableRoundTrip)
+NVX_GUILESS_TEST(tst_message_table_round_trip)
 #include "tst_message_table_round_trip.moc"

@@ -1,9 +1,10 @@
 #include "clt_xml_text.h"
+#include "support/test_class.h"
 
 #include <QTest>
 #include <QXmlStreamWriter>
 
-class TestXmlText : public QObject
+class tst_xml_text : public QObject
 {
     Q_OBJECT
 
@@ -76,5 +77,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestXmlText)
+NVX_GUILESS_TEST(tst_xml_text)
 #include "tst_xml_text.moc"

@@ -1,5 +1,6 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/registry_key.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -131,5 +132,5 @@ private:
     std::unique_ptr<EngineFixture> m_fixture;
 };
 
-QTEST_MAIN(tst_cad)
+NVX_TEST(tst_cad)
 #include "tst_cad.moc"

@@ -1,4 +1,5 @@
 #include "cfg_utilities/command_line.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -109,5 +110,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_command_line)
+NVX_GUILESS_TEST(tst_command_line)
 #include "tst_command_line.moc"

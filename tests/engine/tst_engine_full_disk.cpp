@@ -1,5 +1,6 @@
 #include "cfg_utilities/flag_file.h"
 #include "support/full_disk.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QTest>
@@ -25,5 +26,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_engine_full_disk)
+NVX_GUILESS_TEST(tst_engine_full_disk)
 #include "tst_engine_full_disk.moc"

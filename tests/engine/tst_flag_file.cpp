@@ -1,4 +1,5 @@
 #include "cfg_utilities/flag_file.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QBuffer>
@@ -75,5 +76,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_flag_file)
+NVX_GUILESS_TEST(tst_flag_file)
 #include "tst_flag_file.moc"

@@ -224,7 +224,7 @@ QStringList unfinished(const Files &files)
 
 } // namespace
 
-class TestFullDisk : public QObject
+class tst_full_disk : public QObject
 {
     Q_OBJECT
 
@@ -351,7 +351,7 @@ int main(int argc, char *argv[])
         return notRun;
     }
     const QGuiApplication application(argc, argv);
-    TestFullDisk test;
+    tst_full_disk test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -1,5 +1,6 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/system.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -259,5 +260,5 @@ private:
     std::unique_ptr<EngineFixture> m_fixture;
 };
 
-QTEST_GUILESS_MAIN(tst_language)
+NVX_GUILESS_TEST(tst_language)
 #include "tst_language.moc"

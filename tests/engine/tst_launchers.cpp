@@ -1,4 +1,5 @@
 #include "engine/engine_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -103,5 +104,5 @@ private:
     qsizetype m_start = 0;
 };
 
-QTEST_MAIN(tst_launchers)
+NVX_TEST(tst_launchers)
 #include "tst_launchers.moc"

@@ -1,6 +1,7 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/system.h"
 #include "run/progress_view.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QGuiApplication>
@@ -323,5 +324,5 @@ private:
     std::unique_ptr<EngineFixture> m_fixture;
 };
 
-QTEST_MAIN(tst_process_installation)
+NVX_TEST(tst_process_installation)
 #include "tst_process_installation.moc"

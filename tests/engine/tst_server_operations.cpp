@@ -1,4 +1,5 @@
 #include "engine/engine_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -88,5 +89,5 @@ private:
     std::unique_ptr<EngineFixture> m_fixture;
 };
 
-QTEST_MAIN(tst_server_operations)
+NVX_TEST(tst_server_operations)
 #include "tst_server_operations.moc"

@@ -2,6 +2,7 @@
 
 #include "engine/engine_fixture.h"
 #include "nvx_util/shell_link.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -119,5 +120,5 @@ private:
     cfg_utilitys *m_engine = nullptr;
 };
 
-QTEST_GUILESS_MAIN(tst_single_operations)
+NVX_GUILESS_TEST(tst_single_operations)
 #include "tst_single_operations.moc"

@@ -1,6 +1,7 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -274,5 +275,5 @@ private:
     std::unique_ptr<EngineFixture> m_fixture;
 };
 
-QTEST_GUILESS_MAIN(tst_start_up)
+NVX_GUILESS_TEST(tst_start_up)
 #include "tst_start_up.moc"

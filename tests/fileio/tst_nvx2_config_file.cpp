@@ -1,5 +1,6 @@
 #include "nvx_io/nvx2_config_file.h"
 #include "nvx_util/conversion.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QProcess>
@@ -120,5 +121,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_nvx2_config_file)
+NVX_GUILESS_TEST(tst_nvx2_config_file)
 #include "tst_nvx2_config_file.moc"

@@ -1,5 +1,6 @@
 #include "help/browser_call.h"
 #include "support/random_text.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -265,5 +266,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_browser_call)
+NVX_GUILESS_TEST(tst_browser_call)
 #include "tst_browser_call.moc"

@@ -1,6 +1,7 @@
 #include "help/context_help.h"
 #include "nvx_util/native_machine.h"
 #include "nvx_util/registry_key.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QTest>
@@ -82,5 +83,5 @@ private:
     std::unique_ptr<TestMachine> m_folders;
 };
 
-QTEST_GUILESS_MAIN(tst_browser_starts)
+NVX_GUILESS_TEST(tst_browser_starts)
 #include "tst_browser_starts.moc"

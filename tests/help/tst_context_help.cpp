@@ -2,6 +2,7 @@
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
 #include "support/recording_machine.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QElapsedTimer>
@@ -295,5 +296,5 @@ private:
     std::unique_ptr<ContextHelp> m_help;
 };
 
-QTEST_GUILESS_MAIN(tst_context_help)
+NVX_GUILESS_TEST(tst_context_help)
 #include "tst_context_help.moc"

@@ -1,4 +1,5 @@
 #include "help/help_address.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -70,5 +71,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_help_address)
+NVX_GUILESS_TEST(tst_help_address)
 #include "tst_help_address.moc"

@@ -1,4 +1,5 @@
 #include "help/help_button.h"
+#include "support/test_class.h"
 
 #include <QDialog>
 #include <QPushButton>
@@ -59,5 +60,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_help_button)
+NVX_TEST(tst_help_button)
 #include "tst_help_button.moc"

@@ -1,4 +1,5 @@
 #include "help/help_settings.h"
+#include "support/test_class.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -113,5 +114,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_help_settings)
+NVX_GUILESS_TEST(tst_help_settings)
 #include "tst_help_settings.moc"

@@ -1,6 +1,7 @@
 #include "help/context_help.h"
 #include "support/no_more_files.h"
 #include "support/recording_machine.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QRegularExpression>
@@ -32,5 +33,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_unreadable_help_settings)
+NVX_GUILESS_TEST(tst_unreadable_help_settings)
 #include "tst_unreadable_help_settings.moc"

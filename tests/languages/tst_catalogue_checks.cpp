@@ -1,6 +1,7 @@
 // The checks of the catalogues, tried on entries that are good and on entries that are bad.
 
 #include "catalogue_checks.h"
+#include "support/test_class.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -37,7 +38,7 @@ QByteArray catalogueOf(const QByteArray &message)
 
 Q_DECLARE_METATYPE(Check)
 
-class CatalogueChecks : public QObject
+class tst_catalogue_checks : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +60,7 @@ private slots:
     void theListNamesTheFoldersOfEachCatalogue();
 };
 
-void CatalogueChecks::aCheckTellsGoodFromBad_data()
+void tst_catalogue_checks::aCheckTellsGoodFromBad_data()
 {
     QTest::addColumn<Check>("check");
     QTest::addColumn<QString>("source");
@@ -108,7 +109,7 @@ void CatalogueChecks::aCheckTellsGoodFromBad_data()
     addRow("a dash added", keepsOptions, "Use", "-Use", false);
 }
 
-void CatalogueChecks::aCheckTellsGoodFromBad()
+void tst_catalogue_checks::aCheckTellsGoodFromBad()
 {
     QFETCH(Check, check);
     QFETCH(QString, source);
@@ -116,7 +117,7 @@ void CatalogueChecks::aCheckTellsGoodFromBad()
     QTEST(check(entryOf(source, {translation})), "holds");
 }
 
-void CatalogueChecks::aTextIsTranslatedWhenItIsFinished()
+void tst_catalogue_checks::aTextIsTranslatedWhenItIsFinished()
 {
     const QStringList translations{QStringLiteral("Ja")};
     QVERIFY(isTranslated(entryOf(QStringLiteral("Yes"), translations, EntryState::Finished)));
@@ -124,12 +125,12 @@ void CatalogueChecks::aTextIsTranslatedWhenItIsFinished()
     QVERIFY(!isTranslated(entryOf(QStringLiteral("Yes"), translations, EntryState::Obsolete)));
 }
 
-void CatalogueChecks::aTextWithoutAnyFormIsNotTranslated()
+void tst_catalogue_checks::aTextWithoutAnyFormIsNotTranslated()
 {
     QVERIFY(!isTranslated(entryOf(QStringLiteral("%n rows"), {})));
 }
 
-void CatalogueChecks::oneBadPluralFormIsEnough()
+void tst_catalogue_checks::oneBadPluralFormIsEnough()
 {
     const Entry empty = entryOf(QStringLiteral("%n rows"), {QStringLiteral("%n Zeile"), QString()});
     QVERIFY(!isTranslated(empty));
@@ -140,14 +141,14 @@ void CatalogueChecks::oneBadPluralFormIsEnough()
     QVERIFY(!keepsOuterBlanks(blank));
 }
 
-void CatalogueChecks::anOffenderIsNamedByContextAndSource()
+void tst_catalogue_checks::anOffenderIsNamedByContextAndSource()
 {
     const QList<Entry> entries{entryOf(QStringLiteral("Yes"), {QStringLiteral("Ja")}),
                                entryOf(QStringLiteral("No"), {QString()})};
     QCOMPARE(offenders(entries, isTranslated), QStringList{QStringLiteral("Context: No")});
 }
 
-void CatalogueChecks::textsAreToldApartByContextSourceAndComment()
+void tst_catalogue_checks::textsAreToldApartByContextSourceAndComment()
 {
     const Entry entry = entryOf(QStringLiteral("Yes"), {QStringLiteral("Ja")});
     Entry otherContext = entry;
@@ -165,7 +166,7 @@ void CatalogueChecks::textsAreToldApartByContextSourceAndComment()
                                    QStringLiteral("Context: Yes")}));
 }
 
-void CatalogueChecks::aMessageIsReadWhole()
+void tst_catalogue_checks::aMessageIsReadWhole()
 {
     const auto catalogue =
         read(catalogueOf("<message><location line=\"7\"/><source> A &amp;\n%1 </source>"
@@ -181,7 +182,7 @@ void CatalogueChecks::aMessageIsReadWhole()
     QCOMPARE(entry.translations, QStringList{QStringLiteral(" B\n%1 ")});
 }
 
-void CatalogueChecks::pluralFormsAreReadOneByOne()
+void tst_catalogue_checks::pluralFormsAreReadOneByOne()
 {
     const auto catalogue = read(catalogueOf(
         "<message numerus=\"yes\"><source>%n rows</source><translation><numerusform>%n Zeile</numerusform>"
@@ -191,7 +192,7 @@ void CatalogueChecks::pluralFormsAreReadOneByOne()
     QCOMPARE(catalogue->entries.first().translations, (QStringList{QStringLiteral("%n Zeile"), QString()}));
 }
 
-void CatalogueChecks::theStateIsRead_data()
+void tst_catalogue_checks::theStateIsRead_data()
 {
     QTest::addColumn<QByteArray>("attribute");
     QTest::addColumn<EntryState>("state");
@@ -201,7 +202,7 @@ void CatalogueChecks::theStateIsRead_data()
     QTest::newRow("obsolete") << QByteArray(" type=\"obsolete\"") << EntryState::Obsolete;
 }
 
-void CatalogueChecks::theStateIsRead()
+void tst_catalogue_checks::theStateIsRead()
 {
     QFETCH(QByteArray, attribute);
     const auto catalogue = read(
@@ -211,7 +212,7 @@ void CatalogueChecks::theStateIsRead()
     QTEST(catalogue->entries.first().state, "state");
 }
 
-void CatalogueChecks::whatIsNoCatalogueIsNotRead_data()
+void tst_catalogue_checks::whatIsNoCatalogueIsNotRead_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("nothing") << QByteArray();
@@ -220,13 +221,13 @@ void CatalogueChecks::whatIsNoCatalogueIsNotRead_data()
     QTest::newRow("an element inside a text") << catalogueOf("<message><source>a<b/></source></message>");
 }
 
-void CatalogueChecks::whatIsNoCatalogueIsNotRead()
+void tst_catalogue_checks::whatIsNoCatalogueIsNotRead()
 {
     QFETCH(QByteArray, text);
     QVERIFY(!read(text));
 }
 
-void CatalogueChecks::theListNamesTheFoldersOfEachCatalogue()
+void tst_catalogue_checks::theListNamesTheFoldersOfEachCatalogue()
 {
     QBuffer list;
     list.setData("# tools Nowhere\n\n wizard\tConfig \r\ntools Client  source\n");
@@ -237,5 +238,5 @@ void CatalogueChecks::theListNamesTheFoldersOfEachCatalogue()
     QCOMPARE(readCatalogueList(list), expected);
 }
 
-QTEST_GUILESS_MAIN(CatalogueChecks)
+NVX_GUILESS_TEST(tst_catalogue_checks)
 #include "tst_catalogue_checks.moc"

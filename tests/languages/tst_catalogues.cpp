@@ -2,6 +2,7 @@
 
 #include "catalogue_checks.h"
 #include "nvx_util/system.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QDir>
@@ -102,7 +103,7 @@ void expectEveryEntryToPass(bool (*check)(const Entry &))
 
 } // namespace
 
-class Catalogues : public QObject
+class tst_catalogues : public QObject
 {
     Q_OBJECT
 
@@ -129,13 +130,13 @@ private slots:
     void itIsInStepWithTheSources();
 };
 
-void Catalogues::initTestCase()
+void tst_catalogues::initTestCase()
 {
     QVERIFY2(!catalogueFiles().isEmpty(), qPrintable(languagesFolder().path()));
     QVERIFY(!listedCatalogues().isEmpty());
 }
 
-void Catalogues::thereIsOneForEachLocale_data()
+void tst_catalogues::thereIsOneForEachLocale_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("locale");
@@ -148,7 +149,7 @@ void Catalogues::thereIsOneForEachLocale_data()
     }
 }
 
-void Catalogues::thereIsOneForEachLocale()
+void tst_catalogues::thereIsOneForEachLocale()
 {
     QFETCH(QString, name);
     QFETCH(QString, locale);
@@ -156,7 +157,7 @@ void Catalogues::thereIsOneForEachLocale()
     QVERIFY2(catalogueFiles().contains(file), qPrintable(file));
 }
 
-void Catalogues::itIsMarkedWithItsLanguage()
+void tst_catalogues::itIsMarkedWithItsLanguage()
 {
     QFETCH(QString, file);
     const auto catalogue = readFile(languagesFolder().filePath(file));
@@ -164,7 +165,7 @@ void Catalogues::itIsMarkedWithItsLanguage()
     QCOMPARE(catalogue->language, languageOfFile(file));
 }
 
-void Catalogues::itIsInStepWithTheSources()
+void tst_catalogues::itIsInStepWithTheSources()
 {
     QFETCH(QString, file);
     const QString kept = languagesFolder().filePath(file);
@@ -182,5 +183,5 @@ void Catalogues::itIsInStepWithTheSources()
     expectNone(missingFrom(after->entries, before->entries), "run tools/translations; only in %1");
 }
 
-QTEST_GUILESS_MAIN(Catalogues)
+NVX_GUILESS_TEST(tst_catalogues)
 #include "tst_catalogues.moc"

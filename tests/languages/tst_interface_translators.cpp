@@ -3,6 +3,7 @@
 #include "cfg_utilities/command_line.h"
 #include "cfg_wizard/interface_translators.h"
 #include "nvx_util/system.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QCoreApplication>
@@ -84,7 +85,7 @@ private:
 
 } // namespace
 
-class InterfaceTranslatorsTest : public QObject
+class tst_interface_translators : public QObject
 {
     Q_OBJECT
 
@@ -106,13 +107,13 @@ private slots:
     void oneLanguageFollowsAnother();
 };
 
-void InterfaceTranslatorsTest::init()
+void tst_interface_translators::init()
 {
     QCOMPARE(programText(), englishProgramText);
     QCOMPARE(toolkitText(), englishToolkitText);
 }
 
-void InterfaceTranslatorsTest::aLocaleIsTranslated_data()
+void tst_interface_translators::aLocaleIsTranslated_data()
 {
     using Texts = std::pair<QString, QString>;
     const QHash<QString, Texts> texts{
@@ -136,7 +137,7 @@ void InterfaceTranslatorsTest::aLocaleIsTranslated_data()
     }
 }
 
-void InterfaceTranslatorsTest::aLocaleIsTranslated()
+void tst_interface_translators::aLocaleIsTranslated()
 {
     QFETCH(QString, locale);
     const InterfaceTranslators translators(languagesFolder(), locale);
@@ -144,7 +145,7 @@ void InterfaceTranslatorsTest::aLocaleIsTranslated()
     QTEST(toolkitText(), "ofToolkit");
 }
 
-void InterfaceTranslatorsTest::theLastTextNamesTheFinishButton()
+void tst_interface_translators::theLastTextNamesTheFinishButton()
 {
     QFETCH(QString, locale);
     const InterfaceTranslators translators(languagesFolder(), locale);
@@ -155,28 +156,28 @@ void InterfaceTranslatorsTest::theLastTextNamesTheFinishButton()
     QVERIFY2(text.contains(withoutKeyMark(button)), qPrintable(text + QStringLiteral(": ") + button));
 }
 
-void InterfaceTranslatorsTest::aTextOfSeveralLinesIsTranslated()
+void tst_interface_translators::aTextOfSeveralLinesIsTranslated()
 {
     const InterfaceTranslators translators(languagesFolder(), german);
     QVERIFY2(usageText().startsWith(QStringLiteral("Gültige Befehlszeilenargumente für NVX:\n-I ")),
              qPrintable(usageText()));
 }
 
-void InterfaceTranslatorsTest::theBuiltInLanguageNeedsNoFiles()
+void tst_interface_translators::theBuiltInLanguageNeedsNoFiles()
 {
     const InterfaceTranslators translators(languagesFolder(), QStringLiteral("en-US"));
     QCOMPARE(programText(), englishProgramText);
     QCOMPARE(toolkitText(), englishToolkitText);
 }
 
-void InterfaceTranslatorsTest::anEmptyLocaleLeavesEnglish()
+void tst_interface_translators::anEmptyLocaleLeavesEnglish()
 {
     const InterfaceTranslators translators(languagesFolder(), QString());
     QCOMPARE(programText(), englishProgramText);
     QCOMPARE(toolkitText(), englishToolkitText);
 }
 
-void InterfaceTranslatorsTest::missingFilesLeaveEnglish()
+void tst_interface_translators::missingFilesLeaveEnglish()
 {
     const InstallDir installDir;
     const InterfaceTranslators translators(installDir.path(), german);
@@ -184,7 +185,7 @@ void InterfaceTranslatorsTest::missingFilesLeaveEnglish()
     QCOMPARE(toolkitText(), englishToolkitText);
 }
 
-void InterfaceTranslatorsTest::withoutTheProgramsFileOnlyTheToolkitIsTranslated()
+void tst_interface_translators::withoutTheProgramsFileOnlyTheToolkitIsTranslated()
 {
     const InstallDir installDir;
     QVERIFY(installDir.add(QStringLiteral("de-DE/qt_de_DE.qm"), QStringLiteral("qt_de_DE.qm")));
@@ -193,7 +194,7 @@ void InterfaceTranslatorsTest::withoutTheProgramsFileOnlyTheToolkitIsTranslated(
     QCOMPARE(toolkitText(), QStringLiteral("&Ja"));
 }
 
-void InterfaceTranslatorsTest::withoutTheToolkitsFileOnlyTheProgramIsTranslated()
+void tst_interface_translators::withoutTheToolkitsFileOnlyTheProgramIsTranslated()
 {
     const InstallDir installDir;
     QVERIFY(installDir.add(QStringLiteral("de-DE/nvxconfig.qm"), QStringLiteral("nvxconfig.qm")));
@@ -202,7 +203,7 @@ void InterfaceTranslatorsTest::withoutTheToolkitsFileOnlyTheProgramIsTranslated(
     QCOMPARE(toolkitText(), englishToolkitText);
 }
 
-void InterfaceTranslatorsTest::filesThatAreNoCataloguesLeaveEnglish()
+void tst_interface_translators::filesThatAreNoCataloguesLeaveEnglish()
 {
     const InstallDir installDir;
     QVERIFY(installDir.addText(QStringLiteral("nvxconfig.qm"), "no catalogue"));
@@ -212,7 +213,7 @@ void InterfaceTranslatorsTest::filesThatAreNoCataloguesLeaveEnglish()
     QCOMPARE(toolkitText(), englishToolkitText);
 }
 
-void InterfaceTranslatorsTest::theWholeToolkitFileWins()
+void tst_interface_translators::theWholeToolkitFileWins()
 {
     const InstallDir installDir;
     QVERIFY(installDir.add(QStringLiteral("de-DE/qt_de_DE.qm"), QStringLiteral("qt_de_DE.qm")));
@@ -221,7 +222,7 @@ void InterfaceTranslatorsTest::theWholeToolkitFileWins()
     QCOMPARE(toolkitText(), QStringLiteral("&Oui"));
 }
 
-void InterfaceTranslatorsTest::theTranslatorsAreGoneAfterwards()
+void tst_interface_translators::theTranslatorsAreGoneAfterwards()
 {
     {
         const InterfaceTranslators translators(languagesFolder(), german);
@@ -232,7 +233,7 @@ void InterfaceTranslatorsTest::theTranslatorsAreGoneAfterwards()
     QCOMPARE(toolkitText(), englishToolkitText);
 }
 
-void InterfaceTranslatorsTest::oneLanguageFollowsAnother()
+void tst_interface_translators::oneLanguageFollowsAnother()
 {
     for (const auto &[locale, expected] : {std::pair{german, QStringLiteral("&Ja")},
                                            std::pair{QStringLiteral("it-IT"), QStringLiteral("&Sì")}}) {
@@ -241,5 +242,5 @@ void InterfaceTranslatorsTest::oneLanguageFollowsAnother()
     }
 }
 
-QTEST_GUILESS_MAIN(InterfaceTranslatorsTest)
+NVX_GUILESS_TEST(tst_interface_translators)
 #include "tst_interface_translators.moc"

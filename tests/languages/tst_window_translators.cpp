@@ -3,6 +3,7 @@
 #include "message_table_utility/error_message_table_utility.h"
 #include "nvx_util/translators.h"
 #include "support/recording_dialogs.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QAction>
@@ -54,7 +55,7 @@ const QHash<QString, Words> wordsOf{
 
 } // namespace
 
-class TestWindowTranslators : public QObject
+class tst_window_translators : public QObject
 {
     Q_OBJECT
 
@@ -89,5 +90,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestWindowTranslators)
+NVX_TEST(tst_window_translators)
 #include "tst_window_translators.moc"

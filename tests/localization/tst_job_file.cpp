@@ -1,4 +1,5 @@
 #include "localization/job_file.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -41,5 +42,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_job_file)
+NVX_GUILESS_TEST(tst_job_file)
 #include "tst_job_file.moc"

@@ -1,5 +1,6 @@
 #include "localization/locale_folders.h"
 #include "support/recording_reporter.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QTest>
@@ -140,5 +141,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_locale_folders)
+NVX_GUILESS_TEST(tst_locale_folders)
 #include "tst_locale_folders.moc"

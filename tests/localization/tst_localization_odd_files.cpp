@@ -8,6 +8,7 @@
 #include "support/odd_files.h"
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QTest>
@@ -184,5 +185,5 @@ private:
     RunState m_state;
 };
 
-QTEST_GUILESS_MAIN(tst_localization_odd_files)
+NVX_GUILESS_TEST(tst_localization_odd_files)
 #include "tst_localization_odd_files.moc"

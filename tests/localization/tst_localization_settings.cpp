@@ -1,4 +1,5 @@
 #include "localization/localization_settings.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -79,5 +80,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_localization_settings)
+NVX_GUILESS_TEST(tst_localization_settings)
 #include "tst_localization_settings.moc"

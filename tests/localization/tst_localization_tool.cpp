@@ -4,6 +4,7 @@
 #include "nvx_util/native_machine.h"
 #include "run/run_state.h"
 #include "support/recording_reporter.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 #include "support/text.h"
 
@@ -270,5 +271,5 @@ private:
     RunState m_state;
 };
 
-QTEST_GUILESS_MAIN(tst_localization_tool)
+NVX_GUILESS_TEST(tst_localization_tool)
 #include "tst_localization_tool.moc"

@@ -1,4 +1,5 @@
 #include "localization/translatable_texts.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -59,5 +60,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_translatable_texts)
+NVX_GUILESS_TEST(tst_translatable_texts)
 #include "tst_translatable_texts.moc"

@@ -1,5 +1,6 @@
 #include "localization/translation_job.h"
 #include "support/recording_reporter.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 #include "support/text.h"
 
@@ -269,5 +270,5 @@ private:
     std::function<void(qsizetype)> m_afterPause;
 };
 
-QTEST_GUILESS_MAIN(tst_translation_job)
+NVX_GUILESS_TEST(tst_translation_job)
 #include "tst_translation_job.moc"

@@ -4,6 +4,7 @@
 #include "run/run_state.h"
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 #include "support/text.h"
 
@@ -155,5 +156,5 @@ private:
     RunState m_state;
 };
 
-QTEST_GUILESS_MAIN(tst_translation_runs)
+NVX_GUILESS_TEST(tst_translation_runs)
 #include "tst_translation_runs.moc"

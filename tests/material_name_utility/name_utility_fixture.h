@@ -86,7 +86,7 @@ struct NameUtilityFixture
 
     void writeDatabase(const QStringList &names) const
     {
-        if (!writeFile(databaseFile, databaseOf(names)))
+        if (!writeBytes(databaseFile, databaseOf(names)))
             qFatal("cannot write the database");
     }
 

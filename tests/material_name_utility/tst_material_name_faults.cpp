@@ -1,6 +1,7 @@
 // Files that are not as they should be, and places that are not.
 
 #include "name_utility_fixture.h"
+#include "support/test_class.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -25,7 +26,7 @@ void addDamagedFileRows()
 
 } // namespace
 
-class TestMaterialNameFaults : public QObject
+class tst_material_name_faults : public QObject
 {
     Q_OBJECT
 
@@ -45,13 +46,13 @@ private slots:
     void namesOfFilesInOtherScriptsAreFine();
 };
 
-void TestMaterialNameFaults::badDatabaseIsReportedAndTheTableKept()
+void tst_material_name_faults::badDatabaseIsReportedAndTheTableKept()
 {
     QFETCH(const QByteArray, bytes);
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     QVERIFY(f.window.save());
-    QVERIFY(writeFile(f.databaseFile, bytes));
+    QVERIFY(writeBytes(f.databaseFile, bytes));
     f.dialogs.fileToChoose = f.databaseFile;
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
@@ -65,14 +66,14 @@ void TestMaterialNameFaults::badDatabaseIsReportedAndTheTableKept()
     QCOMPARE(f.window.databaseFile(), f.databaseFile);
 }
 
-void TestMaterialNameFaults::databaseThatCannotBeOpenedIsReported_data()
+void tst_material_name_faults::databaseThatCannotBeOpenedIsReported_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("not there") << QStringLiteral("missing.mdb");
     QTest::newRow("a folder") << QStringLiteral("folder.mdb");
 }
 
-void TestMaterialNameFaults::databaseThatCannotBeOpenedIsReported()
+void tst_material_name_faults::databaseThatCannotBeOpenedIsReported()
 {
     QFETCH(const QString, name);
     NameUtilityFixture f;
@@ -84,7 +85,7 @@ void TestMaterialNameFaults::databaseThatCannotBeOpenedIsReported()
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
 }
 
-void TestMaterialNameFaults::badDatabaseBeginsNoTable()
+void tst_material_name_faults::badDatabaseBeginsNoTable()
 {
     NameUtilityFixture f;
     f.window.synchronize(f.folder.path(QStringLiteral("missing.mdb")));
@@ -92,12 +93,12 @@ void TestMaterialNameFaults::badDatabaseBeginsNoTable()
     QVERIFY(!f.isEnabled("actionSaveAs"));
 }
 
-void TestMaterialNameFaults::badTableIsReportedAndTheTableKept()
+void tst_material_name_faults::badTableIsReportedAndTheTableKept()
 {
     QFETCH(const QByteArray, bytes);
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    QVERIFY(writeFile(f.otherFile, bytes));
+    QVERIFY(writeBytes(f.otherFile, bytes));
     QVERIFY(!f.window.openFile(f.otherFile));
     QCOMPARE(f.dialogs.warnings.size(), 1);
     QVERIFY(f.dialogs.warnings.first().text.startsWith(
@@ -109,7 +110,7 @@ void TestMaterialNameFaults::badTableIsReportedAndTheTableKept()
 }
 
 // It would be written over as a translation file.
-void TestMaterialNameFaults::databaseIsNotOpenedAsATable()
+void tst_material_name_faults::databaseIsNotOpenedAsATable()
 {
     NameUtilityFixture f;
     QVERIFY(!f.window.openFile(f.databaseFile));
@@ -118,7 +119,7 @@ void TestMaterialNameFaults::databaseIsNotOpenedAsATable()
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void TestMaterialNameFaults::largeFileThatIsNoDatabaseIsRefusedAtOnce()
+void tst_material_name_faults::largeFileThatIsNoDatabaseIsRefusedAtOnce()
 {
     constexpr qint64 largeFile = 200'000'000;
     NameUtilityFixture f;
@@ -132,14 +133,14 @@ void TestMaterialNameFaults::largeFileThatIsNoDatabaseIsRefusedAtOnce()
     QCOMPARE(f.dialogs.warnings.size(), 1);
 }
 
-void TestMaterialNameFaults::savingWhereOneMayNotWriteLosesNothing_data()
+void tst_material_name_faults::savingWhereOneMayNotWriteLosesNothing_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("a folder that is not there") << QStringLiteral("no such folder/matprop.ts");
     QTest::newRow("a folder in place of the file") << QStringLiteral("folder");
 }
 
-void TestMaterialNameFaults::savingWhereOneMayNotWriteLosesNothing()
+void tst_material_name_faults::savingWhereOneMayNotWriteLosesNothing()
 {
     QFETCH(const QString, name);
     NameUtilityFixture f;
@@ -162,7 +163,7 @@ void TestMaterialNameFaults::savingWhereOneMayNotWriteLosesNothing()
     QVERIFY(!f.window.hasUnsavedChanges());
 }
 
-void TestMaterialNameFaults::aProtectedFileIsReplacedByThoseOnlyWhoMay()
+void tst_material_name_faults::aProtectedFileIsReplacedByThoseOnlyWhoMay()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -176,11 +177,11 @@ void TestMaterialNameFaults::aProtectedFileIsReplacedByThoseOnlyWhoMay()
     QCOMPARE(f.window.hasUnsavedChanges(), !mayWrite);
 }
 
-void TestMaterialNameFaults::namesOfFilesInOtherScriptsAreFine()
+void tst_material_name_faults::namesOfFilesInOtherScriptsAreFine()
 {
     NameUtilityFixture f;
     const QString database = f.folder.path(QStringLiteral("größe 100% 材料 %1.mdb"));
-    QVERIFY(writeFile(database, databaseOf({QStringLiteral("空気 <&>")})));
+    QVERIFY(writeBytes(database, databaseOf({QStringLiteral("空気 <&>")})));
     f.window.synchronize(database);
     QVERIFY(f.dialogs.warnings.isEmpty());
     f.dialogs.fileToChoose = f.folder.path(QStringLiteral("größe 100% 材料 %1.ts"));
@@ -191,5 +192,5 @@ void TestMaterialNameFaults::namesOfFilesInOtherScriptsAreFine()
     QCOMPARE(f.shownRows(), QStringList(QStringLiteral("空気 <&>|空気 <&>")));
 }
 
-QTEST_MAIN(TestMaterialNameFaults)
+NVX_TEST(tst_material_name_faults)
 #include "tst_material_name_faults.moc"

@@ -1,9 +1,10 @@
 #include "name_utility_fixture.h"
 #include "support/full_disk.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
-class TestMaterialNameFullDisk : public QObject
+class tst_material_name_full_disk : public QObject
 {
     Q_OBJECT
 
@@ -32,5 +33,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMaterialNameFullDisk)
+NVX_TEST(tst_material_name_full_disk)
 #include "tst_material_name_full_disk.moc"

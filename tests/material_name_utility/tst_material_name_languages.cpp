@@ -3,6 +3,7 @@
 #include "name_utility_fixture.h"
 #include "nvx_util/system.h"
 #include "nvx_util/translators.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -52,7 +53,7 @@ const QHash<QString, Words> wordsOf{
 
 } // namespace
 
-class TestMaterialNameLanguages : public QObject
+class tst_material_name_languages : public QObject
 {
     Q_OBJECT
 
@@ -84,5 +85,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMaterialNameLanguages)
+NVX_TEST(tst_material_name_languages)
 #include "tst_material_name_languages.moc"

@@ -4,10 +4,11 @@
 #include "mat_translation_table.h"
 #include "name_utility_fixture.h"
 #include "support/odd_files.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
-class TestMaterialNameOddFiles : public QObject
+class tst_material_name_odd_files : public QObject
 {
     Q_OBJECT
 
@@ -72,5 +73,5 @@ private:
     }
 };
 
-QTEST_MAIN(TestMaterialNameOddFiles)
+NVX_TEST(tst_material_name_odd_files)
 #include "tst_material_name_odd_files.moc"

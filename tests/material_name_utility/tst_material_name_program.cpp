@@ -1,8 +1,9 @@
 // The program itself: it comes up and opens the file that the command line names.
 
+#include "support/test_class.h"
 #include "support/window_program.h"
 
-class TestMaterialNameProgram : public QObject
+class tst_material_name_program : public QObject
 {
     Q_OBJECT
 
@@ -13,5 +14,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMaterialNameProgram)
+NVX_GUILESS_TEST(tst_material_name_program)
 #include "tst_material_name_program.moc"

@@ -1,10 +1,11 @@
 #include "name_utility_fixture.h"
+#include "support/test_class.h"
 #include "window/line_window.h"
 
 #include <QTest>
 #include <QTimer>
 
-class TestMaterialNameSynchronize : public QObject
+class tst_material_name_synchronize : public QObject
 {
     Q_OBJECT
 
@@ -24,13 +25,13 @@ private slots:
     void tableThatIsDroppedIsOpened();
 };
 
-void TestMaterialNameSynchronize::databaseIsAskedForInTheLastFolder()
+void tst_material_name_synchronize::databaseIsAskedForInTheLastFolder()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     QVERIFY(QDir().mkdir(f.folder.path(QStringLiteral("client"))));
     const QString database = f.folder.path(QStringLiteral("client/matprop.mdb"));
-    QVERIFY(writeFile(database, databaseOf({QStringLiteral("Water")})));
+    QVERIFY(writeBytes(database, databaseOf({QStringLiteral("Water")})));
     f.dialogs.fileToChoose = database;
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.openQuestions.size(), 1);
@@ -44,7 +45,7 @@ void TestMaterialNameSynchronize::databaseIsAskedForInTheLastFolder()
 }
 
 // Found 3; Steel and Iron are new, Air and Oil obsolete; 3 - 2 - 2 are reported as existing.
-void TestMaterialNameSynchronize::tableIsBroughtInStep()
+void tst_material_name_synchronize::tableIsBroughtInStep()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -61,7 +62,7 @@ void TestMaterialNameSynchronize::tableIsBroughtInStep()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestMaterialNameSynchronize::statusStays()
+void tst_material_name_synchronize::statusStays()
 {
     NameUtilityFixture f;
     f.window.newTable();
@@ -72,7 +73,7 @@ void TestMaterialNameSynchronize::statusStays()
     QCOMPARE(f.status(), QStringLiteral("Found 3 names (3 new, 0 existing, and 0 obsolete)"));
 }
 
-void TestMaterialNameSynchronize::sameDatabaseTwiceBringsNothing()
+void tst_material_name_synchronize::sameDatabaseTwiceBringsNothing()
 {
     NameUtilityFixture f;
     f.window.newTable();
@@ -81,7 +82,7 @@ void TestMaterialNameSynchronize::sameDatabaseTwiceBringsNothing()
     QCOMPARE(f.status(), QStringLiteral("Found 3 names (0 new, 3 existing, and 0 obsolete)"));
 }
 
-void TestMaterialNameSynchronize::nameThatComesBackStaysObsolete()
+void tst_material_name_synchronize::nameThatComesBackStaysObsolete()
 {
     NameUtilityFixture f;
     f.writeDatabase({QStringLiteral("Air"), QStringLiteral("Oil"), QStringLiteral("Water")});
@@ -92,7 +93,7 @@ void TestMaterialNameSynchronize::nameThatComesBackStaysObsolete()
 }
 
 // Saving is possible after every synchronisation, but only a change is asked about.
-void TestMaterialNameSynchronize::changesAreToldApartFromNone()
+void tst_material_name_synchronize::changesAreToldApartFromNone()
 {
     NameUtilityFixture f;
     f.writeDatabase({QStringLiteral("Air"), QStringLiteral("Water")});
@@ -112,7 +113,7 @@ void TestMaterialNameSynchronize::changesAreToldApartFromNone()
     QCOMPARE(f.dialogs.unsavedQuestions.size(), 1);
 }
 
-void TestMaterialNameSynchronize::namesOfTheDatabaseAreKept()
+void tst_material_name_synchronize::namesOfTheDatabaseAreKept()
 {
     NameUtilityFixture f;
     f.writeDatabase({QStringLiteral("B"), QStringLiteral("A"), QStringLiteral("B"), QString()});
@@ -124,7 +125,7 @@ void TestMaterialNameSynchronize::namesOfTheDatabaseAreKept()
     QCOMPARE(f.view()->model()->rowCount(), 3);
 }
 
-void TestMaterialNameSynchronize::newRowsAreMarkedUntilTheNextSynchronization()
+void tst_material_name_synchronize::newRowsAreMarkedUntilTheNextSynchronization()
 {
     NameUtilityFixture f;
     f.window.newTable();
@@ -134,7 +135,7 @@ void TestMaterialNameSynchronize::newRowsAreMarkedUntilTheNextSynchronization()
     QCOMPARE(f.shownRows().constFirst(), QStringLiteral("Iron|Iron"));
 }
 
-void TestMaterialNameSynchronize::otherTextsOfTheTableAreLeft()
+void tst_material_name_synchronize::otherTextsOfTheTableAreLeft()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -144,7 +145,7 @@ void TestMaterialNameSynchronize::otherTextsOfTheTableAreLeft()
     QCOMPARE(other.front().type, QStringLiteral("unfinished"));
 }
 
-void TestMaterialNameSynchronize::windowWithoutATableBeginsANewOne()
+void tst_material_name_synchronize::windowWithoutATableBeginsANewOne()
 {
     NameUtilityFixture f;
     f.window.synchronize(f.databaseFile);
@@ -155,19 +156,19 @@ void TestMaterialNameSynchronize::windowWithoutATableBeginsANewOne()
     QVERIFY(f.window.hasUnsavedChanges());
 }
 
-void TestMaterialNameSynchronize::databaseThatIsDroppedIsSynchronizedWith_data()
+void tst_material_name_synchronize::databaseThatIsDroppedIsSynchronizedWith_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("as usual") << QStringLiteral("matprop.mdb");
     QTest::newRow("in capitals") << QStringLiteral("MATERIAL.MDB");
 }
 
-void TestMaterialNameSynchronize::databaseThatIsDroppedIsSynchronizedWith()
+void tst_material_name_synchronize::databaseThatIsDroppedIsSynchronizedWith()
 {
     QFETCH(const QString, name);
     NameUtilityFixture f;
     const QString database = f.folder.path(name);
-    QVERIFY(writeFile(database, databaseOf({QStringLiteral("Air")})));
+    QVERIFY(writeBytes(database, databaseOf({QStringLiteral("Air")})));
     QVERIFY(f.window.openFile(f.tableFile));
     QVERIFY(drop(f.window, {QUrl::fromLocalFile(database)}));
     QTRY_COMPARE(f.status(), QStringLiteral("Found 1 names (0 new, -1 existing, and 2 obsolete)"));
@@ -175,12 +176,12 @@ void TestMaterialNameSynchronize::databaseThatIsDroppedIsSynchronizedWith()
     QCOMPARE(f.window.fileName(), f.tableFile);
 }
 
-void TestMaterialNameSynchronize::tableThatIsDroppedIsOpened()
+void tst_material_name_synchronize::tableThatIsDroppedIsOpened()
 {
     NameUtilityFixture f;
     QVERIFY(drop(f.window, {QUrl::fromLocalFile(f.tableFile)}));
     QTRY_COMPARE(f.shownRows(), NameUtilityFixture::tableRows());
 }
 
-QTEST_MAIN(TestMaterialNameSynchronize)
+NVX_TEST(tst_material_name_synchronize)
 #include "tst_material_name_synchronize.moc"

@@ -1,4 +1,5 @@
 #include "name_utility_fixture.h"
+#include "support/test_class.h"
 #include "window/marked_table_view.h"
 
 #include <QHeaderView>
@@ -10,7 +11,7 @@
 
 using Window::UnsavedChoice;
 
-class TestMaterialNameUtility : public QObject
+class tst_material_name_utility : public QObject
 {
     Q_OBJECT
 
@@ -32,7 +33,7 @@ private slots:
     void exitClosesTheWindow();
 };
 
-void TestMaterialNameUtility::windowIsLaidOutAsItsUsersKnowIt()
+void tst_material_name_utility::windowIsLaidOutAsItsUsersKnowIt()
 {
     NameUtilityFixture f;
     QCOMPARE(f.window.windowTitle(), QStringLiteral("Material Name Utility"));
@@ -54,7 +55,7 @@ void TestMaterialNameUtility::windowIsLaidOutAsItsUsersKnowIt()
     QCOMPARE(model->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Translation"));
 }
 
-void TestMaterialNameUtility::actionsHaveTheirTextsAndPictures_data()
+void tst_material_name_utility::actionsHaveTheirTextsAndPictures_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shortcut");
@@ -66,7 +67,7 @@ void TestMaterialNameUtility::actionsHaveTheirTextsAndPictures_data()
     QTest::newRow("actionSynchronize") << QStringLiteral("Synchronize...") << QString();
 }
 
-void TestMaterialNameUtility::actionsHaveTheirTextsAndPictures()
+void tst_material_name_utility::actionsHaveTheirTextsAndPictures()
 {
     NameUtilityFixture f;
     const QAction *action = f.action(QTest::currentDataTag());
@@ -80,7 +81,7 @@ void TestMaterialNameUtility::actionsHaveTheirTextsAndPictures()
     QVERIFY(picture != nothing);
 }
 
-void TestMaterialNameUtility::toolTipTellsWithWhatIsSynchronized()
+void tst_material_name_utility::toolTipTellsWithWhatIsSynchronized()
 {
     NameUtilityFixture f;
     QCOMPARE(f.action("actionSynchronize")->toolTip(), QStringLiteral("Synchronize with material database"));
@@ -89,7 +90,7 @@ void TestMaterialNameUtility::toolTipTellsWithWhatIsSynchronized()
                 .contains(f.action("actionSynchronize")));
 }
 
-void TestMaterialNameUtility::atStartUpOnlyNewOpenAndExitAreEnabled()
+void tst_material_name_utility::atStartUpOnlyNewOpenAndExitAreEnabled()
 {
     NameUtilityFixture f;
     for (const char *name : {"actionNew", "actionOpen", "actionExit"})
@@ -98,7 +99,7 @@ void TestMaterialNameUtility::atStartUpOnlyNewOpenAndExitAreEnabled()
         QVERIFY2(!f.isEnabled(name), name);
 }
 
-void TestMaterialNameUtility::newTableIsEmpty()
+void tst_material_name_utility::newTableIsEmpty()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -111,7 +112,7 @@ void TestMaterialNameUtility::newTableIsEmpty()
         QVERIFY2(f.isEnabled(name), name);
 }
 
-void TestMaterialNameUtility::openedTableIsShownInNameOrder()
+void tst_material_name_utility::openedTableIsShownInNameOrder()
 {
     NameUtilityFixture f;
     f.dialogs.fileToChoose = f.tableFile;
@@ -128,17 +129,17 @@ void TestMaterialNameUtility::openedTableIsShownInNameOrder()
     QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path());
 }
 
-void TestMaterialNameUtility::tableWithoutMaterialNamesIsEmpty()
+void tst_material_name_utility::tableWithoutMaterialNamesIsEmpty()
 {
     NameUtilityFixture f;
-    QVERIFY(writeFile(f.otherFile, "<TS version=\"2.1\"/>"));
+    QVERIFY(writeBytes(f.otherFile, "<TS version=\"2.1\"/>"));
     QVERIFY(f.window.openFile(f.tableFile));
     QVERIFY(f.window.openFile(f.otherFile));
     QCOMPARE(f.shownRows(), QStringList());
     QCOMPARE(f.window.fileName(), f.otherFile);
 }
 
-void TestMaterialNameUtility::cancelledDialogChangesNothing()
+void tst_material_name_utility::cancelledDialogChangesNothing()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -153,7 +154,7 @@ void TestMaterialNameUtility::cancelledDialogChangesNothing()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestMaterialNameUtility::tableIsSavedWithEverythingInIt()
+void tst_material_name_utility::tableIsSavedWithEverythingInIt()
 {
     NameUtilityFixture f;
     const std::optional<QByteArray> before = fileBytes(f.tableFile);
@@ -175,7 +176,7 @@ void TestMaterialNameUtility::tableIsSavedWithEverythingInIt()
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void TestMaterialNameUtility::newTableIsSavedUnderAName()
+void tst_material_name_utility::newTableIsSavedUnderAName()
 {
     NameUtilityFixture f;
     f.window.newTable();
@@ -190,11 +191,11 @@ void TestMaterialNameUtility::newTableIsSavedUnderAName()
                                          QStringLiteral("Water|Water")}));
 }
 
-void TestMaterialNameUtility::failedOpeningKeepsTheTable()
+void tst_material_name_utility::failedOpeningKeepsTheTable()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    QVERIFY(writeFile(f.otherFile, "<TS>\n<context>"));
+    QVERIFY(writeBytes(f.otherFile, "<TS>\n<context>"));
     QVERIFY(!f.window.openFile(f.otherFile));
     QCOMPARE(f.dialogs.warnings.size(), 1);
     QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Open Translation Table"));
@@ -205,7 +206,7 @@ void TestMaterialNameUtility::failedOpeningKeepsTheTable()
     QCOMPARE(f.window.fileName(), f.tableFile);
 }
 
-void TestMaterialNameUtility::rowsAreFilteredAndCopied()
+void tst_material_name_utility::rowsAreFilteredAndCopied()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -216,7 +217,7 @@ void TestMaterialNameUtility::rowsAreFilteredAndCopied()
     QCOMPARE(copiedText(view->rowsModel(), {view->model()->index(0, 0)}), QStringLiteral("Water\tWasser\n"));
 }
 
-void TestMaterialNameUtility::columnsSortByAClickAndReturnToNameOrder()
+void tst_material_name_utility::columnsSortByAClickAndReturnToNameOrder()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -235,7 +236,7 @@ void TestMaterialNameUtility::columnsSortByAClickAndReturnToNameOrder()
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
 }
 
-void TestMaterialNameUtility::exitClosesTheWindow()
+void tst_material_name_utility::exitClosesTheWindow()
 {
     NameUtilityFixture f;
     f.window.show();
@@ -249,5 +250,5 @@ void TestMaterialNameUtility::exitClosesTheWindow()
     QVERIFY(!f.window.isVisible());
 }
 
-QTEST_MAIN(TestMaterialNameUtility)
+NVX_TEST(tst_material_name_utility)
 #include "tst_material_name_utility.moc"

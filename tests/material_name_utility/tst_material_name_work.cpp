@@ -2,6 +2,7 @@
 
 #include "name_utility_fixture.h"
 #include "support/shown_progress.h"
+#include "support/test_class.h"
 
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -35,7 +36,7 @@ void writeLargeDatabase(const QString &fileName, qint64 bytes = largeFile / 4)
 
 } // namespace
 
-class TestMaterialNameWork : public QObject
+class tst_material_name_work : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +49,7 @@ private slots:
     void manyNamesAreShownAndFiltered();
 };
 
-void TestMaterialNameWork::readingALargeDatabaseIsCancelled()
+void tst_material_name_work::readingALargeDatabaseIsCancelled()
 {
     NameUtilityFixture f;
     writeLargeDatabase(f.databaseFile);
@@ -63,7 +64,7 @@ void TestMaterialNameWork::readingALargeDatabaseIsCancelled()
     QVERIFY(f.window.materialNames().isEmpty());
 }
 
-void TestMaterialNameWork::openingALargeTableIsCancelled()
+void tst_material_name_work::openingALargeTableIsCancelled()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -78,7 +79,7 @@ void TestMaterialNameWork::openingALargeTableIsCancelled()
     QCOMPARE(f.window.fileName(), f.tableFile);
 }
 
-void TestMaterialNameWork::closingDuringReadingEndsIt()
+void tst_material_name_work::closingDuringReadingEndsIt()
 {
     NameUtilityFixture f;
     f.window.show();
@@ -93,12 +94,12 @@ void TestMaterialNameWork::closingDuringReadingEndsIt()
     QVERIFY(f.dialogs.unsavedQuestions.isEmpty());
 }
 
-void TestMaterialNameWork::noOtherSynchronizationIsTakenMeanwhile()
+void tst_material_name_work::noOtherSynchronizationIsTakenMeanwhile()
 {
     NameUtilityFixture f;
     writeLargeDatabase(f.databaseFile, largeFile / 20);
     const QString other = f.folder.path(QStringLiteral("other.mdb"));
-    QVERIFY(writeFile(other, databaseOf({QStringLiteral("Air")})));
+    QVERIFY(writeBytes(other, databaseOf({QStringLiteral("Air")})));
     bool wasBusy = false;
     QTimer::singleShot(1, &f.window, [&] {
         wasBusy = f.window.isBusy();
@@ -111,7 +112,7 @@ void TestMaterialNameWork::noOtherSynchronizationIsTakenMeanwhile()
     QCOMPARE(f.window.databaseFile(), f.databaseFile);
 }
 
-void TestMaterialNameWork::largeDatabaseIsReadToItsEnd()
+void tst_material_name_work::largeDatabaseIsReadToItsEnd()
 {
     NameUtilityFixture f;
     writeLargeFile(f.databaseFile, "<materials>\n",
@@ -122,7 +123,7 @@ void TestMaterialNameWork::largeDatabaseIsReadToItsEnd()
     QCOMPARE(f.status(), QStringLiteral("Found 1 names (1 new, 0 existing, and 0 obsolete)"));
 }
 
-void TestMaterialNameWork::manyNamesAreShownAndFiltered()
+void tst_material_name_work::manyNamesAreShownAndFiltered()
 {
     constexpr int count = 100'000;
     NameUtilityFixture f;
@@ -154,5 +155,5 @@ void TestMaterialNameWork::manyNamesAreShownAndFiltered()
     QVERIFY(!f.window.hasUnsavedChanges());
 }
 
-QTEST_MAIN(TestMaterialNameWork)
+NVX_TEST(tst_material_name_work)
 #include "tst_material_name_work.moc"

@@ -1,5 +1,6 @@
 #include "error_translation_table.h"
 #include "material_name_utility/material_rows.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -40,7 +41,7 @@ QString shown(const MarkedRows &rows)
 
 } // namespace
 
-class TestMaterialRows : public QObject
+class tst_material_rows : public QObject
 {
     Q_OBJECT
 
@@ -75,5 +76,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMaterialRows)
+NVX_GUILESS_TEST(tst_material_rows)
 #include "tst_material_rows.moc"

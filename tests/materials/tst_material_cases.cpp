@@ -1,6 +1,7 @@
 #include "mat_translation_table.h"
 #include "support/case_folders.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QDir>
@@ -39,7 +40,7 @@ QString expected(const QString &folder, const QString &name)
 
 } // namespace
 
-class TestMaterialCases : public QObject
+class tst_material_cases : public QObject
 {
     Q_OBJECT
 
@@ -83,5 +84,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMaterialCases)
+NVX_GUILESS_TEST(tst_material_cases)
 #include "tst_material_cases.moc"

@@ -1,6 +1,7 @@
 #include "mat_material_name.h"
 #include "support/broken_device.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QBuffer>
@@ -20,7 +21,7 @@ MaterialNames namesIn(const QByteArray &database)
 
 } // namespace
 
-class TestMaterialNames : public QObject
+class tst_material_names : public QObject
 {
     Q_OBJECT
 
@@ -167,7 +168,7 @@ private slots:
     {
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("材料 Größe.mdb"));
-        QVERIFY(writeFile(fileName, "<material>\r\n<name>A</name>\r\n</material>\r\n"));
+        QVERIFY(writeBytes(fileName, "<material>\r\n<name>A</name>\r\n</material>\r\n"));
         const MaterialNames read = mat::readMaterialNames(fileName);
         QCOMPARE(read.error, QString());
         QCOMPARE(read.names, QStringList(QStringLiteral("A")));
@@ -183,5 +184,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMaterialNames)
+NVX_GUILESS_TEST(tst_material_names)
 #include "tst_material_names.moc"

@@ -1,6 +1,7 @@
 #include "error_translation_table.h"
 #include "mat_translation_table.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QBuffer>
@@ -64,7 +65,7 @@ QStringList manyNames(int count)
 
 } // namespace
 
-class TestMaterialSynchronization : public QObject
+class tst_material_synchronization : public QObject
 {
     Q_OBJECT
 
@@ -243,7 +244,7 @@ private slots:
         const mat::TableUpdate missing = mat::updateTranslationFile(database, translation);
         QCOMPARE(missing.outcome, Outcome::DatabaseNotRead);
         QVERIFY2(missing.error.startsWith(database + QStringLiteral(": ")), qPrintable(missing.error));
-        QVERIFY(writeFile(database, "<materials><material><name>B</name></material>"));
+        QVERIFY(writeBytes(database, "<materials><material><name>B</name></material>"));
         QCOMPARE(mat::updateTranslationFile(database, translation).outcome, Outcome::DatabaseNotRead);
         QCOMPARE(fileBytes(translation), before);
     }
@@ -252,7 +253,7 @@ private slots:
     {
         const TestFolder folder;
         const QString database = folder.path(QStringLiteral("matprop.mdb"));
-        QVERIFY(writeFile(database, "<material><name>A</name></material>"));
+        QVERIFY(writeBytes(database, "<material><name>A</name></material>"));
         const QString translation = folder.path(QStringLiteral("missing/matprop.ts"));
         const mat::TableUpdate update = mat::updateTranslationFile(database, translation);
         QCOMPARE(update.outcome, Outcome::TableNotSaved);
@@ -263,7 +264,7 @@ private slots:
     {
         const TestFolder folder;
         const QString database = folder.path(QStringLiteral("matprop.mdb"));
-        QVERIFY(writeFile(database, "<material><name>A</name></material>"));
+        QVERIFY(writeBytes(database, "<material><name>A</name></material>"));
         QCOMPARE(mat::updateTranslationFile(database, folder.path()).outcome, Outcome::TableNotRead);
     }
 
@@ -272,8 +273,8 @@ private slots:
         const TestFolder folder;
         const QString database = folder.path(QStringLiteral("matprop.mdb"));
         const QString translation = folder.path(QStringLiteral("matprop.ts"));
-        QVERIFY(
-            writeFile(database, "<material><name>B</name><name>\xc3\x84 &lt;&#13;</name><name/></material>"));
+        QVERIFY(writeBytes(database,
+                           "<material><name>B</name><name>\xc3\x84 &lt;&#13;</name><name/></material>"));
         const mat::TableUpdate first = mat::updateTranslationFile(database, translation);
         QCOMPARE(first.outcome, Outcome::Updated);
         QCOMPARE(counted(first.counts), QStringLiteral("3 3 0 0"));
@@ -284,5 +285,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMaterialSynchronization)
+NVX_GUILESS_TEST(tst_material_synchronization)
 #include "tst_material_synchronization.moc"

@@ -1,6 +1,7 @@
 // Files that are not as they should be, and places that are not.
 
 #include "support/shown_progress.h"
+#include "support/test_class.h"
 #include "utility_fixture.h"
 
 #include <QDir>
@@ -35,7 +36,7 @@ constexpr qint64 largeFile = 200'000'000;
 
 } // namespace
 
-class TestMessageTableFaults : public QObject
+class tst_message_table_faults : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +55,7 @@ private slots:
     void namesOfFilesInOtherScriptsAreFine();
 };
 
-void TestMessageTableFaults::badFileIsReportedAndTheTableKept_data()
+void tst_message_table_faults::badFileIsReportedAndTheTableKept_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QByteArray();
@@ -70,12 +71,12 @@ void TestMessageTableFaults::badFileIsReportedAndTheTableKept_data()
                       "</messageTable>");
 }
 
-void TestMessageTableFaults::badFileIsReportedAndTheTableKept()
+void tst_message_table_faults::badFileIsReportedAndTheTableKept()
 {
     QFETCH(QByteArray, bytes);
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    QVERIFY(writeFile(f.otherFile, bytes));
+    QVERIFY(writeBytes(f.otherFile, bytes));
     QVERIFY(!f.window.openFile(f.otherFile));
     QCOMPARE(f.dialogs.warnings.size(), 1);
     QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Open Message Table"));
@@ -85,11 +86,11 @@ void TestMessageTableFaults::badFileIsReportedAndTheTableKept()
     QCOMPARE(fileBytes(f.otherFile), bytes);
 }
 
-void TestMessageTableFaults::truncatedFileIsReportedWithItsLine()
+void tst_message_table_faults::truncatedFileIsReportedWithItsLine()
 {
     UtilityFixture f;
     const QByteArray whole = *fileLines(f.tableFile);
-    QVERIFY(writeFile(f.otherFile, whole.left(whole.size() / 2)));
+    QVERIFY(writeBytes(f.otherFile, whole.left(whole.size() / 2)));
     const qsizetype line = whole.left(whole.size() / 2).count('\n') + 1;
     QVERIFY(!f.window.openFile(f.otherFile));
     QVERIFY2(f.dialogs.warnings.first().text.contains(QStringLiteral("\nLine %1: ").arg(line)),
@@ -97,7 +98,7 @@ void TestMessageTableFaults::truncatedFileIsReportedWithItsLine()
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void TestMessageTableFaults::folderIsNoTable()
+void tst_message_table_faults::folderIsNoTable()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -106,7 +107,7 @@ void TestMessageTableFaults::folderIsNoTable()
     expectOldTable(f);
 }
 
-void TestMessageTableFaults::missingFileIsReported()
+void tst_message_table_faults::missingFileIsReported()
 {
     UtilityFixture f;
     QVERIFY(!f.window.openFile(f.otherFile));
@@ -115,7 +116,7 @@ void TestMessageTableFaults::missingFileIsReported()
         QStringLiteral("Could not load message table\n\n%1\n").arg(f.otherFile)));
 }
 
-void TestMessageTableFaults::largeFileThatIsNoTableIsRefusedAtOnce()
+void tst_message_table_faults::largeFileThatIsNoTableIsRefusedAtOnce()
 {
     UtilityFixture f;
     QFile file(f.otherFile);
@@ -128,7 +129,7 @@ void TestMessageTableFaults::largeFileThatIsNoTableIsRefusedAtOnce()
     QCOMPARE(f.dialogs.warnings.size(), 1);
 }
 
-void TestMessageTableFaults::loadingOfALargeFileIsCancelled()
+void tst_message_table_faults::loadingOfALargeFileIsCancelled()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -143,7 +144,7 @@ void TestMessageTableFaults::loadingOfALargeFileIsCancelled()
     expectOldTable(f);
 }
 
-void TestMessageTableFaults::closingDuringLoadingEndsIt()
+void tst_message_table_faults::closingDuringLoadingEndsIt()
 {
     UtilityFixture f;
     f.window.show();
@@ -154,14 +155,14 @@ void TestMessageTableFaults::closingDuringLoadingEndsIt()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestMessageTableFaults::savingWhereOneMayNotWriteLosesNothing_data()
+void tst_message_table_faults::savingWhereOneMayNotWriteLosesNothing_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("a folder that is not there") << QStringLiteral("no such folder/errors.xml");
     QTest::newRow("a folder in place of the file") << QStringLiteral("project");
 }
 
-void TestMessageTableFaults::savingWhereOneMayNotWriteLosesNothing()
+void tst_message_table_faults::savingWhereOneMayNotWriteLosesNothing()
 {
     QFETCH(QString, name);
     UtilityFixture f;
@@ -187,12 +188,12 @@ void TestMessageTableFaults::savingWhereOneMayNotWriteLosesNothing()
     QCOMPARE(f.shownRows(), before);
 }
 
-void TestMessageTableFaults::aProtectedFileIsReplacedByThoseOnlyWhoMay()
+void tst_message_table_faults::aProtectedFileIsReplacedByThoseOnlyWhoMay()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     const QByteArray before = "somebody else's";
-    QVERIFY(writeFile(f.otherFile, before));
+    QVERIFY(writeBytes(f.otherFile, before));
     QVERIFY(QFile::setPermissions(f.otherFile, QFile::ReadOwner | QFile::ReadUser));
     const bool mayWrite = QFileInfo(f.otherFile).isWritable(); // the superuser writes every file
     f.dialogs.fileToChoose = f.otherFile;
@@ -202,7 +203,7 @@ void TestMessageTableFaults::aProtectedFileIsReplacedByThoseOnlyWhoMay()
     QCOMPARE(f.window.fileName(), mayWrite ? f.otherFile : f.tableFile);
 }
 
-void TestMessageTableFaults::namesOfFilesInOtherScriptsAreFine()
+void tst_message_table_faults::namesOfFilesInOtherScriptsAreFine()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -214,5 +215,5 @@ void TestMessageTableFaults::namesOfFilesInOtherScriptsAreFine()
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
 }
 
-QTEST_MAIN(TestMessageTableFaults)
+NVX_TEST(tst_message_table_faults)
 #include "tst_message_table_faults.moc"

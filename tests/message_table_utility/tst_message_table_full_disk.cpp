@@ -1,9 +1,10 @@
 #include "support/full_disk.h"
+#include "support/test_class.h"
 #include "utility_fixture.h"
 
 #include <QTest>
 
-class TestMessageTableFullDisk : public QObject
+class tst_message_table_full_disk : public QObject
 {
     Q_OBJECT
 
@@ -40,7 +41,7 @@ private slots:
         QVERIFY(tableOf(5000).save(f.otherFile));
         QVERIFY(f.window.openFile(f.otherFile));
         const QByteArray before = "<TS/>";
-        QVERIFY(writeFile(f.translationFile, before));
+        QVERIFY(writeBytes(f.translationFile, before));
         f.dialogs.fileToChoose = f.translationFile;
         {
             const FullDisk disk;
@@ -51,5 +52,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMessageTableFullDisk)
+NVX_TEST(tst_message_table_full_disk)
 #include "tst_message_table_full_disk.moc"

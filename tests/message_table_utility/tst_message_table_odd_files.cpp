@@ -1,11 +1,12 @@
 // Files that break when they are read, and files that cannot be opened.
 
 #include "support/odd_files.h"
+#include "support/test_class.h"
 #include "utility_fixture.h"
 
 #include <QTest>
 
-class TestMessageTableOddFiles : public QObject
+class tst_message_table_odd_files : public QObject
 {
     Q_OBJECT
 
@@ -31,5 +32,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMessageTableOddFiles)
+NVX_TEST(tst_message_table_odd_files)
 #include "tst_message_table_odd_files.moc"

@@ -1,8 +1,9 @@
 // The program itself: it comes up and opens the file that the command line names.
 
+#include "support/test_class.h"
 #include "support/window_program.h"
 
-class TestMessageTableProgram : public QObject
+class tst_message_table_program : public QObject
 {
     Q_OBJECT
 
@@ -14,5 +15,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessageTableProgram)
+NVX_GUILESS_TEST(tst_message_table_program)
 #include "tst_message_table_program.moc"

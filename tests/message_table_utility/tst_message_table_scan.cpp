@@ -1,6 +1,7 @@
 // What the user sees of a long scan, and how it is stopped.
 
 #include "support/shown_progress.h"
+#include "support/test_class.h"
 #include "utility_fixture.h"
 
 #include <QTest>
@@ -11,7 +12,7 @@ constexpr int manyFiles = 2000;
 
 } // namespace
 
-class TestMessageTableScan : public QObject
+class tst_message_table_scan : public QObject
 {
     Q_OBJECT
 
@@ -22,7 +23,7 @@ private slots:
     void closingDuringAScanAsksAboutUnsavedChanges();
 };
 
-void TestMessageTableScan::progressNamesTheProject()
+void tst_message_table_scan::progressNamesTheProject()
 {
     UtilityFixture f;
     f.window.newTable();
@@ -47,7 +48,7 @@ void TestMessageTableScan::progressNamesTheProject()
     QCOMPARE(f.shownRows(), QStringList(QStringLiteral("client|f|One|New")));
 }
 
-void TestMessageTableScan::cancelledScanLeavesTheTable()
+void tst_message_table_scan::cancelledScanLeavesTheTable()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -63,7 +64,7 @@ void TestMessageTableScan::cancelledScanLeavesTheTable()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestMessageTableScan::closingDuringAScanEndsIt()
+void tst_message_table_scan::closingDuringAScanEndsIt()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -77,7 +78,7 @@ void TestMessageTableScan::closingDuringAScanEndsIt()
     QVERIFY(f.dialogs.unsavedQuestions.isEmpty());
 }
 
-void TestMessageTableScan::closingDuringAScanAsksAboutUnsavedChanges()
+void tst_message_table_scan::closingDuringAScanAsksAboutUnsavedChanges()
 {
     UtilityFixture f;
     f.window.newTable();
@@ -96,5 +97,5 @@ void TestMessageTableScan::closingDuringAScanAsksAboutUnsavedChanges()
     QCOMPARE(f.shownRows(), QStringList(QStringLiteral("client|f|One|New")));
 }
 
-QTEST_MAIN(TestMessageTableScan)
+NVX_TEST(tst_message_table_scan)
 #include "tst_message_table_scan.moc"

@@ -1,5 +1,6 @@
 // Synchronising with a project's sources: what becomes of the table, and what the window says.
 
+#include "support/test_class.h"
 #include "utility_fixture.h"
 
 #include <QRegularExpression>
@@ -17,7 +18,7 @@ void expectStatus(UtilityFixture &f, const QString &found)
 
 } // namespace
 
-class TestMessageTableSynchronize : public QObject
+class tst_message_table_synchronize : public QObject
 {
     Q_OBJECT
 
@@ -37,7 +38,7 @@ private slots:
     void elapsedTimeIsThatOfTheWork();
 };
 
-void TestMessageTableSynchronize::foundKeysAreNew()
+void tst_message_table_synchronize::foundKeysAreNew()
 {
     UtilityFixture f;
     f.window.newTable();
@@ -55,7 +56,7 @@ void TestMessageTableSynchronize::foundKeysAreNew()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestMessageTableSynchronize::keysNotFoundBecomeObsolete()
+void tst_message_table_synchronize::keysNotFoundBecomeObsolete()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -71,7 +72,7 @@ void TestMessageTableSynchronize::keysNotFoundBecomeObsolete()
     QVERIFY(f.isEnabled("actionSave"));
 }
 
-void TestMessageTableSynchronize::synchronisingTwiceChangesNothing()
+void tst_message_table_synchronize::synchronisingTwiceChangesNothing()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -85,7 +86,7 @@ void TestMessageTableSynchronize::synchronisingTwiceChangesNothing()
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void TestMessageTableSynchronize::messageThatComesBackStaysObsolete()
+void tst_message_table_synchronize::messageThatComesBackStaysObsolete()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -95,7 +96,7 @@ void TestMessageTableSynchronize::messageThatComesBackStaysObsolete()
     QCOMPARE(f.shownRows().first(), QStringLiteral("client|A::run|Bravo|Obsolete"));
 }
 
-void TestMessageTableSynchronize::nothingFoundIsSaidSo()
+void tst_message_table_synchronize::nothingFoundIsSaidSo()
 {
     UtilityFixture f;
     f.window.newTable();
@@ -109,7 +110,7 @@ void TestMessageTableSynchronize::nothingFoundIsSaidSo()
     expectStatus(f, QStringLiteral("Found 0 keys"));
 }
 
-void TestMessageTableSynchronize::dialogAsksForAProject()
+void tst_message_table_synchronize::dialogAsksForAProject()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -120,7 +121,7 @@ void TestMessageTableSynchronize::dialogAsksForAProject()
     QCOMPARE(f.dialogs.openQuestions.first().folder, f.folder.path());
 }
 
-void TestMessageTableSynchronize::laterDialogsStartInTheProjectsFolder()
+void tst_message_table_synchronize::laterDialogsStartInTheProjectsFolder()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -130,7 +131,7 @@ void TestMessageTableSynchronize::laterDialogsStartInTheProjectsFolder()
     QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path(QStringLiteral("project")));
 }
 
-void TestMessageTableSynchronize::fileThatIsNoProjectIsReported_data()
+void tst_message_table_synchronize::fileThatIsNoProjectIsReported_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QByteArray();
@@ -139,12 +140,12 @@ void TestMessageTableSynchronize::fileThatIsNoProjectIsReported_data()
     QTest::newRow("another document") << QByteArray("<html/>");
 }
 
-void TestMessageTableSynchronize::fileThatIsNoProjectIsReported()
+void tst_message_table_synchronize::fileThatIsNoProjectIsReported()
 {
     QFETCH(QByteArray, bytes);
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    QVERIFY(writeFile(f.projectFile, bytes));
+    QVERIFY(writeBytes(f.projectFile, bytes));
     f.dialogs.fileToChoose = f.projectFile;
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
@@ -154,7 +155,7 @@ void TestMessageTableSynchronize::fileThatIsNoProjectIsReported()
     QVERIFY(!f.window.hasUnsavedChanges());
 }
 
-void TestMessageTableSynchronize::missingSourcesAreReportedAndTheRestIsScanned()
+void tst_message_table_synchronize::missingSourcesAreReportedAndTheRestIsScanned()
 {
     UtilityFixture f;
     f.window.newTable();
@@ -170,7 +171,7 @@ void TestMessageTableSynchronize::missingSourcesAreReportedAndTheRestIsScanned()
     expectStatus(f, QStringLiteral("Found 1 keys (1 new, 0 existing, and 0 obsolete)"));
 }
 
-void TestMessageTableSynchronize::badSourceIsReportedWithItsLine()
+void tst_message_table_synchronize::badSourceIsReportedWithItsLine()
 {
     UtilityFixture f;
     f.window.newTable();
@@ -184,7 +185,7 @@ void TestMessageTableSynchronize::badSourceIsReportedWithItsLine()
              qPrintable(text));
 }
 
-void TestMessageTableSynchronize::manyErrorsFitIntoABox()
+void tst_message_table_synchronize::manyErrorsFitIntoABox()
 {
     UtilityFixture f;
     f.window.newTable();
@@ -199,7 +200,7 @@ void TestMessageTableSynchronize::manyErrorsFitIntoABox()
     QVERIFY(text.count(u'\n') < 15);
 }
 
-void TestMessageTableSynchronize::elapsedTimeIsThatOfTheWork()
+void tst_message_table_synchronize::elapsedTimeIsThatOfTheWork()
 {
     constexpr int reading = 2000; // milliseconds that the user takes for the box
     UtilityFixture f;
@@ -212,5 +213,5 @@ void TestMessageTableSynchronize::elapsedTimeIsThatOfTheWork()
     QVERIFY2(elapsed.toDouble() < reading / 1000.0, qPrintable(f.status()));
 }
 
-QTEST_MAIN(TestMessageTableSynchronize)
+NVX_TEST(tst_message_table_synchronize)
 #include "tst_message_table_synchronize.moc"

@@ -1,6 +1,7 @@
 // Bringing a translation file up to date from the window.
 
 #include "support/shown_progress.h"
+#include "support/test_class.h"
 #include "utility_fixture.h"
 
 #include <QTest>
@@ -17,7 +18,7 @@ void prepare(UtilityFixture &f, const QByteArray &translation)
         table.insert(message);
     }
     if (!table.save(f.otherFile) || !f.window.openFile(f.otherFile) ||
-        !writeFile(f.translationFile, translation))
+        !writeBytes(f.translationFile, translation))
         qFatal("cannot prepare");
     f.dialogs.fileToChoose = f.translationFile;
 }
@@ -33,7 +34,7 @@ const QByteArray emptyTranslation = "<!DOCTYPE TS><TS version=\"2.1\" language=\
 
 } // namespace
 
-class TestMessageTableTranslation : public QObject
+class tst_message_table_translation : public QObject
 {
     Q_OBJECT
 
@@ -155,5 +156,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMessageTableTranslation)
+NVX_TEST(tst_message_table_translation)
 #include "tst_message_table_translation.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "utility_fixture.h"
 #include "window/row_mark.h"
 
@@ -8,7 +9,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
-class TestMessageTableUtility : public QObject
+class tst_message_table_utility : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +35,7 @@ private slots:
     void tableOfManyMessagesIsShownWhole();
 };
 
-void TestMessageTableUtility::windowHasItsNames()
+void tst_message_table_utility::windowHasItsNames()
 {
     const UtilityFixture f;
     QCOMPARE(f.window.objectName(), QStringLiteral("MessageTableUtilityClass"));
@@ -51,7 +52,7 @@ void TestMessageTableUtility::windowHasItsNames()
     QCOMPARE(f.window.findChild<QMenu *>(QStringLiteral("menuHelp"))->title(), QStringLiteral("Help"));
 }
 
-void TestMessageTableUtility::actionsAreAsStated_data()
+void tst_message_table_utility::actionsAreAsStated_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shortcut");
@@ -71,7 +72,7 @@ void TestMessageTableUtility::actionsAreAsStated_data()
     row("actionTranslate", "Update Translation...", "", false, "Update translation");
 }
 
-void TestMessageTableUtility::actionsAreAsStated()
+void tst_message_table_utility::actionsAreAsStated()
 {
     UtilityFixture f;
     const QAction *action = f.action(QTest::currentDataTag());
@@ -84,7 +85,7 @@ void TestMessageTableUtility::actionsAreAsStated()
         QCOMPARE(action->iconText(), QStringLiteral("tr"));
 }
 
-void TestMessageTableUtility::menusAndToolBarHaveTheActions()
+void tst_message_table_utility::menusAndToolBarHaveTheActions()
 {
     UtilityFixture f;
     const auto namesOf = [](const QWidget *widget) {
@@ -104,7 +105,7 @@ void TestMessageTableUtility::menusAndToolBarHaveTheActions()
              QStringLiteral("tr"));
 }
 
-void TestMessageTableUtility::tableHasFourColumns()
+void tst_message_table_utility::tableHasFourColumns()
 {
     UtilityFixture f;
     const QAbstractItemModel *model = f.view()->model();
@@ -117,7 +118,7 @@ void TestMessageTableUtility::tableHasFourColumns()
     QCOMPARE(f.view()->editTriggers(), QAbstractItemView::NoEditTriggers);
 }
 
-void TestMessageTableUtility::atStartUpOnlyNewOpenAndExitAreEnabled()
+void tst_message_table_utility::atStartUpOnlyNewOpenAndExitAreEnabled()
 {
     UtilityFixture f;
     for (const char *name : {"actionNew", "actionOpen", "actionExit"})
@@ -126,7 +127,7 @@ void TestMessageTableUtility::atStartUpOnlyNewOpenAndExitAreEnabled()
         QVERIFY2(!f.isEnabled(name), name);
 }
 
-void TestMessageTableUtility::newTableForgetsTheOldOne()
+void tst_message_table_utility::newTableForgetsTheOldOne()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -140,18 +141,18 @@ void TestMessageTableUtility::newTableForgetsTheOldOne()
         QVERIFY2(f.isEnabled(name), name);
 }
 
-void TestMessageTableUtility::openShowsTheMessagesInKeyOrder()
+void tst_message_table_utility::openShowsTheMessagesInKeyOrder()
 {
     UtilityFixture f;
-    QVERIFY(writeFile(f.otherFile,
-                      "<messageTable>"
-                      "<message severity=\"Warning\"><key><process>B</process><context>a</context>"
-                      "<tag>a</tag></key><text>t</text></message>"
-                      "<message severity=\"Warning\"><key><process>A</process><context>z</context>"
-                      "<tag>z</tag></key><text>t</text></message>"
-                      "<message severity=\"Warning\"><key><process>A</process><context>z</context>"
-                      "<tag>b</tag></key><text>t</text><state>New</state></message>"
-                      "</messageTable>"));
+    QVERIFY(writeBytes(f.otherFile,
+                       "<messageTable>"
+                       "<message severity=\"Warning\"><key><process>B</process><context>a</context>"
+                       "<tag>a</tag></key><text>t</text></message>"
+                       "<message severity=\"Warning\"><key><process>A</process><context>z</context>"
+                       "<tag>z</tag></key><text>t</text></message>"
+                       "<message severity=\"Warning\"><key><process>A</process><context>z</context>"
+                       "<tag>b</tag></key><text>t</text><state>New</state></message>"
+                       "</messageTable>"));
     f.dialogs.fileToChoose = f.otherFile;
     f.action("actionOpen")->trigger();
     QCOMPARE(f.dialogs.openQuestions.size(), 1);
@@ -165,18 +166,18 @@ void TestMessageTableUtility::openShowsTheMessagesInKeyOrder()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestMessageTableUtility::fileWithoutATableGivesAnEmptyOne()
+void tst_message_table_utility::fileWithoutATableGivesAnEmptyOne()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    QVERIFY(writeFile(f.otherFile, "<other><message severity=\"Warning\"/></other>"));
+    QVERIFY(writeBytes(f.otherFile, "<other><message severity=\"Warning\"/></other>"));
     QVERIFY(f.window.openFile(f.otherFile));
     QVERIFY(f.window.messages().isEmpty());
     QCOMPARE(f.shownRows(), QStringList());
     QCOMPARE(f.window.fileName(), f.otherFile);
 }
 
-void TestMessageTableUtility::cancelledDialogsChangeNothing()
+void tst_message_table_utility::cancelledDialogsChangeNothing()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -190,12 +191,12 @@ void TestMessageTableUtility::cancelledDialogsChangeNothing()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestMessageTableUtility::saveWritesTheTable()
+void tst_message_table_utility::saveWritesTheTable()
 {
     UtilityFixture f;
     const std::optional<QByteArray> before = fileBytes(f.tableFile);
     QVERIFY(f.window.openFile(f.tableFile));
-    QVERIFY(writeFile(f.tableFile, "overwritten by somebody"));
+    QVERIFY(writeBytes(f.tableFile, "overwritten by somebody"));
     f.action("actionSave")->trigger();
     QCOMPARE(f.status(), QStringLiteral("Table saved"));
     QCOMPARE(fileBytes(f.tableFile), before);
@@ -203,7 +204,7 @@ void TestMessageTableUtility::saveWritesTheTable()
     QVERIFY(f.isEnabled("actionSaveAs"));
 }
 
-void TestMessageTableUtility::newTableIsSavedUnderANewName()
+void tst_message_table_utility::newTableIsSavedUnderANewName()
 {
     UtilityFixture f;
     f.window.newTable();
@@ -217,7 +218,7 @@ void TestMessageTableUtility::newTableIsSavedUnderANewName()
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void TestMessageTableUtility::saveAsTakesTheNewName()
+void tst_message_table_utility::saveAsTakesTheNewName()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -230,7 +231,7 @@ void TestMessageTableUtility::saveAsTakesTheNewName()
     QCOMPARE(fileBytes(f.otherFile), fileBytes(f.tableFile));
 }
 
-void TestMessageTableUtility::newAndObsoleteRowsAreMarked()
+void tst_message_table_utility::newAndObsoleteRowsAreMarked()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -253,7 +254,7 @@ void TestMessageTableUtility::newAndObsoleteRowsAreMarked()
     QCOMPARE(toolTip(2), QString());
 }
 
-void TestMessageTableUtility::rowsAreReadableOnADarkPalette()
+void tst_message_table_utility::rowsAreReadableOnADarkPalette()
 {
     UtilityFixture f;
     QPalette dark;
@@ -269,7 +270,7 @@ void TestMessageTableUtility::rowsAreReadableOnADarkPalette()
     QCOMPARE(image.pixelColor(place).rgb(), markColor(dark, Window::RowMark::Obsolete).rgb());
 }
 
-void TestMessageTableUtility::filterFindsStatesAndContexts()
+void tst_message_table_utility::filterFindsStatesAndContexts()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -283,7 +284,7 @@ void TestMessageTableUtility::filterFindsStatesAndContexts()
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
 }
 
-void TestMessageTableUtility::sortedRowsReturnToKeyOrder()
+void tst_message_table_utility::sortedRowsReturnToKeyOrder()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -302,7 +303,7 @@ void TestMessageTableUtility::sortedRowsReturnToKeyOrder()
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
 }
 
-void TestMessageTableUtility::widthsOfColumnsAreKept()
+void tst_message_table_utility::widthsOfColumnsAreKept()
 {
     UtilityFixture f;
     for (int column = 0; column < 3; ++column)
@@ -314,7 +315,7 @@ void TestMessageTableUtility::widthsOfColumnsAreKept()
     QCOMPARE(next.findChild<QTableView *>(QStringLiteral("tableWidget"))->columnWidth(1), 222);
 }
 
-void TestMessageTableUtility::tableOfManyMessagesIsShownWhole()
+void tst_message_table_utility::tableOfManyMessagesIsShownWhole()
 {
     constexpr int count = 100'000;
     UtilityFixture f;
@@ -327,5 +328,5 @@ void TestMessageTableUtility::tableOfManyMessagesIsShownWhole()
     QCOMPARE(f.view()->model()->rowCount(), 100);
 }
 
-QTEST_MAIN(TestMessageTableUtility)
+NVX_TEST(tst_message_table_utility)
 #include "tst_message_table_utility.moc"

@@ -81,7 +81,7 @@ struct UtilityFixture
     /// Writes a source file of the project.
     void writeSource(const QString &name, const QByteArray &text) const
     {
-        if (!writeFile(folder.path(QStringLiteral("project/") + name), text))
+        if (!writeBytes(folder.path(QStringLiteral("project/") + name), text))
             qFatal("cannot write a source file");
     }
 
@@ -91,9 +91,9 @@ struct UtilityFixture
         QByteArray items;
         for (const QString &file : sourceFiles)
             items += "<ClCompile Include=\"" + file.toUtf8() + "\"/>";
-        if (!writeFile(projectFile, "<Project><PropertyGroup Label=\"Globals\"><RootNamespace>new_client"
-                                    "</RootNamespace></PropertyGroup><ItemGroup>" +
-                                        items + "</ItemGroup></Project>"))
+        if (!writeBytes(projectFile, "<Project><PropertyGroup Label=\"Globals\"><RootNamespace>new_client"
+                                     "</RootNamespace></PropertyGroup><ItemGroup>" +
+                                         items + "</ItemGroup></Project>"))
             qFatal("cannot write the project");
         dialogs.fileToChoose = projectFile;
     }

@@ -1,3 +1,5 @@
+#include "support/test_class.h"
+
 #include <QIcon>
 #include <QImage>
 #include <QPixmap>
@@ -84,6 +86,6 @@ void tst_pictures::theBannerMakesAHeaderOfItsOwnSize()
     QCOMPARE(wizard.width(), 720);
 }
 
-QTEST_MAIN(tst_pictures)
+NVX_TEST(tst_pictures)
 
 #include "tst_pictures.moc"

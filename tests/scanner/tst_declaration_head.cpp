@@ -1,4 +1,5 @@
 #include "error_source_parser.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -40,7 +41,7 @@ void verifyContexts()
 } // namespace
 
 /// What the braces behind a declaration's head open, told by the contexts of the calls within them.
-class TestDeclarationHead : public QObject
+class tst_declaration_head : public QObject
 {
     Q_OBJECT
 
@@ -214,6 +215,6 @@ private slots:
     void statementsAmongDeclarationsAreNoFunctions() { verifyContexts(); }
 };
 
-QTEST_GUILESS_MAIN(TestDeclarationHead)
+NVX_GUILESS_TEST(tst_declaration_head)
 
 #include "tst_declaration_head.moc"

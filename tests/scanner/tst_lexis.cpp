@@ -1,4 +1,5 @@
 #include "error_source_lexis.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -51,7 +52,7 @@ void checkTaken(const std::function<std::size_t(std::string_view, std::size_t)> 
 } // namespace
 
 /// The lexical rules one by one. A text never goes on behind its end, whatever stands there in memory.
-class TestLexis : public QObject
+class tst_lexis : public QObject
 {
     Q_OBJECT
 
@@ -363,6 +364,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLexis)
+NVX_GUILESS_TEST(tst_lexis)
 
 #include "tst_lexis.moc"

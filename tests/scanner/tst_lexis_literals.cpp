@@ -1,4 +1,5 @@
 #include "error_source_lexis.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -98,7 +99,7 @@ void checkRow(Lexis::Literal::Form form)
 } // namespace
 
 /// String literals and their prefixes. A text never goes on behind its end, whatever stands there in memory.
-class TestLexisLiterals : public QObject
+class tst_lexis_literals : public QObject
 {
     Q_OBJECT
 
@@ -169,6 +170,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLexisLiterals)
+NVX_GUILESS_TEST(tst_lexis_literals)
 
 #include "tst_lexis_literals.moc"

@@ -1,4 +1,5 @@
 #include "error_source_parser.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -16,7 +17,7 @@ QStringList traceOf(std::string_view text)
 
 } // namespace
 
-class TestParser : public QObject
+class tst_parser : public QObject
 {
     Q_OBJECT
 
@@ -161,6 +162,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestParser)
+NVX_GUILESS_TEST(tst_parser)
 
 #include "tst_parser.moc"

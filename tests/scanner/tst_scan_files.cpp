@@ -1,5 +1,6 @@
 #include "error_source_scanner.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QLoggingCategory>
@@ -7,7 +8,7 @@
 
 using namespace Scan;
 
-class TestScanFiles : public QObject
+class tst_scan_files : public QObject
 {
     Q_OBJECT
 
@@ -17,8 +18,8 @@ private slots:
         for (int i = 0; i < fileCount; ++i) {
             const QString fileName = m_folder.path(QStringLiteral("%1.cpp").arg(i));
             const QByteArray filler(i % 7 == 0 ? 200'000 : 10, ' ');
-            QVERIFY(writeFile(fileName,
-                              filler + "void f() { REPORT_ERROR(\"" + QByteArray::number(i) + "\"); }\n"));
+            QVERIFY(writeBytes(fileName,
+                               filler + "void f() { REPORT_ERROR(\"" + QByteArray::number(i) + "\"); }\n"));
             m_fileNames.append(fileName);
         }
     }
@@ -73,7 +74,7 @@ private slots:
     void keysAreCollectedByFamily()
     {
         const QString fileName = m_folder.path(QStringLiteral("families.txt"));
-        QVERIFY(writeFile(
+        QVERIFY(writeBytes(
             fileName,
             "void f() { REPORT_ERROR(\"A\"); REPORT_ERROR_WITH_ARGS(\"B\", 1); REPORT_MESSAGE(\"C\");"
             "REPORT_MESSAGE_WITH_ARG(\"D\", 1); ASK_QUESTION(\"E\", Ok, Ok);"
@@ -110,7 +111,7 @@ private slots:
     void keysOfAFileWithAnErrorAreNotKept()
     {
         const QString fileName = m_folder.path(QStringLiteral("error.txt"));
-        QVERIFY(writeFile(fileName, "void f() { REPORT_ERROR(\"A\");\nREPORT_ERROR(\"\\1\"); }"));
+        QVERIFY(writeBytes(fileName, "void f() { REPORT_ERROR(\"A\");\nREPORT_ERROR(\"\\1\"); }"));
         SourceScanner scanner(QStringLiteral("client"), fileName);
         QVERIFY(!scanner.scan());
         QCOMPARE(scanner.errorText(), QStringLiteral("Tag with a character that XML cannot carry (line 2)"));
@@ -121,15 +122,15 @@ private slots:
     {
         const QString fileName = m_folder.path(QStringLiteral("again.txt"));
         SourceScanner scanner(QStringLiteral("client"), fileName);
-        QVERIFY(writeFile(fileName, "void f() { REPORT_ERROR(\"A\"); }"));
+        QVERIFY(writeBytes(fileName, "void f() { REPORT_ERROR(\"A\"); }"));
         QVERIFY(scanner.scan());
         QCOMPARE(scanner.keys().keys(CallFamily::Error).size(), 1);
 
-        QVERIFY(writeFile(fileName, "void f() { REPORT_ERROR(\"\\1\"); }"));
+        QVERIFY(writeBytes(fileName, "void f() { REPORT_ERROR(\"\\1\"); }"));
         QVERIFY(!scanner.scan());
         QVERIFY(scanner.keys().keys(CallFamily::Error).isEmpty());
 
-        QVERIFY(writeFile(fileName, "void f() { REPORT_ERROR(\"B\"); }"));
+        QVERIFY(writeBytes(fileName, "void f() { REPORT_ERROR(\"B\"); }"));
         QVERIFY(scanner.scan());
         QCOMPARE(scanner.errorText(), QString());
         const QSet<Clt::MessageKey> expected = {
@@ -154,6 +155,6 @@ private:
     QStringList m_fileNames;
 };
 
-QTEST_GUILESS_MAIN(TestScanFiles)
+NVX_GUILESS_TEST(tst_scan_files)
 
 #include "tst_scan_files.moc"

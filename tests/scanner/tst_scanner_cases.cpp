@@ -3,6 +3,7 @@
 #include "error_source_text.h"
 #include "support/case_folders.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -76,7 +77,7 @@ QSet<Clt::MessageKey> keysOf(const SourceScanner &scanner)
 
 /// Each folder of cases holds a source.cpp and, in expected.txt, its calls in the form
 /// "LINE: FAMILY [CONTEXT] TAG" or the error.
-class TestScannerCases : public QObject
+class tst_scanner_cases : public QObject
 {
     Q_OBJECT
 
@@ -131,6 +132,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestScannerCases)
+NVX_GUILESS_TEST(tst_scanner_cases)
 
 #include "tst_scanner_cases.moc"

@@ -1,11 +1,12 @@
 #include "error_source_text.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
 using Scan::decodeEightBit;
 using Scan::toSourceText;
 
-class TestSourceText : public QObject
+class tst_source_text : public QObject
 {
     Q_OBJECT
 
@@ -73,5 +74,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSourceText)
+NVX_GUILESS_TEST(tst_source_text)
 #include "tst_source_text.moc"

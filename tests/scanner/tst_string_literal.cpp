@@ -1,8 +1,9 @@
 #include "error_string_literal.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
-class TestStringLiteral : public QObject
+class tst_string_literal : public QObject
 {
     Q_OBJECT
 
@@ -133,5 +134,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestStringLiteral)
+NVX_GUILESS_TEST(tst_string_literal)
 #include "tst_string_literal.moc"

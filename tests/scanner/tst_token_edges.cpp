@@ -1,4 +1,5 @@
 #include "error_source_tokenizer.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -46,7 +47,7 @@ QStringList listOf(std::initializer_list<const char *> texts)
 } // namespace
 
 /// Where a token ends and the next one begins, and where the text ends.
-class TestTokenEdges : public QObject
+class tst_token_edges : public QObject
 {
     Q_OBJECT
 
@@ -172,5 +173,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTokenEdges)
+NVX_GUILESS_TEST(tst_token_edges)
 #include "tst_token_edges.moc"

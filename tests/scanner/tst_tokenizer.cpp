@@ -1,5 +1,6 @@
 #include "error_source_tokenizer.h"
 #include "error_wide_scan.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -37,7 +38,7 @@ QString kindsOf(std::string_view text)
 
 } // namespace
 
-class TestTokenizer : public QObject
+class tst_tokenizer : public QObject
 {
     Q_OBJECT
 
@@ -352,6 +353,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTokenizer)
+NVX_GUILESS_TEST(tst_tokenizer)
 
 #include "tst_tokenizer.moc"

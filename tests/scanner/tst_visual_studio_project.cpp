@@ -1,6 +1,7 @@
 #include "error_visual_studio_project.h"
 #include "support/broken_device.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QBuffer>
@@ -31,7 +32,7 @@ QByteArray withItems(const QByteArray &items)
 
 } // namespace
 
-class TestVisualStudioProject : public QObject
+class tst_visual_studio_project : public QObject
 {
     Q_OBJECT
 
@@ -155,11 +156,11 @@ private slots:
     {
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("größe.vcxproj"));
-        QVERIFY(writeFile(fileName, withItems("<ClCompile Include=\"a.cpp\"/>")));
+        QVERIFY(writeBytes(fileName, withItems("<ClCompile Include=\"a.cpp\"/>")));
         const auto project = readVisualStudioProject(fileName);
         QVERIFY(project);
         QCOMPARE(project->sourceFiles, QStringList{QStringLiteral("a.cpp")});
-        QVERIFY(writeFile(fileName, "<Project>"));
+        QVERIFY(writeBytes(fileName, "<Project>"));
         QVERIFY(!readVisualStudioProject(fileName));
     }
 
@@ -195,6 +196,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVisualStudioProject)
+NVX_GUILESS_TEST(tst_visual_studio_project)
 
 #include "tst_visual_studio_project.moc"

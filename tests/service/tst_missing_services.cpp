@@ -1,5 +1,6 @@
 #include "nvx_util/native_machine.h"
 #include "nvx_util/service_control.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -23,5 +24,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_missing_services)
+NVX_GUILESS_TEST(tst_missing_services)
 #include "tst_missing_services.moc"

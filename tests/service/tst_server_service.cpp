@@ -3,6 +3,7 @@
 #include "service/server_service.h"
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 #include "support/text.h"
 
@@ -322,5 +323,5 @@ private:
     QStringList m_removedFolders;
 };
 
-QTEST_GUILESS_MAIN(tst_server_service)
+NVX_GUILESS_TEST(tst_server_service)
 #include "tst_server_service.moc"

@@ -2,6 +2,7 @@
 #include "nvx_util/registry_key.h"
 #include "nvx_util/service_control.h"
 #include "service/nvx_service.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 #include "support/test_machine.h"
 #include "support/text.h"
@@ -153,5 +154,5 @@ private:
     QString m_server;
 };
 
-QTEST_GUILESS_MAIN(tst_service_control)
+NVX_GUILESS_TEST(tst_service_control)
 #include "tst_service_control.moc"

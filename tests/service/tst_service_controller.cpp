@@ -1,5 +1,6 @@
 #include "service/nvx_service.h"
 #include "support/recording_machine.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -118,5 +119,5 @@ private:
     std::unique_ptr<RecordingMachine> m_machine;
 };
 
-QTEST_GUILESS_MAIN(tst_service_controller)
+NVX_GUILESS_TEST(tst_service_controller)
 #include "tst_service_controller.moc"

@@ -2,6 +2,7 @@
 #include "nvx_util/system.h"
 #include "setup/archive_components.h"
 #include "setup/setup_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -173,5 +174,5 @@ private:
     QStringList m_done;
 };
 
-QTEST_GUILESS_MAIN(tst_archive_components)
+NVX_GUILESS_TEST(tst_archive_components)
 #include "tst_archive_components.moc"

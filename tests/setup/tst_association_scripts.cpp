@@ -1,4 +1,5 @@
 #include "setup/association_scripts.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -136,5 +137,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_association_scripts)
+NVX_GUILESS_TEST(tst_association_scripts)
 #include "tst_association_scripts.moc"

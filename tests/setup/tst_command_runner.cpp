@@ -1,5 +1,6 @@
 #include "setup/command_runner.h"
 #include "setup/setup_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -227,5 +228,5 @@ private:
     std::unique_ptr<SetupFixture> m_fixture;
 };
 
-QTEST_GUILESS_MAIN(tst_command_runner)
+NVX_GUILESS_TEST(tst_command_runner)
 #include "tst_command_runner.moc"

@@ -2,6 +2,7 @@
 #include "setup/association_scripts.h"
 #include "setup/file_associations.h"
 #include "setup/setup_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -164,5 +165,5 @@ private:
     QList<QByteArray> m_imported;
 };
 
-QTEST_GUILESS_MAIN(tst_file_associations)
+NVX_GUILESS_TEST(tst_file_associations)
 #include "tst_file_associations.moc"

@@ -1,5 +1,6 @@
 #include "setup/lumara.h"
 #include "setup/setup_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -51,5 +52,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_lumara)
+NVX_GUILESS_TEST(tst_lumara)
 #include "tst_lumara.moc"

@@ -1,6 +1,7 @@
 #include "nvx_util/system.h"
 #include "setup/material_database.h"
 #include "setup/setup_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -260,5 +261,5 @@ private:
     QString m_previous;
 };
 
-QTEST_GUILESS_MAIN(tst_material_database)
+NVX_GUILESS_TEST(tst_material_database)
 #include "tst_material_database.moc"

@@ -1,4 +1,5 @@
 #include "setup/output_lines.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -81,5 +82,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_output_lines)
+NVX_GUILESS_TEST(tst_output_lines)
 #include "tst_output_lines.moc"

@@ -2,6 +2,7 @@
 #include "nvx_util/system.h"
 #include "setup/parallel_configuration.h"
 #include "setup/setup_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -149,5 +150,5 @@ private:
     QString m_analysisFolder;
 };
 
-QTEST_GUILESS_MAIN(tst_parallel_configuration)
+NVX_GUILESS_TEST(tst_parallel_configuration)
 #include "tst_parallel_configuration.moc"

@@ -1,4 +1,5 @@
 #include "run/product_files.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QTest>
@@ -103,5 +104,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_product_files)
+NVX_GUILESS_TEST(tst_product_files)
 #include "tst_product_files.moc"

@@ -3,6 +3,7 @@
 #include "setup/product_registry.h"
 #include "setup/product_values.h"
 #include "setup/setup_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -143,5 +144,5 @@ private:
     QStringList m_rememberedLines;
 };
 
-QTEST_GUILESS_MAIN(tst_product_registry)
+NVX_GUILESS_TEST(tst_product_registry)
 #include "tst_product_registry.moc"

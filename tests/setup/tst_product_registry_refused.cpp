@@ -6,6 +6,7 @@
 #include "setup/product_values.h"
 #include "setup/setup_fixture.h"
 #include "support/full_disk.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -46,5 +47,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_product_registry_refused)
+NVX_GUILESS_TEST(tst_product_registry_refused)
 #include "tst_product_registry_refused.moc"

@@ -1,4 +1,5 @@
 #include "setup/product_values.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -92,5 +93,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_product_values)
+NVX_GUILESS_TEST(tst_product_values)
 #include "tst_product_values.moc"

@@ -4,6 +4,7 @@
 #include "setup/file_associations.h"
 #include "setup/setup_fixture.h"
 #include "support/full_disk.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -71,5 +72,5 @@ private:
     std::unique_ptr<SetupFixture> m_fixture;
 };
 
-QTEST_GUILESS_MAIN(tst_setup_full_disk)
+NVX_GUILESS_TEST(tst_setup_full_disk)
 #include "tst_setup_full_disk.moc"

@@ -1,5 +1,6 @@
 #include "setup/setup_fixture.h"
 #include "setup/shortcuts.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -190,5 +191,5 @@ private:
     QString m_link;
 };
 
-QTEST_GUILESS_MAIN(tst_shortcuts)
+NVX_GUILESS_TEST(tst_shortcuts)
 #include "tst_shortcuts.moc"

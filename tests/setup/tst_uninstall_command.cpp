@@ -1,5 +1,6 @@
 #include "setup/uninstall_command.h"
 #include "support/random_text.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -83,5 +84,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_uninstall_command)
+NVX_GUILESS_TEST(tst_uninstall_command)
 #include "tst_uninstall_command.moc"

@@ -1,6 +1,7 @@
 #include "nvx_util/system.h"
 #include "setup/setup_fixture.h"
 #include "setup/user_files.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -147,5 +148,5 @@ private:
     QStringList m_removedFolders;
 };
 
-QTEST_GUILESS_MAIN(tst_user_files)
+NVX_GUILESS_TEST(tst_user_files)
 #include "tst_user_files.moc"

@@ -1,5 +1,6 @@
 #include "setup/setup_fixture.h"
 #include "setup/viewer_configuration.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QTest>
@@ -63,5 +64,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_viewer_configuration)
+NVX_GUILESS_TEST(tst_viewer_configuration)
 #include "tst_viewer_configuration.moc"

@@ -25,7 +25,7 @@ inline std::optional<QByteArray> fileLines(const QString &fileName)
 }
 
 /// True when the file then holds the bytes.
-inline bool writeFile(const QString &fileName, const QByteArray &bytes)
+inline bool writeBytes(const QString &fileName, const QByteArray &bytes)
 {
     QFile file(fileName);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();

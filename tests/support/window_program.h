@@ -14,7 +14,7 @@ inline bool opensNamedFile(const QString &program, const QString &fileName, cons
 {
     const TestFolder folder;
     const QString file = folder.path(fileName);
-    if (!writeFile(file, contents))
+    if (!writeBytes(file, contents))
         return false;
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));
     qputenv("QT_QPA_PLATFORM", "offscreen");

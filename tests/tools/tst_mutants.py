@@ -3,7 +3,7 @@
 import unittest
 
 from mutants import mask, mutants_of, mutated
-from mutate import read_list
+from mutate import read_list, test_commands
 
 
 def function(*statements):
@@ -123,6 +123,20 @@ class TestList(unittest.TestCase):
         for text in ("a.cpp: tst_a\n    > x\n        < to <=\n", "    > x\n        < to <= because y\n"):
             with self.subTest(text), self.assertRaises(SystemExit):
                 read_list(text)
+
+
+class TestTests(unittest.TestCase):
+    def test_the_program_of_a_test_and_its_arguments(self):
+        registered = (
+            'add_test([=[tst_a]=] "/build/tests/cad/cad_tests" "tst_a")\n'
+            'set_tests_properties([=[tst_a]=] PROPERTIES ENVIRONMENT "A=1")\n'
+            'add_test(tst_b "/build/tests/cad/tst_b")\n'
+            'add_test(test_c "/usr/bin/python3" "-B" "-m" "unittest" "test_c")\n'
+        )
+        self.assertEqual(
+            test_commands(registered, "/build"),
+            {"tst_a": ["tests/cad/cad_tests", "tst_a"], "tst_b": ["tests/cad/tst_b"]},
+        )
 
 
 if __name__ == "__main__":

@@ -1,11 +1,12 @@
 #include "support/case_folders.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 #include "translation_case.h"
 
 #include <QTest>
 
-class TestTranslationCases : public QObject
+class tst_translation_cases : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +34,7 @@ private slots:
         const std::optional<QByteArray> written = fileBytes(folder + QStringLiteral("/expected.ts"));
         QVERIFY(written);
         const TestFolder again;
-        QVERIFY(writeFile(again.path(QStringLiteral("table.ts")), *written));
+        QVERIFY(writeBytes(again.path(QStringLiteral("table.ts")), *written));
         const TestFolder work;
         const TranslationCase result = runTranslationCase(again.path(), work.path());
         QCOMPARE(result.told, QByteArray("loaded\n"));
@@ -71,5 +72,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTranslationCases)
+NVX_GUILESS_TEST(tst_translation_cases)
 #include "tst_translation_cases.moc"

@@ -1,5 +1,6 @@
 #include "error_translation_table_xml.h"
 #include "random_translation_table.h"
+#include "support/test_class.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -47,7 +48,7 @@ void seedRows()
 
 } // namespace
 
-class TestTranslationRoundTrip : public QObject
+class tst_translation_round_trip : public QObject
 {
     Q_OBJECT
 
@@ -113,5 +114,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTranslationRoundTrip)
+NVX_GUILESS_TEST(tst_translation_round_trip)
 #include "tst_translation_round_trip.moc"

@@ -2,6 +2,7 @@
 #include "error_translation_table_xml.h"
 #include "support/broken_device.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QBuffer>
@@ -35,7 +36,7 @@ QByteArray written(const TranslationTable &table)
 
 } // namespace
 
-class TestTranslationTable : public QObject
+class tst_translation_table : public QObject
 {
     Q_OBJECT
 
@@ -267,7 +268,7 @@ private slots:
     {
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("table.ts"));
-        QVERIFY(writeFile(fileName, "old"));
+        QVERIFY(writeBytes(fileName, "old"));
         TranslationTable table;
         table.addString(clt, QString(QChar(u'\0')));
         QVERIFY(!table.save(fileName));
@@ -298,7 +299,7 @@ private slots:
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("table.ts"));
         const QString keptName = fileName + QStringLiteral(".damaged");
-        QVERIFY(writeFile(fileName, "<TS>\r\n<context>"));
+        QVERIFY(writeBytes(fileName, "<TS>\r\n<context>"));
         TranslationTable table;
         QVERIFY(!table.load(fileName));
         QVERIFY(table.save(fileName));
@@ -328,7 +329,7 @@ private slots:
         QFETCH(const QString, saved);
         const QString keptName = m_folder.path(QStringLiteral("table.ts.damaged"));
         QFile::remove(keptName);
-        QVERIFY(writeFile(loaded, "<TS>"));
+        QVERIFY(writeBytes(loaded, "<TS>"));
         TranslationTable table;
         QVERIFY(!table.load(loaded));
         QVERIFY(table.save(saved));
@@ -339,7 +340,7 @@ private slots:
     {
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("table.ts"));
-        QVERIFY(writeFile(fileName, "<TS>"));
+        QVERIFY(writeBytes(fileName, "<TS>"));
         QVERIFY(QDir().mkdir(fileName + QStringLiteral(".damaged")));
         TranslationTable table;
         QVERIFY(!table.load(fileName));
@@ -351,7 +352,7 @@ private slots:
     {
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("table.ts"));
-        QVERIFY(writeFile(fileName, "<TS>"));
+        QVERIFY(writeBytes(fileName, "<TS>"));
         TranslationTable table;
         QVERIFY(!table.load(fileName));
         QVERIFY(table.save(folder.path(QStringLiteral("other.ts"))));
@@ -365,8 +366,8 @@ private slots:
         const TestFolder folder;
         const QString damaged = folder.path(QStringLiteral("damaged.ts"));
         const QString other = folder.path(QStringLiteral("other.ts"));
-        QVERIFY(writeFile(damaged, "<TS>"));
-        QVERIFY(writeFile(other, "old"));
+        QVERIFY(writeBytes(damaged, "<TS>"));
+        QVERIFY(writeBytes(other, "old"));
         QVERIFY(TranslationTable().save(other));
         TranslationTable table;
         QVERIFY(!table.load(damaged));
@@ -379,7 +380,7 @@ private slots:
     {
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("table.ts"));
-        QVERIFY(writeFile(fileName, "<TS>"));
+        QVERIFY(writeBytes(fileName, "<TS>"));
         TranslationTable table;
         QVERIFY(!table.load(fileName));
         QVERIFY(QFile::remove(fileName));
@@ -410,5 +411,5 @@ private:
     TestFolder m_folder;
 };
 
-QTEST_GUILESS_MAIN(TestTranslationTable)
+NVX_GUILESS_TEST(tst_translation_table)
 #include "tst_translation_table.moc"

@@ -1,6 +1,7 @@
 #include "random_translation_table.h"
 #include "support/case_folders.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QProcess>
@@ -36,7 +37,7 @@ bool copyWithoutCodec(const QString &from, const QString &to)
     const QByteArray end = "</defaultcodec>";
     const qsizetype first = bytes->indexOf("<defaultcodec>");
     const qsizetype last = bytes->indexOf(end);
-    return first >= 0 && last > first && writeFile(to, bytes->remove(first, last + end.size() - first));
+    return first >= 0 && last > first && writeBytes(to, bytes->remove(first, last + end.size() - first));
 }
 
 void tableRows()
@@ -48,7 +49,7 @@ void tableRows()
 
 } // namespace
 
-class TestTranslationTools : public QObject
+class tst_translation_tools : public QObject
 {
     Q_OBJECT
 
@@ -87,7 +88,7 @@ private slots:
         const QString table = work.path(QStringLiteral("table.ts"));
         const QString source = work.path(QStringLiteral("empty.cpp"));
         QVERIFY(copyWithoutCodec(folder + QStringLiteral("/expected.ts"), table));
-        QVERIFY(writeFile(source, "int nothing;\n"));
+        QVERIFY(writeBytes(source, "int nothing;\n"));
         const Run updated = run(LUPDATE, {source, QStringLiteral("-ts"), table});
         QVERIFY2(updated.exitCode == 0, updated.output.constData());
     }
@@ -139,5 +140,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTranslationTools)
+NVX_GUILESS_TEST(tst_translation_tools)
 #include "tst_translation_tools.moc"

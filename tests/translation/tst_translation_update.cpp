@@ -2,6 +2,7 @@
 #include "error_translation_table.h"
 #include "error_translation_update.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QCoreApplication>
@@ -51,7 +52,7 @@ Update update(const QString &messagesName, const QString &translationName)
 
 } // namespace
 
-class TestTranslationUpdate : public QObject
+class tst_translation_update : public QObject
 {
     Q_OBJECT
 
@@ -104,7 +105,7 @@ private slots:
         const QString messages = folder.path(QStringLiteral("messages.xml"));
         const QString translation = folder.path(QStringLiteral("table.ts"));
         QVERIFY(oneMessage().save(messages));
-        QVERIFY(writeFile(translation, "<TS><context>"));
+        QVERIFY(writeBytes(translation, "<TS><context>"));
         QVERIFY(QDir().mkdir(translation + QStringLiteral(".damaged")));
         const Update result = update(messages, translation);
         QVERIFY(!result.done);
@@ -123,5 +124,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTranslationUpdate)
+NVX_GUILESS_TEST(tst_translation_update)
 #include "tst_translation_update.moc"

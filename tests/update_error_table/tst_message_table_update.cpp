@@ -2,6 +2,7 @@
 #include "error_message_table_update.h"
 #include "error_progress_log.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QDateTime>
@@ -29,7 +30,7 @@ Clt::Message message(const QString &tag, Clt::MessageState state)
 
 } // namespace
 
-class TestMessageTableUpdate : public QObject
+class tst_message_table_update : public QObject
 {
     Q_OBJECT
 
@@ -101,8 +102,8 @@ private slots:
         const QString table = folder.path(QStringLiteral("t.xml"));
         const QString project = folder.path(QStringLiteral("p.vcxproj"));
         QVERIFY(
-            writeFile(project, "<Project><ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Project>"));
-        QVERIFY(writeFile(folder.path(QStringLiteral("a.cpp")), "void f() { REPORT_ERROR(\"A\"); }"));
+            writeBytes(project, "<Project><ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Project>"));
+        QVERIFY(writeBytes(folder.path(QStringLiteral("a.cpp")), "void f() { REPORT_ERROR(\"A\"); }"));
         QString text;
         QTextStream stream(&text);
         ProgressLog log(stream, ProgressLog::Progress::Hidden);
@@ -118,6 +119,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessageTableUpdate)
+NVX_GUILESS_TEST(tst_message_table_update)
 
 #include "tst_message_table_update.moc"

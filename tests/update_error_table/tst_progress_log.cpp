@@ -1,4 +1,5 @@
 #include "error_progress_log.h"
+#include "support/test_class.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -6,7 +7,7 @@
 
 using Error::ProgressLog;
 
-class TestProgressLog : public QObject
+class tst_progress_log : public QObject
 {
     Q_OBJECT
 
@@ -107,6 +108,6 @@ private:
     QTextStream m_stream{&m_text};
 };
 
-QTEST_GUILESS_MAIN(TestProgressLog)
+NVX_GUILESS_TEST(tst_progress_log)
 
 #include "tst_progress_log.moc"

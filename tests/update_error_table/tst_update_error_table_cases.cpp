@@ -1,5 +1,6 @@
 #include "support/case_folders.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 #include "update_error_table/update_error_table.h"
 
@@ -30,7 +31,7 @@ bool writeFiles(const Files &files, const QString &folder)
 {
     for (auto file = files.begin(); file != files.end(); ++file) {
         const QString path = QDir(folder).filePath(file.key());
-        if (!QDir().mkpath(QFileInfo(path).path()) || !writeFile(path, file.value()))
+        if (!QDir().mkpath(QFileInfo(path).path()) || !writeBytes(path, file.value()))
             return false;
     }
     return true;
@@ -82,7 +83,7 @@ QStringList argumentsOf(const QString &folder)
 /// Each folder of cases holds arguments.txt, one argument a line, and files, the folder in which the program
 /// is run; then what is expected of it: output.txt and errors.txt, exit_code.txt (0 when there is none) and
 /// expected, the files that are new or changed. All other files must be there as they were, and no more.
-class TestUpdateErrorTableCases : public QObject
+class tst_update_error_table_cases : public QObject
 {
     Q_OBJECT
 
@@ -144,6 +145,6 @@ private:
     const QString m_cases = QFileInfo(QStringLiteral(CASES)).absoluteFilePath();
 };
 
-QTEST_GUILESS_MAIN(TestUpdateErrorTableCases)
+NVX_GUILESS_TEST(tst_update_error_table_cases)
 
 #include "tst_update_error_table_cases.moc"

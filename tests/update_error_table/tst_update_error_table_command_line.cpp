@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "update_error_table/command_line.h"
 
 #include <QTest>
@@ -23,7 +24,7 @@ QStringList readFrom(const QStringList &arguments)
 
 } // namespace
 
-class TestCommandLine : public QObject
+class tst_update_error_table_command_line : public QObject
 {
     Q_OBJECT
 
@@ -71,5 +72,5 @@ private slots:
     void noArgumentsDoNotMatch() { QCOMPARE(readFrom({}), QStringList(QStringLiteral("usage"))); }
 };
 
-QTEST_GUILESS_MAIN(TestCommandLine)
+NVX_GUILESS_TEST(tst_update_error_table_command_line)
 #include "tst_update_error_table_command_line.moc"

@@ -1,4 +1,5 @@
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 #include "update_error_table/command_line.h"
 #include "update_error_table/update_error_table.h"
@@ -43,7 +44,7 @@ QString outputOf(const QStringList &arguments)
 } // namespace
 
 /// What docs/update-error-table.md shows is what the program does.
-class TestDocumentation : public QObject
+class tst_update_error_table_documentation : public QObject
 {
     Q_OBJECT
 
@@ -71,7 +72,7 @@ private slots:
         for (const Block &block : blocksOf(m_document)) {
             if (block.what == QLatin1String("file")) {
                 QVERIFY(QDir().mkpath(QFileInfo(block.name).path()));
-                QVERIFY(writeFile(block.name, block.text.toUtf8()));
+                QVERIFY(writeBytes(block.name, block.text.toUtf8()));
                 continue;
             }
             ++outputs;
@@ -89,6 +90,6 @@ private:
     QString m_document;
 };
 
-QTEST_GUILESS_MAIN(TestDocumentation)
+NVX_GUILESS_TEST(tst_update_error_table_documentation)
 
 #include "tst_update_error_table_documentation.moc"

@@ -1,4 +1,5 @@
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QProcess>
@@ -7,7 +8,7 @@
 #include <memory>
 
 /// The real program, started with its output in pipes.
-class TestUpdateErrorTableProgram : public QObject
+class tst_update_error_table_program : public QObject
 {
     Q_OBJECT
 
@@ -16,13 +17,13 @@ private slots:
     {
         m_folder = std::make_unique<TestFolder>();
         QVERIFY(
-            writeFile(m_folder->path(QStringLiteral("p.vcxproj")),
-                      "<Project><PropertyGroup Label=\"Globals\"><RootNamespace>new_client</RootNamespace>"
-                      "</PropertyGroup><ItemGroup><ClCompile Include=\"gr\xC3\xBC\xC3\x9F"
-                      "e.cpp\"/><ClCompile Include=\"gone.cpp\"/></ItemGroup></Project>"));
-        QVERIFY(writeFile(m_folder->path(QString::fromUtf8("gr\xC3\xBC\xC3\x9F"
-                                                           "e.cpp")),
-                          "void f() { REPORT_ERROR(\"Tag\"); }\n"));
+            writeBytes(m_folder->path(QStringLiteral("p.vcxproj")),
+                       "<Project><PropertyGroup Label=\"Globals\"><RootNamespace>new_client</RootNamespace>"
+                       "</PropertyGroup><ItemGroup><ClCompile Include=\"gr\xC3\xBC\xC3\x9F"
+                       "e.cpp\"/><ClCompile Include=\"gone.cpp\"/></ItemGroup></Project>"));
+        QVERIFY(writeBytes(m_folder->path(QString::fromUtf8("gr\xC3\xBC\xC3\x9F"
+                                                            "e.cpp")),
+                           "void f() { REPORT_ERROR(\"Tag\"); }\n"));
     }
 
     void tellsItsWorkOnTheStandardOutputAndSkippedFilesOnStandardError()
@@ -110,6 +111,6 @@ private:
     QByteArray m_errors;
 };
 
-QTEST_GUILESS_MAIN(TestUpdateErrorTableProgram)
+NVX_GUILESS_TEST(tst_update_error_table_program)
 
 #include "tst_update_error_table_program.moc"

@@ -1,4 +1,5 @@
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QTest>
@@ -41,7 +42,7 @@ TerminalRun runOnTerminal(const QString &folder, const char *table, const char *
 } // namespace
 
 /// The real program with its output on a terminal.
-class TestUpdateErrorTableTerminal : public QObject
+class tst_update_error_table_terminal : public QObject
 {
     Q_OBJECT
 
@@ -49,9 +50,9 @@ private slots:
     void showsAProgressLineThatIsTakenAwayAgain()
     {
         const TestFolder folder;
-        QVERIFY(writeFile(folder.path(QStringLiteral("a.cpp")), "void f() { REPORT_ERROR(\"Tag\"); }\n"));
-        QVERIFY(writeFile(folder.path(QStringLiteral("p.vcxproj")),
-                          "<Project><ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Project>"));
+        QVERIFY(writeBytes(folder.path(QStringLiteral("a.cpp")), "void f() { REPORT_ERROR(\"Tag\"); }\n"));
+        QVERIFY(writeBytes(folder.path(QStringLiteral("p.vcxproj")),
+                           "<Project><ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Project>"));
 
         const TerminalRun run = runOnTerminal(folder.path(), "t.xml", "p.vcxproj");
 
@@ -65,6 +66,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestUpdateErrorTableTerminal)
+NVX_GUILESS_TEST(tst_update_error_table_terminal)
 
 #include "tst_update_error_table_terminal.moc"

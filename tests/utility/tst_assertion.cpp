@@ -1,4 +1,5 @@
 #include "nvx_util/assertion.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -49,5 +50,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_assertion)
+NVX_GUILESS_TEST(tst_assertion)
 #include "tst_assertion.moc"

@@ -1,5 +1,6 @@
 #include "nvx_util/code_page.h"
 #include "nvx_util/conversion.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -53,5 +54,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_code_page)
+NVX_GUILESS_TEST(tst_code_page)
 #include "tst_code_page.moc"

@@ -1,5 +1,6 @@
 #include "nvx_util/cpu_info.h"
 #include "nvx_util/log.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QTest>
@@ -53,5 +54,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_cpu_info)
+NVX_GUILESS_TEST(tst_cpu_info)
 #include "tst_cpu_info.moc"

@@ -1,4 +1,5 @@
 #include "nvx_util/log.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QTest>
@@ -86,5 +87,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_log)
+NVX_GUILESS_TEST(tst_log)
 #include "tst_log.moc"

@@ -1,5 +1,6 @@
 #include "nvx_util/native_machine.h"
 #include "nvx_util/shell_link.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QApplication>
@@ -386,5 +387,5 @@ private:
     std::unique_ptr<TestFolder> m_folder;
 };
 
-QTEST_MAIN(tst_native_machine)
+NVX_TEST(tst_native_machine)
 #include "tst_native_machine.moc"

@@ -1,5 +1,6 @@
 #include "nvx_util/registry.h"
 #include "nvx_util/registry_key.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QTest>
@@ -238,5 +239,5 @@ private:
     std::unique_ptr<TestMachine> m_machine;
 };
 
-QTEST_GUILESS_MAIN(tst_registry)
+NVX_GUILESS_TEST(tst_registry)
 #include "tst_registry.moc"

@@ -1,5 +1,6 @@
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 
 #include <QTest>
@@ -157,5 +158,5 @@ private:
     std::unique_ptr<TestMachine> m_machine;
 };
 
-QTEST_GUILESS_MAIN(tst_system)
+NVX_GUILESS_TEST(tst_system)
 #include "tst_system.moc"

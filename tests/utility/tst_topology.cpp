@@ -1,5 +1,6 @@
 #include "nvx_util/cpu_info.h"
 #include "nvx_util/log.h"
+#include "support/test_class.h"
 #include "support/test_machine.h"
 #include "unix/topology.h"
 
@@ -90,5 +91,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_topology)
+NVX_GUILESS_TEST(tst_topology)
 #include "tst_topology.moc"

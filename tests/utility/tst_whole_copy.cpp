@@ -1,6 +1,7 @@
 #include "nvx_util/whole_file.h"
 #include "platform.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QTest>
@@ -16,7 +17,7 @@ QStringList namesIn(const TestFolder &folder)
 
 } // namespace
 
-class TestWholeCopy : public QObject
+class tst_whole_copy : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +42,7 @@ private slots:
     void copyHasTheBytes()
     {
         QFETCH(const QByteArray, contents);
-        QVERIFY(writeFile(m_source, contents));
+        QVERIFY(writeBytes(m_source, contents));
         QVERIFY(copyToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_target), contents);
         QCOMPARE(fileBytes(m_source), contents);
@@ -50,7 +51,7 @@ private slots:
 
     void copyOfAWriteProtectedFileCanBeWritten()
     {
-        QVERIFY(writeFile(m_source, "materials"));
+        QVERIFY(writeBytes(m_source, "materials"));
         QVERIFY(QFile::setPermissions(m_source, QFile::ReadOwner | QFile::ReadUser));
         QVERIFY(copyToFreeName(m_source, m_target));
         QVERIFY(QFile::permissions(m_target).testFlag(QFile::WriteOwner));
@@ -58,8 +59,8 @@ private slots:
 
     void whatHasTheNameStays()
     {
-        QVERIFY(writeFile(m_source, "new"));
-        QVERIFY(writeFile(m_target, "mine"));
+        QVERIFY(writeBytes(m_source, "new"));
+        QVERIFY(writeBytes(m_target, "mine"));
         QVERIFY(!copyToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_target), QByteArray("mine"));
         QCOMPARE(namesIn(*m_folder).size(), 2);
@@ -67,8 +68,8 @@ private slots:
 
     void whatComesToTheNameMeanwhileStays()
     {
-        QVERIFY(writeFile(m_source, "new"));
-        QVERIFY(writeFile(m_target, "mine"));
+        QVERIFY(writeBytes(m_source, "new"));
+        QVERIFY(writeBytes(m_target, "mine"));
         QVERIFY(!Nvx::Util::Platform::renameToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_source), QByteArray("new"));
         QCOMPARE(fileBytes(m_target), QByteArray("mine"));
@@ -76,7 +77,7 @@ private slots:
 
     void folderOfThatNameStays()
     {
-        QVERIFY(writeFile(m_source, "new"));
+        QVERIFY(writeBytes(m_source, "new"));
         QVERIFY(QDir().mkdir(m_target));
         QVERIFY(!copyToFreeName(m_source, m_target));
         QVERIFY(QFileInfo(m_target).isDir());
@@ -98,15 +99,15 @@ private slots:
 
     void missingFolderFails()
     {
-        QVERIFY(writeFile(m_source, "new"));
+        QVERIFY(writeBytes(m_source, "new"));
         QVERIFY(!copyToFreeName(m_source, m_folder->path(QStringLiteral("missing/file"))));
         QVERIFY(!QFile::exists(m_folder->path(QStringLiteral("missing"))));
     }
 
     void whatAnEarlierCopyHasLeftIsNoObstacle()
     {
-        QVERIFY(writeFile(m_source, "new"));
-        QVERIFY(writeFile(m_target + QStringLiteral(".nvxpart"), "longer than what is to be copied"));
+        QVERIFY(writeBytes(m_source, "new"));
+        QVERIFY(writeBytes(m_target + QStringLiteral(".nvxpart"), "longer than what is to be copied"));
         QVERIFY(copyToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_target), QByteArray("new"));
         QCOMPARE(namesIn(*m_folder).size(), 2);
@@ -118,7 +119,7 @@ private slots:
         for (int i = 0; i < 6; ++i)
             folder += QDir::separator() + QString(45, QLatin1Char('d'));
         QVERIFY(QDir().mkpath(folder));
-        QVERIFY(writeFile(m_source, "new"));
+        QVERIFY(writeBytes(m_source, "new"));
         QVERIFY(copyToFreeName(m_source, folder + QDir::separator() + QStringLiteral("file")));
         QCOMPARE(fileBytes(folder + QDir::separator() + QStringLiteral("file")), QByteArray("new"));
     }
@@ -129,5 +130,5 @@ private:
     QString m_target;
 };
 
-QTEST_GUILESS_MAIN(TestWholeCopy)
+NVX_GUILESS_TEST(tst_whole_copy)
 #include "tst_whole_copy.moc"

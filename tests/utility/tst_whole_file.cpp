@@ -1,6 +1,7 @@
 #include "nvx_util/whole_file.h"
 #include "platform.h"
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QDateTime>
@@ -19,7 +20,7 @@ QStringList namesIn(const TestFolder &folder)
 
 } // namespace
 
-class TestWholeFile : public QObject
+class tst_whole_file : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +39,7 @@ private slots:
         QFETCH(const QByteArray, contents);
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("Größe 保存.txt"));
-        QVERIFY(writeFile(fileName, contents));
+        QVERIFY(writeBytes(fileName, contents));
         QCOMPARE(readWholeFile(fileName), std::optional(contents));
     }
 
@@ -78,7 +79,7 @@ private slots:
         QFETCH(const QByteArray, contents);
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("Größe 保存.txt"));
-        QVERIFY(writeFile(fileName, old));
+        QVERIFY(writeBytes(fileName, old));
         QVERIFY(replaceWholeFile(fileName, contents));
         QCOMPARE(fileBytes(fileName), contents);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
@@ -105,7 +106,7 @@ private slots:
         QFETCH(const QByteArray, contents);
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("file"));
-        QVERIFY(writeFile(fileName, contents));
+        QVERIFY(writeBytes(fileName, contents));
         const QDateTime old(QDate(2001, 2, 3), QTime(4, 5, 6));
         {
             QFile file(fileName);
@@ -136,7 +137,7 @@ private slots:
     {
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("file"));
-        QVERIFY(writeFile(fileName, "old"));
+        QVERIFY(writeBytes(fileName, "old"));
         QVERIFY(QFile::setPermissions(fileName, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
         const QFile::Permissions before = QFile::permissions(fileName);
         QVERIFY(replaceWholeFile(fileName, "new"));
@@ -155,8 +156,8 @@ private slots:
         QFETCH(const QByteArray, contents);
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("file"));
-        QVERIFY(writeFile(fileName, "old"));
-        QVERIFY(writeFile(fileName + QStringLiteral(".nvxpart"), "longer than what is to be written"));
+        QVERIFY(writeBytes(fileName, "old"));
+        QVERIFY(writeBytes(fileName + QStringLiteral(".nvxpart"), "longer than what is to be written"));
         QVERIFY(replaceWholeFile(fileName, contents));
         QCOMPARE(fileBytes(fileName), contents);
         QCOMPARE(namesIn(folder), QStringList(QStringLiteral("file")));
@@ -168,7 +169,7 @@ private slots:
         const QStringList names{QStringLiteral("file.aBcDeF"), QStringLiteral("file.backup"),
                                 QStringLiteral("file.part"), QStringLiteral("other.nvxpart")};
         for (const QString &name : names)
-            QVERIFY(writeFile(folder.path(name), "mine"));
+            QVERIFY(writeBytes(folder.path(name), "mine"));
         QVERIFY(replaceWholeFile(folder.path(QStringLiteral("file")), "new"));
         QCOMPARE(namesIn(folder), QStringList(QStringLiteral("file")) + names);
     }
@@ -177,7 +178,7 @@ private slots:
     {
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("file"));
-        QVERIFY(writeFile(fileName, "old"));
+        QVERIFY(writeBytes(fileName, "old"));
         QFile part(fileName + QStringLiteral(".nvxpart"));
         QVERIFY(part.open(QIODevice::WriteOnly));
         const auto claim = Nvx::Util::Platform::claimFile(part.fileName());
@@ -193,11 +194,11 @@ private slots:
         const QStringList others{QStringLiteral("fil.nvxpart"), QStringLiteral("file"),
                                  QStringLiteral("file.nvxparts"), QStringLiteral("file.part")};
         for (const QString &name : others + QStringList(QStringLiteral("file.nvxpart")))
-            QVERIFY(writeFile(folder.path(name), "x"));
+            QVERIFY(writeBytes(folder.path(name), "x"));
         Nvx::Util::removeUnfinished(folder.path(QStringLiteral("file")));
         QCOMPARE(namesIn(folder), others);
     }
 };
 
-QTEST_GUILESS_MAIN(TestWholeFile)
+NVX_GUILESS_TEST(tst_whole_file)
 #include "tst_whole_file.moc"

@@ -4,6 +4,7 @@
 #include "nvx_util/whole_file.h"
 #include "support/file_bytes.h"
 #include "support/full_disk.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QDir>
@@ -33,7 +34,7 @@ QStringList filesIn(const TestFolder &folder)
 
 } // namespace
 
-class TestWholeFileFullDisk : public QObject
+class tst_whole_file_full_disk : public QObject
 {
     Q_OBJECT
 
@@ -42,7 +43,7 @@ private slots:
     {
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("file"));
-        QVERIFY(writeFile(fileName, "old"));
+        QVERIFY(writeBytes(fileName, "old"));
         {
             const FullDisk disk;
             QVERIFY(!Nvx::Util::replaceWholeFile(fileName, QByteArray(2 * mostBytes, 'x')));
@@ -77,7 +78,7 @@ private slots:
     {
         const TestFolder folder;
         const QString source = folder.path(QStringLiteral("source"));
-        QVERIFY(writeFile(source, QByteArray(2 * mostBytes, 'x')));
+        QVERIFY(writeBytes(source, QByteArray(2 * mostBytes, 'x')));
         {
             const FullDisk disk;
             QVERIFY(!Nvx::Util::copyToFreeName(source, folder.path(QStringLiteral("copy"))));
@@ -121,7 +122,7 @@ private slots:
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("table.ts"));
         const QByteArray damaged = "<TS>" + QByteArray(2 * mostBytes, ' ');
-        QVERIFY(writeFile(fileName, damaged));
+        QVERIFY(writeBytes(fileName, damaged));
         Error::TranslationTable table;
         QVERIFY(!table.load(fileName));
         {
@@ -133,5 +134,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestWholeFileFullDisk)
+NVX_GUILESS_TEST(tst_whole_file_full_disk)
 #include "tst_whole_file_full_disk.moc"

@@ -60,7 +60,7 @@ int copyForever(const QString &source, const QString &target)
 
 } // namespace
 
-class TestWholeFileKilled : public QObject
+class tst_whole_file_killed : public QObject
 {
     Q_OBJECT
 
@@ -120,7 +120,7 @@ private slots:
         const TestFolder folder;
         const QString source = folder.path(QStringLiteral("source"));
         const QString target = folder.path(QStringLiteral("copy"));
-        QVERIFY(writeFile(source, contents('a')));
+        QVERIFY(writeBytes(source, contents('a')));
         for (int kill = 0; kill < kills; ++kill) {
             QProcess copier;
             copier.start(QCoreApplication::applicationFilePath(), {copyOption, source, target});
@@ -149,7 +149,7 @@ int main(int argc, char *argv[])
         return contendForever(arguments.value(2));
     if (arguments.value(1) == copyOption)
         return copyForever(arguments.value(2), arguments.value(3));
-    TestWholeFileKilled test;
+    tst_whole_file_killed test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -3,12 +3,13 @@
 #include "nvx_util/whole_file.h"
 #include "support/file_bytes.h"
 #include "support/odd_files.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QFileInfo>
 #include <QTest>
 
-class TestWholeFileOdd : public QObject
+class tst_whole_file_odd : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +35,7 @@ private slots:
         const TestFolder folder;
         const QString source = folder.path(QStringLiteral("source"));
         const QString target = folder.path(QStringLiteral("target"));
-        QVERIFY(writeFile(source, "new"));
+        QVERIFY(writeBytes(source, "new"));
         QVERIFY(QFile::link(folder.path(QStringLiteral("nowhere")), target));
         QVERIFY(!Nvx::Util::copyToFreeName(source, target));
         QVERIFY(QFileInfo(target).isSymLink());
@@ -57,7 +58,7 @@ private slots:
         QFETCH(const QByteArray, old);
         const TestFolder folder;
         const QString fileName = folder.path(QStringLiteral("file"));
-        QVERIFY(old.isEmpty() || writeFile(fileName, old));
+        QVERIFY(old.isEmpty() || writeBytes(fileName, old));
         QString link = fileName;
         for (int number = 0; number < links; ++number) {
             QVERIFY(QFile::link(link, link + QStringLiteral("+")));
@@ -93,5 +94,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestWholeFileOdd)
+NVX_GUILESS_TEST(tst_whole_file_odd)
 #include "tst_whole_file_odd.moc"

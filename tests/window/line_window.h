@@ -77,7 +77,7 @@ protected:
         return {};
     }
 
-    bool saveTable(const QString &fileName) override { return writeFile(fileName, m_lines.join('\n')); }
+    bool saveTable(const QString &fileName) override { return writeBytes(fileName, m_lines.join('\n')); }
 
     Window::MarkedRows rows() const override
     {
@@ -97,7 +97,7 @@ struct LineWindowFixture
 {
     LineWindowFixture()
     {
-        if (!writeFile(file, "one\ntwo"))
+        if (!writeBytes(file, "one\ntwo"))
             qFatal("cannot write");
     }
 

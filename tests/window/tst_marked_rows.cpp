@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "window/marked_rows.h"
 
 #include <QTest>
@@ -19,7 +20,7 @@ MarkedRows sampleRows()
 
 } // namespace
 
-class TestMarkedRows : public QObject
+class tst_marked_rows : public QObject
 {
     Q_OBJECT
 
@@ -104,5 +105,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMarkedRows)
+NVX_GUILESS_TEST(tst_marked_rows)
 #include "tst_marked_rows.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "window/marked_table_view.h"
 
 #include <QAction>
@@ -66,7 +67,7 @@ public:
 
 } // namespace
 
-class TestMarkedTable : public QObject
+class tst_marked_table : public QObject
 {
     Q_OBJECT
 
@@ -253,5 +254,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMarkedTable)
+NVX_TEST(tst_marked_table)
 #include "tst_marked_table.moc"

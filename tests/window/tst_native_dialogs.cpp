@@ -1,4 +1,5 @@
 #include "support/file_bytes.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 #include "window/native_dialogs.h"
 
@@ -32,7 +33,7 @@ void withNextDialog(const std::function<void(Dialog &)> &act)
 
 } // namespace
 
-class TestNativeDialogs : public QObject
+class tst_native_dialogs : public QObject
 {
     Q_OBJECT
 
@@ -97,7 +98,7 @@ private slots:
     void theChosenFileIsOpened()
     {
         const TestFolder folder;
-        QVERIFY(writeFile(folder.path(QStringLiteral("a.xml")), "x"));
+        QVERIFY(writeBytes(folder.path(QStringLiteral("a.xml")), "x"));
         withNextDialog<QFileDialog>([&](QFileDialog &dialog) {
             QCOMPARE(dialog.windowTitle(), QStringLiteral("Open"));
             QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
@@ -150,5 +151,5 @@ private:
     }
 };
 
-QTEST_MAIN(TestNativeDialogs)
+NVX_TEST(tst_native_dialogs)
 #include "tst_native_dialogs.moc"

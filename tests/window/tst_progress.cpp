@@ -1,5 +1,6 @@
 #include "support/file_bytes.h"
 #include "support/shown_progress.h"
+#include "support/test_class.h"
 #include "support/test_folder.h"
 #include "window/progress.h"
 
@@ -27,7 +28,7 @@ bool reportFor(Progress &progress, int milliseconds)
 
 } // namespace
 
-class TestProgress : public QObject
+class tst_progress : public QObject
 {
     Q_OBJECT
 
@@ -83,7 +84,7 @@ private slots:
     {
         const TestFolder folder;
         const QByteArray bytes(100'000, 'x');
-        QVERIFY(writeFile(folder.path(QStringLiteral("file")), bytes));
+        QVERIFY(writeBytes(folder.path(QStringLiteral("file")), bytes));
         Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"));
         ProgressFile file(folder.path(QStringLiteral("file")), progress);
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -93,7 +94,7 @@ private slots:
     void cancelledFileIsNotReadOn()
     {
         const TestFolder folder;
-        QVERIFY(writeFile(folder.path(QStringLiteral("file")), QByteArray(1'000'000, 'x')));
+        QVERIFY(writeBytes(folder.path(QStringLiteral("file")), QByteArray(1'000'000, 'x')));
         Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"));
         ProgressFile file(folder.path(QStringLiteral("file")), progress);
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -104,5 +105,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestProgress)
+NVX_TEST(tst_progress)
 #include "tst_progress.moc"

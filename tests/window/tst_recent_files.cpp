@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/test_folder.h"
 #include "window/recent_files.h"
 
@@ -15,7 +16,7 @@ const QStringList abc{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("
 
 } // namespace
 
-class TestRecentFiles : public QObject
+class tst_recent_files : public QObject
 {
     Q_OBJECT
 
@@ -80,5 +81,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestRecentFiles)
+NVX_TEST(tst_recent_files)
 #include "tst_recent_files.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "window/row_mark.h"
 
 #include <QPalette>
@@ -62,7 +63,7 @@ void addPaletteRows()
 
 } // namespace
 
-class TestRowMark : public QObject
+class tst_row_mark : public QObject
 {
     Q_OBJECT
 
@@ -100,5 +101,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRowMark)
+NVX_GUILESS_TEST(tst_row_mark)
 #include "tst_row_mark.moc"

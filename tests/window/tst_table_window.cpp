@@ -1,10 +1,11 @@
 #include "line_window.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
 using Window::UnsavedChoice;
 
-class TestTableWindow : public QObject
+class tst_table_window : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +24,7 @@ private slots:
     void failedSavingKeepsTheWindowOpen();
 };
 
-void TestTableWindow::atStartUpOnlyNewOpenAndExitAreEnabled()
+void tst_table_window::atStartUpOnlyNewOpenAndExitAreEnabled()
 {
     LineWindowFixture f;
     for (const char *name : {"actionNew", "actionOpen", "actionExit"})
@@ -34,7 +35,7 @@ void TestTableWindow::atStartUpOnlyNewOpenAndExitAreEnabled()
     QVERIFY(!f.recentFiles()->isEnabled());
 }
 
-void TestTableWindow::newTableEnablesTheRest()
+void tst_table_window::newTableEnablesTheRest()
 {
     LineWindowFixture f;
     f.window.newTable();
@@ -46,7 +47,7 @@ void TestTableWindow::newTableEnablesTheRest()
     QCOMPARE(f.place(), QStringLiteral("Untitled   Rows: 0"));
 }
 
-void TestTableWindow::openedFileIsShownAndRemembered()
+void tst_table_window::openedFileIsShownAndRemembered()
 {
     LineWindowFixture f;
     f.dialogs.fileToChoose = f.file;
@@ -66,7 +67,7 @@ void TestTableWindow::openedFileIsShownAndRemembered()
     QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path());
 }
 
-void TestTableWindow::cancelledDialogChangesNothing()
+void tst_table_window::cancelledDialogChangesNothing()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -78,7 +79,7 @@ void TestTableWindow::cancelledDialogChangesNothing()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestTableWindow::failedOpeningKeepsTheTable()
+void tst_table_window::failedOpeningKeepsTheTable()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -91,18 +92,18 @@ void TestTableWindow::failedOpeningKeepsTheTable()
     QCOMPARE(f.shownRows(), 2);
 }
 
-void TestTableWindow::cancelledLoadingKeepsTheTable()
+void tst_table_window::cancelledLoadingKeepsTheTable()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
-    QVERIFY(writeFile(f.otherFile, ""));
+    QVERIFY(writeBytes(f.otherFile, ""));
     QVERIFY(!f.window.openFile(f.otherFile));
     QVERIFY(f.dialogs.warnings.isEmpty());
     QCOMPARE(f.window.fileName(), f.file);
     QCOMPARE(f.shownRows(), 2);
 }
 
-void TestTableWindow::savingAsksForANameOnce()
+void tst_table_window::savingAsksForANameOnce()
 {
     LineWindowFixture f;
     f.window.newTable();
@@ -122,7 +123,7 @@ void TestTableWindow::savingAsksForANameOnce()
     QCOMPARE(fileBytes(f.otherFile), QByteArray("new\nnewer"));
 }
 
-void TestTableWindow::saveIsDisabledUntilTheTableChanges()
+void tst_table_window::saveIsDisabledUntilTheTableChanges()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -137,7 +138,7 @@ void TestTableWindow::saveIsDisabledUntilTheTableChanges()
     QVERIFY(f.place().startsWith(QStringLiteral("lines.txt  ")));
 }
 
-void TestTableWindow::failedSavingKeepsTheTableUnsaved()
+void tst_table_window::failedSavingKeepsTheTableUnsaved()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -154,7 +155,7 @@ void TestTableWindow::failedSavingKeepsTheTableUnsaved()
     QCOMPARE(f.shownRows(), 3);
 }
 
-void TestTableWindow::unsavedChangesAreAskedFor_data()
+void tst_table_window::unsavedChangesAreAskedFor_data()
 {
     QTest::addColumn<QString>("order");
     QTest::addColumn<UnsavedChoice>("choice");
@@ -165,12 +166,12 @@ void TestTableWindow::unsavedChangesAreAskedFor_data()
     }
 }
 
-void TestTableWindow::unsavedChangesAreAskedFor()
+void tst_table_window::unsavedChangesAreAskedFor()
 {
     QFETCH(QString, order);
     QFETCH(UnsavedChoice, choice);
     LineWindowFixture f;
-    QVERIFY(writeFile(f.otherFile, "other"));
+    QVERIFY(writeBytes(f.otherFile, "other"));
     QVERIFY(f.window.openFile(f.file));
     f.window.show();
     f.window.addLine("three");
@@ -203,7 +204,7 @@ void TestTableWindow::unsavedChangesAreAskedFor()
         QCOMPARE(f.window.lines().size() == 3 && !isSaved, isKept);
 }
 
-void TestTableWindow::failedSavingKeepsTheWindowOpen()
+void tst_table_window::failedSavingKeepsTheWindowOpen()
 {
     LineWindowFixture f;
     f.window.newTable();
@@ -220,5 +221,5 @@ void TestTableWindow::failedSavingKeepsTheWindowOpen()
     QVERIFY(f.window.close());
 }
 
-QTEST_MAIN(TestTableWindow)
+NVX_TEST(tst_table_window)
 #include "tst_table_window.moc"

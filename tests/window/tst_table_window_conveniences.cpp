@@ -1,11 +1,12 @@
 #include "line_window.h"
+#include "support/test_class.h"
 #include "window/window_program.h"
 
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
 
-class TestTableWindowConveniences : public QObject
+class tst_table_window_conveniences : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +26,7 @@ private slots:
     void aboutNamesTheProgram();
 };
 
-void TestTableWindowConveniences::oneDroppedFileIsOpened()
+void tst_table_window_conveniences::oneDroppedFileIsOpened()
 {
     LineWindowFixture f;
     QVERIFY(drop(f.window, {QUrl::fromLocalFile(f.file)}));
@@ -33,7 +34,7 @@ void TestTableWindowConveniences::oneDroppedFileIsOpened()
     QCOMPARE(f.shownRows(), 2);
 }
 
-void TestTableWindowConveniences::otherThingsAreNotDropped()
+void tst_table_window_conveniences::otherThingsAreNotDropped()
 {
     LineWindowFixture f;
     QVERIFY(!drop(f.window, {}));
@@ -47,7 +48,7 @@ void TestTableWindowConveniences::otherThingsAreNotDropped()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestTableWindowConveniences::fileOfTheCommandLineIsOpened()
+void tst_table_window_conveniences::fileOfTheCommandLineIsOpened()
 {
     LineWindowFixture f;
     Window::openNamedFile(f.window, {});
@@ -56,10 +57,10 @@ void TestTableWindowConveniences::fileOfTheCommandLineIsOpened()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void TestTableWindowConveniences::recentFilesAreOpened()
+void tst_table_window_conveniences::recentFilesAreOpened()
 {
     LineWindowFixture f;
-    QVERIFY(writeFile(f.otherFile, "other"));
+    QVERIFY(writeBytes(f.otherFile, "other"));
     QVERIFY(f.window.openFile(f.file));
     QVERIFY(f.window.openFile(f.otherFile));
     const auto *menu = f.recentFiles();
@@ -68,7 +69,7 @@ void TestTableWindowConveniences::recentFilesAreOpened()
     QCOMPARE(f.window.fileName(), f.file);
 }
 
-void TestTableWindowConveniences::recentFileThatIsGoneIsForgotten()
+void tst_table_window_conveniences::recentFileThatIsGoneIsForgotten()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -80,7 +81,7 @@ void TestTableWindowConveniences::recentFileThatIsGoneIsForgotten()
     QVERIFY(!menu->isEnabled());
 }
 
-void TestTableWindowConveniences::filterNarrowsTheRows()
+void tst_table_window_conveniences::filterNarrowsTheRows()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -89,7 +90,7 @@ void TestTableWindowConveniences::filterNarrowsTheRows()
     QCOMPARE(f.place(), QStringLiteral("lines.txt   Rows: 1 of 2"));
 }
 
-void TestTableWindowConveniences::filterStandsAtTheEndOfTheToolBar()
+void tst_table_window_conveniences::filterStandsAtTheEndOfTheToolBar()
 {
     LineWindowFixture f;
     f.window.show();
@@ -101,7 +102,7 @@ void TestTableWindowConveniences::filterStandsAtTheEndOfTheToolBar()
     QVERIFY(bar->width() - f.filter()->geometry().right() < 20);
 }
 
-void TestTableWindowConveniences::controlFGoesToTheFilterAndEscapeEmptiesIt()
+void tst_table_window_conveniences::controlFGoesToTheFilterAndEscapeEmptiesIt()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -116,11 +117,11 @@ void TestTableWindowConveniences::controlFGoesToTheFilterAndEscapeEmptiesIt()
     QCOMPARE(f.shownRows(), 2);
 }
 
-void TestTableWindowConveniences::geometryWidthsAndFolderAreRemembered()
+void tst_table_window_conveniences::geometryWidthsAndFolderAreRemembered()
 {
     const TestFolder folder;
     const QString file = folder.path(QStringLiteral("lines.txt"));
-    QVERIFY(writeFile(file, "one"));
+    QVERIFY(writeBytes(file, "one"));
     QSettings settings(folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
     RecordingDialogs dialogs;
     {
@@ -137,7 +138,7 @@ void TestTableWindowConveniences::geometryWidthsAndFolderAreRemembered()
     QCOMPARE(dialogs.openQuestions.last().folder, folder.path());
 }
 
-void TestTableWindowConveniences::geometryThatIsNoneIsNotTaken()
+void tst_table_window_conveniences::geometryThatIsNoneIsNotTaken()
 {
     const TestFolder folder;
     QSettings settings(folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
@@ -149,7 +150,7 @@ void TestTableWindowConveniences::geometryThatIsNoneIsNotTaken()
     QCOMPARE(window.size(), usual);
 }
 
-void TestTableWindowConveniences::closingDuringWorkCancelsItFirst()
+void tst_table_window_conveniences::closingDuringWorkCancelsItFirst()
 {
     LineWindowFixture f;
     f.window.show();
@@ -164,7 +165,7 @@ void TestTableWindowConveniences::closingDuringWorkCancelsItFirst()
     QTRY_VERIFY(!f.window.isVisible());
 }
 
-void TestTableWindowConveniences::noOrdersAreTakenDuringWork()
+void tst_table_window_conveniences::noOrdersAreTakenDuringWork()
 {
     LineWindowFixture f;
     f.dialogs.fileToChoose = f.file;
@@ -188,7 +189,7 @@ void TestTableWindowConveniences::noOrdersAreTakenDuringWork()
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void TestTableWindowConveniences::aboutNamesTheProgram()
+void tst_table_window_conveniences::aboutNamesTheProgram()
 {
     LineWindowFixture f;
     f.action("actionAbout")->trigger();
@@ -196,5 +197,5 @@ void TestTableWindowConveniences::aboutNamesTheProgram()
     QVERIFY(f.dialogs.tellings.first().text.startsWith(QStringLiteral("Line Utility")));
 }
 
-QTEST_MAIN(TestTableWindowConveniences)
+NVX_TEST(tst_table_window_conveniences)
 #include "tst_table_window_conveniences.moc"

@@ -5,7 +5,7 @@
 #include <QTest>
 #include <QTimer>
 
-class TestWindowProgram : public QObject
+class tst_window_program : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ private slots:
     void theNamedFileIsShownUntilTheProgramEnds()
     {
         const QString file = m_folder.path(QStringLiteral("lines.txt"));
-        QVERIFY(writeFile(file, "a\nb\n"));
+        QVERIFY(writeBytes(file, "a\nb\n"));
         QByteArray program("program");
         QByteArray argument = QFile::encodeName(file);
         char *argv[] = {program.data(), argument.data(), nullptr};
@@ -54,7 +54,7 @@ private:
 // The program makes its own application.
 int main(int argc, char *argv[])
 {
-    TestWindowProgram test;
+    tst_window_program test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
@@ -171,5 +172,5 @@ private:
     std::unique_ptr<WizardFixture> m_fixture;
 };
 
-QTEST_MAIN(tst_class_wizard)
+NVX_TEST(tst_class_wizard)
 #include "tst_class_wizard.moc"

@@ -1,4 +1,5 @@
 #include "cfg_wizard/conclusion_page.h"
+#include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
@@ -199,5 +200,5 @@ private:
     std::unique_ptr<WizardFixture> m_fixture;
 };
 
-QTEST_MAIN(tst_conclusion_page)
+NVX_TEST(tst_conclusion_page)
 #include "tst_conclusion_page.moc"

@@ -1,5 +1,6 @@
 #include "cfg_wizard/feature_page.h"
 #include "engine/engine_fixture.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QCheckBox>
@@ -125,5 +126,5 @@ private:
     std::unique_ptr<FeaturePage> m_page;
 };
 
-QTEST_MAIN(tst_feature_page)
+NVX_TEST(tst_feature_page)
 #include "tst_feature_page.moc"

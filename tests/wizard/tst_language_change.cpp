@@ -5,6 +5,7 @@
 #include "cfg_wizard/interface_translators.h"
 #include "cfg_wizard/start_up.h"
 #include "nvx_util/system.h"
+#include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
@@ -129,5 +130,5 @@ private:
     std::unique_ptr<WizardFixture> m_fixture;
 };
 
-QTEST_MAIN(tst_language_change)
+NVX_TEST(tst_language_change)
 #include "tst_language_change.moc"

@@ -2,6 +2,7 @@
 
 #include "cfg_wizard/start_up.h"
 #include "nvx_util/registry_key.h"
+#include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
@@ -117,5 +118,5 @@ private:
     std::unique_ptr<WizardFixture> m_fixture;
 };
 
-QTEST_MAIN(tst_launcher_choice)
+NVX_TEST(tst_launcher_choice)
 #include "tst_launcher_choice.moc"

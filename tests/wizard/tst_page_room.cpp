@@ -5,6 +5,7 @@
 #include "cfg_wizard/interface_font.h"
 #include "cfg_wizard/interface_translators.h"
 #include "nvx_util/system.h"
+#include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
@@ -167,5 +168,5 @@ private:
     QString m_pictures;
 };
 
-QTEST_MAIN(tst_page_room)
+NVX_TEST(tst_page_room)
 #include "tst_page_room.moc"

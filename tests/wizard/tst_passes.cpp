@@ -1,6 +1,7 @@
 #include "cfg_wizard/start_up.h"
 #include "engine/engine_fixture.h"
 #include "nvx_util/system.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QAbstractButton>
@@ -314,5 +315,5 @@ private:
     std::unique_ptr<EngineFixture> m_fixture;
 };
 
-QTEST_MAIN(tst_passes)
+NVX_TEST(tst_passes)
 #include "tst_passes.moc"

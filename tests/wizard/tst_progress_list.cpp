@@ -1,4 +1,5 @@
 #include "cfg_wizard/progress_list.h"
+#include "support/test_class.h"
 #include "support/text.h"
 
 #include <QAction>
@@ -119,5 +120,5 @@ private:
     std::unique_ptr<ProgressList> m_list;
 };
 
-QTEST_MAIN(tst_progress_list)
+NVX_TEST(tst_progress_list)
 #include "tst_progress_list.moc"

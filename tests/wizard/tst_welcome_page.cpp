@@ -1,4 +1,5 @@
 #include "nvx_util/system.h"
+#include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
@@ -139,5 +140,5 @@ private:
     std::unique_ptr<WizardFixture> m_fixture;
 };
 
-QTEST_MAIN(tst_welcome_page)
+NVX_TEST(tst_welcome_page)
 #include "tst_welcome_page.moc"

@@ -1,4 +1,5 @@
 #include "cfg_wizard/wizard_plan.h"
+#include "support/test_class.h"
 
 #include <QTest>
 
@@ -49,5 +50,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_wizard_plan)
+NVX_GUILESS_TEST(tst_wizard_plan)
 #include "tst_wizard_plan.moc"
