@@ -15,6 +15,26 @@ set(nvx_Widgets_headers
 set(nvx_Gui_headers <QGuiApplication>)
 set(nvx_Core_headers)
 
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    # By default the header is named too, with its whole path, which the compiler cache would take for a difference.
+    set(CMAKE_CXX_COMPILE_OPTIONS_USE_PCH -Xclang -include-pch -Xclang <PCH_FILE>)
+endif()
+
+# A compilation with a precompiled header is found in the compiler cache by what stands in the file .sum beside the
+# header: reading 150 MB each time would take longer than most of what the cache saves, and what clang precompiles
+# holds the path of the checkout. So .sum holds what the header is made of.
+if(NVX_CCACHE)
+    get_target_property(qt_headers Qt6::Core INTERFACE_INCLUDE_DIRECTORIES)
+    list(FILTER qt_headers INCLUDE REGEX "QtCore$")
+    cmake_path(GET qt_headers PARENT_PATH qt_headers)
+    file(GLOB qt_headers "${qt_headers}/Qt*/q*.h")
+    set(nvx_header_contents "")
+    foreach(header IN LISTS qt_headers)
+        file(SHA256 "${header}" contents)
+        string(APPEND nvx_header_contents "${contents}")
+    endforeach()
+endif()
+
 # nvx_precompiled_header(NAME MODULE LINKS TARGET... [HEADERS HEADER...]): a library without contents whose
 # precompiled header others use.
 function(nvx_precompiled_header name module)
@@ -22,7 +42,20 @@ function(nvx_precompiled_header name module)
     add_library(${name} OBJECT "${PROJECT_SOURCE_DIR}/cmake/precompiled.cpp")
     set_target_properties(${name} PROPERTIES AUTOMOC OFF)
     target_link_libraries(${name} PRIVATE Qt6::${module} nvx_options ${ARG_LINKS})
-    target_precompile_headers(${name} PRIVATE ${nvx_core_headers} ${nvx_${module}_headers} ${ARG_HEADERS})
+    set(headers ${nvx_core_headers} ${nvx_${module}_headers} ${ARG_HEADERS})
+    target_precompile_headers(${name} PRIVATE ${headers})
+    if(NVX_CCACHE)
+        if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+            # It would be found by another checkout, in which clang misses this one's files.
+            set_target_properties(${name} PROPERTIES CXX_COMPILER_LAUNCHER "")
+            set(suffix pch)
+        else()
+            set(suffix gch)
+        endif()
+        string(SHA256 sum "${name} ${headers} ${nvx_header_contents}")
+        file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/CMakeFiles/${name}.dir/cmake_pch.hxx.${suffix}.sum"
+            CONTENT "${sum}" @ONLY)
+    endif()
 endfunction()
 
 # nvx_linked_targets(RESULT TARGET...): the targets, all that they link, and all that these link.
