@@ -4,7 +4,7 @@
 function(nvx_pictures name qrc)
     add_library(${name}_objects OBJECT ${qrc})
     # A PNG does not become smaller, and the two builds' toolkits do not know the same ways of packing.
-    set_target_properties(${name}_objects PROPERTIES AUTORCC_OPTIONS "--no-compress")
+    set_target_properties(${name}_objects PROPERTIES AUTORCC ON AUTORCC_OPTIONS "--no-compress")
     target_link_libraries(${name}_objects PRIVATE Qt6::Core)
     add_library(${name} INTERFACE)
     target_link_libraries(${name} INTERFACE $<TARGET_OBJECTS:${name}_objects>)

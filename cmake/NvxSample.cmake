@@ -6,7 +6,7 @@ function(sample_program name source)
     add_executable(${name} ${source})
     target_link_libraries(${name} PRIVATE nvx_options)
     target_link_options(${name} PRIVATE -static)
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF RUNTIME_OUTPUT_DIRECTORY "${product}")
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${product}")
     set_property(DIRECTORY APPEND PROPERTY sample_parts ${name})
 endfunction()
 
@@ -21,7 +21,7 @@ function(sample_library_named target name folder)
     target_link_libraries(${target} PRIVATE nvx_options)
     target_link_options(${target} PRIVATE -static)
     set_target_properties(${target} PROPERTIES
-        PREFIX "" OUTPUT_NAME "${name}" AUTOMOC OFF
+        PREFIX "" OUTPUT_NAME "${name}"
         RUNTIME_OUTPUT_DIRECTORY "${product}/${folder}"
         ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/import/${folder}")
     set_property(DIRECTORY APPEND PROPERTY sample_parts ${target})

@@ -28,12 +28,14 @@ if(NVX_COVERAGE)
     target_link_options(nvx_options INTERFACE --coverage)
 endif()
 
-# nvx_library(NAME SOURCES FILE... LINKS TARGET... [INCLUDES FOLDER]): a static library of one room.
-# Headers are included as they lie below INCLUDES, by default the folder "source".
+# nvx_library(NAME [MOC] SOURCES FILE... LINKS TARGET... [INCLUDES FOLDER]): a static library of one room.
+# Headers are included as they lie below INCLUDES, by default the folder "source". With MOC, Qt's moc reads its
+# headers: for classes with Q_OBJECT.
 function(nvx_library name)
-    cmake_parse_arguments(ARG "" "INCLUDES" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "MOC" "INCLUDES" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     set_property(GLOBAL APPEND PROPERTY NVX_LIBRARIES ${name})
+    set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE nvx_options)
     if(NOT ARG_INCLUDES)
         set(ARG_INCLUDES "${CMAKE_CURRENT_SOURCE_DIR}/source")
@@ -65,6 +67,7 @@ function(nvx_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;NEEDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     set_property(GLOBAL APPEND PROPERTY NVX_TESTS ${name})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test nvx_options nvx_test_options)
     if(ARG_NEEDS)
         add_dependencies(${name} ${ARG_NEEDS})
@@ -91,6 +94,7 @@ function(nvx_tests program)
         "${CMAKE_CURRENT_BINARY_DIR}/${program}.cpp" @ONLY)
     add_executable(${program} ${files} ${ARG_SOURCES} "${CMAKE_CURRENT_BINARY_DIR}/${program}.cpp")
     set_property(GLOBAL APPEND PROPERTY NVX_TESTS ${program})
+    set_target_properties(${program} PROPERTIES AUTOMOC ON)
     target_link_libraries(${program} PRIVATE
         ${ARG_LINKS} nvx_test_support Qt6::Test nvx_options nvx_test_options)
     if(ARG_NEEDS)
