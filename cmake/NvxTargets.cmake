@@ -56,8 +56,11 @@ function(nvx_test_properties test)
     set_tests_properties(${test} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
     if(WIN32)
-        # The tests share one Windows machine, and its registry.
-        set_tests_properties(${test} PROPERTIES RESOURCE_LOCK windows_machine)
+        # The tests share one Windows machine, and its registry; as they run one by one they start first.
+        set_tests_properties(${test} PROPERTIES
+            COST 1000
+            RESOURCE_LOCK windows_machine
+            FIXTURES_REQUIRED windows_machine)
     endif()
 endfunction()
 
