@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>Obsolete: was not found in the material database; the translation is kept</source>
-        <translation>Obsolète : introuvable dans la base de données de matériaux ; la traduction est conservée</translation>
+        <translation>Obsolète&#xa0;: introuvable dans la base de données de matériaux&#xa0;; la traduction est conservée</translation>
     </message>
     <message>
         <source>Material Name Utility</source>

@@ -32,11 +32,11 @@
     </message>
     <message>
         <source>New in the material database, to be translated</source>
-        <translation>材料データベースに新しく追加された名前です。翻訳が必要です</translation>
+        <translation>材料データベースに新しく追加された名前です。翻訳が必要です。</translation>
     </message>
     <message>
         <source>Obsolete: was not found in the material database; the translation is kept</source>
-        <translation>廃止: 材料データベースに見つかりませんでした。翻訳は保持されます</translation>
+        <translation>廃止: 材料データベースで見つかりませんでした。翻訳は保持されます。</translation>
     </message>
     <message>
         <source>Material Name Utility</source>
@@ -88,7 +88,7 @@
     </message>
     <message>
         <source>Synchronization cancelled, the table is as it was</source>
-        <translation>同期をキャンセルしました。テーブルは変更されていません</translation>
+        <translation>同期をキャンセルしました。テーブルは変更されていません。</translation>
     </message>
     <message>
         <source>Load Material Database</source>

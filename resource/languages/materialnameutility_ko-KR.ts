@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Obsolete</source>
-        <translation>폐기</translation>
+        <translation>사용되지 않음</translation>
     </message>
     <message>
         <source>New in the material database, to be translated</source>
@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>Obsolete: was not found in the material database; the translation is kept</source>
-        <translation>폐기: 재료 데이터베이스에서 찾을 수 없습니다. 번역은 유지됩니다</translation>
+        <translation>사용되지 않음: 재료 데이터베이스에서 찾을 수 없습니다. 번역은 유지됩니다.</translation>
     </message>
     <message>
         <source>Material Name Utility</source>
@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>Found %1 names (%2 new, %3 existing, and %4 obsolete)</source>
-        <translation>이름 %1개를 찾았습니다(신규 %2개, 기존 %3개, 폐기 %4개)</translation>
+        <translation>이름 %1개를 찾았습니다(신규 %2개, 기존 %3개, 사용되지 않음 %4개)</translation>
     </message>
 </context>
 </TS>

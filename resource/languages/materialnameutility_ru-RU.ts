@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>Material Name Utility</source>
-        <translation>Программа названий материалов</translation>
+        <translation>Программа для работы с названиями материалов</translation>
     </message>
     <message>
         <source>Name</source>

@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>Obsolete: was not found in the material database; the translation is kept</source>
-        <translation>已过时: 在材料数据库中未找到；翻译将保留</translation>
+        <translation>已过时：在材料数据库中未找到；翻译将保留</translation>
     </message>
     <message>
         <source>Material Name Utility</source>
@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>Found %1 names (%2 new, %3 existing, and %4 obsolete)</source>
-        <translation>找到 %1 个名称(%2 个新增、%3 个现有、%4 个已过时)</translation>
+        <translation>找到 %1 个名称（新增 %2 个，现有 %3 个，已过时 %4 个）</translation>
     </message>
 </context>
 </TS>

@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>Obsolete: was not found in the material database; the translation is kept</source>
-        <translation>過時: 在材料資料庫中找不到；翻譯會保留</translation>
+        <translation>過時：在材料資料庫中找不到；翻譯會保留</translation>
     </message>
     <message>
         <source>Material Name Utility</source>
@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>Found %1 names (%2 new, %3 existing, and %4 obsolete)</source>
-        <translation>找到 %1 個名稱 (%2 個新增、%3 個現有、%4 個過時)</translation>
+        <translation>找到 %1 個名稱（新增 %2 個，現有 %3 個，過時 %4 個）</translation>
     </message>
 </context>
 </TS>

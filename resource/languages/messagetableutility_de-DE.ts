@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>
-        <translation>Meldungstabelle &quot;%1&quot; wird geladen...</translation>
+        <translation>Meldungstabelle „%1“ wird geladen...</translation>
     </message>
     <message>
         <source>Open Visual Studio Project</source>
@@ -92,7 +92,7 @@
     </message>
     <message>
         <source>Could not parse %1</source>
-        <translation>%1 konnte nicht gelesen werden</translation>
+        <translation>%1 konnte nicht analysiert werden</translation>
     </message>
     <message>
         <source>Synchronization cancelled, the table is as it was</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Could not load &apos;%1&apos;: %2</source>
-        <translation>&apos;%1&apos; konnte nicht geladen werden: %2</translation>
+        <translation>„%1“ konnte nicht geladen werden: %2</translation>
     </message>
     <message>
         <source>Added %1 new strings to %2</source>
@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>These files were skipped: their messages were not found.</source>
-        <translation>Diese Dateien wurden übersprungen: Ihre Meldungen wurden nicht gefunden.</translation>
+        <translation>Diese Dateien wurden übersprungen; die darin enthaltenen Meldungen wurden nicht gefunden.</translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Tag</source>
-        <translation>Balise</translation>
+        <translation>Étiquette</translation>
     </message>
     <message>
         <source>State</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>
-        <translation>Chargement de la table de messages &quot;%1&quot;...</translation>
+        <translation>Chargement de la table de messages «&#xa0;%1&#xa0;»...</translation>
     </message>
     <message>
         <source>Open Visual Studio Project</source>
@@ -124,7 +124,7 @@
     </message>
     <message>
         <source>Elapsed time: %1 sec</source>
-        <translation>Temps écoulé : %1 s</translation>
+        <translation>Temps écoulé&#xa0;: %1&#xa0;s</translation>
     </message>
     <message>
         <source>Open Qt Translation File</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Could not load &apos;%1&apos;: %2</source>
-        <translation>Impossible de charger &apos;%1&apos; : %2</translation>
+        <translation>Impossible de charger «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>Added %1 new strings to %2</source>
@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>These files were skipped: their messages were not found.</source>
-        <translation>Ces fichiers ont été ignorés : leurs messages n&apos;ont pas été trouvés.</translation>
+        <translation>Ces fichiers ont été ignorés&#xa0;: leurs messages n&apos;ont pas été trouvés.</translation>
     </message>
 </context>
 </TS>

@@ -20,11 +20,11 @@
     </message>
     <message>
         <source>Update Translation...</source>
-        <translation>翻訳を更新...</translation>
+        <translation>翻訳の更新...</translation>
     </message>
     <message>
         <source>Update translation</source>
-        <translation>翻訳を更新します</translation>
+        <translation>翻訳の更新</translation>
     </message>
     <message>
         <source>tr</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>Synchronization cancelled, the table is as it was</source>
-        <translation>同期をキャンセルしました。テーブルは変更されていません</translation>
+        <translation>同期をキャンセルしました。テーブルは変更されていません。</translation>
     </message>
     <message>
         <source>Parser Error</source>
@@ -152,7 +152,7 @@
     </message>
     <message>
         <source>Update cancelled, the translation is as it was</source>
-        <translation>更新をキャンセルしました。翻訳は変更されていません</translation>
+        <translation>更新をキャンセルしました。翻訳は変更されていません。</translation>
     </message>
 </context>
 <context>

@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Update translation</source>
-        <translation>번역을 업데이트합니다</translation>
+        <translation>번역 업데이트</translation>
     </message>
     <message>
         <source>tr</source>
@@ -120,7 +120,7 @@
     </message>
     <message>
         <source>Found %1 keys (%2 new, %3 existing, and %4 obsolete)</source>
-        <translation>키 %1개를 찾았습니다(신규 %2개, 기존 %3개, 폐기 %4개)</translation>
+        <translation>키 %1개를 찾았습니다(신규 %2개, 기존 %3개, 사용되지 않음 %4개)</translation>
     </message>
     <message>
         <source>Elapsed time: %1 sec</source>

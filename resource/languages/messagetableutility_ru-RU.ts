@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>Message Table Utility</source>
-        <translation>Программа таблицы сообщений</translation>
+        <translation>Программа для работы с таблицами сообщений</translation>
     </message>
     <message>
         <source>Process</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>
-        <translation>Загрузка таблицы сообщений &quot;%1&quot;...</translation>
+        <translation>Загрузка таблицы сообщений «%1»...</translation>
     </message>
     <message>
         <source>Open Visual Studio Project</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Could not load &apos;%1&apos;: %2</source>
-        <translation>Не удалось загрузить &apos;%1&apos;: %2</translation>
+        <translation>Не удалось загрузить «%1»: %2</translation>
     </message>
     <message>
         <source>Added %1 new strings to %2</source>
@@ -152,7 +152,7 @@
     </message>
     <message>
         <source>Update cancelled, the translation is as it was</source>
-        <translation>Обновление отменено, перевод не изменён</translation>
+        <translation>Обновление отменено, перевод не изменен</translation>
     </message>
 </context>
 <context>

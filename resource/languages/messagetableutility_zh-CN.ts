@@ -5,7 +5,7 @@
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
-        <translation>第 %1 行: %2</translation>
+        <translation>第 %1 行：%2</translation>
     </message>
 </context>
 <context>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>
-        <translation>正在加载消息表 &quot;%1&quot;...</translation>
+        <translation>正在加载消息表“%1”...</translation>
     </message>
     <message>
         <source>Open Visual Studio Project</source>
@@ -120,11 +120,11 @@
     </message>
     <message>
         <source>Found %1 keys (%2 new, %3 existing, and %4 obsolete)</source>
-        <translation>找到 %1 个键(%2 个新增、%3 个现有、%4 个已过时)</translation>
+        <translation>找到 %1 个键（新增 %2 个，现有 %3 个，已过时 %4 个）</translation>
     </message>
     <message>
         <source>Elapsed time: %1 sec</source>
-        <translation>用时: %1 秒</translation>
+        <translation>用时：%1 秒</translation>
     </message>
     <message>
         <source>Open Qt Translation File</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Could not load &apos;%1&apos;: %2</source>
-        <translation>无法加载 &apos;%1&apos;: %2</translation>
+        <translation>无法加载“%1”：%2</translation>
     </message>
     <message>
         <source>Added %1 new strings to %2</source>
@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>These files were skipped: their messages were not found.</source>
-        <translation>已跳过这些文件: 未找到其中的消息。</translation>
+        <translation>已跳过这些文件：未找到其中的消息。</translation>
     </message>
 </context>
 </TS>

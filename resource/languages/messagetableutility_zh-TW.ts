@@ -5,7 +5,7 @@
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
-        <translation>第 %1 行: %2</translation>
+        <translation>第 %1 行：%2</translation>
     </message>
 </context>
 <context>
@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Context</source>
-        <translation>內容</translation>
+        <translation>上下文</translation>
     </message>
     <message>
         <source>Tag</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>
-        <translation>正在載入訊息表 &quot;%1&quot;...</translation>
+        <translation>正在載入訊息表「%1」...</translation>
     </message>
     <message>
         <source>Open Visual Studio Project</source>
@@ -120,11 +120,11 @@
     </message>
     <message>
         <source>Found %1 keys (%2 new, %3 existing, and %4 obsolete)</source>
-        <translation>找到 %1 個索引鍵 (%2 個新增、%3 個現有、%4 個過時)</translation>
+        <translation>找到 %1 個索引鍵（新增 %2 個，現有 %3 個，過時 %4 個）</translation>
     </message>
     <message>
         <source>Elapsed time: %1 sec</source>
-        <translation>經過時間: %1 秒</translation>
+        <translation>經過時間：%1 秒</translation>
     </message>
     <message>
         <source>Open Qt Translation File</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Could not load &apos;%1&apos;: %2</source>
-        <translation>無法載入 &apos;%1&apos;: %2</translation>
+        <translation>無法載入「%1」：%2</translation>
     </message>
     <message>
         <source>Added %1 new strings to %2</source>
@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>These files were skipped: their messages were not found.</source>
-        <translation>已略過這些檔案: 未找到其中的訊息。</translation>
+        <translation>已略過這些檔案：找不到其中的訊息。</translation>
     </message>
 </context>
 </TS>

@@ -21,11 +21,11 @@
     </message>
     <message>
         <source> Mertle Server</source>
-        <translation> des Mertle Server</translation>
+        <translation> von Mertle Server</translation>
     </message>
     <message>
         <source>There is no translators folder, the Mertle Server is left alone</source>
-        <translation>Kein Ordner für Übersetzer vorhanden, Mertle Server bleibt unverändert</translation>
+        <translation>Kein Konverterordner vorhanden, Mertle Server bleibt unverändert</translation>
     </message>
     <message>
         <source>Installing Mertle Server</source>
@@ -36,7 +36,7 @@
     <name>CadSearch</name>
     <message>
         <source>%1 Install Dir:%2</source>
-        <translation>%1 Installationsordner: %2</translation>
+        <translation>Installationsordner von %1: %2</translation>
     </message>
     <message>
         <source>Using %1 Install Dir:%2</source>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>%1 Product Code =%2</source>
-        <translation>%1 Produktcode =%2</translation>
+        <translation>Produktcode von %1 =%2</translation>
     </message>
 </context>
 <context>
@@ -211,7 +211,7 @@
     </message>
     <message>
         <source>Create file associations</source>
-        <translation>Dateizuordnungen erstellen</translation>
+        <translation>Dateizuordnungen werden erstellt</translation>
     </message>
     <message>
         <source>The install folder is not known, no files are associated</source>
@@ -314,22 +314,22 @@
     <message>
         <source>Click Yes to continue after the process is stopped.
 Click No to continue without stopping the process.</source>
-        <translation>Klicken Sie auf „Ja“, um fortzufahren, nachdem der Prozess beendet wurde.
+        <translation>Klicken Sie auf „Ja“, um den Prozess zu beenden und fortzufahren.
 Klicken Sie auf „Nein“, um fortzufahren, ohne den Prozess zu beenden.</translation>
     </message>
     <message>
         <source>Click Yes to continue after the processes are stopped.
 Click No to continue without stopping the processes.</source>
-        <translation>Klicken Sie auf „Ja“, um fortzufahren, nachdem die Prozesse beendet wurden.
+        <translation>Klicken Sie auf „Ja“, um die Prozesse zu beenden und fortzufahren.
 Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 wird ausgeführt und sollte beendet werden, bevor das NVX-Start-Add-In konfiguriert werden kann.</translation>
+        <translation>%1 wird ausgeführt und sollte beendet werden, bevor das Add-In des NVX-Startprogramms konfiguriert wird.</translation>
     </message>
     <message>
         <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 werden ausgeführt und sollten beendet werden, bevor das NVX-Start-Add-In konfiguriert werden kann.</translation>
+        <translation>%1 werden ausgeführt und sollten beendet werden, bevor das Add-In des NVX-Startprogramms konfiguriert wird.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before continuing.</source>
@@ -434,7 +434,7 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     </message>
     <message>
         <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>Der Dienst verschwindet, sobald er beendet ist und kein anderes Programm mehr auf ihn zugreift</translation>
+        <translation>Der Dienst wird gelöscht, sobald er beendet ist und kein anderes Programm mehr auf ihn zugreift</translation>
     </message>
 </context>
 <context>
@@ -670,11 +670,11 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     </message>
     <message>
         <source>Validating Installation Path Velmora %1 %2 DIR=</source>
-        <translation>Überprüfen des Installationspfads Velmora %1 %2 DIR=</translation>
+        <translation>Überprüfen des Installationspfads von Velmora %1 %2 DIR=</translation>
     </message>
     <message>
         <source>Validating Installation Path Velmora NVX %1 DIR=</source>
-        <translation>Überprüfen des Installationspfads Velmora NVX %1 DIR=</translation>
+        <translation>Überprüfen des Installationspfads von Velmora NVX %1 DIR=</translation>
     </message>
     <message>
         <source>Install Path OK </source>
@@ -713,7 +713,7 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     </message>
     <message>
         <source>There is no folder of sources, nothing is translated</source>
-        <translation>Kein Quellordner vorhanden, es wird nichts übersetzt</translation>
+        <translation>Kein Quellcodeordner vorhanden, es wird nichts übersetzt</translation>
     </message>
     <message>
         <source>%1: %2 texts to translate</source>

@@ -36,7 +36,7 @@
     <name>CadSearch</name>
     <message>
         <source>%1 Install Dir:%2</source>
-        <translation>%1 Dossier d&apos;installation&#xa0;: %2</translation>
+        <translation>Dossier d&apos;installation de %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Using %1 Install Dir:%2</source>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>%1 Product Code =%2</source>
-        <translation>%1 Code de produit =%2</translation>
+        <translation>Code de produit de %1 =%2</translation>
     </message>
 </context>
 <context>
@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>The program was still running after %1 ms and has been ended.</source>
-        <translation>Le programme était toujours en cours d&apos;exécution après %1 ms et a été arrêté.</translation>
+        <translation>Le programme était toujours en cours d&apos;exécution après %1&#xa0;ms et a été arrêté.</translation>
     </message>
     <message>
         <source>The program crashed.</source>
@@ -314,22 +314,22 @@
     <message>
         <source>Click Yes to continue after the process is stopped.
 Click No to continue without stopping the process.</source>
-        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour continuer une fois le processus arrêté.
+        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour arrêter le processus et continuer.
 Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter le processus.</translation>
     </message>
     <message>
         <source>Click Yes to continue after the processes are stopped.
 Click No to continue without stopping the processes.</source>
-        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour continuer une fois les processus arrêtés.
+        <translation>Cliquez sur «&#xa0;Oui&#xa0;» pour arrêter les processus et continuer.
 Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 est en cours d&apos;exécution et doit être arrêté avant la configuration du complément de lancement de NVX.</translation>
+        <translation>%1 est en cours d&apos;exécution et doit être arrêté avant la configuration du complément du lanceur NVX.</translation>
     </message>
     <message>
         <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 sont en cours d&apos;exécution et doivent être arrêtés avant la configuration du complément de lancement de NVX.</translation>
+        <translation>%1 sont en cours d&apos;exécution et doivent être arrêtés avant la configuration du complément du lanceur NVX.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before continuing.</source>
@@ -434,7 +434,7 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     </message>
     <message>
         <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>Le service disparaîtra dès qu&apos;il sera terminé et qu&apos;aucun autre programme n&apos;y accédera plus</translation>
+        <translation>Le service sera supprimé dès qu&apos;il sera arrêté et qu&apos;aucun autre programme n&apos;y accédera plus</translation>
     </message>
 </context>
 <context>
@@ -658,11 +658,11 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     </message>
     <message>
         <source> Success</source>
-        <translation> : réussite</translation>
+        <translation> - réussite</translation>
     </message>
     <message>
         <source> Failed</source>
-        <translation> : échec</translation>
+        <translation> - échec</translation>
     </message>
     <message>
         <source>Command line arguments</source>
@@ -670,11 +670,11 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     </message>
     <message>
         <source>Validating Installation Path Velmora %1 %2 DIR=</source>
-        <translation>Validation du chemin d&apos;installation Velmora %1 %2 DIR=</translation>
+        <translation>Validation du chemin d&apos;installation de Velmora %1 %2 DIR=</translation>
     </message>
     <message>
         <source>Validating Installation Path Velmora NVX %1 DIR=</source>
-        <translation>Validation du chemin d&apos;installation Velmora NVX %1 DIR=</translation>
+        <translation>Validation du chemin d&apos;installation de Velmora NVX %1 DIR=</translation>
     </message>
     <message>
         <source>Install Path OK </source>
@@ -686,7 +686,7 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     </message>
     <message>
         <source>Program startup - Install path is empty or is invalid, resetting to:</source>
-        <translation>Démarrage du programme - Chemin d&apos;installation vide ou non valide, réinitialisation à&#xa0;:</translation>
+        <translation>Démarrage du programme - Chemin d&apos;installation vide ou non valide, remplacé par&#xa0;:</translation>
     </message>
     <message>
         <source>Removing installation path environment variables.</source>
@@ -713,15 +713,15 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     </message>
     <message>
         <source>There is no folder of sources, nothing is translated</source>
-        <translation>Aucun dossier source, rien n’est traduit</translation>
+        <translation>Aucun dossier de code source, rien n&apos;est traduit</translation>
     </message>
     <message>
         <source>%1: %2 texts to translate</source>
-        <translation>%1 : textes à traduire : %2</translation>
+        <translation>%1&#xa0;: textes à traduire&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 texts to translate in %2 files</source>
-        <translation>Textes à traduire : %1, fichiers : %2</translation>
+        <translation>Textes à traduire&#xa0;: %1, fichiers&#xa0;: %2</translation>
     </message>
 </context>
 </TS>

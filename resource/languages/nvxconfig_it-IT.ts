@@ -36,7 +36,7 @@
     <name>CadSearch</name>
     <message>
         <source>%1 Install Dir:%2</source>
-        <translation>%1 Cartella di installazione: %2</translation>
+        <translation>Cartella di installazione di %1: %2</translation>
     </message>
     <message>
         <source>Using %1 Install Dir:%2</source>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>%1 Product Code =%2</source>
-        <translation>%1 Codice prodotto =%2</translation>
+        <translation>Codice prodotto di %1 =%2</translation>
     </message>
 </context>
 <context>
@@ -314,22 +314,22 @@
     <message>
         <source>Click Yes to continue after the process is stopped.
 Click No to continue without stopping the process.</source>
-        <translation>Fare clic su Sì per continuare dopo l&apos;arresto del processo.
+        <translation>Fare clic su Sì per arrestare il processo e continuare.
 Fare clic su No per continuare senza arrestare il processo.</translation>
     </message>
     <message>
         <source>Click Yes to continue after the processes are stopped.
 Click No to continue without stopping the processes.</source>
-        <translation>Fare clic su Sì per continuare dopo l&apos;arresto dei processi.
+        <translation>Fare clic su Sì per arrestare i processi e continuare.
 Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 è in esecuzione e deve essere arrestato prima di poter configurare il componente aggiuntivo di avvio di NVX.</translation>
+        <translation>%1 è in esecuzione e deve essere arrestato prima di poter configurare il componente aggiuntivo del programma di avvio di NVX.</translation>
     </message>
     <message>
         <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 sono in esecuzione e devono essere arrestati prima di poter configurare il componente aggiuntivo di avvio di NVX.</translation>
+        <translation>%1 sono in esecuzione e devono essere arrestati prima di poter configurare il componente aggiuntivo del programma di avvio di NVX.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before continuing.</source>
@@ -434,7 +434,7 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
     <message>
         <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>Il servizio verrà eliminato quando sarà terminato e nessun altro programma vi accederà più</translation>
+        <translation>Il servizio verrà eliminato quando sarà stato arrestato e nessun altro programma vi accederà più</translation>
     </message>
 </context>
 <context>
@@ -670,11 +670,11 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
     <message>
         <source>Validating Installation Path Velmora %1 %2 DIR=</source>
-        <translation>Verifica del percorso di installazione Velmora %1 %2 DIR=</translation>
+        <translation>Verifica del percorso di installazione di Velmora %1 %2 DIR=</translation>
     </message>
     <message>
         <source>Validating Installation Path Velmora NVX %1 DIR=</source>
-        <translation>Verifica del percorso di installazione Velmora NVX %1 DIR=</translation>
+        <translation>Verifica del percorso di installazione di Velmora NVX %1 DIR=</translation>
     </message>
     <message>
         <source>Install Path OK </source>

@@ -36,15 +36,15 @@
     <name>CadSearch</name>
     <message>
         <source>%1 Install Dir:%2</source>
-        <translation>%1 インストール フォルダー: %2</translation>
+        <translation>%1 のインストール フォルダー: %2</translation>
     </message>
     <message>
         <source>Using %1 Install Dir:%2</source>
-        <translation>使用: %1 インストール フォルダー: %2</translation>
+        <translation>%1 を使用します。インストール フォルダー: %2</translation>
     </message>
     <message>
         <source>%1 Product Code =%2</source>
-        <translation>%1 製品コード =%2</translation>
+        <translation>%1 の製品コード =%2</translation>
     </message>
 </context>
 <context>
@@ -137,11 +137,11 @@
     <name>CreoLauncher</name>
     <message>
         <source> Creo Remove:</source>
-        <translation> Creo 削除:</translation>
+        <translation> - Creo 削除:</translation>
     </message>
     <message>
         <source>Removing Ostrade from:</source>
-        <translation>Ostrade を削除しています:</translation>
+        <translation>次のファイルから Ostrade を削除しています:</translation>
     </message>
     <message>
         <source>Writing </source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Installation error matprop.mdb does not exist?</source>
-        <translation>インストール エラー: matprop.mdb がありませんか?</translation>
+        <translation>インストール エラー: matprop.mdb が存在しない可能性があります</translation>
     </message>
     <message>
         <source>Installation error: </source>
@@ -325,11 +325,11 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 が実行中です。NVX 起動アドインを構成する前に終了してください。</translation>
+        <translation>%1 が実行中です。NVX ランチャーのアドインを構成する前に終了してください。</translation>
     </message>
     <message>
         <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 が実行中です。NVX 起動アドインを構成する前に、すべて終了してください。</translation>
+        <translation>%1 が実行中です。NVX ランチャーのアドインを構成する前に、すべて終了してください。</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before continuing.</source>
@@ -638,7 +638,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Processors: %1, Cores per processor: %2</source>
-        <translation>プロセッサ: %1、プロセッサあたりのコア: %2</translation>
+        <translation>プロセッサ数: %1、プロセッサあたりのコア数: %2</translation>
     </message>
     <message>
         <source>Command Line:</source>
@@ -713,7 +713,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>There is no folder of sources, nothing is translated</source>
-        <translation>ソース フォルダーがないため、何も翻訳されません</translation>
+        <translation>ソース コードのフォルダーがないため、何も翻訳されません</translation>
     </message>
     <message>
         <source>%1: %2 texts to translate</source>

@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>Using %1 Install Dir:%2</source>
-        <translation>사용: %1 설치 폴더: %2</translation>
+        <translation>%1 사용, 설치 폴더: %2</translation>
     </message>
     <message>
         <source>%1 Product Code =%2</source>
@@ -137,11 +137,11 @@
     <name>CreoLauncher</name>
     <message>
         <source> Creo Remove:</source>
-        <translation> Creo 제거:</translation>
+        <translation> - Creo 제거:</translation>
     </message>
     <message>
         <source>Removing Ostrade from:</source>
-        <translation>Ostrade를 제거하는 중:</translation>
+        <translation>다음 파일에서 Ostrade를 제거하는 중:</translation>
     </message>
     <message>
         <source>Writing </source>
@@ -226,11 +226,11 @@
     </message>
     <message>
         <source>Unable to write %1</source>
-        <translation>%1을(를) 쓸 수 없습니다</translation>
+        <translation>%1에 쓸 수 없습니다</translation>
     </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>시스템 코드 페이지로 설치 폴더의 이름을 나타낼 수 없어 시작 관리자를 %1에 등록하지 않습니다</translation>
+        <translation>시스템 코드 페이지로 설치 폴더의 이름을 나타낼 수 없어 런처를 %1에 등록하지 않습니다</translation>
     </message>
 </context>
 <context>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Installation error matprop.mdb does not exist?</source>
-        <translation>설치 오류: matprop.mdb 파일이 없습니까?</translation>
+        <translation>설치 오류: matprop.mdb 파일이 없는 것 같습니다.</translation>
     </message>
     <message>
         <source>Installation error: </source>
@@ -320,16 +320,16 @@ Click No to continue without stopping the process.</source>
     <message>
         <source>Click Yes to continue after the processes are stopped.
 Click No to continue without stopping the processes.</source>
-        <translation>이 프로세스들을 종료한 후 계속하려면 [예]를 클릭하십시오.
-이 프로세스들을 종료하지 않고 계속하려면 [아니요]를 클릭하십시오.</translation>
+        <translation>이러한 프로세스를 종료한 후 계속하려면 [예]를 클릭하십시오.
+이러한 프로세스를 종료하지 않고 계속하려면 [아니요]를 클릭하십시오.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1이(가) 실행 중입니다. NVX 시작 추가 기능을 구성하려면 먼저 종료해야 합니다.</translation>
+        <translation>%1이(가) 실행 중입니다. NVX 런처 추가 기능을 구성하려면 먼저 종료해야 합니다.</translation>
     </message>
     <message>
         <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1이(가) 실행 중입니다. NVX 시작 추가 기능을 구성하려면 먼저 모두 종료해야 합니다.</translation>
+        <translation>%1이(가) 실행 중입니다. NVX 런처 추가 기능을 구성하려면 먼저 모두 종료해야 합니다.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before continuing.</source>
@@ -453,7 +453,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>This text is too long for a shortcut: %1</source>
-        <translation>이 텍스트는 바로 가기에 사용하기에 너무 깁니다: %1</translation>
+        <translation>이 텍스트는 너무 길어 바로 가기에 사용할 수 없습니다: %1</translation>
     </message>
     <message>
         <source>Create shortcut </source>
@@ -482,7 +482,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Unable to write %1</source>
-        <translation>%1을(를) 쓸 수 없습니다</translation>
+        <translation>%1에 쓸 수 없습니다</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>
@@ -638,7 +638,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Processors: %1, Cores per processor: %2</source>
-        <translation>프로세서: %1, 프로세서당 코어: %2</translation>
+        <translation>프로세서 수: %1, 프로세서당 코어 수: %2</translation>
     </message>
     <message>
         <source>Command Line:</source>
@@ -713,7 +713,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>There is no folder of sources, nothing is translated</source>
-        <translation>소스 폴더가 없어 아무것도 번역하지 않습니다</translation>
+        <translation>소스 코드 폴더가 없어 아무것도 번역하지 않습니다</translation>
     </message>
     <message>
         <source>%1: %2 texts to translate</source>

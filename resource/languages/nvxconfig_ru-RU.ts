@@ -36,7 +36,7 @@
     <name>CadSearch</name>
     <message>
         <source>%1 Install Dir:%2</source>
-        <translation>%1 Папка установки: %2</translation>
+        <translation>Папка установки %1: %2</translation>
     </message>
     <message>
         <source>Using %1 Install Dir:%2</source>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>%1 Product Code =%2</source>
-        <translation>%1 Код продукта =%2</translation>
+        <translation>Код продукта %1 =%2</translation>
     </message>
 </context>
 <context>
@@ -108,7 +108,7 @@
     </message>
     <message>
         <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
-        <translation>Имя этой папки нельзя записать в кодовой странице командного интерпретатора, папка не удалена: %1</translation>
+        <translation>Имя этой папки невозможно представить в кодовой странице командного интерпретатора, папка не удалена: %1</translation>
     </message>
     <message>
         <source>Unable to create %1, this folder is not removed: %2</source>
@@ -137,7 +137,7 @@
     <name>CreoLauncher</name>
     <message>
         <source> Creo Remove:</source>
-        <translation> Creo – удаление:</translation>
+        <translation> Creo — удаление:</translation>
     </message>
     <message>
         <source>Removing Ostrade from:</source>
@@ -203,7 +203,7 @@
     <name>FileAssociations</name>
     <message>
         <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
-        <translation>Папку нельзя записать в кодовой странице системы, файлы не сопоставлены с продуктом: %1</translation>
+        <translation>Имя папки невозможно представить в кодовой странице системы, файлы не сопоставлены с продуктом: %1</translation>
     </message>
     <message>
         <source>Unable to create %1</source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
-        <translation>Имя папки установки нельзя записать в кодовой странице системы, модуль запуска не внесён в %1</translation>
+        <translation>Имя папки установки невозможно представить в кодовой странице системы, модуль запуска не внесен в %1</translation>
     </message>
 </context>
 <context>
@@ -314,22 +314,22 @@
     <message>
         <source>Click Yes to continue after the process is stopped.
 Click No to continue without stopping the process.</source>
-        <translation>Нажмите кнопку «Да», чтобы продолжить после остановки процесса.
+        <translation>Нажмите кнопку «Да», чтобы остановить процесс и продолжить.
 Нажмите кнопку «Нет», чтобы продолжить без остановки процесса.</translation>
     </message>
     <message>
         <source>Click Yes to continue after the processes are stopped.
 Click No to continue without stopping the processes.</source>
-        <translation>Нажмите кнопку «Да», чтобы продолжить после остановки процессов.
+        <translation>Нажмите кнопку «Да», чтобы остановить процессы и продолжить.
 Нажмите кнопку «Нет», чтобы продолжить без остановки процессов.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>Программа %1 запущена. Ее следует остановить, прежде чем можно будет настроить надстройку запуска NVX.</translation>
+        <translation>Программа %1 запущена. Ее следует остановить, прежде чем настраивать надстройку модуля запуска NVX.</translation>
     </message>
     <message>
         <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>Программы %1 запущены. Их следует остановить, прежде чем можно будет настроить надстройку запуска NVX.</translation>
+        <translation>Программы %1 запущены. Их следует остановить, прежде чем настраивать надстройку модуля запуска NVX.</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before continuing.</source>
@@ -505,7 +505,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Remove: Report .pyc files</source>
-        <translation>Удаление: файлы .pyc отчётов</translation>
+        <translation>Удаление: файлы .pyc отчетов</translation>
     </message>
     <message>
         <source> Sorvane</source>
@@ -590,7 +590,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source> has changed, not removing</source>
-        <translation> изменён и не удаляется</translation>
+        <translation> изменен и не удаляется</translation>
     </message>
     <message>
         <source>Creating </source>
@@ -634,7 +634,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>The installation or update is complete. Click finish to continue.</source>
-        <translation>Установка или обновление завершены. Чтобы продолжить, нажмите кнопку «Завершить».</translation>
+        <translation>Установка или обновление завершено. Чтобы продолжить, нажмите кнопку «Завершить».</translation>
     </message>
     <message>
         <source>Processors: %1, Cores per processor: %2</source>
@@ -690,11 +690,11 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Removing installation path environment variables.</source>
-        <translation>Удаление переменных среды с путём установки:</translation>
+        <translation>Удаление переменных среды с путем установки:</translation>
     </message>
     <message>
         <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
-        <translation>Папку нельзя записать в кодовой странице системы, переменная %1 не задана</translation>
+        <translation>Имя папки невозможно представить в кодовой странице системы, переменная %1 не задана</translation>
     </message>
     <message>
         <source>Searching for CAD Packages</source>
@@ -709,7 +709,7 @@ Click No to continue without stopping the processes.</source>
     <name>util::util_localization_tool</name>
     <message>
         <source>%1 is damaged</source>
-        <translation>Файл %1 повреждён</translation>
+        <translation>Файл %1 поврежден</translation>
     </message>
     <message>
         <source>There is no folder of sources, nothing is translated</source>

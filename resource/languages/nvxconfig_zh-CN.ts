@@ -137,7 +137,7 @@
     <name>CreoLauncher</name>
     <message>
         <source> Creo Remove:</source>
-        <translation> Creo 删除：</translation>
+        <translation> - Creo 删除：</translation>
     </message>
     <message>
         <source>Removing Ostrade from:</source>
@@ -314,22 +314,22 @@
     <message>
         <source>Click Yes to continue after the process is stopped.
 Click No to continue without stopping the process.</source>
-        <translation>单击“是”，在进程停止后继续。
-单击“否”，不停止进程并继续。</translation>
+        <translation>单击“是”，停止进程并继续。
+单击“否”，直接继续而不停止进程。</translation>
     </message>
     <message>
         <source>Click Yes to continue after the processes are stopped.
 Click No to continue without stopping the processes.</source>
-        <translation>单击“是”，在这些进程停止后继续。
-单击“否”，不停止这些进程并继续。</translation>
+        <translation>单击“是”，停止这些进程并继续。
+单击“否”，直接继续而不停止这些进程。</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 正在运行，应先将其停止，然后才能配置 NVX 启动加载项。</translation>
+        <translation>%1 正在运行，应先将其停止，然后才能配置 NVX 启动程序加载项。</translation>
     </message>
     <message>
         <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 正在运行，应先将它们全部停止，然后才能配置 NVX 启动加载项。</translation>
+        <translation>%1 正在运行，应先将它们全部停止，然后才能配置 NVX 启动程序加载项。</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before continuing.</source>
@@ -445,7 +445,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>没有所有用户的桌面文件夹，不会创建快捷方式</translation>
+        <translation>不存在所有用户共用的桌面文件夹，不会创建快捷方式</translation>
     </message>
     <message>
         <source>Unable to remove %1</source>
@@ -453,7 +453,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>This text is too long for a shortcut: %1</source>
-        <translation>此文本对于快捷方式来说过长：%1</translation>
+        <translation>此文本过长，无法用于快捷方式：%1</translation>
     </message>
     <message>
         <source>Create shortcut </source>
@@ -610,7 +610,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Install Language: </source>
-        <translation>安装语言 </translation>
+        <translation>安装语言： </translation>
     </message>
     <message>
         <source>ChangeLanguage = </source>
@@ -638,7 +638,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Processors: %1, Cores per processor: %2</source>
-        <translation>处理器：%1，每个处理器的内核数：%2</translation>
+        <translation>处理器数：%1，每个处理器的内核数：%2</translation>
     </message>
     <message>
         <source>Command Line:</source>
@@ -713,7 +713,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>There is no folder of sources, nothing is translated</source>
-        <translation>没有源文件夹，不进行任何翻译</translation>
+        <translation>没有源代码文件夹，不进行任何翻译</translation>
     </message>
     <message>
         <source>%1: %2 texts to translate</source>

@@ -137,7 +137,7 @@
     <name>CreoLauncher</name>
     <message>
         <source> Creo Remove:</source>
-        <translation> Creo 移除：</translation>
+        <translation> - Creo 移除：</translation>
     </message>
     <message>
         <source>Removing Ostrade from:</source>
@@ -314,22 +314,22 @@
     <message>
         <source>Click Yes to continue after the process is stopped.
 Click No to continue without stopping the process.</source>
-        <translation>按一下 [是]，在處理程序停止後繼續。
-按一下 [否]，不停止處理程序並繼續。</translation>
+        <translation>按一下 [是]，停止處理程序並繼續。
+按一下 [否]，直接繼續而不停止處理程序。</translation>
     </message>
     <message>
         <source>Click Yes to continue after the processes are stopped.
 Click No to continue without stopping the processes.</source>
-        <translation>按一下 [是]，在這些處理程序停止後繼續。
-按一下 [否]，不停止這些處理程序並繼續。</translation>
+        <translation>按一下 [是]，停止這些處理程序並繼續。
+按一下 [否]，直接繼續而不停止這些處理程序。</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 正在執行，應先將其停止，才能設定 NVX 啟動增益集。</translation>
+        <translation>%1 正在執行，應先將其停止，才能設定 NVX 啟動程式增益集。</translation>
     </message>
     <message>
         <source>%1 are running, and should be stopped before the NVX launcher add-in can be configured.</source>
-        <translation>%1 正在執行，應先將其全部停止，才能設定 NVX 啟動增益集。</translation>
+        <translation>%1 正在執行，應先將其全部停止，才能設定 NVX 啟動程式增益集。</translation>
     </message>
     <message>
         <source>%1 is running, and should be stopped before continuing.</source>
@@ -445,7 +445,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>There is no desktop folder of all users, it gets no shortcut</source>
-        <translation>沒有所有使用者的桌面資料夾，不會建立捷徑</translation>
+        <translation>所有使用者共用的桌面資料夾不存在，不會建立捷徑</translation>
     </message>
     <message>
         <source>Unable to remove %1</source>
@@ -453,7 +453,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>This text is too long for a shortcut: %1</source>
-        <translation>此文字對捷徑來說過長：%1</translation>
+        <translation>此文字過長，無法用於捷徑：%1</translation>
     </message>
     <message>
         <source>Create shortcut </source>
@@ -610,7 +610,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Install Language: </source>
-        <translation>安裝語言 </translation>
+        <translation>安裝語言： </translation>
     </message>
     <message>
         <source>ChangeLanguage = </source>
@@ -638,7 +638,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Processors: %1, Cores per processor: %2</source>
-        <translation>處理器：%1，每個處理器的核心數：%2</translation>
+        <translation>處理器數目：%1，每個處理器的核心數：%2</translation>
     </message>
     <message>
         <source>Command Line:</source>
@@ -713,7 +713,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>There is no folder of sources, nothing is translated</source>
-        <translation>沒有來源資料夾，不進行任何翻譯</translation>
+        <translation>沒有原始程式碼資料夾，不進行任何翻譯</translation>
     </message>
     <message>
         <source>%1: %2 texts to translate</source>

@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>%1 has changes that are not saved. Save them?</source>
-        <translation>%1 contient des modifications non enregistrées. Voulez-vous les enregistrer ?</translation>
+        <translation>%1 contient des modifications non enregistrées. Voulez-vous les enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>Could not save %1
@@ -53,15 +53,15 @@
 The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
         <translation>Impossible d&apos;enregistrer %1
 
-L&apos;emplacement est peut-être protégé en écriture ou plein. La table reste ouverte ici, non enregistrée ; enregistrez-la à un autre emplacement.</translation>
+L&apos;emplacement est peut-être protégé en écriture ou plein. La table reste ouverte ici, non enregistrée&#xa0;; enregistrez-la à un autre emplacement.</translation>
     </message>
     <message>
         <source>Rows: %L1</source>
-        <translation>Lignes : %L1</translation>
+        <translation>Lignes&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Rows: %L1 of %L2</source>
-        <translation>Lignes : %L1 sur %L2</translation>
+        <translation>Lignes&#xa0;: %L1 sur %L2</translation>
     </message>
     <message>
         <source>%1 (not saved)</source>

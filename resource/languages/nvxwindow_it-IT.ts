@@ -34,7 +34,7 @@
     <name>Window::RecentFiles</name>
     <message>
         <source>Open &amp;Recent</source>
-        <translation>Apri &amp;recenti</translation>
+        <translation>File &amp;recenti</translation>
     </message>
 </context>
 <context>
@@ -93,7 +93,7 @@ La posizione potrebbe essere protetta da scrittura o piena. La tabella resta ape
     </message>
     <message>
         <source>Help</source>
-        <translation>Aiuto</translation>
+        <translation>Guida</translation>
     </message>
     <message>
         <source>About...</source>

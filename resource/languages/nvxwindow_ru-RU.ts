@@ -53,7 +53,7 @@
 The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
         <translation>Не удалось сохранить %1
 
-Возможно, место защищено от записи или переполнено. Таблица остается открытой и не сохранена; сохраните ее в другом месте.</translation>
+Возможно, расположение защищено от записи или на нем нет свободного места. Таблица остается открытой и не сохранена; сохраните ее в другом месте.</translation>
     </message>
     <message>
         <source>Rows: %L1</source>

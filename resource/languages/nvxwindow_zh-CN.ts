@@ -5,7 +5,7 @@
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
-        <translation>筛选 (Ctrl+F)</translation>
+        <translation>筛选（Ctrl+F）</translation>
     </message>
     <message>
         <source>Shows the rows with this text only</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>%1 has changes that are not saved. Save them?</source>
-        <translation>%1 中有未保存的更改。是否保存?</translation>
+        <translation>%1 中有未保存的更改。是否保存？</translation>
     </message>
     <message>
         <source>Could not save %1
@@ -53,19 +53,19 @@
 The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
         <translation>无法保存 %1
 
-该位置可能被写保护或已满。表仍保留在此处且尚未保存，请保存到其他位置。</translation>
+该位置可能有写保护或空间已满。表仍保留在此处且尚未保存，请保存到其他位置。</translation>
     </message>
     <message>
         <source>Rows: %L1</source>
-        <translation>行数: %L1</translation>
+        <translation>行数：%L1</translation>
     </message>
     <message>
         <source>Rows: %L1 of %L2</source>
-        <translation>行数: %L1 / %L2</translation>
+        <translation>行数：%L1 / %L2</translation>
     </message>
     <message>
         <source>%1 (not saved)</source>
-        <translation>%1 (未保存)</translation>
+        <translation>%1（未保存）</translation>
     </message>
     <message>
         <source>New</source>

@@ -5,7 +5,7 @@
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
-        <translation>篩選 (Ctrl+F)</translation>
+        <translation>篩選（Ctrl+F）</translation>
     </message>
     <message>
         <source>Shows the rows with this text only</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>%1 has changes that are not saved. Save them?</source>
-        <translation>%1 有尚未儲存的變更。要儲存嗎?</translation>
+        <translation>%1 有尚未儲存的變更。要儲存嗎？</translation>
     </message>
     <message>
         <source>Could not save %1
@@ -57,15 +57,15 @@ The place may be write-protected or full. The table is kept here, not saved; sav
     </message>
     <message>
         <source>Rows: %L1</source>
-        <translation>列數: %L1</translation>
+        <translation>列數：%L1</translation>
     </message>
     <message>
         <source>Rows: %L1 of %L2</source>
-        <translation>列數: %L1 / %L2</translation>
+        <translation>列數：%L1 / %L2</translation>
     </message>
     <message>
         <source>%1 (not saved)</source>
-        <translation>%1 (未儲存)</translation>
+        <translation>%1（未儲存）</translation>
     </message>
     <message>
         <source>New</source>

@@ -40,7 +40,7 @@ const QHash<QString, Words> wordsOf{
      {QStringLiteral("메시지 테이블 유틸리티"), QStringLiteral("열기..."), QStringLiteral("동기화..."),
       QStringLiteral("상태")}},
     {QStringLiteral("ru-RU"),
-     {QStringLiteral("Программа таблицы сообщений"), QStringLiteral("Открыть..."),
+     {QStringLiteral("Программа для работы с таблицами сообщений"), QStringLiteral("Открыть..."),
       QStringLiteral("Синхронизировать..."), QStringLiteral("Состояние")}},
     {QStringLiteral("zh-CN"),
      {QStringLiteral("消息表实用程序"), QStringLiteral("打开..."), QStringLiteral("同步..."),

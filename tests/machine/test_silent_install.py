@@ -74,7 +74,7 @@ class SilentInstall(MachineCase):
         for line in (
             "   0 Installation der Tutorials",
             "   0 Installation von Python (lokal für NVX)",
-            "   0 Installation des Mertle Server",
+            "   0 Installation von Mertle Server",
         ):
             self.assertIn(line, self.first[1])
         self.assertNotIn(COMPLETE, self.first[1])

@@ -38,17 +38,17 @@ const QHash<QString, Words> wordsOf{
       QStringLiteral("3 個の名前が見つかりました (新規 2、既存 -1、廃止 2)")}},
     {QStringLiteral("ko-KR"),
      {QStringLiteral("재료 이름 유틸리티"), QStringLiteral("열기..."), QStringLiteral("번역"),
-      QStringLiteral("이름 3개를 찾았습니다(신규 2개, 기존 -1개, 폐기 2개)")}},
+      QStringLiteral("이름 3개를 찾았습니다(신규 2개, 기존 -1개, 사용되지 않음 2개)")}},
     {QStringLiteral("ru-RU"),
-     {QStringLiteral("Программа названий материалов"), QStringLiteral("Открыть..."),
+     {QStringLiteral("Программа для работы с названиями материалов"), QStringLiteral("Открыть..."),
       QStringLiteral("Перевод"),
       QStringLiteral("Найдено названий: 3 (новых: 2, существующих: -1, устаревших: 2)")}},
     {QStringLiteral("zh-CN"),
      {QStringLiteral("材料名称实用程序"), QStringLiteral("打开..."), QStringLiteral("翻译"),
-      QStringLiteral("找到 3 个名称(2 个新增、-1 个现有、2 个已过时)")}},
+      QStringLiteral("找到 3 个名称（新增 2 个，现有 -1 个，已过时 2 个）")}},
     {QStringLiteral("zh-TW"),
      {QStringLiteral("材料名稱公用程式"), QStringLiteral("開啟..."), QStringLiteral("翻譯"),
-      QStringLiteral("找到 3 個名稱 (2 個新增、-1 個現有、2 個過時)")}},
+      QStringLiteral("找到 3 個名稱（新增 2 個，現有 -1 個，過時 2 個）")}},
 };
 
 } // namespace
