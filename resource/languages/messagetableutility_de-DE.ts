@@ -32,11 +32,11 @@
     </message>
     <message>
         <source>Found in the sources, not reviewed yet</source>
-        <translation>In den Quellen gefunden, noch nicht geprüft</translation>
+        <translation>Im Quellcode gefunden, noch nicht geprüft</translation>
     </message>
     <message>
         <source>Not found in the sources any more</source>
-        <translation>In den Quellen nicht mehr vorhanden</translation>
+        <translation>Im Quellcode nicht mehr vorhanden</translation>
     </message>
     <message>
         <source>Message Table Utility</source>
@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Table saved as %1</source>
-        <translation>Tabelle gespeichert als %1</translation>
+        <translation>Tabelle als %1 gespeichert</translation>
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>

@@ -32,11 +32,11 @@
     </message>
     <message>
         <source>Found in the sources, not reviewed yet</source>
-        <translation>Trouvé dans les sources, pas encore vérifié</translation>
+        <translation>Trouvé dans le code source, pas encore vérifié</translation>
     </message>
     <message>
         <source>Not found in the sources any more</source>
-        <translation>Ne figure plus dans les sources</translation>
+        <translation>Ne figure plus dans le code source</translation>
     </message>
     <message>
         <source>Message Table Utility</source>

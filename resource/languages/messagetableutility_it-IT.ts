@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>
-        <translation>Caricamento della tabella messaggi &quot;%1&quot;...</translation>
+        <translation>Caricamento della tabella messaggi “%1”...</translation>
     </message>
     <message>
         <source>Open Visual Studio Project</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Could not load &apos;%1&apos;: %2</source>
-        <translation>Impossibile caricare &apos;%1&apos;: %2</translation>
+        <translation>Impossibile caricare “%1”: %2</translation>
     </message>
     <message>
         <source>Added %1 new strings to %2</source>

@@ -32,11 +32,11 @@
     </message>
     <message>
         <source>Found in the sources, not reviewed yet</source>
-        <translation>ソースで見つかりましたが、まだ確認されていません</translation>
+        <translation>ソース コードで見つかりましたが、まだ確認されていません</translation>
     </message>
     <message>
         <source>Not found in the sources any more</source>
-        <translation>ソースに存在しなくなりました</translation>
+        <translation>ソース コードに存在しなくなりました</translation>
     </message>
     <message>
         <source>Message Table Utility</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>
-        <translation>メッセージ テーブル &quot;%1&quot; を読み込んでいます...</translation>
+        <translation>メッセージ テーブル「%1」を読み込んでいます...</translation>
     </message>
     <message>
         <source>Open Visual Studio Project</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Could not load &apos;%1&apos;: %2</source>
-        <translation>&apos;%1&apos; を読み込めませんでした: %2</translation>
+        <translation>「%1」を読み込めませんでした: %2</translation>
     </message>
     <message>
         <source>Added %1 new strings to %2</source>

@@ -32,11 +32,11 @@
     </message>
     <message>
         <source>Found in the sources, not reviewed yet</source>
-        <translation>소스에서 찾았지만 아직 검토되지 않았습니다</translation>
+        <translation>소스 코드에서 찾았지만 아직 검토되지 않았습니다</translation>
     </message>
     <message>
         <source>Not found in the sources any more</source>
-        <translation>소스에 더 이상 없습니다</translation>
+        <translation>소스 코드에 더 이상 없습니다</translation>
     </message>
     <message>
         <source>Message Table Utility</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>
-        <translation>메시지 테이블 &quot;%1&quot;을(를) 불러오는 중...</translation>
+        <translation>메시지 테이블 “%1”을(를) 불러오는 중...</translation>
     </message>
     <message>
         <source>Open Visual Studio Project</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Could not load &apos;%1&apos;: %2</source>
-        <translation>&apos;%1&apos;을(를) 불러올 수 없습니다: %2</translation>
+        <translation>“%1”을(를) 불러올 수 없습니다: %2</translation>
     </message>
     <message>
         <source>Added %1 new strings to %2</source>

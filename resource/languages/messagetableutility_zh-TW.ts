@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Table saved as %1</source>
-        <translation>已將表格儲存為 %1</translation>
+        <translation>已將表格另存為 %1</translation>
     </message>
     <message>
         <source>Loading message table &quot;%1&quot;...</source>

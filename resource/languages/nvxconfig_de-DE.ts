@@ -464,7 +464,7 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     <name>SpaceClaimLauncher</name>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>Kopieren:%1 nach: %2</translation>
+        <translation>Kopieren: %1 nach: %2</translation>
     </message>
 </context>
 <context>
@@ -486,7 +486,7 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     </message>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>Kopieren:%1 nach: %2</translation>
+        <translation>Kopieren: %1 nach: %2</translation>
     </message>
     <message>
         <source>Tamsel Addin</source>
@@ -618,7 +618,7 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     </message>
     <message>
         <source>COPY:%1 to %2</source>
-        <translation>KOPIEREN:%1 nach %2</translation>
+        <translation>KOPIEREN: %1 nach %2</translation>
     </message>
     <message>
         <source>Remove:</source>

@@ -137,7 +137,7 @@
     <name>CreoLauncher</name>
     <message>
         <source> Creo Remove:</source>
-        <translation> Creo – suppression&#xa0;:</translation>
+        <translation> Creo - suppression&#xa0;:</translation>
     </message>
     <message>
         <source>Removing Ostrade from:</source>

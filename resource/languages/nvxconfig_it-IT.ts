@@ -137,7 +137,7 @@
     <name>CreoLauncher</name>
     <message>
         <source> Creo Remove:</source>
-        <translation> Creo – rimozione:</translation>
+        <translation> Creo - rimozione:</translation>
     </message>
     <message>
         <source>Removing Ostrade from:</source>
@@ -464,7 +464,7 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     <name>SpaceClaimLauncher</name>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>Copia:%1 in: %2</translation>
+        <translation>Copia: %1 in: %2</translation>
     </message>
 </context>
 <context>
@@ -486,7 +486,7 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>Copia:%1 in: %2</translation>
+        <translation>Copia: %1 in: %2</translation>
     </message>
     <message>
         <source>Tamsel Addin</source>
@@ -618,7 +618,7 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
     <message>
         <source>COPY:%1 to %2</source>
-        <translation>COPIA:%1 in %2</translation>
+        <translation>COPIA: %1 in %2</translation>
     </message>
     <message>
         <source>Remove:</source>

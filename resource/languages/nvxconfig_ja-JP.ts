@@ -464,7 +464,7 @@ Click No to continue without stopping the processes.</source>
     <name>SpaceClaimLauncher</name>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>コピー:%1 → %2</translation>
+        <translation>コピー: %1 → %2</translation>
     </message>
 </context>
 <context>
@@ -486,7 +486,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>コピー:%1 → %2</translation>
+        <translation>コピー: %1 → %2</translation>
     </message>
     <message>
         <source>Tamsel Addin</source>
@@ -618,7 +618,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>COPY:%1 to %2</source>
-        <translation>コピー:%1 → %2</translation>
+        <translation>コピー: %1 → %2</translation>
     </message>
     <message>
         <source>Remove:</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source> Python (locally for NVX)</source>
-        <translation> - Python (NVX 전용)</translation>
+        <translation> - Python(NVX 전용)</translation>
     </message>
     <message>
         <source>Installing Python</source>
@@ -464,7 +464,7 @@ Click No to continue without stopping the processes.</source>
     <name>SpaceClaimLauncher</name>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>복사:%1 → %2</translation>
+        <translation>복사: %1 → %2</translation>
     </message>
 </context>
 <context>
@@ -486,7 +486,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>복사:%1 → %2</translation>
+        <translation>복사: %1 → %2</translation>
     </message>
     <message>
         <source>Tamsel Addin</source>
@@ -618,7 +618,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>COPY:%1 to %2</source>
-        <translation>복사:%1 → %2</translation>
+        <translation>복사: %1 → %2</translation>
     </message>
     <message>
         <source>Remove:</source>
@@ -721,7 +721,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>%1 texts to translate in %2 files</source>
-        <translation>번역할 텍스트 %1개 (파일 %2개)</translation>
+        <translation>번역할 텍스트 %1개(파일 %2개)</translation>
     </message>
 </context>
 </TS>

@@ -464,7 +464,7 @@ Click No to continue without stopping the processes.</source>
     <name>SpaceClaimLauncher</name>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>Копирование:%1 в: %2</translation>
+        <translation>Копирование: %1 в: %2</translation>
     </message>
 </context>
 <context>
@@ -486,7 +486,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>
-        <translation>Копирование:%1 в: %2</translation>
+        <translation>Копирование: %1 в: %2</translation>
     </message>
     <message>
         <source>Tamsel Addin</source>
@@ -618,7 +618,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>COPY:%1 to %2</source>
-        <translation>КОПИРОВАНИЕ:%1 в %2</translation>
+        <translation>КОПИРОВАНИЕ: %1 в %2</translation>
     </message>
     <message>
         <source>Remove:</source>
@@ -713,7 +713,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>There is no folder of sources, nothing is translated</source>
-        <translation>Папка с исходными файлами отсутствует, перевод не выполняется</translation>
+        <translation>Папка с исходным кодом отсутствует, перевод не выполняется</translation>
     </message>
     <message>
         <source>%1: %2 texts to translate</source>

@@ -58,11 +58,6 @@ QStringList optionsOf(const QString &text)
     return options;
 }
 
-QString nameOf(const Entry &entry)
-{
-    return entry.context + QStringLiteral(": ") + entry.source;
-}
-
 QStringList keyOf(const Entry &entry)
 {
     return {entry.context, entry.source, entry.comment};
@@ -103,6 +98,31 @@ bool keepsProductNames(const Entry &entry)
 bool keepsOptions(const Entry &entry)
 {
     return everyFormKeeps(entry, optionsOf);
+}
+
+bool keepsEllipses(const Entry &entry)
+{
+    // Runs of dots in a row, full stops alone aside, and the characters for an ellipsis.
+    static const QRegularExpression ellipsis(QStringLiteral("[.。・]{2,}|…|⋯"));
+    const auto ellipsesOf = [](const QString &text) {
+        QStringList found;
+        auto matches = ellipsis.globalMatch(text);
+        while (matches.hasNext())
+            found.append(matches.next().captured());
+        return found;
+    };
+    return everyFormKeeps(entry, ellipsesOf);
+}
+
+QString withoutAccessKeys(QString text)
+{
+    static const QRegularExpression accessKey(QStringLiteral("\\(&.\\)|&"));
+    return text.remove(accessKey);
+}
+
+QString nameOf(const Entry &entry)
+{
+    return entry.context + QStringLiteral(": ") + entry.source;
 }
 
 QStringList offenders(const QList<Entry> &entries, bool (*check)(const Entry &))

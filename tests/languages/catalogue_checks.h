@@ -23,6 +23,15 @@ bool keepsProductNames(const Entry &entry);
 /// A line that begins with an option of the command line ("-I Install mode") still begins with that option.
 bool keepsOptions(const Entry &entry);
 
+/// As many ellipses as the source, each written as three dots; every language of the interface does so.
+bool keepsEllipses(const Entry &entry);
+
+/// The text without the marks of its access keys, "&" and "(&C)".
+QString withoutAccessKeys(QString text);
+
+/// How a message names a text: "context: source".
+QString nameOf(const Entry &entry);
+
 /// The texts for which a check does not hold, as "context: source".
 QStringList offenders(const QList<Entry> &entries, bool (*check)(const Entry &));
 

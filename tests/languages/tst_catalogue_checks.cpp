@@ -107,6 +107,16 @@ void tst_catalogue_checks::aCheckTellsGoodFromBad_data()
     addRow("an option changed", keepsOptions, "-Lxxx Language", "-Lyyy Sprache", false);
     addRow("an option lost", keepsOptions, "Use\n-I Install", "So\nNeu", false);
     addRow("a dash added", keepsOptions, "Use", "-Use", false);
+
+    addRow("an ellipsis kept", keepsEllipses, "Open...", "Öffnen...", true);
+    addRow("an ellipsis lost", keepsEllipses, "Open...", "Öffnen", false);
+    addRow("an ellipsis added", keepsEllipses, "Open", "Öffnen...", false);
+    addRow("an ellipsis of one character", keepsEllipses, "Open...", "Öffnen…", false);
+    addRow("an ellipsis of one character added", keepsEllipses, "Open", "Öffnen…", false);
+    addRow("four dots", keepsEllipses, "Open...", "Öffnen....", false);
+    addRow("two dots", keepsEllipses, "Open...", "Öffnen..", false);
+    addRow("full-width dots", keepsEllipses, "Open...", "打开。。。", false);
+    addRow("one dot is no ellipsis", keepsEllipses, "No. 1", "N. 1.", true);
 }
 
 void tst_catalogue_checks::aCheckTellsGoodFromBad()

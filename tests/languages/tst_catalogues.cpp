@@ -1,9 +1,11 @@
 // The interface's catalogues as they are kept beside the sources: complete, sound, and in step.
 
 #include "catalogue_checks.h"
+#include "glossary.h"
 #include "nvx_util/system.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
+#include "typography.h"
 
 #include <QDir>
 #include <QFile>
@@ -33,11 +35,16 @@ QString nameOfFile(const QString &file)
     return file.section(QLatin1Char('_'), 0, 0);
 }
 
+// "de-DE" of "nvxconfig_de-DE.ts"
+QString localeOfFile(const QString &file)
+{
+    return file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
+}
+
 // "de_DE" of "nvxconfig_de-DE.ts"
 QString languageOfFile(const QString &file)
 {
-    const QString locale = file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
-    return QString(locale).replace(QLatin1Char('-'), QLatin1Char('_'));
+    return localeOfFile(file).replace(QLatin1Char('-'), QLatin1Char('_'));
 }
 
 std::optional<Catalogue> readFile(const QString &path)
@@ -54,6 +61,39 @@ QMap<QString, QStringList> listedCatalogues()
     if (!list.open(QIODevice::ReadOnly))
         return {};
     return readCatalogueList(list);
+}
+
+QStringList translatedLocales()
+{
+    QStringList locales = Nvx::Util::System::validLocales();
+    locales.removeAll(QStringLiteral("en-US")); // the texts' own language
+    return locales;
+}
+
+Glossary readGlossaryFile()
+{
+    QFile file(sourceRoot().filePath(QStringLiteral("tests/languages/glossary.txt")));
+    if (!file.open(QIODevice::ReadOnly))
+        return {{}, {file.errorString()}};
+    return readGlossary(file);
+}
+
+const Glossary &glossary()
+{
+    static const Glossary whole = readGlossaryFile();
+    return whole;
+}
+
+// The texts of all catalogues of a locale.
+QList<Entry> entriesOf(const QString &locale)
+{
+    QList<Entry> entries;
+    const QStringList files = catalogueFiles();
+    for (const QString &file : files) {
+        if (localeOfFile(file) == locale)
+            entries += readFile(languagesFolder().filePath(file)).value_or(Catalogue()).entries;
+    }
+    return entries;
 }
 
 // Lets lupdate bring a catalogue in step with the sources below the folders; whether it did.
@@ -101,6 +141,15 @@ void expectEveryEntryToPass(bool (*check)(const Entry &))
     expectNone(offenders(catalogue->entries, check), "to be looked at in %1");
 }
 
+// The same for a check of the file's typography.
+void expectTypographyToPass(TypographyCheck check)
+{
+    QFETCH(QString, file);
+    const auto catalogue = readFile(languagesFolder().filePath(file));
+    QVERIFY(catalogue);
+    expectNone(offenders(catalogue->entries, localeOfFile(file), check), "to be looked at in %1");
+}
+
 } // namespace
 
 class tst_catalogues : public QObject
@@ -126,6 +175,19 @@ private slots:
     void productNamesAreKept() { expectEveryEntryToPass(keepsProductNames); }
     void optionsAreKept_data() { addFileRows(); }
     void optionsAreKept() { expectEveryEntryToPass(keepsOptions); }
+    void ellipsesAreKept_data() { addFileRows(); }
+    void ellipsesAreKept() { expectEveryEntryToPass(keepsEllipses); }
+    void quotesAreTheLanguages_data() { addFileRows(); }
+    void quotesAreTheLanguages() { expectTypographyToPass(usesOwnQuotes); }
+    void blanksAreTheLanguages_data() { addFileRows(); }
+    void blanksAreTheLanguages() { expectTypographyToPass(spacesAsItsLanguage); }
+    void punctuationIsTheLanguages_data() { addFileRows(); }
+    void punctuationIsTheLanguages() { expectTypographyToPass(usesOwnPunctuation); }
+    void dashesAreTheLanguages_data() { addFileRows(); }
+    void dashesAreTheLanguages() { expectTypographyToPass(usesOwnDash); }
+    void aTermHasOneTranslation_data() { addFileRows(); }
+    void aTermHasOneTranslation();
+    void theGlossaryIsWholeAndNeeded();
     void itIsInStepWithTheSources_data() { addFileRows(); }
     void itIsInStepWithTheSources();
 };
@@ -140,11 +202,10 @@ void tst_catalogues::thereIsOneForEachLocale_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("locale");
-    QStringList locales = Nvx::Util::System::validLocales();
-    locales.removeAll(QStringLiteral("en-US")); // the texts' own language
+    const QStringList locales = translatedLocales();
     const QStringList names = listedCatalogues().keys();
     for (const QString &name : names) {
-        for (const QString &locale : std::as_const(locales))
+        for (const QString &locale : locales)
             QTest::addRow("%s in %s", qPrintable(name), qPrintable(locale)) << name << locale;
     }
 }
@@ -163,6 +224,29 @@ void tst_catalogues::itIsMarkedWithItsLanguage()
     const auto catalogue = readFile(languagesFolder().filePath(file));
     QVERIFY(catalogue);
     QCOMPARE(catalogue->language, languageOfFile(file));
+}
+
+void tst_catalogues::aTermHasOneTranslation()
+{
+    QFETCH(QString, file);
+    const auto catalogue = readFile(languagesFolder().filePath(file));
+    QVERIFY(catalogue);
+    expectNone(otherwiseTranslated(glossary(), catalogue->entries, localeOfFile(file)),
+               "against tests/languages/glossary.txt in %1");
+}
+
+void tst_catalogues::theGlossaryIsWholeAndNeeded()
+{
+    const Glossary &terms = glossary();
+    QCOMPARE(terms.faults, QStringList());
+    QVERIFY(!terms.terms.isEmpty());
+    QCOMPARE(untranslatedTerms(terms, translatedLocales()), QStringList());
+    const QStringList locales = translatedLocales();
+    for (const QString &locale : locales) {
+        const QList<Entry> entries = entriesOf(locale);
+        QCOMPARE(unusedTerms(terms, entries), QStringList());
+        QCOMPARE(needlessExceptions(terms, entries, locale), QStringList());
+    }
 }
 
 void tst_catalogues::itIsInStepWithTheSources()

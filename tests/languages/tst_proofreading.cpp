@@ -1,0 +1,310 @@
+// The checks of typography and terms, tried on texts that are good and on texts that are bad.
+
+#include "glossary.h"
+#include "support/test_class.h"
+#include "typography.h"
+
+#include <QBuffer>
+#include <QTest>
+
+namespace {
+
+Entry entryOf(const QString &source, const QStringList &translations)
+{
+    return {QStringLiteral("Context"), source, QString(), translations, EntryState::Finished};
+}
+
+void addLanguageRow(const char *name, TypographyCheck check, const char *locale, const char *translation,
+                    bool holds)
+{
+    QTest::newRow(name) << check << QString::fromLatin1(locale) << QString::fromUtf8(translation) << holds;
+}
+
+Glossary glossaryOf(const QByteArray &text)
+{
+    QBuffer buffer;
+    buffer.setData(text);
+    buffer.open(QIODevice::ReadOnly);
+    return readGlossary(buffer);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(TypographyCheck)
+
+class tst_proofreading : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void quotesAreTheLanguages_data();
+    void quotesAreTheLanguages() { aTypographyCheckTellsGoodFromBad(); }
+    void blanksAreTheLanguages_data();
+    void blanksAreTheLanguages() { aTypographyCheckTellsGoodFromBad(); }
+    void punctuationAndDashesAreTheLanguages_data();
+    void punctuationAndDashesAreTheLanguages() { aTypographyCheckTellsGoodFromBad(); }
+    void aDashThatSeparatesPartsOfALineStays();
+    void theSourcesOwnTextIsNotJudged();
+    void noTypographyIsNotAGoodOne();
+    void everyFormIsJudged();
+
+    void aTermIsTranslatedAlike_data();
+    void aTermIsTranslatedAlike();
+    void anExceptionHoldsForItsTextAndLanguageOnly();
+    void aTermThatNoTextHoldsIsNamed();
+    void aTermWithoutATranslationIsNamed();
+    void anExceptionThatIsNotNeededIsNamed_data();
+    void anExceptionThatIsNotNeededIsNamed();
+    void aLineThatIsNoneOfAGlossaryIsNamed_data();
+    void aLineThatIsNoneOfAGlossaryIsNamed();
+
+private:
+    static void addTypographyColumns();
+    static void aTypographyCheckTellsGoodFromBad();
+};
+
+void tst_proofreading::addTypographyColumns()
+{
+    QTest::addColumn<TypographyCheck>("check");
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("translation");
+    QTest::addColumn<bool>("holds");
+}
+
+void tst_proofreading::aTypographyCheckTellsGoodFromBad()
+{
+    QFETCH(TypographyCheck, check);
+    QFETCH(QString, locale);
+    QFETCH(QString, translation);
+    QTEST(check(entryOf(QStringLiteral("source"), {translation}), locale), "holds");
+}
+
+void tst_proofreading::quotesAreTheLanguages_data()
+{
+    addTypographyColumns();
+    const auto add = [](const char *name, const char *locale, const char *translation, bool holds) {
+        addLanguageRow(name, usesOwnQuotes, locale, translation, holds);
+    };
+    add("German", "de-DE", "„%1“ und „%2“", true);
+    add("French", "fr-FR", "«\u00a0%1\u00a0»", true);
+    add("Italian", "it-IT", "“%1”", true);
+    add("Japanese", "ja-JP", "「%1」 [はい]", true);
+    add("Korean", "ko-KR", "“%1” [예]", true);
+    add("Russian", "ru-RU", "«%1»", true);
+    add("simplified Chinese", "zh-CN", "“%1”", true);
+    add("traditional Chinese", "zh-TW", "「%1」 [是]", true);
+    add("typewriter quotes", "it-IT", "\"%1\"", false);
+    add("single typewriter quotes", "ko-KR", "'%1'을", false);
+    add("quotes of another language", "de-DE", "«%1»", false);
+    add("English quotes in German", "de-DE", "“%1”", false);
+    add("turned round", "ru-RU", "»%1«", false);
+    add("not closed", "de-DE", "„%1", false);
+    add("not opened", "fr-FR", "%1\u00a0»", false);
+    add("closed by another pair", "ja-JP", "「はい]", false);
+    add("closed on the next line", "de-DE", "„%1\nund“", false);
+    add("brackets where they are not quotes", "de-DE", "[Ja]", false);
+    add("an apostrophe", "fr-FR", "Impossible d'analyser l'%1", true);
+    add("a curly apostrophe", "fr-FR", "rien n’est traduit", false);
+    add("an apostrophe before a word", "de-DE", "so 'ne Datei", false);
+    add("an apostrophe after a word", "it-IT", "un po' di", false);
+}
+
+void tst_proofreading::blanksAreTheLanguages_data()
+{
+    addTypographyColumns();
+    const auto add = [](const char *name, const char *locale, const char *translation, bool holds) {
+        addLanguageRow(name, spacesAsItsLanguage, locale, translation, holds);
+    };
+    add("French, no-break", "fr-FR", "«\u00a0%1\u00a0»\u00a0; oui\u00a0? non\u00a0!\nAh\u00a0: ", true);
+    add("French, a plain blank", "fr-FR", "Ligne %1 : %2", false);
+    add("French, no blank", "fr-FR", "Vraiment?", false);
+    add("French, a narrow blank", "fr-FR", "Vraiment\u202f?", false);
+    add("French, a narrow blank between words", "fr-FR", "%1\u202fms", false);
+    add("French, plain blanks in guillemets", "fr-FR", "« %1 »", false);
+    add("French, a blank before a comma", "fr-FR", "oui , non", false);
+    add("French, a unit", "fr-FR", "%1\u00a0ms", true);
+    add("German, no blank before a colon", "de-DE", "Zeile: 1", true);
+    add("German, a blank before a colon", "de-DE", "Zeile : 1", false);
+    add("German, a no-break blank", "de-DE", "10\u00a0ms", false);
+    add("no blank after a colon", "ru-RU", "Копирование:%1", false);
+    add("a colon at the end", "ru-RU", "Копирование:", true);
+    add("two blanks between words", "it-IT", "due  spazi", false);
+    add("outer blanks", "it-IT", "  Copia  ", true);
+    add("a blank inside parentheses", "it-IT", "( predefinita)", false);
+    add("a blank before a parenthesis", "de-DE", "Modus (Standard)", true);
+    add("no blank before a parenthesis", "de-DE", "Modus(Standard)", false);
+    add("Korean, no blank before a parenthesis", "ko-KR", "모드(기본값)", true);
+    add("Korean, a blank before a parenthesis", "ko-KR", "모드 (기본값)", false);
+    add("Japanese, a blank before a parenthesis", "ja-JP", "モード (既定)", true);
+    add("Japanese, an access key", "ja-JP", "コピー(&C)", true);
+    add("Japanese, a blank after a full stop", "ja-JP", "です。 はい", false);
+    add("two scripts apart", "zh-CN", "找到 %1 个 NVX 文件", true);
+    add("a placeholder beside an ideograph", "zh-TW", "找到%1 個", false);
+    add("a word beside a kana", "ja-JP", "NVXの構成", false);
+    add("full-width punctuation beside a word", "zh-CN", "%1：Python（NVX）", true);
+    add("full-width punctuation after a placeholder", "zh-CN", "配置 %1 %2。", true);
+    add("a Japanese comma after a placeholder", "ja-JP", "数: %1、%2", true);
+    add("a bracket beside a placeholder", "zh-TW", "表「%1」...", true);
+    add("a blank beside full-width punctuation", "zh-CN", "语言： %1", false);
+    add("a full-width colon before the outer blank", "zh-CN", "语言： ", true);
+}
+
+void tst_proofreading::punctuationAndDashesAreTheLanguages_data()
+{
+    addTypographyColumns();
+    addLanguageRow("Chinese", usesOwnPunctuation, "zh-CN", "是，否：%1（无）。是否？\n正在...", true);
+    addLanguageRow("Chinese, an access key", usesOwnPunctuation, "zh-TW", "複製(&C)", true);
+    addLanguageRow("Chinese, a typewriter colon", usesOwnPunctuation, "zh-CN", "语言:", false);
+    addLanguageRow("Chinese, typewriter parentheses", usesOwnPunctuation, "zh-TW", "篩選 (Ctrl+F)", false);
+    addLanguageRow("Chinese, a typewriter full stop", usesOwnPunctuation, "zh-TW", "不存在.", false);
+    addLanguageRow("Chinese, a file's suffix", usesOwnPunctuation, "zh-CN", "报告的 .pyc 文件", true);
+    addLanguageRow("Japanese", usesOwnPunctuation, "ja-JP", "新規: %1、既存 (%2)。保存しますか?", true);
+    addLanguageRow("Japanese, a typewriter comma", usesOwnPunctuation, "ja-JP", "新規, 既存", false);
+    addLanguageRow("Japanese, a typewriter full stop", usesOwnPunctuation, "ja-JP", "です.", false);
+    addLanguageRow("Japanese, a full-width colon", usesOwnPunctuation, "ja-JP", "新規：", false);
+    addLanguageRow("Korean, a full-width full stop", usesOwnPunctuation, "ko-KR", "없습니다。", false);
+    addLanguageRow("Russian, a full-width colon", usesOwnPunctuation, "ru-RU", "Язык：", false);
+
+    addLanguageRow("German dash", usesOwnDash, "de-DE", "Creo – Entfernen", true);
+    addLanguageRow("German, a hyphen as dash", usesOwnDash, "de-DE", "Creo - Entfernen", false);
+    addLanguageRow("a hyphen inside a word", usesOwnDash, "de-DE", "Add-In", true);
+    addLanguageRow("Russian dash", usesOwnDash, "ru-RU", " — успешно", true);
+    addLanguageRow("Russian, a short dash", usesOwnDash, "ru-RU", " – успешно", false);
+    addLanguageRow("French, one good and one bad", usesOwnDash, "fr-FR", " - échec – oui", false);
+}
+
+void tst_proofreading::aDashThatSeparatesPartsOfALineStays()
+{
+    const QString line = QStringLiteral("Program startup - empty");
+    QVERIFY(usesOwnDash(entryOf(line, {QString::fromUtf8("Programmstart - leer")}), QStringLiteral("de-DE")));
+    QVERIFY(
+        !usesOwnDash(entryOf(line, {QString::fromUtf8("Programmstart – leer")}), QStringLiteral("de-DE")));
+}
+
+void tst_proofreading::theSourcesOwnTextIsNotJudged()
+{
+    const QString code = QStringLiteral("zorv :");
+    QVERIFY(spacesAsItsLanguage(entryOf(code, {code}), QStringLiteral("de-DE")));
+    QVERIFY(!spacesAsItsLanguage(entryOf(QStringLiteral("zorv:"), {code}), QStringLiteral("de-DE")));
+}
+
+void tst_proofreading::noTypographyIsNotAGoodOne()
+{
+    const Entry entry = entryOf(QStringLiteral("Yes"), {QStringLiteral("Sim")});
+    for (const TypographyCheck check : {usesOwnQuotes, spacesAsItsLanguage, usesOwnPunctuation, usesOwnDash})
+        QVERIFY(!check(entry, QStringLiteral("pt-PT")));
+}
+
+void tst_proofreading::everyFormIsJudged()
+{
+    const Entry entry =
+        entryOf(QStringLiteral("%n rows"), {QStringLiteral("%n Zeile"), QStringLiteral("%n \"Zeilen\"")});
+    QCOMPARE(offenders({entry}, QStringLiteral("de-DE"), usesOwnQuotes),
+             QStringList{QStringLiteral("Context: %n rows")});
+}
+
+void tst_proofreading::aTermIsTranslatedAlike_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("translation");
+    QTest::addColumn<bool>("holds");
+    const auto add = [](const char *name, const char *source, const char *translation, bool holds) {
+        QTest::newRow(name) << QString::fromUtf8(source) << QString::fromUtf8(translation) << holds;
+    };
+    add("the translation", "Open folder", "Ordner öffnen", true);
+    add("in another case", "The Folder", "Zielordner", true);
+    add("another form of the word", "Two folders", "Zwei Verzeichnisse", false);
+    add("another word", "Open folder", "Verzeichnis öffnen", false);
+    add("no term", "Open", "Öffnen", true);
+    add("the term inside a word", "Subfolder", "Unterverzeichnis", true);
+    add("an access key in the word", "&Open folder", "O&rdner öffnen", true);
+}
+
+void tst_proofreading::aTermIsTranslatedAlike()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, translation);
+    const Glossary glossary = glossaryOf("# terms\n\n[folders?]\nde-DE = ordner|mappe\r\n");
+    QCOMPARE(glossary.faults, QStringList());
+    const Entry entry = entryOf(source, {translation});
+    const QStringList offending = otherwiseTranslated(glossary, {entry}, QStringLiteral("de-DE"));
+    QTEST(offending.isEmpty(), "holds");
+    QVERIFY(offending.isEmpty() || offending.first() == QStringLiteral("Context: %1 [folders?]").arg(source));
+}
+
+void tst_proofreading::anExceptionHoldsForItsTextAndLanguageOnly()
+{
+    const Glossary glossary = glossaryOf("[folder]\nde-DE = Ordner\nfr-FR = dossier\n"
+                                         "except de-DE: folder\\n= 1 = it is a word of its own\n");
+    QCOMPARE(glossary.faults, QStringList());
+    const Entry excepted = entryOf(QStringLiteral("folder\n= 1"), {QStringLiteral("x")});
+    const Entry other = entryOf(QStringLiteral("folder"), {QStringLiteral("x")});
+    QCOMPARE(otherwiseTranslated(glossary, {excepted, other}, QStringLiteral("de-DE")),
+             QStringList{QStringLiteral("Context: folder [folder]")});
+    QCOMPARE(otherwiseTranslated(glossary, {excepted}, QStringLiteral("fr-FR")).size(), 1);
+}
+
+void tst_proofreading::aTermThatNoTextHoldsIsNamed()
+{
+    const Glossary glossary = glossaryOf("[folder]\n[file]\n");
+    QCOMPARE(unusedTerms(glossary, {entryOf(QStringLiteral("A folder"), {})}),
+             QStringList{QStringLiteral("file")});
+}
+
+void tst_proofreading::aTermWithoutATranslationIsNamed()
+{
+    const Glossary glossary = glossaryOf("[folder]\nde-DE = Ordner\n");
+    QCOMPARE(untranslatedTerms(glossary, {QStringLiteral("de-DE"), QStringLiteral("fr-FR")}),
+             QStringList{QStringLiteral("fr-FR [folder]")});
+}
+
+void tst_proofreading::anExceptionThatIsNotNeededIsNamed_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("translation");
+    QTest::addColumn<bool>("needed");
+    QTest::newRow("needed") << "Open folder"
+                            << "Öffnen" << true;
+    QTest::newRow("the text is gone") << "Close folder"
+                                      << "Zu" << false;
+    QTest::newRow("it is translated alike") << "Open folder"
+                                            << "Ordner öffnen" << false;
+}
+
+void tst_proofreading::anExceptionThatIsNotNeededIsNamed()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, translation);
+    const Glossary glossary = glossaryOf("[folder]\nde-DE = Ordner\nexcept de-DE: Open folder = why\n");
+    const QStringList needless =
+        needlessExceptions(glossary, {entryOf(source, {translation})}, QStringLiteral("de-DE"));
+    QTEST(needless.isEmpty(), "needed");
+    QVERIFY(needless.isEmpty() || needless.first() == QLatin1String("Open folder [folder]"));
+}
+
+void tst_proofreading::aLineThatIsNoneOfAGlossaryIsNamed_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("no locale") << QByteArray("Ordner");
+    QTest::newRow("another form of locale") << QByteArray("de_DE = Ordner");
+    QTest::newRow("a locale for the second time") << QByteArray("fr-FR = répertoire");
+    QTest::newRow("no translation") << QByteArray("de-DE = ");
+    QTest::newRow("a translation that is no pattern") << QByteArray("de-DE = (Ordner");
+    QTest::newRow("a term that is no pattern") << QByteArray("[(folder]");
+    QTest::newRow("an empty term") << QByteArray("[]");
+    QTest::newRow("an exception without a reason") << QByteArray("except de-DE: Open folder");
+    QTest::newRow("an exception with a blank reason") << QByteArray("except de-DE: Open folder =  ");
+    QTest::newRow("an exception without a locale") << QByteArray("except Open folder = why");
+}
+
+void tst_proofreading::aLineThatIsNoneOfAGlossaryIsNamed()
+{
+    QFETCH(QByteArray, line);
+    const QStringList faults = glossaryOf("[folder]\nfr-FR = dossier\n" + line + "\n").faults;
+    QCOMPARE(faults.size(), 1);
+    QVERIFY2(faults.first().startsWith(QLatin1String("line 3: ")), qPrintable(faults.first()));
+    QCOMPARE(glossaryOf("de-DE = Ordner\n").faults.size(), 1);
+}
+
+NVX_GUILESS_TEST(tst_proofreading)
+#include "tst_proofreading.moc"

@@ -1,0 +1,169 @@
+#include "typography.h"
+
+#include "catalogue_checks.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct Marks
+{
+    const char *locale;
+    const char *quotes; ///< opening and closing marks in turn
+    const char *dash;
+};
+
+// The brackets name buttons.
+const Marks marks[] = {
+    {"de-DE", "„“", "–"},   {"fr-FR", "«»", "-"}, {"it-IT", "“”", "-"}, {"ja-JP", "「」[]", "-"},
+    {"ko-KR", "“”[]", "-"}, {"ru-RU", "«»", "—"}, {"zh-CN", "“”", "-"}, {"zh-TW", "「」[]", "-"},
+};
+
+// A pattern that matches nowhere in the texts of the locales. "\h" is a blank of any width within a line.
+struct Fault
+{
+    const char *locales;
+    const char *pattern;
+};
+
+// Kana and Chinese characters; \p{Han} would hold their punctuation too.
+const char *const ideographs = "[\\x{3041}-\\x{30FA}\\x{30FC}-\\x{30FF}\\x{3400}-\\x{9FFF}々]";
+
+const Fault spacingFaults[] = {
+    // No blank after punctuation, a blank inside parentheses, two blanks.
+    {"de-DE fr-FR it-IT ja-JP ko-KR ru-RU zh-CN zh-TW", "[:;!?,][^\\s»“”」)]|[(\\[]\\h|\\S\\h\\h+\\S"},
+    // A blank before punctuation; a blank that does not break.
+    {"de-DE it-IT ja-JP ko-KR ru-RU zh-CN zh-TW", "\\h[:;!?,)\\]]|[\\x{A0}\\x{202F}]"},
+    // Double punctuation and guillemets without the blank that does not break, or with a narrow one.
+    {"fr-FR", "(?<!\\x{A0})[:;!?»]|«(?!\\x{A0})|\\h[,)]|\\x{202F}"},
+    // No blank in front of a parenthesis, and in Korean one.
+    {"de-DE fr-FR it-IT ja-JP ru-RU", "[^\\s„«“]\\("},
+    {"ko-KR", "\\h\\("},
+    // Blanks beside full-width punctuation.
+    {"ja-JP zh-CN zh-TW", "\\h[，。：；？！）、]|[，。：；？！（、]\\h+\\S"},
+    // No blank between the two scripts.
+    {"ja-JP zh-CN zh-TW", "IDEOGRAPHS[A-Za-z0-9%]|[A-Za-z0-9]IDEOGRAPHS"},
+};
+
+const Fault punctuationFaults[] = {
+    {"de-DE fr-FR it-IT ko-KR ru-RU", "[\\x{3000}-\\x{303F}\\x{FF00}-\\x{FFEF}]"},
+    {"ja-JP", "[\\x{FF01}-\\x{FF5E}]|(?<=IDEOGRAPHS)[,.;](?!\\.\\.)"},
+    {"zh-CN zh-TW", "[,:;?!()]|(?<=IDEOGRAPHS)\\.(?!\\.\\.)"},
+};
+
+const Marks *marksOf(const QString &locale)
+{
+    const auto *found = std::find_if(std::begin(marks), std::end(marks),
+                                     [&](const Marks &row) { return locale == QLatin1String(row.locale); });
+    return found == std::end(marks) ? nullptr : found;
+}
+
+template<typename Property>
+bool everyFormKeeps(const Entry &entry, const QString &locale, Property property)
+{
+    const Marks *own = marksOf(locale);
+    return own &&
+           std::all_of(entry.translations.cbegin(), entry.translations.cend(), [&](const QString &form) {
+               return form == entry.source || property(withoutAccessKeys(form), *own);
+           });
+}
+
+// The patterns of a table that count in each locale.
+template<std::size_t Count>
+QMap<QString, QList<QRegularExpression>> patternsByLocale(const Fault (&faults)[Count])
+{
+    QMap<QString, QList<QRegularExpression>> patterns;
+    for (const Fault &fault : faults) {
+        QString pattern = QString::fromUtf8(fault.pattern);
+        pattern.replace(QLatin1String("IDEOGRAPHS"), QString::fromUtf8(ideographs));
+        const QStringList locales = QString::fromLatin1(fault.locales).split(QLatin1Char(' '));
+        for (const QString &locale : locales)
+            patterns[locale].append(QRegularExpression(pattern));
+    }
+    return patterns;
+}
+
+bool matchesNone(const QList<QRegularExpression> &patterns, const QString &text)
+{
+    return std::none_of(patterns.cbegin(), patterns.cend(),
+                        [&](const QRegularExpression &pattern) { return text.contains(pattern); });
+}
+
+bool isApostrophe(const QString &text, qsizetype at)
+{
+    return at > 0 && at + 1 < text.size() && text[at - 1].isLetter() &&
+           (text[at + 1].isLetter() || text[at + 1] == QLatin1Char('%'));
+}
+
+// Takes the marks of a line in turn: each is the own opening mark, or closes the one before.
+bool pairsQuotes(const QString &line, const QString &own)
+{
+    static const QString all = QStringLiteral("\"'`´„“”‟‚‘’‛«»‹›「」『』《》〝〞＂＇[]");
+    QChar awaited;
+    for (qsizetype at = 0; at < line.size(); ++at) {
+        const QChar mark = line[at];
+        if (!all.contains(mark) || (mark == QLatin1Char('\'') && isApostrophe(line, at)))
+            continue;
+        const qsizetype place = own.indexOf(mark);
+        if (awaited.isNull() ? (place < 0 || place % 2 != 0) : mark != awaited)
+            return false;
+        awaited = awaited.isNull() ? own[place + 1] : QChar();
+    }
+    return awaited.isNull();
+}
+
+} // namespace
+
+bool usesOwnQuotes(const Entry &entry, const QString &locale)
+{
+    return everyFormKeeps(entry, locale, [](const QString &text, const Marks &own) {
+        const QStringList lines = text.split(QLatin1Char('\n'));
+        return std::all_of(lines.cbegin(), lines.cend(), [&](const QString &line) {
+            return pairsQuotes(line, QString::fromUtf8(own.quotes));
+        });
+    });
+}
+
+bool spacesAsItsLanguage(const Entry &entry, const QString &locale)
+{
+    static const auto patterns = patternsByLocale(spacingFaults);
+    return everyFormKeeps(entry, locale, [&](const QString &text, const Marks & /*own*/) {
+        return matchesNone(patterns.value(locale), text);
+    });
+}
+
+bool usesOwnPunctuation(const Entry &entry, const QString &locale)
+{
+    static const auto patterns = patternsByLocale(punctuationFaults);
+    return everyFormKeeps(entry, locale, [&](const QString &text, const Marks & /*own*/) {
+        return matchesNone(patterns.value(locale), text);
+    });
+}
+
+bool usesOwnDash(const Entry &entry, const QString &locale)
+{
+    static const QRegularExpression dash(QStringLiteral("(?<=\\h)[-–—](?=\\h)"));
+    const bool separatesParts = entry.source.contains(QLatin1String(" - "));
+    return everyFormKeeps(entry, locale, [&](const QString &text, const Marks &own) {
+        const QString expected = separatesParts ? QStringLiteral("-") : QString::fromUtf8(own.dash);
+        auto dashes = dash.globalMatch(text);
+        while (dashes.hasNext()) {
+            if (dashes.next().captured() != expected)
+                return false;
+        }
+        return true;
+    });
+}
+
+QStringList offenders(const QList<Entry> &entries, const QString &locale, TypographyCheck check)
+{
+    QStringList names;
+    for (const Entry &entry : entries) {
+        if (!check(entry, locale))
+            names.append(nameOf(entry));
+    }
+    return names;
+}
