@@ -39,6 +39,15 @@ class Administrators(unittest.TestCase):
         self.assertEqual(shown, options_of_reader())
         self.assertEqual(len(shown), 6)
 
+    def test_what_is_said_of_a_word_is_tried(self):
+        section = section_of(DOCUMENT, "Running it")
+        prose = "\n".join(line for line in section.splitlines() if not line.startswith("|"))
+        words = [word for word in code_of(prose) if word[0] in "-/"]
+        self.assertGreater(len(words), 5)
+        tried = text_of("tests/engine/tst_command_line.cpp")
+        rows = set(" ".join(re.findall(r'row\("[^"]*", "((?:[^"\\]|\\.)*)"', tried)).split())
+        self.assertEqual([word for word in words if word not in rows], [])
+
     def test_every_language_is_named(self):
         code = text_of("Utility/source/system.cpp")
         for locale in re.findall(r'QStringLiteral\("([a-z]{2}-[A-Z]{2})"\)', code):

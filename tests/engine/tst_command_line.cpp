@@ -50,13 +50,15 @@ private slots:
         row("quotes have no meaning", "\"C:\\Program Files\\-I x\\NVXConfig.exe\" -S", none, true);
         row("a blank in the path can make an option", "C:\\Program -U\\NVXConfig.exe", uninstall, false);
         row("small letters are no options", "NVXConfig.exe -i -s", none, false, "fr-FR", 2);
+        row("a small l is no option", "NVXConfig.exe -lde-DE", none, false, "fr-FR", 1);
         row("the first token can be an option", "-I", install, false);
         row("a tab does not split", "NVXConfig.exe -I\t-U", install, false);
-        row("words without a dash are ignored", "NVXConfig.exe I S /U", none, false);
+        row("words without a dash are ignored", "NVXConfig.exe I /S /U", none, false);
 
         row("-L with a locale", "NVXConfig.exe -Lja-JP", none, false, "ja-JP");
         row("-LIT-IT keeps its spelling", "NVXConfig.exe -LIT-IT", none, false, "IT-IT");
         row("-Lde-de keeps its spelling", "NVXConfig.exe -Lde-de", none, false, "de-de");
+        row("-Lja-jp keeps its spelling", "NVXConfig.exe -Lja-jp", none, false, "ja-jp");
         row("-Lde is taken as it stands", "NVXConfig.exe -Lde", none, false, "de");
         row("-L alone is an empty locale", "NVXConfig.exe -L", none, false, "");
         for (const char *locale : {"de-DE", "fr-FR", "it-IT", "ja-JP", "ko-KR", "ru-RU", "zh-CN", "zh-TW"})

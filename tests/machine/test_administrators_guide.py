@@ -125,8 +125,9 @@ class AdministratorsGuide(MachineCase):
         report = self.machine.path("C:\\read\\report.txt")
         return code, report.read_text(encoding="utf-8") if report.exists() else None
 
-    def roll_out(self, log, set_up="exit 0"):
-        """Runs the script for a roll-out beside a set-up that leaves this log and obeys the orders."""
+    def roll_out(self, log, set_up="exit 0", has_reports=True):
+        """Runs the script for a roll-out beside a set-up that leaves this log and obeys the orders; returns
+        the exit code and the reports on the share."""
         self.write(SHARE + "\\nvx-setup.exe", SCRIPTED_TOOL.read_bytes())
         self.write(SHARE + "\\nvx-setup.exe.script", ("record\n" + set_up).encode())
         for path in self.machine.path(SHARE).glob("nvx-setup.exe.arguments"):
@@ -135,8 +136,13 @@ class AdministratorsGuide(MachineCase):
         reports.mkdir(exist_ok=True)
         for path in reports.iterdir():
             path.unlink()
+        if not has_reports:
+            reports.rmdir()
         self.write(LOG, log)
         code = self.script("install-nvx.cmd")
+        if not has_reports:
+            self.assertFalse(reports.exists())
+            return code, {}
         return code, {path.name.partition(".")[2]: path.read_bytes() for path in reports.iterdir()}
 
     def test_every_excerpt_is_from_a_log(self):
@@ -196,6 +202,10 @@ class AdministratorsGuide(MachineCase):
         self.assertEqual(code, 1)
         self.assertEqual(reports.keys(), {"log", "failed.txt"})
         self.assertIn(b"-1 The program was still running", reports["failed.txt"])
+
+    def test_a_roll_out_tells_a_failure_without_a_folder_for_reports(self):
+        self.assertEqual(self.roll_out(self.logs["hanging"], has_reports=False)[0], 1)
+        self.assertEqual(self.roll_out(self.logs["good"], has_reports=False)[0], 0)
 
     def test_a_set_up_that_fails_is_told(self):
         self.assertEqual(self.roll_out(self.logs["good"], "exit 5"), (2, {}))
