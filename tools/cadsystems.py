@@ -85,12 +85,7 @@ def registry_script(values):
 
 def put_cad_systems(machine):
     """Puts all six on the machine, with an add-in of somebody else's in each file that is shared."""
-    script = machine.path("C:\\cad.reg")
-    script.write_bytes(b"\xff\xfe" + registry_script(registry_values()).encode("utf-16-le"))
-    answer = machine.run("regedit", "/S", "C:\\cad.reg")
-    if answer.returncode != 0:
-        raise RuntimeError("regedit failed: " + answer.stdout.decode(errors="replace"))
-    script.unlink()
+    machine.import_script(registry_script(registry_values()))
     for path, contents in (
         (PROTK_2, FOREIGN_ENTRY),
         (PROTK_3, FOREIGN_ENTRY),

@@ -134,10 +134,7 @@ def make_machine(build, locale, scale):
     shutil.copytree(ROOT / "sample" / "tables", machine.path(TABLES))
     # Wine looks for the font of its title bars' buttons in a folder that Debian fills under another name.
     shutil.copy(MARLETT, machine.path("C:\\windows\\Fonts\\marlett.ttf"))
-    script = machine.path("C:\\screen.reg")
-    script.write_bytes(screen_settings(FAMILIES.get(locale, OTHER_FAMILY), scale).encode("utf-16"))
-    if machine.run("regedit", "/S", "C:\\screen.reg").returncode != 0:
-        raise RuntimeError("the machine's settings cannot be written")
+    machine.import_script(screen_settings(FAMILIES.get(locale, OTHER_FAMILY), scale))
     machine.stop()
     return machine
 

@@ -4,10 +4,10 @@ Each machine is a Wine prefix of its own: files, registry, services and processe
 A fresh one is a copy of a template that is made once; the programs and libraries of its Windows folder are
 shared with the template by hard links, everything else is its own.
 
-A machine has one server process, which holds its registry and starts its programs. Left alone, the server ends
-as soon as the last program has ended, and a program that connects at that moment is dropped: it ends with
-status 1 or 0 and has done nothing. Here the server is a child process that is started before the first program
-and runs until `stop`; a machine counts as started when a program of it has run to its end.
+A machine has one server process, which holds its registry and starts its programs. Left alone, the server
+ends with its last program, and a program that connects at that moment is dropped: it ends with
+status 1 and has done nothing. Here the server is a child process that is started before the first program and
+runs until `stop`; a machine counts as started when a program of it has run to its end.
 
     machine = Machine.create(folder)
     machine.run(r"C:\\NVX\\NVXConfig.exe", "-I", "-S")
@@ -43,8 +43,11 @@ SERVICES = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"
 # They start with the machine and take half the time of a start.
 NEEDLESS_SERVICES = ("Eventlog", "PlugPlay", "NDIS", "nsiproxy")
 # Kinds of files in the Windows folder of which all machines share one copy.
-SHARED_KINDS = {".dll", ".exe", ".sys", ".drv", ".ocx", ".cpl", ".acm", ".ds", ".ax", ".nls", ".tlb", ".msstyles"}
+SHARED_KINDS = {
+    *(".dll", ".exe", ".sys", ".drv", ".ocx", ".cpl", ".acm", ".ds", ".ax", ".nls", ".tlb", ".msstyles")
+}
 SHARED_SIZE = 1 << 20
+IMPORT_KEY = "HKEY_CURRENT_USER\\Software\\Wine\\Imported scripts"
 START_TIMEOUT_S = 60
 STOP_TIMEOUT_S = 120
 LOCK_TAKEN = 2  # the exit status of a server that finds another one in its place
@@ -66,7 +69,7 @@ class Machine:
 
     @classmethod
     def create(cls, prefix, template, locale="C.UTF-8", locale_folder=None):
-        """A fresh machine in the folder `prefix`, replacing what is there. It starts with its first program."""
+        """A fresh machine in the folder `prefix`, replacing what is there. Its first program starts it."""
         machine = cls(prefix, locale, locale_folder)
         if machine.prefix.exists():
             machine.stop()
@@ -159,8 +162,8 @@ class Machine:
             raise
 
     def _stay_on_processor(self):
-        """In a child: a program calls the server thousands of times, and waking another processor for each call
-        and for each answer would cost a third more time than the work itself."""
+        """In a child: a program calls the server thousands of times, and waking another processor for each
+        call and each reply costs half as much again as the work itself."""
         os.sched_setaffinity(0, {self._processor})
 
     def stop(self):
@@ -179,6 +182,18 @@ class Machine:
         answer = self.run("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", text, "/f")
         if answer.returncode != 0:
             raise RuntimeError("reg add failed: " + answer.stdout.decode(errors="replace"))
+
+    def import_script(self, script):
+        """Has the Registry Editor import a script (a str). The editor returns 0 for anything: a value added
+        at the end and read back shows that it has read all of the script."""
+        mark = str(time.monotonic_ns())
+        lines = [*script.splitlines(), "", "[%s]" % IMPORT_KEY, '"Mark"="%s"' % mark, ""]
+        path = self.path("C:\\import.reg")
+        path.write_bytes(b"\xff\xfe" + "\r\n".join(lines).encode("utf-16-le"))
+        self.run("regedit", "/S", "C:\\import.reg")
+        path.unlink()
+        if mark.encode() not in self.run("reg", "query", IMPORT_KEY, "/v", "Mark").stdout:
+            raise MachineError("a registry script has not been imported on %s" % self.prefix)
 
     def registry(self):
         """The whole registry: {key path: {value name: value}}. Stops the machine, which writes it down."""

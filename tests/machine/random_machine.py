@@ -300,8 +300,5 @@ def put_machine(case, plan):
             path.chmod(0o444 if file.fault == "protected" else 0o644)
     if plan.spaceclaim == "found":
         case.machine.path(SPACE_CLAIM_ADDINS).mkdir(parents=True, exist_ok=True)
-    script = registry_script(plan.values).encode("utf-16-le")
-    path = case.write("C:\\random.reg", b"\xff\xfe" + script)
-    case.assertEqual(case.machine.run("regedit", "/S", "C:\\random.reg").returncode, 0)
-    path.unlink()
+    case.machine.import_script(registry_script(plan.values))
     case.put_product(plan.install_dir, TRANSLATORS if plan.has_translators else None)

@@ -12,9 +12,7 @@ CASES = Path(__file__).resolve().parents[1] / "cad" / "cases"
 class CadSearch(MachineCase):
     def search_lines(self, case, *tokens):
         """The lines of the search in a run on a machine whose registry is that of a case of tests/cad."""
-        script = (CASES / case / "machine.reg").read_text(encoding="utf-8")
-        self.write("C:\\case.reg", b"\xff\xfe" + script.replace("\n", "\r\n").encode("utf-16-le"))
-        self.assertEqual(self.machine.run("regedit", "/S", "C:\\case.reg").returncode, 0)
+        self.machine.import_script((CASES / case / "machine.reg").read_text(encoding="utf-8"))
         self.put_product()
         self.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink(missing_ok=True)
         code, lines = self.configure(INSTALL_DIR, *tokens)

@@ -69,10 +69,7 @@ class Scenarios(MachineCase):
         for line in scenario.before:
             self.do(line)
         if scenario.script:
-            script = scenario.script.replace("\n", "\r\n").encode("utf-16-le")
-            path = self.write("C:\\scenario.reg", b"\xff\xfe" + script)
-            self.assertEqual(self.machine.run("regedit", "/S", "C:\\scenario.reg").returncode, 0)
-            path.unlink()
+            self.machine.import_script(scenario.script)
 
     def do(self, line: FileLine):
         """Changes the machine as a line of files-before.txt says."""

@@ -1,11 +1,12 @@
-"""The test machines themselves: a program that is started does its work, whatever the machine's server was doing
-before, and what a program has written is there afterwards."""
+"""The test machines themselves: a program that is started does its work, whatever the machine's server was
+doing before, and what a program has written is there afterwards."""
 
 import contextlib
 import os
 import shutil
 import signal
 import subprocess
+import sys
 import threading
 import time
 import unittest
@@ -28,9 +29,9 @@ class WineMachine(unittest.TestCase):
     @contextlib.contextmanager
     def foreign_server(self, *options):
         """A server of the machine that this process did not start through it."""
-        server = subprocess.Popen(
-            ["wineserver", "--foreground", *options], env=self.machine.environment(), stderr=subprocess.DEVNULL
-        )
+        command = ["wineserver", "--foreground", *options]
+        environment = self.machine.environment()
+        server = subprocess.Popen(command, env=environment, stderr=subprocess.DEVNULL)
         try:
             while server.poll() is None and not winemachine._is_listening(server):
                 time.sleep(0.01)
@@ -74,6 +75,18 @@ class WineMachine(unittest.TestCase):
         registry = self.machine.registry()
         self.assertEqual([value_of(registry, KEY, str(number)) for number in range(4)], ["x"] * 4)
 
+    def test_an_imported_script_is_there_to_its_last_value(self):
+        names = ["value %d" % number for number in range(200)]
+        values = "\n".join('"%s"="größe 日本"' % name for name in names)
+        header = "Windows Registry Editor Version 5.00\n\n"
+        self.machine.import_script(header + "[%s]\n%s\n" % (KEY, values))
+        registry = self.machine.registry()
+        self.assertEqual({value_of(registry, KEY, name) for name in names}, {"größe 日本"})
+
+    def test_a_script_that_the_registry_editor_does_not_import_is_reported(self):
+        with self.assertRaises(MachineError):
+            self.machine.import_script('[%s]\n"no header"="x"\n' % KEY)
+
     def test_a_machine_whose_server_was_killed_says_so(self):
         self.machine.start_up()
         self.machine._server.kill()
@@ -96,9 +109,8 @@ class WineMachine(unittest.TestCase):
             "print(machine._server.pid, flush=True); os._exit(0)"
         )
         tools = os.path.dirname(winemachine.__file__)
-        done = subprocess.run(
-            ["python3", "-B", "-c", script, tools, self.machine.prefix, KEY], stdout=subprocess.PIPE, check=True
-        )
+        command = [sys.executable, "-B", "-c", script, tools, self.machine.prefix, KEY]
+        done = subprocess.run(command, stdout=subprocess.PIPE, check=True)
         deadline = time.monotonic() + 60
         while os.path.exists("/proc/%d/cwd/socket" % int(done.stdout)) and time.monotonic() < deadline:
             time.sleep(0.05)
