@@ -230,12 +230,13 @@ class Bench:
         for test in self.tests:
             program = folder / test.name
             test.link_with(folder / "mutant.o", program)
+            command = [program, *test.arguments]
             for functions, seconds in test.runs:
-                result, _ = run_test(program, [*test.arguments, *functions], folder, seconds)
+                result, _ = run_test(command, functions, folder, seconds)
                 # Some hosts end a program for its processor time long before it has used it.
                 for _ in range(ATTEMPTS - 1):
                     if result == "timed out":
-                        result, _ = run_test(program, [*test.arguments, *functions], folder, seconds)
+                        result, _ = run_test(command, functions, folder, seconds)
                 if result != "passed":
                     return result
         return "survived"
@@ -247,8 +248,9 @@ class Bench:
         for test in self.tests:
             program = folder / test.name
             test.link_with(folder / "mutant.o", program)
+            command = [program, *test.arguments]
             times = folder / "times.xml"
-            result, seconds = run_test(program, [*test.arguments, "-o", f"{times},xml"], folder, 60)
+            result, seconds = run_test(command, ["-o", f"{times},xml"], folder, 60)
             if result != "passed":
                 stop(f"{test.name} fails on the unchanged {self.unit.file}; see {times}")
             quick, slow = quick_and_slow_functions(times.read_text(encoding="utf-8"))
@@ -265,7 +267,7 @@ def quick_and_slow_functions(report):
     return quick, slow
 
 
-def run_test(program, options, folder, seconds):
+def run_test(command, options, folder, seconds):
     """Runs a test that usually takes so many seconds of processor time: how it went, and the time it took.
 
     A test that loops is ended by its processor time, which does not depend on what else the machine does.
@@ -287,7 +289,7 @@ def run_test(program, options, folder, seconds):
     with open(folder / "output", "wb") as output:
         started = os.times()
         test = subprocess.Popen(
-            [program, "-nocrashhandler", *options], cwd=scratch, env=environment, preexec_fn=limits,
+            [*command, "-nocrashhandler", *options], cwd=scratch, env=environment, preexec_fn=limits,
             stdin=subprocess.DEVNULL, stdout=output, stderr=output,
         )  # fmt: skip
         try:

@@ -1,9 +1,11 @@
 """Which changes of a source file are tried, and how the list of files is read."""
 
+import tempfile
 import unittest
+from pathlib import Path
 
 from mutants import mask, mutants_of, mutated
-from mutate import read_list, test_commands
+from mutate import read_list, run_test, test_commands
 
 
 def function(*statements):
@@ -137,6 +139,12 @@ class TestTests(unittest.TestCase):
             test_commands(registered, "/build"),
             {"tst_a": ["tests/cad/cad_tests", "tst_a"], "tst_b": ["tests/cad/tst_b"]},
         )
+
+    def test_the_class_comes_before_the_options(self):
+        script = 'test "$0 $*" = "tst_a -nocrashhandler first"'
+        with tempfile.TemporaryDirectory() as folder:
+            result, _ = run_test(["sh", "-c", script, "tst_a"], ["first"], Path(folder), 1)
+        self.assertEqual(result, "passed")
 
 
 if __name__ == "__main__":
