@@ -119,7 +119,7 @@ endfunction()
 # ctest, and only if there are any.
 function(nvx_python_test name)
     cmake_parse_arguments(ARG "" "" "NEEDS;ENVIRONMENT" ${ARGN})
-    find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
+    find_package(Python3 3.11 REQUIRED COMPONENTS Interpreter)
     add_test(NAME ${name}
         COMMAND ${Python3_EXECUTABLE} -B -m unittest -v ${name}
         WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}")

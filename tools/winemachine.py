@@ -105,7 +105,8 @@ class Machine:
     def run(self, program, *tokens, folder=None, timeout=240, **environment):
         """Runs a program of the machine to its end; returns its exit code, and what it wrote in `stdout`.
 
-        A program that outlives the time-out raises subprocess.TimeoutExpired, and the machine is stopped.
+        A program that outlives the timeout raises subprocess.TimeoutExpired, with a note of what ran on the
+        machine, and the machine is stopped.
         """
         self.start_up()
         working_folder = self.path(folder) if folder else self.prefix
@@ -113,23 +114,24 @@ class Machine:
         # The first program starts the machine's services, which keep its output open for as long as they
         # run: a file does not wait for them, a pipe would.
         with tempfile.TemporaryFile() as output:
+            program = subprocess.Popen(
+                command,
+                cwd=working_folder,
+                env=self.environment(**environment),
+                stdin=subprocess.DEVNULL,
+                stdout=output,
+                stderr=subprocess.STDOUT,
+                preexec_fn=self._stay_on_processor,
+            )
             try:
-                answer = subprocess.run(
-                    command,
-                    cwd=working_folder,
-                    env=self.environment(**environment),
-                    stdin=subprocess.DEVNULL,
-                    stdout=output,
-                    stderr=subprocess.STDOUT,
-                    timeout=timeout,
-                    preexec_fn=self._stay_on_processor,
-                )
-            except subprocess.TimeoutExpired:
+                program.wait(timeout)
+            except subprocess.TimeoutExpired as error:
+                error.add_note("Programs of the machine:\n" + "\n".join(self.programs()))
                 self.stop()
+                program.wait()
                 raise
             output.seek(0)
-            answer.stdout = output.read()
-        return answer
+            return subprocess.CompletedProcess(command, program.returncode, output.read())
 
     def start(self, program, *tokens):
         """Starts a program of the machine and does not wait for it; returns its process, whose output is
@@ -176,6 +178,19 @@ class Machine:
                 raise MachineError("the server of %s ended with %d" % (self.prefix, server.returncode))
         else:
             _stop_other_server(self.environment())
+
+    def programs(self):
+        """The programs that run on the machine, a line each: id of the host, what it waits for, command."""
+        found = []
+        prefix = ("WINEPREFIX=%s" % self.prefix).encode()
+        for folder in Path("/proc").glob("[0-9]*"):
+            try:
+                if prefix in (folder / "environ").read_bytes().split(b"\0"):
+                    command = (folder / "cmdline").read_bytes().replace(b"\0", b" ").decode(errors="replace")
+                    found.append("%s %s %s" % (folder.name, (folder / "wchan").read_text(), command))
+            except OSError:
+                pass  # it has ended meanwhile
+        return sorted(found)
 
     def set_value(self, key, name, text):
         """Writes a text into the registry, as an administrator would with the machine's own tool."""

@@ -5,6 +5,7 @@ import contextlib
 import os
 import re
 import shutil
+import subprocess
 import sys
 import time
 import unittest
@@ -56,8 +57,12 @@ class MachineCase(unittest.TestCase):
     def configure(self, install_dir, *tokens, **options):
         """Runs the program of an install dir; answers its exit code and the lines of the whole log, without
         their time stamps; a line without one keeps "! " before it."""
-        answer = self.machine.run(install_dir + "\\NVXConfig.exe", *tokens, **options)
         log = self.machine.path(install_dir) / "NVXConfig.log"
+        try:
+            answer = self.machine.run(install_dir + "\\NVXConfig.exe", *tokens, **options)
+        except subprocess.TimeoutExpired as error:
+            error.add_note("Its log ends:\n" + "\n".join(log_lines(log)[-12:] if log.is_file() else []))
+            raise
         return answer.returncode, log_lines(log) if log.is_file() else []
 
     def write(self, windows_path, contents=b""):

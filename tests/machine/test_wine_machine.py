@@ -12,7 +12,7 @@ import time
 import unittest
 from unittest import mock
 
-from machine_case import BUILD
+from machine_case import BUILD, SCRIPTED_TOOL
 import winemachine
 from winemachine import Machine, MachineError, make_template, value_of
 
@@ -86,6 +86,14 @@ class WineMachine(unittest.TestCase):
     def test_a_script_that_the_registry_editor_does_not_import_is_reported(self):
         with self.assertRaises(MachineError):
             self.machine.import_script('[%s]\n"no header"="x"\n' % KEY)
+
+    def test_a_program_that_outlives_its_timeout_is_named_and_ended(self):
+        shutil.copy(SCRIPTED_TOOL, self.machine.path("C:\\tool.exe"))
+        self.machine.path("C:\\tool.exe.script").write_text("sleep 100000")
+        with self.assertRaises(subprocess.TimeoutExpired) as caught:
+            self.machine.run("C:\\tool.exe", timeout=3)
+        self.assertIn("C:\\tool.exe", "".join(caught.exception.__notes__))
+        self.assertEqual(self.machine.programs(), [])
 
     def test_a_machine_whose_server_was_killed_says_so(self):
         self.machine.start_up()
