@@ -196,7 +196,8 @@ class Machine:
         """Writes a text into the registry, as an administrator would with the machine's own tool."""
         answer = self.run("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", text, "/f")
         if answer.returncode != 0:
-            raise RuntimeError("reg add failed: " + answer.stdout.decode(errors="replace"))
+            told = answer.stdout.decode(errors="replace")
+            raise MachineError("reg add ended with %d: %s" % (answer.returncode, told))
 
     def import_script(self, script):
         """Has the Registry Editor import a script (a str). The editor returns 0 for anything: a value added
