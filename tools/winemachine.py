@@ -126,7 +126,7 @@ class Machine:
             try:
                 program.wait(timeout)
             except subprocess.TimeoutExpired as error:
-                error.add_note("Programs of the machine:\n" + "\n".join(self.programs()))
+                error.add_note("Programs of the machine:\n" + "\n".join(self.programs().values()))
                 self.stop()
                 program.wait()
                 raise
@@ -179,18 +179,20 @@ class Machine:
         else:
             _stop_other_server(self.environment())
 
-    def programs(self):
-        """The programs that run on the machine, a line each: id of the host, what it waits for, command."""
-        found = []
+    def programs(self, *names):
+        """The programs that run on the machine: {id on the host: command line}; with names, only those whose
+        command line holds one of them."""
         prefix = ("WINEPREFIX=%s" % self.prefix).encode()
+        found = {}
         for folder in Path("/proc").glob("[0-9]*"):
             try:
-                if prefix in (folder / "environ").read_bytes().split(b"\0"):
-                    command = (folder / "cmdline").read_bytes().replace(b"\0", b" ").decode(errors="replace")
-                    found.append("%s %s %s" % (folder.name, (folder / "wchan").read_text(), command))
+                command = (folder / "cmdline").read_bytes().replace(b"\0", b" ").decode(errors="replace")
+                wanted = not names or any(name.lower() in command.lower() for name in names)
+                if wanted and prefix in (folder / "environ").read_bytes().split(b"\0"):
+                    found[int(folder.name)] = command
             except OSError:
                 pass  # it has ended meanwhile
-        return sorted(found)
+        return found
 
     def set_value(self, key, name, text):
         """Writes a text into the registry, as an administrator would with the machine's own tool."""

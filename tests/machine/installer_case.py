@@ -30,7 +30,7 @@ class InstallerCase:
         program, _, options = command.removeprefix('"').partition('"')
         self.machine.run(program, *options.split(), "/S", timeout=900)
         deadline = time.monotonic() + 900
-        while self.processes("\\~nsu") and time.monotonic() < deadline:
+        while self.machine.programs("\\~nsu") and time.monotonic() < deadline:
             time.sleep(0.1)
         self.assertFalse(self.exists(program), "the removal has not come to its end")
 

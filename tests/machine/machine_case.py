@@ -74,20 +74,6 @@ class MachineCase(unittest.TestCase):
     def exists(self, windows_path):
         return self.machine.path(windows_path).exists()
 
-    def processes(self, *names):
-        """The host's ids of those processes of the machine whose command line holds one of the names."""
-        prefix = ("WINEPREFIX=%s" % self.machine.prefix).encode()
-        found = []
-        for folder in Path("/proc").glob("[0-9]*"):
-            try:
-                command = (folder / "cmdline").read_bytes().replace(b"\0", b" ").decode(errors="replace")
-                wanted = any(name.lower() in command.lower() for name in names)
-                if wanted and prefix in (folder / "environ").read_bytes().split(b"\0"):
-                    found.append(int(folder.name))
-            except OSError:
-                pass  # it has ended meanwhile
-        return found
-
     @contextlib.contextmanager
     def held(self, path, mark_path="C:\\held"):
         """A program has the file open and lets nobody else at it. The other path is a sign between us."""

@@ -123,7 +123,7 @@ class KilledRuns(LauncherCase):
         go, and would stay for ever; it is ended."""
         seen = {}
         while True:
-            running = self.processes(*STARTED)
+            running = self.machine.programs(*STARTED)
             for pid in running:
                 work, since = seen.get(pid, (None, 0))
                 now = time.monotonic()

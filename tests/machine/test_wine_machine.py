@@ -93,7 +93,7 @@ class WineMachine(unittest.TestCase):
         with self.assertRaises(subprocess.TimeoutExpired) as caught:
             self.machine.run("C:\\tool.exe", timeout=3)
         self.assertIn("C:\\tool.exe", "".join(caught.exception.__notes__))
-        self.assertEqual(self.machine.programs(), [])
+        self.assertEqual(self.machine.programs(), {})
 
     def test_a_machine_whose_server_was_killed_says_so(self):
         self.machine.start_up()
