@@ -17,7 +17,9 @@ runs until `stop`; a machine counts as started when a program of it has run to i
 As a program, winemachine.py FOLDER makes the template in a folder.
 """
 
+import contextlib
 import ctypes
+import functools
 import hashlib
 import os
 import re
@@ -51,6 +53,12 @@ IMPORT_KEY = "HKEY_CURRENT_USER\\Software\\Wine\\Imported scripts"
 START_TIMEOUT_S = 60
 STOP_TIMEOUT_S = 120
 LOCK_TAKEN = 2  # the exit status of a server that finds another one in its place
+
+# Of sys/prctl.h and sys/personality.h.
+_LIBC = ctypes.CDLL(None)
+_PR_SET_PDEATHSIG = 1
+_ADDR_NO_RANDOMIZE = 0x0040000
+_ASK_PERSONALITY = 0xFFFFFFFF
 
 
 class MachineError(Exception):
@@ -114,15 +122,15 @@ class Machine:
         # The first program starts the machine's services, which keep its output open for as long as they
         # run: a file does not wait for them, a pipe would.
         with tempfile.TemporaryFile() as output:
-            program = subprocess.Popen(
-                command,
-                cwd=working_folder,
-                env=self.environment(**environment),
-                stdin=subprocess.DEVNULL,
-                stdout=output,
-                stderr=subprocess.STDOUT,
-                preexec_fn=self._stay_on_processor,
-            )
+            with self.program_settings():
+                program = subprocess.Popen(
+                    command,
+                    cwd=working_folder,
+                    env=self.environment(**environment),
+                    stdin=subprocess.DEVNULL,
+                    stdout=output,
+                    stderr=subprocess.STDOUT,
+                )
             try:
                 program.wait(timeout)
             except subprocess.TimeoutExpired as error:
@@ -137,15 +145,15 @@ class Machine:
         """Starts a program of the machine and does not wait for it; returns its process, whose output is
         dropped."""
         self.start_up()
-        return subprocess.Popen(
-            ["wine", program, *tokens],
-            cwd=self.prefix,
-            env=self.environment(),
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-            preexec_fn=self._stay_on_processor,
-        )
+        with self.program_settings():
+            return subprocess.Popen(
+                ["wine", program, *tokens],
+                cwd=self.prefix,
+                env=self.environment(),
+                stdin=subprocess.DEVNULL,
+                stdout=subprocess.DEVNULL,
+                stderr=subprocess.DEVNULL,
+            )
 
     def start_up(self):
         """Starts the machine unless it runs; its services have started when this returns."""
@@ -154,7 +162,8 @@ class Machine:
                 return
             raise MachineError("the server of %s ended with %d" % (self.prefix, self._server.returncode))
         self._processor = _free_processor()
-        self._server = _start_server(self.environment(), self._processor)
+        self._server_errors = tempfile.TemporaryFile()
+        self._server = _start_server(self.environment(), self._processor, self._server_errors)
         try:
             answer = self.run("cmd", "/c", "echo started", timeout=START_TIMEOUT_S)
             if answer.returncode != 0 or answer.stdout.splitlines()[-1:] != [b"started"]:
@@ -163,10 +172,26 @@ class Machine:
             self.stop()
             raise
 
-    def _stay_on_processor(self):
-        """In a child: a program calls the server thousands of times, and waking another processor for each
-        call and each reply costs half as much again as the work itself."""
-        os.sched_setaffinity(0, {self._processor})
+    @contextlib.contextmanager
+    def program_settings(self):
+        """What is started meanwhile gets the settings of the machine's programs.
+
+        They stay on one processor: a program calls the server thousands of times, and waking another
+        processor for each call and each reply costs half as much again as the work itself. And their
+        addresses are not random: each needs the page at 0x7ffe0000, and a kernel that places the heap
+        anywhere within a gigabyte puts it there in one of some 2,500 starts, which then fails ("failed to map
+        the shared user data").
+        """
+        processors = os.sched_getaffinity(0)
+        personality = _LIBC.personality(_ASK_PERSONALITY)
+        if self._processor is not None:
+            os.sched_setaffinity(0, {self._processor})
+        _LIBC.personality(personality | _ADDR_NO_RANDOMIZE)
+        try:
+            yield
+        finally:
+            _LIBC.personality(personality)
+            os.sched_setaffinity(0, processors)
 
     def stop(self):
         """Ends every process of the machine and writes its registry to the disk."""
@@ -174,8 +199,12 @@ class Machine:
         if server:
             server.send_signal(signal.SIGINT)
             # Never by force: that would lose the registry.
-            if server.wait(STOP_TIMEOUT_S) != 0:
-                raise MachineError("the server of %s ended with %d" % (self.prefix, server.returncode))
+            status = server.wait(STOP_TIMEOUT_S)
+            self._server_errors.seek(0)
+            errors = self._server_errors.read().decode(errors="replace")
+            self._server_errors.close()
+            if status != 0 or errors:
+                raise MachineError("the server of %s ended with %d: %s" % (self.prefix, status, errors))
         else:
             _stop_other_server(self.environment())
 
@@ -267,8 +296,9 @@ def _free_processor():
     return min(machines, key=machines.get)
 
 
-def _start_server(environment, processor):
-    """Starts the server of a machine as a child process that ends with this one. Returns when it listens."""
+def _start_server(environment, processor, errors):
+    """Starts the server of a machine as a child process that ends with this one; what it complains of goes to
+    the file `errors`. Returns when it listens."""
 
     def in_child():
         _end_with_parent()
@@ -281,7 +311,7 @@ def _start_server(environment, processor):
             env=environment,
             stdin=subprocess.DEVNULL,
             stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
+            stderr=errors,
             preexec_fn=in_child,
         )
         while server.poll() is None and not _is_listening(server):
@@ -298,8 +328,7 @@ def _start_server(environment, processor):
 
 def _end_with_parent():
     """In the child: it gets SIGTERM, at which a server saves its registry, when its parent has ended."""
-    PR_SET_PDEATHSIG = 1
-    ctypes.CDLL(None).prctl(PR_SET_PDEATHSIG, signal.SIGTERM)
+    _LIBC.prctl(_PR_SET_PDEATHSIG, signal.SIGTERM)
 
 
 def _is_listening(server):
@@ -370,25 +399,34 @@ def _copy_template(template, prefix):
     shutil.copytree(template, prefix, symlinks=True, copy_function=copy)
 
 
-_KEY = re.compile(r"^\[(.*)\] \d+")
+_KEY = re.compile(r"^(.*)\] \d+")
 _VALUE = re.compile(r'^(?:"((?:[^"\\]|\\.)*)"|@)=(.*)$')
 
 
 def _read_registry(path, root):
     keys = {}
-    values = None
-    for line in path.read_text(encoding="utf-8", errors="surrogateescape").splitlines():
-        key = _KEY.match(line)
-        value = _VALUE.match(line)
+    # Machines differ from their template in a few of twenty thousand keys, so most sections are known.
+    for section in path.read_text(encoding="utf-8", errors="surrogateescape").split("\n["):
+        key, values = _read_section(section)
         if key:
-            values = keys.setdefault(_canonical(root + "\\" + _unescape(key.group(1))), {})
-        elif value and values is not None:
+            keys.setdefault(_canonical(root + "\\" + key), {}).update(values)
+    return keys
+
+
+@functools.lru_cache(maxsize=None)
+def _read_section(section):
+    """The key of a section, whose opening bracket is left out, and its values; no key in the head of the
+    file."""
+    head, *lines = section.splitlines() or [""]
+    key = _KEY.match(head)
+    values = {}
+    for line in lines if key else ():
+        value = _VALUE.match(line)
+        if value:
             text = value.group(2)
             quoted = re.match(r'^(?:str\(\d+\):)?"(.*)"$', text)
-            values[_unescape(value.group(1) or "")] = (
-                _unescape(quoted.group(1)) if quoted else text
-            )
-    return keys
+            values[_unescape(value.group(1) or "")] = _unescape(quoted.group(1)) if quoted else text
+    return key and _unescape(key.group(1)), values
 
 
 def _canonical(key):

@@ -70,7 +70,7 @@ void killOften(const QString &option, const QString &folder, const QString &file
         const QDateTime before = QFileInfo(file).lastModified();
         QProcess program;
         program.start(QCoreApplication::applicationFilePath(), {option, folder});
-        QVERIFY(program.waitForStarted());
+        QVERIFY2(program.waitForStarted(), qPrintable(program.errorString()));
         QVERIFY(QTest::qWaitFor([&] { return QFileInfo(file).lastModified() != before; }, 20'000));
         QVERIFY(!program.waitForFinished(7 * kill % 50));
         program.kill();

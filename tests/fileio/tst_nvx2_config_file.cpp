@@ -111,7 +111,7 @@ private slots:
         for (int moment = 0; moment < 20; ++moment) {
             QProcess writer;
             writer.start(QStringLiteral(CONFIGURATION_WRITER), {path});
-            QVERIFY(writer.waitForStarted());
+            QVERIFY2(writer.waitForStarted(), qPrintable(writer.errorString()));
             QTRY_VERIFY(QFile::exists(path));
             QTest::qSleep(moment);
             writer.kill();

@@ -63,6 +63,9 @@ class MachineCase(unittest.TestCase):
         except subprocess.TimeoutExpired as error:
             error.add_note("Its log ends:\n" + "\n".join(log_lines(log)[-12:] if log.is_file() else []))
             raise
+        if answer.returncode != 0:
+            output = answer.stdout.decode(errors="replace")
+            print("NVXConfig.exe ended with %d: %s" % (answer.returncode, output), file=sys.stderr)
         return answer.returncode, log_lines(log) if log.is_file() else []
 
     def write(self, windows_path, contents=b""):

@@ -10,12 +10,14 @@ import sys
 import threading
 import time
 import unittest
+from pathlib import Path
 from unittest import mock
 
 from machine_case import BUILD, SCRIPTED_TOOL
 import winemachine
 from winemachine import Machine, MachineError, make_template, value_of
 
+TOOLS = Path(winemachine.__file__).parent
 KEY = "HKEY_CURRENT_USER\\Software\\Tried"
 
 
@@ -47,7 +49,9 @@ class WineMachine(unittest.TestCase):
     def test_a_program_that_connects_to_an_ending_server_is_not_dropped(self):
         with self.foreign_server("-p3") as server:
             command = ["wine", "cmd", "/c", "exit"]
-            subprocess.run(command, env=self.machine.environment(), check=True, stdout=subprocess.DEVNULL)
+            with self.machine.program_settings():
+                environment = self.machine.environment()
+                subprocess.run(command, env=environment, check=True, stdout=subprocess.DEVNULL)
             time.sleep(2)
             # It sleeps over the moment at which it gives up; a program that connects now would be dropped.
             os.kill(server.pid, signal.SIGSTOP)
@@ -74,6 +78,45 @@ class WineMachine(unittest.TestCase):
             self.machine.set_value(KEY, str(number), "x")
         registry = self.machine.registry()
         self.assertEqual([value_of(registry, KEY, str(number)) for number in range(4)], ["x"] * 4)
+
+    def start_by_wine_run(self, program):
+        (self.machine.prefix / ".ready").touch()
+        return subprocess.Popen(
+            [TOOLS / "wine-run", program],
+            env={**os.environ, "WINEPREFIX": str(self.machine.prefix)},
+            stdout=subprocess.DEVNULL,
+        )
+
+    def test_the_addresses_of_programs_are_not_random(self):
+        # The page that each program needs could be taken otherwise.
+        ADDR_NO_RANDOMIZE = 0x0040000
+        shutil.copy(SCRIPTED_TOOL, self.machine.path("C:\\tool.exe"))
+        self.machine.path("C:\\tool.exe.script").write_text("mark C:\\runs\nwait C:\\runs")
+        runs = self.machine.path("C:\\runs")
+        for start in (self.machine.start, self.start_by_wine_run):
+            with self.subTest(start.__name__):
+                process = start("C:\\tool.exe")
+                while not runs.exists() and process.poll() is None:
+                    time.sleep(0.01)
+                programs = self.machine.programs()
+                personalities = {
+                    command: int(Path("/proc/%d/personality" % pid).read_text(), 16)
+                    for pid, command in programs.items()
+                    if "wineserver" not in command and "wine-run" not in command
+                }
+                runs.unlink()
+                process.wait(60)
+                self.machine.stop()
+                self.assertIn("C:\\windows\\system32\\services.exe", "".join(personalities))
+                random = [name for name, value in personalities.items() if not value & ADDR_NO_RANDOMIZE]
+                self.assertEqual(random, [])
+
+    def test_what_the_server_complains_of_is_reported(self):
+        complaint = "protocol error"
+        self.machine.start_up()
+        self.machine._server_errors.write(complaint.encode())
+        with self.assertRaisesRegex(MachineError, complaint):
+            self.machine.stop()
 
     def test_an_imported_script_is_there_to_its_last_value(self):
         names = ["value %d" % number for number in range(200)]
@@ -116,8 +159,7 @@ class WineMachine(unittest.TestCase):
             "machine = Machine(sys.argv[2]); machine.set_value(sys.argv[3], 'kept', 'x')\n"
             "print(machine._server.pid, flush=True); os._exit(0)"
         )
-        tools = os.path.dirname(winemachine.__file__)
-        command = [sys.executable, "-B", "-c", script, tools, self.machine.prefix, KEY]
+        command = [sys.executable, "-B", "-c", script, TOOLS, self.machine.prefix, KEY]
         done = subprocess.run(command, stdout=subprocess.PIPE, check=True)
         deadline = time.monotonic() + 60
         while os.path.exists("/proc/%d/cwd/socket" % int(done.stdout)) and time.monotonic() < deadline:

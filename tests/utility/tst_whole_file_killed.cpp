@@ -74,7 +74,7 @@ private slots:
             const QDateTime before = QFileInfo(fileName).lastModified();
             QProcess writer;
             writer.start(QCoreApplication::applicationFilePath(), {replaceOption, fileName});
-            QVERIFY(writer.waitForStarted());
+            QVERIFY2(writer.waitForStarted(), qPrintable(writer.errorString()));
             // The writer must be at it when it is killed, at another point each time.
             QVERIFY(QTest::qWaitFor([&] { return QFileInfo(fileName).lastModified() != before; }, 20'000));
             QVERIFY(!writer.waitForFinished(7 * kill % 50));
@@ -96,7 +96,7 @@ private slots:
         std::array<QProcess, 3> writers;
         for (QProcess &writer : writers) {
             writer.start(QCoreApplication::applicationFilePath(), {contendOption, fileName});
-            QVERIFY(writer.waitForStarted());
+            QVERIFY2(writer.waitForStarted(), qPrintable(writer.errorString()));
         }
         QElapsedTimer clock;
         clock.start();
@@ -124,7 +124,7 @@ private slots:
         for (int kill = 0; kill < kills; ++kill) {
             QProcess copier;
             copier.start(QCoreApplication::applicationFilePath(), {copyOption, source, target});
-            QVERIFY(copier.waitForStarted());
+            QVERIFY2(copier.waitForStarted(), qPrintable(copier.errorString()));
             // The copy itself is there for moments only, what is being written nearly always.
             QVERIFY(QTest::qWaitFor([&] { return namesBeside(source).size() > 0; }, 20'000));
             QVERIFY(!copier.waitForFinished(7 * kill % 50));
