@@ -6,6 +6,7 @@ NVX_SEED in the environment repeats the instants of an earlier run; the seed is 
 
 import os
 import random
+import re
 import shutil
 import signal
 import time
@@ -46,9 +47,14 @@ SHARED_FILES = (
     SHARED_DATA + "\\NVX2_config.nvxcfg",
     FLAGS,
 )
-OUR_KEYS = (
-    *("velmora", "nvx", "\\.tpl", "\\.nvz", "\\services\\"),
-    *(key.lower() for key in COM_CLASSES.values()),
+OUR_KEYS = re.compile(
+    "|".join(
+        (
+            *("velmora", "nvx", r"\\\.tpl", r"\\\.nvz", r"\\services\\"),
+            *map(re.escape, (*COM_CLASSES.values(), ENVIRONMENT_KEY)),
+        )
+    ),
+    re.IGNORECASE,
 )
 # Programs that a run starts; they go on when it is killed.
 STARTED = ("7z.exe", "cmd.exe", "regedit.exe", "regsvr32.exe", "NVXViewerConfig.exe", "NVXServer.exe -i")
@@ -133,7 +139,7 @@ class KilledRuns(LauncherCase):
                     end_process(pid)
             if not running:
                 return
-            time.sleep(0.02)
+            time.sleep(0.1)
 
     def assert_whole(self, before, after):
         """Each shared file is as before the run or as after one that nobody disturbed, or is not there if
@@ -204,11 +210,7 @@ class KilledRuns(LauncherCase):
 
 def ours(registry):
     """The part of a registry that a run has to do with."""
-    return {
-        key: values
-        for key, values in registry.items()
-        if any(part in key.lower() for part in OUR_KEYS) or key.lower() == ENVIRONMENT_KEY.lower()
-    }
+    return {key: values for key, values in registry.items() if OUR_KEYS.search(key)}
 
 
 def last_run(lines):
