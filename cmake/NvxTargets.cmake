@@ -133,7 +133,7 @@ endfunction()
 
 # nvx_fuzzer(NAME LINKS TARGET...): a libFuzzer program of NAME.cpp, run by ctest and as long as one likes by
 # hand. Where the folder corpus/NAME has inputs to start from, ctest makes a fixed number of runs from them, the
-# same ones each time; else it runs for a few seconds. What is found is not written into the sources.
+# same ones each time; else it runs for two seconds. What is found is not written into the sources.
 function(nvx_fuzzer name)
     cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
     add_executable(${name} ${name}.cpp)
@@ -146,7 +146,7 @@ function(nvx_fuzzer name)
         list(JOIN seeds "," inputs)
         list(APPEND limits -runs=20000 -seed=1 "-seed_inputs=${inputs}")
     else()
-        list(APPEND limits -max_total_time=5)
+        list(APPEND limits -max_total_time=2)
     endif()
     add_test(NAME ${name} COMMAND ${name} ${limits})
 endfunction()
