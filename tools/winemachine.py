@@ -203,7 +203,9 @@ class Machine:
             self._server_errors.seek(0)
             errors = self._server_errors.read().decode(errors="replace")
             self._server_errors.close()
-            if status != 0 or errors:
+            if errors:
+                print(errors, file=sys.stderr)
+            if status != 0 or "Protocol error" in errors:
                 raise MachineError("the server of %s ended with %d: %s" % (self.prefix, status, errors))
         else:
             _stop_other_server(self.environment())

@@ -111,8 +111,8 @@ class WineMachine(unittest.TestCase):
                 random = [name for name, value in personalities.items() if not value & ADDR_NO_RANDOMIZE]
                 self.assertEqual(random, [])
 
-    def test_what_the_server_complains_of_is_reported(self):
-        complaint = "protocol error"
+    def test_a_program_that_the_server_drops_is_reported(self):
+        complaint = "Protocol error:0020: partial read 3"
         self.machine.start_up()
         self.machine._server_errors.write(complaint.encode())
         with self.assertRaisesRegex(MachineError, complaint):
