@@ -17,7 +17,10 @@ void Log::append(const QString &text)
 {
     if (!m_file.isOpen())
         return;
-    m_file.write((text + QLatin1Char('\n')).toUtf8());
+    QString line = text;
+    // On Windows the file puts a carriage return before each "\n".
+    line.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    m_file.write((line + QLatin1Char('\n')).toUtf8());
     m_file.flush();
 }
 

@@ -111,6 +111,14 @@ class Folders(MachineCase):
         self.install()
         self.assertTrue(self.exists(TUTORIALS + "\\First steps\\02 Heat sink.txt"))
 
+    def test_every_line_of_the_log_ends_as_lines_do_on_windows(self):
+        self.install()
+        log = self.machine.path("C:\\NVX\\NVXConfig.log").read_bytes()
+        # The command interpreter shows each command, after an empty line.
+        self.assertTrue(b" output:\r\nC:\\NVX>rmdir " in log)
+        self.assertEqual(log.count(b"\r\r\n"), 0)
+        self.assertEqual(log.count(b"\n"), log.count(b"\r\n"))
+
     def test_a_log_that_cannot_be_opened_changes_nothing_else(self):
         self.write("C:\\no log\\keep.txt")
         self.put_product("C:\\no log")

@@ -41,6 +41,21 @@ private slots:
                                                             "e \xE6\x97\xA5\xE6\x9C\xAC\n"));
     }
 
+    void lineBreaksOfATextAreThoseOfTheMachineWhicheverItHas()
+    {
+        const TestFolder folder;
+        const QString one = folder.path(QStringLiteral("one.log"));
+        const QString other = folder.path(QStringLiteral("other.log"));
+        for (const auto &[path, text] : {std::pair(one, QStringLiteral("first\nsecond\n\n")),
+                                         std::pair(other, QStringLiteral("first\r\nsecond\r\n\r\n"))}) {
+            Log log(path);
+            QVERIFY(log.open(true));
+            log.append(text);
+        }
+        QCOMPARE(withoutReturns(readFile(one)), QByteArray("first\nsecond\n\n\n"));
+        QCOMPARE(readFile(other), readFile(one));
+    }
+
     void openingToAppendKeepsWhatIsThere()
     {
         const TestFolder folder;

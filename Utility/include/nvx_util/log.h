@@ -17,7 +17,7 @@ public:
     /// the log stays closed, when the file cannot be opened.
     bool open(bool append);
 
-    /// Writes the text as one line.
+    /// Writes the text as one line. Line breaks in it, "\n" or "\r\n", become those of the machine.
     void append(const QString &text);
 
     void close();
