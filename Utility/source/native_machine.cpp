@@ -23,18 +23,18 @@ void takeOutput(QProcess &process, qsizetype limit, QByteArray &output)
         output += written.left(limit - output.size());
 }
 
-ProgramResult::Outcome waitForEnd(QProcess &process, int timeoutMs)
+void waitForEnd(QProcess &process, int timeoutMs, ProgramResult &result)
 {
     process.waitForFinished(timeoutMs);
-    if (process.error() == QProcess::FailedToStart)
-        return ProgramResult::Outcome::NotStarted;
-    if (process.state() != QProcess::NotRunning) {
+    if (process.error() == QProcess::FailedToStart) {
+        result.outcome = ProgramResult::Outcome::NotStarted;
+    } else if (process.state() != QProcess::NotRunning) {
         process.kill();
         process.waitForFinished(5000);
-        return ProgramResult::Outcome::TimedOut;
+        result.outcome = ProgramResult::Outcome::TimedOut;
+    } else {
+        Platform::setEnd(process, result);
     }
-    return process.exitStatus() == QProcess::NormalExit ? ProgramResult::Outcome::Exited
-                                                        : ProgramResult::Outcome::Crashed;
 }
 
 QMessageBox::Icon iconOf(BoxKind kind)
@@ -87,9 +87,7 @@ ProgramResult NativeMachine::run(const ProgramCall &call)
 
     process.start(QIODevice::ReadWrite);
     process.closeWriteChannel(); // a program that asks a question gets no answer rather than our patience
-    result.outcome = waitForEnd(process, call.timeoutMs);
-    if (result.outcome == ProgramResult::Outcome::Exited)
-        result.exitCode = process.exitCode();
+    waitForEnd(process, call.timeoutMs, result);
     if (result.outcome != ProgramResult::Outcome::NotStarted)
         take();
     return result;

@@ -41,6 +41,9 @@ QString systemProgram(const QString &fileName);
 /// Hands the arguments of the call to the process, quoted as the call says.
 void setArguments(QProcess &process, const ProgramCall &call);
 
+/// Sets the outcome and the exit code of a program that ended by itself.
+void setEnd(const QProcess &process, ProgramResult &result);
+
 /// Waits at most timeoutMs until there is no such process. It need not be a child of ours.
 void waitForEnd(qint64 process, int timeoutMs);
 

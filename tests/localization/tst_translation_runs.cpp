@@ -83,7 +83,7 @@ private slots:
         QTest::newRow("missing") << Outcome::NotStarted << 0 << false;
         QTest::newRow("answers 1") << Outcome::Exited << 1 << true;
         QTest::newRow("ended at the time limit") << Outcome::TimedOut << 0 << true;
-        QTest::newRow("crashes") << Outcome::Crashed << 0 << true;
+        QTest::newRow("crashes") << Outcome::Crashed << 139 << true;
     }
 
     void aToolThatFailsLeavesTheFileAsItWas()

@@ -29,6 +29,19 @@ class ExternalPrograms(MachineCase):
         logged = self.run_with("C:\\code", "line last words\nexit 255")
         self.assertEqual(logged, [" 255 Output:", " 255   last words"])
 
+    def test_exit_codes_from_0x80000000_up_are_the_level_like_any_other(self):
+        for name, number, level in (
+            ("access denied", 0x80070005, "-2147024891"),
+            ("a library is missing", 0xC0000135, "-1073741515"),
+            ("a fault", 0xC0000005, "-1073741819"),
+            ("the largest", 0xFFFFFFFF, "  -1"),
+        ):
+            with self.subTest(name):
+                orders = "line last words\nexit %d" % (number - 2**32)
+                logged = self.run_with("C:\\codes", orders)
+                self.assertEqual(logged, [level + " Output:", level + "   last words"])
+                self.machine.path("C:\\codes\\NVXConfig.log").unlink()
+
     def test_bytes_that_are_no_text_are_logged_all_the_same(self):
         logged = self.run_with("C:\\raw", "raw 610080ff81fe7a\nline \nline next")
         self.assertEqual(len(logged), 3)

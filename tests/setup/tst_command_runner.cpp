@@ -65,13 +65,16 @@ private slots:
         QTest::newRow("not started") << int(Outcome::NotStarted) << 0 << CommandRunner::notStarted
                                      << QStringList({text("-2 Output:"), text("-2   x"),
                                                      text("-2   The program could not be started.")});
-        QTest::newRow("hanging") << int(Outcome::TimedOut) << 0 << CommandRunner::notFinished
+        QTest::newRow("hanging") << int(Outcome::TimedOut) << 0 << CommandRunner::timedOut
                                  << QStringList({text("-1 Output:"), text("-1   x"),
                                                  text("-1   The program was still running after 30000 ms and "
                                                       "has been ended.")});
-        QTest::newRow("crashed") << int(Outcome::Crashed) << 11 << CommandRunner::notFinished
-                                 << QStringList({text("-1 Output:"), text("-1   x"),
-                                                 text("-1   The program crashed.")});
+        QTest::newRow("a result code of Windows")
+            << int(Outcome::Exited) << static_cast<int>(0x80070005U) << -2147024891
+            << QStringList({text("-2147024891 Output:"), text("-2147024891   x")});
+        QTest::newRow("crashed") << int(Outcome::Crashed) << 139 << 139
+                                 << QStringList({text("139 Output:"), text("139   x"),
+                                                 text("139   The program crashed.")});
     }
 
     void theExitCodeIsTheLevelOfTheOutput()

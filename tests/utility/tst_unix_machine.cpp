@@ -145,6 +145,16 @@ private slots:
         QCOMPARE(Nvx::Util::NativeMachine().commonDesktopFolder(), QString());
     }
 
+    void aProgramThatASignalEndsHasTheExitCodeThatAShellGivesIt()
+    {
+        Nvx::Util::ProgramCall call;
+        call.program = QStringLiteral("/bin/sh");
+        call.arguments = QStringList{QStringLiteral("-c"), QStringLiteral("kill -SEGV $$")};
+        const Nvx::Util::ProgramResult result = Nvx::Util::NativeMachine().run(call);
+        QVERIFY(result.outcome == Nvx::Util::ProgramResult::Outcome::Crashed);
+        QCOMPARE(result.exitCode, 128 + SIGSEGV);
+    }
+
     void aProcessThatHasEndedIsNotWaitedFor_data()
     {
         QTest::addColumn<bool>("isTakenNoteOf");

@@ -28,15 +28,15 @@ namespace {
 int exitCodeOf(const ProgramResult &result)
 {
     switch (result.outcome) {
-    case ProgramResult::Outcome::Exited:
-        return result.exitCode;
     case ProgramResult::Outcome::NotStarted:
         return CommandRunner::notStarted;
     case ProgramResult::Outcome::TimedOut:
+        return CommandRunner::timedOut;
+    case ProgramResult::Outcome::Exited:
     case ProgramResult::Outcome::Crashed:
         break;
     }
-    return CommandRunner::notFinished;
+    return result.exitCode;
 }
 
 bool createBatchFile(const QString &path, const QByteArray &commandLine)

@@ -16,15 +16,15 @@ public:
     static constexpr int usualTimeoutMs = 30000;
     static constexpr int noTimeout = -1;
 
-    // What runCommand answers for a program that gave no exit code.
-    static constexpr int notStarted = -2;  ///< there is no such program, or it may not be started
-    static constexpr int notFinished = -1; ///< it was ended at the time-out, or it crashed
+    // What runCommand returns for a program that gave no exit code.
+    static constexpr int notStarted = -2; ///< there is no such program, or it may not be started
+    static constexpr int timedOut = -1;   ///< it was ended at the time-out
 
     explicit CommandRunner(const StepContext &context);
 
     /// Runs a program and copies the first lines of its output into the log, at the exit code as level.
     /// program is a full path, workFolder empty for the install dir, timeoutMs noTimeout for no limit.
-    /// Returns the exit code, or notStarted or notFinished. A program still running at the time-out is ended.
+    /// Returns the exit code, or notStarted or timedOut. A program still running at the time-out is ended.
     int runCommand(const QString &program, const QStringList &arguments, const QString &workFolder,
                    int timeoutMs = usualTimeoutMs);
 

@@ -41,14 +41,14 @@ struct ProgramResult
 {
     enum class Outcome
     {
-        Exited,     ///< exitCode is what it answered
+        Exited,     ///< exitCode is what it returned
         NotStarted, ///< there is no such program, or it may not be started
         TimedOut,   ///< it was still running at the time-out and has been ended
-        Crashed     ///< it ended without an answer
+        Crashed     ///< a signal ended it; Windows does not report that, there any end is Exited
     };
 
     Outcome outcome = Outcome::NotStarted;
-    int exitCode = 0;  ///< meaningful for Exited only
+    int exitCode = 0;  ///< for Exited, signed; for Crashed 128 more than the signal's number, as in a shell
     QByteArray output; ///< what it wrote, standard output and standard error in the order written
 };
 

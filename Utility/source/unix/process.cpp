@@ -41,6 +41,14 @@ void setArguments(QProcess &process, const ProgramCall &call)
     process.setArguments(call.arguments);
 }
 
+void setEnd(const QProcess &process, ProgramResult &result)
+{
+    // Of a program that crashed Qt reports the number of the signal.
+    const bool crashed = process.exitStatus() == QProcess::CrashExit;
+    result.outcome = crashed ? ProgramResult::Outcome::Crashed : ProgramResult::Outcome::Exited;
+    result.exitCode = crashed ? 128 + process.exitCode() : process.exitCode();
+}
+
 void waitForEnd(qint64 process, int timeoutMs)
 {
     const QDeadlineTimer deadline(timeoutMs);

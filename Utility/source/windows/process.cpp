@@ -49,6 +49,13 @@ void setArguments(QProcess &process, const ProgramCall &call)
         QStringLiteral("%1 \"\"%2\"\"").arg(call.arguments.first(), call.arguments.last()));
 }
 
+// Qt takes every code with the highest bit for a crash, results of COM included. The code says what happened.
+void setEnd(const QProcess &process, ProgramResult &result)
+{
+    result.outcome = ProgramResult::Outcome::Exited;
+    result.exitCode = process.exitCode();
+}
+
 void waitForEnd(qint64 process, int timeoutMs)
 {
     const HANDLE handle = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process));
