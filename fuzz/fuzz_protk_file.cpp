@@ -18,7 +18,7 @@ void require(bool condition)
         std::abort();
 }
 
-// The plain way: as a text with a character for each byte.
+// The plain way: split as text with one character for each byte, measured as text of the code page.
 QByteArray expectedRemoval(const QByteArray &contents)
 {
     QByteArray kept;
@@ -26,7 +26,8 @@ QByteArray expectedRemoval(const QByteArray &contents)
         QString::fromLatin1(contents).split(QStringLiteral("end\r\n"), Qt::SkipEmptyParts);
     for (const QString &piece : pieces) {
         const QByteArray bytes = piece.toLatin1();
-        if (bytes.trimmed().size() >= 5 && !bytes.toLower().contains("nvx_2017_creo"))
+        const qsizetype length = QString::fromLocal8Bit(bytes).trimmed().size();
+        if (length >= 5 && !bytes.toLower().contains("nvx_2017_creo"))
             kept += bytes + "end\r\n";
     }
     return kept;

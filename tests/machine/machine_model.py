@@ -112,7 +112,7 @@ def _can_be_written(file):
 def _protk_after(plan, creo, is_install, contents):
     if contents is not None:
         pieces = contents.split(b"end\r\n")
-        kept = [p for p in pieces if b"nvx_2017_creo" not in p.lower() and len(p.strip()) >= 5]
+        kept = [p for p in pieces if b"nvx_2017_creo" not in p.lower() and _length(plan, p) >= 5]
         contents = b"".join(piece + b"end\r\n" for piece in kept)
     if not is_install:
         return contents
@@ -120,6 +120,11 @@ def _protk_after(plan, creo, is_install, contents):
     if old.find(b"$OSTRADE2017") >= 1:
         return old
     return creo_entry(creo.release, plan.install_dir, plan.code_page) + old
+
+
+def _length(plan, piece):
+    """The number of characters, without the white space around them, that the machine reads in the bytes."""
+    return len(piece.decode(plan.code_page, "replace").strip())
 
 
 def _menu_after(plan, version, is_install, contents):

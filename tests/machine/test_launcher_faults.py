@@ -156,6 +156,13 @@ class JapaneseMachine(LauncherCase):
         self.assertEqual(self.read(PROTK_2), FOREIGN_ENTRY)
         self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS + b"\r\n")
 
+    def test_a_fragment_is_measured_in_characters_of_the_code_page(self):
+        self.put_product()
+        four, five = (text.encode("cp932") + b"end\r\n" for text in ("表計算ソ", "表計算ソフ"))
+        self.machine.path(PROTK_2).write_bytes(four + FOREIGN_ENTRY + five)
+        self.run_with("-I")
+        self.assertEqual(self.read(PROTK_2), creo_entry(2) + FOREIGN_ENTRY + five)
+
     def test_a_byte_that_begins_a_character_does_not_hide_the_line_behind_it(self):
         folder = "C:\\日本\\NVX"
         self.put_product(folder)

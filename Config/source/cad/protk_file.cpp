@@ -12,7 +12,8 @@ constexpr qsizetype shortestEntry = 5;
 bool isKept(QByteArrayView piece)
 {
     static const CaselessSearch ours(creoLauncherName);
-    return piece.trimmed().size() >= shortestEntry && !ours.isFoundIn(piece);
+    // Characters, not bytes: a code page of Japanese or Chinese writes most characters in two.
+    return QString::fromLocal8Bit(piece).trimmed().size() >= shortestEntry && !ours.isFoundIn(piece);
 }
 
 } // namespace
