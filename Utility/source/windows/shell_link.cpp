@@ -1,13 +1,9 @@
-#include "nvx_util/shell_link.h"
-
 #include "platform.h"
+#include "windows/shell_link_calls.h"
 
 #include <array>
 
-#include <windows.h>
-
 #include <objbase.h>
-#include <shlobj.h>
 
 namespace Nvx::Util::Platform {
 
@@ -47,6 +43,7 @@ public:
             m_interface->Release();
     }
 
+    Interface *get() const { return m_interface; }
     Interface *operator->() const { return m_interface; }
     void **receiver() { return reinterpret_cast<void **>(&m_interface); }
 
@@ -68,21 +65,27 @@ private:
     std::array<wchar_t, static_cast<std::size_t>(shellLinkTextCapacity)> m_buffer{};
 };
 
-HRESULT describe(const ComPointer<IShellLinkW> &shellLink, const ShellLink &link)
+void describe(IShellLinkW &shellLink, const ShellLink &link)
 {
-    HRESULT result = shellLink->SetPath(WideText(link.target).get());
-    if (SUCCEEDED(result))
-        result = shellLink->SetDescription(WideText(link.description).get());
-    if (SUCCEEDED(result))
-        result = shellLink->SetWorkingDirectory(WideText(link.workFolder).get());
-    if (SUCCEEDED(result))
-        result = shellLink->SetArguments(WideText(link.arguments).get());
-    if (SUCCEEDED(result) && !link.iconPath.isEmpty())
-        result = shellLink->SetIconLocation(WideText(link.iconPath).get(), 0);
-    return result;
+    shellLink.SetPath(WideText(link.target).get());
+    shellLink.SetDescription(WideText(link.description).get());
+    shellLink.SetWorkingDirectory(WideText(link.workFolder).get());
+    shellLink.SetArguments(WideText(link.arguments).get());
+    if (!link.iconPath.isEmpty())
+        shellLink.SetIconLocation(WideText(link.iconPath).get(), 0);
 }
 
 } // namespace
+
+HRESULT saveShellLink(IShellLinkW &shellLink, const ShellLink &link)
+{
+    describe(shellLink, link);
+    ComPointer<IPersistFile> file;
+    HRESULT result = shellLink.QueryInterface(IID_IPersistFile, file.receiver());
+    if (SUCCEEDED(result))
+        result = file->Save(WideText(link.linkPath).get(), TRUE);
+    return result;
+}
 
 qint32 createShellLink(const ShellLink &link)
 {
@@ -91,19 +94,9 @@ qint32 createShellLink(const ShellLink &link)
 
     const ComSession session;
     ComPointer<IShellLinkW> shellLink;
-    HRESULT result = CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
-                                      shellLink.receiver());
-    if (FAILED(result))
-        return static_cast<qint32>(result);
-    result = describe(shellLink, link);
-    if (FAILED(result))
-        return static_cast<qint32>(result);
-
-    ComPointer<IPersistFile> file;
-    result = shellLink->QueryInterface(IID_IPersistFile, file.receiver());
-    if (SUCCEEDED(result))
-        result = file->Save(WideText(link.linkPath).get(), TRUE);
-    return static_cast<qint32>(result);
+    const HRESULT result = CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                            shellLink.receiver());
+    return static_cast<qint32>(FAILED(result) ? result : saveShellLink(*shellLink.get(), link));
 }
 
 } // namespace Nvx::Util::Platform
