@@ -206,10 +206,6 @@
         <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, dem Produkt werden keine Dateien zugeordnet: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1</source>
-        <translation>%1 konnte nicht erstellt werden</translation>
-    </message>
-    <message>
         <source>Create file associations</source>
         <translation>Dateizuordnungen werden erstellt</translation>
     </message>
@@ -220,14 +216,6 @@
 </context>
 <context>
     <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>%1 konnte nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1 konnte nicht geschrieben werden</translation>
-    </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
         <translation>Der Name des Installationsordners lässt sich in der Codepage des Systems nicht darstellen, das Startprogramm wird nicht eingetragen in %1</translation>
@@ -351,14 +339,6 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
 <context>
     <name>ProductRegistry</name>
     <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>Die Registrierung verweigert den Wert %1 von %2</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>Die Registrierung verweigert das Entfernen von %1</translation>
-    </message>
-    <message>
         <source>Updating language registry uninstall </source>
         <translation>Sprache im Deinstallationseintrag der Registrierung wird aktualisiert </translation>
     </message>
@@ -409,10 +389,6 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <translation>Verwaltet die Kommunikation zwischen den NVX-Komponenten.</translation>
     </message>
     <message>
-        <source>The server has been registered, but could not be started</source>
-        <translation>Der Server wurde registriert, konnte aber nicht gestartet werden</translation>
-    </message>
-    <message>
         <source>uninstallServer </source>
         <translation>uninstallServer </translation>
     </message>
@@ -421,20 +397,12 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <translation>uninstallServer - Dienst konnte nicht beendet werden</translation>
     </message>
     <message>
-        <source>The server has not stopped in time and is ended</source>
-        <translation>Der Server wurde nicht rechtzeitig beendet; sein Prozess wird abgebrochen</translation>
-    </message>
-    <message>
         <source>uninstallServer - service was not installed</source>
         <translation>uninstallServer - Dienst war nicht installiert</translation>
     </message>
     <message>
         <source>uninstallServer - could not uninstall service</source>
         <translation>uninstallServer - Dienst konnte nicht deinstalliert werden</translation>
-    </message>
-    <message>
-        <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>Der Dienst wird gelöscht, sobald er beendet ist und kein anderes Programm mehr auf ihn zugreift</translation>
     </message>
 </context>
 <context>
@@ -479,10 +447,6 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     <message>
         <source>Open failed:</source>
         <translation>Öffnen fehlgeschlagen:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1 konnte nicht geschrieben werden</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>

@@ -206,10 +206,6 @@
         <translation>Le dossier ne peut pas être représenté dans la page de codes du système, aucun fichier n&apos;est associé au produit&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1</source>
-        <translation>Impossible de créer %1</translation>
-    </message>
-    <message>
         <source>Create file associations</source>
         <translation>Création des associations de fichiers</translation>
     </message>
@@ -220,14 +216,6 @@
 </context>
 <context>
     <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>Impossible de lire %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Impossible d&apos;écrire %1</translation>
-    </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
         <translation>Le nom du dossier d&apos;installation ne peut pas être représenté dans la page de codes du système, le lanceur n&apos;est pas inscrit dans %1</translation>
@@ -351,14 +339,6 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
 <context>
     <name>ProductRegistry</name>
     <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>Le Registre refuse la valeur %1 de %2</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>Le Registre refuse la suppression de %1</translation>
-    </message>
-    <message>
         <source>Updating language registry uninstall </source>
         <translation>Mise à jour de la langue de désinstallation dans le Registre </translation>
     </message>
@@ -409,10 +389,6 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
         <translation>Gère la communication entre les composants de NVX.</translation>
     </message>
     <message>
-        <source>The server has been registered, but could not be started</source>
-        <translation>Le serveur a été enregistré, mais n&apos;a pas pu être démarré</translation>
-    </message>
-    <message>
         <source>uninstallServer </source>
         <translation>uninstallServer </translation>
     </message>
@@ -421,20 +397,12 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
         <translation>uninstallServer - impossible d&apos;arrêter le service</translation>
     </message>
     <message>
-        <source>The server has not stopped in time and is ended</source>
-        <translation>Le serveur ne s&apos;est pas arrêté à temps, son processus est interrompu</translation>
-    </message>
-    <message>
         <source>uninstallServer - service was not installed</source>
         <translation>uninstallServer - le service n&apos;était pas installé</translation>
     </message>
     <message>
         <source>uninstallServer - could not uninstall service</source>
         <translation>uninstallServer - impossible de désinstaller le service</translation>
-    </message>
-    <message>
-        <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>Le service sera supprimé dès qu&apos;il sera arrêté et qu&apos;aucun autre programme n&apos;y accédera plus</translation>
     </message>
 </context>
 <context>
@@ -479,10 +447,6 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     <message>
         <source>Open failed:</source>
         <translation>Échec de l&apos;ouverture&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Impossible d&apos;écrire %1</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>

@@ -206,10 +206,6 @@
         <translation>La cartella non può essere rappresentata nella tabella codici del sistema, nessun file viene associato al prodotto: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1</source>
-        <translation>Impossibile creare %1</translation>
-    </message>
-    <message>
         <source>Create file associations</source>
         <translation>Creazione delle associazioni di file</translation>
     </message>
@@ -220,14 +216,6 @@
 </context>
 <context>
     <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>Impossibile leggere %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Impossibile scrivere %1</translation>
-    </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
         <translation>Il nome della cartella di installazione non può essere rappresentato nella tabella codici del sistema, il programma di avvio non viene inserito in %1</translation>
@@ -351,14 +339,6 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
 <context>
     <name>ProductRegistry</name>
     <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>Il Registro di sistema rifiuta il valore %1 di %2</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>Il Registro di sistema rifiuta la rimozione di %1</translation>
-    </message>
-    <message>
         <source>Updating language registry uninstall </source>
         <translation>Aggiornamento della lingua di disinstallazione nel Registro di sistema </translation>
     </message>
@@ -409,10 +389,6 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <translation>Gestisce la comunicazione tra i componenti di NVX.</translation>
     </message>
     <message>
-        <source>The server has been registered, but could not be started</source>
-        <translation>Il server è stato registrato, ma non è stato possibile avviarlo</translation>
-    </message>
-    <message>
         <source>uninstallServer </source>
         <translation>uninstallServer </translation>
     </message>
@@ -421,20 +397,12 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <translation>uninstallServer - impossibile arrestare il servizio</translation>
     </message>
     <message>
-        <source>The server has not stopped in time and is ended</source>
-        <translation>Il server non si è arrestato in tempo e viene terminato</translation>
-    </message>
-    <message>
         <source>uninstallServer - service was not installed</source>
         <translation>uninstallServer - il servizio non era installato</translation>
     </message>
     <message>
         <source>uninstallServer - could not uninstall service</source>
         <translation>uninstallServer - impossibile disinstallare il servizio</translation>
-    </message>
-    <message>
-        <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>Il servizio verrà eliminato quando sarà stato arrestato e nessun altro programma vi accederà più</translation>
     </message>
 </context>
 <context>
@@ -479,10 +447,6 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     <message>
         <source>Open failed:</source>
         <translation>Apertura non riuscita:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Impossibile scrivere %1</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>

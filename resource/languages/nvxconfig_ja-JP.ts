@@ -206,10 +206,6 @@
         <translation>システムのコード ページではフォルダー名を表せないため、ファイルは製品に関連付けられません: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1</source>
-        <translation>%1 を作成できません</translation>
-    </message>
-    <message>
         <source>Create file associations</source>
         <translation>ファイルの関連付けを作成しています</translation>
     </message>
@@ -220,14 +216,6 @@
 </context>
 <context>
     <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>%1 を読み取れません</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1 に書き込めません</translation>
-    </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
         <translation>システムのコード ページではインストール フォルダーの名前を表せないため、ランチャーを %1 に登録しません</translation>
@@ -351,14 +339,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>ProductRegistry</name>
     <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>レジストリが %2 の値 %1 を拒否しました</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>レジストリが %1 の削除を拒否しました</translation>
-    </message>
-    <message>
         <source>Updating language registry uninstall </source>
         <translation>レジストリのアンインストール言語を更新しています </translation>
     </message>
@@ -409,10 +389,6 @@ Click No to continue without stopping the processes.</source>
         <translation>NVX のコンポーネント間の通信を管理します。</translation>
     </message>
     <message>
-        <source>The server has been registered, but could not be started</source>
-        <translation>サーバーは登録されましたが、開始できませんでした</translation>
-    </message>
-    <message>
         <source>uninstallServer </source>
         <translation>uninstallServer </translation>
     </message>
@@ -421,20 +397,12 @@ Click No to continue without stopping the processes.</source>
         <translation>uninstallServer - サービスを停止できませんでした</translation>
     </message>
     <message>
-        <source>The server has not stopped in time and is ended</source>
-        <translation>サーバーが時間内に停止しなかったため、プロセスを強制終了します</translation>
-    </message>
-    <message>
         <source>uninstallServer - service was not installed</source>
         <translation>uninstallServer - サービスはインストールされていませんでした</translation>
     </message>
     <message>
         <source>uninstallServer - could not uninstall service</source>
         <translation>uninstallServer - サービスをアンインストールできませんでした</translation>
-    </message>
-    <message>
-        <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>サービスは、終了して他のプログラムが参照しなくなった時点で削除されます</translation>
     </message>
 </context>
 <context>
@@ -479,10 +447,6 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Open failed:</source>
         <translation>開けませんでした:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1 に書き込めません</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>

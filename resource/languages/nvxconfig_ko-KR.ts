@@ -206,10 +206,6 @@
         <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 파일을 제품에 연결하지 않습니다: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1</source>
-        <translation>%1을(를) 만들 수 없습니다</translation>
-    </message>
-    <message>
         <source>Create file associations</source>
         <translation>파일 연결을 만드는 중</translation>
     </message>
@@ -220,14 +216,6 @@
 </context>
 <context>
     <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>%1을(를) 읽을 수 없습니다</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1에 쓸 수 없습니다</translation>
-    </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
         <translation>시스템 코드 페이지로 설치 폴더의 이름을 나타낼 수 없어 런처를 %1에 등록하지 않습니다</translation>
@@ -351,14 +339,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>ProductRegistry</name>
     <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>레지스트리가 %2의 값 %1을(를) 거부했습니다</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>레지스트리가 %1의 제거를 거부했습니다</translation>
-    </message>
-    <message>
         <source>Updating language registry uninstall </source>
         <translation>레지스트리의 제거 언어를 업데이트하는 중 </translation>
     </message>
@@ -409,10 +389,6 @@ Click No to continue without stopping the processes.</source>
         <translation>NVX 구성 요소 간의 통신을 관리합니다.</translation>
     </message>
     <message>
-        <source>The server has been registered, but could not be started</source>
-        <translation>서버가 등록되었지만 시작할 수 없습니다</translation>
-    </message>
-    <message>
         <source>uninstallServer </source>
         <translation>uninstallServer </translation>
     </message>
@@ -421,20 +397,12 @@ Click No to continue without stopping the processes.</source>
         <translation>uninstallServer - 서비스를 중지할 수 없습니다</translation>
     </message>
     <message>
-        <source>The server has not stopped in time and is ended</source>
-        <translation>서버가 제시간에 중지되지 않아 프로세스를 강제로 종료합니다</translation>
-    </message>
-    <message>
         <source>uninstallServer - service was not installed</source>
         <translation>uninstallServer - 서비스가 설치되어 있지 않았습니다</translation>
     </message>
     <message>
         <source>uninstallServer - could not uninstall service</source>
         <translation>uninstallServer - 서비스를 제거할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>서비스가 종료되고 다른 프로그램이 더 이상 참조하지 않으면 삭제됩니다</translation>
     </message>
 </context>
 <context>
@@ -479,10 +447,6 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Open failed:</source>
         <translation>열지 못했습니다:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>%1에 쓸 수 없습니다</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>

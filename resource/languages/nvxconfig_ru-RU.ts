@@ -206,10 +206,6 @@
         <translation>Имя папки невозможно представить в кодовой странице системы, файлы не сопоставлены с продуктом: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1</source>
-        <translation>Не удалось создать %1</translation>
-    </message>
-    <message>
         <source>Create file associations</source>
         <translation>Создание сопоставлений файлов</translation>
     </message>
@@ -220,14 +216,6 @@
 </context>
 <context>
     <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>Не удалось прочитать %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Не удалось записать %1</translation>
-    </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
         <translation>Имя папки установки невозможно представить в кодовой странице системы, модуль запуска не внесен в %1</translation>
@@ -351,14 +339,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>ProductRegistry</name>
     <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>Реестр отклонил параметр %1 раздела %2</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>Реестр отклонил удаление раздела %1</translation>
-    </message>
-    <message>
         <source>Updating language registry uninstall </source>
         <translation>Обновление языка удаления в реестре </translation>
     </message>
@@ -409,10 +389,6 @@ Click No to continue without stopping the processes.</source>
         <translation>Управляет обменом данными между компонентами NVX.</translation>
     </message>
     <message>
-        <source>The server has been registered, but could not be started</source>
-        <translation>Сервер зарегистрирован, но запустить его не удалось</translation>
-    </message>
-    <message>
         <source>uninstallServer </source>
         <translation>uninstallServer </translation>
     </message>
@@ -421,20 +397,12 @@ Click No to continue without stopping the processes.</source>
         <translation>uninstallServer - не удалось остановить службу</translation>
     </message>
     <message>
-        <source>The server has not stopped in time and is ended</source>
-        <translation>Сервер не остановился вовремя, его процесс завершается принудительно</translation>
-    </message>
-    <message>
         <source>uninstallServer - service was not installed</source>
         <translation>uninstallServer - служба не была установлена</translation>
     </message>
     <message>
         <source>uninstallServer - could not uninstall service</source>
         <translation>uninstallServer - не удалось удалить службу</translation>
-    </message>
-    <message>
-        <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>Служба будет удалена, когда она завершится и другие программы перестанут к ней обращаться</translation>
     </message>
 </context>
 <context>
@@ -479,10 +447,6 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Open failed:</source>
         <translation>Не удалось открыть файл:</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>Не удалось записать %1</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>

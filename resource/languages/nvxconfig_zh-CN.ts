@@ -206,10 +206,6 @@
         <translation>系统代码页无法表示该文件夹，未将文件与产品关联：%1</translation>
     </message>
     <message>
-        <source>Unable to create %1</source>
-        <translation>无法创建 %1</translation>
-    </message>
-    <message>
         <source>Create file associations</source>
         <translation>正在创建文件关联</translation>
     </message>
@@ -220,14 +216,6 @@
 </context>
 <context>
     <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>无法读取 %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>无法写入 %1</translation>
-    </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
         <translation>系统代码页无法表示安装文件夹的名称，未将启动程序写入 %1</translation>
@@ -351,14 +339,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>ProductRegistry</name>
     <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>注册表拒绝写入 %2 的值 %1</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>注册表拒绝删除 %1</translation>
-    </message>
-    <message>
         <source>Updating language registry uninstall </source>
         <translation>正在更新注册表中的卸载语言 </translation>
     </message>
@@ -409,10 +389,6 @@ Click No to continue without stopping the processes.</source>
         <translation>管理 NVX 组件之间的通信。</translation>
     </message>
     <message>
-        <source>The server has been registered, but could not be started</source>
-        <translation>服务器已注册，但无法启动</translation>
-    </message>
-    <message>
         <source>uninstallServer </source>
         <translation>uninstallServer </translation>
     </message>
@@ -421,20 +397,12 @@ Click No to continue without stopping the processes.</source>
         <translation>uninstallServer - 无法停止服务</translation>
     </message>
     <message>
-        <source>The server has not stopped in time and is ended</source>
-        <translation>服务器未及时停止，将终止其进程</translation>
-    </message>
-    <message>
         <source>uninstallServer - service was not installed</source>
         <translation>uninstallServer - 服务未安装</translation>
     </message>
     <message>
         <source>uninstallServer - could not uninstall service</source>
         <translation>uninstallServer - 无法卸载服务</translation>
-    </message>
-    <message>
-        <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>服务将在其结束且不再被其他程序访问后删除</translation>
     </message>
 </context>
 <context>
@@ -479,10 +447,6 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Open failed:</source>
         <translation>打开失败：</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>无法写入 %1</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>

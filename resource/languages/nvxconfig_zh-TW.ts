@@ -206,10 +206,6 @@
         <translation>系統字碼頁無法表示該資料夾，未將檔案與產品建立關聯：%1</translation>
     </message>
     <message>
-        <source>Unable to create %1</source>
-        <translation>無法建立 %1</translation>
-    </message>
-    <message>
         <source>Create file associations</source>
         <translation>正在建立檔案關聯</translation>
     </message>
@@ -220,14 +216,6 @@
 </context>
 <context>
     <name>ForeignFile</name>
-    <message>
-        <source>Unable to read %1</source>
-        <translation>無法讀取 %1</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>無法寫入 %1</translation>
-    </message>
     <message>
         <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
         <translation>系統字碼頁無法表示安裝資料夾的名稱，未將啟動程式寫入 %1</translation>
@@ -351,14 +339,6 @@ Click No to continue without stopping the processes.</source>
 <context>
     <name>ProductRegistry</name>
     <message>
-        <source>The registry refuses the value %1 of %2</source>
-        <translation>登錄拒絕寫入 %2 的值 %1</translation>
-    </message>
-    <message>
-        <source>The registry refuses to remove %1</source>
-        <translation>登錄拒絕移除 %1</translation>
-    </message>
-    <message>
         <source>Updating language registry uninstall </source>
         <translation>正在更新登錄中的解除安裝語言 </translation>
     </message>
@@ -409,10 +389,6 @@ Click No to continue without stopping the processes.</source>
         <translation>管理 NVX 元件之間的通訊。</translation>
     </message>
     <message>
-        <source>The server has been registered, but could not be started</source>
-        <translation>伺服器已註冊，但無法啟動</translation>
-    </message>
-    <message>
         <source>uninstallServer </source>
         <translation>uninstallServer </translation>
     </message>
@@ -421,20 +397,12 @@ Click No to continue without stopping the processes.</source>
         <translation>uninstallServer - 無法停止服務</translation>
     </message>
     <message>
-        <source>The server has not stopped in time and is ended</source>
-        <translation>伺服器未及時停止，將終止其處理程序</translation>
-    </message>
-    <message>
         <source>uninstallServer - service was not installed</source>
         <translation>uninstallServer - 服務未安裝</translation>
     </message>
     <message>
         <source>uninstallServer - could not uninstall service</source>
         <translation>uninstallServer - 無法解除安裝服務</translation>
-    </message>
-    <message>
-        <source>The service goes when it has ended and no other program looks at it</source>
-        <translation>服務將在其結束且不再被其他程式存取後刪除</translation>
     </message>
 </context>
 <context>
@@ -479,10 +447,6 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Open failed:</source>
         <translation>開啟失敗：</translation>
-    </message>
-    <message>
-        <source>Unable to write %1</source>
-        <translation>無法寫入 %1</translation>
     </message>
     <message>
         <source>Copying:%1 to: %2</source>

@@ -2,6 +2,7 @@
 #include "cad/creo_names.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
+#include "support/recorded_diagnostics.h"
 #include "support/test_class.h"
 #include "support/text.h"
 
@@ -114,9 +115,13 @@ private slots:
     {
         m_fixture->packages.creoInstallDirs[2] = m_fixture->test.path(text("nowhere/Parametric"));
         m_fixture->packages.creoShipCodes[2] = text("M010");
+        const RecordedDiagnostics diagnostics;
         step(RunMode::Install);
         QVERIFY(!QFile::exists(m_fixture->test.path(text("nowhere"))));
-        QCOMPARE(m_fixture->takeLines().last(), text("1 Unable to write ") + protk(2));
+        QCOMPARE(m_fixture->takeLines().mid(3),
+                 QStringList({text("progress 0 ProE Creo"), text("0 Creating  ") + protk(2),
+                              text("0 Writing ") + protk(2)}));
+        QCOMPARE(diagnostics.list(), QStringList{text("Unable to write ") + protk(2)});
     }
 
     void aReleaseThatWasNotFoundIsNotLookedFor()
@@ -197,9 +202,12 @@ private slots:
         find(2, foreign);
         QVERIFY(QFile::remove(protk(2)));
         QVERIFY(QDir().mkpath(protk(2)));
+        const RecordedDiagnostics diagnostics;
         step(RunMode::Install);
         QVERIFY(QFileInfo(protk(2)).isDir());
-        QCOMPARE(m_fixture->takeLines().filter(text("1 Unable to read ") + protk(2)).size(), 2);
+        QCOMPARE(m_fixture->takeLines().mid(3),
+                 QStringList({text("progress 0 ProE Creo"), text("0 Removing Ostrade from:") + protk(2)}));
+        QCOMPARE(diagnostics.list(), QStringList(2, text("Unable to read ") + protk(2)));
     }
 
     void whatACrashHasLeftGoes()

@@ -67,6 +67,13 @@ class LauncherCase(MachineCase):
         self.assert_complete(code, lines)
         return lines
 
+    def diagnose_with(self, option, install_dir=INSTALL_DIR):
+        """The same with the run's diagnostic warnings, as a second value."""
+        self.machine.path(install_dir + "\\NVXConfig.log").unlink(missing_ok=True)
+        code, lines, warnings = self.diagnose(install_dir, option, "-S", "-Len-US")
+        self.assert_complete(code, lines)
+        return lines, warnings
+
     def read(self, path):
         return self.machine.path(path).read_bytes()
 

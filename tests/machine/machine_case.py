@@ -20,6 +20,7 @@ BUILD = Path(os.environ["NVX_BUILD"])
 LANE = os.environ.get("NVX_LANE", "1")
 HOLD_FILE = BUILD / "tests" / "machine" / "hold_file.exe"
 SCRIPTED_TOOL = BUILD / "tests" / "scripted_tool.exe"
+CATEGORY = "nvx.configuration: "
 COMPLETE = "   0 The installation or update is complete. Click finish to continue."
 
 _STAMP = re.compile(r"^[A-Z][a-z]{2} [A-Z][a-z]{2} [ \d]?\d \d\d:\d\d:\d\d \d{4} (.*)$")
@@ -55,8 +56,21 @@ class MachineCase(unittest.TestCase):
         (seven_zip.parent / "7z.exe.script").write_text(orders)
 
     def configure(self, install_dir, *tokens, **options):
-        """Runs the program of an install dir; answers its exit code and the lines of the whole log, without
+        """Runs the program of an install dir; returns its exit code and the lines of the whole log, without
         their time stamps; a line without one keeps "! " before it."""
+        return self._configure(install_dir, tokens, options)[:2]
+
+    def diagnose(self, install_dir, *tokens, **options):
+        """The same with the diagnostic warnings of the run as a third value."""
+        # Wine hides the host's variables for Qt from its programs.
+        key = "HKEY_CURRENT_USER\\Environment"
+        self.machine.set_value(key, "QT_FORCE_STDERR_LOGGING", "1")
+        try:
+            return self._configure(install_dir, tokens, options)
+        finally:
+            self.machine.run("reg", "delete", key, "/v", "QT_FORCE_STDERR_LOGGING", "/f")
+
+    def _configure(self, install_dir, tokens, options):
         log = self.machine.path(install_dir) / "NVXConfig.log"
         try:
             answer = self.machine.run(install_dir + "\\NVXConfig.exe", *tokens, **options)
@@ -66,7 +80,7 @@ class MachineCase(unittest.TestCase):
         if answer.returncode != 0:
             output = answer.stdout.decode(errors="replace")
             print("NVXConfig.exe ended with %d: %s" % (answer.returncode, output), file=sys.stderr)
-        return answer.returncode, log_lines(log) if log.is_file() else []
+        return answer.returncode, log_lines(log) if log.is_file() else [], warnings_of(answer.stdout)
 
     def write(self, windows_path, contents=b""):
         path = self.machine.path(windows_path)
@@ -94,6 +108,10 @@ class MachineCase(unittest.TestCase):
             mark.unlink(missing_ok=True)
             self.assertEqual(holder.wait(60), 0)
 
+    def assert_not_logged(self, lines):
+        """Nothing that could not be done is in the log."""
+        self.assertEqual([line for line in lines if line.startswith("   1 ")], [])
+
     def assert_complete(self, code, lines):
         """The run has come to its end; after a removal the old files are looked for."""
         self.assertEqual(code, 0)
@@ -107,6 +125,12 @@ class MachineCase(unittest.TestCase):
         end = [line for line in lines if not line.startswith("   0 Removing:")][-1]
         self.assertEqual(end, "   0 Remove: Report .pyc files")
         self.assertIn(COMPLETE, lines)
+
+
+def warnings_of(output):
+    """The diagnostic warnings of the configuration in what a program has written."""
+    lines = output.decode("utf-8", "replace").splitlines()
+    return [line.removeprefix(CATEGORY) for line in lines if line.startswith(CATEGORY)]
 
 
 def log_lines(path):

@@ -331,9 +331,11 @@ class Faults(SetUpCase):
 
     def test_a_script_that_cannot_be_created_is_not_imported(self):
         self.write(self.folder + SCRIPT + "\\in the way.txt")
-        lines = self.install(self.folder)
+        code, lines, warnings = self.diagnose(self.folder, "-I", "-S", "-Len-US")
+        self.assert_complete(code, lines)
         shutil.rmtree(self.machine.path(self.folder + SCRIPT))
-        self.assertEqual(lines.count("   1 Unable to create " + self.folder + SCRIPT), 2)
+        self.assert_not_logged(lines)
+        self.assertEqual(warnings, ["Unable to create " + self.folder + SCRIPT] * 2)
         self.assertFalse(any("Command:regedit" in line for line in lines))
 
     def test_an_old_script_is_not_imported(self):
@@ -377,7 +379,7 @@ class Faults(SetUpCase):
         self.assertIn("   1 Unable to remove " + DESKTOP + LINK, lines)
         self.assertRegex(self.failure_line(lines), r"^-\d+ Create shortcut .* Failed$")
 
-    def test_a_key_that_cannot_be_written_is_logged(self):
+    def test_a_key_that_cannot_be_written_is_passed_over(self):
         # A link to a key that is not there: it can be neither opened nor made.
         self.machine.stop()
         registry = self.machine.prefix / "system.reg"
@@ -387,13 +389,14 @@ class Faults(SetUpCase):
             + b"\n[Software\\\\Velmora\\\\NVX] 1700000000\n#link\n"
             + b'"SymbolicLinkValue"=str(6):"\\\\REGISTRY\\\\Machine\\\\Nowhere\\\\Missing"\n'
         )
-        lines = self.install(self.folder)
+        code, lines, warnings = self.diagnose(self.folder, "-I", "-S", "-Len-US")
+        self.assert_complete(code, lines)
         self.machine.stop()
         registry.write_bytes(kept)
-        refused = [line for line in lines if "The registry refuses" in line]
-        self.assertEqual(len(refused), 7, refused)
+        self.assert_not_logged(lines)
+        self.assertEqual(len(warnings), 7, warnings)
         self.assertEqual(
-            refused[0], "   1 The registry refuses the value CurrentVersion of " + PRODUCT_KEY
+            warnings[0], "The registry refuses the value CurrentVersion of " + PRODUCT_KEY
         )
         self.assertIn("   0 Running NVX 3D-ViewerConfig.", lines)
 

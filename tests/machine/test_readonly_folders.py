@@ -1,5 +1,5 @@
-"""Each folder that a run writes into, in turn on a disk that is read-only: the run comes to its end, does
-everything else as if nothing were, and the log names what it could not do.
+"""Each folder that a run writes into, in turn on a disk that is read-only: the run comes to its end and does
+everything else as if nothing were. What it could not do is in the log, or in the diagnostic output.
 
 A read-only disk stands for every folder that cannot be written: one that is protected by its rights, on a
 medium that is, or on a share that is. To see an administrator refused, nothing less will do here: a Windows
@@ -31,6 +31,10 @@ BATCH_FILE = INSTALL_DIR + "work.bat"
 AROUND = "around the install folder"
 SPACE_CLAIM = SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim"
 
+# Begins what the log leaves out and the diagnostic output has.
+DIAGNOSTIC = "diagnostic: "
+UNWRITTEN = DIAGNOSTIC + "Unable to write "
+
 
 def parent(path):
     return path.rpartition("\\")[0]
@@ -50,19 +54,21 @@ FOLDERS = {
         SHARED_DATA,
         [
             "   1 Unable to create NVX2 default configuration: " + SHARED_DATA,
+            "   1 Unable to create NVX2 analyze folder: " + SHARED_DATA,
             "   1 Unable to create %s\\NVX_flags.txt" % SHARED_DATA,
+            DIAGNOSTIC + "Unable to copy %s\\matprop.mdb to " % INSTALL_DIR,
         ],
         [],
     ),
     "the user's data": (USER_DATA, [], []),
-    "Creo": (parent(PROTK_2), ["   1 Unable to write " + PROTK_2], ["   1 Unable to write " + PROTK_2]),
+    "Creo": (parent(PROTK_2), [UNWRITTEN + PROTK_2], [UNWRITTEN + PROTK_2]),
     "NX": (
         parent(CUSTOM_DIRS_10),
         [
-            "   1 Unable to write %s.bak" % CUSTOM_DIRS_10,
-            "   1 Unable to write " + CUSTOM_DIRS_10,
+            UNWRITTEN + CUSTOM_DIRS_10 + ".bak",
+            UNWRITTEN + CUSTOM_DIRS_10,
         ],
-        ["   1 Unable to write " + CUSTOM_DIRS_10],
+        [UNWRITTEN + CUSTOM_DIRS_10],
     ),
     "Tamsel": (TAMSEL_ADDINS, [], []),
     "SpaceClaim": (SPACE_CLAIM, [], []),
@@ -146,14 +152,18 @@ class ReadOnlyFolders(LauncherCase):
         state.bring_back()
         self.machine.path(LOG).unlink(missing_ok=True)
         with self.read_only(name):
-            code, lines = self.configure(INSTALL_DIR, mode, "-S", "-Len-US")
+            code, lines, warnings = self.diagnose(INSTALL_DIR, mode, "-S", "-Len-US")
         self.assertEqual(code, 0)
         if lines_told is None:
             self.assertEqual(lines, [])
         else:
             self.assert_complete(code, lines)
+            told = lines + [DIAGNOSTIC + text for text in warnings]
             for text in lines_told:
-                self.assertTrue([line for line in lines if text in line], (text, lines))
+                self.assertTrue([line for line in told if text in line], (text, told))
+            failures = [line for line in told if line.startswith(("   1 ", DIAGNOSTIC))]
+            unexpected = [f for f in failures if not any(text in f for text in lines_told)]
+            self.assertEqual(unexpected, [])
 
         found = self.comparable_files()
         if name != AROUND:

@@ -1,6 +1,7 @@
 #include "nvx_util/system.h"
 #include "run/run_state.h"
 #include "service/server_service.h"
+#include "support/recorded_diagnostics.h"
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
@@ -25,7 +26,7 @@ const QString stop = text("stop NVX 2017 Server");
 const QString removal = text("remove NVX 2017 Server");
 const QString beginning = text("0 uninstallServer ");
 const QString notStopped = text("0 uninstallServer - could not stop service");
-const QString notInTime = text("1 The server has not stopped in time and is ended");
+const QString notInTime = text("The server has not stopped in time and is ended");
 const QString notInstalled = text("0 uninstallServer - service was not installed");
 const QString notUninstalled = text("0 uninstallServer - could not uninstall service");
 const QString ended = text("0 NVXServer terminated");
@@ -96,7 +97,7 @@ private slots:
         QVERIFY(QFile::exists(joinPath(m_analyze, text("solver_manager.cfg"))));
     }
 
-    void aFailedRegistrationIsShownAndLogged_data()
+    void aFailedRegistrationIsShownAndNotLogged_data()
     {
         QTest::addColumn<int>("outcome");
         QTest::newRow("the server says so") << int(Outcome::Exited);
@@ -105,26 +106,30 @@ private slots:
         QTest::newRow("the server hangs") << int(Outcome::TimedOut);
     }
 
-    void aFailedRegistrationIsShownAndLogged()
+    void aFailedRegistrationIsShownAndNotLogged()
     {
         QFETCH(int, outcome);
         m_machine->whileRunning = nullptr;
         m_machine->programResult = {static_cast<Outcome>(outcome), 3, {}};
+        const RecordedDiagnostics diagnostics;
         QVERIFY(install() == ServerService::Installed::RegistrationFailed);
         QCOMPARE(m_machine->boxes.size(), 1);
         QVERIFY(m_machine->boxes.first().kind == Nvx::Util::BoxKind::Critical);
         QCOMPARE(m_machine->boxes.first().title, text("Server Error"));
         QCOMPARE(m_machine->boxes.first().text, text("Unable to install the server"));
-        QCOMPARE(m_reporter->lines, QStringList{text("1 Unable to install the server")});
+        QCOMPARE(m_reporter->lines, QStringList());
+        QCOMPARE(diagnostics.list(), QStringList{m_server + text(" has not registered its service")});
         QVERIFY(m_machine->service.asked.isEmpty());
     }
 
-    void aServerThatCannotBeStartedIsLogged()
+    void aServerThatCannotBeStartedIsNotInTheLog()
     {
+        const RecordedDiagnostics diagnostics;
         m_machine->service.canBeStarted = false;
         QVERIFY(install() == ServerService::Installed::Yes);
-        QCOMPARE(m_reporter->lines,
-                 QStringList{text("1 The server has been registered, but could not be started")});
+        QCOMPARE(m_reporter->lines, QStringList());
+        QCOMPARE(diagnostics.list(),
+                 QStringList{text("The server has been registered, but could not be started")});
         QVERIFY(m_machine->boxes.isEmpty());
     }
 
@@ -184,11 +189,24 @@ private slots:
         assertFoldersRemoved();
     }
 
+    void everyProcessOfTheServerIsEndedWithAndWithoutAnExtension()
+    {
+        for (const char *path : {"C:\\NVX\\NVXServer.exe", "D:\\old\\nvxserver", "D:\\old\\NVXServer.com",
+                                 "C:\\NVX\\NVXServer.exe.bak", "C:\\NVXServer\\NVX.exe"})
+            m_machine->running.add(text(path));
+        uninstall();
+        QCOMPARE(m_machine->running.ended,
+                 QStringList({text("C:\\NVX\\NVXServer.exe"), text("D:\\old\\nvxserver")}));
+        QCOMPARE(told(), QStringList({beginning, notStopped, ended, ended, notInstalled}));
+    }
+
     void aServiceThatDoesNotStopInTimeIsEnded()
     {
         runServer(AtStop::Hangs);
+        const RecordedDiagnostics diagnostics;
         uninstall();
-        QCOMPARE(told(), QStringList({beginning, notInTime, ended}));
+        QCOMPARE(told(), QStringList({beginning, ended}));
+        QCOMPARE(diagnostics.list(), QStringList{notInTime});
         QCOMPARE(m_machine->service.asked, QStringList({stop, removal}));
         QVERIFY(m_machine->service.current == ServiceState::NotInstalled);
     }
@@ -234,11 +252,12 @@ private slots:
     {
         m_machine->service.current = ServiceState::Active;
         m_machine->service.isLookedAt = true;
+        const RecordedDiagnostics diagnostics;
         uninstall();
         QCOMPARE(m_machine->sleeps, QList<std::chrono::milliseconds>(100, 100ms));
-        QCOMPARE(told(),
-                 QStringList({beginning, text("1 The service goes when it has ended and no other program "
-                                              "looks at it")}));
+        QCOMPARE(told(), QStringList{beginning});
+        QCOMPARE(diagnostics.list(), QStringList{text("The service will be deleted once it has stopped and "
+                                                      "no other program has it open")});
         assertFoldersRemoved();
         QVERIFY(install() == ServerService::Installed::RegistrationFailed);
     }

@@ -1,6 +1,7 @@
 #include "nvx_util/system.h"
 #include "setup/material_database.h"
 #include "setup/setup_fixture.h"
+#include "support/recorded_diagnostics.h"
 #include "support/test_class.h"
 #include "support/text.h"
 
@@ -195,10 +196,12 @@ private slots:
     void aCopyThatFailsLeavesNothingAndIsNotTold()
     {
         writeFile(m_sharedData); // a file is in the folder's place
+        const RecordedDiagnostics diagnostics;
         QCOMPARE(check(RunMode::Install), 0);
         QCOMPARE(m_fixture->reporter.lines,
                  QStringList({checking, text("0 Copy: %1 to: %2").arg(m_shipped, m_working)}));
         QCOMPARE(readFile(m_sharedData), QByteArray(""));
+        QCOMPARE(diagnostics.list(), QStringList{text("Unable to copy %1 to %2").arg(m_shipped, m_working)});
     }
 
     void anUninstallRemovesTheDatabaseOfTheSharedFolder()

@@ -38,11 +38,11 @@ void removeEntries(const StepContext &context, const QString &protk)
     if (!QFile::exists(protk))
         return;
     context.reporter.log(0, Messages::tr("Removing Ostrade from:") + protk);
-    const std::optional<QByteArray> contents = readForeignFile(context.reporter, protk);
+    const std::optional<QByteArray> contents = readForeignFile(protk);
     if (!contents)
         return;
     context.reporter.log(0, Messages::tr("Writing ") + protk);
-    replaceForeignFile(context.reporter, protk, withoutLauncherEntries(*contents));
+    replaceForeignFile(protk, withoutLauncherEntries(*contents));
 }
 
 void addEntry(const StepContext &context, const QString &protk, int release)
@@ -56,7 +56,7 @@ void addEntry(const StepContext &context, const QString &protk, int release)
     if (!QFile::exists(protk))
         context.reporter.log(0, Messages::tr("Creating  ") + protk);
     else
-        old = readForeignFile(context.reporter, protk);
+        old = readForeignFile(protk);
     if (!old)
         return;
 
@@ -66,7 +66,7 @@ void addEntry(const StepContext &context, const QString &protk, int release)
         return;
     }
     context.reporter.log(0, Messages::tr("Writing ") + protk);
-    replaceForeignFile(context.reporter, protk, *contents);
+    replaceForeignFile(protk, *contents);
 }
 
 template<typename Act>

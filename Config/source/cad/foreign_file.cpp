@@ -2,6 +2,7 @@
 
 #include "nvx_util/code_page.h"
 #include "nvx_util/whole_file.h"
+#include "run/diagnostics.h"
 #include "run/reporter.h"
 
 #include <QCoreApplication>
@@ -15,11 +16,11 @@ struct Messages
 
 } // namespace
 
-std::optional<QByteArray> readForeignFile(Reporter &reporter, const QString &path)
+std::optional<QByteArray> readForeignFile(const QString &path)
 {
     std::optional<QByteArray> contents = Nvx::Util::readWholeFile(path);
     if (!contents)
-        reporter.log(1, Messages::tr("Unable to read %1").arg(path));
+        qCWarning(diagnostics, "Unable to read %ls", qUtf16Printable(path));
     return contents;
 }
 
@@ -34,8 +35,8 @@ std::optional<QByteArray> toForeignText(Reporter &reporter, const QString &path,
     return written;
 }
 
-void replaceForeignFile(Reporter &reporter, const QString &path, const QByteArray &contents)
+void replaceForeignFile(const QString &path, const QByteArray &contents)
 {
     if (!Nvx::Util::replaceWholeFile(path, contents))
-        reporter.log(1, Messages::tr("Unable to write %1").arg(path));
+        qCWarning(diagnostics, "Unable to write %ls", qUtf16Printable(path));
 }

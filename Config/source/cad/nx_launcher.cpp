@@ -32,10 +32,9 @@ void removeLines(const StepContext &context, const QString &menu)
 {
     if (!QFile::exists(menu))
         return;
-    const std::optional<QByteArray> contents = readForeignFile(context.reporter, menu);
+    const std::optional<QByteArray> contents = readForeignFile(menu);
     if (contents)
-        replaceForeignFile(context.reporter, menu,
-                           withoutCustomDirsLines(*contents, context.state.installDir));
+        replaceForeignFile(menu, withoutCustomDirsLines(*contents, context.state.installDir));
 }
 
 void keepBackup(const StepContext &context, const QString &menu)
@@ -47,9 +46,9 @@ void keepBackup(const StepContext &context, const QString &menu)
     if (!QFile::exists(menu))
         return;
     // Whole or not at all: a backup is made once and never again.
-    const std::optional<QByteArray> contents = readForeignFile(context.reporter, menu);
+    const std::optional<QByteArray> contents = readForeignFile(menu);
     if (contents)
-        replaceForeignFile(context.reporter, backup, *contents);
+        replaceForeignFile(backup, *contents);
 }
 
 void addLine(const StepContext &context, const QString &menu, const QString &line)
@@ -57,7 +56,7 @@ void addLine(const StepContext &context, const QString &menu, const QString &lin
     std::optional<QByteArray> old = QByteArray();
     if (QFile::exists(menu)) {
         context.reporter.log(0, Messages::tr("Checking") + menu);
-        old = readForeignFile(context.reporter, menu);
+        old = readForeignFile(menu);
     }
     if (!old || holdsCustomDirsLine(*old, line))
         return;
@@ -66,7 +65,7 @@ void addLine(const StepContext &context, const QString &menu, const QString &lin
     if (!written)
         return;
     context.reporter.log(0, Messages::tr("Creating") + menu);
-    replaceForeignFile(context.reporter, menu, *old + *written);
+    replaceForeignFile(menu, *old + *written);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "cad/shared_folders.h"
 #include "cad/tamsel_manifest.h"
 #include "nvx_util/system.h"
+#include "run/diagnostics.h"
 #include "run/launcher_boxes.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
@@ -55,7 +56,7 @@ void writeManifest(const StepContext &context, const QString &path)
     }
     const QByteArray manifest = tamselManifest(context.state.installDir);
     if (file.write(manifest) != manifest.size())
-        context.reporter.log(1, Messages::tr("Unable to write %1").arg(path));
+        qCWarning(diagnostics, "Unable to write %ls", qUtf16Printable(path));
 }
 
 // A path of another operating system would become a folder with an odd name below the working folder.

@@ -3,6 +3,7 @@
 #include "nvx_util/machine.h"
 #include "nvx_util/service_control.h"
 #include "nvx_util/system.h"
+#include "run/diagnostics.h"
 #include "run/process_finder.h"
 #include "run/product.h"
 #include "run/product_files.h"
@@ -47,9 +48,9 @@ ServerService::Installed ServerService::install()
     removeProductFile(joinPath(analyzeFolder(), QStringLiteral("solver_manager.log")));
 
     if (!NvxService::install(m_context.machine, path, QString(), QString())) {
-        const QString text = tr("Unable to install the server");
-        m_context.reporter.log(1, text);
-        m_context.machine.tell(Nvx::Util::BoxKind::Critical, tr("Server Error"), text);
+        qCWarning(diagnostics, "%ls has not registered its service", qUtf16Printable(path));
+        m_context.machine.tell(Nvx::Util::BoxKind::Critical, tr("Server Error"),
+                               tr("Unable to install the server"));
         return Installed::RegistrationFailed;
     }
 
@@ -57,7 +58,7 @@ ServerService::Installed ServerService::install()
     m_service.serviceDescription() = tr("Manages communication between NVX components.");
     m_service.serviceName() = serverServiceName;
     if (!m_service.start())
-        m_context.reporter.log(1, tr("The server has been registered, but could not be started"));
+        qCWarning(diagnostics, "The server has been registered, but could not be started");
     return Installed::Yes;
 }
 
@@ -76,7 +77,7 @@ void ServerService::stop()
         endProcesses();
         m_service.stop();
     } else if (isActive()) {
-        m_context.reporter.log(1, tr("The server has not stopped in time and is ended"));
+        qCWarning(diagnostics, "The server has not stopped in time and is ended");
         endProcesses();
     }
     // The service control manager needs a moment to notice that a process has ended. A service that it
@@ -103,7 +104,8 @@ void ServerService::remove()
     }
     // As long as the name is taken the server cannot register itself again.
     if (!waitUntil([this] { return !m_service.isInstalled(); }))
-        m_context.reporter.log(1, tr("The service goes when it has ended and no other program looks at it"));
+        qCWarning(diagnostics,
+                  "The service will be deleted once it has stopped and no other program has it open");
 }
 
 void ServerService::removeWorkFolders()

@@ -2,6 +2,7 @@
 
 #include "nvx_util/code_page.h"
 #include "nvx_util/system.h"
+#include "run/diagnostics.h"
 #include "run/product.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
@@ -47,7 +48,7 @@ void importScript(const StepContext &context, const QString &path, const QString
         CommandRunner(context).runSystemCommand(QStringLiteral("regedit"), {QStringLiteral("-s"), path},
                                                 context.state.installDir, CommandRunner::usualTimeoutMs);
     else
-        context.reporter.log(1, Messages::tr("Unable to create %1").arg(path));
+        qCWarning(diagnostics, "Unable to create %ls", qUtf16Printable(path));
     removeProductFile(path);
 }
 

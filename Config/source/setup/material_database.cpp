@@ -3,6 +3,7 @@
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
+#include "run/diagnostics.h"
 #include "run/product.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
@@ -40,7 +41,8 @@ QString previousDatabase()
 void copyIfMissing(const QString &source, const QString &target)
 {
     System::makePath(System::getProgramDataPath(productFullName));
-    static_cast<void>(Nvx::Util::copyToFreeName(source, target));
+    if (!Nvx::Util::copyToFreeName(source, target))
+        qCWarning(diagnostics, "Unable to copy %ls to %ls", qUtf16Printable(source), qUtf16Printable(target));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
+#include "run/diagnostics.h"
 #include "run/product.h"
 #include "run/reporter.h"
 #include "setup/product_values.h"
@@ -27,21 +28,21 @@ bool write(const RegistryValue &value)
     return key.setNumber(value.name, std::get<quint32>(value.content));
 }
 
-void writeAll(const StepContext &context, const QList<RegistryValue> &values)
+void writeAll(const QList<RegistryValue> &values)
 {
     for (const RegistryValue &value : values) {
         if (!write(value))
-            context.reporter.log(
-                1, Messages::tr("The registry refuses the value %1 of %2").arg(value.name, value.key));
+            qCWarning(diagnostics, "The registry refuses the value %ls of %ls", qUtf16Printable(value.name),
+                      qUtf16Printable(value.key));
     }
 }
 
-void removeUserGroups(const StepContext &context)
+void removeUserGroups()
 {
     for (const auto &group : {QStringLiteral("WebServices"), QStringLiteral("Lumara")}) {
         RegistryKey key(userProductKey() + QLatin1Char('\\') + group);
         if (!key.removeWhole())
-            context.reporter.log(1, Messages::tr("The registry refuses to remove %1").arg(key.path()));
+            qCWarning(diagnostics, "The registry refuses to remove %ls", qUtf16Printable(key.path()));
     }
 }
 
@@ -60,8 +61,8 @@ void updateUninstallEntry(const StepContext &context)
     if (!command)
         return;
     reporter.log(0, Messages::tr("Updating language registry uninstall locale=") + locale);
-    writeAll(context, {{entry, QStringLiteral("UninstallPath"), *command},
-                       {entry, QStringLiteral("UninstallString"), *command}});
+    writeAll({{entry, QStringLiteral("UninstallPath"), *command},
+              {entry, QStringLiteral("UninstallString"), *command}});
     reporter.log(0, Messages::tr("Updating language registry uninstall set to:") + *command);
 }
 
@@ -72,7 +73,7 @@ int updateRegistry(const StepContext &context, RunMode mode)
     context.reporter.progress(0, Messages::tr("Registry paths"));
     if (mode != RunMode::Install) {
         configureViewer(context, mode);
-        removeUserGroups(context);
+        removeUserGroups();
         return 0;
     }
 
@@ -82,8 +83,8 @@ int updateRegistry(const StepContext &context, RunMode mode)
     record.installDir = context.state.installDir;
     record.locale = context.state.locale;
     record.registry64 = context.state.registry64;
-    writeAll(context, machineValues(record));
-    writeAll(context, userValues(record.locale));
+    writeAll(machineValues(record));
+    writeAll(userValues(record.locale));
     updateUninstallEntry(context);
     configureViewer(context, mode);
     return 0;

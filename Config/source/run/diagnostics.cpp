@@ -1,0 +1,3 @@
+#include "run/diagnostics.h"
+
+Q_LOGGING_CATEGORY(diagnostics, "nvx.configuration")
