@@ -10,6 +10,11 @@
 #include "support/recording_reporter.h"
 #include "support/test_machine.h"
 
+#include <QTest>
+
+#include <array>
+#include <utility>
+
 /// What a launcher step is handed, on a machine whose folders lie in a fresh test folder. No CAD system is
 /// found and no box ticked until the test says so.
 class LauncherFixture
@@ -46,3 +51,18 @@ public:
     SharedFolders folders;
     UnshownLauncherBoxes boxes;
 };
+
+/// The modes in which a launcher step removes: every one but install.
+inline const std::array<std::pair<const char *, RunMode>, 4> removingModes{
+    {{"uninstall", RunMode::Uninstall},
+     {"stop services", RunMode::StopServices},
+     {"localization", RunMode::Localization},
+     {"not given", RunMode::NotGiven}}};
+
+/// A row of test data, with the column "mode", for each of these modes.
+inline void addRemovingModes()
+{
+    QTest::addColumn<RunMode>("mode");
+    for (const auto &[name, mode] : removingModes)
+        QTest::newRow(name) << mode;
+}

@@ -47,12 +47,22 @@ private slots:
                                              runLines(text("regsvr32 -s ") + library));
     }
 
-    void aRemovalOnlyUnregistersIt_data() { both(); }
+    void aRemovalOnlyUnregistersIt_data()
+    {
+        QTest::addColumn<ComLauncher>("of");
+        QTest::addColumn<RunMode>("mode");
+        for (const auto &[name, mode] : removingModes) {
+            QTest::addRow("Brevant, %s", name) << brevant << mode;
+            QTest::addRow("SolidWorks, %s", name) << solidWorks << mode;
+        }
+    }
+
     void aRemovalOnlyUnregistersIt()
     {
         QFETCH(const ComLauncher, of);
+        QFETCH(const RunMode, mode);
         m_fixture->tick(of.launcher);
-        of.step(m_fixture->context(), m_fixture->boxes, RunMode::Uninstall);
+        of.step(m_fixture->context(), m_fixture->boxes, mode);
         const QString library = m_fixture->installed(of.dll);
         QCOMPARE(arguments(), QList<QStringList>({{text("-u"), text("-s"), library}}));
         QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 ") + text(of.title)} +

@@ -147,12 +147,15 @@ private slots:
         QCOMPARE(readFile(protk(2)), entry(2) + foreign + foreign);
     }
 
+    void aRemovalTakesTheEntryAndLeavesTheOthers_data() { addRemovingModes(); }
+
     void aRemovalTakesTheEntryAndLeavesTheOthers()
     {
+        QFETCH(const RunMode, mode);
         find(2, foreign);
         step(RunMode::Install);
         m_fixture->takeLines();
-        step(RunMode::Uninstall);
+        step(mode);
         QCOMPARE(readFile(protk(2)), foreign);
         QCOMPARE(m_fixture->takeLines().mid(3),
                  QStringList({text("progress 0 ProE Creo"), text("0 Removing Ostrade from:") + protk(2),

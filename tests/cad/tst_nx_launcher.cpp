@@ -136,13 +136,16 @@ private slots:
         QCOMPARE(readFile(backup("NX 11")), QByteArray());
     }
 
+    void aRemovalTakesTheLinesAndLeavesTheBackup_data() { addRemovingModes(); }
+
     void aRemovalTakesTheLinesAndLeavesTheBackup()
     {
+        QFETCH(const RunMode, mode);
         find(V10_0, "NX 10", foreign);
         find(V11_0, "NX 11", foreign);
         step(RunMode::Install);
         m_fixture->takeLines();
-        step(RunMode::Uninstall);
+        step(mode);
         QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 UGNX")});
         for (const char *nx : {"NX 10", "NX 11"}) {
             QCOMPARE(readFile(menu(nx)), foreign + "\r\n");

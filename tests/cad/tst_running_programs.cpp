@@ -119,6 +119,25 @@ private slots:
         QCOMPARE(QFileInfo(found.first()).canonicalFilePath(), QFileInfo(path).canonicalFilePath());
     }
 
+    void aProcessThatDoesNotTellItsNamesIsUnknown()
+    {
+        RunningProgram program(m_folder->path(text("xtop.exe")));
+        QVERIFY(program.hasStarted());
+        Nvx::Util::ProcessTable &processes = m_machine->processes();
+        std::unique_ptr<Nvx::Util::OpenedProcess> found;
+        const QList<Nvx::Util::ProcessId> ids = processes.ids(1024);
+        for (const Nvx::Util::ProcessId id : ids) {
+            auto process = processes.open(id);
+            if (process && process->baseName() == text("xtop.exe"))
+                found = std::move(process);
+        }
+        QVERIFY(found);
+        // Nothing can be read any more of a process that has ended.
+        QVERIFY(program.stop());
+        QCOMPARE(found->baseName(), text("<unknown>"));
+        QCOMPARE(found->path(), text("<unknown>"));
+    }
+
     void noMoreIdsAreListedThanFit()
     {
         const QList<Nvx::Util::ProcessId> all = m_machine->processes().ids(1024);

@@ -65,12 +65,15 @@ private slots:
         QCOMPARE(readFile(target(library)), QByteArray("newer"));
     }
 
+    void aRemovalTakesTheFilesAndLeavesTheFolder_data() { addRemovingModes(); }
+
     void aRemovalTakesTheFilesAndLeavesTheFolder()
     {
+        QFETCH(const RunMode, mode);
         step(RunMode::Install);
         writeFile(target("NVX_2017_SpaceClaim.txt"), "somebody's");
         m_fixture->takeLines();
-        step(RunMode::Uninstall);
+        step(mode);
         QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 SpaceClaim")});
         QCOMPARE(QDir(m_fixture->folders.spaceClaimAddin).entryList(QDir::Files),
                  QStringList{text("NVX_2017_SpaceClaim.txt")});

@@ -91,12 +91,15 @@ private slots:
         QVERIFY(!QFile::exists(m_fixture->folders.applicationData));
     }
 
+    void aRemovalTakesAllThree_data() { addRemovingModes(); }
+
     void aRemovalTakesAllThree()
     {
+        QFETCH(const RunMode, mode);
         makeSecondTarget(2017);
         addin(RunMode::Install, 2017);
         m_fixture->takeLines();
-        addin(RunMode::Uninstall, 2017);
+        addin(mode, 2017);
         for (const QString &path : {first(2017), second(2017), own()})
             QVERIFY(!QFile::exists(path));
         QCOMPARE(m_fixture->takeLines(), removalLines(2017));

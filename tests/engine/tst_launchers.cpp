@@ -1,4 +1,5 @@
 #include "engine/engine_fixture.h"
+#include "nvx_util/system.h"
 #include "support/test_class.h"
 #include "support/text.h"
 
@@ -43,6 +44,19 @@ private slots:
         QVERIFY(lines.indexOf(progress + text("SpaceClaim")) <
                 lines.indexOf(progress + text("Processing NVX_flags.txt")));
         QCOMPARE(titles().size(), 8);
+    }
+
+    void theShellIsNotifiedOfTheShortcutAndThenAfterTheLastLauncher()
+    {
+        tickAll();
+        QStringList lastLines;
+        m_fixture->machine.whenNotified = [&] { lastLines << m_fixture->lines().last(); };
+        m_fixture->engine->ProcessInstallation();
+        QCOMPARE(lastLines.size(), 2);
+        QVERIFY2(lastLines.at(0).contains(text(" Create shortcut ")), qPrintable(lastLines.at(0)));
+        const QString target =
+            Nvx::Util::joinPath(m_fixture->test.path(text("Addin")), text("NVX_2017_SpaceClaim.xml"));
+        QVERIFY2(lastLines.at(1).endsWith(text(" to: ") + target), qPrintable(lastLines.at(1)));
     }
 
     void eachIsAnOperationOfItsOwn()

@@ -8,6 +8,9 @@
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
+#include <optional>
+
 using Nvx::Util::joinPath;
 using Nvx::Util::System;
 
@@ -22,13 +25,21 @@ public:
     {
     }
 
-    void appendRow(const QString &row) override { shown << row; }
+    void appendRow(const QString &row) override
+    {
+        shown << row;
+        if (whenShown)
+            whenShown(row);
+    }
     void clear() override
     {
         shown.clear();
         ++clears;
     }
     void runCompleteChanged() override { completions << m_engine.state().runComplete; }
+
+    /// Called with each row that is added.
+    std::function<void(const QString &)> whenShown;
 
     QStringList shown;
     int clears = 0;
@@ -139,6 +150,26 @@ private slots:
                     .match(bare.first())
                     .hasMatch());
         QCOMPARE(lines.indexOf(bare.first()), lines.indexOf(text("   0 Beginning Install")) + 1);
+    }
+
+    void eventsAreHandledAtTheProcessorsLine()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        RecordingView view(engine);
+        engine.setProgressView(&view);
+        bool isHandled = false;
+        view.whenShown = [&](const QString &row) {
+            if (row.startsWith(text("Processors: ")))
+                QTimer::singleShot(0, this, [&isHandled] { isHandled = true; });
+        };
+        // The first program removes the old tutorials, before the next row is shown.
+        std::optional<bool> isHandledAtTheFirstProgram;
+        m_fixture->machine.whileRunning = [&](const auto &) {
+            if (!isHandledAtTheFirstProgram)
+                isHandledAtTheFirstProgram = isHandled && view.shown.size() == 1;
+        };
+        engine.ProcessInstallation();
+        QCOMPARE(isHandledAtTheFirstProgram, std::optional<bool>(true));
     }
 
     void pendingNotesAreToldFirst()

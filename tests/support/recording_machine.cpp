@@ -20,6 +20,13 @@ bool RecordingMachine::startDetached(const QString &program, const QStringList &
     return true;
 }
 
+void RecordingMachine::notifyAssociationsChanged()
+{
+    ++associationNotices;
+    if (whenNotified)
+        whenNotified();
+}
+
 qint32 RecordingMachine::createShellLink(const Nvx::Util::ShellLink &link)
 {
     shellLinks.append(link);

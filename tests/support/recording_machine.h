@@ -44,6 +44,9 @@ public:
     /// Called while a question is open.
     std::function<void()> whileAsking;
 
+    /// Called when the shell is told that associations changed.
+    std::function<void()> whenNotified;
+
     /// What runs on it.
     RecordingProcesses running;
 
@@ -71,7 +74,7 @@ public:
     Nvx::Util::ProcessTable &processes() override { return running; }
     Nvx::Util::ServiceControl &services() override { return service; }
     QString commonDesktopFolder() const override { return desktop; }
-    void notifyAssociationsChanged() override { ++associationNotices; }
+    void notifyAssociationsChanged() override;
     qint32 createShellLink(const Nvx::Util::ShellLink &link) override;
     void tell(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;
     Nvx::Util::Answer ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;
