@@ -101,6 +101,16 @@ private slots:
         QCOMPARE(reading.locale, text("de-DE"));
     }
 
+    void afterNoARunIsNotSilent()
+    {
+        const auto stop = [] { return false; };
+        const CommandLineReading reading =
+            readCommandLine(text("NVXConfig.exe -U -S -X"), systemLocale, stop);
+        QVERIFY(reading.abandoned);
+        QVERIFY(reading.runMode == RunMode::Uninstall);
+        QVERIFY(!reading.silent);
+    }
+
     void theUsageTextIsShownLineByLineWithItsOldSpelling()
     {
         QCOMPARE(usageText().split(QLatin1Char('\n')),

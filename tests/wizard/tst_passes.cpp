@@ -272,6 +272,36 @@ private slots:
         QTEST(windows.any(), "shown");
     }
 
+    void afterNoAtTheUsageTheWizardIsShown_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("shown");
+        const int yes = int(Nvx::Util::Answer::Yes);
+        const int no = int(Nvx::Util::Answer::No);
+        QTest::newRow("uninstall") << text("-U -X") << no << true;
+        QTest::newRow("silent uninstall") << text("-U -S -X") << no << true;
+        QTest::newRow("silent install") << text("-I -S -X") << no << true;
+        QTest::newRow("closed") << text("-U -S -X") << int(Nvx::Util::Answer::Dismissed) << true;
+        QTest::newRow("Yes stays silent") << text("-U -S -X") << yes << false;
+        QTest::newRow("stop services has no window") << text("-ST -X") << no << false;
+    }
+
+    void afterNoAtTheUsageTheWizardIsShown()
+    {
+        QFETCH(QString, options);
+        QFETCH(int, answer);
+        QFETCH(bool, shown);
+        m_fixture->machine.answer = static_cast<Nvx::Util::Answer>(answer);
+        cfg_utilitys &engine = m_fixture->start(options);
+        QCOMPARE(m_fixture->machine.boxes.size(), 1);
+        const ShownWindows windows;
+        closeSoon();
+        QCOMPARE(runProgram(engine), 0);
+        QCOMPARE(windows.any(), shown);
+        QVERIFY(!shown || !engine.state().runComplete);
+    }
+
     void aWindowThatIsClosedEndsTheProgramWithZero()
     {
         cfg_utilitys &engine = m_fixture->start(text("-I"));

@@ -69,6 +69,7 @@ CommandLineReading readCommandLine(const QString &commandLine, const QString &sy
         case Option::Unknown:
             if (i > 0 && !goOnAfterUnknownOption()) {
                 reading.abandoned = true;
+                reading.silent = false; // someone is there, who is shown the wizard
                 return reading;
             }
             break;

@@ -12,13 +12,14 @@ struct CommandLineReading
     RunMode runMode = RunMode::NotGiven;
     bool silent = false;
     QString locale;
-    bool abandoned = false; ///< the user said No at an unknown option; nothing after it has been read
+    bool abandoned = false; ///< the user said No at an unknown option; nothing after it was read
 };
 
 /// Reads the whole command line of the process, program path first. It is split at blanks, quotes have no
 /// meaning, options are told by how they begin, with case, and the later of two modes wins. The locale stays
 /// systemLocale unless an option sets it. For each unknown option other than the first token,
-/// goOnAfterUnknownOption is asked; when it answers false the reading is abandoned.
+/// goOnAfterUnknownOption is called; if it returns false, the reading is abandoned: the mode and the locale
+/// stay as they were read, but the run is not silent.
 CommandLineReading readCommandLine(const QString &commandLine, const QString &systemLocale,
                                    const std::function<bool()> &goOnAfterUnknownOption);
 
