@@ -30,6 +30,33 @@ private slots:
     }
     void cleanup() { m_fixture.reset(); }
 
+    void whatOthersConnectToIsASlot_data()
+    {
+        QTest::addColumn<QByteArray>("signature");
+        for (const char *signature : {"ProcessInstallation()", "initLocalizationTool()", "getLtool()"})
+            QTest::newRow(signature) << QByteArray(signature);
+    }
+
+    void whatOthersConnectToIsASlot()
+    {
+        QFETCH(QByteArray, signature);
+        QVERIFY(cfg_utilitys::staticMetaObject.indexOfSlot(signature.constData()) >= 0);
+    }
+
+    void theLocalizationToolIsReachedThroughItsSlot()
+    {
+        const auto tool = [this] {
+            util::util_localization_tool *found = nullptr;
+            const bool called = QMetaObject::invokeMethod(
+                m_engine, "getLtool", Q_RETURN_ARG(util::util_localization_tool *, found));
+            return std::pair(called, found);
+        };
+        QCOMPARE(tool(), std::pair(true, static_cast<util::util_localization_tool *>(nullptr)));
+        QVERIFY(QMetaObject::invokeMethod(m_engine, "initLocalizationTool"));
+        QVERIFY(m_engine->getLtool());
+        QCOMPARE(tool(), std::pair(true, m_engine->getLtool()));
+    }
+
     void aCommandIsRunAndItsExitCodeAnswered()
     {
         m_fixture->machine.programResult = {Nvx::Util::ProgramResult::Outcome::Exited, 7, {}};

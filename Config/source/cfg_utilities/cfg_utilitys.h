@@ -142,12 +142,12 @@ public:
     /// Uninstalls the server, and on install installs it again. Always returns 0.
     int stopServices(RunMode mode);
 
-    /// The localisation tool; null before initLocalizationTool.
-    util::util_localization_tool *getLtool() const { return m_localizationTool.get(); }
-
 public slots:
     /// Makes the localisation tool, once.
     void initLocalizationTool();
+
+    /// The localisation tool; null before initLocalizationTool.
+    util::util_localization_tool *getLtool() const { return m_localizationTool.get(); }
 
     /// Performs one whole run: every step in its order, each told the run mode.
     void ProcessInstallation();
