@@ -61,6 +61,9 @@ private slots:
         row("a path without a drive", "/opt/NVX/a b.html", "file:///opt/NVX/a%20b.html");
         row("installed help", "file:///C:\\ProgramData\\Velmora\\NVX 2017/NVXHelp/index.html?query=a b",
             "file:///C:/ProgramData/Velmora/NVX%202017/NVXHelp/index.html?query=a%20b");
+        row("backslashes after the path of installed help", "file:///C:\\NVX\\index.html?query=a\\b#c\\d",
+            "file:///C:/NVX/index.html?query=a%5Cb#c%5Cd");
+        row("a backslash after the number sign", "file:///C:\\NVX\\a.htm#c\\d", "file:///C:/NVX/a.htm#c%5Cd");
         row("nothing", "", "");
         row("no host", "http://a b/", "");
         row("no port", "http://host:port/", "");

@@ -193,15 +193,46 @@ private slots:
         QCOMPARE(m_machine->starts.first().waitMs, 0);
     }
 
-    void aSearchForAnyTextIsOneSearch()
+    void theTextOfASearchIsPutIntoTheAddressAsItIs_data()
     {
+        QTest::addColumn<QString>("searched");
+        QTest::addColumn<QString>("opened");
+        const auto row = [](const char *searched, const char *opened) {
+            QTest::newRow(searched) << QString::fromUtf8(searched) << QString::fromUtf8(opened);
+        };
+        row("mesh", "mesh");
+        row("R&D", "R&D");
+        row("C++", "C++");
+        row("#3", "#3");
+        row("5%20", "5%20");
+        row("a=b?c/d", "a=b?c/d");
+        // What an address cannot hold is encoded where it is passed to the browser.
+        row("heat \"sink\"", "heat%20%22sink%22");
+        row("50%", "50%25");
+        row("a\\b", "a%5Cb");
+    }
+
+    void theTextOfASearchIsPutIntoTheAddressAsItIs()
+    {
+        QFETCH(QString, searched);
+        QFETCH(QString, opened);
         writeFile(settingsFile(), plainSettings);
         m_help->initialise();
-        m_help->showSearch(QStringLiteral("R&D \"C++\" #3 50%"));
+        const auto wiki = QStringLiteral("http://help.velmora.example/wiki/KORVA/2017/ENU/?query=");
+        QCOMPARE(m_help->searchAddress(searched), wiki + searched);
+        m_help->showSearch(searched);
         QCOMPARE(m_machine->starts.size(), 1);
-        QCOMPARE(m_machine->starts.first().arguments,
-                 QStringList{QStringLiteral("http://help.velmora.example/wiki/KORVA/2017/ENU/"
-                                            "?query=R%26D%20%22C%2B%2B%22%20%233%2050%25")});
+        QCOMPARE(m_machine->starts.first().arguments, QStringList{wiki + opened});
+
+        const QString help = sharedFolder() + QStringLiteral("/NVXHelp/");
+        QVERIFY(QDir().mkpath(help + QStringLiteral("contexthelp")));
+        m_help->setOffline(true);
+        m_help->initialise();
+        m_help->showSearch(searched);
+        QCOMPARE(m_machine->starts.size(), 2);
+        const QString argument = m_machine->starts.last().arguments.value(0);
+        QVERIFY2(argument.endsWith(QStringLiteral("/NVXHelp/index.html?query=") + opened),
+                 qPrintable(argument));
     }
 
     void whoWantsToWaitWaitsAtMostThirtySeconds()

@@ -51,24 +51,6 @@ private slots:
         QCOMPARE(searchAddress(settings, HelpPlace::Installed, text),
                  QStringLiteral("http://host/?query=heat sink"));
     }
-
-    void aSearchTextDoesNotPartTheAddress_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("plain") << QStringLiteral("heat sink") << QStringLiteral("heat sink");
-        QTest::newRow("ampersand") << QStringLiteral("R&D") << QStringLiteral("R%26D");
-        QTest::newRow("number sign") << QStringLiteral("#3") << QStringLiteral("%233");
-        QTest::newRow("plus sign") << QStringLiteral("C++") << QStringLiteral("C%2B%2B");
-        QTest::newRow("percent sign") << QStringLiteral("5%20") << QStringLiteral("5%2520");
-        QTest::newRow("other alphabets") << QStringLiteral("Größe 保存") << QStringLiteral("Größe 保存");
-    }
-
-    void aSearchTextDoesNotPartTheAddress()
-    {
-        QFETCH(QString, text);
-        QTEST(asSearchText(text), "expected");
-    }
 };
 
 NVX_GUILESS_TEST(tst_help_address)

@@ -25,12 +25,20 @@ bool isPath(const QString &address)
     return startsWithDrive(address) || address.startsWith(QLatin1String("\\\\")) || address.startsWith(u'/');
 }
 
+// A query and a fragment keep their backslashes.
+void useSlashesInPath(QString &address)
+{
+    const auto isEndOfPath = [](QChar c) { return c == u'?' || c == u'#'; };
+    const auto end = std::find_if(address.begin(), address.end(), isEndOfPath);
+    std::replace(address.begin(), end, QChar(u'\\'), QChar(u'/'));
+}
+
 QUrl urlOf(QString address)
 {
     if (isPath(address))
         return QUrl::fromLocalFile(address.replace(u'\\', u'/'));
     if (address.startsWith(QLatin1String("file:"), Qt::CaseInsensitive))
-        address.replace(u'\\', u'/');
+        useSlashesInPath(address);
     return QUrl(address);
 }
 

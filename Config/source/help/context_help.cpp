@@ -88,7 +88,7 @@ void ContextHelp::showTopic(const QString &contextId) const
 
 void ContextHelp::showSearch(const QString &text) const
 {
-    openAddress(searchAddress(asSearchText(text)));
+    openAddress(searchAddress(text));
 }
 
 void ContextHelp::openAddress(const QString &address, HelpWait wait) const

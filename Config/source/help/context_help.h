@@ -44,7 +44,7 @@ public:
 
     void showTopic(const QString &contextId) const;
 
-    /// The text may hold any characters.
+    /// The text is part of the address as it is: an "&" or "#" in it has its meaning there.
     void showSearch(const QString &text) const;
 
     /// Opens an address in the user's web browser. One that is not valid is not opened.

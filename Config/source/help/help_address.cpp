@@ -19,21 +19,3 @@ QString searchAddress(const HelpSettings &settings, HelpPlace place, const QStri
     const QString address = settings.prefix + settings.url + settings.search + text;
     return place == HelpPlace::Online ? address + settings.suffix : address;
 }
-
-QString asSearchText(const QString &text)
-{
-    QString safe;
-    for (const QChar c : text) {
-        switch (c.unicode()) {
-        case u'%':
-        case u'#':
-        case u'&':
-        case u'+':
-            safe += QLatin1Char('%') + QString::number(c.unicode(), 16).toUpper();
-            break;
-        default:
-            safe += c;
-        }
-    }
-    return safe;
-}

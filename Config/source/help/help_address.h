@@ -27,6 +27,3 @@ QString topicAddress(const HelpSettings &settings, const QString &contextId);
 
 /// The address of a search, with the text as it is. The suffix is part of an online search only.
 QString searchAddress(const HelpSettings &settings, HelpPlace place, const QString &text);
-
-/// The text of a search with the characters replaced that would end it, or part it, in an address.
-QString asSearchText(const QString &text);
