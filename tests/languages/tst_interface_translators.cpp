@@ -96,6 +96,7 @@ private slots:
     void theLastTextNamesTheFinishButton_data() { addLocaleRows(); }
     void theLastTextNamesTheFinishButton();
     void aTextOfSeveralLinesIsTranslated();
+    void aNameInOtherCaseFindsItsFilesOnlyWhereFoldersIgnoreCase();
     void theBuiltInLanguageNeedsNoFiles();
     void anEmptyLocaleLeavesEnglish();
     void missingFilesLeaveEnglish();
@@ -161,6 +162,16 @@ void tst_interface_translators::aTextOfSeveralLinesIsTranslated()
     const InterfaceTranslators translators(languagesFolder(), german);
     QVERIFY2(usageText().startsWith(QStringLiteral("Gültige Befehlszeilenargumente für NVX:\n-I ")),
              qPrintable(usageText()));
+}
+
+// The name is used as it was typed; the file system decides.
+void tst_interface_translators::aNameInOtherCaseFindsItsFilesOnlyWhereFoldersIgnoreCase()
+{
+    const auto typed = QStringLiteral("de-de");
+    const bool ignoresCase = QFile::exists(Nvx::Util::joinPath(languagesFolder(), typed));
+    const InterfaceTranslators translators(languagesFolder(), typed);
+    QCOMPARE(programText(), ignoresCase ? QStringLiteral("Befehlszeilenargumente") : englishProgramText);
+    QCOMPARE(toolkitText(), ignoresCase ? QStringLiteral("&Ja") : englishToolkitText);
 }
 
 void tst_interface_translators::theBuiltInLanguageNeedsNoFiles()
