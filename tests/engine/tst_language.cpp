@@ -91,6 +91,34 @@ private slots:
         QCOMPARE(m_fixture->lines().count(text("   0 zorv :") + m_fixture->test.installDir()), 3);
     }
 
+    void theSolversResourcesFollowTheLanguageInEveryMode_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QByteArray>("solver");
+        QTest::addColumn<int>("copies");
+        for (const char *mode : {"-U", "-ST", "-T"}) {
+            const auto row = [mode](const char *locale, const QByteArray &solver, int copies) {
+                QTest::addRow("%s %s", mode, locale)
+                    << text("%1 -L%2").arg(text(mode), text(locale)) << solver << copies;
+            };
+            row("de-DE", QByteArray(), 0);
+            row("ja-JP", "Japanese solver", 1);
+            row("en-US", "old", 0); // nothing is done once more for the built-in language
+        }
+        QTest::newRow("install in English") << text("-I -Len-US") << QByteArray() << 0;
+        QTest::newRow("no mode, in Japanese") << text("-Lja-JP") << QByteArray("Japanese solver") << 3;
+    }
+
+    void theSolversResourcesFollowTheLanguageInEveryMode()
+    {
+        QFETCH(QString, options);
+        writeFile(m_fixture->installed("NVXSolver.exe"));
+        writeFile(m_fixture->installed("ja/ZorvRes.dll"), "old");
+        m_fixture->start(options);
+        QTEST(readFile(m_fixture->installed("ja/ZorvRes.dll")), "solver");
+        QTEST(int(m_fixture->lines().count(text("   0 zorv :") + m_fixture->test.installDir())), "copies");
+    }
+
     void anotherLanguageRemovesTheJapaneseSolverResources()
     {
         m_fixture->start(text("-I -Lja-JP"));

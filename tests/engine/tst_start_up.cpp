@@ -33,6 +33,14 @@ QStringList machineVariables()
     return found;
 }
 
+// The runs that install: one is told to, one has no mode.
+void addInstallRows()
+{
+    QTest::addColumn<QString>("options");
+    QTest::newRow("install") << text("-I");
+    QTest::newRow("no mode") << QString();
+}
+
 } // namespace
 
 class tst_start_up : public QObject
@@ -136,10 +144,13 @@ private slots:
         QVERIFY(m_fixture->start().state().registry64);
     }
 
+    void anInstallAcceptsItsFolderAndWritesNoVariables_data() { addInstallRows(); }
+
     void anInstallAcceptsItsFolderAndWritesNoVariables()
     {
+        QFETCH(QString, options);
         setMachineVariables(text("C:\\by the installer"));
-        m_fixture->start(text("-I"));
+        m_fixture->start(options);
         const QStringList lines = m_fixture->lines();
         const QString folder = m_fixture->test.installDir();
         const auto start =
@@ -152,16 +163,23 @@ private slots:
         QVERIFY(QDir(System::getUserDataPath()).exists());
     }
 
+    void anInstallWithoutAFolderTakesTheWorkingFolderAndWritesTheVariables_data() { addInstallRows(); }
+
     void anInstallWithoutAFolderTakesTheWorkingFolderAndWritesTheVariables()
     {
+        QFETCH(QString, options);
+        setMachineVariables(text("C:\\by the installer"));
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(m_fixture->test.installDir()));
         m_fixture->machine.ownFolder.clear();
         const QString working = System::getWorkingDirPath();
-        const RunState &state = m_fixture->start(text("-I")).state();
+        const RunState &state = m_fixture->start(options).state();
         QDir::setCurrent(before);
 
         QCOMPARE(state.installDir, working);
+        QCOMPARE(state.installDirEscaped, QString(working).replace(QLatin1Char('\\'), QLatin1String("\\\\")));
+        QVERIFY(state.runMode == (options.isEmpty() ? RunMode::NotGiven : RunMode::Install));
+        QVERIFY(QDir(System::getUserDataPath()).exists());
         QCOMPARE(machineVariables(), QStringList(3, working));
         const QByteArray value = working.toLocal8Bit();
         const QList<QPair<QByteArray, QByteArray>> expected{

@@ -106,6 +106,26 @@ private slots:
         QCOMPARE(m_seen, QStringList(text("Willkommen|CAD-Startprogramme |Abschluss |&Weiter >|Deutsch")));
     }
 
+    void thePagesAreInTheRememberedLanguage_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::newRow("none named") << text("-L");
+        QTest::newRow("reading abandoned") << text("-Lde-DE -X");
+    }
+
+    // The run's own language counts only once it has been set up.
+    void thePagesAreInTheRememberedLanguage()
+    {
+        QFETCH(QString, options);
+        System::setLocale(text("ja-JP"));
+        m_fixture->machine.answer = Nvx::Util::Answer::No;
+        cfg_utilitys &engine = m_fixture->start(options);
+        QVERIFY(engine.state().locale != text("ja-JP"));
+        m_poll.start();
+        QCOMPARE(runProgram(engine), 0);
+        QCOMPARE(m_seen, QStringList(text("ようこそ|CAD ランチャー |最終ステップ |次へ(&N) >|日本語")));
+    }
+
 private:
     // On each new wizard: notes its texts, then chooses the next language and goes on, or closes the window.
     void act()
