@@ -11,6 +11,12 @@ namespace {
 
 const QString allPages = text("Welcome|CAD Launchers |Conclusion ");
 
+// A null image for a null picture.
+QImage pixelsOf(const QPixmap &picture)
+{
+    return picture.isNull() ? QImage() : picture.toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
 // The widgets that the Tab key reaches on the current page, the wizard's own buttons last, by their names or
 // texts.
 QStringList tabOrder(QWizard &wizard)
@@ -72,10 +78,88 @@ private slots:
         QCOMPARE(wizard.wizardStyle(), QWizard::ModernStyle);
         QVERIFY(!wizard.testOption(QWizard::HaveHelpButton));
         QVERIFY(wizard.testOption(QWizard::NoCancelButton));
-        QVERIFY(!wizard.pixmap(QWizard::BannerPixmap).isNull());
-        for (const auto page : {WizardPlan::Page::Welcome, WizardPlan::Page::Feature})
-            QCOMPARE(wizard.page(int(page))->pixmap(QWizard::LogoPixmap).isNull(),
-                     page == WizardPlan::Page::Welcome);
+    }
+
+    void theTitleBarHasNoHelpButton()
+    {
+        const ClassWizard &wizard = m_fixture->show(QString());
+        QVERIFY(!wizard.windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
+    }
+
+    void theBannerIsAtTheTopOfEveryPage()
+    {
+        const ClassWizard &wizard = m_fixture->show(QString());
+        const QPixmap shown = wizard.pixmap(QWizard::BannerPixmap);
+        const QPixmap banner(text(":/image/banner.png"));
+        QVERIFY(!banner.isNull());
+        QCOMPARE(shown.width(), banner.width());
+        // Large text takes a higher one.
+        QCOMPARE(pixelsOf(shown),
+                 pixelsOf(banner.scaled(shown.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
+        const QList<int> ids = wizard.pageIds();
+        for (const int id : ids)
+            QCOMPARE(wizard.page(id)->pixmap(QWizard::BannerPixmap).cacheKey(), shown.cacheKey());
+    }
+
+    void theLogoIsOnThePageOfTheLaunchersAlone()
+    {
+        const ClassWizard &wizard = m_fixture->show(QString());
+        const QPixmap logo(text(":/images/logo1.png"));
+        QVERIFY(!logo.isNull());
+        const QList<int> ids = wizard.pageIds();
+        for (const int id : ids) {
+            const QWizardPage &page = *wizard.page(id);
+            const bool hasLogo = id == int(WizardPlan::Page::Feature);
+            QCOMPARE(pixelsOf(page.pixmap(QWizard::LogoPixmap)), hasLogo ? pixelsOf(logo) : QImage());
+            QVERIFY(page.pixmap(QWizard::WatermarkPixmap).isNull());
+            QVERIFY(page.pixmap(QWizard::BackgroundPixmap).isNull());
+        }
+    }
+
+    void theWindowAndItsPagesHaveTheNamesOfTheirClasses()
+    {
+        const ClassWizard &wizard = m_fixture->show(QString());
+        QStringList names{wizard.objectName()};
+        const QList<int> ids = wizard.pageIds();
+        for (const int id : ids)
+            names << wizard.page(id)->objectName();
+        QCOMPARE(names, QStringList({text("ClassWizard"), text("WelcomePage"), text("FeaturePage"),
+                                     text("ConclusionPage")}));
+    }
+
+    void everyWidgetOfAPageHasItsName_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("shown"); // the text of a label or a check box, the class of a list
+        const auto row = [](WizardPlan::Page page, const char *name, const char *shown) {
+            QTest::newRow(name) << int(page) << text(shown);
+        };
+        row(WizardPlan::Page::Welcome, "m_intro",
+            "This wizard will configure Velmora NVX 2017 for your system.");
+        row(WizardPlan::Page::Welcome, "m_changeLanguage", "Change language");
+        row(WizardPlan::Page::Welcome, "m_languages", "QComboBox");
+        row(WizardPlan::Page::Feature, "m_description",
+            "NVX launchers will be installed for the CAD systems that are checked.");
+        row(WizardPlan::Page::Feature, "m_cbCreo", "Pro/ENGINEER Creo");
+        row(WizardPlan::Page::Feature, "m_cbSolidworks", "SolidWorks");
+        row(WizardPlan::Page::Feature, "m_cbBrevant", "Brevant");
+        row(WizardPlan::Page::Feature, "UGS NX", "UGS NX");
+        row(WizardPlan::Page::Feature, "Tamsel", "Tamsel");
+        row(WizardPlan::Page::Feature, "Tamsel ARCH", "Tamsel Architecture");
+        row(WizardPlan::Page::Feature, "Tamsel MEP", "Tamsel MEP");
+        row(WizardPlan::Page::Feature, "m_cbSpaceclaim", "SpaceClaim");
+        row(WizardPlan::Page::Conclusion, "m_progress", "ProgressList");
+    }
+
+    void everyWidgetOfAPageHasItsName()
+    {
+        QFETCH(int, page);
+        const ClassWizard &wizard = m_fixture->build(QString());
+        const auto found = wizard.page(page)->findChildren<QWidget *>(text(QTest::currentDataTag()));
+        QCOMPARE(found.size(), 1);
+        const QVariant ofWidget = found.first()->property("text");
+        const QString className = text(found.first()->metaObject()->className());
+        QTEST(ofWidget.isValid() ? ofWidget.toString() : className, "shown");
     }
 
     void thePagesFollowEachOther()

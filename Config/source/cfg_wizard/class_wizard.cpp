@@ -30,6 +30,7 @@ QPixmap bannerFor(const QFontMetrics &text)
 ClassWizard::ClassWizard(cfg_utilitys &engine, const QList<Page> &pages)
     : m_engine(engine)
 {
+    setObjectName(QStringLiteral("ClassWizard"));
     removeTitleBarHelpButton(*this);
     for (const Page page : pages)
         setPage(static_cast<int>(page), makePage(page));

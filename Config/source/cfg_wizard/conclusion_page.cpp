@@ -14,6 +14,7 @@ ConclusionPage::ConclusionPage(cfg_utilitys &engine, QWidget *parent)
     , m_engine(engine)
     , m_progress(new ProgressList(this))
 {
+    setObjectName(QStringLiteral("ConclusionPage"));
     setTitle(tr("Conclusion "));
     setSubTitle(QStringLiteral(" "));
     m_progress->setObjectName(QStringLiteral("m_progress"));

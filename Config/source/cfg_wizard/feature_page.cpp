@@ -46,6 +46,7 @@ FeaturePage::FeaturePage(cfg_utilitys &engine, QWidget *parent)
     : QWizardPage(parent)
     , m_engine(engine)
 {
+    setObjectName(QStringLiteral("FeaturePage"));
     setTitle(tr("CAD Launchers "));
     setSubTitle(QStringLiteral(" "));
     setPixmap(QWizard::LogoPixmap, logo());

@@ -41,6 +41,7 @@ WelcomePage::WelcomePage(cfg_utilitys &engine, int followingPage, QWidget *paren
     , m_followingPage(followingPage)
     , m_languages(new QComboBox(this))
 {
+    setObjectName(QStringLiteral("WelcomePage"));
     setTitle(tr("Welcome"));
     setSubTitle(QStringLiteral(" "));
 
