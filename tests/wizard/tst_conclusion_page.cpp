@@ -28,7 +28,25 @@ private slots:
         timer.start();
         m_fixture->show(text("-U"));
         QTRY_COMPARE(m_fixture->runs(), 1);
-        QVERIFY2(timer.elapsed() >= 950, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY2(timer.elapsed() >= 1000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    // Holds the settings of the timer and that the run begins when it expires, without waiting for it.
+    void theRunStartsWhenATimerOfOneSecondExpires()
+    {
+        const ClassWizard &wizard = m_fixture->show(text("-U"));
+        auto *timer = wizard.currentPage()->findChild<QTimer *>(text("m_start"));
+        QVERIFY(timer);
+        QVERIFY(timer->isActive());
+        QVERIFY(timer->isSingleShot());
+        QCOMPARE(timer->timerType(), Qt::PreciseTimer);
+        QCOMPARE(timer->interval(), 1000);
+        QCOMPARE(m_fixture->runs(), 0);
+        QTimerEvent expired(timer->timerId());
+        QCoreApplication::sendEvent(timer, &expired);
+        QCOMPARE(m_fixture->runs(), 1);
+        QVERIFY(m_fixture->engine->state().runComplete);
+        QVERIFY(!timer->isActive());
     }
 
     void finishStaysGreyUntilTheLastRow()

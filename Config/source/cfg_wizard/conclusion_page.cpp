@@ -23,7 +23,9 @@ ConclusionPage::ConclusionPage(cfg_utilitys &engine, QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_progress);
 
+    m_start.setObjectName(QStringLiteral("m_start"));
     m_start.setSingleShot(true);
+    m_start.setTimerType(Qt::PreciseTimer); // a coarse one may be early
     m_start.setInterval(1000);
     connect(&m_start, &QTimer::timeout, this, &ConclusionPage::handleFinalize);
     m_engine.setProgressView(this);

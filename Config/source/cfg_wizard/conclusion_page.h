@@ -34,6 +34,6 @@ public slots:
 private:
     cfg_utilitys &m_engine;
     ProgressList *m_progress;
-    QTimer m_start;
+    QTimer m_start{this};
     bool m_running = false;
 };
