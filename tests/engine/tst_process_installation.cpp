@@ -240,6 +240,25 @@ private slots:
         QCOMPARE(m_fixture->lines().last(), text("   0 x"));
     }
 
+    void aProgressLineIsShownThenPaintedThenLogged()
+    {
+        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        RecordingView view(engine);
+        engine.setProgressView(&view);
+        const QStringList before = m_fixture->lines();
+        QStringList shownMeanwhile;
+        QStringList loggedMeanwhile;
+        QTimer::singleShot(0, this, [&] {
+            shownMeanwhile = view.shown;
+            loggedMeanwhile = m_fixture->lines();
+        });
+        engine.progress(3, text("x"));
+        QCOMPARE(shownMeanwhile, QStringList(text("x")));
+        QCOMPARE(loggedMeanwhile, before);
+        QCOMPARE(m_fixture->lines(), before + QStringList(text("   3 x")));
+        QCOMPARE(view.shown, shownMeanwhile);
+    }
+
     void aMessageIsShownAndLogged()
     {
         m_fixture->start(text("-I -S")).inform(1, text("look"));
