@@ -4,15 +4,21 @@
 #include "cfg_wizard/feature_page.h"
 #include "cfg_wizard/interface_translators.h"
 #include "cfg_wizard/start_up.h"
+#include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
 #include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QScopeGuard>
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
+
+using Nvx::Util::RegistryKey;
 using Nvx::Util::System;
 
 namespace {
@@ -68,6 +74,9 @@ private slots:
         }
         m_choices.clear();
         m_seen.clear();
+        m_foundNx.clear();
+        m_questions.clear();
+        m_afterChoice = nullptr;
     }
 
     void cleanup()
@@ -96,6 +105,28 @@ private slots:
                                       text("Welcome|CAD Launchers |Conclusion |&Next >|English")}));
         QCOMPARE(engine.state().locale, text("en-US"));
         QVERIFY(!engine.state().runComplete);
+    }
+
+    void everyRebuildLooksForRunningProgramsAndCadSystemsAgain()
+    {
+        RegistryKey nx(text("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\10.0"));
+        const auto tidy = qScopeGuard([&] { nx.removeWhole(); });
+        m_choices = {text("de-DE"), text("ja-JP")};
+        m_afterChoice = [&] {
+            // A CAD system is installed and started during the first wizard, and removed during the second.
+            if (m_choices.size() == 1) {
+                nx.setText(text("UGII_BASE_DIR"), text("C:\\NX 10"));
+                m_fixture->machine.running.add(text("C:\\CAD\\xtop.exe"));
+                m_fixture->machine.running.add(text("C:\\NVX 2017\\NVXMonitor.exe"));
+            } else {
+                nx.removeWhole();
+            }
+        };
+        cfg_utilitys &engine = m_fixture->start(QString());
+        m_poll.start();
+        QCOMPARE(runProgram(engine), 0);
+        QCOMPARE(m_foundNx, QList<bool>({false, true, false}));
+        QCOMPARE(m_questions, QList<qsizetype>({0, 2, 4})); // what was ended is still listed on this machine
     }
 
     void theLanguageOfTheCommandLineIsThatOfThePages()
@@ -134,6 +165,9 @@ private:
         if (!wizard)
             return;
         m_seen << textsOf(*wizard);
+        const QCheckBox *nx = wizard->findChild<QCheckBox *>(text("UGS NX"));
+        m_foundNx << (nx->isEnabled() && nx->isChecked());
+        m_questions << m_fixture->machine.boxes.size();
         QVERIFY(wizard->currentPage() == wizard->page(wizard->pageIds().first()));
         if (m_choices.isEmpty()) {
             wizard->close();
@@ -141,12 +175,17 @@ private:
         }
         auto *languages = wizard->findChild<QComboBox *>(text("m_languages"));
         languages->setCurrentIndex(languages->findData(m_choices.takeFirst()));
+        if (m_afterChoice)
+            m_afterChoice();
         wizard->button(QWizard::NextButton)->click();
     }
 
     QTimer m_poll;
     QStringList m_choices;
     QStringList m_seen;
+    QList<bool> m_foundNx;
+    QList<qsizetype> m_questions;
+    std::function<void()> m_afterChoice;
     std::unique_ptr<WizardFixture> m_fixture;
 };
 
