@@ -136,12 +136,23 @@ private slots:
         QVERIFY(state.installDirEscaped.endsWith(text("\\\\a\\\\b")));
     }
 
+    void theThirtyTwoBitPartOfTheRegistryIsNoticed_data()
+    {
+        QTest::addColumn<QString>("subKey");
+        QTest::newRow("by a value") << QString();
+        QTest::newRow("by a key") << text("\\Run");
+    }
+
     void theThirtyTwoBitPartOfTheRegistryIsNoticed()
     {
-        RegistryKey windows32(
-            text("HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion"));
-        QVERIFY(windows32.setText(text("ProgramFilesDir"), text("C:\\Program Files (x86)")));
+        QFETCH(QString, subKey);
+        const auto windows32 =
+            text("HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion");
+        // A Windows machine has it from the start.
+        QCOMPARE(m_fixture->start().state().registry64, RegistryKey(windows32).hasEntries());
+        QVERIFY(RegistryKey(windows32 + subKey).setText(text("a name"), text("a value")));
         QVERIFY(m_fixture->start().state().registry64);
+        RegistryKey(windows32 + subKey).removeValue(text("a name"));
     }
 
     void anInstallAcceptsItsFolderAndWritesNoVariables_data() { addInstallRows(); }

@@ -141,12 +141,14 @@ private slots:
         QTest::addColumn<QByteArray>("document");
         QTest::newRow("with settings") << plainSettings;
         QTest::newRow("with broken settings") << QByteArray("<");
+        QTest::newRow("without settings") << QByteArray();
     }
 
     void installedHelpThatIsMissingIsTheDefaultPage()
     {
         QFETCH(QByteArray, document);
-        writeFile(settingsFile(), document);
+        if (!document.isNull())
+            writeFile(settingsFile(), document);
         m_help->setOffline(true);
         m_help->initialise();
         const QString page = m_folders->installDir() + QStringLiteral("/NVXDefaultHelp.html");

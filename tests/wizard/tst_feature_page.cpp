@@ -72,6 +72,12 @@ private slots:
         QCOMPARE(grid.rowMinimumHeight(0), 40);
         const auto *description = qobject_cast<QLabel *>(grid.itemAtPosition(0, 0)->widget());
         QVERIFY(description);
+        int row = -1;
+        int column = -1;
+        int rows = 0;
+        int columns = 0;
+        grid.getItemPosition(grid.indexOf(description), &row, &column, &rows, &columns);
+        QCOMPARE(QList<int>({row, column, rows, columns}), QList<int>({0, 0, 1, 3}));
         QCOMPARE(description->text(),
                  text("NVX launchers will be installed for the CAD systems that are checked."));
     }

@@ -6,11 +6,21 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 #include <QWizard>
 
 namespace {
+
+// Lines of a log without those about the programs that the run starts.
+QStringList withoutPrograms(QStringList lines)
+{
+    static const QRegularExpression ofPrograms(
+        text("^ +-?\\d+ (Command:|WorkDir:|Output:|  | output:|Removing:)"));
+    lines.removeIf([](const QString &line) { return ofPrograms.match(line).hasMatch(); });
+    return lines;
+}
 
 // Notices every window that is shown while it lives.
 class ShownWindows : public QObject
@@ -154,7 +164,7 @@ private slots:
         QCOMPARE(lines.mid(0, 3),
                  QStringList({text("   0 CheckForRunningOstrade: silent=off terminate=off"),
                               text("   0 Stopping Services"), text("   0 uninstallServer ")}));
-        QVERIFY(lines.filter(text("Beginning")).isEmpty());
+        QCOMPARE(withoutPrograms(lines.mid(3)), QStringList());
         QVERIFY(m_fixture->machine.service.current == Nvx::Util::ServiceState::NotInstalled);
         QVERIFY(m_fixture->machine.boxes.isEmpty());
     }
