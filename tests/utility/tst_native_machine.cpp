@@ -207,15 +207,12 @@ private slots:
 
     void aDetachedProgramGetsItsArgumentsAndLivesOn()
     {
-        const QString tool = toolWith(*m_folder, "record\nsleep 1500\nmark " +
-                                                     m_folder->path(QStringLiteral("lived")).toLocal8Bit());
+        const QString lived = m_folder->path(QStringLiteral("lived"));
+        const QString tool = toolWith(*m_folder, "record\nsleep 1500\nmark " + lived.toLocal8Bit());
         const QStringList arguments{QStringLiteral("http://host/?a&b=%20^|'x'"), QStringLiteral("C:\\a b\\"),
                                     QStringLiteral("say \"so\""), QString()};
-        QElapsedTimer timer;
-        timer.start();
         QVERIFY(m_machine.startDetached(tool, arguments, 0));
-        QVERIFY(timer.elapsed() < 1400);
-        const QString lived = m_folder->path(QStringLiteral("lived"));
+        QVERIFY(!QFile::exists(lived));
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(lived), 20000);
         QCOMPARE(withoutReturns(readFile(tool + QStringLiteral(".arguments"))),
                  arguments.join(QLatin1Char('\n')).toLocal8Bit() + '\n');
