@@ -102,8 +102,7 @@ void MaterialNameUtility::synchronize(const QString &databaseFile)
         return;
     QString chosen = databaseFile;
     if (chosen.isEmpty())
-        chosen = dialogs().fileToOpen(
-            this, {tr("Open Material Database"), memory().lastFolder(), QStringLiteral("*.mdb")});
+        chosen = chooseFileToOpen(tr("Open Material Database"), QStringLiteral("*.mdb"));
     if (chosen.isEmpty())
         return;
     m_databaseFile = QDir::toNativeSeparators(QFileInfo(chosen).absoluteFilePath());

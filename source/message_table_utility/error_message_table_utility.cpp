@@ -98,19 +98,12 @@ Window::MarkedRows MessageTableUtility::rows() const
     return Error::rowsOf(m_messages);
 }
 
-QString MessageTableUtility::fileToUse(const QString &title, const QString &filter)
-{
-    QString file = dialogs().fileToOpen(this, {title, memory().lastFolder(), filter});
-    if (!file.isEmpty())
-        memory().rememberFolderOf(file);
-    return file;
-}
-
 void MessageTableUtility::synchronize()
 {
     if (isBusy())
         return;
-    const QString projectFile = fileToUse(tr("Open Visual Studio Project"), QStringLiteral("*.vcxproj"));
+    const QString projectFile =
+        chooseFileToOpen(tr("Open Visual Studio Project"), QStringLiteral("*.vcxproj"));
     if (projectFile.isEmpty())
         return;
     const std::optional<Scan::VisualStudioProject> project = Scan::readVisualStudioProject(projectFile);
@@ -181,7 +174,7 @@ void MessageTableUtility::updateTranslation()
 {
     if (isBusy())
         return;
-    const QString file = fileToUse(tr("Open Qt Translation File"), QStringLiteral("*.ts"));
+    const QString file = chooseFileToOpen(tr("Open Qt Translation File"), QStringLiteral("*.ts"));
     if (file.isEmpty())
         return;
     Error::TranslationTable table;

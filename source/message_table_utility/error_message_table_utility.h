@@ -35,9 +35,6 @@ protected:
 private:
     static Window::TableWindowTexts texts();
 
-    // Asks for a file to work with, and starts later dialogs in its folder.
-    QString fileToUse(const QString &title, const QString &filter);
-
     // Nothing when it was cancelled.
     std::optional<Error::ProjectScan> scanShowingProgress(const QString &projectFile,
                                                           const Scan::VisualStudioProject &project);

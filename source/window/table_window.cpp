@@ -48,8 +48,7 @@ void TableWindow::open()
 {
     if (isBusy() || !mayLoseChanges())
         return;
-    const QString chosen =
-        m_dialogs.fileToOpen(this, {m_texts.openTitle, m_memory.lastFolder(), m_texts.filter});
+    const QString chosen = chooseFileToOpen(m_texts.openTitle, m_texts.filter);
     if (!chosen.isEmpty())
         load(chosen);
 }
@@ -58,9 +57,8 @@ bool TableWindow::save()
 {
     if (isBusy())
         return false;
-    if (m_fileName.isEmpty())
-        return saveAs();
-    if (!saveTo(m_fileName))
+    const QString target = m_fileName.isEmpty() ? chooseFileToSave() : m_fileName;
+    if (target.isEmpty() || !saveTo(target))
         return false;
     showStatus(m_texts.saved);
     return true;
@@ -70,12 +68,28 @@ bool TableWindow::saveAs()
 {
     if (isBusy())
         return false;
-    const QString chosen =
-        m_dialogs.fileToSave(this, {m_texts.saveTitle, m_memory.lastFolder(), m_texts.filter});
+    const QString chosen = chooseFileToSave();
     if (chosen.isEmpty() || !saveTo(chosen))
         return false;
     showStatus(withFile(m_texts.savedAs, m_fileName));
     return true;
+}
+
+QString TableWindow::chooseFileToOpen(const QString &title, const QString &filter)
+{
+    const QString chosen = m_dialogs.fileToOpen(this, {title, m_memory.lastFolder(), filter});
+    if (!chosen.isEmpty())
+        m_memory.rememberFolderOf(chosen);
+    return chosen;
+}
+
+QString TableWindow::chooseFileToSave()
+{
+    const QString chosen =
+        m_dialogs.fileToSave(this, {m_texts.saveTitle, m_memory.lastFolder(), m_texts.filter});
+    if (!chosen.isEmpty())
+        m_memory.rememberFolderOf(chosen);
+    return chosen;
 }
 
 void TableWindow::setUnsaved()

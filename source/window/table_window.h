@@ -113,6 +113,10 @@ protected:
     /// Adds a button before the filter field. It is enabled once there is a table.
     void addTableAction(QAction *action);
 
+    /// Asks for a file to open; empty when the user cancels. Later dialogs start in the folder of the file,
+    /// also when it turns out to be unusable.
+    QString chooseFileToOpen(const QString &title, const QString &filter);
+
     /// Tells that the table has changed since it was saved: Save is enabled.
     void setUnsaved();
 
@@ -145,6 +149,7 @@ private:
     void makeStatusBar();
     void showAbout();
 
+    QString chooseFileToSave();
     bool mayLoseChanges();
     bool load(const QString &fileName);
     bool saveTo(const QString &fileName);

@@ -59,12 +59,17 @@ void tst_material_name_utility::actionsHaveTheirTextsAndPictures_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shortcut");
-    QTest::newRow("actionNew") << QStringLiteral("New") << QStringLiteral("Ctrl+N");
-    QTest::newRow("actionOpen") << QStringLiteral("Open...") << QStringLiteral("Ctrl+O");
-    QTest::newRow("actionSave") << QStringLiteral("Save") << QStringLiteral("Ctrl+S");
-    QTest::newRow("actionSaveAs") << QStringLiteral("Save As...") << QString();
-    QTest::newRow("actionExit") << QStringLiteral("Exit") << QString();
-    QTest::newRow("actionSynchronize") << QStringLiteral("Synchronize...") << QString();
+    QTest::addColumn<QString>("picture");
+    const auto row = [](const char *name, const char *text, const char *shortcut, const char *picture) {
+        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(shortcut)
+                            << QStringLiteral(":/MaterialNameUtility/images/") + QLatin1String(picture);
+    };
+    row("actionNew", "New", "Ctrl+N", "new.png");
+    row("actionOpen", "Open...", "Ctrl+O", "open.png");
+    row("actionSave", "Save", "Ctrl+S", "save.png");
+    row("actionSaveAs", "Save As...", "", "saveas.png");
+    row("actionExit", "Exit", "", "exit.png");
+    row("actionSynchronize", "Synchronize...", "", "synchronize.png");
 }
 
 void tst_material_name_utility::actionsHaveTheirTextsAndPictures()
@@ -74,11 +79,13 @@ void tst_material_name_utility::actionsHaveTheirTextsAndPictures()
     QVERIFY(action);
     QTEST(action->text(), "text");
     QTEST(action->shortcut().toString(QKeySequence::PortableText), "shortcut");
-    const QImage picture = action->icon().pixmap(16, 16).toImage();
-    QVERIFY(!picture.isNull());
-    QImage nothing(picture.size(), picture.format());
+    const QImage shown = action->icon().pixmap(16, 16).toImage();
+    QFETCH(const QString, picture);
+    QVERIFY(!shown.isNull());
+    QCOMPARE(shown, QIcon(picture).pixmap(16, 16).toImage());
+    QImage nothing(shown.size(), shown.format());
     nothing.fill(Qt::transparent);
-    QVERIFY(picture != nothing);
+    QVERIFY(shown != nothing);
 }
 
 void tst_material_name_utility::toolTipTellsWithWhatIsSynchronized()
@@ -184,7 +191,9 @@ void tst_material_name_utility::newTableIsSavedUnderAName()
     f.dialogs.fileToChoose = f.otherFile;
     f.action("actionSave")->trigger();
     QCOMPARE(f.dialogs.saveQuestions.size(), 1);
-    QCOMPARE(f.status(), QStringLiteral("Saved translation table as ") + f.otherFile);
+    QCOMPARE(f.dialogs.saveQuestions.first().folder, f.folder.path());
+    QCOMPARE(f.status(), QStringLiteral("Saved translation table"));
+    QCOMPARE(f.window.fileName(), f.otherFile);
     f.window.newTable();
     QVERIFY(f.window.openFile(f.otherFile));
     QCOMPARE(f.shownRows(), QStringList({QStringLiteral("Iron|Iron"), QStringLiteral("Steel|Steel"),
@@ -195,8 +204,11 @@ void tst_material_name_utility::failedOpeningKeepsTheTable()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
+    f.otherFile = f.folder.path(QStringLiteral("damaged/other.ts"));
+    QVERIFY(QDir().mkpath(f.folder.path(QStringLiteral("damaged"))));
     QVERIFY(writeBytes(f.otherFile, "<TS>\n<context>"));
-    QVERIFY(!f.window.openFile(f.otherFile));
+    f.dialogs.fileToChoose = f.otherFile;
+    f.window.open();
     QCOMPARE(f.dialogs.warnings.size(), 1);
     QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Open Translation Table"));
     QVERIFY(f.dialogs.warnings.first().text.startsWith(
@@ -204,6 +216,10 @@ void tst_material_name_utility::failedOpeningKeepsTheTable()
     QVERIFY(f.dialogs.warnings.first().text.endsWith(QStringLiteral(" at line 2")));
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     QCOMPARE(f.window.fileName(), f.tableFile);
+
+    f.dialogs.fileToChoose.clear();
+    f.window.synchronize();
+    QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path(QStringLiteral("damaged")));
 }
 
 void tst_material_name_utility::rowsAreFilteredAndCopied()

@@ -27,6 +27,7 @@ private slots:
     void saveWritesTheTable();
     void newTableIsSavedUnderANewName();
     void saveAsTakesTheNewName();
+    void dialogsStartInTheFolderOfTheFileChosenLast();
     void newAndObsoleteRowsAreMarked();
     void rowsAreReadableOnADarkPalette();
     void filterFindsStatesAndContexts();
@@ -56,20 +57,21 @@ void tst_message_table_utility::actionsAreAsStated_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shortcut");
-    QTest::addColumn<bool>("hasIcon");
+    QTest::addColumn<QString>("picture");
     QTest::addColumn<QString>("toolTip");
-    const auto row = [](const char *name, const char *text, const char *shortcut, bool hasIcon,
+    const auto row = [](const char *name, const char *text, const char *shortcut, const char *picture,
                         const char *toolTip) {
-        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(shortcut) << hasIcon
-                            << QString::fromLatin1(toolTip);
+        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(shortcut)
+                            << QString::fromLatin1(picture) << QString::fromLatin1(toolTip);
     };
-    row("actionNew", "New", "Ctrl+N", true, "New");
-    row("actionOpen", "Open...", "Ctrl+O", true, "Open");
-    row("actionSave", "Save", "Ctrl+S", true, "Save");
-    row("actionSaveAs", "Save As...", "", false, "Save As");
-    row("actionExit", "Exit", "", false, "Exit");
-    row("actionSynchronize", "Synchronize...", "", true, "Synchronize with source code");
-    row("actionTranslate", "Update Translation...", "", false, "Update translation");
+    row("actionNew", "New", "Ctrl+N", ":/ErrorTableUtility/images/new.png", "New");
+    row("actionOpen", "Open...", "Ctrl+O", ":/ErrorTableUtility/images/open.png", "Open");
+    row("actionSave", "Save", "Ctrl+S", ":/ErrorTableUtility/images/save.png", "Save");
+    row("actionSaveAs", "Save As...", "", "", "Save As");
+    row("actionExit", "Exit", "", "", "Exit");
+    row("actionSynchronize", "Synchronize...", "", ":/ErrorTableUtility/images/synchronize.png",
+        "Synchronize with source code");
+    row("actionTranslate", "Update Translation...", "", "", "Update translation");
 }
 
 void tst_message_table_utility::actionsAreAsStated()
@@ -79,8 +81,10 @@ void tst_message_table_utility::actionsAreAsStated()
     QVERIFY(action);
     QTEST(action->text(), "text");
     QTEST(action->shortcut().toString(), "shortcut");
-    QTEST(!action->icon().pixmap(16).isNull(), "hasIcon");
     QTEST(action->toolTip(), "toolTip");
+    QFETCH(const QString, picture);
+    QVERIFY(picture.isEmpty() || QFile::exists(picture));
+    QCOMPARE(action->icon().pixmap(16).toImage(), QIcon(picture).pixmap(16).toImage());
     if (action == f.action("actionTranslate"))
         QCOMPARE(action->iconText(), QStringLiteral("tr"));
 }
@@ -213,7 +217,7 @@ void tst_message_table_utility::newTableIsSavedUnderANewName()
     QVERIFY(f.isEnabled("actionSave"));
     f.dialogs.fileToChoose = f.otherFile;
     f.action("actionSave")->trigger();
-    QCOMPARE(f.status(), QStringLiteral("Table saved as %1").arg(f.otherFile));
+    QCOMPARE(f.status(), QStringLiteral("Table saved"));
     QVERIFY(fileBytes(f.otherFile)->contains("<messageTable "));
     QVERIFY(!f.isEnabled("actionSave"));
 }
@@ -229,6 +233,25 @@ void tst_message_table_utility::saveAsTakesTheNewName()
     QCOMPARE(f.status(), QStringLiteral("Table saved as %1").arg(f.otherFile));
     QCOMPARE(f.window.fileName(), f.otherFile);
     QCOMPARE(fileBytes(f.otherFile), fileBytes(f.tableFile));
+}
+
+void tst_message_table_utility::dialogsStartInTheFolderOfTheFileChosenLast()
+{
+    UtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("project/broken.xml"));
+    QVERIFY(writeBytes(f.dialogs.fileToChoose, "<messageTable>"));
+    f.action("actionOpen")->trigger();
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+
+    f.dialogs.fileToChoose.clear();
+    for (const char *name : {"actionOpen", "actionSynchronize", "actionTranslate", "actionSaveAs"})
+        f.action(name)->trigger();
+    QStringList folders;
+    for (const Window::FileQuestion &question : f.dialogs.openQuestions + f.dialogs.saveQuestions)
+        folders.append(question.folder);
+    const QString chosen = f.folder.path(QStringLiteral("project"));
+    QCOMPARE(folders, QStringList({f.folder.path(), chosen, chosen, chosen, chosen}));
 }
 
 void tst_message_table_utility::newAndObsoleteRowsAreMarked()

@@ -16,6 +16,8 @@ private slots:
     void cancelledDialogChangesNothing();
     void failedOpeningKeepsTheTable();
     void cancelledLoadingKeepsTheTable();
+    void folderOfARefusedFileIsWhereTheNextDialogStarts();
+    void saveDialogStartsInTheFolderOfTheFileUsedLast();
     void savingAsksForANameOnce();
     void saveIsDisabledUntilTheTableChanges();
     void failedSavingKeepsTheTableUnsaved();
@@ -103,6 +105,46 @@ void tst_table_window::cancelledLoadingKeepsTheTable()
     QCOMPARE(f.shownRows(), 2);
 }
 
+void tst_table_window::folderOfARefusedFileIsWhereTheNextDialogStarts()
+{
+    LineWindowFixture f;
+    QVERIFY(f.window.openFile(f.file));
+    QVERIFY(QDir().mkpath(f.folder.path(QStringLiteral("read/lines"))));
+    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("read/missing.txt"));
+    f.window.open();
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+
+    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("read/lines")); // a folder cannot be written
+    QVERIFY(!f.window.saveAs());
+    QCOMPARE(f.dialogs.saveQuestions.last().folder, f.folder.path(QStringLiteral("read")));
+    QCOMPARE(f.dialogs.warnings.size(), 2);
+
+    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("no such folder/lines.txt"));
+    QVERIFY(!f.window.saveAs());
+    f.window.open();
+    QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path(QStringLiteral("no such folder")));
+}
+
+void tst_table_window::saveDialogStartsInTheFolderOfTheFileUsedLast()
+{
+    LineWindowFixture f;
+    f.window.newTable();
+    f.window.saveAs();
+    QCOMPARE(f.dialogs.saveQuestions.last().folder, QString());
+    QVERIFY(f.window.openFile(f.file));
+    f.window.saveAs();
+    QCOMPARE(f.dialogs.saveQuestions.last().folder, f.folder.path());
+
+    f.window.newTable();
+    QVERIFY(QDir().mkpath(f.folder.path(QStringLiteral("written"))));
+    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("written/lines.txt"));
+    QVERIFY(f.window.saveAs());
+    f.window.newTable();
+    f.dialogs.fileToChoose.clear();
+    QVERIFY(!f.window.save());
+    QCOMPARE(f.dialogs.saveQuestions.last().folder, f.folder.path(QStringLiteral("written")));
+}
+
 void tst_table_window::savingAsksForANameOnce()
 {
     LineWindowFixture f;
@@ -113,7 +155,8 @@ void tst_table_window::savingAsksForANameOnce()
     QCOMPARE(f.dialogs.saveQuestions.size(), 1);
     QCOMPARE(f.dialogs.saveQuestions.first().title, QStringLiteral("Save Lines"));
     QCOMPARE(f.dialogs.saveQuestions.first().filter, QStringLiteral("*.txt"));
-    QCOMPARE(f.status(), QStringLiteral("Saved as %1").arg(f.otherFile));
+    QCOMPARE(f.status(), QStringLiteral("Saved"));
+    QCOMPARE(f.window.fileName(), f.otherFile);
     QCOMPARE(fileBytes(f.otherFile), QByteArray("new"));
 
     f.window.addLine("newer");
