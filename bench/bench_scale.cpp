@@ -57,12 +57,11 @@ QByteArray databaseOf(int materials)
     return database + "</materials>\n";
 }
 
-QSet<Clt::MessageKey> keysIn(const QStringList &fileNames)
+Scan::FoundKeys keysIn(const QStringList &fileNames)
 {
-    QSet<Clt::MessageKey> found;
+    Scan::FoundKeys found;
     const auto receive = [&found](qsizetype, const Scan::SourceScanner &scanner) {
-        for (const QSet<Clt::MessageKey> &keys : scanner.keys().sets())
-            found.unite(keys);
+        Scan::addKeys(found, scanner);
         return Scan::Continuation::GoOn;
     };
     Scan::scanFiles(QStringLiteral("client"), fileNames, receive, 1);
@@ -92,7 +91,7 @@ void measure(int items)
     const QTemporaryDir folder;
     const QStringList fileNames = writeSources(folder, items);
     const QByteArray database = databaseOf(items);
-    const QSet<Clt::MessageKey> keys = keysIn(fileNames);
+    const Scan::FoundKeys keys = keysIn(fileNames);
     const QStringList names = namesIn(database).names;
     if (keys.size() != items || names.size() != items)
         qFatal("found %lld keys and %lld names", static_cast<long long>(keys.size()),

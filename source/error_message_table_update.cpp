@@ -24,16 +24,15 @@ TableUpdate fail(ProgressLog &log, const QString &line)
 
 struct ScanResult
 {
-    QSet<Clt::MessageKey> keys;
+    Scan::FoundKeys keys;
     int skippedFiles = 0;
 };
 
 /// The found keys that do not exist, in key order: a table is filled in the least time in its own order.
-std::vector<Clt::MessageKey> newKeys(const QSet<Clt::MessageKey> &found,
-                                     const QSet<Clt::MessageKey> &existing)
+std::vector<Clt::MessageKey> newKeys(const Scan::FoundKeys &found, const QSet<Clt::MessageKey> &existing)
 {
     std::vector<Clt::MessageKey> keys;
-    std::copy_if(found.begin(), found.end(), std::back_inserter(keys),
+    std::copy_if(found.keyBegin(), found.keyEnd(), std::back_inserter(keys),
                  [&existing](const Clt::MessageKey &key) { return !existing.contains(key); });
     std::sort(keys.begin(), keys.end());
     return keys;
@@ -52,8 +51,7 @@ ScanResult scanProject(const QString &projectFile, const Scan::VisualStudioProje
             log.writeLine(QStringLiteral("Parser error: %1").arg(scanner.errorText()));
             ++result.skippedFiles;
         }
-        for (const QSet<Clt::MessageKey> &keys : scanner.keys().sets())
-            result.keys.unite(keys);
+        Scan::addKeys(result.keys, scanner);
         log.showProgress(QStringLiteral("Scanned %1 of %2 files").arg(index + 1).arg(paths.size()));
         return Scan::Continuation::GoOn;
     };
@@ -74,7 +72,7 @@ QString KeyCounts::text() const
         .arg(obsolete);
 }
 
-KeyCounts synchronizeKeys(Clt::MessageTable &table, const QSet<Clt::MessageKey> &found)
+KeyCounts synchronizeKeys(Clt::MessageTable &table, const Scan::FoundKeys &found)
 {
     const QSet<Clt::MessageKey> existing = table.keys();
     KeyCounts counts{found.size(), 0, existing.size(), 0};
@@ -82,12 +80,17 @@ KeyCounts synchronizeKeys(Clt::MessageTable &table, const QSet<Clt::MessageKey> 
         Clt::Message message;
         message.setKey(key);
         message.setState(Clt::MessageState::New);
+        const Scan::SourcePlace place = found.value(key);
+        message.setFile(place.file);
+        message.setLine(place.line);
         table.insert(std::move(message));
         ++counts.added;
     }
     for (const Clt::MessageKey &key : existing) {
-        if (found.contains(key))
+        if (const auto place = found.constFind(key); place != found.cend()) {
+            table.setPlace(key, place->file, place->line);
             continue;
+        }
         Clt::Message message = table.message(key);
         message.setState(Clt::MessageState::Obsolete);
         table.insert(std::move(message));

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "clt_message_key.h"
+#include "error_source_scanner.h"
 
-#include <QSet>
 #include <QString>
 
 namespace Clt {
@@ -26,9 +25,10 @@ struct KeyCounts
 };
 
 /// Inserts a message of state New for every found key that the table does not have, and gives the state
-/// Obsolete to every message whose key is not found. Other messages stay as they are, also obsolete ones
-/// whose key is found again.
-KeyCounts synchronizeKeys(Clt::MessageTable &table, const QSet<Clt::MessageKey> &found);
+/// Obsolete to every message whose key is not found. Other messages keep their texts and their state, also
+/// obsolete ones whose key is found again. Every message whose key is found gets its file and line, which are
+/// not saved.
+KeyCounts synchronizeKeys(Clt::MessageTable &table, const Scan::FoundKeys &found);
 
 /// How a synchronisation ended.
 struct TableUpdate

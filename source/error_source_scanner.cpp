@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QLoggingCategory>
 
+#include <algorithm>
+
 namespace Scan {
 
 namespace {
@@ -25,9 +27,18 @@ std::string_view viewOf(const QByteArray &bytes)
 
 } // namespace
 
-void KeySets::insert(CallFamily family, const Clt::MessageKey &key)
+QSet<Clt::MessageKey> KeySets::keys(CallFamily family) const
 {
-    m_sets[static_cast<std::size_t>(family)].insert(key);
+    const Lines &lines = m_lines[static_cast<std::size_t>(family)];
+    return {lines.keyBegin(), lines.keyEnd()};
+}
+
+// The calls come in the order of the text.
+void KeySets::insert(CallFamily family, const Clt::MessageKey &key, int line)
+{
+    int &first = m_lines[static_cast<std::size_t>(family)][key];
+    if (first == 0)
+        first = line;
 }
 
 SourceScanner::SourceScanner(const QString &process, const QString &fileName)
@@ -65,7 +76,21 @@ void SourceScanner::scanText(const QByteArray &text)
         return;
     }
     for (const Call &call : parser.calls())
-        m_keys.insert(call.family, {call.tag, call.context, m_process});
+        m_keys.insert(call.family, {call.tag, call.context, m_process}, call.line);
+}
+
+// Two families may have one key: an error and a message with the same tag.
+void addKeys(FoundKeys &found, const SourceScanner &scanner)
+{
+    for (const KeySets::Lines &lines : scanner.keys().lines()) {
+        for (auto key = lines.keyValueBegin(); key != lines.keyValueEnd(); ++key) {
+            SourcePlace &place = found[key->first];
+            if (place.line == 0)
+                place = {scanner.fileName(), key->second};
+            else if (place.file == scanner.fileName())
+                place.line = std::min(place.line, key->second);
+        }
+    }
 }
 
 } // namespace Scan

@@ -3,6 +3,7 @@
 #include "clt_message_key.h"
 #include "error_source_parser.h"
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -12,21 +13,22 @@
 
 namespace Scan {
 
-/// The keys found, apart by family of calls.
+/// The keys found in one file, apart by family of calls, each with the line of its first call in the family.
 class KeySets
 {
 public:
-    const QSet<Clt::MessageKey> &keys(CallFamily family) const
-    {
-        return m_sets[static_cast<std::size_t>(family)];
-    }
-    void insert(CallFamily family, const Clt::MessageKey &key);
+    using Lines = QHash<Clt::MessageKey, int>;
 
-    /// One set for each family.
-    const std::array<QSet<Clt::MessageKey>, callFamilyCount> &sets() const { return m_sets; }
+    QSet<Clt::MessageKey> keys(CallFamily family) const;
+
+    /// A key that the family has already keeps its line.
+    void insert(CallFamily family, const Clt::MessageKey &key, int line);
+
+    /// The keys of each family with their lines.
+    const std::array<Lines, callFamilyCount> &lines() const { return m_lines; }
 
 private:
-    std::array<QSet<Clt::MessageKey>, callFamilyCount> m_sets;
+    std::array<Lines, callFamilyCount> m_lines;
 };
 
 /// Finds the keys of the reporting macros' calls in one C++ source file. The debug lines of the logging
@@ -46,6 +48,8 @@ public:
 
     const KeySets &keys() const { return m_keys; }
 
+    const QString &fileName() const { return m_fileName; }
+
 private:
     void scanText(const QByteArray &text);
 
@@ -54,6 +58,19 @@ private:
     QString m_errorText;
     KeySets m_keys;
 };
+
+/// Where a message is raised.
+struct SourcePlace
+{
+    QString file; ///< as the scanner was given it
+    int line = 0;
+};
+
+/// The keys found in several files, each with the place of its first call.
+using FoundKeys = QHash<Clt::MessageKey, SourcePlace>;
+
+/// Adds the keys of a scanner. A key that was found in an earlier file keeps its place.
+void addKeys(FoundKeys &found, const SourceScanner &scanner);
 
 enum class Continuation
 {

@@ -67,6 +67,16 @@ void MessageTable::insert(Message &&message)
     messages.insert_or_assign(messages.end(), key, std::move(message));
 }
 
+bool MessageTable::setPlace(const MessageKey &key, const QString &file, qint32 line)
+{
+    const auto found = m_storage->messages.find(key);
+    if (found == m_storage->messages.end())
+        return false;
+    found->second.setFile(file);
+    found->second.setLine(line);
+    return true;
+}
+
 bool MessageTable::remove(const MessageKey &key)
 {
     return m_storage->messages.erase(key) != 0;

@@ -47,6 +47,9 @@ public:
     void insert(const Message &message);
     void insert(Message &&message);
 
+    /// Sets the source file and line of the message under exactly that key. False when there is none.
+    bool setPlace(const MessageKey &key, const QString &file, qint32 line);
+
     /// True when there was a message under exactly that key.
     bool remove(const MessageKey &key);
 

@@ -139,7 +139,7 @@ MessageTableUtility::scanShowingProgress(const QString &projectFile, const Scan:
 }
 
 // Save is for tables that differ from their file, so it stays as it is when the sources brought nothing new.
-void MessageTableUtility::takeKeys(const QSet<Clt::MessageKey> &keys, qint64 milliseconds)
+void MessageTableUtility::takeKeys(const Scan::FoundKeys &keys, qint64 milliseconds)
 {
     const Window::WaitCursor wait;
     const auto obsoleteBefore = obsoleteMessages(m_messages);

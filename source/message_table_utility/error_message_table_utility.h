@@ -39,7 +39,7 @@ private:
     std::optional<Error::ProjectScan> scanShowingProgress(const QString &projectFile,
                                                           const Scan::VisualStudioProject &project);
     Window::Loading loadTranslation(Error::TranslationTable &table, const QString &fileName);
-    void takeKeys(const QSet<Clt::MessageKey> &keys, qint64 milliseconds);
+    void takeKeys(const Scan::FoundKeys &keys, qint64 milliseconds);
 
     Clt::MessageTable m_messages;
 };

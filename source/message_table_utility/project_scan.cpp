@@ -28,8 +28,7 @@ ProjectScan scanProject(const QString &projectFile, const Scan::VisualStudioProj
         if (scanner.hasError())
             scan.errors.append(
                 QStringLiteral("%1: %2").arg(project.sourceFiles.at(index), scanner.errorText()));
-        for (const QSet<Clt::MessageKey> &keys : scanner.keys().sets())
-            scan.keys.unite(keys);
+        Scan::addKeys(scan.keys, scanner);
         return receive(index + 1, scan.keys.size()) ? Scan::Continuation::GoOn : Scan::Continuation::Stop;
     };
     Scan::scanFiles(project.process(), paths, take);

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "clt_message_key.h"
+#include "error_source_scanner.h"
 
-#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -17,7 +16,7 @@ namespace Error {
 /// What the scan of a project's sources found.
 struct ProjectScan
 {
-    QSet<Clt::MessageKey> keys;
+    Scan::FoundKeys keys;
     QStringList errors; ///< "FILE: ERROR" for every file that could not be scanned
 };
 

@@ -117,6 +117,17 @@ private slots:
         QCOMPARE(table.message(keyOf(p, p, p)).text(), QStringLiteral("new"));
     }
 
+    void placeIsThatOfTheMessageUnderExactlyThatKey()
+    {
+        MessageTable table;
+        table.insert(messageOf(p, QStringLiteral("B::C"), p));
+        QVERIFY(!table.setPlace(keyOf(p, QStringLiteral("A::B::C"), p), QStringLiteral("a.cpp"), 1));
+        QVERIFY(table.setPlace(keyOf(p, QStringLiteral("B::C"), p), QStringLiteral("b.cpp"), 2));
+        QCOMPARE(table.size(), std::size_t(1));
+        QCOMPARE(table.message(keyOf(p, QStringLiteral("B::C"), p)).file(), QStringLiteral("b.cpp"));
+        QCOMPARE(table.message(keyOf(p, QStringLiteral("B::C"), p)).line(), 2);
+    }
+
     void removingTellsWhetherThereWasOne()
     {
         MessageTable table;

@@ -92,6 +92,25 @@ private slots:
         }
     }
 
+    void aKeyHasThePlaceOfItsFirstCall()
+    {
+        const QString first = m_folder.path(QStringLiteral("first.txt"));
+        const QString second = m_folder.path(QStringLiteral("second.txt"));
+        QVERIFY(writeBytes(first, "void f() {\n  REPORT_MESSAGE(\"A\");\n  REPORT_ERROR(\n\"B\");\n"
+                                  "  REPORT_MESSAGE(\"A\");\n  REPORT_ERROR(\"A\"); }"));
+        QVERIFY(writeBytes(second, "void f() {\nREPORT_ERROR(\"A\");\nASK_QUESTION(\"C\", Yes, Yes); }"));
+        FoundKeys found;
+        const auto receive = [&found](qsizetype, const SourceScanner &scanner) {
+            addKeys(found, scanner);
+            return Continuation::GoOn;
+        };
+        scanFiles(QStringLiteral("client"), {first, second}, receive);
+        QCOMPARE(placeOf(found, "A"), first + QStringLiteral(":2"));
+        QCOMPARE(placeOf(found, "B"), first + QStringLiteral(":3"));
+        QCOMPARE(placeOf(found, "C? Yes; Yes"), second + QStringLiteral(":3"));
+        QCOMPARE(found.size(), 3);
+    }
+
     void fileThatCannotBeOpenedIsAnError()
     {
         SourceScanner scanner(QStringLiteral("client"), m_folder.path(QStringLiteral("no.cpp")));
@@ -150,6 +169,13 @@ private slots:
     }
 
 private:
+    static QString placeOf(const FoundKeys &found, const char *tag)
+    {
+        const SourcePlace place =
+            found.value({QString::fromLatin1(tag), QStringLiteral("f"), QStringLiteral("client")});
+        return QStringLiteral("%1:%2").arg(place.file, QString::number(place.line));
+    }
+
     static constexpr int fileCount = 60;
     TestFolder m_folder;
     QStringList m_fileNames;

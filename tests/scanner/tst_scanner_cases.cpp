@@ -68,8 +68,8 @@ QByteArray contentsOf(const QString &fileName)
 QSet<Clt::MessageKey> keysOf(const SourceScanner &scanner)
 {
     QSet<Clt::MessageKey> keys;
-    for (const QSet<Clt::MessageKey> &set : scanner.keys().sets())
-        keys.unite(set);
+    for (std::size_t family = 0; family < callFamilyCount; ++family)
+        keys.unite(scanner.keys().keys(static_cast<CallFamily>(family)));
     return keys;
 }
 

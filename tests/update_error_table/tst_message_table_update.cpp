@@ -19,6 +19,15 @@ Clt::MessageKey key(const QString &tag)
     return {tag, QStringLiteral("N::C::f"), QStringLiteral("client")};
 }
 
+/// Keys with those tags, each found in a line of its own.
+Scan::FoundKeys foundKeys(const QStringList &tags)
+{
+    Scan::FoundKeys found;
+    for (const QString &tag : tags)
+        found.insert(key(tag), {QStringLiteral("solver.cpp"), 10 + static_cast<int>(found.size())});
+    return found;
+}
+
 Clt::Message message(const QString &tag, Clt::MessageState state)
 {
     Clt::Message made;
@@ -38,7 +47,7 @@ private slots:
     void newKeyGetsAMessageWithItsInitialValuesAndStateNew()
     {
         Clt::MessageTable table;
-        const KeyCounts counts = synchronizeKeys(table, {key(QStringLiteral("A"))});
+        const KeyCounts counts = synchronizeKeys(table, foundKeys({QStringLiteral("A")}));
         QCOMPARE(table.size(), std::size_t(1));
         const Clt::Message made = table.message(key(QStringLiteral("A")));
         QVERIFY(made.key() == key(QStringLiteral("A")));
@@ -69,11 +78,25 @@ private slots:
         QFETCH(const bool, found);
         Clt::MessageTable table;
         table.insert(message(QStringLiteral("A"), before));
-        synchronizeKeys(table,
-                        found ? QSet<Clt::MessageKey>{key(QStringLiteral("A"))} : QSet<Clt::MessageKey>());
+        synchronizeKeys(table, found ? foundKeys({QStringLiteral("A")}) : Scan::FoundKeys());
         const Clt::Message after = table.message(key(QStringLiteral("A")));
         QTEST(after.state(), "after");
         QCOMPARE(after.text(), QStringLiteral("text of A"));
+    }
+
+    void foundMessagesKnowTheirFileAndLine()
+    {
+        Clt::MessageTable table;
+        for (const char *tag : {"A", "B", "C"})
+            table.insert(message(QString::fromLatin1(tag), Clt::MessageState::InSync));
+        synchronizeKeys(table, foundKeys({QStringLiteral("B"), QStringLiteral("D"), QStringLiteral("C")}));
+        QStringList places;
+        for (const auto &[messageKey, found] : table)
+            places.append(
+                QStringLiteral("%1 %2:%3").arg(messageKey.tag, found.file(), QString::number(found.line())));
+        QCOMPARE(places, QStringList({QStringLiteral("A :0"), QStringLiteral("B solver.cpp:10"),
+                                      QStringLiteral("C solver.cpp:12"), QStringLiteral("D solver.cpp:11")}));
+        QCOMPARE(table.message(key(QStringLiteral("B"))).text(), QStringLiteral("text of B"));
     }
 
     void countsAreOfTheSets()
@@ -81,7 +104,8 @@ private slots:
         Clt::MessageTable table;
         for (const char *tag : {"A", "B", "C"})
             table.insert(message(QString::fromLatin1(tag), Clt::MessageState::InSync));
-        const KeyCounts counts = synchronizeKeys(table, {key(QStringLiteral("B")), key(QStringLiteral("D"))});
+        const KeyCounts counts =
+            synchronizeKeys(table, foundKeys({QStringLiteral("B"), QStringLiteral("D")}));
         QCOMPARE(counts.found, 2);
         QCOMPARE(counts.added, 1);
         QCOMPARE(counts.existing, 3);
