@@ -56,7 +56,8 @@ bool copyWhole(const QString &source, const QString &target)
 }
 
 LocaleFolders::LocaleFolders(const QString &root, Reporter &reporter)
-    : m_folder(joinPath(root, QStringLiteral("Locale")))
+    : m_hasRoot(!root.isEmpty())
+    , m_folder(joinPath(root, QStringLiteral("Locale")))
     , m_reporter(reporter)
 {
 }
@@ -75,12 +76,21 @@ void LocaleFolders::prepare()
 {
     for (const Language &language : allLanguages()) {
         const QString path = folder(language.locale);
-        QDir().mkpath(path);
+        if (!make(path))
+            continue;
         const QStringList names = matchingFiles(path, compiledFiles);
         for (const QString &name : names)
             if (!makeWritable(joinPath(path, name)))
                 m_reporter.log(1, QStringLiteral("Permission fails:") + joinPath(path, name));
     }
+}
+
+bool LocaleFolders::make(const QString &folder)
+{
+    if (m_hasRoot && QDir().mkpath(folder))
+        return true;
+    m_reporter.log(1, QStringLiteral("Permission fails:") + folder);
+    return false;
 }
 
 void LocaleFolders::collect()
@@ -91,7 +101,8 @@ void LocaleFolders::collect()
 
 void LocaleFolders::collect(const QString &source, const QString &target)
 {
-    QDir().mkpath(target);
+    if (!make(target))
+        return;
     const QStringList names = matchingFiles(source, filesHandedOn());
     const QSet<QString> kept(names.begin(), names.end());
     const QStringList earlier = matchingFiles(target, filesHandedOn());

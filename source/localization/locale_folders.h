@@ -12,7 +12,11 @@ namespace util {
 class LocaleFolders
 {
 public:
+    /// Without a root every operation fails and touches nothing: a path without one would start at the top of
+    /// the current drive.
     LocaleFolders(const QString &root, Reporter &reporter);
+
+    bool hasRoot() const { return m_hasRoot; }
 
     /// The folder of a locale.
     QString folder(const QString &locale) const;
@@ -21,7 +25,7 @@ public:
     QString collected(const QString &code) const;
 
     /// Makes the folder of every language when it is missing, and lets its compiled files be replaced. Logs
-    /// each file that stays protected.
+    /// each folder that cannot be made and each file that stays protected.
     void prepare();
 
     /// Puts a copy of every file of every language that is to be handed on into its folder below "collect",
@@ -30,7 +34,9 @@ public:
 
 private:
     void collect(const QString &source, const QString &target);
+    bool make(const QString &folder);
 
+    bool m_hasRoot;
     QString m_folder;
     Reporter &m_reporter;
 };

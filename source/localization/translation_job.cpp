@@ -25,6 +25,12 @@ bool isFolder(const QString &path)
     return !path.isEmpty() && QFileInfo(path).isDir();
 }
 
+bool canBeOpened(const QString &path)
+{
+    const QFileInfo file(path);
+    return !file.isDir() && (!file.exists() || file.isWritable());
+}
+
 } // namespace
 
 TranslationJob::TranslationJob(const LocaleFolders &folders, const QString &shareFolder,
@@ -49,7 +55,7 @@ void TranslationJob::remove(const QString &path)
     if (!QFile::exists(path))
         return;
     if (!makeWritable(path) || !QFile::remove(path))
-        m_reporter.log(1, QStringLiteral("can't remove ") + path);
+        m_reporter.log(1, QStringLiteral("can't remove") + path);
     if (QFile::exists(path))
         m_reporter.log(1, path + QStringLiteral(" still exist"));
 }
@@ -57,8 +63,13 @@ void TranslationJob::remove(const QString &path)
 void TranslationJob::writeJobFile()
 {
     const QString path = jobPath(QStringLiteral(".job"));
-    if (!isFolder(m_jobFolder)) {
+    if (!isFolder(m_jobFolder) || !canBeOpened(path)) {
         m_reporter.log(1, QStringLiteral("can't open ") + path);
+        return;
+    }
+    // There is nothing to ask for.
+    if (!m_folders.hasRoot()) {
+        m_reporter.log(1, QStringLiteral("can't write ") + path);
         return;
     }
     // The answer to an earlier request would end the wait before the translators have begun.
@@ -90,6 +101,11 @@ void TranslationJob::upload()
 void TranslationJob::upload(const QString &source, const QString &target)
 {
     m_reporter.log(0, QStringLiteral("upload ") + target);
+    // The translators' files would all count as no longer collected.
+    if (!m_folders.hasRoot() || !isFolder(source)) {
+        m_reporter.log(1, QStringLiteral("upload fails ") + target);
+        return;
+    }
     if (!QDir().mkpath(target)) {
         m_reporter.log(1, target + QStringLiteral(" not available"));
         return;
@@ -125,8 +141,8 @@ void TranslationJob::download()
 
 void TranslationJob::download(const QString &source, const QString &target)
 {
-    m_reporter.log(0, QStringLiteral("download ") + source);
-    if (m_shareFolder.isEmpty() || !isFolder(source)) {
+    m_reporter.log(0, QStringLiteral("download") + source);
+    if (!m_folders.hasRoot() || m_shareFolder.isEmpty() || !isFolder(source)) {
         m_reporter.log(1, QStringLiteral("download fails ") + source);
         return;
     }

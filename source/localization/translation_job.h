@@ -30,7 +30,7 @@ public:
     static constexpr std::chrono::milliseconds pollInterval = std::chrono::seconds(10);
     static constexpr int maxPolls = 200;
 
-    /// shareFolder is the folder of the files, SHARE\NVX360, and jobFolder the one of the job file; both are
+    /// shareFolder is the folder of the files, SHARE\NVX360\, and jobFolder the one of the job file; both are
     /// empty when there is no share. filePatterns name the files that come back.
     TranslationJob(const LocaleFolders &folders, const QString &shareFolder, const QString &jobFolder,
                    const QStringList &filePatterns, Reporter &reporter, Pause pause);
@@ -39,7 +39,7 @@ public:
     void writeJobFile();
 
     /// Puts the collected files of every language on the share, each replaced whole, and takes out those that
-    /// are gone.
+    /// are gone. A language whose collected files have no folder stays there as it is.
     void upload();
 
     /// Looks for the answer every pollInterval, and gives up after more than maxPolls looks.

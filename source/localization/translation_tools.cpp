@@ -3,6 +3,7 @@
 #include "localization/locale_folders.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
+#include "run/reporter.h"
 
 #include <QDir>
 #include <QFile>
@@ -41,6 +42,14 @@ QString TranslationTools::find(const QString &name) const
     return tool.isEmpty() ? Nvx::Util::joinPath(folder, name) : QDir::toNativeSeparators(tool);
 }
 
+bool TranslationTools::copy(const QString &source, const QString &target)
+{
+    const bool copied = copyWhole(source, target);
+    if (!copied)
+        m_context.reporter.log(1, QStringLiteral("Permission fails:") + target);
+    return copied;
+}
+
 bool TranslationTools::run(const QString &tool, const QStringList &arguments, const QString &workFolder)
 {
     return m_runner.runCommand(find(tool), arguments, workFolder, timeLimitMs) == 0;
@@ -50,12 +59,12 @@ bool TranslationTools::update(const QString &project, const QString &translation
 {
     const QString draft = besideIt(translations);
     QFile::remove(draft);
-    if (QFile::exists(translations) && !copyWhole(translations, draft))
+    if (QFile::exists(translations) && !copy(translations, draft))
         return false;
     const QString projectFolder = QDir::toNativeSeparators(QFileInfo(project).path());
     const bool updated =
         run(QStringLiteral("lupdate"), {project, QStringLiteral("-ts"), draft}, projectFolder) &&
-        copyWhole(draft, translations);
+        copy(draft, translations);
     QFile::remove(draft);
     return updated;
 }
@@ -67,7 +76,7 @@ bool TranslationTools::release(const QString &translations, const QString &compi
     const QString folder = QDir::toNativeSeparators(QFileInfo(translations).path());
     const bool released =
         run(QStringLiteral("lrelease"), {translations, QStringLiteral("-qm"), draft}, folder) &&
-        copyWhole(draft, compiled);
+        copy(draft, compiled);
     QFile::remove(draft);
     return released;
 }

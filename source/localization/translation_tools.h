@@ -9,7 +9,7 @@ namespace util {
 
 /// The toolkit's translation tools lupdate and lrelease. Each run is a process of its own and is ended after
 /// timeLimitMs; its command and output are logged. The file it makes is replaced whole, and stays as it was
-/// when the tool fails.
+/// when the tool fails. What fails is logged.
 class TranslationTools
 {
 public:
@@ -26,6 +26,7 @@ public:
 
 private:
     QString find(const QString &name) const;
+    bool copy(const QString &source, const QString &target);
     bool run(const QString &tool, const QStringList &arguments, const QString &workFolder);
 
     StepContext m_context;

@@ -34,6 +34,18 @@ QString onShare(const QString &share, const QString &relativePath)
     return share.isEmpty() ? QString() : joinPath(share, relativePath);
 }
 
+/// The sources and forms below a folder, sorted.
+QStringList sourcesIn(const QString &folder)
+{
+    QStringList paths;
+    QDirIterator files(folder, {QStringLiteral("*.cpp"), QStringLiteral("*.ui")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths.append(QDir::toNativeSeparators(files.next()));
+    paths.sort();
+    return paths;
+}
+
 QByteArray bytesOf(const QString &path)
 {
     QFile file(path);
@@ -49,7 +61,7 @@ util_localization_tool::util_localization_tool(const StepContext &context, QObje
 {
     const LocalizationSettings settings = readSettings();
     m_rootFolder = QDir::toNativeSeparators(settings.root);
-    m_shareFolder = onShare(settings.share, QStringLiteral("pTrans/NVX360"));
+    m_shareFolder = onShare(settings.share, QStringLiteral("pTrans/NVX360/"));
     m_toolsFolder = settings.qtTools;
     m_job = std::make_unique<TranslationJob>(
         LocaleFolders(m_rootFolder, m_context.reporter), m_shareFolder,
@@ -93,10 +105,8 @@ void util_localization_tool::runScript()
     Reporter &reporter = m_context.reporter;
     reporter.log(0, m_rootFolder);
     reporter.log(0, m_shareFolder);
-    if (m_rootFolder.isEmpty()) {
+    if (!hasRoot())
         reporter.log(1, tr("There is no folder of sources, nothing is translated"));
-        return;
-    }
     LocaleFolders folders(m_rootFolder, reporter);
     folders.prepare();
     scanSources();
@@ -113,15 +123,9 @@ void util_localization_tool::runScript()
 
 void util_localization_tool::scanSources()
 {
-    QStringList paths;
-    QDirIterator files(inRoot(QStringLiteral("Projects")), {QStringLiteral("*.cpp"), QStringLiteral("*.ui")},
-                       QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext())
-        paths.append(QDir::toNativeSeparators(files.next()));
-    paths.sort();
-
+    const QStringList paths = hasRoot() ? sourcesIn(inRoot(QStringLiteral("Projects"))) : QStringList();
     qint64 total = 0;
-    for (const QString &path : std::as_const(paths)) {
+    for (const QString &path : paths) {
         const QByteArray bytes = bytesOf(path);
         const bool form = path.endsWith(QLatin1String(".ui"), Qt::CaseInsensitive);
         const int count = form ? countTranslatableStrings(bytes) : countTranslatableCalls(bytes);
@@ -131,27 +135,35 @@ void util_localization_tool::scanSources()
     m_context.reporter.log(0, tr("%1 texts to translate in %2 files").arg(total).arg(paths.size()));
 }
 
+// The lines that end in "cool" tell how far the run is. What went wrong before them has lines of its own.
 void util_localization_tool::updateEnglishSources()
 {
+    update(QStringLiteral("Projects/Client/client.pro"), QStringLiteral("client.ts"));
+    m_context.reporter.log(0, QStringLiteral("tr1 finishes cool"));
+    update(QStringLiteral("Projects/Config/Config.pro"), QStringLiteral("nvxconfig.ts"));
+    m_context.reporter.log(0, QStringLiteral("tr2 finishes cool"));
+}
+
+void util_localization_tool::update(const QString &project, const QString &name)
+{
+    if (!hasRoot())
+        return;
     TranslationTools tools(m_context, m_toolsFolder);
-    if (tools.update(inRoot(QStringLiteral("Projects/Client/client.pro")),
-                     inLocale(sourceLanguage.locale, QStringLiteral("client.ts"))))
-        m_context.reporter.log(0, QStringLiteral("tr1 finishes cool"));
-    if (tools.update(inRoot(QStringLiteral("Projects/Config/Config.pro")),
-                     inLocale(sourceLanguage.locale, QStringLiteral("nvxconfig.ts"))))
-        m_context.reporter.log(0, QStringLiteral("tr2 finishes cool"));
+    tools.update(inRoot(project), inLocale(sourceLanguage.locale, name));
 }
 
 void util_localization_tool::updateMaterialNames()
 {
     const QString translations = inLocale(sourceLanguage.locale, QStringLiteral("matprop.ts"));
-    makeWritable(translations);
-    const mat::TableUpdate update = mat::updateTranslationFile(
-        inRoot(QStringLiteral("Projects/Client/runtime/matprop.mdb")), translations);
-    if (update.outcome == mat::TableUpdate::Outcome::Updated)
-        m_context.reporter.log(0, QStringLiteral("mat finishes cool"));
-    else
-        m_context.reporter.log(1, update.error);
+    if (hasRoot() && makeWritable(translations)) {
+        const mat::TableUpdate update = mat::updateTranslationFile(
+            inRoot(QStringLiteral("Projects/Client/runtime/matprop.mdb")), translations);
+        if (update.outcome != mat::TableUpdate::Outcome::Updated)
+            m_context.reporter.log(1, update.error);
+    } else {
+        m_context.reporter.log(1, QStringLiteral("Permission fails:") + translations);
+    }
+    m_context.reporter.log(0, QStringLiteral("mat finishes cool"));
 }
 
 void util_localization_tool::runTranslationJob()
@@ -166,16 +178,22 @@ void util_localization_tool::runTranslationJob()
 
 void util_localization_tool::compile()
 {
-    TranslationTools tools(m_context, m_toolsFolder);
     for (const Language &language : targetLanguages) {
         m_context.reporter.log(0, QStringLiteral("release client ") + language.locale);
-        tools.release(inLocale(language.locale, QStringLiteral("client.ts")),
-                      inLocale(language.locale, QStringLiteral("client.qm")));
+        release(language.locale, QStringLiteral("client.ts"), QStringLiteral("client.qm"));
         m_context.reporter.log(0, QStringLiteral("release config ") + language.locale);
-        tools.release(inLocale(language.locale, QStringLiteral("nvxconfig.ts")),
-                      inLocale(language.locale, QStringLiteral("nvxconfig.qm")));
+        release(language.locale, QStringLiteral("nvxconfig.ts"), QStringLiteral("nvxconfig.qm"));
     }
     m_context.reporter.log(0, QStringLiteral("release finishes cool"));
+}
+
+void util_localization_tool::release(QLatin1String locale, const QString &translations,
+                                     const QString &compiled)
+{
+    if (!hasRoot())
+        return;
+    TranslationTools tools(m_context, m_toolsFolder);
+    tools.release(inLocale(locale, translations), inLocale(locale, compiled));
 }
 
 void util_localization_tool::copyRibbon()
@@ -184,9 +202,9 @@ void util_localization_tool::copyRibbon()
     const QString source = inLocale(sourceLanguage.locale, name);
     for (const Language &language : targetLanguages) {
         const QString target = inLocale(language.locale, name);
-        if (!makeWritable(target))
+        if (hasRoot() && !makeWritable(target))
             m_context.reporter.log(1, QStringLiteral("Permission fails:") + target);
-        else if (!copyWhole(source, target))
+        else if (!hasRoot() || !copyWhole(source, target))
             m_context.reporter.log(1, QStringLiteral("Copy fails:") + target);
     }
     m_context.reporter.log(0, QStringLiteral("Ribbon2D copied cool"));

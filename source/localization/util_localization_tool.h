@@ -26,19 +26,22 @@ public:
     ~util_localization_tool() override;
 
     /// Does all of it, in order. Each step logs what it does and what fails; none stops the others. Without a
-    /// root folder nothing is done.
+    /// root folder every step fails and touches nothing.
     void runScript();
 
 private:
     LocalizationSettings readSettings() const;
+    bool hasRoot() const { return !m_rootFolder.isEmpty(); }
     QString inRoot(const QString &relativePath) const;
     QString inLocale(QLatin1String locale, const QString &name) const;
 
     void scanSources();
     void updateEnglishSources();
+    void update(const QString &project, const QString &name);
     void updateMaterialNames();
     void runTranslationJob();
     void compile();
+    void release(QLatin1String locale, const QString &translations, const QString &compiled);
     void copyRibbon();
 
     QString m_rootFolder;  ///< of sources and locale folders, an existing one; empty when there is none

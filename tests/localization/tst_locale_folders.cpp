@@ -40,6 +40,24 @@ private slots:
         QCOMPARE(reporter.lines, QStringList());
     }
 
+    void aFolderThatCannotBeMadeIsLoggedAndTheOthersAreMade()
+    {
+        const TestFolder root;
+        writeFile(root.path(QStringLiteral("Locale/de-DE")), "a file in the folder's place");
+        writeFile(root.path(QStringLiteral("Locale/collect/fra")), "another one");
+        writeFile(root.path(QStringLiteral("Locale/fr-FR/client.ts")), "x");
+        RecordingReporter reporter;
+        LocaleFolders folders(root.path(), reporter);
+        folders.prepare();
+        folders.collect();
+        QCOMPARE(
+            reporter.lines,
+            QStringList({QStringLiteral("1 Permission fails:") + folders.folder(QStringLiteral("de-DE")),
+                         QStringLiteral("1 Permission fails:") + folders.collected(QStringLiteral("fra"))}));
+        QVERIFY(QFileInfo(folders.folder(QStringLiteral("ru-RU"))).isDir());
+        QVERIFY(QFileInfo(folders.collected(QStringLiteral("rus"))).isDir());
+    }
+
     void compiledFilesLoseTheirWriteProtection()
     {
         const TestFolder root;

@@ -92,12 +92,13 @@ private slots:
         QVERIFY(linkTo(protectedFile(), done));
         job().writeJobFile();
         QCOMPARE(m_reporter->lines.mid(0, 2),
-                 QStringList({text("1 can't remove ") + done, text("1 ") + done + text(" still exist")}));
+                 QStringList({text("1 can't remove") + done, text("1 ") + done + text(" still exist")}));
     }
 
     void aLanguageWithoutAFolderOnTheShareIsLoggedAndTheOthersAreUploaded()
     {
         writeFile(path("share/NVX360/deu"), "a file in the folder's place");
+        writeFile(path("root/Locale/collect/deu/client.ts"), whole);
         writeFile(path("root/Locale/collect/fra/client.ts"), whole);
         job().upload();
         QVERIFY(m_reporter->lines.contains(text("1 %1 not available").arg(path("share/NVX360/deu"))));
@@ -131,6 +132,7 @@ private slots:
         QVERIFY(linkTo(breakingFile(), path("client.ts")));
         QVERIFY(!tools().update(path("client.pro"), path("client.ts")));
         QVERIFY(m_machine->calls.isEmpty());
+        QCOMPARE(m_reporter->lines, QStringList(text("1 Permission fails:") + path("client.new.ts")));
     }
 
     void whatAToolMadeIsNotPutIntoAFileWhoseProtectionStays()
@@ -146,6 +148,9 @@ private slots:
         QVERIFY(!tools().update(path("client.pro"), path("client.ts")));
         QVERIFY(!QFile::exists(path("client.new.ts")));
         QCOMPARE(m_machine->calls.size(), 2);
+        QCOMPARE(m_reporter->lines.filter(text("1 ")),
+                 QStringList({text("1 Permission fails:") + path("client.qm"),
+                              text("1 Permission fails:") + path("client.ts")}));
     }
 
     void aRibbonThatCannotBeCopiedIsLoggedForEachLanguage()

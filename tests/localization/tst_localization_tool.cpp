@@ -102,7 +102,7 @@ private slots:
         tool()->runScript();
         const QStringList lines = m_reporter->lines.mid(0, 6);
         QCOMPARE(lines,
-                 QStringList({text("0 ") + root(""), text("0 ") + share("NVX360"),
+                 QStringList({text("0 ") + root(""), text("0 ") + share("NVX360") + QDir::separator(),
                               text("0 ") + root("Projects/Client/study_window.cpp: 3 texts to translate"),
                               text("0 ") + root("Projects/Client/study_window.ui: 2 texts to translate"),
                               text("0 ") + root("Projects/Config/set_up.cpp: 1 texts to translate"),
@@ -146,7 +146,9 @@ private slots:
         m_machine->whileSleeping = [this] { work({}); };
         tool()->runScript();
         QCOMPARE(readFile(root("Locale/en-US/matprop.ts")), earlier);
-        QVERIFY(!mileStones().contains(text("mat finishes cool")));
+        const qsizetype done = m_reporter->lines.indexOf(text("0 mat finishes cool"));
+        QVERIFY(m_reporter->lines.value(done - 1).startsWith(text("1 ") +
+                                                             root("Projects/Client/runtime/matprop.mdb")));
         QVERIFY(mileStones().contains(text("Ribbon2D copied cool")));
     }
 
@@ -166,7 +168,7 @@ private slots:
         m_machine->whileSleeping = [this] { work({}); };
         tool()->runScript();
         QVERIFY(m_reporter->lines.filter(text("The program could not be started.")).size() >= 2);
-        QVERIFY(!mileStones().contains(text("tr1 finishes cool")));
+        QVERIFY(mileStones().contains(text("tr1 finishes cool")));
         QVERIFY(mileStones().contains(text("Ribbon2D copied cool")));
     }
 
@@ -178,7 +180,8 @@ private slots:
         QCOMPARE(localeFiles(), before);
         QCOMPARE(m_reporter->lines.first(),
                  text("1 %1 is damaged").arg(m_test->path(text("NVX/localization.xml"))));
-        QCOMPARE(m_reporter->lines.last(), text("1 There is no folder of sources, nothing is translated"));
+        QVERIFY(m_reporter->lines.contains(text("1 There is no folder of sources, nothing is translated")));
+        QCOMPARE(m_reporter->lines.last(), text("0 Ribbon2D copied cool"));
     }
 
     void aRootFolderThatIsNotThereTouchesNothing()
@@ -186,7 +189,8 @@ private slots:
         QVERIFY(QDir(root("")).removeRecursively());
         tool()->runScript();
         QVERIFY(!QFile::exists(root("")));
-        QCOMPARE(m_reporter->lines.last(), text("1 There is no folder of sources, nothing is translated"));
+        QVERIFY(m_reporter->lines.contains(text("1 There is no folder of sources, nothing is translated")));
+        QCOMPARE(m_reporter->lines.last(), text("0 Ribbon2D copied cool"));
     }
 
 private:

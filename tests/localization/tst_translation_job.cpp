@@ -62,7 +62,7 @@ private slots:
         QVERIFY(QDir().mkpath(done)); // a folder is not removed like a file
         job()->writeJobFile();
         QCOMPARE(m_reporter->lines,
-                 QStringList({text("1 can't remove ") + done, text("1 ") + done + text(" still exist"),
+                 QStringList({text("1 can't remove") + done, text("1 ") + done + text(" still exist"),
                               text("0 job file cool")}));
     }
 
@@ -74,16 +74,27 @@ private slots:
                  QStringList{text("1 can't open ") + path("share/pTrans/~cBuild/job/NVX360.job")});
     }
 
-    void aJobFileThatCannotBeWrittenIsLogged()
+    void aJobFileThatCannotBeOpenedIsLogged()
     {
         const QString blocked = path("share/pTrans/~cBuild/job/NVX360.job");
         QVERIFY(QDir().mkpath(blocked));
         job()->writeJobFile();
-        QCOMPARE(m_reporter->lines, QStringList{text("1 can't write ") + blocked});
+        QCOMPARE(m_reporter->lines, QStringList{text("1 can't open ") + blocked});
+    }
+
+    void aJobFileThatCannotBeWrittenIsLogged()
+    {
+        const QString part = path("share/pTrans/~cBuild/job/NVX360.job.nvxpart");
+        QVERIFY(QDir().mkpath(part)); // in the place of what is written first
+        job()->writeJobFile();
+        QCOMPARE(m_reporter->lines,
+                 QStringList{text("1 can't write ") + path("share/pTrans/~cBuild/job/NVX360.job")});
     }
 
     void theCollectedFilesOfEveryLanguageGoOntoTheShareTheSourcesLast()
     {
+        for (const char *code : {"deu", "fra", "ita", "jpn", "chs", "cht", "rus"})
+            QVERIFY(QDir().mkpath(path("root/Locale/collect/") + text(code)));
         writeFile(path("root/Locale/collect/enu/client.ts"), "english");
         writeFile(path("root/Locale/collect/kor/client.ts"), "korean");
         job()->upload();
@@ -105,6 +116,17 @@ private slots:
         QCOMPARE(readFile(path("share/pTrans/NVX360/deu/client.ts")), QByteArray("new"));
         QVERIFY(!QFile::exists(path("share/pTrans/NVX360/deu/gone.ts")));
         QVERIFY(QFile::exists(path("share/pTrans/NVX360/deu/notes.txt")));
+    }
+
+    void aLanguageThatWasNotCollectedStaysOnTheShare()
+    {
+        writeFile(path("root/Locale/collect/deu/client.ts"), "german");
+        writeFile(path("share/pTrans/NVX360/fra/client.ts"), "french");
+        job()->upload();
+        QVERIFY(m_reporter->lines.contains(text("1 upload fails ") + path("share/pTrans/NVX360/fra")));
+        QVERIFY(!m_reporter->lines.contains(text("1 upload fails ") + path("share/pTrans/NVX360/deu")));
+        QCOMPARE(readFile(path("share/pTrans/NVX360/fra/client.ts")), QByteArray("french"));
+        QVERIFY(!QFile::exists(path("share/pTrans/NVX360/ita")));
     }
 
     void anUploadThatFailsIsLoggedAndTheOthersGoOn()
@@ -229,7 +251,7 @@ private slots:
     {
         writeFile(path("share/pTrans/NVX360/deu/client.ts"), whole);
         job()->download();
-        QCOMPARE(m_reporter->lines.first(), text("0 download ") + path("share/pTrans/NVX360/deu"));
+        QCOMPARE(m_reporter->lines.first(), text("0 download") + path("share/pTrans/NVX360/deu"));
         QCOMPARE(m_reporter->lines.size(), 1 + 7 * 2);
         QCOMPARE(m_reporter->lines.at(2), text("1 download fails ") + path("share/pTrans/NVX360/fra"));
     }

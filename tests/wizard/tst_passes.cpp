@@ -231,8 +231,8 @@ private slots:
         QCOMPARE(runProgram(m_fixture->start(text("-T"))), 0);
         const QStringList lines = m_fixture->lines();
         QCOMPARE(lines.last(), text("   0 Localization script finishes cool"));
-        QCOMPARE(lines.at(lines.size() - 2),
-                 text("   1 There is no folder of sources, nothing is translated"));
+        QCOMPARE(lines.at(lines.size() - 2), text("   0 Ribbon2D copied cool"));
+        QVERIFY(lines.contains(text("   1 There is no folder of sources, nothing is translated")));
         QVERIFY(!lines.contains(text("   0 Searching for CAD Packages")));
     }
 

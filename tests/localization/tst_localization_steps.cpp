@@ -1,0 +1,254 @@
+// The steps of a whole run, in their order: on a machine where no program runs and time passes at once.
+
+#include "localization/util_localization_tool.h"
+#include "run/run_state.h"
+#include "support/recording_machine.h"
+#include "support/recording_reporter.h"
+#include "support/test_class.h"
+#include "support/test_machine.h"
+#include "support/text.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+const QByteArray whole = "<TS version=\"2.1\" language=\"de\"></TS>";
+
+void protect(const QString &path)
+{
+    QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadUser));
+}
+
+bool isWritable(const QString &path)
+{
+    return QFile::permissions(path) & QFile::WriteOwner;
+}
+
+bool isRunOf(const Nvx::Util::ProgramCall &call, const char *tool)
+{
+    return QFileInfo(call.program).baseName() == text(tool);
+}
+
+} // namespace
+
+class tst_localization_steps : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_test = std::make_unique<TestMachine>();
+        m_reporter = std::make_unique<RecordingReporter>();
+        m_machine = std::make_unique<RecordingMachine>();
+        m_machine->ownFolder = m_test->installDir();
+        m_machine->whileRunning = [](const Nvx::Util::ProgramCall &call) {
+            writeFile(call.arguments.last(), whole);
+        };
+        QVERIFY(QDir().mkpath(path("share/pTrans/~cBuild/job")));
+        writeFile(path("root/Locale/en-US/client.ts"), whole);
+        writeFile(path("root/Locale/en-US/Ribbon2D.xmal"), "<ribbon/>");
+        writeFile(path("root/Locale/de-DE/extra.qm"), "compiled");
+        writeFile(path("root/Projects/Client/runtime/matprop.mdb"), "<materials/>");
+        writeSettings(path("root"));
+    }
+
+    void cleanup() { m_test.reset(); }
+
+    void theShareFolderEndsWithASeparator()
+    {
+        run();
+        QCOMPARE(m_reporter->lines.at(0), text("0 ") + path("root"));
+        QCOMPARE(m_reporter->lines.at(1), text("0 ") + path("share/pTrans/NVX360") + QDir::separator());
+    }
+
+    void compiledFilesAreMadeWritableAgainAfterTheCollection()
+    {
+        const QString compiled = path("root/Locale/de-DE/extra.qm");
+        m_machine->whileRunning = [&](const Nvx::Util::ProgramCall &call) {
+            if (isRunOf(call, "lupdate"))
+                protect(compiled);
+        };
+        bool writableBeforeTheJob = false;
+        m_machine->afterSleep = [&] {
+            if (m_machine->sleeps.size() == 1)
+                writableBeforeTheJob = isWritable(compiled);
+        };
+        run();
+        QVERIFY(writableBeforeTheJob);
+    }
+
+    void theRunPausesForASecondBeforeItAsksForTheJob()
+    {
+        const QString job = path("share/pTrans/~cBuild/job/NVX360.job");
+        bool askedBefore = true;
+        m_machine->afterSleep = [&] {
+            if (m_machine->sleeps.size() == 1)
+                askedBefore = QFile::exists(job);
+            else
+                answer();
+        };
+        run();
+        QCOMPARE(m_machine->sleeps.size(), 2);
+        QCOMPARE(m_machine->sleeps.first(), std::chrono::milliseconds(1000));
+        QVERIFY(!askedBefore);
+        QVERIFY(QFile::exists(job));
+        QVERIFY(QFile::exists(path("root/Locale/collect/enu/client.ts")));
+    }
+
+    void compiledFilesAreMadeWritableAgainAfterTheDownload()
+    {
+        const QString compiled = path("root/Locale/de-DE/extra.qm");
+        m_machine->afterSleep = [&] {
+            if (m_machine->sleeps.size() == 2) {
+                protect(compiled);
+                answer();
+            }
+        };
+        QList<bool> writable;
+        m_machine->whileRunning = [&](const Nvx::Util::ProgramCall &call) {
+            if (isRunOf(call, "lrelease"))
+                writable.append(isWritable(compiled));
+        };
+        run();
+        QCOMPARE(writable, QList<bool>(16, true));
+    }
+
+    void eachLocaleHasALineForEachFileThatIsCompiled()
+    {
+        run();
+        QStringList expected;
+        for (const char *locale : {"de-DE", "fr-FR", "it-IT", "ja-JP", "zh-CN", "zh-TW", "ko-KR", "ru-RU"})
+            expected << text("0 release client ") + text(locale) << text("0 release config ") + text(locale);
+        expected << text("0 release finishes cool");
+        QCOMPARE(m_reporter->lines.filter(text("0 release ")), expected);
+
+        const qsizetype config = m_reporter->lines.indexOf(text("0 release config fr-FR"));
+        const QString command = m_reporter->lines.at(config + 1);
+        QVERIFY2(command.startsWith(text("0 Command:")), qPrintable(command));
+        QVERIFY2(command.contains(path("root/Locale/fr-FR/nvxconfig.ts")), qPrintable(command));
+    }
+
+    void anUnansweredJobIsDoneAfterItsTimeout()
+    {
+        run();
+        const QStringList lines = m_reporter->lines;
+        const qsizetype timeout = lines.indexOf(text("1 timeout"));
+        QVERIFY(timeout > 0);
+        QCOMPARE(lines.at(timeout + 1), text("0 job done"));
+        QVERIFY(lines.at(timeout + 2).startsWith(text("0 download")));
+        QCOMPARE(lines.last(), text("0 Ribbon2D copied cool"));
+    }
+
+    void aStepThatFailsHasItsLineAllTheSame()
+    {
+        m_machine->programResult = {Nvx::Util::ProgramResult::Outcome::Exited, 3, {}};
+        QVERIFY(QFile::remove(path("root/Projects/Client/runtime/matprop.mdb")));
+        run();
+        QStringList cool;
+        for (const QString &line : std::as_const(m_reporter->lines))
+            if (line.endsWith(text(" cool")))
+                cool.append(line);
+        QCOMPARE(cool, QStringList({text("0 tr1 finishes cool"), text("0 tr2 finishes cool"),
+                                    text("0 mat finishes cool"), text("0 job file cool"),
+                                    text("0 cbuild finishes cool"), text("0 release finishes cool"),
+                                    text("0 Ribbon2D copied cool")}));
+        QCOMPARE(m_reporter->lines.count(text("3 Output:")), 18);
+        QCOMPARE(
+            m_reporter->lines.filter(text("1 ") + path("root/Projects/Client/runtime/matprop.mdb")).size(),
+            1);
+    }
+
+    void withoutARootFolderEveryStepFailsAndTheNextFollows()
+    {
+        writeSettings(path("no root"));
+        const QString translated = path("share/pTrans/NVX360/deu/client.ts");
+        writeFile(translated, whole);
+        run();
+        QCOMPARE(m_reporter->lines, linesWithoutARoot());
+        QCOMPARE(m_machine->calls.size(), 0);
+        QCOMPARE(readFile(translated), whole);
+        QVERIFY(!QFile::exists(path("no root")));
+        QVERIFY(!QFile::exists(native("/Locale")));
+        QCOMPARE(namesIn(path("share/pTrans/~cBuild/job")), QStringList());
+        QCOMPARE(namesIn(path("share/pTrans/NVX360")), QStringList(text("deu")));
+    }
+
+private:
+    QString path(const char *name) const { return m_test->path(text(name)); }
+
+    void writeSettings(const QString &root)
+    {
+        writeFile(path("NVX/localization.xml"),
+                  text("<localization><root>%1</root><share>%2</share></localization>")
+                      .arg(root, path("share"))
+                      .toUtf8());
+    }
+
+    void answer() { writeFile(path("share/pTrans/~cBuild/job/NVX360.done")); }
+
+    void run()
+    {
+        RunState state;
+        util::util_localization_tool({*m_machine, *m_reporter, state}).runScript();
+    }
+
+    /// What a run without a root folder logs. Paths below the root start with a separator then.
+    QStringList linesWithoutARoot() const
+    {
+        const QString locale = QDir::toNativeSeparators(text("/Locale/"));
+        const QString share = path("share/pTrans/NVX360") + QDir::separator();
+        const QStringList locales = {text("de-DE"), text("fr-FR"), text("it-IT"), text("ja-JP"),
+                                     text("zh-CN"), text("zh-TW"), text("ko-KR"), text("ru-RU")};
+        const QStringList codes = {text("deu"), text("fra"), text("ita"), text("jpn"),
+                                   text("chs"), text("cht"), text("kor"), text("rus")};
+        QStringList prepared = {text("1 Permission fails:") + locale + text("en-US")};
+        QStringList collected = {text("1 Permission fails:") + locale + native("collect/enu")};
+        QStringList uploaded;
+        QStringList downloaded;
+        QStringList released;
+        QStringList copied;
+        for (qsizetype i = 0; i < codes.size(); ++i) {
+            const QString there = share + codes.at(i);
+            prepared << text("1 Permission fails:") + locale + locales.at(i);
+            collected << text("1 Permission fails:") + locale + native("collect/") + codes.at(i);
+            uploaded << text("0 upload ") + there << text("1 upload fails ") + there;
+            downloaded << text("0 download") + there << text("1 download fails ") + there;
+            released << text("0 release client ") + locales.at(i)
+                     << text("0 release config ") + locales.at(i);
+            copied << text("1 Copy fails:") + locale + locales.at(i) + native("/Ribbon2D.xmal");
+        }
+        uploaded << text("0 upload ") + share + text("enu") << text("1 upload fails ") + share + text("enu");
+        QStringList lines = {text("0 "), text("0 ") + share,
+                             text("1 There is no folder of sources, nothing is translated")};
+        lines += prepared;
+        lines << text("0 0 texts to translate in 0 files") << text("0 tr1 finishes cool")
+              << text("0 tr2 finishes cool")
+              << text("1 Permission fails:") + locale + native("en-US/matprop.ts")
+              << text("0 mat finishes cool");
+        lines += collected + prepared;
+        lines << text("1 can't write ") + path("share/pTrans/~cBuild/job/NVX360.job");
+        lines += uploaded;
+        lines << text("1 timeout") << text("0 job done");
+        lines += downloaded;
+        lines << text("0 cbuild finishes cool");
+        lines += prepared + released;
+        lines << text("0 release finishes cool");
+        lines += copied;
+        lines << text("0 Ribbon2D copied cool");
+        return lines;
+    }
+
+    static QString native(const char *name) { return QDir::toNativeSeparators(text(name)); }
+
+    std::unique_ptr<TestMachine> m_test;
+    std::unique_ptr<RecordingReporter> m_reporter;
+    std::unique_ptr<RecordingMachine> m_machine;
+};
+
+NVX_GUILESS_TEST(tst_localization_steps)
+#include "tst_localization_steps.moc"
