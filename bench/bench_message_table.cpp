@@ -187,7 +187,7 @@ Feeding measureUpdate(int count, const QString &messages, const QString &transla
     const auto update = [&] {
         QString log;
         QTextStream stream(&log);
-        if (!Error::synchronizeTranslationTable(messages, translation, stream))
+        if (!Error::synchronizeTranslationTable(messages, translation, stream, stream))
             qFatal("cannot update");
     };
     return medianFeeding(static_cast<std::size_t>(count), [&](double &first, double &again) {

@@ -1,5 +1,6 @@
 #include "error_translation_table.h"
 
+#include "error_translation_kept_file.h"
 #include "error_translation_table_xml.h"
 #include "nvx_util/whole_file.h"
 
@@ -104,15 +105,23 @@ bool TranslationTable::load(QFile &file)
 
 bool TranslationTable::save(const QString &fileName)
 {
+    m_keptFile.clear();
     QBuffer contents;
     if (!contents.open(QIODevice::WriteOnly | QIODevice::Text) || !writeTranslationTable(contents, *this))
         return false;
     if (isSameFile(fileName, m_damagedFile) && !keepDamaged(fileName))
         return false;
-    if (!Nvx::Util::replaceWholeFile(fileName, contents.data()))
+    std::optional<QString> kept = QString();
+    if (isSameFile(fileName, m_fileWithForms))
+        kept = keepEarlierFile(fileName);
+    if (!kept || !Nvx::Util::replaceWholeFile(fileName, contents.data()))
         return false;
-    if (isSameFile(fileName, m_damagedFile)) // also when it was gone until now
-        m_damagedFile.clear();
+    m_keptFile = *kept;
+    // Also when the files were gone until now.
+    for (QString *replaced : {&m_damagedFile, &m_fileWithForms}) {
+        if (isSameFile(fileName, *replaced))
+            replaced->clear();
+    }
     return true;
 }
 

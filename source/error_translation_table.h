@@ -91,9 +91,17 @@ public:
 
     /// Replaces the file by one of this table, whole or not at all; a file that has these bytes already is
     /// not touched. If it is the file that was loaded last, and not all of that could be read as a
-    /// translation file, its bytes are first kept as NAME.damaged beside it. False when the file or that copy
-    /// cannot be written; the old file is then as it was.
+    /// translation file, its bytes are first kept as NAME.damaged beside it; if it has plural forms or length
+    /// variants, as NAME.before (error_translation_kept_file.h). False when the file or such a copy cannot be
+    /// written; the old file is then as it was.
     bool save(const QString &fileName);
+
+    /// The copy with the plural forms and length variants that the last save kept; empty when there were
+    /// none.
+    const QString &keptFile() const { return m_keptFile; }
+
+    /// The file from which the table was read last if it has forms that the table does not hold, else empty.
+    void setFileWithForms(const QString &fileName) { m_fileWithForms = fileName; }
 
 private:
     QString m_version;
@@ -102,6 +110,8 @@ private:
     Contexts m_contexts;
     QString m_errorString;
     QString m_damagedFile; // the file loaded last if saving over it would lose bytes of it, else empty
+    QString m_fileWithForms;
+    QString m_keptFile;
 };
 
 } // namespace Error

@@ -3,6 +3,7 @@
 #include "error_translation_table_xml.h"
 #include "nvx_util/assertion.h"
 
+#include <QFileDevice>
 #include <QXmlStreamReader>
 
 #include <optional>
@@ -24,9 +25,15 @@ QString byteCharacter(const QXmlStreamReader &xml)
     return number == 0 ? QString() : QString(QChar(number));
 }
 
+struct ElementText
+{
+    QString text;
+    bool skippedElement = false; ///< whether there were elements within it
+};
+
 /// The text of the element on which the reader stands, to its end, without that of elements within it. The
 /// white space that sets such elements apart is no text.
-QString readText(QXmlStreamReader &xml)
+ElementText readElement(QXmlStreamReader &xml)
 {
     QString text;
     bool skippedElement = false;
@@ -43,22 +50,32 @@ QString readText(QXmlStreamReader &xml)
             xml.skipCurrentElement();
             break;
         case QXmlStreamReader::EndElement:
-            return skippedElement && QStringView(text).trimmed().isEmpty() ? QString() : text;
+            if (skippedElement && QStringView(text).trimmed().isEmpty())
+                text.clear();
+            return {text, skippedElement};
         default:
             break;
         }
     }
-    return text;
+    return {text, skippedElement};
 }
 
-void readMessageChild(QXmlStreamReader &xml, TranslationMessage &message)
+QString readText(QXmlStreamReader &xml)
+{
+    return readElement(xml).text;
+}
+
+void readMessageChild(QXmlStreamReader &xml, TranslationMessage &message, TranslationReading &reading)
 {
     const QStringView name = xml.name();
     if (name == u"source") {
         message.source = readText(xml);
     } else if (name == u"translation") {
         message.type = xml.attributes().value(QLatin1String("type")).toString();
-        message.translation = readText(xml);
+        const ElementText translation = readElement(xml);
+        message.translation = translation.text;
+        // Each form is an element of its own.
+        reading.hasForms = reading.hasForms || translation.skippedElement;
     } else if (name == u"comment") {
         message.comment = readText(xml);
     } else {
@@ -67,16 +84,18 @@ void readMessageChild(QXmlStreamReader &xml, TranslationMessage &message)
 }
 
 /// Nothing when the document ends or breaks within the message.
-std::optional<TranslationMessage> readMessage(QXmlStreamReader &xml)
+std::optional<TranslationMessage> readMessage(QXmlStreamReader &xml, TranslationReading &reading)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"message", unit);
+    if (xml.attributes().value(QLatin1String("numerus")) == u"yes")
+        reading.hasForms = true;
     TranslationMessage message;
     while (Clt::canRead(xml)) {
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::EndElement)
             return message;
         if (token == QXmlStreamReader::StartElement)
-            readMessageChild(xml, message);
+            readMessageChild(xml, message, reading);
     }
     return std::nullopt;
 }
@@ -91,7 +110,7 @@ TranslationContext named(const QString &name, const TranslationMessages &message
 }
 
 /// Nothing when the document ends or breaks within the context before its first message was complete.
-std::optional<TranslationContext> readContext(QXmlStreamReader &xml)
+std::optional<TranslationContext> readContext(QXmlStreamReader &xml, TranslationReading &reading)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"context", unit);
     QString name;
@@ -105,7 +124,7 @@ std::optional<TranslationContext> readContext(QXmlStreamReader &xml)
         if (xml.name() == u"name") {
             name = readText(xml);
         } else if (xml.name() == u"message") {
-            if (const std::optional<TranslationMessage> message = readMessage(xml))
+            if (const std::optional<TranslationMessage> message = readMessage(xml, reading))
                 messages.push_back(*message);
         } else {
             xml.skipCurrentElement();
@@ -116,10 +135,10 @@ std::optional<TranslationContext> readContext(QXmlStreamReader &xml)
     return named(name, messages);
 }
 
-void readRootChild(QXmlStreamReader &xml, TranslationTable &table)
+void readRootChild(QXmlStreamReader &xml, TranslationTable &table, TranslationReading &reading)
 {
     if (xml.name() == u"context") {
-        if (std::optional<TranslationContext> context = readContext(xml))
+        if (std::optional<TranslationContext> context = readContext(xml, reading))
             table.setContext(std::move(*context));
     } else if (xml.name() == u"defaultcodec") {
         table.setDefaultCodec(readText(xml));
@@ -128,7 +147,7 @@ void readRootChild(QXmlStreamReader &xml, TranslationTable &table)
     }
 }
 
-void readRoot(QXmlStreamReader &xml, TranslationTable &table)
+void readRoot(QXmlStreamReader &xml, TranslationTable &table, TranslationReading &reading)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"TS", unit);
     const QXmlStreamAttributes attributes = xml.attributes();
@@ -139,7 +158,7 @@ void readRoot(QXmlStreamReader &xml, TranslationTable &table)
         if (token == QXmlStreamReader::EndElement)
             return;
         if (token == QXmlStreamReader::StartElement)
-            readRootChild(xml, table);
+            readRootChild(xml, table, reading);
     }
 }
 
@@ -152,12 +171,14 @@ TranslationReading readTranslationTable(QIODevice &device, TranslationTable &tab
     while (Clt::canRead(xml)) {
         if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != u"TS")
             continue;
-        readRoot(xml, table);
+        readRoot(xml, table, reading);
         reading.foundRoot = true;
     }
     if (xml.hasError())
         reading.error =
             QStringLiteral("%1 at line %2").arg(xml.errorString(), QString::number(xml.lineNumber()));
+    const auto *file = qobject_cast<QFileDevice *>(&device);
+    table.setFileWithForms(reading.hasForms && file ? file->fileName() : QString());
     return reading;
 }
 

@@ -32,6 +32,7 @@ struct TranslationReading
 {
     QString error;          ///< empty, or "ERROR at line LINE" for a document that is not well formed
     bool foundRoot = false; ///< whether it is a translation file at all
+    bool hasForms = false;  ///< whether it has plural forms or length variants, which the table cannot hold
 };
 
 /// Reads the document on the open device into the table. Of one that is not well formed the messages that

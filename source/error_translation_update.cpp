@@ -1,6 +1,7 @@
 #include "error_translation_update.h"
 
 #include "clt_message_table.h"
+#include "error_translation_kept_file.h"
 #include "error_translation_table.h"
 
 #include <QFile>
@@ -33,7 +34,7 @@ int addMessageTexts(TranslationTable &table, const Clt::MessageTable &messages)
 }
 
 bool synchronizeTranslationTable(const QString &messageTableFile, const QString &translationFile,
-                                 QTextStream &log)
+                                 QTextStream &log, QTextStream &errors)
 {
     log << "Loading message table \"" << messageTableFile << "\"...\n";
     Clt::MessageTable messages;
@@ -53,6 +54,8 @@ bool synchronizeTranslationTable(const QString &messageTableFile, const QString 
         log << "Could not save translation table\n";
         return false;
     }
+    if (!table.keptFile().isEmpty())
+        errors << keptFileText(table.keptFile()) << '\n';
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "mat_translation_table.h"
 
+#include "error_translation_kept_file.h"
 #include "error_translation_table.h"
 #include "error_translation_table_xml.h"
 #include "mat_material_name.h"
@@ -117,19 +118,23 @@ TableUpdate updateTranslationFile(const QString &databaseFile, const QString &tr
 {
     const MaterialNames database = readMaterialNames(databaseFile);
     if (!database.error.isEmpty())
-        return {TableUpdate::Outcome::DatabaseNotRead, {}, fileAndError(databaseFile, database.error)};
+        return {TableUpdate::Outcome::DatabaseNotRead, {}, fileAndError(databaseFile, database.error), {}};
 
     TranslationTable table;
     const QString error = readTableFile(translationFile, table);
     if (!error.isEmpty())
-        return {TableUpdate::Outcome::TableNotRead, {}, fileAndError(translationFile, error)};
+        return {TableUpdate::Outcome::TableNotRead, {}, fileAndError(translationFile, error), {}};
 
     const NameCounts counts = synchronizeNames(table, database.names).counts;
     if (!table.save(translationFile))
         return {TableUpdate::Outcome::TableNotSaved,
                 {},
-                fileAndError(translationFile, Texts::tr("It cannot be written"))};
-    return {TableUpdate::Outcome::Updated, counts, QString()};
+                fileAndError(translationFile, Texts::tr("It cannot be written")),
+                {}};
+    TableUpdate update = {TableUpdate::Outcome::Updated, counts, {}, {}};
+    if (!table.keptFile().isEmpty())
+        update.note = Error::keptFileText(table.keptFile());
+    return update;
 }
 
 } // namespace mat

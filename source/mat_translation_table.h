@@ -76,6 +76,7 @@ struct TableUpdate
     Outcome outcome = Outcome::Updated;
     NameCounts counts; ///< when it was updated
     QString error;     ///< else the file and what is wrong with it, for the log
+    QString note;      ///< when it was updated: what the log should say besides; usually empty
 };
 
 /// Brings a translation file in step with a database, whole or not at all. A translation file that does not

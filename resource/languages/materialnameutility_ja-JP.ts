@@ -13,6 +13,13 @@
     </message>
 </context>
 <context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>複数形は失われました。元のファイルは %1 です</translation>
+    </message>
+</context>
+<context>
     <name>mat::MaterialNameUtility</name>
     <message>
         <source>Synchronize...</source>

@@ -13,6 +13,13 @@
     </message>
 </context>
 <context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>Формы множественного числа опущены, прежний файл: %1</translation>
+    </message>
+</context>
+<context>
     <name>mat::MaterialNameUtility</name>
     <message>
         <source>Synchronize...</source>

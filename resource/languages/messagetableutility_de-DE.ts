@@ -166,4 +166,11 @@
         <translation>Diese Dateien wurden übersprungen; die darin enthaltenen Meldungen wurden nicht gefunden.</translation>
     </message>
 </context>
+<context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>Pluralformen sind entfallen, die alte Datei ist %1</translation>
+    </message>
+</context>
 </TS>

@@ -166,4 +166,11 @@
         <translation>Ces fichiers ont été ignorés&#xa0;: leurs messages n&apos;ont pas été trouvés.</translation>
     </message>
 </context>
+<context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>Les formes plurielles sont omises, l&apos;ancien fichier est %1</translation>
+    </message>
+</context>
 </TS>

@@ -166,4 +166,11 @@
         <translation>Questi file sono stati ignorati: i loro messaggi non sono stati trovati.</translation>
     </message>
 </context>
+<context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>Le forme plurali sono state omesse, il vecchio file è %1</translation>
+    </message>
+</context>
 </TS>

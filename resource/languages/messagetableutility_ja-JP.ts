@@ -166,4 +166,11 @@
         <translation>これらのファイルはスキップされたため、含まれるメッセージは検出されていません。</translation>
     </message>
 </context>
+<context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>複数形は失われました。元のファイルは %1 です</translation>
+    </message>
+</context>
 </TS>

@@ -166,4 +166,11 @@
         <translation>이 파일은 건너뛰었으며 해당 메시지를 찾지 못했습니다.</translation>
     </message>
 </context>
+<context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>복수형이 제외되었습니다. 이전 파일은 %1입니다</translation>
+    </message>
+</context>
 </TS>

@@ -166,4 +166,11 @@
         <translation>Эти файлы пропущены: их сообщения не найдены.</translation>
     </message>
 </context>
+<context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>Формы множественного числа опущены, прежний файл: %1</translation>
+    </message>
+</context>
 </TS>

@@ -166,4 +166,11 @@
         <translation>已跳过这些文件：未找到其中的消息。</translation>
     </message>
 </context>
+<context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>复数形式已被省略，原来的文件是 %1</translation>
+    </message>
+</context>
 </TS>

@@ -166,4 +166,11 @@
         <translation>已略過這些檔案：找不到其中的訊息。</translation>
     </message>
 </context>
+<context>
+    <name>TranslationKeptFile</name>
+    <message>
+        <source>Plural forms were dropped; the old file is %1</source>
+        <translation>複數形式已被省略，原來的檔案是 %1</translation>
+    </message>
+</context>
 </TS>

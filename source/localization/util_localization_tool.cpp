@@ -160,6 +160,8 @@ void util_localization_tool::updateMaterialNames()
             inRoot(QStringLiteral("Projects/Client/runtime/matprop.mdb")), translations);
         if (update.outcome != mat::TableUpdate::Outcome::Updated)
             m_context.reporter.log(1, update.error);
+        else if (!update.note.isEmpty())
+            m_context.reporter.log(1, update.note);
     } else {
         m_context.reporter.log(1, QStringLiteral("Permission fails:") + translations);
     }

@@ -1,5 +1,6 @@
 #include "material_name_utility/mat_material_name_utility.h"
 
+#include "error_translation_kept_file.h"
 #include "mat_translation_table.h"
 #include "material_name_utility/material_files.h"
 #include "material_name_utility/material_rows.h"
@@ -89,6 +90,12 @@ Loading MaterialNameUtility::loadTable(const QString &fileName)
 bool MaterialNameUtility::saveTable(const QString &fileName)
 {
     return m_table.save(fileName);
+}
+
+QString MaterialNameUtility::savedNote() const
+{
+    const QString kept = m_table.keptFile();
+    return kept.isEmpty() ? QString() : Error::keptFileText(QFileInfo(kept).fileName());
 }
 
 Window::MarkedRows MaterialNameUtility::rows() const

@@ -35,6 +35,7 @@ protected:
     void clearTable() override;
     Window::Loading loadTable(const QString &fileName) override;
     bool saveTable(const QString &fileName) override;
+    QString savedNote() const override;
     Window::MarkedRows rows() const override;
 
     /// A material database is synchronised with, any other file is opened.

@@ -1,6 +1,7 @@
 #include "message_table_utility/error_message_table_utility.h"
 
 #include "error_message_table_update.h"
+#include "error_translation_kept_file.h"
 #include "error_translation_table.h"
 #include "error_translation_update.h"
 #include "error_visual_studio_project.h"
@@ -13,6 +14,7 @@
 
 #include <QAction>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLocale>
@@ -24,6 +26,7 @@ using Window::RowMark;
 namespace {
 
 const QString iconFolder = QStringLiteral(":/ErrorTableUtility/images/");
+const QString statusGap = QStringLiteral("   "); // between two statements in the status bar
 
 auto obsoleteMessages(const Clt::MessageTable &table)
 {
@@ -154,7 +157,7 @@ void MessageTableUtility::takeKeys(const Scan::FoundKeys &keys, qint64 milliseco
                                                   .arg(counts.existing)
                                                   .arg(counts.obsolete);
     const QString seconds = QLocale().toString(static_cast<double>(milliseconds) / 1000, 'f', 1);
-    showStatus(found + QStringLiteral("   ") + tr("Elapsed time: %1 sec").arg(seconds));
+    showStatus(found + statusGap + tr("Elapsed time: %1 sec").arg(seconds));
 }
 
 Window::Loading MessageTableUtility::loadTranslation(Error::TranslationTable &table, const QString &fileName)
@@ -190,8 +193,12 @@ void MessageTableUtility::updateTranslation()
     }
     const Window::WaitCursor wait;
     const int added = Error::addMessageTexts(table, m_messages);
-    if (table.save(file))
-        showStatus(tr("Added %1 new strings to %2").arg(QString::number(added), file));
-    else
+    if (!table.save(file)) {
         showStatus(tr("Could not save %1").arg(file));
+        return;
+    }
+    QString text = tr("Added %1 new strings to %2").arg(QString::number(added), file);
+    if (!table.keptFile().isEmpty())
+        text += statusGap + Error::keptFileText(QFileInfo(table.keptFile()).fileName());
+    showStatus(text);
 }

@@ -11,7 +11,7 @@ namespace Error {
 
 namespace {
 
-TableUpdate run(const Operation &operation, ProgressLog &log)
+TableUpdate run(const Operation &operation, ProgressLog &log, QTextStream &errors)
 {
     switch (operation.kind) {
     case Operation::Kind::SynchronizeMessageTable:
@@ -19,15 +19,15 @@ TableUpdate run(const Operation &operation, ProgressLog &log)
     case Operation::Kind::SynchronizeTranslationTable:
         break;
     }
-    return {synchronizeTranslationTable(operation.messageTable, operation.other, log.stream()), 0};
+    return {synchronizeTranslationTable(operation.messageTable, operation.other, log.stream(), errors), 0};
 }
 
 // An operation that follows a failed one may need what that one did not make.
-TableUpdate runAll(const std::vector<Operation> &operations, ProgressLog &log)
+TableUpdate runAll(const std::vector<Operation> &operations, ProgressLog &log, QTextStream &errors)
 {
     TableUpdate all{true, 0};
     for (const Operation &operation : operations) {
-        const TableUpdate update = run(operation, log);
+        const TableUpdate update = run(operation, log, errors);
         all.skippedFiles += update.skippedFiles;
         if (!update.succeeded) {
             all.succeeded = false;
@@ -67,7 +67,7 @@ ExitCode runUpdateErrorTable(const QStringList &arguments, QTextStream &output, 
     TableUpdate update;
     {
         ProgressLog log(output, onTerminal ? ProgressLog::Progress::Shown : ProgressLog::Progress::Hidden);
-        update = runAll(commandLine->operations, log);
+        update = runAll(commandLine->operations, log, errors);
     }
     writeSkipped(update.skippedFiles, errors);
     return update.succeeded ? ExitCode::Done : ExitCode::Failed;

@@ -60,7 +60,7 @@ bool TableWindow::save()
     const QString target = m_fileName.isEmpty() ? chooseFileToSave() : m_fileName;
     if (target.isEmpty() || !saveTo(target))
         return false;
-    showStatus(m_texts.saved);
+    showSaved(m_texts.saved);
     return true;
 }
 
@@ -71,7 +71,7 @@ bool TableWindow::saveAs()
     const QString chosen = chooseFileToSave();
     if (chosen.isEmpty() || !saveTo(chosen))
         return false;
-    showStatus(withFile(m_texts.savedAs, m_fileName));
+    showSaved(withFile(m_texts.savedAs, m_fileName));
     return true;
 }
 
@@ -113,6 +113,14 @@ void TableWindow::showTable()
 void TableWindow::showStatus(const QString &text)
 {
     statusBar()->showMessage(text);
+    // A text that is longer than the bar is cut off there.
+    statusBar()->setToolTip(text);
+}
+
+void TableWindow::showSaved(const QString &text)
+{
+    const QString note = savedNote();
+    showStatus(note.isEmpty() ? text : text + QStringLiteral("   ") + note);
 }
 
 // The table may be large, and much work: it is only lost when the user says so.

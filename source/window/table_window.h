@@ -106,6 +106,9 @@ protected:
     /// Writes the file whole or not at all. False when it could not be written.
     virtual bool saveTable(const QString &fileName) = 0;
 
+    /// What the status bar adds after the table was saved; usually empty.
+    virtual QString savedNote() const { return {}; }
+
     virtual MarkedRows rows() const = 0;
 
     // For the subclass.
@@ -150,6 +153,7 @@ private:
     void showAbout();
 
     QString chooseFileToSave();
+    void showSaved(const QString &text);
     bool mayLoseChanges();
     bool load(const QString &fileName);
     bool saveTo(const QString &fileName);

@@ -163,6 +163,19 @@ private slots:
             1);
     }
 
+    void materialNamesWithPluralFormsAreKeptAndTheLogNamesTheCopy()
+    {
+        const QByteArray plural = "<TS><context><name>Clt::Material</name><message numerus=\"yes\"><source>a"
+                                  "</source></message></context></TS>";
+        const QString names = path("root/Locale/en-US/matprop.ts");
+        writeFile(names, plural);
+        run();
+        const qsizetype done = m_reporter->lines.indexOf(text("0 mat finishes cool"));
+        QCOMPARE(m_reporter->lines.value(done - 1),
+                 text("1 Plural forms were dropped; the old file is %1.before").arg(names));
+        QCOMPARE(readFile(names + text(".before")), plural);
+    }
+
     void withoutARootFolderEveryStepFailsAndTheNextFollows()
     {
         writeSettings(path("no root"));

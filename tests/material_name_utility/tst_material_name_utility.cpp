@@ -26,6 +26,7 @@ private slots:
     void tableWithoutMaterialNamesIsEmpty();
     void cancelledDialogChangesNothing();
     void tableIsSavedWithEverythingInIt();
+    void theCopyOfAFileWithPluralFormsIsNamed();
     void newTableIsSavedUnderAName();
     void failedOpeningKeepsTheTable();
     void rowsAreFilteredAndCopied();
@@ -181,6 +182,23 @@ void tst_material_name_utility::tableIsSavedWithEverythingInIt()
     QVERIFY(fileBytes(f.otherFile) != before);
     QCOMPARE(fileBytes(f.tableFile), before);
     QVERIFY(!f.isEnabled("actionSave"));
+}
+
+void tst_material_name_utility::theCopyOfAFileWithPluralFormsIsNamed()
+{
+    NameUtilityFixture f;
+    const QByteArray plural =
+        "<TS><context><name>Clt::Material</name><message><source>Oil</source><translation>"
+        "<lengthvariant>Oil</lengthvariant></translation></message></context></TS>";
+    QVERIFY(writeBytes(f.otherFile, plural));
+    QVERIFY(f.window.openFile(f.otherFile));
+    f.action("actionSave")->trigger();
+    QCOMPARE(f.status(),
+             QStringLiteral(
+                 "Saved translation table   Plural forms were dropped; the old file is other.ts.before"));
+    QCOMPARE(fileBytes(f.otherFile + QStringLiteral(".before")), plural);
+    QVERIFY(f.window.save());
+    QCOMPARE(f.status(), QStringLiteral("Saved translation table"));
 }
 
 void tst_material_name_utility::newTableIsSavedUnderAName()

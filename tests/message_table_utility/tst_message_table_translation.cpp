@@ -71,6 +71,22 @@ private slots:
         QCOMPARE(f.status(), QStringLiteral("Added 0 new strings to %1").arg(f.translationFile));
     }
 
+    void theCopyOfAFileWithPluralFormsIsNamed()
+    {
+        UtilityFixture f;
+        const QByteArray plural = "<TS><context><name>A</name><message numerus=\"yes\"><source>%n</source>"
+                                  "<translation><numerusform>%n</numerusform></translation></message>"
+                                  "</context></TS>";
+        prepare(f, plural);
+        f.action("actionTranslate")->trigger();
+        QCOMPARE(
+            f.status(),
+            QStringLiteral(
+                "Added 2 new strings to %1   Plural forms were dropped; the old file is client_de.ts.before")
+                .arg(f.translationFile));
+        QCOMPARE(fileBytes(f.translationFile + QStringLiteral(".before")), plural);
+    }
+
     void fileThatCannotBeLoadedIsLeft_data()
     {
         QTest::addColumn<QByteArray>("bytes");

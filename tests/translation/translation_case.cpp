@@ -17,7 +17,7 @@ QString synchronized()
 {
     QString told;
     QTextStream log(&told);
-    const bool done = Error::synchronizeTranslationTable(messagesName, tableName, log);
+    const bool done = Error::synchronizeTranslationTable(messagesName, tableName, log, log);
     log << (done ? "done\n" : "failed\n");
     log.flush();
     return told;

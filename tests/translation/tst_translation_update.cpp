@@ -39,14 +39,17 @@ struct Update
 {
     bool done = false;
     QString log;
+    QString errors;
 };
 
 Update update(const QString &messagesName, const QString &translationName)
 {
     Update result;
     QTextStream log(&result.log);
-    result.done = Error::synchronizeTranslationTable(messagesName, translationName, log);
+    QTextStream errors(&result.errors);
+    result.done = Error::synchronizeTranslationTable(messagesName, translationName, log, errors);
     log.flush();
+    errors.flush();
     return result;
 }
 

@@ -46,6 +46,20 @@ private slots:
         QVERIFY2(written.contains("<process>client</process>"), written.constData());
     }
 
+    void namesTheCopyOfAFileWithPluralFormsOnStandardError()
+    {
+        const QByteArray plural = "<TS><context><name>A</name><message numerus=\"yes\"><source>%n</source>"
+                                  "<translation><numerusform>%n</numerusform></translation></message>"
+                                  "</context></TS>";
+        QVERIFY(writeBytes(m_folder->path(QStringLiteral("a.ts")), plural));
+        QVERIFY(writeBytes(m_folder->path(QStringLiteral("t.xml")), "<messageTable/>"));
+        run({QStringLiteral("-tr"), QStringLiteral("t.xml"), QStringLiteral("a.ts")});
+        QCOMPARE(m_process.exitCode(), 0);
+        QCOMPARE(errors(), QStringLiteral("Plural forms were dropped; the old file is a.ts.before\n"));
+        QVERIFY(!output().contains(QStringLiteral("before")));
+        QCOMPARE(fileBytes(m_folder->path(QStringLiteral("a.ts.before"))), plural);
+    }
+
     void writesNoProgressIntoAPipe()
     {
         run({QStringLiteral("-sync"), QStringLiteral("t.xml"), QStringLiteral("p.vcxproj")});

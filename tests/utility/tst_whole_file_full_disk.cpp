@@ -111,7 +111,7 @@ private slots:
         QTextStream stream(&log);
         {
             const FullDisk disk;
-            QVERIFY(!Error::synchronizeTranslationTable(messages, translation, stream));
+            QVERIFY(!Error::synchronizeTranslationTable(messages, translation, stream, stream));
         }
         QVERIFY(log.endsWith(QStringLiteral("\nCould not save translation table\n")));
         QCOMPARE(fileBytes(translation), before);

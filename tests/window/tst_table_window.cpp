@@ -46,6 +46,7 @@ void tst_table_window::newTableEnablesTheRest()
     QVERIFY(f.filter()->isEnabled());
     QVERIFY(!f.window.hasUnsavedChanges());
     QCOMPARE(f.status(), QStringLiteral("Created"));
+    QCOMPARE(f.window.statusBar()->toolTip(), QStringLiteral("Created"));
     QCOMPARE(f.place(), QStringLiteral("Untitled   Rows: 0"));
 }
 
