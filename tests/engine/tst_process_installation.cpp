@@ -269,12 +269,21 @@ private slots:
         QCOMPARE(m_fixture->lines().last(), text("   1 look"));
     }
 
-    void aMessageTakesTheWaitCursorAway()
+    void aMessageTakesTheWaitCursorAwayIsShownAndThenLogged()
     {
         cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        const QStringList before = m_fixture->lines();
+        QStringList loggedMeanwhile;
+        bool waitsMeanwhile = true;
+        m_fixture->machine.whileTelling = [&] {
+            loggedMeanwhile = m_fixture->lines();
+            waitsMeanwhile = QGuiApplication::overrideCursor();
+        };
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
         engine.inform(1, text("look"));
-        QVERIFY(!QGuiApplication::overrideCursor());
+        QVERIFY(!waitsMeanwhile);
+        QCOMPARE(loggedMeanwhile, before);
+        QCOMPARE(m_fixture->lines(), before + QStringList(text("   1 look")));
     }
 
     void aMissingFlagFileIsMadeWithAnEmptyLine()

@@ -36,6 +36,8 @@ qint32 RecordingMachine::createShellLink(const Nvx::Util::ShellLink &link)
 void RecordingMachine::tell(Nvx::Util::BoxKind kind, const QString &title, const QString &text)
 {
     boxes.append({kind, title, text});
+    if (whileTelling)
+        whileTelling();
 }
 
 Nvx::Util::Answer RecordingMachine::ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text)

@@ -41,6 +41,9 @@ public:
     /// Called while a program "runs".
     std::function<void(const Nvx::Util::ProgramCall &)> whileRunning;
 
+    /// Called while a box that only tells is open.
+    std::function<void()> whileTelling;
+
     /// Called while a question is open.
     std::function<void()> whileAsking;
 
