@@ -1,5 +1,6 @@
 #include "nvx_util/system.h"
 
+#include "nvx_util/product.h"
 #include "nvx_util/registry_key.h"
 #include "platform.h"
 
@@ -11,13 +12,13 @@ namespace Nvx::Util {
 
 namespace {
 
-const auto release = QStringLiteral("NVX 2017");
 const auto builtInLocale = QStringLiteral("en-US");
 const auto localeValue = QStringLiteral("Locale");
 
 RegistryKey userSettings()
 {
-    return RegistryKey(QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"));
+    return RegistryKey(QStringLiteral("HKEY_CURRENT_USER\\Software\\%1\\%2\\%3")
+                           .arg(Product::maker, Product::name, Product::version));
 }
 
 } // namespace
@@ -37,12 +38,12 @@ QString System::getCurrentExePath()
 
 QString System::getUserDataPath()
 {
-    return joinPath(Platform::userDataRoot(), QStringLiteral("Velmora/") + release);
+    return joinPath(Platform::userDataRoot(), Product::maker + u'/' + Product::fullName);
 }
 
 QString System::getProgramDataPath(const QString &subPath)
 {
-    return joinPath(Platform::allUsersDataRoot(), QStringLiteral("Velmora/") + subPath);
+    return joinPath(Platform::allUsersDataRoot(), Product::maker + u'/' + subPath);
 }
 
 QString System::getWorkingDirPath()
@@ -52,12 +53,13 @@ QString System::getWorkingDirPath()
 
 QString System::getTutorialsDirPath()
 {
-    return joinPath(Platform::publicDocumentsRoot(), QStringLiteral("Velmora/%1/Tutorials").arg(release));
+    return joinPath(Platform::publicDocumentsRoot(),
+                    QStringLiteral("%1/%2/Tutorials").arg(Product::maker, Product::fullName));
 }
 
 QString System::getFlagsDirPath()
 {
-    return getProgramDataPath(release);
+    return getProgramDataPath(Product::fullName);
 }
 
 bool System::makePath(const QString &path)

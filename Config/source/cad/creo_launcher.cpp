@@ -5,10 +5,10 @@
 #include "cad/foreign_file.h"
 #include "cad/protk_file.h"
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
 #include "run/launcher_boxes.h"
-#include "run/product.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 
@@ -62,7 +62,8 @@ void addEntry(const StepContext &context, const QString &protk, int release)
 
     const std::optional<QByteArray> contents = withLauncherEntry(*old, *entry);
     if (!contents) {
-        context.reporter.log(0, Messages::tr("Ostrade %1 already exists, do nothing").arg(productRelease));
+        context.reporter.log(
+            0, Messages::tr("Ostrade %1 already exists, do nothing").arg(Nvx::Product::release));
         return;
     }
     context.reporter.log(0, Messages::tr("Writing ") + protk);

@@ -1,6 +1,6 @@
 #include "cad/creo_names.h"
 
-#include "run/product.h"
+#include "nvx_util/product.h"
 
 #include <QDir>
 #include <QStringList>
@@ -25,7 +25,7 @@ QString creoEntry(const QString &programFolder, const QString &installDir, int r
     const QString library = programFolder + QStringLiteral("\\Launchers\\ProEngineer-Wildfire\\Creo") +
                             QString::number(release) + QLatin1Char('\\') + creoLauncherLibrary(release);
     const QStringList lines{
-        QStringLiteral("name ") + productFullName,
+        QStringLiteral("name ") + Nvx::Product::fullName,
         QStringLiteral("startup DLL"),
         QStringLiteral("exec_file ") + library,
         QStringLiteral("text_dir ") + installDir + QStringLiteral("\\Text"),

@@ -1,7 +1,7 @@
 #include "cad/process_guard.h"
 
 #include "nvx_util/machine.h"
-#include "run/product.h"
+#include "nvx_util/product.h"
 #include "run/reporter.h"
 #include "run/run_state.h"
 #include "run/step_context.h"
@@ -43,11 +43,11 @@ GuardedPrograms cadPrograms()
 // The release is part of the install dir's path, which tells its programs from those of other releases.
 GuardedPrograms productPrograms()
 {
-    return {{QStringLiteral("NVX.exe").toUpper(), QStringLiteral("NVXSolver.exe").toUpper(),
-             QStringLiteral("NVXServer.exe").toUpper(), QStringLiteral("NVXMonitor.exe").toUpper()},
+    return {{Nvx::Product::program.toUpper(), Nvx::Product::solverProgram.toUpper(),
+             Nvx::Product::serverProgram.toUpper(), Nvx::Product::monitorProgram.toUpper()},
             {QStringLiteral("Velmora NVX"), QStringLiteral("NVXSolver"), QStringLiteral("NVXServer"),
-             QStringLiteral("NVX 2017 Job Monitor")},
-            productRelease};
+             Nvx::Product::jobMonitor},
+            Nvx::Product::release};
 }
 
 QString closingSentences(const QStringList &names)
@@ -118,8 +118,8 @@ bool guardAgainstRunningProduct(const StepContext &context, OnMatch onMatch)
         return false;
     if (context.state.silent)
         return act(context, programs, Answer::Yes);
-    const Answer answer =
-        context.machine.ask(BoxKind::Question, ProcessGuard::tr("Velmora %1 Installation").arg(productName),
-                            runningProductQuestion(running));
+    const Answer answer = context.machine.ask(
+        BoxKind::Question, ProcessGuard::tr("Velmora %1 Installation").arg(Nvx::Product::name),
+        runningProductQuestion(running));
     return act(context, programs, answer);
 }

@@ -1,6 +1,6 @@
 #include "cad/tamsel_manifest.h"
 
-#include "run/product.h"
+#include "nvx_util/product.h"
 
 QByteArray tamselManifest(const QString &installDir)
 {
@@ -15,6 +15,6 @@ QByteArray tamselManifest(const QString &installDir)
                                         "<FullClassName>Kelvane_2017.NvxApplication</FullClassName>\n"
                                         "</AddIn>\n"
                                         "</TamselAddIns>\n")
-                             .arg(productFullName, assembly);
+                             .arg(Nvx::Product::fullName, assembly);
     return text.toUtf8().left(text.size());
 }

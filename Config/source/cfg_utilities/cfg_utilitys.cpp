@@ -3,9 +3,9 @@
 #include "cfg_utilities/flag_file.h"
 #include "localization/util_localization_tool.h"
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
-#include "run/product.h"
 #include "run/product_files.h"
 #include "run/progress_view.h"
 #include "setup/archive_components.h"
@@ -31,7 +31,7 @@ cfg_utilitys::cfg_utilitys(Nvx::Util::Machine &machine, QObject *parent)
     : QObject(parent)
     , m_machine(machine)
     , m_service(machine)
-    , m_log(joinPath(machine.executableFolder(), QStringLiteral("NVXConfig.log")))
+    , m_log(joinPath(machine.executableFolder(), Nvx::Product::runLog))
 {
     theEngine = this;
     m_state.installDir = machine.executableFolder();
@@ -58,7 +58,7 @@ void cfg_utilitys::writeStartUpBanner()
 {
     log(0, QString());
     log(0, QString(77, QLatin1Char('=')));
-    log(0, tr("Program startup - %1 DIR== %2").arg(productFullName, m_state.installDir));
+    log(0, tr("Program startup - %1 DIR== %2").arg(Nvx::Product::fullName, m_state.installDir));
 }
 
 void cfg_utilitys::clearRunComplete()

@@ -1,6 +1,7 @@
 // The language of the run: what is remembered of it, and the files that go with it.
 
 #include "cfg_utilities/cfg_utilitys.h"
+#include "nvx_util/product.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
 #include "run/product_files.h"
@@ -15,7 +16,7 @@ namespace {
 
 const QString builtInLocale = QStringLiteral("en-US");
 const QString japanese = QStringLiteral("ja-JP");
-const QString flagsFile = QStringLiteral("NVX_flags.txt");
+const QString flagsFile = Nvx::Product::flagsFile;
 
 } // namespace
 
@@ -90,7 +91,7 @@ void cfg_utilitys::installLanguageFiles()
 {
     const QString localeFolder = joinPath(m_state.installDir, m_state.locale);
     if (m_state.locale == builtInLocale) {
-        const QString source = joinPath(localeFolder, QStringLiteral("matprop.mdb"));
+        const QString source = joinPath(localeFolder, Nvx::Product::materialNames);
         const QString target = joinPath(m_state.installDir, QStringLiteral("matprop.new"));
         replaceProductFile(source, target);
         log(0, tr("COPY:%1 to %2").arg(source, target));

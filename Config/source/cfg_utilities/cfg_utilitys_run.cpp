@@ -3,6 +3,7 @@
 #include "cfg_utilities/cfg_utilitys.h"
 #include "nvx_util/cpu_info.h"
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "run/progress_view.h"
 
 #include <QCoreApplication>
@@ -28,7 +29,7 @@ void cfg_utilitys::ProcessInstallation()
     createShortcuts(mode);
     installLaunchers(mode);
     m_machine.notifyAssociationsChanged();
-    processFlagFile(QStringLiteral("NVX_flags.txt"), mode);
+    processFlagFile(Nvx::Product::flagsFile, mode);
     checkMaterialDatabase(mode);
     cleanLumara(mode);
 

@@ -4,9 +4,9 @@
 #include "cfg_utilities/command_line.h"
 #include "nvx_util/code_page.h"
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
-#include "run/product.h"
 
 #include <QFile>
 
@@ -33,8 +33,8 @@ QStringList modeWords()
 
 QStringList installDirVariables()
 {
-    return {QStringLiteral("OSTRADE"), QStringLiteral("OSTRADE%1DIR").arg(productRelease),
-            QStringLiteral("OSTRADE%1TEMP").arg(productRelease)};
+    return {QStringLiteral("OSTRADE"), QStringLiteral("OSTRADE%1DIR").arg(Nvx::Product::release),
+            QStringLiteral("OSTRADE%1TEMP").arg(Nvx::Product::release)};
 }
 
 } // namespace
@@ -74,16 +74,18 @@ void cfg_utilitys::validateInstallDir()
 {
     const bool installs = m_state.runMode == RunMode::Install || m_state.runMode == RunMode::NotGiven;
     if (!installs) {
-        log(0, tr("Validating Installation Path Velmora %1 %2 DIR=").arg(productName, productRelease) +
+        log(0, tr("Validating Installation Path Velmora %1 %2 DIR=")
+                       .arg(Nvx::Product::name, Nvx::Product::release) +
                    m_state.installDir);
-        const QString solver = Nvx::Util::joinPath(m_state.installDir, QStringLiteral("NVXSolver.exe"));
+        const QString solver = Nvx::Util::joinPath(m_state.installDir, Nvx::Product::solverProgram);
         if (m_state.installDir.isEmpty() || !QFile::exists(solver))
             resetInstallDir();
         removeMachineVariables();
         return;
     }
 
-    log(0, tr("Validating Installation Path Velmora NVX %1 DIR=").arg(productRelease) + m_state.installDir);
+    log(0, tr("Validating Installation Path Velmora NVX %1 DIR=").arg(Nvx::Product::release) +
+               m_state.installDir);
     if (m_state.installDir.isEmpty()) {
         resetInstallDir();
         writeMachineVariables();

@@ -5,7 +5,7 @@
 #include "cfg_wizard/feature_page.h"
 #include "cfg_wizard/welcome_page.h"
 #include "help/help_button.h"
-#include "run/product.h"
+#include "nvx_util/product.h"
 
 #include <QFontMetrics>
 #include <QKeyEvent>
@@ -54,7 +54,7 @@ QWizardPage *ClassWizard::makePage(Page page)
 void ClassWizard::dress()
 {
     setPixmap(QWizard::BannerPixmap, bannerFor(fontMetrics()));
-    setWindowTitle(tr("%1 %2 Configuration Wizard").arg(productName, productRelease));
+    setWindowTitle(tr("%1 %2 Configuration Wizard").arg(Nvx::Product::name, Nvx::Product::release));
     setWizardStyle(QWizard::ModernStyle);
     setOption(QWizard::HaveHelpButton, false);
     setOption(QWizard::NoCancelButton, true);

@@ -2,8 +2,8 @@
 
 #include "cfg_utilities/cfg_utilitys.h"
 #include "cfg_wizard/start_up.h"
+#include "nvx_util/product.h"
 #include "nvx_util/system.h"
-#include "run/product.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -45,9 +45,9 @@ WelcomePage::WelcomePage(cfg_utilitys &engine, int followingPage, QWidget *paren
     setTitle(tr("Welcome"));
     setSubTitle(QStringLiteral(" "));
 
-    auto *intro = new QLabel(
-        tr("This wizard will configure Velmora %1 %2 for your system.").arg(productName, productRelease),
-        this);
+    auto *intro = new QLabel(tr("This wizard will configure Velmora %1 %2 for your system.")
+                                 .arg(Nvx::Product::name, Nvx::Product::release),
+                             this);
     intro->setObjectName(QStringLiteral("m_intro"));
     intro->setWordWrap(true);
 

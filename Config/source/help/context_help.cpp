@@ -3,10 +3,10 @@
 #include "help/browser_call.h"
 #include "help/help_settings.h"
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
-#include "run/product.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -23,7 +23,7 @@ constexpr qint64 largestSettings = 4'000'000;
 
 QString sharedFolder()
 {
-    return System::getProgramDataPath(productFullName);
+    return System::getProgramDataPath(Nvx::Product::fullName);
 }
 
 // The command line of the user's web browser; empty when none is recorded.

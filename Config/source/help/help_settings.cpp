@@ -1,6 +1,6 @@
 #include "help/help_settings.h"
 
-#include "run/product.h"
+#include "nvx_util/product.h"
 
 #include <QXmlStreamReader>
 
@@ -61,7 +61,7 @@ HelpSettings onlineSettings(const Attributes &attributes, const HelpDefaults &de
     const QString wiki =
         attributes.value(QLatin1String("online_wiki"), QStringLiteral("help.velmora.example/wiki"));
     const QString product = attributes.value(QLatin1String("product"), QStringLiteral("KORVA"));
-    const QString release = attributes.value(QLatin1String("release"), productRelease);
+    const QString release = attributes.value(QLatin1String("release"), Nvx::Product::release);
     const QString language = attributes.value(QLatin1String("language"), defaults.language);
 
     HelpSettings settings;

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "nvx_util/product.h"
 #include "service/service_controller.h"
-
-inline const QString serverServiceName = QStringLiteral("NVX 2017 Server");
 
 /// The service of the product's server, "NVXServer.exe".
 class NvxService : public ServiceController
 {
 public:
     explicit NvxService(Nvx::Util::Machine &machine)
-        : ServiceController(machine, serverServiceName)
+        : ServiceController(machine, Nvx::Product::serverService)
     {
     }
 };

@@ -1,11 +1,11 @@
 #include "service/server_service.h"
 
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "nvx_util/service_control.h"
 #include "nvx_util/system.h"
 #include "run/diagnostics.h"
 #include "run/process_finder.h"
-#include "run/product.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 #include "run/run_state.h"
@@ -23,7 +23,7 @@ constexpr int mostPolls = 100; // ten seconds
 
 QString analyzeFolder()
 {
-    return joinPath(Nvx::Util::System::getProgramDataPath(productFullName), QStringLiteral("Analyze"));
+    return joinPath(Nvx::Util::System::getProgramDataPath(Nvx::Product::fullName), QStringLiteral("Analyze"));
 }
 
 } // namespace
@@ -36,7 +36,7 @@ ServerService::ServerService(const StepContext &context, NvxService &service)
 
 ServerService::Installed ServerService::install()
 {
-    const QString path = joinPath(m_context.state.installDir, QStringLiteral("NVXServer.exe"));
+    const QString path = joinPath(m_context.state.installDir, Nvx::Product::serverProgram);
     if (!QFile::exists(path)) {
         m_context.reporter.inform(
             1, tr("Unable to find server executable; Check_ Installation Directory path:") + path);
@@ -56,7 +56,7 @@ ServerService::Installed ServerService::install()
 
     // These are copies: people are shown the description that the server has registered for itself.
     m_service.serviceDescription() = tr("Manages communication between NVX components.");
-    m_service.serviceName() = serverServiceName;
+    m_service.serviceName() = Nvx::Product::serverService;
     if (!m_service.start())
         qCWarning(diagnostics, "The server has been registered, but could not be started");
     return Installed::Yes;

@@ -1,9 +1,9 @@
 #include "setup/file_associations.h"
 
 #include "nvx_util/code_page.h"
+#include "nvx_util/product.h"
 #include "nvx_util/system.h"
 #include "run/diagnostics.h"
-#include "run/product.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 #include "setup/association_scripts.h"
@@ -56,7 +56,7 @@ void importScript(const StepContext &context, const QString &path, const QString
 
 int createFileAssociations(const StepContext &context, RunMode mode)
 {
-    const AssociationNames names = associationNamesOf(productRelease);
+    const AssociationNames names = associationNamesOf(Nvx::Product::release);
     const QString script =
         Nvx::Util::joinPath(context.state.installDir, QStringLiteral("FileAssociations.reg"));
     context.reporter.progress(0, Messages::tr("Create file associations"));

@@ -1,10 +1,10 @@
 #include "setup/material_database.h"
 
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
 #include "run/diagnostics.h"
-#include "run/product.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 
@@ -15,7 +15,7 @@ using Nvx::Util::System;
 
 namespace {
 
-const auto shippedFile = QStringLiteral("matprop.mdb");
+const auto shippedFile = Nvx::Product::materialNames;
 const auto workingFile = QStringLiteral("matprop.nvxmdb");
 
 // The installer may still be closing the shipped file.
@@ -24,12 +24,12 @@ constexpr std::chrono::milliseconds pauseBeforeLook{10};
 
 QString shared(const QString &fileName)
 {
-    return joinPath(System::getProgramDataPath(productFullName), fileName);
+    return joinPath(System::getProgramDataPath(Nvx::Product::fullName), fileName);
 }
 
 QString previousYear()
 {
-    return QString::number(productRelease.toInt() - 1);
+    return QString::number(Nvx::Product::release.toInt() - 1);
 }
 
 QString previousDatabase()
@@ -40,7 +40,7 @@ QString previousDatabase()
 // The users' database goes by this one name: a copy never takes the place of anything.
 void copyIfMissing(const QString &source, const QString &target)
 {
-    System::makePath(System::getProgramDataPath(productFullName));
+    System::makePath(System::getProgramDataPath(Nvx::Product::fullName));
     if (!Nvx::Util::copyToFreeName(source, target))
         qCWarning(diagnostics, "Unable to copy %ls to %ls", qUtf16Printable(source), qUtf16Printable(target));
 }

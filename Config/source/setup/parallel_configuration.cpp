@@ -5,9 +5,9 @@
 #include "nvx_util/conversion.h"
 #include "nvx_util/cpu_info.h"
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
-#include "run/product.h"
 #include "run/reporter.h"
 
 #include <QCoreApplication>
@@ -54,7 +54,7 @@ bool save(const QString &path, const QString &sharedFolder, const QString &analy
 
 void createParallelConfiguration(const StepContext &context, RunMode mode, const Nvx::Util::CpuInfo &cpuInfo)
 {
-    const QString sharedData = System::getProgramDataPath(productFullName);
+    const QString sharedData = System::getProgramDataPath(Nvx::Product::fullName);
     const QString file = joinPath(sharedData, QString::fromLatin1(Nvx2ConfigFile::DefaultName));
     Nvx::Util::removeUnfinished(file);
     if (mode != RunMode::Install)

@@ -1,9 +1,9 @@
 #include "setup/product_registry.h"
 
+#include "nvx_util/product.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
 #include "run/diagnostics.h"
-#include "run/product.h"
 #include "run/reporter.h"
 #include "setup/product_values.h"
 #include "setup/uninstall_command.h"
@@ -52,7 +52,7 @@ void updateUninstallEntry(const StepContext &context)
     const QString locale = context.state.locale;
     const QString entry =
         QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\%1")
-            .arg(productFullName);
+            .arg(Nvx::Product::fullName);
 
     reporter.log(0, Messages::tr("Updating language registry uninstall "));
     const QString current = RegistryKey(entry).text(QStringLiteral("UninstallPath")).value_or(QString());
@@ -78,8 +78,8 @@ int updateRegistry(const StepContext &context, RunMode mode)
     }
 
     ProductRecord record;
-    record.analyzeDirectory = Nvx::Util::joinPath(Nvx::Util::System::getProgramDataPath(productFullName),
-                                                  QStringLiteral("Analyze"));
+    record.analyzeDirectory = Nvx::Util::joinPath(
+        Nvx::Util::System::getProgramDataPath(Nvx::Product::fullName), QStringLiteral("Analyze"));
     record.installDir = context.state.installDir;
     record.locale = context.state.locale;
     record.registry64 = context.state.registry64;

@@ -1,30 +1,31 @@
 #include "setup/product_values.h"
 
-#include "run/product.h"
+#include "nvx_util/product.h"
 
 QString machineProductKey()
 {
-    return QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\%1\\%2").arg(productMaker, productName);
+    return QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\%1\\%2")
+        .arg(Nvx::Product::maker, Nvx::Product::name);
 }
 
 QString userProductKey()
 {
     return QStringLiteral("HKEY_CURRENT_USER\\Software\\%1\\%2\\%3")
-        .arg(productMaker, productName, productVersion);
+        .arg(Nvx::Product::maker, Nvx::Product::name, Nvx::Product::version);
 }
 
 QList<RegistryValue> machineValues(const ProductRecord &record)
 {
     const QString product = machineProductKey();
-    const QString version = product + QLatin1Char('\\') + productVersion;
+    const QString version = product + QLatin1Char('\\') + Nvx::Product::version;
     return {
-        {product, QStringLiteral("CurrentVersion"), productVersion},
+        {product, QStringLiteral("CurrentVersion"), Nvx::Product::version},
         {version, QStringLiteral("AnalyzeDirectory"), record.analyzeDirectory},
         {version, QStringLiteral("InstallationDirectory"), record.installDir},
         {version, QStringLiteral("Locale"), record.locale},
         {version, QStringLiteral("master"),
          record.registry64 ? QStringLiteral("Win64") : QStringLiteral("Win32")},
-        {version, QStringLiteral("release"), productRelease},
+        {version, QStringLiteral("release"), Nvx::Product::release},
         {version, QStringLiteral("productline"), QStringLiteral("KORVA")},
     };
 }

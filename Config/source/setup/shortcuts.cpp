@@ -1,9 +1,9 @@
 #include "setup/shortcuts.h"
 
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "nvx_util/shell_link.h"
 #include "nvx_util/system.h"
-#include "run/product.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 
@@ -32,12 +32,12 @@ int createShortcuts(const StepContext &context, RunMode mode)
         return 0;
     }
 
-    const QString name = QStringLiteral("%1 %2").arg(productMaker, productFullName);
+    const QString name = QStringLiteral("%1 %2").arg(Nvx::Product::maker, Nvx::Product::fullName);
     const QString linkPath = joinPath(desktop, name + QStringLiteral(".lnk"));
     if (!removeProductFile(linkPath))
         context.reporter.log(1, Messages::tr("Unable to remove %1").arg(linkPath));
     if (mode == RunMode::Install)
-        createShortcut(context, joinPath(context.state.installDir, QStringLiteral("NVX.exe")), linkPath, name,
+        createShortcut(context, joinPath(context.state.installDir, Nvx::Product::program), linkPath, name,
                        QString(), QString());
     context.machine.notifyAssociationsChanged();
     return 0;

@@ -1,8 +1,8 @@
 #include "setup/user_files.h"
 
 #include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "nvx_util/system.h"
-#include "run/product.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 #include "setup/command_runner.h"
@@ -19,7 +19,7 @@ void UserFiles::removeOldFiles()
 {
     CommandRunner runner(m_context);
     const QString installDir = m_context.state.installDir;
-    const QString sharedData = System::getProgramDataPath(productFullName);
+    const QString sharedData = System::getProgramDataPath(Nvx::Product::fullName);
 
     runner.removeMatchingFiles(installDir, QStringLiteral(".NEW"));
     // A pattern with small letters matches nothing, so this file stays.
@@ -40,7 +40,8 @@ void UserFiles::removeLog()
 
 void UserFiles::resetSorvane(RunMode mode)
 {
-    const QString folder = joinPath(System::getProgramDataPath(productFullName), QStringLiteral("Sorvane"));
+    const QString folder =
+        joinPath(System::getProgramDataPath(Nvx::Product::fullName), QStringLiteral("Sorvane"));
     m_context.reporter.log(0, tr("Remove: ") + folder);
     CommandRunner(m_context).removeDirectory(folder);
     m_context.reporter.progress(0, m_context.state.modeWord(mode) + tr(" Sorvane"));
