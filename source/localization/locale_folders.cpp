@@ -81,7 +81,7 @@ void LocaleFolders::prepare()
         const QStringList names = matchingFiles(path, compiledFiles);
         for (const QString &name : names)
             if (!makeWritable(joinPath(path, name)))
-                m_reporter.log(1, QStringLiteral("Permission fails:") + joinPath(path, name));
+                m_reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + joinPath(path, name));
     }
 }
 
@@ -89,7 +89,7 @@ bool LocaleFolders::make(const QString &folder)
 {
     if (m_hasRoot && QDir().mkpath(folder))
         return true;
-    m_reporter.log(1, QStringLiteral("Permission fails:") + folder);
+    m_reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + folder);
     return false;
 }
 
@@ -109,11 +109,11 @@ void LocaleFolders::collect(const QString &source, const QString &target)
     for (const QString &name : earlier) {
         const QString path = joinPath(target, name);
         if (!kept.contains(name) && !(makeWritable(path) && QFile::remove(path)))
-            m_reporter.log(1, QStringLiteral("Permission fails:") + path);
+            m_reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + path);
     }
     for (const QString &name : names)
         if (!copyWhole(joinPath(source, name), joinPath(target, name)))
-            m_reporter.log(1, QStringLiteral("Permission fails:") + joinPath(target, name));
+            m_reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + joinPath(target, name));
 }
 
 } // namespace util

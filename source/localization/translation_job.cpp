@@ -55,21 +55,21 @@ void TranslationJob::remove(const QString &path)
     if (!QFile::exists(path))
         return;
     if (!makeWritable(path) || !QFile::remove(path))
-        m_reporter.log(1, QStringLiteral("can't remove") + path);
+        m_reporter.log(LogLevel::failure, QStringLiteral("can't remove") + path);
     if (QFile::exists(path))
-        m_reporter.log(1, path + QStringLiteral(" still exist"));
+        m_reporter.log(LogLevel::failure, path + QStringLiteral(" still exist"));
 }
 
 void TranslationJob::writeJobFile()
 {
     const QString path = jobPath(QStringLiteral(".job"));
     if (!isFolder(m_jobFolder) || !canBeOpened(path)) {
-        m_reporter.log(1, QStringLiteral("can't open ") + path);
+        m_reporter.log(LogLevel::failure, QStringLiteral("can't open ") + path);
         return;
     }
     // There is nothing to ask for.
     if (!m_folders.hasRoot()) {
-        m_reporter.log(1, QStringLiteral("can't write ") + path);
+        m_reporter.log(LogLevel::failure, QStringLiteral("can't write ") + path);
         return;
     }
     // The answer to an earlier request would end the wait before the translators have begun.
@@ -80,16 +80,16 @@ void TranslationJob::writeJobFile()
         if (QFile::exists(joinPath(m_folders.folder(sourceLanguage.locale), name)))
             names.append(name);
     if (Nvx::Util::replaceWholeFile(path, jobFile(names)))
-        m_reporter.log(0, QStringLiteral("job file cool"));
+        m_reporter.log(LogLevel::step, QStringLiteral("job file cool"));
     else
-        m_reporter.log(1, QStringLiteral("can't write ") + path);
+        m_reporter.log(LogLevel::failure, QStringLiteral("can't write ") + path);
 }
 
 void TranslationJob::upload()
 {
     // The share's own folder stands above ours: without it we would make a share on this machine.
     if (!isFolder(m_jobFolder)) {
-        m_reporter.log(1, m_shareFolder + QStringLiteral(" not available"));
+        m_reporter.log(LogLevel::failure, m_shareFolder + QStringLiteral(" not available"));
         return;
     }
     // The sources come last: a worker that has them has everything.
@@ -100,14 +100,14 @@ void TranslationJob::upload()
 
 void TranslationJob::upload(const QString &source, const QString &target)
 {
-    m_reporter.log(0, QStringLiteral("upload ") + target);
+    m_reporter.log(LogLevel::step, QStringLiteral("upload ") + target);
     // The translators' files would all count as no longer collected.
     if (!m_folders.hasRoot() || !isFolder(source)) {
-        m_reporter.log(1, QStringLiteral("upload fails ") + target);
+        m_reporter.log(LogLevel::failure, QStringLiteral("upload fails ") + target);
         return;
     }
     if (!QDir().mkpath(target)) {
-        m_reporter.log(1, target + QStringLiteral(" not available"));
+        m_reporter.log(LogLevel::failure, target + QStringLiteral(" not available"));
         return;
     }
     const QStringList names = matchingFiles(source, filesHandedOn());
@@ -118,7 +118,7 @@ void TranslationJob::upload(const QString &source, const QString &target)
             remove(joinPath(target, name));
     for (const QString &name : names)
         if (!copyWhole(joinPath(source, name), joinPath(target, name)))
-            m_reporter.log(1, QStringLiteral("upload fails ") + joinPath(target, name));
+            m_reporter.log(LogLevel::failure, QStringLiteral("upload fails ") + joinPath(target, name));
 }
 
 void TranslationJob::waitUntilDone()
@@ -126,7 +126,7 @@ void TranslationJob::waitUntilDone()
     const QString done = jobPath(QStringLiteral(".done"));
     for (int polls = 1; !isFolder(m_jobFolder) || !QFile::exists(done); ++polls) {
         if (polls > maxPolls) {
-            m_reporter.log(1, QStringLiteral("timeout"));
+            m_reporter.log(LogLevel::failure, QStringLiteral("timeout"));
             return;
         }
         m_pause(pollInterval);
@@ -141,15 +141,15 @@ void TranslationJob::download()
 
 void TranslationJob::download(const QString &source, const QString &target)
 {
-    m_reporter.log(0, QStringLiteral("download") + source);
+    m_reporter.log(LogLevel::step, QStringLiteral("download") + source);
     if (!m_folders.hasRoot() || m_shareFolder.isEmpty() || !isFolder(source)) {
-        m_reporter.log(1, QStringLiteral("download fails ") + source);
+        m_reporter.log(LogLevel::failure, QStringLiteral("download fails ") + source);
         return;
     }
     const QStringList names = matchingFiles(source, m_filePatterns);
     for (const QString &name : names)
         if (!takeOver(joinPath(source, name), joinPath(target, name)))
-            m_reporter.log(1, QStringLiteral("download fails ") + joinPath(source, name));
+            m_reporter.log(LogLevel::failure, QStringLiteral("download fails ") + joinPath(source, name));
 }
 
 bool TranslationJob::takeOver(const QString &source, const QString &target)

@@ -46,7 +46,7 @@ bool TranslationTools::copy(const QString &source, const QString &target)
 {
     const bool copied = copyWhole(source, target);
     if (!copied)
-        m_context.reporter.log(1, QStringLiteral("Permission fails:") + target);
+        m_context.reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + target);
     return copied;
 }
 

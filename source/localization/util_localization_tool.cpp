@@ -83,7 +83,7 @@ LocalizationSettings util_localization_tool::readSettings() const
     std::optional<LocalizationSettings> settings = readLocalizationSettings(bytesOf(path));
     if (!settings) {
         // Guessing another folder could rewrite the wrong sources.
-        m_context.reporter.log(1, tr("%1 is damaged").arg(path));
+        m_context.reporter.log(LogLevel::failure, tr("%1 is damaged").arg(path));
         return {};
     }
     settings->root = firstExisting({settings->root}, isFolder);
@@ -103,10 +103,10 @@ QString util_localization_tool::inLocale(QLatin1String locale, const QString &na
 void util_localization_tool::runScript()
 {
     Reporter &reporter = m_context.reporter;
-    reporter.log(0, m_rootFolder);
-    reporter.log(0, m_shareFolder);
+    reporter.log(LogLevel::step, m_rootFolder);
+    reporter.log(LogLevel::step, m_shareFolder);
     if (!hasRoot())
-        reporter.log(1, tr("There is no folder of sources, nothing is translated"));
+        reporter.log(LogLevel::failure, tr("There is no folder of sources, nothing is translated"));
     LocaleFolders folders(m_rootFolder, reporter);
     folders.prepare();
     scanSources();
@@ -130,18 +130,20 @@ void util_localization_tool::scanSources()
         const bool form = path.endsWith(QLatin1String(".ui"), Qt::CaseInsensitive);
         const int count = form ? countTranslatableStrings(bytes) : countTranslatableCalls(bytes);
         total += count;
-        m_context.reporter.log(0, tr("%1: %2 texts to translate").arg(path, QString::number(count)));
+        m_context.reporter.log(LogLevel::step,
+                               tr("%1: %2 texts to translate").arg(path, QString::number(count)));
     }
-    m_context.reporter.log(0, tr("%1 texts to translate in %2 files").arg(total).arg(paths.size()));
+    m_context.reporter.log(LogLevel::step,
+                           tr("%1 texts to translate in %2 files").arg(total).arg(paths.size()));
 }
 
 // The lines that end in "cool" tell how far the run is. What went wrong before them has lines of its own.
 void util_localization_tool::updateEnglishSources()
 {
     update(QStringLiteral("Projects/Client/client.pro"), QStringLiteral("client.ts"));
-    m_context.reporter.log(0, QStringLiteral("tr1 finishes cool"));
+    m_context.reporter.log(LogLevel::step, QStringLiteral("tr1 finishes cool"));
     update(QStringLiteral("Projects/Config/Config.pro"), QStringLiteral("nvxconfig.ts"));
-    m_context.reporter.log(0, QStringLiteral("tr2 finishes cool"));
+    m_context.reporter.log(LogLevel::step, QStringLiteral("tr2 finishes cool"));
 }
 
 void util_localization_tool::update(const QString &project, const QString &name)
@@ -159,13 +161,13 @@ void util_localization_tool::updateMaterialNames()
         const mat::TableUpdate update = mat::updateTranslationFile(
             inRoot(QStringLiteral("Projects/Client/runtime/matprop.mdb")), translations);
         if (update.outcome != mat::TableUpdate::Outcome::Updated)
-            m_context.reporter.log(1, update.error);
+            m_context.reporter.log(LogLevel::failure, update.error);
         else if (!update.note.isEmpty())
-            m_context.reporter.log(1, update.note);
+            m_context.reporter.log(LogLevel::failure, update.note);
     } else {
-        m_context.reporter.log(1, QStringLiteral("Permission fails:") + translations);
+        m_context.reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + translations);
     }
-    m_context.reporter.log(0, QStringLiteral("mat finishes cool"));
+    m_context.reporter.log(LogLevel::step, QStringLiteral("mat finishes cool"));
 }
 
 void util_localization_tool::runTranslationJob()
@@ -173,20 +175,20 @@ void util_localization_tool::runTranslationJob()
     m_job->writeJobFile();
     m_job->upload();
     m_job->waitUntilDone();
-    m_context.reporter.log(0, QStringLiteral("job done"));
+    m_context.reporter.log(LogLevel::step, QStringLiteral("job done"));
     m_job->download();
-    m_context.reporter.log(0, QStringLiteral("cbuild finishes cool"));
+    m_context.reporter.log(LogLevel::step, QStringLiteral("cbuild finishes cool"));
 }
 
 void util_localization_tool::compile()
 {
     for (const Language &language : targetLanguages) {
-        m_context.reporter.log(0, QStringLiteral("release client ") + language.locale);
+        m_context.reporter.log(LogLevel::step, QStringLiteral("release client ") + language.locale);
         release(language.locale, QStringLiteral("client.ts"), QStringLiteral("client.qm"));
-        m_context.reporter.log(0, QStringLiteral("release config ") + language.locale);
+        m_context.reporter.log(LogLevel::step, QStringLiteral("release config ") + language.locale);
         release(language.locale, QStringLiteral("nvxconfig.ts"), QStringLiteral("nvxconfig.qm"));
     }
-    m_context.reporter.log(0, QStringLiteral("release finishes cool"));
+    m_context.reporter.log(LogLevel::step, QStringLiteral("release finishes cool"));
 }
 
 void util_localization_tool::release(QLatin1String locale, const QString &translations,
@@ -205,11 +207,11 @@ void util_localization_tool::copyRibbon()
     for (const Language &language : targetLanguages) {
         const QString target = inLocale(language.locale, name);
         if (hasRoot() && !makeWritable(target))
-            m_context.reporter.log(1, QStringLiteral("Permission fails:") + target);
+            m_context.reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + target);
         else if (!hasRoot() || !copyWhole(source, target))
-            m_context.reporter.log(1, QStringLiteral("Copy fails:") + target);
+            m_context.reporter.log(LogLevel::failure, QStringLiteral("Copy fails:") + target);
     }
-    m_context.reporter.log(0, QStringLiteral("Ribbon2D copied cool"));
+    m_context.reporter.log(LogLevel::step, QStringLiteral("Ribbon2D copied cool"));
 }
 
 } // namespace util

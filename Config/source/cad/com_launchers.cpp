@@ -34,7 +34,7 @@ void installBrevantLauncher(const StepContext &context, const LauncherBoxes &box
 {
     if (!boxes.isTicked(Launcher::Brevant))
         return;
-    context.reporter.progress(0, Messages::tr("Configure Brevant"));
+    context.reporter.progress(LogLevel::step, Messages::tr("Configure Brevant"));
     registerLibrary(context, QStringLiteral("Launchers/Brevant/NVX_2017_Brevant.dll"), mode);
 }
 
@@ -42,6 +42,6 @@ void installSolidWorksLauncher(const StepContext &context, const LauncherBoxes &
 {
     if (!boxes.isTicked(Launcher::SolidWorks))
         return;
-    context.reporter.progress(0, QStringLiteral("SolidWorks"));
+    context.reporter.progress(LogLevel::step, QStringLiteral("SolidWorks"));
     registerLibrary(context, QStringLiteral("Launchers/SolidWorks/NVX_2017_SolidWorks.dll"), mode);
 }

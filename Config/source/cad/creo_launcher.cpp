@@ -27,7 +27,8 @@ void sweepProgramFolder(const StepContext &context, RunMode mode)
     for (int release = firstCreoRelease; release <= lastCreoRelease; ++release) {
         const QString path =
             Nvx::Util::joinPath(context.machine.executableFolder(), creoLauncherLibrary(release));
-        context.reporter.log(0, context.state.modeWord(mode) + Messages::tr(" Creo Remove:") + path);
+        context.reporter.log(LogLevel::step,
+                             context.state.modeWord(mode) + Messages::tr(" Creo Remove:") + path);
         removeProductFile(path);
     }
 }
@@ -37,11 +38,11 @@ void removeEntries(const StepContext &context, const QString &protk)
     Nvx::Util::removeUnfinished(protk);
     if (!QFile::exists(protk))
         return;
-    context.reporter.log(0, Messages::tr("Removing Ostrade from:") + protk);
+    context.reporter.log(LogLevel::step, Messages::tr("Removing Ostrade from:") + protk);
     const std::optional<QByteArray> contents = readForeignFile(protk);
     if (!contents)
         return;
-    context.reporter.log(0, Messages::tr("Writing ") + protk);
+    context.reporter.log(LogLevel::step, Messages::tr("Writing ") + protk);
     replaceForeignFile(protk, withoutLauncherEntries(*contents));
 }
 
@@ -54,7 +55,7 @@ void addEntry(const StepContext &context, const QString &protk, int release)
 
     std::optional<QByteArray> old = QByteArray();
     if (!QFile::exists(protk))
-        context.reporter.log(0, Messages::tr("Creating  ") + protk);
+        context.reporter.log(LogLevel::step, Messages::tr("Creating  ") + protk);
     else
         old = readForeignFile(protk);
     if (!old)
@@ -63,10 +64,10 @@ void addEntry(const StepContext &context, const QString &protk, int release)
     const std::optional<QByteArray> contents = withLauncherEntry(*old, *entry);
     if (!contents) {
         context.reporter.log(
-            0, Messages::tr("Ostrade %1 already exists, do nothing").arg(Nvx::Product::release));
+            LogLevel::step, Messages::tr("Ostrade %1 already exists, do nothing").arg(Nvx::Product::release));
         return;
     }
-    context.reporter.log(0, Messages::tr("Writing ") + protk);
+    context.reporter.log(LogLevel::step, Messages::tr("Writing ") + protk);
     replaceForeignFile(protk, *contents);
 }
 
@@ -91,7 +92,7 @@ void installCreoLauncher(const StepContext &context, const CadPackages &packages
     if (!boxes.isTicked(Launcher::Creo))
         return;
 
-    context.reporter.progress(0, QStringLiteral("ProE Creo"));
+    context.reporter.progress(LogLevel::step, QStringLiteral("ProE Creo"));
     forEachRelease(packages, [&](const QString &protk, int) { removeEntries(context, protk); });
     if (mode != RunMode::Install)
         return;

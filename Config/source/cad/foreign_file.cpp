@@ -28,7 +28,7 @@ std::optional<QByteArray> toForeignText(Reporter &reporter, const QString &path,
 {
     std::optional<QByteArray> written = Nvx::Util::toAnsi(text);
     if (!written)
-        reporter.log(1,
+        reporter.log(LogLevel::failure,
                      Messages::tr("The system's code page cannot write the name of the install folder, the "
                                   "launcher is not entered into %1")
                          .arg(path));

@@ -42,7 +42,7 @@ void keepBackup(const StepContext &context, const QString &menu)
     const QString backup = backupOf(menu);
     if (QFile::exists(backup))
         return;
-    context.reporter.log(0, Messages::tr("Copying %1 to %2").arg(menu, backup));
+    context.reporter.log(LogLevel::step, Messages::tr("Copying %1 to %2").arg(menu, backup));
     if (!QFile::exists(menu))
         return;
     // Whole or not at all: a backup is made once and never again.
@@ -55,7 +55,7 @@ void addLine(const StepContext &context, const QString &menu, const QString &lin
 {
     std::optional<QByteArray> old = QByteArray();
     if (QFile::exists(menu)) {
-        context.reporter.log(0, Messages::tr("Checking") + menu);
+        context.reporter.log(LogLevel::step, Messages::tr("Checking") + menu);
         old = readForeignFile(menu);
     }
     if (!old || holdsCustomDirsLine(*old, line))
@@ -64,7 +64,7 @@ void addLine(const StepContext &context, const QString &menu, const QString &lin
     const std::optional<QByteArray> written = toForeignText(context.reporter, menu, line);
     if (!written)
         return;
-    context.reporter.log(0, Messages::tr("Creating") + menu);
+    context.reporter.log(LogLevel::step, Messages::tr("Creating") + menu);
     replaceForeignFile(menu, *old + *written);
 }
 
@@ -75,7 +75,7 @@ void installNXLauncher(const StepContext &context, const CadPackages &packages, 
 {
     if (!boxes.isTicked(Launcher::Nx))
         return;
-    context.reporter.progress(0, QStringLiteral("UGNX"));
+    context.reporter.progress(LogLevel::step, QStringLiteral("UGNX"));
     for (size_t version = 0; version < packages.nxInstallDirs.size(); ++version) {
         const QString &installDir = packages.nxInstallDirs.at(version);
         if (installDir.isEmpty())

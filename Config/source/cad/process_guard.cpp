@@ -110,8 +110,9 @@ bool guardAgainstRunningCad(const StepContext &context)
 
 bool guardAgainstRunningProduct(const StepContext &context, OnMatch onMatch)
 {
-    context.reporter.log(0, QStringLiteral("CheckForRunningOstrade: silent=%1 terminate=%2")
-                                .arg(onOrOff(context.state.silent), onOrOff(onMatch == OnMatch::Terminate)));
+    context.reporter.log(LogLevel::step,
+                         QStringLiteral("CheckForRunningOstrade: silent=%1 terminate=%2")
+                             .arg(onOrOff(context.state.silent), onOrOff(onMatch == OnMatch::Terminate)));
     const GuardedPrograms programs = productPrograms();
     const QStringList running = programs.find(context, onMatch);
     if (running.isEmpty())

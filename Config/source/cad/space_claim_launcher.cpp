@@ -29,7 +29,7 @@ void installSpaceClaimLauncher(const StepContext &context, const LauncherBoxes &
 {
     if (!boxes.isTicked(Launcher::SpaceClaim))
         return;
-    context.reporter.progress(0, QStringLiteral("SpaceClaim"));
+    context.reporter.progress(LogLevel::step, QStringLiteral("SpaceClaim"));
 
     const QString target = folders.spaceClaimAddin;
     removeProductFile(joinPath(target, addinManifest));
@@ -43,7 +43,8 @@ void installSpaceClaimLauncher(const StepContext &context, const LauncherBoxes &
     const QString source = joinPath(context.state.installDir, QStringLiteral("Launchers/SpaceClaim"));
     for (const QString &file : {addinLibrary, addinManifest}) {
         const QString from = joinPath(source, file);
-        context.reporter.log(0, Messages::tr("Copying:%1 to: %2").arg(from, joinPath(target, file)));
+        context.reporter.log(LogLevel::step,
+                             Messages::tr("Copying:%1 to: %2").arg(from, joinPath(target, file)));
     }
     for (const QString &file : {addinLibrary, addinManifest})
         QFile::copy(joinPath(source, file), joinPath(target, file));

@@ -51,7 +51,8 @@ void writeManifest(const StepContext &context, const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        context.reporter.log(file.error(), Messages::tr("Open failed:") + file.errorString());
+        context.reporter.log(LogLevel::ofResult(file.error()),
+                             Messages::tr("Open failed:") + file.errorString());
         return;
     }
     const QByteArray manifest = tamselManifest(context.state.installDir);
@@ -68,7 +69,7 @@ bool makeFolderOf(const QString &path)
 
 void copyManifest(const StepContext &context, const QString &manifest, const QString &target)
 {
-    context.reporter.log(0, Messages::tr("Copying:%1 to: %2").arg(manifest, target));
+    context.reporter.log(LogLevel::step, Messages::tr("Copying:%1 to: %2").arg(manifest, target));
     QFile::copy(manifest, target);
 }
 
@@ -81,9 +82,9 @@ void installTamselAddin(const StepContext &context, const SharedFolders &folders
     const QString manifest =
         joinPath(context.state.installDir, QStringLiteral("Launchers/Tamsel/") + tamselManifestName);
 
-    context.reporter.log(0, Messages::tr("Tamsel Addin"));
+    context.reporter.log(LogLevel::step, Messages::tr("Tamsel Addin"));
     for (const QString &path : {first, second, manifest}) {
-        context.reporter.log(0, Messages::tr("Removing:") + path);
+        context.reporter.log(LogLevel::step, Messages::tr("Removing:") + path);
         removeProductFile(path);
     }
     if (mode != RunMode::Install)
@@ -105,7 +106,7 @@ void installTamselLauncher(const StepContext &context, const CadPackages &packag
     for (const Edition &edition : editions) {
         if (!boxes.isTicked(edition.launcher))
             continue;
-        context.reporter.progress(0, edition.title);
+        context.reporter.progress(LogLevel::step, edition.title);
         const auto &installDirs = packages.tamselInstallDirs.at(static_cast<size_t>(edition.edition));
         for (size_t version = firstVersion; version <= lastVersion; ++version) {
             if (!installDirs.at(version).isEmpty())

@@ -56,9 +56,9 @@ cfg_utilitys *cfg_utilitys::instance()
 
 void cfg_utilitys::writeStartUpBanner()
 {
-    log(0, QString());
-    log(0, QString(77, QLatin1Char('=')));
-    log(0, tr("Program startup - %1 DIR== %2").arg(Nvx::Product::fullName, m_state.installDir));
+    log(LogLevel::step, QString());
+    log(LogLevel::step, QString(77, QLatin1Char('=')));
+    log(LogLevel::step, tr("Program startup - %1 DIR== %2").arg(Nvx::Product::fullName, m_state.installDir));
 }
 
 void cfg_utilitys::clearRunComplete()
@@ -91,25 +91,25 @@ void cfg_utilitys::inform(int level, const QString &text)
 
 void cfg_utilitys::processFlagFile(const QString &name, RunMode mode)
 {
-    progress(0, tr("Processing ") + name);
+    progress(LogLevel::step, tr("Processing ") + name);
     const QString folder = System::getFlagsDirPath();
     const QString path = joinPath(folder, name);
     Nvx::Util::removeUnfinished(path);
     if (mode != RunMode::Install) {
         if (isUnchangedFlagFile(path)) {
-            log(0, name + tr(" has not changed"));
+            log(LogLevel::step, name + tr(" has not changed"));
             removeProductFile(path);
         } else {
-            log(0, name + tr(" has changed, not removing"));
+            log(LogLevel::step, name + tr(" has changed, not removing"));
         }
         return;
     }
     if (QFile::exists(path))
         return;
-    log(0, tr("Creating ") + name);
+    log(LogLevel::step, tr("Creating ") + name);
     System::makePath(folder);
     if (!createFlagFile(path))
-        log(1, tr("Unable to create %1").arg(path));
+        log(LogLevel::failure, tr("Unable to create %1").arg(path));
 }
 
 int cfg_utilitys::runCommand(const QString &program, const QStringList &arguments, const QString &workFolder,

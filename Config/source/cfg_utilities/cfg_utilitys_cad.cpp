@@ -9,17 +9,17 @@ void cfg_utilitys::searchCADPackages()
 {
     if (m_state.cadSearchSuppressed)
         return;
-    log(0, tr("Searching for CAD Packages"));
+    log(LogLevel::step, tr("Searching for CAD Packages"));
     const CadSearch search = searchCadPackages(MachineRegistryListing(), m_state.foundWord());
     for (const QString &line : search.lines)
-        log(0, line);
+        log(LogLevel::step, line);
     m_cadPackages = search.packages;
     for (const LauncherBox &box : search.boxes) {
         m_launcherBoxes->setFound(box.launcher, box.found);
         if (!box.label.isEmpty())
             m_launcherBoxes->setLabel(box.launcher, box.label);
     }
-    log(0, tr("Finished searching for CAD Packages"));
+    log(LogLevel::step, tr("Finished searching for CAD Packages"));
 }
 
 bool cfg_utilitys::checkRunningCAD()

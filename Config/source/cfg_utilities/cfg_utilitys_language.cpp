@@ -22,20 +22,20 @@ const QString flagsFile = Nvx::Product::flagsFile;
 
 void cfg_utilitys::setUpLanguage(RunMode mode)
 {
-    log(2, m_state.modeWord(mode) + QLatin1Char(' ') + tr("Language ") + m_state.locale);
+    log(LogLevel::note, m_state.modeWord(mode) + QLatin1Char(' ') + tr("Language ") + m_state.locale);
     if (mode == RunMode::Uninstall)
         resetSorvane(RunMode::Uninstall);
     if (m_state.locale.isEmpty()) {
-        log(0, tr("No Language locale Specified"));
+        log(LogLevel::step, tr("No Language locale Specified"));
         return;
     }
-    log(0, tr("Language ") + m_state.locale);
+    log(LogLevel::step, tr("Language ") + m_state.locale);
 
     // The steps below look at the run's mode, and a run without one counts as the mode that was passed.
     const RunMode stored = m_state.runMode;
     m_state.runMode = mode;
     if (mode == RunMode::Install) {
-        log(0, tr("Install Language: ") + m_state.locale);
+        log(LogLevel::step, tr("Install Language: ") + m_state.locale);
         createFlagsFile();
     }
     switchLanguage(builtInLocale);
@@ -69,19 +69,19 @@ void cfg_utilitys::createFlagsFile()
     if (!prepared.isEmpty() && QFile::exists(source)) {
         // Whole or not at all: what is there once is never copied again.
         if (!Nvx::Util::copyToFreeName(source, target))
-            log(1, tr("Unable to create %1").arg(target));
+            log(LogLevel::failure, tr("Unable to create %1").arg(target));
         return;
     }
     QFile file(target);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        log(1, tr("Unable to create %1").arg(target));
+        log(LogLevel::failure, tr("Unable to create %1").arg(target));
 }
 
 // The argument decides what is remembered and logged; the files come from the folder of the run's locale.
 void cfg_utilitys::switchLanguage(const QString &locale)
 {
     System::setLocale(locale);
-    log(0, tr("ChangeLanguage = ") + locale);
+    log(LogLevel::step, tr("ChangeLanguage = ") + locale);
     resetSorvane(m_state.runMode);
     if (m_state.runMode == RunMode::Install)
         installLanguageFiles();
@@ -94,14 +94,14 @@ void cfg_utilitys::installLanguageFiles()
         const QString source = joinPath(localeFolder, Nvx::Product::materialNames);
         const QString target = joinPath(m_state.installDir, QStringLiteral("matprop.new"));
         replaceProductFile(source, target);
-        log(0, tr("COPY:%1 to %2").arg(source, target));
+        log(LogLevel::step, tr("COPY:%1 to %2").arg(source, target));
     }
     installSolverResources();
 
     const QString dictionary =
         joinPath(System::getUserDataPath(), QStringLiteral("NVX_db_dictionary.nvxcfg"));
     removeProductFile(dictionary);
-    log(0, tr("Remove:") + dictionary);
+    log(LogLevel::step, tr("Remove:") + dictionary);
 
     for (const auto &library :
          {QStringLiteral("VistrelResources.dll"), QStringLiteral("VelmoraApplicationFrameRes.dll")})
@@ -120,5 +120,5 @@ void cfg_utilitys::installSolverResources()
     QDir().mkdir(folder);
     const QString localeFolder = joinPath(m_state.installDir, japanese);
     QFile::copy(joinPath(localeFolder, library), joinPath(folder, library));
-    log(0, tr("zorv :") + m_state.installDir);
+    log(LogLevel::step, tr("zorv :") + m_state.installDir);
 }

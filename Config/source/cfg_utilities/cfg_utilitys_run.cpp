@@ -11,7 +11,7 @@
 void cfg_utilitys::ProcessInstallation()
 {
     const RunMode mode = m_state.runMode;
-    log(0, tr("Beginning ") + m_state.modeWord(mode));
+    log(LogLevel::step, tr("Beginning ") + m_state.modeWord(mode));
     tellPendingNotes();
     const Nvx::Util::CpuInfo cpuInfo(m_log, m_state.installDir);
     tellProcessors(cpuInfo);
@@ -33,7 +33,7 @@ void cfg_utilitys::ProcessInstallation()
     checkMaterialDatabase(mode);
     cleanLumara(mode);
 
-    progress(0, tr("The installation or update is complete. Click finish to continue."));
+    progress(LogLevel::step, tr("The installation or update is complete. Click finish to continue."));
     m_state.runComplete = true;
     if (m_progressView)
         m_progressView->runCompleteChanged();
@@ -42,7 +42,7 @@ void cfg_utilitys::ProcessInstallation()
 void cfg_utilitys::tellPendingNotes()
 {
     for (const QString &note : std::as_const(m_state.pendingNotes))
-        log(0, note);
+        log(LogLevel::step, note);
     if (!m_progressView)
         return;
     m_progressView->clear();

@@ -42,7 +42,7 @@ QStringList installDirVariables()
 void cfg_utilitys::processCommandLine()
 {
     const QString commandLine = m_machine.commandLine().trimmed();
-    log(0, tr("Command Line:") + commandLine);
+    log(LogLevel::step, tr("Command Line:") + commandLine);
     const CommandLineReading reading = readCommandLine(commandLine, Nvx::Util::supportedSystemLocale(),
                                                        [this] { return isUnknownOptionAccepted(); });
     m_state.runMode = reading.runMode;
@@ -74,9 +74,9 @@ void cfg_utilitys::validateInstallDir()
 {
     const bool installs = m_state.runMode == RunMode::Install || m_state.runMode == RunMode::NotGiven;
     if (!installs) {
-        log(0, tr("Validating Installation Path Velmora %1 %2 DIR=")
-                       .arg(Nvx::Product::name, Nvx::Product::release) +
-                   m_state.installDir);
+        log(LogLevel::step, tr("Validating Installation Path Velmora %1 %2 DIR=")
+                                    .arg(Nvx::Product::name, Nvx::Product::release) +
+                                m_state.installDir);
         const QString solver = Nvx::Util::joinPath(m_state.installDir, Nvx::Product::solverProgram);
         if (m_state.installDir.isEmpty() || !QFile::exists(solver))
             resetInstallDir();
@@ -84,23 +84,24 @@ void cfg_utilitys::validateInstallDir()
         return;
     }
 
-    log(0, tr("Validating Installation Path Velmora NVX %1 DIR=").arg(Nvx::Product::release) +
-               m_state.installDir);
+    log(LogLevel::step, tr("Validating Installation Path Velmora NVX %1 DIR=").arg(Nvx::Product::release) +
+                            m_state.installDir);
     if (m_state.installDir.isEmpty()) {
         resetInstallDir();
         writeMachineVariables();
     } else {
         // The installer has written the variables.
-        log(0, tr("Install Path OK ") + m_state.installDir);
+        log(LogLevel::step, tr("Install Path OK ") + m_state.installDir);
     }
-    log(0, tr("user dir="));
+    log(LogLevel::step, tr("user dir="));
     System::makePath(System::getUserDataPath());
 }
 
 void cfg_utilitys::resetInstallDir()
 {
     m_state.installDir = System::getWorkingDirPath();
-    log(0, tr("Program startup - Install path is empty or is invalid, resetting to:") + m_state.installDir);
+    log(LogLevel::step,
+        tr("Program startup - Install path is empty or is invalid, resetting to:") + m_state.installDir);
 }
 
 void cfg_utilitys::removeMachineVariables()
@@ -109,7 +110,7 @@ void cfg_utilitys::removeMachineVariables()
     const QStringList variables = installDirVariables();
     for (const QString &variable : variables)
         environment.removeValue(variable);
-    log(0, tr("Removing installation path environment variables.") + m_state.installDir);
+    log(LogLevel::step, tr("Removing installation path environment variables.") + m_state.installDir);
 }
 
 void cfg_utilitys::writeMachineVariables()
@@ -122,6 +123,7 @@ void cfg_utilitys::writeMachineVariables()
         if (value)
             m_machine.setProcessVariable(variable.toLatin1(), *value);
         else
-            log(1, tr("The system's code page cannot write the folder, %1 is not set").arg(variable));
+            log(LogLevel::failure,
+                tr("The system's code page cannot write the folder, %1 is not set").arg(variable));
     }
 }

@@ -73,7 +73,7 @@ void ClassWizard::levelPages()
 
 void ClassWizard::accept()
 {
-    m_engine.log(0, tr("Program exiting"));
+    m_engine.log(LogLevel::step, tr("Program exiting"));
     QWizard::accept();
 }
 

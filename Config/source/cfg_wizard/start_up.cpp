@@ -29,7 +29,7 @@ void localize(cfg_utilitys &engine)
 {
     engine.initLocalizationTool();
     engine.getLtool()->runScript();
-    engine.log(0, QStringLiteral("Localization script finishes cool"));
+    engine.log(LogLevel::step, QStringLiteral("Localization script finishes cool"));
 }
 
 } // namespace
@@ -60,7 +60,7 @@ int runPass(cfg_utilitys &engine, const WizardPlan &plan)
             engine.removeOldFiles(OldFiles::Remove);
         return 0;
     case WizardPlan::Action::StopServices:
-        engine.log(0, Messages::tr("Stopping Services"));
+        engine.log(LogLevel::step, Messages::tr("Stopping Services"));
         engine.stopServices(plan.runMode);
         return 0;
     case WizardPlan::Action::Localize:

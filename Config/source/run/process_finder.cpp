@@ -25,7 +25,7 @@ void end(OpenedProcess &process, const QString &displayName, Reporter &reporter)
 {
     const QString sentence =
         process.terminate() ? ProcessFinder::tr("%1 terminated") : ProcessFinder::tr("%1 was not terminated");
-    reporter.log(0, sentence.arg(displayName));
+    reporter.log(LogLevel::step, sentence.arg(displayName));
 }
 
 } // namespace

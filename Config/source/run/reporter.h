@@ -2,7 +2,22 @@
 
 #include <QString>
 
-/// How a step says what it does. The level is a small number, 0 for ordinary lines.
+/// The levels of the log's lines. A line on a program's exit code, or on another result of the system, has
+/// that result as its level.
+namespace LogLevel {
+
+inline constexpr int step = 0;
+inline constexpr int failure = 1;
+inline constexpr int note = 2;
+
+constexpr int ofResult(int result)
+{
+    return result;
+}
+
+} // namespace LogLevel
+
+/// How a step reports what it does.
 class Reporter
 {
 public:

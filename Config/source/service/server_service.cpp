@@ -39,7 +39,8 @@ ServerService::Installed ServerService::install()
     const QString path = joinPath(m_context.state.installDir, Nvx::Product::serverProgram);
     if (!QFile::exists(path)) {
         m_context.reporter.inform(
-            1, tr("Unable to find server executable; Check_ Installation Directory path:") + path);
+            LogLevel::failure,
+            tr("Unable to find server executable; Check_ Installation Directory path:") + path);
         return Installed::ProgramMissing;
     }
 
@@ -64,7 +65,7 @@ ServerService::Installed ServerService::install()
 
 void ServerService::uninstall()
 {
-    m_context.reporter.log(0, tr("uninstallServer "));
+    m_context.reporter.log(LogLevel::step, tr("uninstallServer "));
     stop();
     remove();
     removeWorkFolders();
@@ -73,7 +74,7 @@ void ServerService::uninstall()
 void ServerService::stop()
 {
     if (!m_service.stop()) {
-        m_context.reporter.log(0, tr("uninstallServer - could not stop service"));
+        m_context.reporter.log(LogLevel::step, tr("uninstallServer - could not stop service"));
         endProcesses();
         m_service.stop();
     } else if (isActive()) {
@@ -95,11 +96,11 @@ void ServerService::endProcesses()
 void ServerService::remove()
 {
     if (!m_service.isInstalled()) {
-        m_context.reporter.log(0, tr("uninstallServer - service was not installed"));
+        m_context.reporter.log(LogLevel::step, tr("uninstallServer - service was not installed"));
         return;
     }
     if (!m_service.uninstall()) {
-        m_context.reporter.log(0, tr("uninstallServer - could not uninstall service"));
+        m_context.reporter.log(LogLevel::step, tr("uninstallServer - could not uninstall service"));
         return;
     }
     // As long as the name is taken the server cannot register itself again.

@@ -19,11 +19,11 @@ int ArchiveComponents::installTutorials(RunMode mode)
 {
     const QString tutorials = Nvx::Util::System::getTutorialsDirPath();
     m_runner.removeDirectory(tutorials);
-    m_context.reporter.progress(0, m_context.state.modeWord(mode) + tr(" Tutorials"));
+    m_context.reporter.progress(LogLevel::step, m_context.state.modeWord(mode) + tr(" Tutorials"));
     if (mode != RunMode::Install)
         return 0;
 
-    m_context.reporter.log(0, tr("Installing Tutorials"));
+    m_context.reporter.log(LogLevel::step, tr("Installing Tutorials"));
     unpack(joinPath(m_context.state.installDir, QStringLiteral("en-US/Examples.7z")), tutorials,
            CommandRunner::usualTimeoutMs);
     return 0;
@@ -35,13 +35,14 @@ int ArchiveComponents::installPython(RunMode mode)
     m_runner.removeDirectory(joinPath(python, QStringLiteral("DLLs")));
     m_runner.removeDirectory(joinPath(python, QStringLiteral("Lib")));
     m_runner.removeMatchingFiles(joinPath(python, QStringLiteral("Ostrade/NVX")), QStringLiteral(".PYC"));
-    m_context.reporter.progress(0, m_context.state.modeWord(mode) + tr(" Python (locally for NVX)"));
+    m_context.reporter.progress(LogLevel::step,
+                                m_context.state.modeWord(mode) + tr(" Python (locally for NVX)"));
     if (mode == RunMode::Uninstall)
         m_runner.removeDirectory(python);
     if (mode != RunMode::Install)
         return 0;
 
-    m_context.reporter.log(0, tr("Installing Python"));
+    m_context.reporter.log(LogLevel::step, tr("Installing Python"));
     const auto processor = QStringLiteral("x64");
     unpack(joinPath(python, QStringLiteral("python26_%1.7z").arg(processor)), python,
            CommandRunner::noTimeout);
@@ -55,9 +56,10 @@ int ArchiveComponents::installMertleServer(RunMode mode)
     const QString translators = QString::fromWCharArray(buffer.data());
     const QString mertle = joinPath(translators, QStringLiteral("NVX_MertleServer"));
 
-    m_context.reporter.progress(0, m_context.state.modeWord(mode) + tr(" Mertle Server"));
+    m_context.reporter.progress(LogLevel::step, m_context.state.modeWord(mode) + tr(" Mertle Server"));
     if (translators.isEmpty()) {
-        m_context.reporter.log(0, tr("There is no translators folder, the Mertle Server is left alone"));
+        m_context.reporter.log(LogLevel::step,
+                               tr("There is no translators folder, the Mertle Server is left alone"));
         return 0;
     }
     if (mode == RunMode::Uninstall)
@@ -65,7 +67,7 @@ int ArchiveComponents::installMertleServer(RunMode mode)
     if (mode != RunMode::Install)
         return 0;
 
-    m_context.reporter.log(0, tr("Installing Mertle Server"));
+    m_context.reporter.log(LogLevel::step, tr("Installing Mertle Server"));
     unpack(joinPath(mertle, QStringLiteral("NVX_MertleServer.7z")), mertle, CommandRunner::noTimeout);
     return 0;
 }

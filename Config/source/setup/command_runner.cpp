@@ -78,7 +78,7 @@ int CommandRunner::run(const Call &call)
     QString commandLine = QStringLiteral("Command:") + call.program;
     for (const QString &argument : call.arguments)
         commandLine += QLatin1Char(' ') + argument;
-    reporter.log(0, commandLine);
+    reporter.log(LogLevel::step, commandLine);
 
     ProgramCall program;
     program.place = call.place;
@@ -87,23 +87,24 @@ int CommandRunner::run(const Call &call)
     program.workFolder = call.workFolder.isEmpty() ? m_context.state.installDir : call.workFolder;
     program.timeoutMs = call.timeoutMs;
     program.outputLimit = maxOutputLines * maxOutputLineBytes;
-    reporter.log(0, QStringLiteral("WorkDir:") + program.workFolder);
+    reporter.log(LogLevel::step, QStringLiteral("WorkDir:") + program.workFolder);
 
     const ProgramResult result = m_context.machine.run(program);
     const int exitCode = exitCodeOf(result);
-    reporter.log(exitCode, QStringLiteral("Output:"));
+    const int level = LogLevel::ofResult(exitCode);
+    reporter.log(level, QStringLiteral("Output:"));
     const QString indent = QStringLiteral("  ");
     const QStringList lines = outputLines(result.output);
     for (const QString &line : lines)
-        reporter.log(exitCode, indent + line);
+        reporter.log(level, indent + line);
     if (result.outcome == ProgramResult::Outcome::NotStarted)
-        reporter.log(exitCode, indent + tr("The program could not be started."));
+        reporter.log(level, indent + tr("The program could not be started."));
     else if (result.outcome == ProgramResult::Outcome::TimedOut)
         reporter.log(
-            exitCode,
+            level,
             indent + tr("The program was still running after %1 ms and has been ended.").arg(call.timeoutMs));
     else if (result.outcome == ProgramResult::Outcome::Crashed)
-        reporter.log(exitCode, indent + tr("The program crashed."));
+        reporter.log(level, indent + tr("The program crashed."));
     return exitCode;
 }
 
@@ -119,16 +120,18 @@ bool CommandRunner::removeDirectory(const QString &path)
     Reporter &reporter = m_context.reporter;
     const std::optional<QByteArray> commandLine = Nvx::Util::toOem(removalCommand(path));
     if (!commandLine) {
-        reporter.log(1, tr("The command interpreter's code page cannot write the name of this folder, "
-                           "it is not removed: %1")
-                            .arg(path));
+        reporter.log(LogLevel::failure,
+                     tr("The command interpreter's code page cannot write the name of this folder, "
+                        "it is not removed: %1")
+                         .arg(path));
         return true;
     }
 
     // The file lies beside the install dir rather than in it: its name is the folder's, continued.
     const QString batchFile = m_context.state.installDir + QStringLiteral("work.bat");
     if (!createBatchFile(batchFile, *commandLine)) {
-        reporter.log(1, tr("Unable to create %1, this folder is not removed: %2").arg(batchFile, path));
+        reporter.log(LogLevel::failure,
+                     tr("Unable to create %1, this folder is not removed: %2").arg(batchFile, path));
         return true;
     }
 
@@ -139,10 +142,11 @@ bool CommandRunner::removeDirectory(const QString &path)
     call.arguments = QStringList{QStringLiteral("/C"), batchFile};
     call.workFolder = m_context.state.installDir;
     call.timeoutMs = usualTimeoutMs;
-    reporter.log(0, QStringLiteral("Command:cmd.exe /C %1 ").arg(batchFile));
+    reporter.log(LogLevel::step, QStringLiteral("Command:cmd.exe /C %1 ").arg(batchFile));
     const ProgramResult result = m_context.machine.run(call);
     QFile::remove(batchFile);
-    reporter.log(exitCodeOf(result), QStringLiteral(" output:") + Nvx::Util::fromOem(result.output));
+    reporter.log(LogLevel::ofResult(exitCodeOf(result)),
+                 QStringLiteral(" output:") + Nvx::Util::fromOem(result.output));
     return true;
 }
 
@@ -159,7 +163,7 @@ bool CommandRunner::removeMatchingFiles(const QString &folder, const QString &pa
             matching.append(path);
     }
     for (const QString &path : std::as_const(matching)) {
-        m_context.reporter.log(0, QStringLiteral("Removing:") + path);
+        m_context.reporter.log(LogLevel::step, QStringLiteral("Removing:") + path);
         QFile::remove(path);
     }
     return true;

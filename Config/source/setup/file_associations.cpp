@@ -39,9 +39,10 @@ void importScript(const StepContext &context, const QString &path, const QString
 {
     const std::optional<QByteArray> script = encoded(lines);
     if (!script) {
-        context.reporter.log(1, Messages::tr("The system's code page cannot write the folder, no files are "
-                                             "associated with the product: %1")
-                                    .arg(context.state.installDir));
+        context.reporter.log(LogLevel::failure,
+                             Messages::tr("The system's code page cannot write the folder, no files are "
+                                          "associated with the product: %1")
+                                 .arg(context.state.installDir));
         return;
     }
     if (createScript(path, *script))
@@ -59,14 +60,15 @@ int createFileAssociations(const StepContext &context, RunMode mode)
     const AssociationNames names = associationNamesOf(Nvx::Product::release);
     const QString script =
         Nvx::Util::joinPath(context.state.installDir, QStringLiteral("FileAssociations.reg"));
-    context.reporter.progress(0, Messages::tr("Create file associations"));
-    context.reporter.log(0, script);
+    context.reporter.progress(LogLevel::step, Messages::tr("Create file associations"));
+    context.reporter.log(LogLevel::step, script);
 
     importScript(context, script, removalScript(names));
     if (mode != RunMode::Install)
         return 0;
     if (context.state.installDirEscaped.isEmpty()) // the user broke the reading of the command line off
-        context.reporter.log(1, Messages::tr("The install folder is not known, no files are associated"));
+        context.reporter.log(LogLevel::failure,
+                             Messages::tr("The install folder is not known, no files are associated"));
     else
         importScript(context, script, creationScript(names, context.state.installDirEscaped));
     return 0;

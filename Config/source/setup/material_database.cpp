@@ -54,7 +54,7 @@ MaterialDatabase::MaterialDatabase(const StepContext &context)
 
 int MaterialDatabase::check(RunMode mode)
 {
-    m_context.reporter.progress(0, tr("Checking material database"));
+    m_context.reporter.progress(LogLevel::step, tr("Checking material database"));
     // A copy that a crash cut off is nobody's database, and as long as one of these.
     for (const QString &database : {shared(workingFile), previousDatabase()})
         Nvx::Util::removeUnfinished(database);
@@ -70,14 +70,14 @@ void MaterialDatabase::install()
     copyPreviousRelease();
     const QString source = beside(shippedFile);
     if (!isShipped(source)) {
-        m_context.reporter.progress(0, tr("Installation error matprop.mdb does not exist?"));
-        m_context.reporter.log(0, tr("Installation error: ") + source + tr(" does not exist."));
+        m_context.reporter.progress(LogLevel::step, tr("Installation error matprop.mdb does not exist?"));
+        m_context.reporter.log(LogLevel::step, tr("Installation error: ") + source + tr(" does not exist."));
         return;
     }
     const QString target = shared(workingFile);
     if (QFile::exists(target))
         return;
-    m_context.reporter.log(0, tr("Copy: ") + source + tr(" to: ") + target);
+    m_context.reporter.log(LogLevel::step, tr("Copy: ") + source + tr(" to: ") + target);
     copyIfMissing(source, target);
 }
 
@@ -105,10 +105,10 @@ bool MaterialDatabase::isShipped(const QString &shipped)
 void MaterialDatabase::remove()
 {
     const QString leftover = beside(QStringLiteral("matprop.new"));
-    m_context.reporter.log(0, tr("Remove: ") + leftover);
+    m_context.reporter.log(LogLevel::step, tr("Remove: ") + leftover);
     removeProductFile(leftover);
     // The line names the program's folder; the database lies in the folder that all users share.
-    m_context.reporter.log(0, tr("Remove: ") + beside(workingFile));
+    m_context.reporter.log(LogLevel::step, tr("Remove: ") + beside(workingFile));
     removeProductFile(shared(workingFile));
 }
 

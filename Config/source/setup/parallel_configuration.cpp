@@ -65,12 +65,16 @@ void createParallelConfiguration(const StepContext &context, RunMode mode, const
 
     System::makePath(sharedData);
     if (save(file, sharedFolder, analysisFolder, cpuInfo))
-        context.reporter.log(0, Messages::tr("Created NVX2 default configuration: %1").arg(file));
+        context.reporter.log(LogLevel::step,
+                             Messages::tr("Created NVX2 default configuration: %1").arg(file));
     else
-        context.reporter.log(1, Messages::tr("Unable to create NVX2 default configuration: %1").arg(file));
+        context.reporter.log(LogLevel::failure,
+                             Messages::tr("Unable to create NVX2 default configuration: %1").arg(file));
 
     if (QDir(sharedData).mkpath(analysisFolder))
-        context.reporter.log(0, Messages::tr("Created NVX2 analyze folder: %1").arg(analysisFolder));
+        context.reporter.log(LogLevel::step,
+                             Messages::tr("Created NVX2 analyze folder: %1").arg(analysisFolder));
     else
-        context.reporter.log(1, Messages::tr("Unable to create NVX2 analyze folder: %1").arg(analysisFolder));
+        context.reporter.log(LogLevel::failure,
+                             Messages::tr("Unable to create NVX2 analyze folder: %1").arg(analysisFolder));
 }

@@ -54,23 +54,24 @@ void updateUninstallEntry(const StepContext &context)
         QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\%1")
             .arg(Nvx::Product::fullName);
 
-    reporter.log(0, Messages::tr("Updating language registry uninstall "));
+    reporter.log(LogLevel::step, Messages::tr("Updating language registry uninstall "));
     const QString current = RegistryKey(entry).text(QStringLiteral("UninstallPath")).value_or(QString());
-    reporter.log(0, Messages::tr("Updating language registry uninstall currently is:") + current);
+    reporter.log(LogLevel::step,
+                 Messages::tr("Updating language registry uninstall currently is:") + current);
     const std::optional<QString> command = uninstallCommandIn(current, locale);
     if (!command)
         return;
-    reporter.log(0, Messages::tr("Updating language registry uninstall locale=") + locale);
+    reporter.log(LogLevel::step, Messages::tr("Updating language registry uninstall locale=") + locale);
     writeAll({{entry, QStringLiteral("UninstallPath"), *command},
               {entry, QStringLiteral("UninstallString"), *command}});
-    reporter.log(0, Messages::tr("Updating language registry uninstall set to:") + *command);
+    reporter.log(LogLevel::step, Messages::tr("Updating language registry uninstall set to:") + *command);
 }
 
 } // namespace
 
 int updateRegistry(const StepContext &context, RunMode mode)
 {
-    context.reporter.progress(0, Messages::tr("Registry paths"));
+    context.reporter.progress(LogLevel::step, Messages::tr("Registry paths"));
     if (mode != RunMode::Install) {
         configureViewer(context, mode);
         removeUserGroups();

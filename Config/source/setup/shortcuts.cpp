@@ -24,10 +24,11 @@ struct Messages
 int createShortcuts(const StepContext &context, RunMode mode)
 {
     const QString desktop = context.state.commonDesktop;
-    context.reporter.log(0, Messages::tr("Desktop=") + desktop);
+    context.reporter.log(LogLevel::step, Messages::tr("Desktop=") + desktop);
     if (desktop.isEmpty()) {
         // A link without a folder would land at the top of the drive.
-        context.reporter.log(1, Messages::tr("There is no desktop folder of all users, it gets no shortcut"));
+        context.reporter.log(LogLevel::failure,
+                             Messages::tr("There is no desktop folder of all users, it gets no shortcut"));
         context.machine.notifyAssociationsChanged();
         return 0;
     }
@@ -35,7 +36,7 @@ int createShortcuts(const StepContext &context, RunMode mode)
     const QString name = QStringLiteral("%1 %2").arg(Nvx::Product::maker, Nvx::Product::fullName);
     const QString linkPath = joinPath(desktop, name + QStringLiteral(".lnk"));
     if (!removeProductFile(linkPath))
-        context.reporter.log(1, Messages::tr("Unable to remove %1").arg(linkPath));
+        context.reporter.log(LogLevel::failure, Messages::tr("Unable to remove %1").arg(linkPath));
     if (mode == RunMode::Install)
         createShortcut(context, joinPath(context.state.installDir, Nvx::Product::program), linkPath, name,
                        QString(), QString());
@@ -59,9 +60,10 @@ int createShortcut(const StepContext &context, const QString &target, const QStr
     if (tooLong.isEmpty())
         result = context.machine.createShellLink(link);
     else
-        context.reporter.log(1, Messages::tr("This text is too long for a shortcut: %1").arg(tooLong));
+        context.reporter.log(LogLevel::failure,
+                             Messages::tr("This text is too long for a shortcut: %1").arg(tooLong));
 
     const QString outcome = result == 0 ? context.state.successWord() : context.state.failureWord();
-    context.reporter.log(result, Messages::tr("Create shortcut ") + linkPath + outcome);
+    context.reporter.log(LogLevel::ofResult(result), Messages::tr("Create shortcut ") + linkPath + outcome);
     return 0;
 }

@@ -25,9 +25,9 @@ void UserFiles::removeOldFiles()
     // A pattern with small letters matches nothing, so this file stays.
     runner.removeMatchingFiles(installDir, QStringLiteral("systeminfo2012.xml"));
     runner.removeDirectory(joinPath(m_context.machine.executableFolder(), QStringLiteral("Launchers")));
-    m_context.reporter.log(0, tr("Remove: ") + sharedData + QStringLiteral("*.dat"));
+    m_context.reporter.log(LogLevel::step, tr("Remove: ") + sharedData + QStringLiteral("*.dat"));
     runner.removeMatchingFiles(sharedData, QStringLiteral(".DAT"));
-    m_context.reporter.log(0, tr("Remove: Report .pyc files"));
+    m_context.reporter.log(LogLevel::step, tr("Remove: Report .pyc files"));
     runner.removeMatchingFiles(joinPath(installDir, QStringLiteral("plugins/Reports")),
                                QStringLiteral(".PYC"));
 }
@@ -42,9 +42,9 @@ void UserFiles::resetSorvane(RunMode mode)
 {
     const QString folder =
         joinPath(System::getProgramDataPath(Nvx::Product::fullName), QStringLiteral("Sorvane"));
-    m_context.reporter.log(0, tr("Remove: ") + folder);
+    m_context.reporter.log(LogLevel::step, tr("Remove: ") + folder);
     CommandRunner(m_context).removeDirectory(folder);
-    m_context.reporter.progress(0, m_context.state.modeWord(mode) + tr(" Sorvane"));
+    m_context.reporter.progress(LogLevel::step, m_context.state.modeWord(mode) + tr(" Sorvane"));
     for (const auto &file :
          {QStringLiteral("qat.st"), QStringLiteral("ribbon2D.st"), QStringLiteral("flagset.usr")})
         removeProductFile(joinPath(System::getUserDataPath(), file));

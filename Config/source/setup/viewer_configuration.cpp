@@ -15,7 +15,7 @@ struct Messages
 
 int configureViewer(const StepContext &context, RunMode mode)
 {
-    context.reporter.log(0, Messages::tr("Running NVX 3D-ViewerConfig."));
+    context.reporter.log(LogLevel::step, Messages::tr("Running NVX 3D-ViewerConfig."));
     const QString program =
         Nvx::Util::joinPath(context.state.installDir, QStringLiteral("NVX Viewer/NVXViewerConfig.exe"));
     const QStringList arguments =
