@@ -1,7 +1,7 @@
 // Any output of a program gives at most 21 lines, none of them empty or with blanks around it, and what comes
 // behind the bytes that 21 pieces can hold changes nothing.
 
-#include "setup/output_lines.h"
+#include "run/output_lines.h"
 
 #include <cstdlib>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "run/command_runner.h"
 #include "run/step_context.h"
-#include "setup/command_runner.h"
 
 #include <QString>
 

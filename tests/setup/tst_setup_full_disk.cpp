@@ -1,6 +1,6 @@
 // Steps that write a file for another program, on a disk that is full.
 
-#include "setup/command_runner.h"
+#include "run/command_runner.h"
 #include "setup/file_associations.h"
 #include "setup/setup_fixture.h"
 #include "support/full_disk.h"

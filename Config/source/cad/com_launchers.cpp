@@ -1,9 +1,9 @@
 #include "cad/com_launchers.h"
 
 #include "nvx_util/system.h"
+#include "run/command_runner.h"
 #include "run/launcher_boxes.h"
 #include "run/reporter.h"
-#include "setup/command_runner.h"
 
 #include <QCoreApplication>
 

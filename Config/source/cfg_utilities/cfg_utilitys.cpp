@@ -6,10 +6,10 @@
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
+#include "run/command_runner.h"
 #include "run/product_files.h"
 #include "run/progress_view.h"
 #include "setup/archive_components.h"
-#include "setup/command_runner.h"
 #include "setup/parallel_configuration.h"
 
 #include <QCoreApplication>

@@ -4,12 +4,12 @@
 #include "nvx_util/product.h"
 #include "nvx_util/service_control.h"
 #include "nvx_util/system.h"
+#include "run/command_runner.h"
 #include "run/diagnostics.h"
 #include "run/process_finder.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 #include "run/run_state.h"
-#include "setup/command_runner.h"
 
 #include <QFile>
 

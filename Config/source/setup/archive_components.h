@@ -1,8 +1,8 @@
 #pragma once
 
+#include "run/command_runner.h"
 #include "run/run_state.h"
 #include "run/step_context.h"
-#include "setup/command_runner.h"
 
 #include <QCoreApplication>
 

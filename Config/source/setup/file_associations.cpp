@@ -3,11 +3,11 @@
 #include "nvx_util/code_page.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
+#include "run/command_runner.h"
 #include "run/diagnostics.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 #include "setup/association_scripts.h"
-#include "setup/command_runner.h"
 
 #include <QCoreApplication>
 #include <QFile>

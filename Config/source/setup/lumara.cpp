@@ -1,7 +1,7 @@
 #include "setup/lumara.h"
 
 #include "nvx_util/system.h"
-#include "setup/command_runner.h"
+#include "run/command_runner.h"
 
 void cleanLumara(const StepContext &context, RunMode mode)
 {

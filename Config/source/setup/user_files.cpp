@@ -3,9 +3,9 @@
 #include "nvx_util/machine.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
+#include "run/command_runner.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
-#include "setup/command_runner.h"
 
 using Nvx::Util::joinPath;
 using Nvx::Util::System;

@@ -1,8 +1,8 @@
 #include "setup/viewer_configuration.h"
 
 #include "nvx_util/system.h"
+#include "run/command_runner.h"
 #include "run/reporter.h"
-#include "setup/command_runner.h"
 
 namespace {
 

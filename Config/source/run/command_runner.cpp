@@ -1,10 +1,10 @@
-#include "setup/command_runner.h"
+#include "run/command_runner.h"
 
 #include "nvx_util/code_page.h"
 #include "nvx_util/machine.h"
+#include "run/output_lines.h"
 #include "run/reporter.h"
 #include "run/run_state.h"
-#include "setup/output_lines.h"
 
 #include <QDirIterator>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "setup/command_runner.h"
+#include "run/command_runner.h"
 #include "setup/setup_fixture.h"
 #include "support/test_class.h"
 #include "support/text.h"

@@ -1,4 +1,4 @@
-#include "setup/output_lines.h"
+#include "run/output_lines.h"
 #include "support/test_class.h"
 
 #include <QTest>

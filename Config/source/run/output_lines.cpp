@@ -1,4 +1,4 @@
-#include "setup/output_lines.h"
+#include "run/output_lines.h"
 
 #include "nvx_util/code_page.h"
 
