@@ -136,8 +136,7 @@ private slots:
         QFETCH(const QString, fragment);
         QFETCH(const bool, isKept);
         const std::optional<QByteArray> written = Nvx::Util::toAnsi(fragment);
-        if (!written)
-            QSKIP("The system's code page cannot write this text.");
+        QVERIFY(written);
         const QByteArray piece = *written + "end\r\n";
         QCOMPARE(withoutLauncherEntries(piece + foreign), isKept ? piece + foreign : foreign);
     }
