@@ -44,8 +44,7 @@ def make_archives(folder):
 
 def _write_files(top, contents, chance):
     words = [
-        "".join(chance.choices("abcdefghijklmnopqrstuvwxyz", k=chance.randint(2, 11)))
-        for _ in range(3000)
+        "".join(chance.choices("abcdefghijklmnopqrstuvwxyz", k=chance.randint(2, 11))) for _ in range(3000)
     ]
     number = 0
     for kind, ending, write in (("text", "txt", _text), ("binary", "bin", _binary)):
@@ -53,9 +52,7 @@ def _write_files(top, contents, chance):
         for _ in range(count):
             place = top / (contents["folder"] % (number // _FILES_IN_FOLDER))
             place.mkdir(parents=True, exist_ok=True)
-            (place / ("%s_%04d.%s" % (kind, number, ending))).write_bytes(
-                write(words, size, chance)
-            )
+            (place / ("%s_%04d.%s" % (kind, number, ending))).write_bytes(write(words, size, chance))
             number += 1
 
 

@@ -128,9 +128,7 @@ def main(folder, document):
     text = document.read_text(encoding="utf-8")
     before, rest = text.split(BEGIN)
     after = rest.split(END)[1]
-    document.write_text(
-        before + BEGIN + "\n\n" + "\n".join(figures) + "\n\n" + END + after, encoding="utf-8"
-    )
+    document.write_text(before + BEGIN + "\n\n" + "\n".join(figures) + "\n\n" + END + after, encoding="utf-8")
 
 
 if __name__ == "__main__":

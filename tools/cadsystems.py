@@ -14,9 +14,7 @@ PROTK_2 = "C:\\Program Files\\PTC\\Creo 2.0\\Common Files\\M010\\text\\protk.dat
 PROTK_3 = "C:\\Program Files\\PTC\\Creo 3.0\\Common Files\\text\\protk.dat"
 CUSTOM_DIRS_10 = NX_10 + "\\UGII\\MENUS\\custom_dirs.dat"
 CUSTOM_DIRS_11 = NX_11 + "\\UGII\\MENUS\\custom_dirs.dat"
-TAMSEL_ADDINS = (
-    "C:\\Documents and Settings\\All Users\\Application Data\\Velmora\\Tamsel\\Addins"
-)
+TAMSEL_ADDINS = "C:\\Documents and Settings\\All Users\\Application Data\\Velmora\\Tamsel\\Addins"
 SPACE_CLAIM_ADDINS = "C:\\ProgramData\\SpaceClaim\\Addins"
 
 # The launchers that are COM libraries, by the class that they register.
@@ -46,18 +44,13 @@ def registry_values():
         _SOFTWARE + "Velmora\\Brevant\\Current Version": {"LASTVERSIONRUN": "21.0.3"},
         _SOFTWARE + "Velmora\\Brevant\\RegistryVersion20.0": {"ProductName": "Brevant 2016"},
         _SOFTWARE + "Velmora\\Brevant\\RegistryVersion21.0": {"ProductName": "Brevant 2017"},
+        _SOFTWARE + "PTC\\Creo Parametric\\2.0\\M010": {"InstallDir": CREO_2, "ShipCode": "M010"},
+        _SOFTWARE + "PTC\\Creo Parametric\\3.0\\F000": {"InstallDir": CREO_3, "ShipCode": "F000"},
         _SOFTWARE
-        + "PTC\\Creo Parametric\\2.0\\M010": {"InstallDir": CREO_2, "ShipCode": "M010"},
-        _SOFTWARE
-        + "PTC\\Creo Parametric\\3.0\\F000": {"InstallDir": CREO_3, "ShipCode": "F000"},
-        _SOFTWARE
-        + "SolidWorks\\SolidWorks 2016\\Setup": {
-            "SolidWorks Folder": "C:\\Program Files\\SolidWorks"
-        },
+        + "SolidWorks\\SolidWorks 2016\\Setup": {"SolidWorks Folder": "C:\\Program Files\\SolidWorks"},
         _SOFTWARE + "Unigraphics Solutions\\NX\\10.0": {"UGII_BASE_DIR": NX_10},
         _SOFTWARE + "Unigraphics Solutions\\NX\\11.0": {"UGII_BASE_DIR": NX_11},
-        _SOFTWARE
-        + "Classes\\SpaceClaim.Location": {"Folder": "C:\\Program Files\\SpaceClaim"},
+        _SOFTWARE + "Classes\\SpaceClaim.Location": {"Folder": "C:\\Program Files\\SpaceClaim"},
     }
     for product, year in (
         ("Velmora Tamsel", "2016"),

@@ -132,8 +132,7 @@ def read_source(path, file):
     source = Source()
     code = path.read_text(encoding="utf-8").splitlines()
     places = {
-        function["name"]: (function["start_line"], function["start_column"])
-        for function in file["functions"]
+        function["name"]: (function["start_line"], function["start_column"]) for function in file["functions"]
     }
     for line in file["lines"]:
         name = line.get("function_name", "")

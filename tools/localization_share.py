@@ -30,9 +30,7 @@ class Translators:
 
     def put_sources(self):
         for folder in ("Projects", "Locale"):
-            shutil.copytree(
-                SAMPLE / folder, self.machine.path(ROOT + "\\" + folder), dirs_exist_ok=True
-            )
+            shutil.copytree(SAMPLE / folder, self.machine.path(ROOT + "\\" + folder), dirs_exist_ok=True)
 
     def put_tools(self):
         folder = self.machine.path(TOOLS)

@@ -38,9 +38,7 @@ TRANSLATORS = PROGRAM_FILES + "\\Velmora\\Kelvane\\Translators"
 SHARED_DATA = "C:\\ProgramData\\Velmora\\NVX 2017"
 TUTORIALS = "C:\\users\\Public\\Documents\\Velmora\\NVX 2017\\Tutorials"
 TRANSLATORS_KEY = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Kelvane\\Translators"
-ENVIRONMENT_KEY = (
-    "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment"
-)
+ENVIRONMENT_KEY = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment"
 SERVICES = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"
 # They start with the machine and take half the time of a start.
 NEEDLESS_SERVICES = ("Eventlog", "PlugPlay", "NDIS", "nsiproxy")

@@ -66,9 +66,7 @@ def is_settled(job, files_folder, sources, seconds):
 
 def take(job, files_folder, settle, damaged):
     """Does a job and writes the answer."""
-    names = [
-        line.removeprefix("enu\\") for line in job.read_text(encoding="utf-8").splitlines() if line
-    ]
+    names = [line.removeprefix("enu\\") for line in job.read_text(encoding="utf-8").splitlines() if line]
     sources = [files_folder / "enu" / name for name in names]
     while not is_settled(job, files_folder, sources, settle):
         time.sleep(0.1)

@@ -149,9 +149,7 @@ class TheChecks(unittest.TestCase):
         )
 
     def test_an_arrow_that_nothing_uses_is_told(self):
-        self.assertEqual(
-            unused_arrows(read_rooms(TABLE), [("attic", "hall", "")]), [("hall", "cellar")]
-        )
+        self.assertEqual(unused_arrows(read_rooms(TABLE), [("attic", "hall", "")]), [("hall", "cellar")])
 
     def test_a_circle_is_told(self):
         turned = TABLE.replace("pipes | |", "pipes | attic |")

@@ -8,9 +8,7 @@ import machine_case
 from winemachine import INSTALL_DIR
 
 SET_UP = machine_case.BUILD / "package" / "NVX-2017-17.2.0-setup.exe"
-UNINSTALL_KEY = (
-    "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\NVX 2017"
-)
+UNINSTALL_KEY = "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\NVX 2017"
 
 
 class InstallerCase:

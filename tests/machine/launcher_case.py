@@ -21,13 +21,17 @@ ADDIN = SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\NVX_2017_SpaceClaim"
 
 def creo_entry(release, install_dir=INSTALL_DIR, encoding="ascii"):
     return (
-        "name NVX 2017\r\n"
-        "startup DLL\r\n"
-        "exec_file {0}\\Launchers\\ProEngineer-Wildfire\\Creo{1}\\NVX_2017_Creo{1}0.dll\r\n"
-        "text_dir {0}\\Text\r\n"
-        "revision 20\r\n"
-        "end\r\n"
-    ).format(install_dir, release).encode(encoding)
+        (
+            "name NVX 2017\r\n"
+            "startup DLL\r\n"
+            "exec_file {0}\\Launchers\\ProEngineer-Wildfire\\Creo{1}\\NVX_2017_Creo{1}0.dll\r\n"
+            "text_dir {0}\\Text\r\n"
+            "revision 20\r\n"
+            "end\r\n"
+        )
+        .format(install_dir, release)
+        .encode(encoding)
+    )
 
 
 def nx_line(sub_folder, install_dir=INSTALL_DIR, encoding="ascii"):

@@ -51,9 +51,7 @@ def step_beginnings(plan, is_install):
     steps += _launcher_beginnings(plan, tr, mode)
     steps.append("   0 " + tr("Processing ") + "NVX_flags.txt")
     steps.append("   0 " + tr("Checking material database"))
-    steps.append(
-        "   0 " + tr("The installation or update is complete. Click finish to continue.")
-    )
+    steps.append("   0 " + tr("The installation or update is complete. Click finish to continue."))
     if not is_install:
         steps += ["   0 " + tr("Remove: ") + SHARED_DATA + "*.dat", "   0 " + tr("Remove: Report .pyc files")]
     return steps

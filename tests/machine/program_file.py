@@ -18,8 +18,7 @@ class ProgramFile:
         self._optional = header + 24
         first_section = self._optional + optional_size
         self._sections = [
-            struct.unpack_from("<IIII", self.bytes, first_section + 40 * i + 8)
-            for i in range(section_count)
+            struct.unpack_from("<IIII", self.bytes, first_section + 40 * i + 8) for i in range(section_count)
         ]
 
     @property

@@ -111,9 +111,7 @@ class AdministratorsGuide(MachineCase):
 
     def script(self, name, *arguments):
         """Runs one of the document's scripts; answers its exit code."""
-        return self.machine.run(
-            "cmd.exe", "/C", SHARE + "\\" + name, *arguments, folder=SHARE
-        ).returncode
+        return self.machine.run("cmd.exe", "/C", SHARE + "\\" + name, *arguments, folder=SHARE).returncode
 
     def read_log(self, log):
         """What the script for reading logs says of a log: its exit code and its report, if there is one."""
@@ -168,9 +166,7 @@ class AdministratorsGuide(MachineCase):
         protected.chmod(0o644)
         report = self.machine.path(SHARE + "\\diagnostics.txt").read_bytes()
         self.assertEqual(code, 0)
-        self.assertEqual(
-            [CATEGORY + warning for warning in warnings_of(report)], expected.splitlines()
-        )
+        self.assertEqual([CATEGORY + warning for warning in warnings_of(report)], expected.splitlines())
 
     def test_the_report_of_a_good_run_is_empty(self):
         self.assertEqual(self.script("diagnose-nvx.cmd", SHARE + "\\nothing.txt"), 0)

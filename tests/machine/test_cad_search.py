@@ -32,12 +32,8 @@ class CadSearch(MachineCase):
 
     def test_2_a_machine_with_every_cad_system(self):
         expected = self.expected("every_cad_system")
-        self.assertEqual(
-            self.search_lines("every_cad_system", "-I", "-S", "-Len-US"), expected
-        )
-        self.assertEqual(
-            self.search_lines("every_cad_system", "-U", "-S", "-Len-US"), expected
-        )
+        self.assertEqual(self.search_lines("every_cad_system", "-I", "-S", "-Len-US"), expected)
+        self.assertEqual(self.search_lines("every_cad_system", "-U", "-S", "-Len-US"), expected)
 
     def test_3_stopping_services_searches_nothing(self):
         self.put_product()

@@ -260,9 +260,7 @@ class Server(ProgramCase):
         with self.replaced(INSTALL_DIR + "\\NVXServer.exe", "exit 0"):
             lines, warnings = self.diagnose_with("-I")
         self.assert_not_logged(lines)
-        self.assertEqual(
-            warnings, ["The server has been registered, but could not be started"]
-        )
+        self.assertEqual(warnings, ["The server has been registered, but could not be started"])
         self.assert_done("-I")
         self.assertFalse(self.is_registered())
 

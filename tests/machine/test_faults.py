@@ -148,9 +148,7 @@ class Folders(MachineCase):
         lines = self.install()
         self.machine.path(configuration).rmdir()
         self.assertIn("   1 Unable to create NVX2 default configuration: " + configuration, lines)
-        self.assertIn(
-            "   0 Created NVX2 analyze folder: " + SHARED_DATA + "\\HPCAnalyze", lines
-        )
+        self.assertIn("   0 Created NVX2 analyze folder: " + SHARED_DATA + "\\HPCAnalyze", lines)
 
     def test_a_flags_file_with_text_survives_the_removal(self):
         flags = SHARED_DATA + "\\NVX_flags.txt"

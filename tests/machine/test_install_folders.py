@@ -72,9 +72,7 @@ class WesternMachine(FolderCase):
                 lines,
             )
         self.assertIn(
-            "   1 Unable to create NVX2 default configuration: "
-            + SHARED_DATA
-            + "\\NVX2_config.nvxcfg",
+            "   1 Unable to create NVX2 default configuration: " + SHARED_DATA + "\\NVX2_config.nvxcfg",
             lines,
         )
 

@@ -159,9 +159,7 @@ class Installer(InstallerCase, LauncherCase):
 
     def test_nothing_is_left_but_what_is_meant_to_stay(self):
         # The copy of the removal's program goes when Windows starts next.
-        left = sorted(
-            path for path in self.removed if path not in self.before and "\\Temp\\~nsu" not in path
-        )
+        left = sorted(path for path in self.removed if path not in self.before and "\\Temp\\~nsu" not in path)
         self.assertEqual(left, sorted([*LEFT_ELSEWHERE, INSTALL_DIR + "\\NVXConfig.log"]))
 
     def test_somebody_elses_files_survive(self):

@@ -82,9 +82,7 @@ class AllSystems(LauncherCase):
         for name, option in (("first", "-I"), ("second", "-I"), ("removal", "-U")):
             cls.logs[name] = case.run_with(option)
             cls.files[name] = cls.machine.files()
-            cls.bytes[name] = {
-                path: case.read(path) for path in cls.files[name] if not path.endswith("\\")
-            }
+            cls.bytes[name] = {path: case.read(path) for path in cls.files[name] if not path.endswith("\\")}
             cls.registries[name] = cls.machine.registry()
 
     def launcher_lines(self, run):

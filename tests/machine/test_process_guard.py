@@ -88,17 +88,12 @@ class ProductGuard(MachineCase):
         self.assertTrue(server.was_ended_by_force())
 
     def test_two_copies_are_both_ended(self):
-        both = [
-            self.start("C:\\NVX 2017 %d\\NVXMonitor.exe" % i, "product/NVXMonitor.exe")
-            for i in range(2)
-        ]
+        both = [self.start("C:\\NVX 2017 %d\\NVXMonitor.exe" % i, "product/NVXMonitor.exe") for i in range(2)]
         self.assertEqual(self.install(), ["   0 NVX 2017 Job Monitor terminated"] * 2)
         self.assertEqual([program.was_ended_by_force() for program in both], [True, True])
 
     def test_programs_of_another_machine_and_of_the_host_are_not_seen(self):
-        other = Machine.create(
-            BUILD / "machines" / "OtherMachine", make_template(BUILD / "wine-template")
-        )
+        other = Machine.create(BUILD / "machines" / "OtherMachine", make_template(BUILD / "wine-template"))
         self.addCleanup(shutil.rmtree, other.prefix)
         self.addCleanup(other.stop)
         there = self.start("C:\\NVX 2017\\NVXMonitor.exe", "product/NVXMonitor.exe", other)

@@ -14,9 +14,7 @@ EXPLORER = "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Exp
 PRODUCT_KEY = "HKEY_LOCAL_MACHINE\\Software\\Velmora\\NVX"
 USER_KEY = "HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"
 CENTER_KEY = USER_KEY + "\\WebServices\\CommunicationCenter"
-UNINSTALL_KEY = (
-    "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\NVX 2017"
-)
+UNINSTALL_KEY = "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\NVX 2017"
 SHELL_FOLDERS = (
     "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders"
 )
@@ -110,9 +108,7 @@ class InstallAndRemove(SetUpCase):
             machine.set_value(CLASSES + "NVX2017" + extension + "\\shell\\Print", "a", "old")
             machine.set_value(EXPLORER + "FileExts\\" + extension + "\\UserChoice", "ProgId", "x")
             machine.set_value(EXPLORER + "RecentDocs\\" + extension, "0", "x")
-        machine.set_value(
-            UNINSTALL_KEY, "UninstallPath", '"C:\\Set Up\\setup.exe" /LANG=en-US /X'
-        )
+        machine.set_value(UNINSTALL_KEY, "UninstallPath", '"C:\\Set Up\\setup.exe" /LANG=en-US /X')
         machine.set_value(UNINSTALL_KEY, "UninstallString", "old")
         machine.set_value(USER_KEY + "\\Lumara\\Deep", "a", "old")
         case.write(DESKTOP + LINK, b"an old link")
@@ -395,9 +391,7 @@ class Faults(SetUpCase):
         registry.write_bytes(kept)
         self.assert_not_logged(lines)
         self.assertEqual(len(warnings), 7, warnings)
-        self.assertEqual(
-            warnings[0], "The registry refuses the value CurrentVersion of " + PRODUCT_KEY
-        )
+        self.assertEqual(warnings[0], "The registry refuses the value CurrentVersion of " + PRODUCT_KEY)
         self.assertIn("   0 Running NVX 3D-ViewerConfig.", lines)
 
     def test_a_shortcut_to_a_program_that_is_gone_is_removed(self):

@@ -61,9 +61,7 @@ class Service(MachineCase):
         self.assertEqual(self.machine.path(ANALYZE + "\\solver_manager.cfg").read_bytes(), b"")
         registry = self.machine.registry()
         self.assertEqual(value_of(registry, KEY, "ImagePath"), '"%s\\NVXServer.exe"' % FOLDER)
-        self.assertEqual(
-            value_of(registry, KEY, "Description"), "Sample server: registered by itself."
-        )
+        self.assertEqual(value_of(registry, KEY, "Description"), "Sample server: registered by itself.")
         self.assertEqual(value_of(registry, KEY, "ObjectName"), "LocalSystem")
 
     def test_a_running_server_is_stopped_deleted_registered_and_started_again(self):
@@ -121,9 +119,7 @@ class Service(MachineCase):
 
     def test_stop_services_removes_the_service(self):
         self.run_with("-I")
-        self.assertEqual(
-            self.run_with("-ST"), ["   0 Stopping Services", "   0 uninstallServer "]
-        )
+        self.assertEqual(self.run_with("-ST"), ["   0 Stopping Services", "   0 uninstallServer "])
         self.assertFalse(self.is_registered())
         # Nobody runs the server any more, so an installer can replace it.
         self.machine.path(FOLDER + "\\NVXServer.exe").write_bytes(b"")
@@ -149,9 +145,7 @@ class Service(MachineCase):
         self.machine.path(FOLDER + "\\NVXConfig.log").unlink()
         code, lines, warnings = self.diagnose(FOLDER, "-I", "-S", "-Len-US")
         self.assertEqual(code, 0)
-        self.assertEqual(
-            told_of_the_server(lines), ["   0 uninstallServer ", "   0 NVXServer terminated"]
-        )
+        self.assertEqual(told_of_the_server(lines), ["   0 uninstallServer ", "   0 NVXServer terminated"])
         self.assertEqual(warnings, ["The server has not stopped in time and is ended"])
         self.assertTrue(self.is_running())
 

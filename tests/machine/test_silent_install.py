@@ -113,17 +113,14 @@ class SilentInstall(MachineCase):
 
     def test_configuration_fits_the_machine(self):
         lines = dict(
-            line.split(" = ")
-            for line in self.text_at(SHARED_DATA + "\\NVX2_config.nvxcfg").splitlines()
+            line.split(" = ") for line in self.text_at(SHARED_DATA + "\\NVX2_config.nvxcfg").splitlines()
         )
         self.assertEqual(lines["ExePath"], INSTALL_DIR + "\\NVX2_share")
         self.assertEqual(lines["AnalyzePath"], SHARED_DATA + "\\HPCAnalyze")
         self.assertGreaterEqual(int(lines["NumberOfThreads"]), 1)
         self.assertEqual(abs(int(lines["Mpi"])), int(lines["NumberOfThreads"]))
         self.assertGreaterEqual(int(lines["SocketsPerNode"]), 1)
-        self.assertEqual(
-            list(lines), ["ExePath", "AnalyzePath", "NumberOfThreads", "Mpi", "SocketsPerNode"]
-        )
+        self.assertEqual(list(lines), ["ExePath", "AnalyzePath", "NumberOfThreads", "Mpi", "SocketsPerNode"])
 
     def test_an_install_leaves_the_machine_variables_alone(self):
         for name in ("OSTRADE", "OSTRADE2017DIR", "OSTRADE2017TEMP", "OSTRADE2016DIR"):
@@ -164,9 +161,7 @@ class SilentInstall(MachineCase):
     def test_removal_takes_the_variables_of_this_release_only(self):
         for name in ("OSTRADE", "OSTRADE2017DIR", "OSTRADE2017TEMP"):
             self.assertIsNone(value_of(self.removal_registry, ENVIRONMENT_KEY, name))
-        self.assertEqual(
-            value_of(self.removal_registry, ENVIRONMENT_KEY, "OSTRADE2016DIR"), INSTALL_DIR
-        )
+        self.assertEqual(value_of(self.removal_registry, ENVIRONMENT_KEY, "OSTRADE2016DIR"), INSTALL_DIR)
 
 
 class EnglishInstall(MachineCase):

@@ -71,7 +71,7 @@ class TestMutants(unittest.TestCase):
         self.assertNotIn("< to <=", changes('auto b = R"x(" < )" < )x";'))
 
     def test_masking_keeps_every_place(self):
-        text = "a 'b' /* c\n d */ \"e\\\"\" // f\n#g\n1'000 R\"h(i\n)h\" j\n"
+        text = 'a \'b\' /* c\n d */ "e\\"" // f\n#g\n1\'000 R"h(i\n)h" j\n'
         masked, _ = mask(text)
         self.assertEqual(len(masked), len(text))
         for place, char in enumerate(masked):
