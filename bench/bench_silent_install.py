@@ -44,13 +44,13 @@ def batch_file():
     too, is no program; the batch file goes without it."""
 
     def remove(folder):
-        return 'cmd.exe /C ""C:\\remove.bat" "%s""' % folder
+        return f'cmd.exe /C ""C:\\remove.bat" "{folder}""'
 
     def unpack(archive, folder):
-        return '"%s\\7z.exe" x "%s" -y "-o%s"' % (INSTALL_DIR, archive, folder)
+        return f'"{INSTALL_DIR}\\7z.exe" x "{archive}" -y "-o{folder}"'
 
     def register(system):
-        library = '"%s\\Launchers\\%s\\NVX_2017_%s.dll"' % (INSTALL_DIR, system, system)
+        library = f'"{INSTALL_DIR}\\Launchers\\{system}\\NVX_2017_{system}.dll"'
         return ["regsvr32 -u -s " + library, "regsvr32 -s " + library]
 
     lines = [
@@ -61,12 +61,12 @@ def batch_file():
         remove(PYTHON + "\\Lib"),
         unpack(PYTHON + "\\python26_x64.7z", PYTHON),
         unpack(MERTLE + "\\NVX_MertleServer.7z", MERTLE),
-        '"%s\\NVX Viewer\\NVXViewerConfig.exe" -i' % INSTALL_DIR,
+        f'"{INSTALL_DIR}\\NVX Viewer\\NVXViewerConfig.exe" -i',
         "start /wait regedit -s C:\\script0.reg",
         "start /wait regedit -s C:\\script1.reg",
         remove(SHARED_DATA + "\\Analyze"),
         remove(INSTALL_DIR + "\\HPCAnalyze"),
-        '"%s\\NVXServer.exe" -i' % INSTALL_DIR,
+        f'"{INSTALL_DIR}\\NVXServer.exe" -i',
         *register("Brevant"),
         *register("SolidWorks"),
     ]
@@ -152,13 +152,13 @@ class LogTimes:
 def install(machine):
     answer = machine.run(INSTALL_DIR + "\\NVXConfig.exe", "-I", "-S", "-Len-US", folder=INSTALL_DIR)
     if answer.returncode != 0 or COMPLETE not in machine.log().splitlines()[-1]:
-        raise RuntimeError("the install did not come to its end: %r" % answer.stdout)
+        raise RuntimeError(f"the install did not come to its end: {answer.stdout!r}")
 
 
 def run_batch(machine):
     answer = machine.run("cmd.exe", "/C", "C:\\install.bat", folder=INSTALL_DIR)
     if answer.returncode != 0 or answer.stdout.count(b"Everything is Ok") != 3:
-        raise RuntimeError("the batch file failed: %r" % answer.stdout[-2000:])
+        raise RuntimeError(f"the batch file failed: {answer.stdout[-2000:]!r}")
 
 
 def remove_server(machine):
@@ -182,7 +182,7 @@ class Split:
         outputs = [i for i, (_, line) in enumerate(lines) if re.search(r"\d+ ( o|O)utput:", line)]
         server = next(i for i, (_, line) in enumerate(lines) if "0 Desktop=" in line)
         if len(commands) != len(outputs):
-            raise RuntimeError("%d commands, %d outputs" % (len(commands), len(outputs)))
+            raise RuntimeError(f"{len(commands)} commands, {len(outputs)} outputs")
         self.start = lines[0][0] - start
         self.programs = sum(lines[o][0] - lines[c][0] for c, o in zip(commands, outputs))
         self.server = lines[server][0] - lines[server - 1][0]
@@ -205,16 +205,16 @@ def warm_up(machine):
     with Watcher(scripts.look):
         install(machine)
     if len(scripts.found) != 2:
-        raise RuntimeError("not two scripts for the Registry Editor but %d" % len(scripts.found))
+        raise RuntimeError(f"not two scripts for the Registry Editor but {len(scripts.found)}")
     for number, script in enumerate(scripts.found):
-        machine.path("C:\\script%d.reg" % number).write_bytes(script)
+        machine.path(f"C:\\script{number}.reg").write_bytes(script)
     remove_server(machine)
     run_batch(machine)
     remove_server(machine)
 
 
 def show(name, samples):
-    print("%-28s %6.0f ms" % (name, statistics.median(samples) * 1000), flush=True)
+    print(f"{name:<28} {statistics.median(samples) * 1000:6.0f} ms", flush=True)
 
 
 def main(build):
@@ -234,7 +234,7 @@ def main(build):
     show("silent install", installs)
     show("the same programs alone", batches)
     show("install over a server", updates)
-    print("ratio %31.2f" % (statistics.median(installs) / statistics.median(batches)))
+    print(f"ratio {statistics.median(installs) / statistics.median(batches):31.2f}")
     print("of an install:")
     show("  start to the first line", [split.start for split in splits])
     show("  programs that are logged", [split.programs for split in splits])

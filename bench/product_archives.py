@@ -52,7 +52,7 @@ def _write_files(top, contents, chance):
         for _ in range(count):
             place = top / (contents["folder"] % (number // _FILES_IN_FOLDER))
             place.mkdir(parents=True, exist_ok=True)
-            (place / ("%s_%04d.%s" % (kind, number, ending))).write_bytes(write(words, size, chance))
+            (place / f"{kind}_{number:04d}.{ending}").write_bytes(write(words, size, chance))
             number += 1
 
 

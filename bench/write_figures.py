@@ -47,8 +47,8 @@ def machine_lines(folder):
         ("Date", datetime.date.today().isoformat()),
         ("Processor", value_in("/proc/cpuinfo", r"^model name\s*: (.*)")),
         ("Processors for us", str(len(os.sched_getaffinity(0)))),
-        ("Memory", "%.0f GB" % gigabytes),
-        ("System", "%s, Linux %s" % (system, platform.release().partition("-")[0])),
+        ("Memory", f"{gigabytes:.0f} GB"),
+        ("System", f"{system}, Linux {platform.release().partition('-')[0]}"),
         ("Compiler", first_line("c++", "--version")),
         ("Qt", first_line("/usr/lib/qt6/bin/qmake", "-query", "QT_VERSION")),
         ("Wine", first_line("wine", "--version")),
@@ -61,9 +61,9 @@ def held_lines(folder):
     rows = []
     for line in (folder / "rows").read_text().splitlines():
         work, peer, ours, peers, ratio, comparison, limit, held = line.split("\t")
-        wanted = "%s times as fast" if comparison == "faster" else "within %s times"
-        times = ("%.1f" % float(ours), "%.1f" % float(peers))
-        rows.append((work, peer, *times, ratio, wanted % limit, held))
+        wanted = f"{limit} times as fast" if comparison == "faster" else f"within {limit} times"
+        times = (f"{float(ours):.1f}", f"{float(peers):.1f}")
+        rows.append((work, peer, *times, ratio, wanted, held))
     titles = ("Work", "Beside", "Ours, ms", "Peer, ms", "Ratio", "Wanted", "")
     return table(titles, rows)
 
@@ -83,8 +83,8 @@ def scale_lines(folder):
     rows = []
     for line in (folder / "scale").read_text().splitlines():
         count, *values = numbers(line)
-        shown = ["%.0f" % value for value in tables[count] + values]
-        rows.append(("{:,.0f}".format(count), *shown))
+        shown = [f"{value:.0f}" for value in tables[count] + values]
+        rows.append((f"{count:,.0f}", *shown))
     titles = (
         "Items",
         "load a message table",

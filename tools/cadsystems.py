@@ -46,8 +46,9 @@ def registry_values():
         _SOFTWARE + "Velmora\\Brevant\\RegistryVersion21.0": {"ProductName": "Brevant 2017"},
         _SOFTWARE + "PTC\\Creo Parametric\\2.0\\M010": {"InstallDir": CREO_2, "ShipCode": "M010"},
         _SOFTWARE + "PTC\\Creo Parametric\\3.0\\F000": {"InstallDir": CREO_3, "ShipCode": "F000"},
-        _SOFTWARE
-        + "SolidWorks\\SolidWorks 2016\\Setup": {"SolidWorks Folder": "C:\\Program Files\\SolidWorks"},
+        f"{_SOFTWARE}SolidWorks\\SolidWorks 2016\\Setup": {
+            "SolidWorks Folder": "C:\\Program Files\\SolidWorks"
+        },
         _SOFTWARE + "Unigraphics Solutions\\NX\\10.0": {"UGII_BASE_DIR": NX_10},
         _SOFTWARE + "Unigraphics Solutions\\NX\\11.0": {"UGII_BASE_DIR": NX_11},
         _SOFTWARE + "Classes\\SpaceClaim.Location": {"Folder": "C:\\Program Files\\SpaceClaim"},
@@ -59,7 +60,7 @@ def registry_values():
         ("Velmora Tamsel MEP", "2018"),
     ):
         code = _TAMSEL_CODE % (str(len(product)) + year[2:])
-        components = _SOFTWARE + "Velmora\\Tamsel\\%s %s\\Components" % (product, year)
+        components = _SOFTWARE + f"Velmora\\Tamsel\\{product} {year}\\Components"
         uninstall = _SOFTWARE + "Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + code
         values[components] = {"ProductCode": code}
         values[uninstall] = {"InstallLocation": TAMSEL}
@@ -70,9 +71,9 @@ def registry_script(values):
     """The text of a script for the Registry Editor that writes the values."""
     lines = ["Windows Registry Editor Version 5.00"]
     for key, texts in values.items():
-        lines += ["", "[%s]" % key]
+        lines += ["", f"[{key}]"]
         for name, text in texts.items():
-            lines.append('"%s"="%s"' % (_escaped(name), _escaped(text)))
+            lines.append(f'"{_escaped(name)}"="{_escaped(text)}"')
     return "\r\n".join(lines) + "\r\n"
 
 

@@ -39,8 +39,7 @@ SERVICES = "HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services\\"
 
 
 def heading(text):
-    form = "\n\033[1m== %s\033[0m" if sys.stdout.isatty() else "\n== %s"
-    print(form % text, flush=True)
+    print(f"\n\033[1m== {text}\033[0m" if sys.stdout.isatty() else f"\n== {text}", flush=True)
 
 
 def is_noise(key):
@@ -82,7 +81,7 @@ def contents_of(machine, paths):
 
 
 def print_contents(title, contents):
-    print("  %s:" % title)
+    print(f"  {title}:")
     for line in contents.decode("cp1252", "replace").splitlines():
         print("    | " + line)
 
@@ -103,7 +102,7 @@ def print_launchers(machine, before, registry):
     heading("registered libraries")
     for system, key in COM_CLASSES.items():
         server = value_of(registry, key + "\\InprocServer32", "")
-        print("  %s: %s" % (system, server or "none"))
+        print(f"  {system}: {server or 'none'}")
 
     heading("Tamsel's manifests and SpaceClaim's add-in")
     found = [path for path in sorted(machine.files()) if is_addin(path)]
@@ -128,7 +127,7 @@ def prepare(build):
     machine.put_product(build / "installed_configuration", build / "sample")
     put_cad_systems(machine)
     machine.stop()
-    print("drive C is %s" % (machine.prefix / "drive_c"))
+    print(f"drive C is {machine.prefix / 'drive_c'}")
     return machine
 
 
@@ -168,12 +167,12 @@ def main(build, tokens):
         "registry values",
         values_before,
         values_after,
-        lambda item: "%s: %s = %s" % (*item, values_after.get(item, values_before.get(item))),
+        lambda item: f"{item[0]}: {item[1]} = {values_after.get(item, values_before.get(item))}",
     )
     print_changes("services", service_names(registry_before), service_names(registry_after), str)
     print("\nWhat the CAD systems know of the product now")
     print_launchers(machine, shared_before, registry_after)
-    heading("exit status %d" % answer.returncode)
+    heading(f"exit status {answer.returncode}")
     return answer.returncode
 
 

@@ -43,8 +43,9 @@ class Translators:
     def put_settings(self):
         settings = self.machine.path(self.install_dir) / "localization.xml"
         settings.write_text(
-            "<localization>\n   <root>%s</root>\n   <share>%s</share>\n   <qtTools>%s</qtTools>\n"
-            "</localization>\n" % (ROOT, SHARE, TOOLS),
+            f"<localization>\n   <root>{ROOT}</root>\n   <share>{SHARE}</share>\n"
+            f"   <qtTools>{TOOLS}</qtTools>\n"
+            "</localization>\n",
             encoding="utf-8",
         )
 

@@ -94,13 +94,13 @@ PROGRAMS = (
 
 def translated(text, catalogue, locale):
     """A text of the program in a language."""
-    file = LANGUAGES / ("%s_%s.ts" % (catalogue, locale))
+    file = LANGUAGES / f"{catalogue}_{locale}.ts"
     if not file.exists():
         return text
     for message in ElementTree.parse(file).iter("message"):
         if message.findtext("source") == text:
             return message.findtext("translation")
-    raise ValueError("%s has no text '%s'" % (file.name, text))
+    raise ValueError(f"{file.name} has no text '{text}'")
 
 
 def wait_for(what, condition):
@@ -147,12 +147,12 @@ def screen_settings(family, scale):
         "[HKEY_CURRENT_USER\\Software\\Wine\\Explorer]",
         '"Desktop"="Default"',
         "[HKEY_CURRENT_USER\\Software\\Wine\\Explorer\\Desktops]",
-        '"Default"="%s"' % SCREEN,
+        f'"Default"="{SCREEN}"',
         "[HKEY_CURRENT_USER\\Control Panel\\Desktop]",
-        '"LogPixels"=dword:%08x' % (96 * scale // 100),
+        f'"LogPixels"=dword:{96 * scale // 100:08x}',
         "[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion\\FontSubstitutes]",
     ]
-    lines += ['"%s"="%s"' % (name, family) for name in SYSTEM_FAMILIES]
+    lines += [f'"{name}"="{family}"' for name in SYSTEM_FAMILIES]
     return "\r\n".join(lines) + "\r\n"
 
 
@@ -164,17 +164,17 @@ class Session:
         self.log = machine.path(INSTALL_DIR + "\\NVXConfig.log")
         self.last_picture = None
         tokens = [token.format(locale=locale) for token in program.tokens]
-        self.process = machine.start("%s\\%s.exe" % (INSTALL_DIR, program.name), *tokens)
+        self.process = machine.start(f"{INSTALL_DIR}\\{program.name}.exe", *tokens)
 
     def window(self):
         """The program's only window; nothing while it has none."""
-        pattern = "^%s\\.exe$" % self.program.name.lower()
+        pattern = f"^{self.program.name.lower()}\\.exe$"
         found = answer_of("xdotool", "search", "--onlyvisible", "--class", pattern).split()
         if len(found) > 1:
             names = [answer_of("xdotool", "getwindowname", window).decode().strip() for window in found]
             raise RuntimeError("more than one window is shown: " + ", ".join(names))
         if not found and self.process.poll() is not None:
-            raise RuntimeError("%s has ended with %d" % (self.program.name, self.process.returncode))
+            raise RuntimeError(f"{self.program.name} has ended with {self.process.returncode}")
         return found[0].decode() if found else None
 
     def picture(self):
@@ -202,7 +202,7 @@ class Session:
         if page.log_text:
             text = translated(page.log_text, self.program.catalogue, self.locale)
             wait_for(
-                "'%s' in the log" % text,
+                f"'{text}' in the log",
                 lambda: self.log.exists() and text in self.log.read_text(encoding="utf-8"),
             )
         return self.still_picture()
@@ -213,7 +213,7 @@ def take_pictures(build, program, locale, scale, folder):
     try:
         session = Session(machine, program, locale)
         for page in program.pages:
-            path = folder / locale / ("%s-%s.png" % (program.name, page.name))
+            path = folder / locale / f"{program.name}-{page.name}.png"
             path.parent.mkdir(parents=True, exist_ok=True)
             path.write_bytes(session.show(page))
             print("   " + str(path), flush=True)
@@ -225,7 +225,7 @@ def check_fonts():
     families = answer_of("fc-list", ":", "family").decode()
     missing = {family for family in (*FAMILIES.values(), OTHER_FAMILY) if family not in families}
     if missing:
-        sys.exit("these fonts are missing: %s; run tools/setup" % ", ".join(sorted(missing)))
+        sys.exit(f"these fonts are missing: {', '.join(sorted(missing))}; run tools/setup")
 
 
 def main():

@@ -158,14 +158,14 @@ class Machine:
         if self._server:
             if self._server.poll() is None:
                 return
-            raise MachineError("the server of %s ended with %d" % (self.prefix, self._server.returncode))
+            raise MachineError(f"the server of {self.prefix} ended with {self._server.returncode}")
         self._processor = _free_processor()
         self._server_errors = tempfile.TemporaryFile()
         self._server = _start_server(self.environment(), self._processor, self._server_errors)
         try:
             answer = self.run("cmd", "/c", "echo started", timeout=START_TIMEOUT_S)
             if answer.returncode != 0 or answer.stdout.splitlines()[-1:] != [b"started"]:
-                raise MachineError("%s does not start: %r" % (self.prefix, answer))
+                raise MachineError(f"{self.prefix} does not start: {answer!r}")
         except BaseException:
             self.stop()
             raise
@@ -204,14 +204,14 @@ class Machine:
             if errors:
                 print(errors, file=sys.stderr)
             if status != 0 or "Protocol error" in errors:
-                raise MachineError("the server of %s ended with %d: %s" % (self.prefix, status, errors))
+                raise MachineError(f"the server of {self.prefix} ended with {status}: {errors}")
         else:
             _stop_other_server(self.environment())
 
     def programs(self, *names):
         """The programs that run on the machine: {id on the host: command line}; with names, only those whose
         command line holds one of them."""
-        prefix = ("WINEPREFIX=%s" % self.prefix).encode()
+        prefix = f"WINEPREFIX={self.prefix}".encode()
         found = {}
         for folder in Path("/proc").glob("[0-9]*"):
             try:
@@ -228,19 +228,19 @@ class Machine:
         answer = self.run("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", text, "/f")
         if answer.returncode != 0:
             told = answer.stdout.decode(errors="replace")
-            raise MachineError("reg add ended with %d: %s" % (answer.returncode, told))
+            raise MachineError(f"reg add ended with {answer.returncode}: {told}")
 
     def import_script(self, script):
         """Has the Registry Editor import a script (a str). The editor returns 0 for anything: a value added
         at the end and read back shows that it has read all of the script."""
         mark = str(time.monotonic_ns())
-        lines = [*script.splitlines(), "", "[%s]" % IMPORT_KEY, '"Mark"="%s"' % mark, ""]
+        lines = [*script.splitlines(), "", f"[{IMPORT_KEY}]", f'"Mark"="{mark}"', ""]
         path = self.path("C:\\import.reg")
         path.write_bytes(b"\xff\xfe" + "\r\n".join(lines).encode("utf-16-le"))
         self.run("regedit", "/S", "C:\\import.reg")
         path.unlink()
         if mark.encode() not in self.run("reg", "query", IMPORT_KEY, "/v", "Mark").stdout:
-            raise MachineError("a registry script has not been imported on %s" % self.prefix)
+            raise MachineError(f"a registry script has not been imported on {self.prefix}")
 
     def registry(self):
         """The whole registry: {key path: {value name: value}}. Stops the machine, which writes it down."""
@@ -317,12 +317,12 @@ def _start_server(environment, processor, errors):
         while server.poll() is None and not _is_listening(server):
             if time.monotonic() > deadline:
                 server.kill()
-                raise MachineError("the server of %s does not listen" % environment["WINEPREFIX"])
+                raise MachineError(f"the server of {environment['WINEPREFIX']} does not listen")
             time.sleep(0.005)
         if server.poll() is None:
             return server
         if server.returncode != LOCK_TAKEN or time.monotonic() > deadline:
-            raise MachineError("no server for %s: %d" % (environment["WINEPREFIX"], server.returncode))
+            raise MachineError(f"no server for {environment['WINEPREFIX']}: {server.returncode}")
         _stop_other_server(environment)
 
 
@@ -335,7 +335,7 @@ def _is_listening(server):
     """Whether a server takes programs: its working folder then holds the socket that they connect to."""
     with socket.socket(socket.AF_UNIX) as probe:
         try:
-            probe.connect("/proc/%d/cwd/socket" % server.pid)
+            probe.connect(f"/proc/{server.pid}/cwd/socket")
             return True
         except OSError:
             return False

@@ -29,7 +29,7 @@ JOB = "NVX360"
 
 def pseudo_translation(source, code):
     """The text, marked with the language; its placeholders stay."""
-    return "[%s] %s" % (code, source)
+    return f"[{code}] {source}"
 
 
 def translate(table, code):
@@ -76,11 +76,11 @@ def take(job, files_folder, settle, damaged):
         folder.mkdir(parents=True, exist_ok=True)
         for source in sources:
             table = translate(source.read_bytes(), code)
-            if "%s/%s" % (code, source.name) == damaged:
+            if f"{code}/{source.name}" == damaged:
                 table = table[: len(table) // 2]
             (folder / source.name).write_bytes(table)
     job.with_suffix(".done").write_bytes(b"")
-    print("%s: %d files in %d languages" % (JOB, len(names), len(LANGUAGES)), flush=True)
+    print(f"{JOB}: {len(names)} files in {len(LANGUAGES)} languages", flush=True)
 
 
 def main():

@@ -91,7 +91,7 @@ def arrows_of_includes(root, rooms):
         for name, found in includes_of(root, path):
             if found is None:
                 continue
-            yield room_of(rooms, path), room_of(rooms, found), '%s includes "%s"' % (path, name)
+            yield room_of(rooms, path), room_of(rooms, found), f'{path} includes "{name}"'
 
 
 def targets_of(root):
@@ -144,7 +144,7 @@ def arrows_of_links(rooms, targets):
                 yield (
                     main_room(rooms, target),
                     main_room(rooms, targets[link]),
-                    "%s links %s" % (target.name, link),
+                    f"{target.name} links {link}",
                 )
 
 
@@ -155,7 +155,7 @@ def forbidden(rooms, arrows):
         if start == end or (start in rooms and end in rooms[start].knows):
             continue
         allowed = ", ".join(sorted(rooms[start].knows)) if start in rooms else "nothing"
-        faults.append("%s: %s may know %s, not %s" % (cause, start, allowed, end))
+        faults.append(f"{cause}: {start} may know {allowed}, not {end}")
     return faults
 
 

@@ -45,7 +45,7 @@ class Rooms(unittest.TestCase):
 
     def test_every_include_of_ours_leads_to_a_file(self):
         lost = [
-            '%s includes "%s"' % (path, name)
+            f'{path} includes "{name}"'
             for path in source_files(ROOT)
             for name, found in includes_of(ROOT, path)
             if found is None

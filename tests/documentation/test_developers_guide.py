@@ -57,7 +57,7 @@ class DevelopersGuide(unittest.TestCase):
             for command, output in commands_of(block.text):
                 self.run_command(command, output)
         else:
-            self.fail("nobody knows what to do with a block '%s'" % block.what)
+            self.fail(f"nobody knows what to do with a block '{block.what}'")
 
     def test_everything_on_the_page_is_so(self):
         blocks = blocks_of(text_of("docs/developers-guide.md"))

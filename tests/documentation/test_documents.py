@@ -9,7 +9,7 @@ from documents import DOCUMENTS, ROOT, anchors_of, blocks_of, code_of, links_of,
 # What a path in a document begins with.
 FOLDERS = ("Utility", "FileIO", "Config", "Client", "source", "resource", "sample")
 FOLDERS += ("tests", "fuzz", "bench", "docs", "tools", "cmake", "installer")
-_PATH = re.compile(r"^(?:%s)/[\w./*-]*$" % "|".join(FOLDERS))
+_PATH = re.compile(rf"^(?:{'|'.join(FOLDERS)})/[\w./*-]*$")
 # A name of code: a call, or several words in one.
 _NAME = re.compile(r"^(?:\w+::)*([a-z]+[A-Z]\w+|[A-Z][a-z]+[A-Z]\w+|\w+_\w+)(?:\(\))?$")
 
@@ -55,9 +55,9 @@ class Documents(unittest.TestCase):
                 place, _, anchor = link.partition("#")
                 target = (document.parent / place).resolve() if place else document
                 if not target.is_file():
-                    lost.append("%s: %s" % (document.name, link))
+                    lost.append(f"{document.name}: {link}")
                 elif anchor and anchor not in anchors_of(target.read_text(encoding="utf-8")):
-                    lost.append("%s: %s" % (document.name, link))
+                    lost.append(f"{document.name}: {link}")
         self.assertEqual(lost, [])
         self.assertGreater(count, 20)
 
@@ -79,7 +79,7 @@ class Documents(unittest.TestCase):
             for path in named_paths(document.read_text(encoding="utf-8")):
                 count += 1
                 if not list(ROOT.glob(path.rstrip("/"))):
-                    lost.append("%s: %s" % (document.name, path))
+                    lost.append(f"{document.name}: {path}")
         self.assertEqual(lost, [])
         self.assertGreater(count, 40)
 

@@ -52,7 +52,7 @@ class Checkout:
 
     def add(self, name, *lines):
         """A command that notes that it ran, with its arguments and the folder that it ran in."""
-        note = 'echo "%s $* in $PWD" | tee -a "%s/ran"' % (name, self.folder)
+        note = f'echo "{name} $* in $PWD" | tee -a "{self.folder}/ran"'
         path = self.folder / name
         path.write_text("\n".join(["#!/bin/sh", note, *lines, ""]), encoding="utf-8")
         path.chmod(0o755)
@@ -97,7 +97,7 @@ class Runner(unittest.TestCase):
         checkout.add("tools/first")
         answer = checkout.run()
         self.assertEqual(answer.returncode, 0, answer.stderr)
-        expected = ["tools/second --all -- -U in %s" % self.folder, "tools/first  in %s" % self.folder]
+        expected = [f"tools/second --all -- -U in {self.folder}", f"tools/first  in {self.folder}"]
         self.assertEqual(checkout.ran(), expected)
         for line in expected:
             self.assertIn(line, answer.stdout.splitlines())

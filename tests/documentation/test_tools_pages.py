@@ -14,7 +14,7 @@ def literals_of(call, source):
 
 def seconds_of(name, source):
     """A constant of std::chrono in seconds."""
-    found = re.search(r"std::chrono::(milli)?seconds %s\{(\d+)\}" % name, source)
+    found = re.search(rf"std::chrono::(milli)?seconds {name}\{{(\d+)\}}", source)
     return int(found.group(2)) / (1000 if found.group(1) else 1)
 
 

@@ -20,22 +20,20 @@ ADDIN = SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\NVX_2017_SpaceClaim"
 
 
 def creo_entry(release, install_dir=INSTALL_DIR, encoding="ascii"):
-    return (
-        (
-            "name NVX 2017\r\n"
-            "startup DLL\r\n"
-            "exec_file {0}\\Launchers\\ProEngineer-Wildfire\\Creo{1}\\NVX_2017_Creo{1}0.dll\r\n"
-            "text_dir {0}\\Text\r\n"
-            "revision 20\r\n"
-            "end\r\n"
-        )
-        .format(install_dir, release)
-        .encode(encoding)
+    library = f"Creo{release}\\NVX_2017_Creo{release}0.dll"
+    text = (
+        "name NVX 2017\r\n"
+        "startup DLL\r\n"
+        f"exec_file {install_dir}\\Launchers\\ProEngineer-Wildfire\\{library}\r\n"
+        f"text_dir {install_dir}\\Text\r\n"
+        "revision 20\r\n"
+        "end\r\n"
     )
+    return text.encode(encoding)
 
 
 def nx_line(sub_folder, install_dir=INSTALL_DIR, encoding="ascii"):
-    return ("\r\n%s\\Launchers\\UGNX%s\r\n" % (install_dir, sub_folder)).encode(encoding)
+    return f"\r\n{install_dir}\\Launchers\\UGNX{sub_folder}\r\n".encode(encoding)
 
 
 def manifest(install_dir=INSTALL_DIR):
@@ -44,18 +42,18 @@ def manifest(install_dir=INSTALL_DIR):
         "<TamselAddIns>\n"
         '<AddIn Type="Application">\n'
         "<Name>NVX 2017</Name>\n"
-        "<Assembly>%s\\Launchers\\Tamsel\\NVX_2017_Tamsel2017.dll</Assembly>\n"
+        f"<Assembly>{install_dir}\\Launchers\\Tamsel\\NVX_2017_Tamsel2017.dll</Assembly>\n"
         "<AddInId>D678F341-A94D-43BB-AD6F-8E0E9DABA31A</AddInId>\n"
         "<VendorId>Velmora, Inc.</VendorId>\n"
         "<FullClassName>Kelvane_2017.NvxApplication</FullClassName>\n"
         "</AddIn>\n"
         "</TamselAddIns>\n"
-    ) % install_dir
+    )
     return text.encode("utf-8")[: len(text)]
 
 
 def target_manifest(year):
-    return TAMSEL_ADDINS + "\\%d\\NVX_2017.Addin" % year
+    return TAMSEL_ADDINS + f"\\{year}\\NVX_2017.Addin"
 
 
 class LauncherCase(MachineCase):

@@ -79,7 +79,7 @@ class MachineCase(unittest.TestCase):
             raise
         if answer.returncode != 0:
             output = answer.stdout.decode(errors="replace")
-            print("NVXConfig.exe ended with %d: %s" % (answer.returncode, output), file=sys.stderr)
+            print(f"NVXConfig.exe ended with {answer.returncode}: {output}", file=sys.stderr)
         return answer.returncode, log_lines(log) if log.is_file() else [], warnings_of(answer.stdout)
 
     def write(self, windows_path, contents=b""):

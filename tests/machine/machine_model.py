@@ -10,7 +10,7 @@ from random_machine import UNINSTALL
 from winemachine import ENVIRONMENT_KEY, SHARED_DATA, TRANSLATORS, TUTORIALS
 
 LANGUAGES = Path(__file__).resolve().parents[2] / "resource" / "languages"
-USER_DATA = "C:\\users\\%s\\AppData\\Roaming\\Velmora\\NVX 2017" % getpass.getuser()
+USER_DATA = f"C:\\users\\{getpass.getuser()}\\AppData\\Roaming\\Velmora\\NVX 2017"
 SHORTCUT = "C:\\users\\Public\\Desktop\\Velmora NVX 2017.lnk"
 LIBRARIES = ("VistrelResources.dll", "VelmoraApplicationFrameRes.dll")
 NX_SUB_FOLDERS = {"8": "\\NX8", "9": "\\NX9", "10": "\\NX10", "11": ""}
@@ -23,7 +23,7 @@ class Catalogue:
 
     def __init__(self, locale):
         self._texts = {}
-        path = LANGUAGES / ("nvxconfig_%s.ts" % locale)
+        path = LANGUAGES / f"nvxconfig_{locale}.ts"
         if path.exists():
             for message in ElementTree.parse(path).iter("message"):
                 source, translation = message.findtext("source"), message.findtext("translation")
@@ -151,7 +151,7 @@ def tamsel_years(plan):
 
 def manifests(plan):
     """{path: contents} of the manifests of Tamsel while the product is installed."""
-    paths = ["%s\\%d\\NVX_2017.Addin" % (TAMSEL_ADDINS, year) for year in tamsel_years(plan)]
+    paths = [f"{TAMSEL_ADDINS}\\{year}\\NVX_2017.Addin" for year in tamsel_years(plan)]
     return {path: manifest(plan.install_dir) for path in paths}
 
 
@@ -169,7 +169,7 @@ def left_files(plan, after_removal):
     if "C:\\NVX 2016\\matprop.mdb" in plan.kept and ENVIRONMENT_KEY in plan.values:
         left.add(SHARED_DATA + "\\Materials 2016.nvxmdb")
     left |= {path for path, contents in after_removal.items() if contents is not None}
-    left |= {"%s\\%d\\" % (TAMSEL_ADDINS, year) for year in tamsel_years(plan)}
+    left |= {f"{TAMSEL_ADDINS}\\{year}\\" for year in tamsel_years(plan)}
     if plan.spaceclaim == "found":
         left.add(ADDIN.rpartition("\\")[0] + "\\")
     return left

@@ -13,7 +13,7 @@ class ProgramFile:
         self.bytes = path.read_bytes()
         header = self._number("<I", 0x3C)
         if self.bytes[header : header + 4] != b"PE\0\0":
-            raise ValueError("%s is no program for Windows" % path)
+            raise ValueError(f"{path} is no program for Windows")
         section_count, optional_size = self._number("<H", header + 6), self._number("<H", header + 20)
         self._optional = header + 24
         first_section = self._optional + optional_size
@@ -55,7 +55,7 @@ class ProgramFile:
         for size, start, raw_size, raw in self._sections:
             if start <= address < start + max(size, raw_size):
                 return address - start + raw
-        raise ValueError("no section holds %x" % address)
+        raise ValueError(f"no section holds {address:x}")
 
     def _entries(self, root, folder):
         """The entries of a folder of resources: name or number, and where the entry lies."""
@@ -93,4 +93,4 @@ def _text_at(block, start):
 
 
 def _dotted(high, low):
-    return "%d.%d.%d.%d" % (high >> 16, high & 0xFFFF, low >> 16, low & 0xFFFF)
+    return f"{high >> 16}.{high & 0xFFFF}.{low >> 16}.{low & 0xFFFF}"

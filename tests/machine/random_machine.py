@@ -80,7 +80,7 @@ class Plan:
         return [creo.protk for creo in self.creo] + list(self.menus.values())
 
     def __str__(self):
-        lines = ["%s: %r" % (f.name, getattr(self, f.name)) for f in fields(self)]
+        lines = [f"{f.name}: {getattr(self, f.name)!r}" for f in fields(self)]
         return "\n".join(line if len(line) < 2000 else line[:2000] + "..." for line in lines)
 
 
@@ -103,7 +103,7 @@ def draw_machine(seed):
 
 
 def _name(rng, plan):
-    return rng.choice(_WORDS[plan.code_page]) + " %d" % rng.randint(1, 99)
+    return rng.choice(_WORDS[plan.code_page]) + f" {rng.randint(1, 99)}"
 
 
 def _draw_creo(rng, plan):
@@ -111,7 +111,7 @@ def _draw_creo(rng, plan):
         if rng.random() < 0.5:
             continue
         parametric = rng.choice(("\\Parametric", "\\Parametric", ""))
-        folder = "C:\\PTC %d\\%s%s" % (release, _name(rng, plan), parametric)
+        folder = f"C:\\PTC {release}\\{_name(rng, plan)}{parametric}"
         ship_code = rng.choice(("M010", "F000", None)) if release < 3 else "F000"
         base = folder.replace("Parametric", "Common Files")
         if release < 3:
@@ -121,10 +121,10 @@ def _draw_creo(rng, plan):
         protk.has_folder = protk.contents is not None or rng.random() < 0.7
         is_32_bit = release > 1 and rng.random() < 0.3
         plan.creo.append(Creo(release, folder, ship_code, is_32_bit, protk))
-        key = "PTC\\Creo Parametric\\%d.0" % release
+        key = f"PTC\\Creo Parametric\\{release}.0"
         if is_32_bit:
-            key = "Wow6432Node\\PTC\\%sCreo Parametric\\%d.0" % ("PTC " * (release == 3), release)
-        values = plan.values.setdefault(SOFTWARE + key + "\\M0%d" % release, {})
+            key = f"Wow6432Node\\PTC\\{'PTC ' * (release == 3)}Creo Parametric\\{release}.0"
+        values = plan.values.setdefault(SOFTWARE + key + f"\\M0{release}", {})
         values[rng.choice(("INSTALLDIR", "InstallDir"))] = folder
         if ship_code is not None:
             values["SHIPCODE"] = ship_code
@@ -148,11 +148,11 @@ def _draw_protk(rng, plan):
 
 
 def _draw_entry(rng):
-    text = "name %s\r\nstartup dll\r\nexec_file C:\\%s\\x.dll\r\ntext_dir C:\\x\r\nend\r\n"
     word, encoding = rng.choice(
         (("Schaltplan Größe", "latin-1"), ("表の部品", "cp932"), ("Деталь", "utf-8"), ("gear", "ascii"))
     )
-    entry = (text % (word, word)).encode(encoding)
+    text = f"name {word}\r\nstartup dll\r\nexec_file C:\\{word}\\x.dll\r\ntext_dir C:\\x\r\nend\r\n"
+    entry = text.encode(encoding)
     kind = rng.random()
     if kind < 0.15:
         return entry.replace(b"\r\n", b"\n")
@@ -168,7 +168,7 @@ def _draw_nx(rng, plan):
     for version in NX_VERSIONS:
         if rng.random() < 0.65:
             continue
-        folder = shared if rng.random() < 0.4 else "C:\\Siemens\\NX %s" % version
+        folder = shared if rng.random() < 0.4 else f"C:\\Siemens\\NX {version}"
         plan.nx[version] = folder
         plan.values[SOFTWARE + "Unigraphics Solutions\\NX\\" + version] = {"UGII_BASE_DIR": folder}
         if folder not in plan.menus:
@@ -202,7 +202,7 @@ def _draw_others(rng, plan):
         plan.values[SOFTWARE + "Velmora\\Brevant\\RegistryVersion20.0"] = {"ProductName": "Brevant"}
     plan.solidworks = tuple(year for year in (2007, 2010, 2016, 2017) if rng.random() < 0.3)
     for year in plan.solidworks:
-        key = SOFTWARE + "SolidWorks\\SolidWorks %d\\Setup" % year
+        key = SOFTWARE + f"SolidWorks\\SolidWorks {year}\\Setup"
         plan.values[key] = {"SolidWorks Folder": "C:\\" + _name(rng, plan)}
     plan.spaceclaim = rng.choice(("", "found", "found without a folder of add-ins"))
     if plan.spaceclaim:
@@ -215,8 +215,8 @@ def _draw_tamsel(rng, plan):
             if rng.random() < 0.7:
                 continue
             folder = "C:\\" + _name(rng, plan) if rng.random() < 0.8 else ""
-            code = "{T%d-%s}" % (year, edition[-3:])
-            key = SOFTWARE + "Velmora\\Tamsel\\%s %d\\Components" % (product, year)
+            code = f"{{T{year}-{edition[-3:]}}}"
+            key = SOFTWARE + f"Velmora\\Tamsel\\{product} {year}\\Components"
             plan.values[key] = {"ProductCode": code}
             plan.values[UNINSTALL + code] = {"DisplayName": edition}
             if folder:

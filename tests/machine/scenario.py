@@ -94,7 +94,7 @@ class _Reader:
         scenario = self._scenario
         for name in REQUIRED_FILES:
             if not (self._folder / name).is_file():
-                raise ScenarioError("%s: there is no %s" % (scenario.name, name))
+                raise ScenarioError(f"{scenario.name}: there is no {name}")
         self._each_line("runs.txt", self._read_run)
         self._each_line("files-before.txt", lambda line: self._read_before(line, scenario.before))
         self._each_line("files-after.txt", self._read_after)
@@ -103,10 +103,10 @@ class _Reader:
         scenario.log = self._text("log.txt").splitlines()
         scenario.script = self._text("registry-before.reg")
         if scenario.script and scenario.script.splitlines()[0] != SCRIPT_HEADER:
-            raise ScenarioError("%s: registry-before.reg has another header" % scenario.name)
+            raise ScenarioError(f"{scenario.name}: registry-before.reg has another header")
         self._read_registry()
         if not any(isinstance(step, Run) for step in scenario.steps):
-            raise ScenarioError("%s: runs.txt names no run" % scenario.name)
+            raise ScenarioError(f"{scenario.name}: runs.txt names no run")
         self._refuse_unknown_files()
         return scenario
 
@@ -122,7 +122,7 @@ class _Reader:
             try:
                 read_line(line)
             except ScenarioError as error:
-                raise ScenarioError("%s/%s:%d: %s" % (self._scenario.name, name, number, error))
+                raise ScenarioError(f"{self._scenario.name}/{name}:{number}: {error}")
 
     def _read_run(self, line):
         steps = self._scenario.steps
@@ -156,7 +156,7 @@ class _Reader:
     def _file_line(self, line, words):
         word, _, rest = line.partition(" ")
         if word not in words:
-            raise ScenarioError("'%s' is none of %s" % (word, ", ".join(words)))
+            raise ScenarioError(f"'{word}' is none of {', '.join(words)}")
         if word == "only":
             path, _, names = rest.partition(" = ")
             return FileLine(word, self._checked_path(path), names=tuple(filter(None, names.split(", "))))
@@ -180,7 +180,7 @@ class _Reader:
     def _contents(self, name):
         path = self._folder / name
         if name in KNOWN_FILES or not path.is_file():
-            raise ScenarioError("the scenario has no file of contents '%s'" % name)
+            raise ScenarioError(f"the scenario has no file of contents '{name}'")
         self._named.add(name)
         return path.read_bytes()
 
@@ -198,7 +198,7 @@ class _Reader:
     def _read_registry(self):
         lines = self._text("registry-after.reg").splitlines()
         if lines and lines[0] != SCRIPT_HEADER:
-            raise ScenarioError("%s: registry-after.reg has another header" % self._scenario.name)
+            raise ScenarioError(f"{self._scenario.name}: registry-after.reg has another header")
         key = None
         for line in filter(None, lines[1:]):
             stated = re.match(r"^\[(-?)((?:HKEY_LOCAL_MACHINE|HKEY_CURRENT_USER)\\.*)\]$", line)
@@ -209,7 +209,7 @@ class _Reader:
             elif value and key:
                 self._scenario.registry.append(self._value(key, value))
             else:
-                raise ScenarioError("%s: registry-after.reg: %s" % (self._scenario.name, line))
+                raise ScenarioError(f"{self._scenario.name}: registry-after.reg: {line}")
 
     @staticmethod
     def _value(key, value):
@@ -223,7 +223,7 @@ class _Reader:
     def _refuse_unknown_files(self):
         for path in sorted(self._folder.iterdir()):
             if path.name not in KNOWN_FILES and path.name not in self._named:
-                raise ScenarioError("%s: nobody names the file %s" % (self._scenario.name, path.name))
+                raise ScenarioError(f"{self._scenario.name}: nobody names the file {path.name}")
 
 
 def _unescaped(text):
@@ -283,7 +283,8 @@ def _shown_mismatch(block, lines, at, free):
     starts = range(at, len(lines)) if free else range(at, at + 1)
     best = max(starts, key=lambda start: _common(block, lines, start), default=at)
     common = _common(block, lines, best)
-    shown = ["these lines are not in the log%s:" % (" behind its line %d" % at if at else "")]
+    where = f" behind its line {at}" if at else ""
+    shown = [f"these lines are not in the log{where}:"]
     shown += ["  as wanted " + line for line in block[:common]]
     shown += ["  wanted    " + line for line in block[common:]]
     if common or not free:

@@ -237,7 +237,7 @@ class AdministratorsGuide(MachineCase):
         lists_programs = self.write(SHARE + "\\tasklist.exe", SCRIPTED_TOOL.read_bytes())
         for image, code in (("msedge.exe", 0), ("SLDWORKS.exe", 3), ("edge.exe", 3)):
             with self.subTest(image):
-                orders = 'line "System","4"\nline "%s","1234","Console","1","98,304 K"\n' % image
+                orders = f'line "System","4"\nline "{image}","1234","Console","1","98,304 K"\n'
                 lists_programs.with_name("tasklist.exe.script").write_text(orders)
                 self.assertEqual(self.roll_out(self.logs["good"])[0], code)
                 started = self.exists(SHARE + "\\nvx-setup.exe.arguments")

@@ -79,7 +79,7 @@ LEFT_ELSEWHERE = [
     CUSTOM_DIRS_10 + ".bak",
     CUSTOM_DIRS_11 + ".bak",
     SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\",
-    *(TAMSEL_ADDINS + "\\%d\\" % year for year in (2016, 2017, 2018)),
+    *(TAMSEL_ADDINS + f"\\{year}\\" for year in (2016, 2017, 2018)),
 ]
 # And within it.
 LEFT_IN_INSTALL_DIR = [
@@ -130,7 +130,7 @@ class Cycles(LauncherCase):
         cls.machine.path(LOG).unlink(missing_ok=True)
         code, lines = cls.configure(cls(), INSTALL_DIR, *tokens)
         if code != 0:
-            raise AssertionError("exit status %d" % code)
+            raise AssertionError(f"exit status {code}")
         return lines
 
     @classmethod

@@ -188,7 +188,7 @@ class ExternalPrograms(ProgramCase):
         # program.
         for archive in ("python26_x64", "NVX_MertleServer"):
             with self.subTest(archive):
-                orders = "only-for %s\n%s" % (archive, HANG)
+                orders = f"only-for {archive}\n{HANG}"
                 with self.replaced(INSTALL_DIR + "\\7z.exe", orders):
                     process = self.start_and_wait_for_mark()
                     self.assertTrue(self.lines()[-1].startswith("   0 WorkDir:"), self.lines()[-1])
@@ -229,8 +229,8 @@ class Server(ProgramCase):
     def test_a_missing_server_is_told_in_a_box(self):
         self.machine.path(INSTALL_DIR + "\\NVXServer.exe").unlink()
         text = (
-            "   1 Unable to find server executable; Check_ Installation Directory path:%s\\NVXServer.exe"
-            % INSTALL_DIR
+            "   1 Unable to find server executable; "
+            f"Check_ Installation Directory path:{INSTALL_DIR}\\NVXServer.exe"
         )
         before, lines = self.answered(self.start(), "NVX Configuration Utility")
         self.assertNotIn(COMPLETE, before)

@@ -19,7 +19,7 @@ class ExternalPrograms(MachineCase):
 
     def test_40_lines_are_cut_to_21(self):
         logged = self.run_with("C:\\lines", "lines 40")
-        self.assertEqual(logged, ["   0 Output:"] + ["   0   %d" % i for i in range(1, 22)])
+        self.assertEqual(logged, ["   0 Output:"] + [f"   0   {i}" for i in range(1, 22)])
 
     def test_a_line_of_1000_bytes_is_logged_in_pieces(self):
         logged = self.run_with("C:\\bytes", "bytes 1000")
@@ -37,7 +37,7 @@ class ExternalPrograms(MachineCase):
             ("the largest", 0xFFFFFFFF, "  -1"),
         ):
             with self.subTest(name):
-                orders = "line last words\nexit %d" % (number - 2**32)
+                orders = f"line last words\nexit {number - 2**32}"
                 logged = self.run_with("C:\\codes", orders)
                 self.assertEqual(logged, [level + " Output:", level + "   last words"])
                 self.machine.path("C:\\codes\\NVXConfig.log").unlink()

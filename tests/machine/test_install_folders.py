@@ -5,7 +5,7 @@ import unittest
 from machine_case import MachineCase
 from winemachine import SHARED_DATA
 
-LONG = "C:\\" + "\\".join(["ein ziemlich langer Ordnername %d" % i for i in range(7)])
+LONG = "C:\\" + "\\".join([f"ein ziemlich langer Ordnername {i}" for i in range(7)])
 
 
 class FolderCase(MachineCase):
@@ -68,7 +68,7 @@ class WesternMachine(FolderCase):
         for name in ("DLLs", "Lib"):
             self.assertIn(
                 "   1 The command interpreter's code page cannot write the name of this folder, "
-                "it is not removed: %s\\Python\\%s" % (folder, name),
+                f"it is not removed: {folder}\\Python\\{name}",
                 lines,
             )
         self.assertIn(

@@ -127,9 +127,9 @@ class Installer(InstallerCase, LauncherCase):
         self.assertEqual(value("DisplayName"), "Velmora NVX 2017")
         self.assertEqual(value("DisplayVersion"), "17.2.0")
         self.assertEqual(value("InstallLocation"), INSTALL_DIR)
-        command = '"%s\\uninstall.exe" /LANG=de-DE' % INSTALL_DIR
+        command = f'"{INSTALL_DIR}\\uninstall.exe" /LANG=de-DE'
         self.assertEqual((value("UninstallString"), value("UninstallPath")), (command, command))
-        self.assertEqual(value("QuietUninstallString"), '"%s\\uninstall.exe" /S' % INSTALL_DIR)
+        self.assertEqual(value("QuietUninstallString"), f'"{INSTALL_DIR}\\uninstall.exe" /S')
         size = int(value("EstimatedSize").removeprefix("dword:"), 16)
         self.assertTrue(20_000 < size < 200_000, size)
 
@@ -139,7 +139,7 @@ class Installer(InstallerCase, LauncherCase):
         for name in ("UninstallString", "UninstallPath"):
             self.assertEqual(
                 value_of(self.japanese_registry, UNINSTALL_KEY, name),
-                '"%s\\uninstall.exe" /LANG=ja-JP' % INSTALL_DIR,
+                f'"{INSTALL_DIR}\\uninstall.exe" /LANG=ja-JP',
             )
 
     def test_a_second_set_up_keeps_the_language_of_the_product(self):
@@ -186,12 +186,12 @@ class OtherPlaces(InstallerCase, MachineCase):
             with self.subTest(option):
                 self.assertEqual(self.set_up("/S", option), 0)
                 self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Len-US", self.log_lines())
-                self.remove('"%s\\uninstall.exe" /LANG=en-US' % INSTALL_DIR)
+                self.remove(f'"{INSTALL_DIR}\\uninstall.exe" /LANG=en-US')
 
     def test_a_japanese_set_up_takes_the_files_of_its_language_back(self):
         self.assertEqual(self.set_up("/S", "/LANG=ja-JP"), 0)
         self.assertTrue(self.exists(INSTALL_DIR + "\\ja\\ZorvRes.dll"))
-        self.remove('"%s\\uninstall.exe" /LANG=ja-JP' % INSTALL_DIR)
+        self.remove(f'"{INSTALL_DIR}\\uninstall.exe" /LANG=ja-JP')
         self.assertEqual(list(self.machine.files(INSTALL_DIR)), [INSTALL_DIR + "\\NVXConfig.log"])
 
     def test_a_folder_with_what_looks_like_options_is_a_folder_like_others(self):
@@ -210,7 +210,7 @@ class OtherPlaces(InstallerCase, MachineCase):
         self.machine.set_value(TRANSLATORS_KEY, "Folder", folder)
         self.assertEqual(self.set_up("/S"), 0)
         self.assertTrue(self.exists(folder + "\\NVX_MertleServer\\server\\settings.txt"))
-        self.remove('"%s\\uninstall.exe" /LANG=en-US' % INSTALL_DIR)
+        self.remove(f'"{INSTALL_DIR}\\uninstall.exe" /LANG=en-US')
         self.assertEqual(list(self.machine.files(folder)), [folder + "\\other server.txt"])
         self.assertEqual(value_of(self.machine.registry(), TRANSLATORS_KEY, "Folder"), folder)
 

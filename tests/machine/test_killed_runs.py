@@ -73,7 +73,7 @@ class KilledRuns(LauncherCase):
     def setUpClass(cls):
         super().setUpClass()
         cls.seed = int(os.environ.get("NVX_SEED", time.time_ns() % 1000000))
-        print("NVX_SEED=%d" % cls.seed, flush=True)
+        print(f"NVX_SEED={cls.seed}", flush=True)
         case = cls()
         case.put_product(INSTALL_DIR, TRANSLATORS)
         # The installer's folder of prepared files holds flags that must never arrive in part.
@@ -155,7 +155,7 @@ class KilledRuns(LauncherCase):
         expected = self.install if again == "-I" else self.removal
         beginnings = INSTALL if again == "-I" else REMOVAL
         disturbed = self.install if first == "-I" else self.removal
-        chance = random.Random("%d %s %s" % (self.seed, first, again))
+        chance = random.Random(f"{self.seed} {first} {again}")
         under_way = 0
         for number in range(kills):
             line = int((number + chance.random()) * len(disturbed.lines) / kills)
@@ -185,7 +185,7 @@ class KilledRuns(LauncherCase):
         self.assertGreaterEqual(under_way, KILLS * 3 // 4)
 
     def test_an_install_that_was_killed_can_be_removed(self):
-        chance = random.Random("%d removed" % self.seed)
+        chance = random.Random(f"{self.seed} removed")
         for number in range(KILLS_BEFORE_REMOVAL):
             line = int((number + chance.random()) * len(self.install.lines) / KILLS_BEFORE_REMOVAL)
             with self.subTest(seed=self.seed, kill=number, line=line):
@@ -229,7 +229,7 @@ def end_process(pid):
 def processor_time(pid):
     """What a process has used, in ticks of the clock; None when it is gone."""
     try:
-        values = Path("/proc/%d/stat" % pid).read_text().rpartition(")")[2].split()
+        values = Path(f"/proc/{pid}/stat").read_text().rpartition(")")[2].split()
     except OSError:
         return None
     return int(values[11]) + int(values[12])

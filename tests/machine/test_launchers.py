@@ -19,11 +19,11 @@ from winemachine import INSTALL_DIR, value_of
 
 
 def com_run(arguments, library):
-    return ["Command:regsvr32 %s %s" % (arguments, library), "WorkDir:" + INSTALL_DIR, "Output:"]
+    return [f"Command:regsvr32 {arguments} {library}", "WorkDir:" + INSTALL_DIR, "Output:"]
 
 
 def tamsel_removal(year):
-    users = "C:\\Users\\All Users\\Velmora\\Tamsel\\Addins\\%d\\NVX_2017.Addin" % year
+    users = f"C:\\Users\\All Users\\Velmora\\Tamsel\\Addins\\{year}\\NVX_2017.Addin"
     paths = (target_manifest(year), users, MANIFEST)
     return ["Tamsel Addin"] + ["Removing:" + path for path in paths]
 
@@ -31,7 +31,7 @@ def tamsel_removal(year):
 def tamsel_install(year):
     removal = tamsel_removal(year)
     users = removal[2][len("Removing:") :]
-    copies = ["Copying:%s to: %s" % (MANIFEST, to) for to in (target_manifest(year), users)]
+    copies = [f"Copying:{MANIFEST} to: {to}" for to in (target_manifest(year), users)]
     return removal + copies
 
 
@@ -49,7 +49,7 @@ def expected_log(is_install):
 
     com("Configure Brevant", "\\Brevant\\NVX_2017_Brevant.dll")
     for release in (1, 2, 3):
-        lines.append("%s Creo Remove:%s\\NVX_2017_Creo%d0.dll" % (word, INSTALL_DIR, release))
+        lines.append(f"{word} Creo Remove:{INSTALL_DIR}\\NVX_2017_Creo{release}0.dll")
     lines.append("ProE Creo")
     for path in (PROTK_2, PROTK_3):
         lines += ["Removing Ostrade from:" + path, "Writing " + path]
@@ -59,7 +59,7 @@ def expected_log(is_install):
     lines.append("UGNX")
     if is_install:
         for path in (CUSTOM_DIRS_10, CUSTOM_DIRS_11):
-            lines += ["Copying %s to %s.bak" % (path, path), "Checking" + path, "Creating" + path]
+            lines += [f"Copying {path} to {path}.bak", "Checking" + path, "Creating" + path]
     tamsel = tamsel_install if is_install else tamsel_removal
     lines += ["Tamsel"] + tamsel(2016) + tamsel(2017)
     lines += ["Tamsel Architecture"] + tamsel(2017)
@@ -67,7 +67,7 @@ def expected_log(is_install):
     lines.append("SpaceClaim")
     if is_install:
         source = LAUNCHERS + "\\SpaceClaim\\NVX_2017_SpaceClaim"
-        lines += ["Copying:%s.%s to: %s.%s" % (source, s, ADDIN, s) for s in ("dll", "xml")]
+        lines += [f"Copying:{source}.{s} to: {ADDIN}.{s}" for s in ("dll", "xml")]
     return lines
 
 
@@ -119,7 +119,7 @@ class AllSystems(LauncherCase):
 
     def test_com_libraries_are_registered_and_unregistered(self):
         for system, key in COM_CLASSES.items():
-            library = LAUNCHERS + "\\%s\\NVX_2017_%s.dll" % (system, system)
+            library = LAUNCHERS + f"\\{system}\\NVX_2017_{system}.dll"
             for run in ("first", "second"):
                 registry = self.registries[run]
                 self.assertEqual(value_of(registry, key, ""), "NVX 2017 for " + system)

@@ -38,7 +38,7 @@ class Localization(MachineCase):
         self.assertLess(lines.index("   0 job file cool"), lines.index("   0 job done"))
         for locale in LOCALES:
             for name in ("client.qm", "nvxconfig.qm", "matprop.ts", "Ribbon2D.xmal"):
-                path = self.machine.path("%s\\Locale\\%s\\%s" % (ROOT, locale, name))
+                path = self.machine.path(f"{ROOT}\\Locale\\{locale}\\{name}")
                 self.assertTrue(path.is_file(), path)
         german = self.machine.path(ROOT + "\\Locale\\de-DE\\client.ts").read_text(encoding="utf-8")
         self.assertIn("[deu] Flow study", german)

@@ -43,7 +43,7 @@ class MaterialDatabase(MachineCase):
         lines = self.install()
         self.assertEqual(self.read(WORKING), self.shipped)
         at = lines.index(CHECKING)
-        self.assertEqual(lines[at + 1], "   0 Copy: %s to: %s" % (SHIPPED, WORKING))
+        self.assertEqual(lines[at + 1], f"   0 Copy: {SHIPPED} to: {WORKING}")
 
     def test_the_users_database_survives_installs_and_languages(self):
         self.install()
@@ -75,7 +75,7 @@ class MaterialDatabase(MachineCase):
     def test_a_shipped_database_that_is_open_elsewhere_leaves_no_half_copy(self):
         with self.held(SHIPPED):
             lines = self.install()
-        self.assertIn("   0 Copy: %s to: %s" % (SHIPPED, WORKING), lines)
+        self.assertIn(f"   0 Copy: {SHIPPED} to: {WORKING}", lines)
         self.assertFalse(self.exists(WORKING))
         self.install()
         self.assertEqual(self.read(WORKING), self.shipped)
@@ -89,7 +89,7 @@ class MaterialDatabase(MachineCase):
             lines[at + 1 : at + 3],
             [
                 "   0 Installation error matprop.mdb does not exist?",
-                "   0 Installation error: %s does not exist." % SHIPPED,
+                f"   0 Installation error: {SHIPPED} does not exist.",
             ],
         )
         self.assertEqual(self.read(WORKING), MINE)
@@ -148,7 +148,7 @@ class MaterialDatabase(MachineCase):
 
     def test_the_customisation_goes_with_every_language(self):
         self.install()
-        user = "C:\\users\\%s\\AppData\\Roaming\\Velmora\\NVX 2017\\" % self.user()
+        user = f"C:\\users\\{self.user()}\\AppData\\Roaming\\Velmora\\NVX 2017\\"
         for mode in ("-I", "-U"):
             with self.subTest(mode):
                 self.write(SHARED_DATA + "\\Sorvane\\sub\\ribbon.txt")

@@ -88,7 +88,7 @@ class ProductGuard(MachineCase):
         self.assertTrue(server.was_ended_by_force())
 
     def test_two_copies_are_both_ended(self):
-        both = [self.start("C:\\NVX 2017 %d\\NVXMonitor.exe" % i, "product/NVXMonitor.exe") for i in range(2)]
+        both = [self.start(f"C:\\NVX 2017 {i}\\NVXMonitor.exe", "product/NVXMonitor.exe") for i in range(2)]
         self.assertEqual(self.install(), ["   0 NVX 2017 Job Monitor terminated"] * 2)
         self.assertEqual([program.was_ended_by_force() for program in both], [True, True])
 

@@ -59,7 +59,7 @@ class SetUpCase(MachineCase):
             self.assertEqual(default_value(registry, CLASSES + name), "NVX 2017")
             self.assertEqual(
                 default_value(registry, CLASSES + name + "\\DefaultIcon"),
-                '"%s\\%s"' % (folder, icon),
+                f'"{folder}\\{icon}"',
             )
             shell = CLASSES + name + "\\shell"
             if extension in OPENED:
@@ -67,7 +67,7 @@ class SetUpCase(MachineCase):
                 self.assertEqual(default_value(registry, shell + "\\Open"), "NVX 2017")
                 self.assertEqual(
                     default_value(registry, shell + "\\Open\\command"),
-                    '"%s\\NVX.exe" "%%1"' % folder,
+                    f'"{folder}\\NVX.exe" "%1"',
                 )
             else:
                 self.assertIsNone(default_value(registry, shell))
@@ -126,9 +126,10 @@ class InstallAndRemove(SetUpCase):
             self.assertEqual(keys_below(self.first_registry, CLASSES + extension + "\\Old"), [])
             for place in ("FileExts\\", "RecentDocs\\"):
                 self.assertEqual(keys_below(self.first_registry, EXPLORER + place + extension), [])
-        shell = CLASSES + "NVX2017%s\\shell\\Print"
         for extension in (".nvxst", ".nvz", ".tpl"):
-            self.assertEqual(keys_below(self.first_registry, shell % extension), [])
+            self.assertEqual(
+                keys_below(self.first_registry, f"{CLASSES}NVX2017{extension}\\shell\\Print"), []
+            )
 
     def test_what_the_user_chose_for_the_other_types_stays(self):
         for extension in (".tpl", ".nvxpkg"):
@@ -179,7 +180,7 @@ class InstallAndRemove(SetUpCase):
             dict(registry[self.spelled(registry, CENTER_KEY)]),
             {
                 "PollingFrequency": "dword:ffffffff",
-                "LastUpdateTimeLoWord": "dword:%08x" % 1329242409,
+                "LastUpdateTimeLoWord": f"dword:{1329242409:08x}",
                 "LastUpdateTimeHiWord": "dword:00000000",
                 "OutOfBoxWizardCompletedStep": "dword:00000003",
                 "DataState": "dword:00000000",
@@ -355,7 +356,7 @@ class Faults(SetUpCase):
         self.assertEqual(self.machine.path("C:" + LINK).read_bytes(), b"not ours")
 
     def test_a_link_path_of_over_260_characters_is_a_clear_failure(self):
-        desktop = "C:\\" + "\\".join(["a long desktop folder %d" % i for i in range(10)])
+        desktop = "C:\\" + "\\".join([f"a long desktop folder {i}" for i in range(10)])
         self.assertTrue(len(desktop) < 260 < len(desktop + LINK), len(desktop))
         self.machine.path(desktop).mkdir(parents=True)
         self.machine.set_value(SHELL_FOLDERS, "Common Desktop", desktop)

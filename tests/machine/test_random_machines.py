@@ -43,14 +43,14 @@ class RandomMachines(MachineCase):
         self.plan = draw_machine(seed)
         self.lines = []
         self.machine = Machine.create(
-            BUILD / "machines" / ("random %d" % seed), self.template, self.plan.locale, BUILD / "locales"
+            BUILD / "machines" / f"random {seed}", self.template, self.plan.locale, BUILD / "locales"
         )
         self.addCleanup(shutil.rmtree, self.machine.prefix)
         self.addCleanup(self.machine.stop)
         try:
             self.play()
         except (AssertionError, subprocess.TimeoutExpired):
-            print("\nThe machine of NVX_SEED=%d:\n%s\n" % (seed, self.plan))
+            print(f"\nThe machine of NVX_SEED={seed}:\n{self.plan}\n")
             print("Its log ends:\n" + "\n".join(self.lines[-20:]))
             raise
 
@@ -80,7 +80,7 @@ class RandomMachines(MachineCase):
         with contextlib.ExitStack() as held:
             for number, file in enumerate(self.plan.shared_files()):
                 if file.fault == "held":
-                    held.enter_context(self.held(file.path, "C:\\held by %d" % number))
+                    held.enter_context(self.held(file.path, f"C:\\held by {number}"))
             try:
                 code, lines = self.configure(install_dir, mode, "-S", "-L" + self.plan.language)
             finally:
@@ -174,11 +174,11 @@ def differences(before, after):
         if key.lower().startswith(OF_ITSELF):
             continue
         if key not in before or key not in after:
-            lines.append("%s: %s" % (key, "new" if key in after else "gone"))
+            lines.append(f"{key}: {'new' if key in after else 'gone'}")
         old, new = before.get(key, {}), after.get(key, {})
         for name in sorted({*old, *new}):
             if old.get(name) != new.get(name):
-                lines.append("%s, %s: %s, %s" % (key, name, old.get(name), new.get(name)))
+                lines.append(f"{key}, {name}: {old.get(name)}, {new.get(name)}")
     return lines
 
 
@@ -187,7 +187,7 @@ def _add_tests():
         return lambda case: case.try_machine(seed)
 
     for seed in range(FIRST_SEED, FIRST_SEED + MACHINES):
-        setattr(RandomMachines, "test_the_machine_of_seed_%d" % seed, test_of(seed))
+        setattr(RandomMachines, f"test_the_machine_of_seed_{seed}", test_of(seed))
 
 
 _add_tests()

@@ -55,8 +55,8 @@ FOLDERS = {
         [
             "   1 Unable to create NVX2 default configuration: " + SHARED_DATA,
             "   1 Unable to create NVX2 analyze folder: " + SHARED_DATA,
-            "   1 Unable to create %s\\NVX_flags.txt" % SHARED_DATA,
-            DIAGNOSTIC + "Unable to copy %s\\matprop.mdb to " % INSTALL_DIR,
+            f"   1 Unable to create {SHARED_DATA}\\NVX_flags.txt",
+            DIAGNOSTIC + f"Unable to copy {INSTALL_DIR}\\matprop.mdb to ",
         ],
         [],
     ),
@@ -72,14 +72,14 @@ FOLDERS = {
     ),
     "Tamsel": (TAMSEL_ADDINS, [], []),
     "SpaceClaim": (SPACE_CLAIM, [], []),
-    "desktop": (DESKTOP, ["Create shortcut %s Failed" % SHORTCUT], ["   1 Unable to remove " + SHORTCUT]),
+    "desktop": (DESKTOP, [f"Create shortcut {SHORTCUT} Failed"], ["   1 Unable to remove " + SHORTCUT]),
     "temporary files": (USER + "\\AppData\\Local\\Temp", [], []),
     "translators": (MERTLE, ["   2 Output:"], []),
     "launchers": (LAUNCHERS, [" Open failed:"], []),
     AROUND: (
         parent(INSTALL_DIR),
-        ["   1 Unable to create %s, this folder is not removed: " % BATCH_FILE],
-        ["   1 Unable to create %s, this folder is not removed: " % BATCH_FILE],
+        [f"   1 Unable to create {BATCH_FILE}, this folder is not removed: "],
+        [f"   1 Unable to create {BATCH_FILE}, this folder is not removed: "],
     ),
     "install folder": (INSTALL_DIR, None, None),  # where the log cannot be written either
 }

@@ -94,7 +94,7 @@ class Scenarios(MachineCase):
     def hold(self, line, held):
         if line.word == "held":
             self.marks += 1
-            held.enter_context(self.held(line.path, "C:\\mark %d" % self.marks))
+            held.enter_context(self.held(line.path, f"C:\\mark {self.marks}"))
 
     def start(self, process):
         name = process.path.rpartition("\\")[2].lower()
@@ -129,7 +129,7 @@ class Scenarios(MachineCase):
         if expectation.name is None:
             key = expectation.key.lower()
             found = [path for path in registry if (path.lower() + "\\").startswith(key + "\\")]
-            self.assertEqual(bool(found), expectation.is_there, "%s: %s" % (shown, found))
+            self.assertEqual(bool(found), expectation.is_there, f"{shown}: {found}")
         else:
             found = value_of(registry, expectation.key, expectation.name)
             self.assertEqual(found, expectation.text, shown)
@@ -141,7 +141,7 @@ class Scenarios(MachineCase):
                 with self.subTest(path):
                     self.assert_contents(path, contents)
         for line in after:
-            with self.subTest("%s %s" % (line.word, line.path)):
+            with self.subTest(f"{line.word} {line.path}"):
                 self.assert_file(line)
 
     def assert_file(self, line):
@@ -165,8 +165,8 @@ class Scenarios(MachineCase):
         self.assertTrue(path.is_file(), "is no file: " + windows_path)
         found = path.read_bytes()
         if found != expected:
-            lines = difflib.ndiff(_shown(expected), _shown(found))
-            self.fail("%s: - as wanted, + as found\n%s" % (windows_path, "\n".join(lines)))
+            difference = "\n".join(difflib.ndiff(_shown(expected), _shown(found)))
+            self.fail(f"{windows_path}: - as wanted, + as found\n{difference}")
 
 
 def is_told_to_be_gone(path, named):

@@ -60,7 +60,7 @@ class Service(MachineCase):
         self.assertTrue(self.is_running())
         self.assertEqual(self.machine.path(ANALYZE + "\\solver_manager.cfg").read_bytes(), b"")
         registry = self.machine.registry()
-        self.assertEqual(value_of(registry, KEY, "ImagePath"), '"%s\\NVXServer.exe"' % FOLDER)
+        self.assertEqual(value_of(registry, KEY, "ImagePath"), f'"{FOLDER}\\NVXServer.exe"')
         self.assertEqual(value_of(registry, KEY, "Description"), "Sample server: registered by itself.")
         self.assertEqual(value_of(registry, KEY, "ObjectName"), "LocalSystem")
 
@@ -90,7 +90,7 @@ class Service(MachineCase):
         self.assertTrue(self.is_running())
         # The control manager may take it for running for ever; ten seconds is what it would be given.
         log = self.machine.log(FOLDER)
-        removal = re.search("^(.{24})    0 %s\n(.{24})    0 Command:" % not_stopped, log, re.MULTILINE)
+        removal = re.search(f"^(.{{24}})    0 {not_stopped}\n(.{{24}})    0 Command:", log, re.MULTILINE)
         asked, gone = (time.mktime(time.strptime(stamp)) for stamp in removal.groups())
         self.assertLess(gone - asked, 9)
 

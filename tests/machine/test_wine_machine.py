@@ -100,7 +100,7 @@ class WineMachine(unittest.TestCase):
                     time.sleep(0.01)
                 programs = self.machine.programs()
                 personalities = {
-                    command: int(Path("/proc/%d/personality" % pid).read_text(), 16)
+                    command: int(Path(f"/proc/{pid}/personality").read_text(), 16)
                     for pid, command in programs.items()
                     if "wineserver" not in command and "wine-run" not in command
                 }
@@ -119,16 +119,16 @@ class WineMachine(unittest.TestCase):
             self.machine.stop()
 
     def test_an_imported_script_is_there_to_its_last_value(self):
-        names = ["value %d" % number for number in range(200)]
-        values = "\n".join('"%s"="größe 日本"' % name for name in names)
+        names = [f"value {number}" for number in range(200)]
+        values = "\n".join(f'"{name}"="größe 日本"' for name in names)
         header = "Windows Registry Editor Version 5.00\n\n"
-        self.machine.import_script(header + "[%s]\n%s\n" % (KEY, values))
+        self.machine.import_script(header + f"[{KEY}]\n{values}\n")
         registry = self.machine.registry()
         self.assertEqual({value_of(registry, KEY, name) for name in names}, {"größe 日本"})
 
     def test_a_script_that_the_registry_editor_does_not_import_is_reported(self):
         with self.assertRaises(MachineError):
-            self.machine.import_script('[%s]\n"no header"="x"\n' % KEY)
+            self.machine.import_script(f'[{KEY}]\n"no header"="x"\n')
 
     def test_a_program_that_outlives_its_timeout_is_named_and_ended(self):
         shutil.copy(SCRIPTED_TOOL, self.machine.path("C:\\tool.exe"))
@@ -162,7 +162,7 @@ class WineMachine(unittest.TestCase):
         command = [sys.executable, "-B", "-c", script, TOOLS, self.machine.prefix, KEY]
         done = subprocess.run(command, stdout=subprocess.PIPE, check=True)
         deadline = time.monotonic() + 60
-        while os.path.exists("/proc/%d/cwd/socket" % int(done.stdout)) and time.monotonic() < deadline:
+        while os.path.exists(f"/proc/{int(done.stdout)}/cwd/socket") and time.monotonic() < deadline:
             time.sleep(0.05)
         self.assertEqual(self.value("kept"), "x")
 
