@@ -85,8 +85,11 @@ def bring_copy_up_to_date():
     """Only files that differ are written, so that only they are built again."""
     listed = subprocess.run(
         ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
-        cwd=ROOT, check=True, capture_output=True, text=True,
-    )  # fmt: skip
+        cwd=ROOT,
+        check=True,
+        capture_output=True,
+        text=True,
+    )
     names = [name for name in listed.stdout.split("\0") if name and (ROOT / name).is_file()]
     for name in names:
         target, contents = COPY / name, (ROOT / name).read_bytes()
@@ -289,9 +292,14 @@ def run_test(command, options, folder, seconds):
     with open(folder / "output", "wb") as output:
         started = os.times()
         test = subprocess.Popen(
-            [*command, "-nocrashhandler", *options], cwd=scratch, env=environment, preexec_fn=limits,
-            stdin=subprocess.DEVNULL, stdout=output, stderr=output,
-        )  # fmt: skip
+            [*command, "-nocrashhandler", *options],
+            cwd=scratch,
+            env=environment,
+            preexec_fn=limits,
+            stdin=subprocess.DEVNULL,
+            stdout=output,
+            stderr=output,
+        )
         try:
             status = test.wait(timeout=30 + 20 * most)
         except subprocess.TimeoutExpired:
