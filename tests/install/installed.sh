@@ -10,6 +10,7 @@ fail() {
 # try_window PROGRAM FILE CATALOGUE...: starts a German window with a file. It remembers the file that it
 # opened, has its translations loaded from beside itself, and goes on until it is ended.
 try_window() {
+    : "${folder:?}" "${installed:?}"
     local program=$1 file=$2 settings=$folder/config/Velmora/$1.conf errors=$folder/$1.errors
     local window maps i catalogue
     shift 2

@@ -19,9 +19,10 @@ fail() {
 # stand_in PROGRAM: makes the script that runs in the program's place, from the input.
 stand_in() {
     {
-        echo '#!/usr/bin/env bash'
-        # shellcheck disable=SC2016
-        echo 'echo "${0##*/} $*" >>"$calls"'
+        cat <<'BEGIN'
+#!/usr/bin/env bash
+echo "${0##*/} $*" >>"$calls"
+BEGIN
         cat
     } >"$folder/bin/$1"
     chmod +x "$folder/bin/$1"
