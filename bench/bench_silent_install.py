@@ -14,6 +14,7 @@ import statistics
 import sys
 import threading
 import time
+from collections.abc import Callable
 from pathlib import Path
 
 from product_archives import make_archives
@@ -39,7 +40,7 @@ COMPLETE = "The installation or update is complete."
 RUNS = 5
 
 
-def batch_file():
+def batch_file() -> str:
     """The commands of an installation in their order. The service control manager, which starts the server
     too, is no program; the batch file goes without it."""
 
@@ -73,7 +74,7 @@ def batch_file():
     return "\r\n".join(lines) + "\r\n"
 
 
-def make_machine(build):
+def make_machine(build: Path) -> Machine:
     machine = Machine.create(build / "bench", make_template(build / "wine-template"))
     machine.put_product(build / "installed_configuration", build / "sample")
     put_cad_systems(machine)
@@ -92,20 +93,20 @@ def make_machine(build):
 class Watcher(threading.Thread):
     """Looks at a file until it is told to stop, and keeps what `look` makes of it each time."""
 
-    def __init__(self, look):
+    def __init__(self, look: Callable[[], None]) -> None:
         super().__init__()
         self._look = look
         self._stop_asked = threading.Event()
 
-    def run(self):
+    def run(self) -> None:
         while not self._stop_asked.wait(0.004):
             self._look()
 
-    def __enter__(self):
+    def __enter__(self) -> "Watcher":
         self.start()
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, *_: object) -> None:
         self._stop_asked.set()
         self.join()
         self._look()
@@ -114,11 +115,11 @@ class Watcher(threading.Thread):
 class Scripts:
     """The scripts that an install has the Registry Editor import, which are gone when it is."""
 
-    def __init__(self, machine):
+    def __init__(self, machine: Machine) -> None:
         self._path = machine.path(SCRIPT)
-        self.found = []
+        self.found: list[bytes] = []
 
-    def look(self):
+    def look(self) -> None:
         try:
             script = self._path.read_bytes()
         except FileNotFoundError:
@@ -132,12 +133,12 @@ class Scripts:
 class LogTimes:
     """The lines of a growing log, each with the time at which it was seen."""
 
-    def __init__(self, machine):
+    def __init__(self, machine: Machine) -> None:
         self._path = machine.path(LOG)
         self._read = self._path.stat().st_size if self._path.exists() else 0
-        self.lines = []
+        self.lines: list[tuple[float, str]] = []
 
-    def look(self):
+    def look(self) -> None:
         try:
             with self._path.open("rb") as log:
                 log.seek(self._read)
@@ -149,26 +150,26 @@ class LogTimes:
         self.lines += [(now, line) for line in grown.decode("utf-8").splitlines()]
 
 
-def install(machine):
+def install(machine: Machine) -> None:
     answer = machine.run(INSTALL_DIR + "\\NVXConfig.exe", "-I", "-S", "-Len-US", folder=INSTALL_DIR)
     if answer.returncode != 0 or COMPLETE not in machine.log().splitlines()[-1]:
         raise RuntimeError(f"the install did not come to its end: {answer.stdout!r}")
 
 
-def run_batch(machine):
+def run_batch(machine: Machine) -> None:
     answer = machine.run("cmd.exe", "/C", "C:\\install.bat", folder=INSTALL_DIR)
     if answer.returncode != 0 or answer.stdout.count(b"Everything is Ok") != 3:
         raise RuntimeError(f"the batch file failed: {answer.stdout[-2000:]!r}")
 
 
-def remove_server(machine):
+def remove_server(machine: Machine) -> None:
     for order in ("stop", "delete"):
         machine.run("sc", order, SERVER)
     if machine.run("sc", "query", SERVER).returncode == 0:
         raise RuntimeError("the server cannot be removed")
 
 
-def seconds(work, machine):
+def seconds(work: Callable[[Machine], None], machine: Machine) -> float:
     start = time.monotonic()
     work(machine)
     return time.monotonic() - start
@@ -177,7 +178,7 @@ def seconds(work, machine):
 class Split:
     """Where the time of one install went, in seconds."""
 
-    def __init__(self, start, lines, end):
+    def __init__(self, start: float, lines: list[tuple[float, str]], end: float) -> None:
         commands = [i for i, (_, line) in enumerate(lines) if "   0 Command:" in line]
         outputs = [i for i, (_, line) in enumerate(lines) if re.search(r"\d+ ( o|O)utput:", line)]
         server = next(i for i, (_, line) in enumerate(lines) if "0 Desktop=" in line)
@@ -190,7 +191,7 @@ class Split:
         self.own = end - start - self.start - self.programs - self.server - self.exit
 
 
-def timed_install(machine):
+def timed_install(machine: Machine) -> tuple[float, Split]:
     """The seconds of an install, and how they split."""
     times = LogTimes(machine)
     start = time.monotonic()
@@ -200,7 +201,7 @@ def timed_install(machine):
     return end - start, Split(start, times.lines, end)
 
 
-def warm_up(machine):
+def warm_up(machine: Machine) -> None:
     scripts = Scripts(machine)
     with Watcher(scripts.look):
         install(machine)
@@ -213,11 +214,11 @@ def warm_up(machine):
     remove_server(machine)
 
 
-def show(name, samples):
+def show(name: str, samples: list[float]) -> None:
     print(f"{name:<28} {statistics.median(samples) * 1000:6.0f} ms", flush=True)
 
 
-def main(build):
+def main(build: Path) -> None:
     machine = make_machine(build)
     warm_up(machine)
     installs, updates, batches, splits = [], [], [], []

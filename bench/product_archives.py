@@ -21,7 +21,7 @@ _FILES_IN_FOLDER = 40
 _STAMP = "made-of"
 
 
-def make_archives(folder):
+def make_archives(folder: str | Path) -> dict[str, Path]:
     """{archive name: its path}; they are made once in the folder."""
     folder = Path(folder)
     archives = {name: folder / name for name in _CONTENTS}

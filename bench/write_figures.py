@@ -12,13 +12,14 @@ import platform
 import re
 import subprocess
 import sys
+from collections.abc import Iterable, Sequence
 from pathlib import Path
 
 BEGIN = "<!-- figures of tools/bench -->"
 END = "<!-- end of the figures -->"
 
 
-def first_line(*command):
+def first_line(*command: str) -> str:
     answer = subprocess.run(
         command,
         stdout=subprocess.PIPE,
@@ -29,17 +30,20 @@ def first_line(*command):
     return answer.stdout.decode().splitlines()[0]
 
 
-def value_in(file, pattern):
-    return re.search(pattern, Path(file).read_text(), re.MULTILINE).group(1).strip()
+def value_in(file: str | Path, pattern: str) -> str:
+    found = re.search(pattern, Path(file).read_text(), re.MULTILINE)
+    if not found:
+        raise ValueError(f"{file} has no line {pattern}")
+    return found.group(1).strip()
 
 
-def table(titles, rows):
+def table(titles: Sequence[str], rows: Iterable[Sequence[str]]) -> list[str]:
     lines = ["| " + " | ".join(titles) + " |", "|" + "---|" * len(titles)]
     lines += ["| " + " | ".join(row) + " |" for row in rows]
     return lines
 
 
-def machine_lines(folder):
+def machine_lines(folder: Path) -> list[str]:
     gigabytes = int(value_in("/proc/meminfo", r"^MemTotal: *(\d+)")) / 1024 / 1024
     load = (folder / "load").read_text().split()[0]
     system = value_in("/etc/os-release", r'^PRETTY_NAME="(.*)"')
@@ -57,7 +61,7 @@ def machine_lines(folder):
     return table(("", ""), facts)
 
 
-def held_lines(folder):
+def held_lines(folder: Path) -> list[str]:
     rows = []
     for line in (folder / "rows").read_text().splitlines():
         work, peer, ours, peers, ratio, comparison, limit, held = line.split("\t")
@@ -68,11 +72,11 @@ def held_lines(folder):
     return table(titles, rows)
 
 
-def numbers(line):
+def numbers(line: str) -> list[float]:
     return [float(word) for word in line.split()]
 
 
-def scale_lines(folder):
+def scale_lines(folder: Path) -> list[str]:
     """Nanoseconds an item. The messages' own program prints milliseconds for loading and saving."""
     tables = {}
     for line in (folder / "tables").read_text().splitlines():
@@ -102,7 +106,7 @@ def scale_lines(folder):
     return table(titles, rows)
 
 
-def install_lines(folder):
+def install_lines(folder: Path) -> list[str]:
     rows = []
     for line in (folder / "install").read_text().splitlines():
         timed = re.match(r"^( *)(\S.*?) +(\d+) ms$", line)
@@ -111,7 +115,7 @@ def install_lines(folder):
     return table(("A silent install", "ms"), rows)
 
 
-def main(folder, document):
+def main(folder: Path, document: Path) -> None:
     figures = [
         *machine_lines(folder),
         "",

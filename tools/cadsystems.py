@@ -4,6 +4,8 @@ stands of them in the registry, and the files that the launchers are told in.
     put_cad_systems(machine)
 """
 
+from winemachine import Machine, Registry
+
 CREO_2 = "C:\\Program Files\\PTC\\Creo 2.0\\Parametric"
 CREO_3 = "C:\\Program Files\\PTC\\Creo 3.0\\Parametric"
 NX_10 = "C:\\Program Files\\Siemens\\NX 10.0"
@@ -38,7 +40,7 @@ _SOFTWARE = "HKEY_LOCAL_MACHINE\\SOFTWARE\\"
 _TAMSEL_CODE = "{0A7B2B0E-5E54-4C2E-9A5B-6E5C0F3B%s}"
 
 
-def registry_values():
+def registry_values() -> Registry:
     """{key: {value name: text}}"""
     values = {
         _SOFTWARE + "Velmora\\Brevant\\Current Version": {"LASTVERSIONRUN": "21.0.3"},
@@ -67,7 +69,7 @@ def registry_values():
     return values
 
 
-def registry_script(values):
+def registry_script(values: Registry) -> str:
     """The text of a script for the Registry Editor that writes the values."""
     lines = ["Windows Registry Editor Version 5.00"]
     for key, texts in values.items():
@@ -77,7 +79,7 @@ def registry_script(values):
     return "\r\n".join(lines) + "\r\n"
 
 
-def put_cad_systems(machine):
+def put_cad_systems(machine: Machine) -> None:
     """Puts all six on the machine, with an add-in of somebody else's in each file that is shared."""
     machine.import_script(registry_script(registry_values()))
     for path, contents in (

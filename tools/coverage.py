@@ -11,11 +11,15 @@ import os
 import subprocess
 import sys
 from collections import defaultdict
+from collections.abc import Iterable, Iterator
 from multiprocessing import Pool
 from pathlib import Path, PurePosixPath
+from typing import Any
 
 # The compiler's own: they run before main and have branches of their own for every global value.
 START_UP = ("_GLOBAL__sub_I_", "_Z41__static_initialization_and_destruction_0")
+
+Place = tuple[int, ...] | None  # of a function: its line and column
 
 
 class Source:
@@ -25,40 +29,40 @@ class Source:
     template or a constructor is compiled. What one of them reached is reached.
     """
 
-    def __init__(self):
-        self.lines = defaultdict(int)
-        self.conditions = {}
+    def __init__(self) -> None:
+        self.lines: dict[int, int] = defaultdict(int)
+        self.conditions: dict[tuple[int, Place, int], list[int]] = {}
 
-    def add_line(self, number, count):
+    def add_line(self, number: int, count: int) -> None:
         self.lines[number] += count
 
-    def add_conditions(self, number, function, ways):
+    def add_conditions(self, number: int, function: Place, ways: list[int]) -> None:
         place = (number, function, len(ways))
         before = self.conditions.get(place, [0] * len(ways))
         self.conditions[place] = [one + other for one, other in zip(before, ways)]
 
-    def add(self, other):
+    def add(self, other: "Source") -> None:
         for number, count in other.lines.items():
             self.add_line(number, count)
         for (number, function, _), ways in other.conditions.items():
             self.add_conditions(number, function, ways)
 
-    def branches(self):
+    def branches(self) -> dict[int, list[int]]:
         """The counts of the ways by their line.
 
         A condition in a line that was run which was never looked at itself is part of the clean-up after an
         exception; or the one before it, of which one way was not gone, stands for it.
         """
-        branches = defaultdict(list)
+        branches: dict[int, list[int]] = defaultdict(list)
         for (number, _, _), ways in self.conditions.items():
             for pair in zip(ways[::2], ways[1::2]):
                 if any(pair) or not self.lines[number]:
                     branches[number] += pair
         return branches
 
-    def missed_ranges(self):
+    def missed_ranges(self) -> list[list[int]]:
         """The first and last line of each stretch of code that was not run."""
-        ranges = []
+        ranges: list[list[int]] = []
         is_open = False
         for number, count in sorted(self.lines.items()):
             if count == 0 and is_open:
@@ -68,7 +72,7 @@ class Source:
             is_open = count == 0
         return ranges
 
-    def missed_branches(self):
+    def missed_branches(self) -> Iterator[tuple[int, int, int]]:
         """Line, ways not taken and all ways, of each line that was run but has not gone every way."""
         for number, counts in sorted(self.branches().items()):
             if self.lines[number] and 0 in counts:
@@ -78,28 +82,28 @@ class Source:
 class Tally:
     """How much there is, and how much of it was reached."""
 
-    def __init__(self):
+    def __init__(self) -> None:
         self.lines = self.lines_reached = self.branches = self.branches_reached = 0
 
-    def add(self, source):
+    def add(self, source: Source) -> None:
         branches = [count for counts in source.branches().values() for count in counts]
         self.lines += len(source.lines)
         self.lines_reached += sum(1 for count in source.lines.values() if count)
         self.branches += len(branches)
         self.branches_reached += sum(1 for count in branches if count)
 
-    def row(self, name):
+    def row(self, name: str) -> str:
         return (
             f"{name:38}{part(self.lines_reached, self.lines):>24}"
             f"{part(self.branches_reached, self.branches):>24}"
         )
 
 
-def part(reached, every):
+def part(reached: int, every: int) -> str:
     return f"{reached} of {every} {100 * reached / every:6.1f} %" if every else "none"
 
 
-def decisions(branches, code):
+def decisions(branches: list[dict[str, Any]], code: str) -> list[int]:
     """The counts of the two ways of each condition in a line of code.
 
     A call from which an exception may come has two ways of its own, to what follows and to the clean-up; no
@@ -114,7 +118,7 @@ def decisions(branches, code):
     return counts
 
 
-def read_unit(arguments):
+def read_unit(arguments: tuple[Path, Path, list[Path]]) -> dict[str, Source]:
     """The sources of one compiled unit, by their paths from the root on."""
     notes, root, rooms = arguments
     gcov = ["gcov", "--json-format", "--stdout", "--branch-probabilities", notes.name]
@@ -128,7 +132,7 @@ def read_unit(arguments):
     return sources
 
 
-def read_source(path, file):
+def read_source(path: Path, file: dict[str, Any]) -> Source:
     source = Source()
     code = path.read_text(encoding="utf-8").splitlines()
     places = {
@@ -148,14 +152,14 @@ def read_source(path, file):
     return source
 
 
-def read(build, target, rooms):
+def read(build: str, target: str, rooms: Iterable[str]) -> None:
     root = Path(__file__).resolve().parent.parent
     units = [
         (notes.resolve(), root, [root / room for room in rooms])
         for notes in Path(build).rglob("*.gcno")
         if "_autogen" not in str(notes)
     ]
-    sources = defaultdict(Source)
+    sources: dict[str, Source] = defaultdict(Source)
     with Pool() as pool:
         for unit in pool.imap_unordered(read_unit, units, chunksize=8):
             for path, source in unit.items():
@@ -163,7 +167,7 @@ def read(build, target, rooms):
     store(sources, target)
 
 
-def store(sources, target):
+def store(sources: dict[str, Source], target: str) -> None:
     content = {
         path: {"lines": sorted(source.lines.items()), "conditions": sorted(source.conditions.items())}
         for path, source in sorted(sources.items())
@@ -172,7 +176,7 @@ def store(sources, target):
         json.dump(content, file)
 
 
-def stored(path):
+def stored(path: str) -> dict[str, Source]:
     sources = {}
     with open(path, encoding="utf-8") as file:
         for name, content in json.load(file).items():
@@ -184,8 +188,8 @@ def stored(path):
     return sources
 
 
-def print_table(sources):
-    folders = defaultdict(Tally)
+def print_table(sources: dict[str, Source]) -> None:
+    folders: dict[str, Tally] = defaultdict(Tally)
     total = Tally()
     for path, source in sources.items():
         folders[str(PurePosixPath(path).parent)].add(source)
@@ -196,7 +200,7 @@ def print_table(sources):
     print(total.row("all"))
 
 
-def print_missed(sources, folder):
+def print_missed(sources: dict[str, Source], folder: str) -> bool:
     """Whether there is anything below the folder."""
     wanted = PurePosixPath(folder)
     below = [path for path in sorted(sources) if PurePosixPath(path).is_relative_to(wanted)]
@@ -208,7 +212,7 @@ def print_missed(sources, folder):
     return bool(below)
 
 
-def main(order, *arguments):
+def main(order: str, *arguments: str) -> None:
     if order == "read":
         read(arguments[0], arguments[1], arguments[2:])
     elif order == "table":

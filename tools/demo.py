@@ -7,7 +7,9 @@ Without tokens a new machine is made and the program installs the product on it.
 
 import contextlib
 import sys
+from collections.abc import Callable, Iterable
 from pathlib import Path
+from typing import TypeVar
 
 from cadsystems import (
     COM_CLASSES,
@@ -20,7 +22,7 @@ from cadsystems import (
     put_cad_systems,
 )
 from localization_share import Translators
-from winemachine import INSTALL_DIR, Machine, make_template, value_of
+from winemachine import INSTALL_DIR, Machine, Registry, make_template, value_of
 
 # What Wine itself writes while any program runs.
 NOISE = (
@@ -37,16 +39,18 @@ NOISE = (
 )
 SERVICES = "HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services\\"
 
+Item = TypeVar("Item", str, tuple[str, str])  # what is compared: a path, a name, a key with a value's name
 
-def heading(text):
+
+def heading(text: str) -> None:
     print(f"\n\033[1m== {text}\033[0m" if sys.stdout.isatty() else f"\n== {text}", flush=True)
 
 
-def is_noise(key):
+def is_noise(key: str) -> bool:
     return any(key.lower().startswith(noise.lower()) for noise in NOISE)
 
 
-def flatten(registry):
+def flatten(registry: Registry) -> dict[tuple[str, str], str]:
     return {
         (key, name): value
         for key, values in registry.items()
@@ -55,7 +59,7 @@ def flatten(registry):
     }
 
 
-def service_names(registry):
+def service_names(registry: Registry) -> dict[str, str]:
     names = {}
     for key in registry:
         if key.lower().startswith(SERVICES.lower()):
@@ -63,7 +67,9 @@ def service_names(registry):
     return names
 
 
-def print_changes(title, before, after, shown):
+def print_changes(
+    title: str, before: dict[Item, str], after: dict[Item, str], shown: Callable[[Item], str]
+) -> None:
     heading(title)
     lines = ["  + " + shown(item) for item in sorted(after.keys() - before.keys())]
     lines += ["  - " + shown(item) for item in sorted(before.keys() - after.keys())]
@@ -76,17 +82,17 @@ def print_changes(title, before, after, shown):
 SHARED_FILES = (PROTK_2, PROTK_3, CUSTOM_DIRS_10, CUSTOM_DIRS_11)
 
 
-def contents_of(machine, paths):
+def contents_of(machine: Machine, paths: Iterable[str]) -> dict[str, bytes]:
     return {path: machine.path(path).read_bytes() for path in paths if machine.path(path).exists()}
 
 
-def print_contents(title, contents):
+def print_contents(title: str, contents: bytes) -> None:
     print(f"  {title}:")
     for line in contents.decode("cp1252", "replace").splitlines():
         print("    | " + line)
 
 
-def print_launchers(machine, before, registry):
+def print_launchers(machine: Machine, before: dict[str, bytes], registry: Registry) -> None:
     """What the run has made of the CAD systems."""
     after = contents_of(machine, SHARED_FILES)
     for path in SHARED_FILES:
@@ -115,12 +121,12 @@ def print_launchers(machine, before, registry):
         print("  none")
 
 
-def is_addin(path):
+def is_addin(path: str) -> bool:
     in_space_claim = path.startswith(SPACE_CLAIM_ADDINS + "\\NVX")
     return in_space_claim or (path.endswith("\\NVX_2017.Addin") and TAMSEL_ADDINS in path)
 
 
-def prepare(build):
+def prepare(build: Path) -> Machine:
     heading("making a new Windows machine")
     template = make_template(build / "wine-template")
     machine = Machine.create(build / "demo", template)
@@ -131,14 +137,16 @@ def prepare(build):
     return machine
 
 
-def surroundings(machine, build, tokens):
+def surroundings(
+    machine: Machine, build: Path, tokens: list[str]
+) -> contextlib.AbstractContextManager[Translators | None]:
     """What a run meets beside the machine: the localisation tool has translators at the end of its share."""
     if "-T" in tokens:
         return Translators(machine, build, INSTALL_DIR)
     return contextlib.nullcontext()
 
 
-def main(build, tokens):
+def main(build: Path, tokens: list[str]) -> int:
     if tokens:
         machine = Machine(build / "demo")
         if not machine.prefix.exists():

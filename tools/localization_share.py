@@ -10,6 +10,8 @@ import subprocess
 import sys
 from pathlib import Path
 
+from winemachine import Machine, StrPath
+
 HERE = Path(__file__).resolve().parent
 SAMPLE = HERE.parent / "sample" / "localization"
 HOST_TOOLS = Path("/usr/lib/qt6/bin")
@@ -21,18 +23,17 @@ TOOLS = "C:\\build\\tools"
 class Translators:
     """Puts everything on the machine, and has a worker at the share while the block runs."""
 
-    def __init__(self, machine, build, install_dir, *worker_options):
+    def __init__(self, machine: Machine, build: StrPath, install_dir: str, *worker_options: str) -> None:
         self.machine = machine
         self.build = Path(build)
         self.install_dir = install_dir
         self.worker_options = worker_options
-        self.worker = None
 
-    def put_sources(self):
+    def put_sources(self) -> None:
         for folder in ("Projects", "Locale"):
             shutil.copytree(SAMPLE / folder, self.machine.path(ROOT + "\\" + folder), dirs_exist_ok=True)
 
-    def put_tools(self):
+    def put_tools(self) -> None:
         folder = self.machine.path(TOOLS)
         folder.mkdir(parents=True, exist_ok=True)
         for tool in ("lupdate", "lrelease"):
@@ -40,7 +41,7 @@ class Translators:
             shutil.copy(self.build / "sample" / "localization" / "unix_tool.exe", program)
             Path(str(program) + ".tool").write_text(str(HOST_TOOLS / tool))
 
-    def put_settings(self):
+    def put_settings(self) -> None:
         settings = self.machine.path(self.install_dir) / "localization.xml"
         settings.write_text(
             f"<localization>\n   <root>{ROOT}</root>\n   <share>{SHARE}</share>\n"
@@ -49,7 +50,7 @@ class Translators:
             encoding="utf-8",
         )
 
-    def __enter__(self):
+    def __enter__(self) -> "Translators":
         self.put_sources()
         self.put_tools()
         self.put_settings()
@@ -61,6 +62,6 @@ class Translators:
         )
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, *_: object) -> None:
         self.worker.terminate()
         self.worker.wait()

@@ -34,7 +34,7 @@ TOKENS = re.compile(
 )
 
 
-def blank(text, by):
+def blank(text: str, by: str) -> str:
     return "".join(char if char == "\n" else by for char in text)
 
 
@@ -42,7 +42,7 @@ def blank(text, by):
 OTHER_BRANCH = re.compile(r"^[ \t]*#[ \t]*else\b.*?^[ \t]*#[ \t]*endif\b", re.DOTALL | re.MULTILINE)
 
 
-def mask(text):
+def mask(text: str) -> tuple[str, list[tuple[int, int, str]]]:
     """The text at the same length with nothing in it but code, and the ranges of its literals."""
     literals = []
     text = OTHER_BRANCH.sub(lambda match: blank(match.group(), " "), text)
@@ -108,7 +108,7 @@ ASSIGNMENT = re.compile(r"((\w+)[\w.>\-]*(?:\[.*\])?) (?:=|\+=|\|=) (.*);$")
 DECLARED_NAME = re.compile(r"[*& ]([A-Za-z_]\w*)(?: =|;|\(|\{|\[)")
 
 
-def apart(line, following):
+def apart(line: str, following: str) -> bool:
     """Whether two assignments have nothing to do with each other, one of them being without a call."""
     first, second = ASSIGNMENT.match(line), ASSIGNMENT.match(following)
     if not first or not second or ("(" in first[3] and "(" in second[3]):
@@ -120,7 +120,7 @@ def apart(line, following):
 class Finder:
     """Goes over one file and keeps what it finds."""
 
-    def __init__(self, text):
+    def __init__(self, text: str) -> None:
         self.text = text
         self.code, self.literals = mask(text)
         self.lines = text.split("\n")
@@ -128,21 +128,21 @@ class Finder:
         self.starts = [0]
         for line in self.lines:
             self.starts.append(self.starts[-1] + len(line) + 1)
-        self.found = []
+        self.found: list[Mutant] = []
 
-    def line_of(self, offset):
+    def line_of(self, offset: int) -> int:
         return self.code.count("\n", 0, offset) + 1
 
-    def add(self, start, end, replacement, change):
+    def add(self, start: int, end: int, replacement: str, change: str) -> None:
         line = self.line_of(start)
         source = self.lines[line - 1].strip()
         if not WITHOUT_EFFECT.match(source):
             self.found.append(Mutant(start, end, replacement, line, source, change))
 
-    def replace(self, start, end, replacement):
+    def replace(self, start: int, end: int, replacement: str) -> None:
         self.add(start, end, replacement, f"{self.text[start:end].strip()} to {replacement.strip()}")
 
-    def operators(self):
+    def operators(self) -> None:
         for match in BINARY_OPERATOR.finditer(self.code):
             sign = match.group()
             if sign in ("+", "+=") and self.beside_text(match):
@@ -156,12 +156,12 @@ class Finder:
             self.add(match.start(), match.start(), "|| true ", "always the first of the choice")
             self.add(match.start(), match.start(), "&& false ", "always the second of the choice")
 
-    def beside_text(self, match):
+    def beside_text(self, match: re.Match[str]) -> bool:
         before = self.code[max(0, match.start() - 2) : match.start()].strip()
         after = self.code[match.end() : match.end() + 40].lstrip()
-        return before.endswith('"') or after.startswith('"') or TEXTS_AROUND.match(after)
+        return before.endswith('"') or after.startswith('"') or TEXTS_AROUND.match(after) is not None
 
-    def constants(self):
+    def constants(self) -> None:
         for match in WORD.finditer(self.code):
             self.replace(match.start(), match.end(), "false" if match.group() == "true" else "true")
         for match in NUMBER.finditer(self.code):
@@ -170,7 +170,7 @@ class Finder:
             written = hex(value) if digits[:2] in ("0x", "0X") else str(value)
             self.replace(match.start(), match.end(), written + match["suffix"])
 
-    def texts(self):
+    def texts(self) -> None:
         for start, end, kind in self.literals:
             place = self.place_to_change(start, end, kind)
             if place is not None:
@@ -179,7 +179,7 @@ class Finder:
                 changed = self.text[start:place] + new + self.text[place + 1 : end]
                 self.replace(start, end, changed)
 
-    def place_to_change(self, start, end, kind):
+    def place_to_change(self, start: int, end: int, kind: str) -> int | None:
         """A character that stands for itself: not part of an escape or of a place marker."""
         inside = self.text[start:end]
         first = inside.index("(") + 1 if kind == "raw" else 1
@@ -198,7 +198,7 @@ class Finder:
         letters = [at for at in plain if inside[at].isalnum() and inside[at].isascii()]
         return start + (letters or plain)[0] if plain else None
 
-    def conditions(self):
+    def conditions(self) -> None:
         """A condition without an operator of its own is negated."""
         for match in CONDITION.finditer(self.code):
             opened = match.end()
@@ -206,7 +206,7 @@ class Finder:
             if closed and not LOGIC.search(self.code[opened:closed]):
                 self.add(opened, closed, f"!({self.text[opened:closed]})", "negate the condition")
 
-    def returns(self):
+    def returns(self) -> None:
         for match in RETURN.finditer(self.code):
             closed = self.closing(match.end(), ";")
             if not closed or NOTHING.fullmatch(self.code[match.end() : closed].strip()):
@@ -216,7 +216,7 @@ class Finder:
             if self.answers_bool(match.start()) and not LOGIC.search(self.code[match.end() : closed]):
                 self.add(match.end(), closed, f"!({value})", "return the contrary")
 
-    def closing(self, start, end_sign):
+    def closing(self, start: int, end_sign: str) -> int | None:
         """Where the sign is that ends what begins at start, on its own level."""
         depth = 0
         for at in range(start, len(self.code)):
@@ -231,11 +231,11 @@ class Finder:
                     return None
         return None
 
-    def answers_bool(self, offset):
+    def answers_bool(self, offset: int) -> bool:
         heads = re.findall(r"^ *(?:[\w:]+ )*?bool [\w:]+\(.*$|^}", self.code[:offset], re.MULTILINE)
         return bool(heads) and heads[-1] != "}"
 
-    def statements(self):
+    def statements(self) -> None:
         """A statement of one line is left out, or changes places with the next."""
         for number in range(1, len(self.code_lines) - 1):
             if not self.is_statement(number):
@@ -249,7 +249,7 @@ class Finder:
             if self.may_swap(number, declares):
                 self.swap(number)
 
-    def is_statement(self, number):
+    def is_statement(self, number: int) -> bool:
         line = self.code_lines[number]
         before = next((text.strip() for text in reversed(self.code_lines[:number]) if text.strip()), "")
         return (
@@ -262,7 +262,7 @@ class Finder:
             and BEFORE_STATEMENT.search(before) is not None
         )
 
-    def may_swap(self, number, declares):
+    def may_swap(self, number: int, declares: bool) -> bool:
         line, following = self.code_lines[number], self.code_lines[number + 1]
         indent = len(line) - len(line.lstrip())
         guarded = not self.code_lines[number - 1].rstrip().endswith((";", "{", "}", ":"))
@@ -274,14 +274,14 @@ class Finder:
         used = name is None or re.search(rf"\b{name[1]}\b", following)
         return not used and not DECLARATION.match(following.strip())
 
-    def swap(self, number):
+    def swap(self, number: int) -> None:
         start, end = self.starts[number], self.starts[number + 2] - 1
         first, second = self.lines[number], self.lines[number + 1]
         indent = len(first) - len(first.lstrip())
         self.add(start + indent, end, f"{second.strip()}\n{first}", "change places with the next statement")
 
 
-def mutants_of(text):
+def mutants_of(text: str) -> list[Mutant]:
     """All mutants of a source file, in the order of the file."""
     finder = Finder(text)
     for look in (
@@ -296,5 +296,5 @@ def mutants_of(text):
     return sorted(finder.found)
 
 
-def mutated(text, mutant):
+def mutated(text: str, mutant: Mutant) -> str:
     return text[: mutant.start] + mutant.replacement + text[mutant.end :]

@@ -21,13 +21,15 @@ import signal
 import subprocess
 import sys
 import time
+from collections.abc import Iterable
 from concurrent.futures import ThreadPoolExecutor
 from dataclasses import dataclass, field
 from pathlib import Path
 from queue import Queue
+from typing import NoReturn
 from xml.etree import ElementTree
 
-from mutants import mutants_of, mutated
+from mutants import Mutant, mutants_of, mutated
 
 ROOT = Path(__file__).resolve().parent.parent
 LIST = ROOT / "tools" / "mutate.txt"
@@ -39,7 +41,7 @@ ATTEMPTS = 3  # of a test that is ended for its time
 OUTCOMES = ("killed", "timed out", "did not compile", "survived", "accepted")
 
 
-def stop(complaint):
+def stop(complaint: str) -> NoReturn:
     sys.exit(f"error: {complaint}")
 
 
@@ -48,18 +50,18 @@ class Unit:
     """A source file, its tests, and the changes of it that make no difference: (source, change) -> reason."""
 
     file: str
-    tests: list
-    accepted: dict = field(default_factory=dict)
+    tests: list[str]
+    accepted: dict[tuple[str, str], str] = field(default_factory=dict)
 
 
-def read_list(text):
+def read_list(text: str) -> list[Unit]:
     """The units of tools/mutate.txt:
 
     FILE: TEST TEST...
         > THE LINE OF THE SOURCE
             CHANGE because REASON
     """
-    units = []
+    units: list[Unit] = []
     source = ""
     for number, line in enumerate(text.split("\n"), 1):
         stripped = line.strip()
@@ -81,7 +83,7 @@ def read_list(text):
 # --- the copy -------------------------------------------------------------------------------------------
 
 
-def bring_copy_up_to_date():
+def bring_copy_up_to_date() -> None:
     """Only files that differ are written, so that only they are built again."""
     listed = subprocess.run(
         ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
@@ -106,7 +108,7 @@ def bring_copy_up_to_date():
                 os.remove(path)
 
 
-def build(tests):
+def build(tests: Iterable[str]) -> dict[str, list[str]]:
     """Builds the programs that hold these tests; returns {test: [target of its program, argument...]}."""
     WORK.mkdir(parents=True, exist_ok=True)
     log = WORK / "build.log"
@@ -119,7 +121,7 @@ def build(tests):
                 stop(f"the copy does not build; see {log}")
 
         run(["cmake", "--preset", "native", *fast_linker])
-        commands = {}
+        commands: dict[str, list[str]] = {}
         for file in sorted(BUILD.rglob("CTestTestfile.cmake")):
             commands |= test_commands(file.read_text(encoding="utf-8"), BUILD)
         for test in tests:
@@ -129,7 +131,7 @@ def build(tests):
     return {test: commands[test] for test in tests}
 
 
-def test_commands(registered, folder):
+def test_commands(registered: str, folder: Path) -> dict[str, list[str]]:
     """The tests that a file of ctest registers and that are programs of the build below the folder:
     {name: [target, argument...]}."""
     line = r'^add_test\((?:\[=*\[)?(\w+)(?:\]=*\])? (".*")\)$'
@@ -144,7 +146,7 @@ def test_commands(registered, folder):
 # --- one file ------------------------------------------------------------------------------------------
 
 
-def compile_command(file):
+def compile_command(file: str) -> list[str]:
     """The compiler's call for a file of the copy, without its launcher, its input and its output."""
     entries = json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8"))
     command = next((entry["command"] for entry in entries if entry["file"] == str(COPY / file)), None)
@@ -162,7 +164,7 @@ def compile_command(file):
     return ["clang++", *words[1:], "-O0", "-g0", "-w", "-iquote", str((COPY / file).parent)]
 
 
-def link_command(target):
+def link_command(target: str) -> list[str]:
     """The words of the linker's call for a program."""
     last = subprocess.run(
         ["ninja", "-t", "commands", "-s", target], cwd=BUILD, check=True, capture_output=True, text=True
@@ -174,11 +176,13 @@ def link_command(target):
 class Test:
     name: str
     target: str  # the program that holds it
-    arguments: list  # by which the program runs it
-    link: list
-    runs: list = field(default_factory=list)  # of some functions (none: all), with seconds
+    arguments: list[str]  # by which the program runs it
+    link: list[str]
+    runs: list[tuple[list[str], float]] = field(
+        default_factory=list
+    )  # of some functions (none: all), with seconds
 
-    def link_with(self, object_file, program):
+    def link_with(self, object_file: Path, program: Path) -> None:
         """Links the test, the object taking the place of the library's."""
         words = [str(program) if word == self.target else word for word in self.link]
         first = next(at for at, word in enumerate(words) if word.endswith(".a"))
@@ -189,7 +193,7 @@ class Test:
 class Bench:
     """What compiles and tries the mutants of one file."""
 
-    def __init__(self, unit, place, commands):
+    def __init__(self, unit: Unit, place: Path, commands: dict[str, list[str]]) -> None:
         self.unit = unit
         self.place = place
         self.text = (COPY / unit.file).read_text(encoding="utf-8")
@@ -202,7 +206,7 @@ class Bench:
         place.mkdir(parents=True)
         self.preamble_end = self.precompile_includes()
 
-    def precompile_includes(self):
+    def precompile_includes(self) -> int:
         """The includes at the top of the file come precompiled; the rest is what is compiled each time."""
         lines = self.text.split("\n")
         length = 0
@@ -214,7 +218,7 @@ class Bench:
         subprocess.run(command, cwd=self.place, check=True)
         return length
 
-    def compile(self, text, folder):
+    def compile(self, text: str, folder: Path) -> bool:
         """Compiles a text in the file's name, which assertions tell; False when it does not compile."""
         lines = text.split("\n")
         source = folder / "mutant.cpp"
@@ -226,14 +230,14 @@ class Bench:
         done = subprocess.run(command, cwd=self.place, capture_output=True, text=True, check=False)
         return done.returncode == 0
 
-    def outcome(self, text, folder):
+    def outcome(self, text: str, folder: Path) -> str:
         """What becomes of a text of the file: 'killed', 'timed out', 'did not compile' or 'survived'."""
         if not self.compile(text, folder):
             return "did not compile"
         for test in self.tests:
             program = folder / test.name
             test.link_with(folder / "mutant.o", program)
-            command = [program, *test.arguments]
+            command = [str(program), *test.arguments]
             for functions, seconds in test.runs:
                 result, _ = run_test(command, functions, folder, seconds)
                 # Some hosts end a program for its processor time long before it has used it.
@@ -244,14 +248,14 @@ class Bench:
                     return result
         return "survived"
 
-    def try_unchanged(self, folder):
+    def try_unchanged(self, folder: Path) -> None:
         """The tests pass on the unchanged file, and take so long."""
         if not self.compile(self.text, folder):
             stop(f"{self.unit.file} does not compile unchanged")
         for test in self.tests:
             program = folder / test.name
             test.link_with(folder / "mutant.o", program)
-            command = [program, *test.arguments]
+            command = [str(program), *test.arguments]
             times = folder / "times.xml"
             result, seconds = run_test(command, ["-o", f"{times},xml"], folder, 60)
             if result != "passed":
@@ -260,17 +264,19 @@ class Bench:
             test.runs = [(quick, seconds), (slow, seconds)] if quick and slow else [([], seconds)]
 
 
-def quick_and_slow_functions(report):
+def quick_and_slow_functions(report: str) -> tuple[list[str], list[str]]:
     """The functions of a test's report; those that take long run only when the others have passed."""
-    quick, slow = [], []
+    quick: list[str] = []
+    slow: list[str] = []
     for function in ElementTree.fromstring(report).iter("TestFunction"):
-        if function.get("name") not in ("initTestCase", "cleanupTestCase"):
-            milliseconds = float(function.find("Duration").get("msecs"))
-            (slow if milliseconds > 100 else quick).append(function.get("name"))
+        name = function.attrib["name"]
+        if name not in ("initTestCase", "cleanupTestCase"):
+            (duration,) = function.findall("Duration")
+            (slow if float(duration.attrib["msecs"]) > 100 else quick).append(name)
     return quick, slow
 
 
-def run_test(command, options, folder, seconds):
+def run_test(command: list[str], options: list[str], folder: Path, seconds: float) -> tuple[str, float]:
     """Runs a test that usually takes so many seconds of processor time: how it went, and the time it took.
 
     A test that loops is ended by its processor time, which does not depend on what else the machine does.
@@ -319,18 +325,20 @@ def run_test(command, options, folder, seconds):
 # --- all of them -------------------------------------------------------------------------------------
 
 
-def chosen_mutants(unit, text, lines, arguments):
+def chosen_mutants(unit: Unit, text: str, lines: set[int], arguments: argparse.Namespace) -> list[Mutant]:
     found = [mutant for mutant in mutants_of(text) if not lines or mutant.line in lines]
     if arguments.sample and arguments.sample < len(found):
         found = sorted(random.Random(f"{arguments.seed}:{unit.file}").sample(found, arguments.sample))
     return found
 
 
-def try_unit(unit, lines, arguments, commands):
+def try_unit(
+    unit: Unit, lines: set[int], arguments: argparse.Namespace, commands: dict[str, list[str]]
+) -> dict[str, int]:
     """Tries the mutants of one file, several at once; prints survivors, and answers the counts."""
     place = WORK / unit.file.replace("/", "-")
     bench = Bench(unit, place, commands)
-    folders = Queue()
+    folders: Queue[Path] = Queue()
     for number in range(arguments.jobs):
         (place / str(number)).mkdir()
         folders.put(place / str(number))
@@ -359,12 +367,12 @@ def try_unit(unit, lines, arguments, commands):
     return counts
 
 
-def row(name, counts, seconds):
+def row(name: str, counts: dict[str, int], seconds: float) -> str:
     numbers = "".join(f"{counts[outcome]:{len(outcome) + 2}}" for outcome in OUTCOMES)
     return f"{sum(counts.values()):7}{numbers}{seconds:8.0f} s  {name}"
 
 
-def read_arguments():
+def read_arguments() -> argparse.Namespace:
     parser = argparse.ArgumentParser(
         prog="tools/mutate", description="Tells which changes of the sources no test notices."
     )
@@ -376,10 +384,10 @@ def read_arguments():
     return parser.parse_args()
 
 
-def chosen_units(arguments):
+def chosen_units(arguments: argparse.Namespace) -> list[tuple[Unit, set[int]]]:
     """The units asked for, and the lines of each that are asked for, if not all."""
     units = {unit.file: unit for unit in read_list(LIST.read_text(encoding="utf-8"))}
-    lines = {}
+    lines: dict[str, set[int]] = {}
     for name in arguments.files or units:
         file, _, line = name.partition(":")
         if file not in units:
@@ -388,7 +396,7 @@ def chosen_units(arguments):
     return [(units[file], wanted) for file, wanted in lines.items()]
 
 
-def main():
+def main() -> None:
     arguments = read_arguments()
     chosen = chosen_units(arguments)
     bring_copy_up_to_date()

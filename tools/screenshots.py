@@ -12,11 +12,13 @@ import subprocess
 import sys
 import time
 import xml.etree.ElementTree as ElementTree
+from collections.abc import Callable
 from dataclasses import dataclass
 from pathlib import Path
+from typing import TypeVar
 
 from cadsystems import put_cad_systems
-from winemachine import INSTALL_DIR, Machine, make_template
+from winemachine import INSTALL_DIR, Machine, StrPath, make_template
 
 ROOT = Path(__file__).resolve().parents[1]
 LANGUAGES = ROOT / "resource" / "languages"
@@ -36,13 +38,15 @@ FAMILIES = {
 OTHER_FAMILY = "Open Sans"
 SYSTEM_FAMILIES = ("MS Shell Dlg", "MS Shell Dlg 2", "Tahoma")
 
+Answer = TypeVar("Answer")
+
 
 @dataclass
 class Page:
     """A page, the keys that lead to it from the one before, and the text in the log that it waits for."""
 
     name: str
-    keys: tuple = ()
+    keys: tuple[str, ...] = ()
     log_text: str = ""
 
 
@@ -53,11 +57,11 @@ class Program:
 
     name: str
     catalogue: str
-    pages: tuple
-    tokens: tuple = ()
-    only: tuple = ()  # the languages that it is shown in, all of them when empty
+    pages: tuple[Page, ...]
+    tokens: tuple[str, ...] = ()
+    only: tuple[str, ...] = ()  # the languages that it is shown in, all of them when empty
 
-    def locales(self):
+    def locales(self) -> list[str]:
         if self.only:
             return list(self.only)
         files = sorted(LANGUAGES.glob(self.catalogue + "_*.ts"))
@@ -92,18 +96,18 @@ PROGRAMS = (
 )
 
 
-def translated(text, catalogue, locale):
+def translated(text: str, catalogue: str, locale: str) -> str:
     """A text of the program in a language."""
     file = LANGUAGES / f"{catalogue}_{locale}.ts"
     if not file.exists():
         return text
     for message in ElementTree.parse(file).iter("message"):
         if message.findtext("source") == text:
-            return message.findtext("translation")
+            return message.findtext("translation", "")
     raise ValueError(f"{file.name} has no text '{text}'")
 
 
-def wait_for(what, condition):
+def wait_for(what: str, condition: Callable[[], Answer | None]) -> Answer:
     """Waits until the condition answers something, and answers that."""
     deadline = time.monotonic() + PATIENCE_S
     while True:
@@ -115,11 +119,11 @@ def wait_for(what, condition):
         time.sleep(0.2)
 
 
-def answer_of(*command):
+def answer_of(*command: StrPath | bytes) -> bytes:
     return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
 
 
-def make_machine(build, locale, scale):
+def make_machine(build: Path, locale: str, scale: int) -> Machine:
     """A fresh machine of a user who speaks that language, with the product on it."""
     unix_locale = locale.replace("-", "_") + ".UTF-8"
     locales = build / "locales"
@@ -139,7 +143,7 @@ def make_machine(build, locale, scale):
     return machine
 
 
-def screen_settings(family, scale):
+def screen_settings(family: str, scale: int) -> str:
     """A script for the Registry Editor: a desktop of our own, on which windows have title bars; its font and
     its scaling."""
     lines = [
@@ -159,14 +163,14 @@ def screen_settings(family, scale):
 class Session:
     """A program that runs on a machine and shows its window."""
 
-    def __init__(self, machine, program, locale):
+    def __init__(self, machine: Machine, program: Program, locale: str) -> None:
         self.machine, self.program, self.locale = machine, program, locale
         self.log = machine.path(INSTALL_DIR + "\\NVXConfig.log")
-        self.last_picture = None
+        self.last_picture: bytes | None = None
         tokens = [token.format(locale=locale) for token in program.tokens]
         self.process = machine.start(f"{INSTALL_DIR}\\{program.name}.exe", *tokens)
 
-    def window(self):
+    def window(self) -> str | None:
         """The program's only window; nothing while it has none."""
         pattern = f"^{self.program.name.lower()}\\.exe$"
         found = answer_of("xdotool", "search", "--onlyvisible", "--class", pattern).split()
@@ -177,13 +181,13 @@ class Session:
             raise RuntimeError(f"{self.program.name} has ended with {self.process.returncode}")
         return found[0].decode() if found else None
 
-    def picture(self):
+    def picture(self) -> bytes | None:
         """The window as a PNG; nothing while there is none."""
         window = self.window()
         options = ("-strip", "-define", "png:exclude-chunks=date,time", "-define", "png:compression-level=9")
-        return window and answer_of("import", "-window", window, *options, "png:-")
+        return answer_of("import", "-window", window, *options, "png:-") if window else None
 
-    def still_picture(self):
+    def still_picture(self) -> bytes:
         """The window once it is another than before and no longer changes."""
         seen = []
 
@@ -196,7 +200,7 @@ class Session:
         self.last_picture = wait_for("a page that stays as it is", calm)
         return self.last_picture
 
-    def show(self, page):
+    def show(self, page: Page) -> bytes:
         for key in page.keys:
             answer_of("xdotool", "key", key)
         if page.log_text:
@@ -208,7 +212,7 @@ class Session:
         return self.still_picture()
 
 
-def take_pictures(build, program, locale, scale, folder):
+def take_pictures(build: Path, program: Program, locale: str, scale: int, folder: Path) -> None:
     machine = make_machine(build, locale, scale)
     try:
         session = Session(machine, program, locale)
@@ -221,14 +225,14 @@ def take_pictures(build, program, locale, scale, folder):
         machine.stop()
 
 
-def check_fonts():
+def check_fonts() -> None:
     families = answer_of("fc-list", ":", "family").decode()
     missing = {family for family in (*FAMILIES.values(), OTHER_FAMILY) if family not in families}
     if missing:
         sys.exit(f"these fonts are missing: {', '.join(sorted(missing))}; run tools/setup")
 
 
-def main():
+def main() -> None:
     parser = argparse.ArgumentParser(prog="tools/screenshots")
     parser.add_argument("build", type=Path)
     parser.add_argument("--to", type=Path, default=ROOT / "docs" / "images")

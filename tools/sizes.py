@@ -10,6 +10,7 @@ the one that closes it is the next at the same indentation.
 import ast
 import re
 import sys
+from collections.abc import Iterator
 from pathlib import Path
 
 FILE_LINES = 500
@@ -19,7 +20,7 @@ FUNCTION_LINES = 70
 TYPE_HEAD = re.compile(r"\s*(template\s*<.*>\s*)?(class|struct|union|enum)\b")
 
 
-def begins_type(lines, brace):
+def begins_type(lines: list[str], brace: int) -> bool:
     """Whether the brace on that line belongs to a class or the like, whose head may be of several lines."""
     head = brace - 1
     while head > 0 and lines[head].lstrip().startswith((":", ",", "public", "private")):
@@ -27,7 +28,7 @@ def begins_type(lines, brace):
     return bool(TYPE_HEAD.match(lines[head]))
 
 
-def cpp_functions(lines):
+def cpp_functions(lines: list[str]) -> Iterator[tuple[int, int]]:
     """(first line, last line) of the functions' bodies, braces included, counted from 1."""
     for first, line in enumerate(lines):
         if line.strip() != "{" or first == 0 or begins_type(lines, first):
@@ -38,13 +39,13 @@ def cpp_functions(lines):
             yield first + 1, last + 1
 
 
-def python_functions(text):
+def python_functions(text: str) -> Iterator[tuple[int, int]]:
     for node in ast.walk(ast.parse(text)):
         if isinstance(node, (ast.FunctionDef, ast.AsyncFunctionDef)):
-            yield node.lineno, node.end_lineno
+            yield node.lineno, node.end_lineno or node.lineno
 
 
-def complaints(path):
+def complaints(path: Path) -> Iterator[str]:
     text = path.read_text(encoding="utf-8")
     lines = text.splitlines()
     if len(lines) > FILE_LINES:
@@ -57,7 +58,7 @@ def complaints(path):
             yield f"{path}:{first}: a function of {last - first + 1} lines, more than {FUNCTION_LINES}"
 
 
-def main():
+def main() -> int:
     found = [complaint for name in sys.argv[1:] for complaint in complaints(Path(name))]
     print("\n".join(found), end="\n" if found else "")
     return 1 if found else 0

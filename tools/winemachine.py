@@ -30,6 +30,7 @@ import subprocess
 import sys
 import tempfile
 import time
+from collections.abc import Iterator
 from pathlib import Path
 
 PROGRAM_FILES = "C:\\Program Files"
@@ -59,6 +60,10 @@ _ADDR_NO_RANDOMIZE = 0x0040000
 _ASK_PERSONALITY = 0xFFFFFFFF
 
 
+StrPath = str | os.PathLike[str]
+Registry = dict[str, dict[str, str]]  # {key path: {value name: value}}
+
+
 class MachineError(Exception):
     """The machine itself failed, not a program on it."""
 
@@ -66,15 +71,19 @@ class MachineError(Exception):
 class Machine:
     """One machine. `locale` is the locale of its user, as Unix names it."""
 
-    def __init__(self, prefix, locale="C.UTF-8", locale_folder=None):
+    def __init__(
+        self, prefix: StrPath, locale: str = "C.UTF-8", locale_folder: StrPath | None = None
+    ) -> None:
         self.prefix = Path(prefix).absolute()
         self.locale = locale
         self.locale_folder = locale_folder
-        self._server = None
-        self._processor = None
+        self._server: subprocess.Popen[bytes] | None = None
+        self._processor: int | None = None
 
     @classmethod
-    def create(cls, prefix, template, locale="C.UTF-8", locale_folder=None):
+    def create(
+        cls, prefix: StrPath, template: StrPath, locale: str = "C.UTF-8", locale_folder: StrPath | None = None
+    ) -> "Machine":
         """A fresh machine in the folder `prefix`, replacing what is there. Its first program starts it."""
         machine = cls(prefix, locale, locale_folder)
         if machine.prefix.exists():
@@ -85,14 +94,14 @@ class Machine:
         machine.stop()
         return machine
 
-    def path(self, windows_path):
+    def path(self, windows_path: str) -> Path:
         """Where a file of the machine's drive C lies on the host."""
         drive, rest = windows_path[:2], windows_path[3:]
         if drive.upper() != "C:":
             raise ValueError("not on drive C: " + windows_path)
         return self.prefix / "drive_c" / rest.replace("\\", "/")
 
-    def environment(self, **extra):
+    def environment(self, **extra: str) -> dict[str, str]:
         kept = ("PATH", "LANG", "DISPLAY", "XAUTHORITY", "TMPDIR")
         environment = {name: os.environ[name] for name in kept if name in os.environ}
         environment.update(
@@ -108,7 +117,9 @@ class Machine:
         environment.update(extra)
         return environment
 
-    def run(self, program, *tokens, folder=None, timeout=240, **environment):
+    def run(
+        self, program: str, *tokens: str, folder: str | None = None, timeout: float = 240, **environment: str
+    ) -> subprocess.CompletedProcess[bytes]:
         """Runs a program of the machine to its end; returns its exit code, and what it wrote in `stdout`.
 
         A program that outlives the timeout raises subprocess.TimeoutExpired, with a note of what ran on the
@@ -121,7 +132,7 @@ class Machine:
         # run: a file does not wait for them, a pipe would.
         with tempfile.TemporaryFile() as output:
             with self.program_settings():
-                program = subprocess.Popen(
+                process = subprocess.Popen(
                     command,
                     cwd=working_folder,
                     env=self.environment(**environment),
@@ -130,16 +141,16 @@ class Machine:
                     stderr=subprocess.STDOUT,
                 )
             try:
-                program.wait(timeout)
+                process.wait(timeout)
             except subprocess.TimeoutExpired as error:
                 error.add_note("Programs of the machine:\n" + "\n".join(self.programs().values()))
                 self.stop()
-                program.wait()
+                process.wait()
                 raise
             output.seek(0)
-            return subprocess.CompletedProcess(command, program.returncode, output.read())
+            return subprocess.CompletedProcess(command, process.returncode, output.read())
 
-    def start(self, program, *tokens):
+    def start(self, program: str, *tokens: str) -> subprocess.Popen[bytes]:
         """Starts a program of the machine and does not wait for it; returns its process, whose output is
         dropped."""
         self.start_up()
@@ -153,7 +164,7 @@ class Machine:
                 stderr=subprocess.DEVNULL,
             )
 
-    def start_up(self):
+    def start_up(self) -> None:
         """Starts the machine unless it runs; its services have started when this returns."""
         if self._server:
             if self._server.poll() is None:
@@ -171,7 +182,7 @@ class Machine:
             raise
 
     @contextlib.contextmanager
-    def program_settings(self):
+    def program_settings(self) -> Iterator[None]:
         """What is started meanwhile gets the settings of the machine's programs.
 
         They stay on one processor: a program calls the server thousands of times, and waking another
@@ -191,7 +202,7 @@ class Machine:
             _LIBC.personality(personality)
             os.sched_setaffinity(0, processors)
 
-    def stop(self):
+    def stop(self) -> None:
         """Ends every process of the machine and writes its registry to the disk."""
         server, self._server = self._server, None
         if server:
@@ -208,7 +219,7 @@ class Machine:
         else:
             _stop_other_server(self.environment())
 
-    def programs(self, *names):
+    def programs(self, *names: str) -> dict[int, str]:
         """The programs that run on the machine: {id on the host: command line}; with names, only those whose
         command line holds one of them."""
         prefix = f"WINEPREFIX={self.prefix}".encode()
@@ -223,14 +234,14 @@ class Machine:
                 pass  # it has ended meanwhile
         return found
 
-    def set_value(self, key, name, text):
+    def set_value(self, key: str, name: str, text: str) -> None:
         """Writes a text into the registry, as an administrator would with the machine's own tool."""
         answer = self.run("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", text, "/f")
         if answer.returncode != 0:
             told = answer.stdout.decode(errors="replace")
             raise MachineError(f"reg add ended with {answer.returncode}: {told}")
 
-    def import_script(self, script):
+    def import_script(self, script: str) -> None:
         """Has the Registry Editor import a script (a str). The editor returns 0 for anything: a value added
         at the end and read back shows that it has read all of the script."""
         mark = str(time.monotonic_ns())
@@ -242,7 +253,7 @@ class Machine:
         if mark.encode() not in self.run("reg", "query", IMPORT_KEY, "/v", "Mark").stdout:
             raise MachineError(f"a registry script has not been imported on {self.prefix}")
 
-    def registry(self):
+    def registry(self) -> Registry:
         """The whole registry: {key path: {value name: value}}. Stops the machine, which writes it down."""
         self.stop()
         keys = {}
@@ -250,7 +261,7 @@ class Machine:
             keys.update(_read_registry(self.prefix / file, root))
         return keys
 
-    def files(self, folder="C:\\"):
+    def files(self, folder: str = "C:\\") -> dict[str, str]:
         """Every file and empty folder below a folder of the machine, its Windows folder left out:
         {path: hash of the contents}."""
         top = self.path(folder)
@@ -268,7 +279,13 @@ class Machine:
                 found[shown + "\\"] = ""
         return found
 
-    def put_product(self, installed, sample, install_dir=INSTALL_DIR, translators=TRANSLATORS):
+    def put_product(
+        self,
+        installed: StrPath,
+        sample: StrPath,
+        install_dir: str = INSTALL_DIR,
+        translators: str | None = TRANSLATORS,
+    ) -> None:
         """Copies the sample product and our program to the machine, as an installer does. `installed` is a
         folder laid out by `cmake --install`, `sample` the built sample product."""
         for source in (Path(sample) / "product", Path(installed)):
@@ -277,7 +294,7 @@ class Machine:
             _copy_anew(Path(sample) / "translators", self.path(translators))
             self.set_value(TRANSLATORS_KEY, "Folder", translators)
 
-    def log(self, install_dir=INSTALL_DIR):
+    def log(self, install_dir: str = INSTALL_DIR) -> str:
         """The text of the run's log."""
         return (self.path(install_dir) / "NVXConfig.log").read_text(encoding="utf-8")
 
@@ -293,7 +310,7 @@ def _free_processor():
                     machines[on.pop()] += 1
         except (OSError, ValueError):
             pass  # it has ended meanwhile
-    return min(machines, key=machines.get)
+    return min(machines, key=machines.__getitem__)
 
 
 def _start_server(environment, processor, errors):
@@ -353,7 +370,7 @@ def _stop_other_server(environment):
         )
 
 
-def make_template(folder):
+def make_template(folder: StrPath) -> Path:
     """Makes the template of all machines, once; a Wine of another version makes it anew."""
     folder = Path(folder)
     version = subprocess.run(
@@ -404,7 +421,7 @@ _VALUE = re.compile(r'^(?:"((?:[^"\\]|\\.)*)"|@)=(.*)$')
 
 
 def _read_registry(path, root):
-    keys = {}
+    keys: Registry = {}
     # Machines differ from their template in a few of twenty thousand keys, so most sections are known.
     for section in path.read_text(encoding="utf-8", errors="surrogateescape").split("\n["):
         key, values = _read_section(section)
@@ -444,7 +461,7 @@ def _unescape(text):
     return re.sub(r"\\(x[0-9a-f]{1,4}|.)", character, text)
 
 
-def value_of(registry, key, name):
+def value_of(registry: Registry, key: str, name: str) -> str | None:
     """A value of a registry, keys and names compared without case; None when it is missing."""
     for path, values in registry.items():
         if path.lower() == key.lower():

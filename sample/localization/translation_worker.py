@@ -27,17 +27,19 @@ LANGUAGES = {
 JOB = "NVX360"
 
 
-def pseudo_translation(source, code):
+def pseudo_translation(source: str, code: str) -> str:
     """The text, marked with the language; its placeholders stay."""
     return f"[{code}] {source}"
 
 
-def translate(table, code):
+def translate(table: bytes, code: str) -> bytes:
     """The bytes of a translation file in the language of a code."""
     root = ElementTree.fromstring(table)
     root.set("language", LANGUAGES[code])
     for message in root.iter("message"):
         translation = message.find("translation")
+        if translation is None:
+            raise ValueError("a message has no element for its translation")
         translation.attrib.pop("type", None)
         text = pseudo_translation(message.findtext("source", ""), code)
         forms = translation.findall("numerusform")
@@ -50,7 +52,7 @@ def translate(table, code):
     )
 
 
-def is_settled(job, files_folder, sources, seconds):
+def is_settled(job: Path, files_folder: Path, sources: list[Path], seconds: float) -> bool:
     """Whether the sources are there and nothing has come or gone anywhere for some time.
 
     The job comes before the files: those of an earlier job may still lie there, long settled.
@@ -64,7 +66,7 @@ def is_settled(job, files_folder, sources, seconds):
     return time.time() - newest >= seconds
 
 
-def take(job, files_folder, settle, damaged):
+def take(job: Path, files_folder: Path, settle: float, damaged: str) -> None:
     """Does a job and writes the answer."""
     names = [line.removeprefix("enu\\") for line in job.read_text(encoding="utf-8").splitlines() if line]
     sources = [files_folder / "enu" / name for name in names]
@@ -83,7 +85,7 @@ def take(job, files_folder, settle, damaged):
     print(f"{JOB}: {len(names)} files in {len(LANGUAGES)} languages", flush=True)
 
 
-def main():
+def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("share", type=Path)
     parser.add_argument("--once", action="store_true")

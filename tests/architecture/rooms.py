@@ -5,6 +5,7 @@ and `forbidden_includes` and `forbidden_links` hold the #include lines and the C
 """
 
 import re
+from collections.abc import Iterable, Iterator
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -30,8 +31,8 @@ _LINKS = re.compile(r"\btarget_link_libraries\(\s*(\w+)\s+PRIVATE([^)]*)\)")
 @dataclass(frozen=True)
 class Room:
     name: str
-    patterns: tuple  # folders ("Client/source/") and beginnings of paths ("source/mat_*")
-    knows: frozenset
+    patterns: tuple[str, ...]  # folders ("Client/source/") and beginnings of paths ("source/mat_*")
+    knows: frozenset[str]
 
 
 @dataclass(frozen=True)
@@ -39,11 +40,15 @@ class Target:
     """A library or a program, the files that it is made of and what it links."""
 
     name: str
-    sources: tuple
-    links: tuple
+    sources: tuple[str, ...]
+    links: tuple[str, ...]
 
 
-def read_rooms(document):
+Rooms = dict[str, Room]
+Arrow = tuple[str | None, str | None, str]  # from, to, what makes it
+
+
+def read_rooms(document: str) -> Rooms:
     """{name: Room} of the document's table."""
     rooms = {}
     for name, files, _, knows in _ROW.findall(document):
@@ -52,7 +57,7 @@ def read_rooms(document):
     return rooms
 
 
-def room_of(rooms, path):
+def room_of(rooms: Rooms, path: str) -> str | None:
     """The name of the room that a file lies in: that of the longest pattern; None without one."""
     found = [
         (len(pattern), room.name)
@@ -63,7 +68,7 @@ def room_of(rooms, path):
     return max(found)[1] if found else None
 
 
-def source_files(root):
+def source_files(root: str | Path) -> list[str]:
     """The paths of the C++ files of all rooms."""
     return sorted(
         path.relative_to(root).as_posix()
@@ -73,7 +78,7 @@ def source_files(root):
     )
 
 
-def includes_of(root, path):
+def includes_of(root: str | Path, path: str) -> Iterator[tuple[str, str | None]]:
     """The files of ours that a file includes: (the text between the quotes, the path or None)."""
     root = Path(root)
     for name in _INCLUDE.findall((root / path).read_text(encoding="utf-8")):
@@ -85,7 +90,7 @@ def includes_of(root, path):
         yield name, found
 
 
-def arrows_of_includes(root, rooms):
+def arrows_of_includes(root: str | Path, rooms: Rooms) -> Iterator[Arrow]:
     """Every arrow from one room to another: (room, room, what makes it)."""
     for path in source_files(root):
         for name, found in includes_of(root, path):
@@ -94,7 +99,7 @@ def arrows_of_includes(root, rooms):
             yield room_of(rooms, path), room_of(rooms, found), f'{path} includes "{name}"'
 
 
-def targets_of(root):
+def targets_of(root: str | Path) -> dict[str, Target]:
     """The libraries and programs that the CMake files of the rooms declare."""
     targets = {}
     for folder in CODE_FOLDERS:
@@ -112,8 +117,8 @@ def targets_of(root):
 
 
 def _parts_of_library(words):
-    parts = {"INCLUDES": [], "SOURCES": [], "LINKS": []}
-    part = []
+    parts: dict[str, list[str]] = {"INCLUDES": [], "SOURCES": [], "LINKS": []}
+    part: list[str] = []
     for word in words.split():
         part = parts.get(word, part)
         if word not in parts:
@@ -131,13 +136,13 @@ def _paths(place, words):
     return tuple(paths)
 
 
-def main_room(rooms, target):
+def main_room(rooms: Rooms, target: Target) -> str | None:
     """The room that most of a target's files lie in."""
     found = [room_of(rooms, source) for source in target.sources]
     return max(set(found), key=lambda room: (found.count(room), str(room)))
 
 
-def arrows_of_links(rooms, targets):
+def arrows_of_links(rooms: Rooms, targets: dict[str, Target]) -> Iterator[Arrow]:
     for target in targets.values():
         for link in target.links:
             if link in targets:
@@ -148,7 +153,7 @@ def arrows_of_links(rooms, targets):
                 )
 
 
-def forbidden(rooms, arrows):
+def forbidden(rooms: Rooms, arrows: Iterable[Arrow]) -> list[str]:
     """What the table does not allow, each with the table's word on it."""
     faults = []
     for start, end, cause in arrows:
@@ -159,7 +164,7 @@ def forbidden(rooms, arrows):
     return faults
 
 
-def unused_arrows(rooms, arrows):
+def unused_arrows(rooms: Rooms, arrows: Iterable[Arrow]) -> list[tuple[str, str]]:
     """What the table allows and nothing uses: (room, room)."""
     used = {(start, end) for start, end, _ in arrows}
     return sorted(
@@ -170,7 +175,7 @@ def unused_arrows(rooms, arrows):
     )
 
 
-def circle(rooms):
+def circle(rooms: Rooms) -> list[str]:
     """A way along the arrows that comes back to its start; empty when there is none."""
 
     def search(name, way):

@@ -24,11 +24,11 @@ class Block:
     text: str
 
 
-def text_of(path):
+def text_of(path: str | Path) -> str:
     return (ROOT / path).read_text(encoding="utf-8")
 
 
-def blocks_of(document):
+def blocks_of(document: str) -> list[Block]:
     """The blocks that have a remark, in their order: "<!-- WHAT: NAME -->" or "<!-- WHAT -->"."""
     blocks = []
     for match in _BLOCK.finditer(document):
@@ -37,22 +37,22 @@ def blocks_of(document):
     return blocks
 
 
-def prose_of(document):
+def prose_of(document: str) -> str:
     """The document without its fenced blocks."""
     return _FENCED.sub("", document)
 
 
-def links_of(document):
+def links_of(document: str) -> list[str]:
     """Where the links and pictures of a document lead."""
     return _LINK.findall(prose_of(document))
 
 
-def code_of(document):
+def code_of(document: str) -> list[str]:
     """What stands between back quotes in the prose."""
     return _CODE.findall(prose_of(document))
 
 
-def anchors_of(document):
+def anchors_of(document: str) -> set[str]:
     """The names by which a document's headings are linked."""
     anchors = set()
     for heading in re.findall(r"^#+ (.*)$", prose_of(document), re.MULTILINE):
@@ -61,13 +61,13 @@ def anchors_of(document):
     return anchors
 
 
-def section_of(document, heading):
+def section_of(document: str, heading: str) -> str:
     """The text below a heading, to the next one of its level; KeyError when there is none."""
     parts = re.split(r"^## (.*)$", document, flags=re.MULTILINE)
     return dict(zip(parts[1::2], parts[2::2]))[heading]
 
 
-def rows_of(text):
+def rows_of(text: str) -> list[list[str]]:
     """The cells of all table rows in a text; rules and headings above a rule are left out."""
     lines = text.splitlines()
     rows = []

@@ -19,7 +19,7 @@ MANIFEST = LAUNCHERS + "\\Tamsel\\NVX_2017.Addin"
 ADDIN = SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\NVX_2017_SpaceClaim"
 
 
-def creo_entry(release, install_dir=INSTALL_DIR, encoding="ascii"):
+def creo_entry(release: int, install_dir: str = INSTALL_DIR, encoding: str = "ascii") -> bytes:
     library = f"Creo{release}\\NVX_2017_Creo{release}0.dll"
     text = (
         "name NVX 2017\r\n"
@@ -32,11 +32,11 @@ def creo_entry(release, install_dir=INSTALL_DIR, encoding="ascii"):
     return text.encode(encoding)
 
 
-def nx_line(sub_folder, install_dir=INSTALL_DIR, encoding="ascii"):
+def nx_line(sub_folder: str, install_dir: str = INSTALL_DIR, encoding: str = "ascii") -> bytes:
     return f"\r\n{install_dir}\\Launchers\\UGNX{sub_folder}\r\n".encode(encoding)
 
 
-def manifest(install_dir=INSTALL_DIR):
+def manifest(install_dir: str = INSTALL_DIR) -> bytes:
     text = (
         '<?xml version="1.0" encoding="utf-16" standalone="no"?>\n'
         "<TamselAddIns>\n"
@@ -52,34 +52,34 @@ def manifest(install_dir=INSTALL_DIR):
     return text.encode("utf-8")[: len(text)]
 
 
-def target_manifest(year):
+def target_manifest(year: int) -> str:
     return TAMSEL_ADDINS + f"\\{year}\\NVX_2017.Addin"
 
 
 class LauncherCase(MachineCase):
     @classmethod
-    def setUpClass(cls):
+    def setUpClass(cls) -> None:
         super().setUpClass()
         put_cad_systems(cls.machine)
 
-    def run_with(self, option, install_dir=INSTALL_DIR):
+    def run_with(self, option: str, install_dir: str = INSTALL_DIR) -> list[str]:
         """One run of the program; answers the lines of its log."""
         self.machine.path(install_dir + "\\NVXConfig.log").unlink(missing_ok=True)
         code, lines = self.configure(install_dir, option, "-S", "-Len-US")
         self.assert_complete(code, lines)
         return lines
 
-    def diagnose_with(self, option, install_dir=INSTALL_DIR):
+    def diagnose_with(self, option: str, install_dir: str = INSTALL_DIR) -> tuple[list[str], list[str]]:
         """The same with the run's diagnostic warnings, as a second value."""
         self.machine.path(install_dir + "\\NVXConfig.log").unlink(missing_ok=True)
         code, lines, warnings = self.diagnose(install_dir, option, "-S", "-Len-US")
         self.assert_complete(code, lines)
         return lines, warnings
 
-    def read(self, path):
+    def read(self, path: str) -> bytes:
         return self.machine.path(path).read_bytes()
 
-    def reset_files(self):
+    def reset_files(self) -> None:
         """Makes the shared files those of a machine without the product."""
         for path in (PROTK_2, PROTK_3, CUSTOM_DIRS_10, CUSTOM_DIRS_11):
             file = self.machine.path(path)

@@ -6,7 +6,7 @@ import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 from launcher_case import ADDIN, TAMSEL_ADDINS, creo_entry, manifest, nx_line
-from random_machine import UNINSTALL
+from random_machine import UNINSTALL, Plan
 from winemachine import ENVIRONMENT_KEY, SHARED_DATA, TRANSLATORS, TUTORIALS
 
 LANGUAGES = Path(__file__).resolve().parents[2] / "resource" / "languages"
@@ -17,23 +17,25 @@ NX_SUB_FOLDERS = {"8": "\\NX8", "9": "\\NX9", "10": "\\NX10", "11": ""}
 # The languages for which the sample brings libraries.
 LANGUAGES_WITH_LIBRARIES = ("en-US", "de-DE", "ja-JP")
 
+SharedContents = dict[str, bytes | None]  # {path: contents, None for no file}
+
 
 class Catalogue:
     """The texts of the program in a language."""
 
-    def __init__(self, locale):
-        self._texts = {}
+    def __init__(self, locale: str) -> None:
+        self._texts: dict[str, str] = {}
         path = LANGUAGES / f"nvxconfig_{locale}.ts"
         if path.exists():
             for message in ElementTree.parse(path).iter("message"):
-                source, translation = message.findtext("source"), message.findtext("translation")
+                source, translation = message.findtext("source", ""), message.findtext("translation")
                 self._texts.setdefault(source, translation or source)
 
-    def __call__(self, source):
+    def __call__(self, source: str) -> str:
         return self._texts.get(source, source)
 
 
-def step_beginnings(plan, is_install):
+def step_beginnings(plan: Plan, is_install: bool) -> list[str]:
     """The beginnings of the lines with which the steps begin, in the order of the run."""
     tr = Catalogue(plan.language)
     mode = tr("Install" if is_install else "UnInstall")
@@ -69,25 +71,25 @@ def _launcher_beginnings(plan, tr, mode):
     return steps + ["   0 " + title for title in titles]
 
 
-def find_steps(lines, beginnings):
+def find_steps(lines: list[str], beginnings: list[str]) -> list[str]:
     """The beginnings that are found in the log one behind the other, up to the first that is not."""
     found, at = [], 0
     for beginning in beginnings:
-        at = next((i for i in range(at, len(lines)) if lines[i].startswith(beginning)), None)
-        if at is None:
+        place = next((i for i in range(at, len(lines)) if lines[i].startswith(beginning)), None)
+        if place is None:
             break
         found.append(beginning)
-        at += 1
+        at = place + 1
     return found
 
 
-def shared_files_before(plan):
+def shared_files_before(plan: Plan) -> SharedContents:
     """{path: contents, None for no file} of the files that are shared with others, and of NX's backups."""
     shared = {file.path: file.contents for file in plan.shared_files()}
     return {**shared, **{menu.path + ".bak": None for menu in plan.menus.values()}}
 
 
-def shared_files_after(plan, is_install, before):
+def shared_files_after(plan: Plan, is_install: bool, before: SharedContents) -> SharedContents:
     """The same after a run."""
     after = dict(before)
     for creo in plan.creo:
@@ -145,17 +147,17 @@ def _lines(contents):
     return [line + b"\n" for line in contents.split(b"\n")[:-1]] + [contents.split(b"\n")[-1]]
 
 
-def tamsel_years(plan):
+def tamsel_years(plan: Plan) -> list[int]:
     return sorted({year for (_, year), folder in plan.tamsel.items() if folder})
 
 
-def manifests(plan):
+def manifests(plan: Plan) -> dict[str, bytes]:
     """{path: contents} of the manifests of Tamsel while the product is installed."""
     paths = [f"{TAMSEL_ADDINS}\\{year}\\NVX_2017.Addin" for year in tamsel_years(plan)]
     return {path: manifest(plan.install_dir) for path in paths}
 
 
-def left_files(plan, after_removal):
+def left_files(plan: Plan, after_removal: SharedContents) -> set[str]:
     """The files and empty folders that the product leaves behind a removal; after_removal: the shared files
     by then."""
     folder = plan.install_dir
@@ -175,7 +177,7 @@ def left_files(plan, after_removal):
     return left
 
 
-def gone_files(plan):
+def gone_files(plan: Plan) -> list[str]:
     """What a removal takes of the files that lay there before, by the beginnings of their paths."""
     folder = plan.install_dir
     gone = [folder + "\\" + name for name in ("Python\\", "HPCAnalyze\\", "WebServices\\", "Launchers\\")]
@@ -195,17 +197,19 @@ def gone_files(plan):
     return gone
 
 
-def changing_files(plan):
+def changing_files(plan: Plan) -> set[str]:
     """The files that are there before and after, with other contents."""
     names = [*LIBRARIES, "ja\\ZorvRes.dll", "NVXConfig.log"]
     changing = {plan.install_dir + "\\" + name for name in names}
     return changing | {SHARED_DATA + "\\NVX2_config.nvxcfg"}
 
 
-def uninstall_path_after(plan):
+def uninstall_path_after(plan: Plan) -> str | None:
     """The uninstall command that speaks the language of the run."""
     command = plan.uninstall_path
-    at = command.find("/LANG") if command else -1
+    if not command:
+        return command
+    at = command.find("/LANG")
     return command[: at + 6] + plan.language if at > 0 else command
 
 

@@ -5,6 +5,8 @@ import os
 import shutil
 from pathlib import Path
 
+from winemachine import Machine, StrPath
+
 _REGISTRY = ("system.reg", "user.reg", "userdef.reg")
 
 
@@ -12,7 +14,7 @@ class MachineState:
     """What a stopped machine holds now. `bring_back` makes the machine so again, and copies only what
     differs."""
 
-    def __init__(self, machine, folder):
+    def __init__(self, machine: Machine, folder: StrPath) -> None:
         machine.stop()
         self._machine = machine
         self._kept = Path(folder)
@@ -21,7 +23,7 @@ class MachineState:
         for name in _REGISTRY:
             shutil.copy2(machine.prefix / name, self._kept / name)
 
-    def bring_back(self):
+    def bring_back(self) -> None:
         self._machine.stop()
         _make_equal(self._kept / "drive_c", self._machine.prefix / "drive_c")
         for name in _REGISTRY:

@@ -1,6 +1,7 @@
 """Reads what a Windows program file says about itself."""
 
 import struct
+from pathlib import Path
 
 ICON, GROUP_ICON, VERSION, MANIFEST = 3, 14, 16, 24
 
@@ -9,7 +10,7 @@ WINDOWED, CONSOLE = 2, 3
 
 
 class ProgramFile:
-    def __init__(self, path):
+    def __init__(self, path: Path) -> None:
         self.bytes = path.read_bytes()
         header = self._number("<I", 0x3C)
         if self.bytes[header : header + 4] != b"PE\0\0":
@@ -22,10 +23,10 @@ class ProgramFile:
         ]
 
     @property
-    def kind(self):
+    def kind(self) -> int:
         return self._number("<H", self._optional + 68)
 
-    def resources(self, kind):
+    def resources(self, kind: int) -> list[tuple[int | str, bytes]]:
         """The resources of a kind: [(name or number, bytes)], of each the first language only."""
         root = self._number("<I", self._optional + 112 + 8 * 2)
         if not root:
@@ -41,13 +42,13 @@ class ProgramFile:
                 found.append((name, self.bytes[start : start + size]))
         return found
 
-    def version(self):
+    def version(self) -> tuple[list[str], dict[str, str]]:
         """The numbers of the file's and the product's version, and the texts of the version block."""
         ((_, block),) = self.resources(VERSION)
         numbers = struct.unpack_from("<4I", block, block.index(struct.pack("<I", 0xFEEF04BD)) + 8)
         return [_dotted(*numbers[:2]), _dotted(*numbers[2:])], dict(_version_texts(block, 0))
 
-    def _number(self, form, offset):
+    def _number(self, form: str, offset: int) -> int:
         return struct.unpack_from(form, self.bytes, offset)[0]
 
     def _place(self, address):

@@ -9,9 +9,9 @@ shared, and what an earlier install left. The same seed gives the same machine.
 import random
 from dataclasses import dataclass, field, fields
 
-from machine_case import INSTALL_DIR
+from machine_case import INSTALL_DIR, MachineCase
 from cadsystems import SPACE_CLAIM_ADDINS, TAMSEL_ADDINS, registry_script
-from winemachine import ENVIRONMENT_KEY, SHARED_DATA, TRANSLATORS, TUTORIALS
+from winemachine import ENVIRONMENT_KEY, SHARED_DATA, TRANSLATORS, TUTORIALS, Registry
 
 SOFTWARE = "HKEY_LOCAL_MACHINE\\SOFTWARE\\"
 UNINSTALL = SOFTWARE + "Microsoft\\Windows\\CurrentVersion\\Uninstall\\"
@@ -38,7 +38,7 @@ class SharedFile:
     there; fault "" or what keeps us from writing it, "held" or "protected"."""
 
     path: str
-    contents: bytes = None
+    contents: bytes | None = None
     has_folder: bool = True
     fault: str = ""
 
@@ -47,7 +47,7 @@ class SharedFile:
 class Creo:
     release: int
     folder: str
-    ship_code: str  # None where the value is missing
+    ship_code: str | None  # None where the value is missing
     is_32_bit: bool
     protk: SharedFile
 
@@ -58,33 +58,35 @@ class Plan:
     locale: str  # of the machine's user
     language: str  # of the run
     install_dir: str
-    creo: list = field(default_factory=list)
-    nx: dict = field(default_factory=dict)  # {version: folder}
-    menus: dict = field(default_factory=dict)  # {folder of NX: SharedFile}
-    brevant: tuple = ()  # names of what tells of it: "last run", "version"
-    solidworks: tuple = ()  # years
-    tamsel: dict = field(default_factory=dict)  # {(edition, year): folder, "" without one}
+    creo: list[Creo] = field(default_factory=list)
+    nx: dict[str, str] = field(default_factory=dict)  # {version: folder}
+    menus: dict[str, SharedFile] = field(default_factory=dict)  # {folder of NX: SharedFile}
+    brevant: tuple[str, ...] = ()  # names of what tells of it: "last run", "version"
+    solidworks: tuple[int, ...] = ()  # years
+    tamsel: dict[tuple[str, int], str] = field(
+        default_factory=dict
+    )  # {(edition, year): folder, "" without one}
     spaceclaim: str = ""  # "", "found" or "found without a folder of add-ins"
     has_translators: bool = False
-    uninstall_path: str = None
-    values: dict = field(default_factory=dict)  # of the registry: {key: {name: text}}
-    kept: dict = field(default_factory=dict)  # files that nobody may touch: {path: contents}
-    old: dict = field(default_factory=dict)  # files of an earlier install: {path: contents}
+    uninstall_path: str | None = None
+    values: Registry = field(default_factory=dict)  # of the registry: {key: {name: text}}
+    kept: dict[str, bytes] = field(default_factory=dict)  # files that nobody may touch: {path: contents}
+    old: dict[str, bytes] = field(default_factory=dict)  # files of an earlier install: {path: contents}
     has_earlier_install: bool = False  # of the same product, in a folder of its own
 
     @property
-    def code_page(self):
+    def code_page(self) -> str:
         return CODE_PAGES[self.locale]
 
-    def shared_files(self):
+    def shared_files(self) -> list[SharedFile]:
         return [creo.protk for creo in self.creo] + list(self.menus.values())
 
-    def __str__(self):
+    def __str__(self) -> str:
         lines = [f"{f.name}: {getattr(self, f.name)!r}" for f in fields(self)]
         return "\n".join(line if len(line) < 2000 else line[:2000] + "..." for line in lines)
 
 
-def draw_machine(seed):
+def draw_machine(seed: int) -> Plan:
     rng = random.Random(seed)
     locale = rng.choice(("C.UTF-8", "C.UTF-8", "ja_JP.UTF-8"))
     install_dir = INSTALL_DIR
@@ -287,17 +289,17 @@ def _draw_what_is_not_ours(rng, plan):
     plan.values[SOFTWARE + "Velmora\\Other"] = {"a": "b"}
 
 
-def put_machine(case, plan):
+def put_machine(case: MachineCase, plan: Plan) -> None:
     """Puts all that was drawn on the machine of a MachineCase, and the product too."""
     for path, contents in {**plan.kept, **plan.old}.items():
         case.write(path, contents)
     for file in plan.shared_files():
-        path = case.machine.path(file.path)
+        place = case.machine.path(file.path)
         if file.has_folder:
-            path.parent.mkdir(parents=True, exist_ok=True)
+            place.parent.mkdir(parents=True, exist_ok=True)
         if file.contents is not None:
-            path.write_bytes(file.contents)
-            path.chmod(0o444 if file.fault == "protected" else 0o644)
+            place.write_bytes(file.contents)
+            place.chmod(0o444 if file.fault == "protected" else 0o644)
     if plan.spaceclaim == "found":
         case.machine.path(SPACE_CLAIM_ADDINS).mkdir(parents=True, exist_ok=True)
     case.machine.import_script(registry_script(plan.values))

@@ -4,9 +4,10 @@ Lanes run side by side; each has machines of its own."""
 
 import sys
 import unittest
+from collections.abc import Iterator
 
 
-def tests_in(suite):
+def tests_in(suite: unittest.TestSuite) -> Iterator[unittest.TestCase | unittest.TestSuite]:
     """The single tests of a suite, in their order."""
     for part in suite:
         if isinstance(part, unittest.TestSuite):
@@ -15,7 +16,7 @@ def tests_in(suite):
             yield part
 
 
-def main(module, lane="1/1"):
+def main(module: str, lane: str = "1/1") -> int:
     number, lanes = map(int, lane.split("/"))
     tests = list(tests_in(unittest.defaultTestLoader.loadTestsFromName(module)))
     result = unittest.TextTestRunner(verbosity=2).run(unittest.TestSuite(tests[number - 1 :: lanes]))

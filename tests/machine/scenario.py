@@ -7,6 +7,7 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 from machine_case import INSTALL_DIR
+from winemachine import StrPath
 
 KNOWN_FILES = (
     "runs.txt",
@@ -39,15 +40,15 @@ class FileLine:
 
     word: str
     path: str
-    contents: bytes = None  # of a line with "=" or "<"
-    like: str = None
-    names: tuple = ()
+    contents: bytes | None = None  # of a line with "=" or "<"
+    like: str | None = None
+    names: tuple[str, ...] = ()
 
 
 @dataclass
 class Run:
-    tokens: list
-    folder: str = None  # the working folder, None where it does not matter
+    tokens: list[str]
+    folder: str | None = None  # the working folder, None where it does not matter
 
 
 @dataclass
@@ -61,8 +62,8 @@ class Expectation:
     """A value of the registry; text None for no such value, name None for the key itself."""
 
     key: str
-    name: str = None
-    text: str = None
+    name: str | None = None
+    text: str | None = None
     is_there: bool = True
 
 
@@ -71,26 +72,26 @@ class Scenario:
     name: str
     install_dir: str = INSTALL_DIR
     locale: str = "C.UTF-8"
-    steps: list = field(default_factory=list)  # of Run and, between them, FileLine
-    before: list = field(default_factory=list)
-    after: list = field(default_factory=list)
-    processes: list = field(default_factory=list)
-    log: list = field(default_factory=list)
+    steps: list[Run | FileLine] = field(default_factory=list)  # of Run and, between them, FileLine
+    before: list[FileLine] = field(default_factory=list)
+    after: list[FileLine] = field(default_factory=list)
+    processes: list[Process] = field(default_factory=list)
+    log: list[str] = field(default_factory=list)
     script: str = ""
-    registry: list = field(default_factory=list)
+    registry: list[Expectation] = field(default_factory=list)
 
 
-def read_scenario(folder):
+def read_scenario(folder: StrPath) -> Scenario:
     return _Reader(Path(folder)).read()
 
 
 class _Reader:
-    def __init__(self, folder):
+    def __init__(self, folder: Path) -> None:
         self._folder = folder
-        self._named = set()
+        self._named: set[str] = set()
         self._scenario = Scenario(folder.name)
 
-    def read(self):
+    def read(self) -> Scenario:
         scenario = self._scenario
         for name in REQUIRED_FILES:
             if not (self._folder / name).is_file():
@@ -161,6 +162,8 @@ class _Reader:
             path, _, names = rest.partition(" = ")
             return FileLine(word, self._checked_path(path), names=tuple(filter(None, names.split(", "))))
         parts = re.match(r"^(.*?)(?: (=|<|like)(?: (.*))?)?$", rest)
+        if not parts:
+            raise ScenarioError("not a path: " + rest)
         found = FileLine(word, self._checked_path(parts.group(1)))
         sign, operand = parts.group(2), parts.group(3) or ""
         if sign == "=":
@@ -200,7 +203,7 @@ class _Reader:
         if lines and lines[0] != SCRIPT_HEADER:
             raise ScenarioError(f"{self._scenario.name}: registry-after.reg has another header")
         key = None
-        for line in filter(None, lines[1:]):
+        for line in [line for line in lines[1:] if line]:
             stated = re.match(r"^\[(-?)((?:HKEY_LOCAL_MACHINE|HKEY_CURRENT_USER)\\.*)\]$", line)
             value = _VALUE.match(line)
             if stated:
@@ -230,11 +233,12 @@ def _unescaped(text):
     return re.sub(r"\\(.)", r"\1", text)
 
 
-def log_difference(expected, lines):
+def log_difference(expected: list[str], lines: list[str]) -> list[str] | None:
     """Why a log is not as expected, in lines to read; None when it is. In what is expected "..." stands for
     any lines, and "<...>" in a line for any text."""
     # The lines of a block follow each other; before a free one there may be any lines.
-    blocks, is_free = [[]], [False]
+    blocks: list[list[str]] = [[]]
+    is_free = [False]
     for line in expected:
         if line == "...":
             blocks.append([])

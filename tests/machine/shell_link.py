@@ -20,7 +20,7 @@ _STRINGS = (
 _IS_UNICODE = 1 << 7
 
 
-def read_link(contents, code_page):
+def read_link(contents: bytes, code_page: str) -> dict[str, str]:
     """The texts of a link: {"target": ..., "description": ...}. A text that the link lacks is missing; 8-bit
     ones are in the code page of the machine that made the link."""
     size, link_class, flags = struct.unpack_from("<I16sI", contents)
