@@ -84,7 +84,9 @@ void cfg_utilitys::progress(int level, const QString &text)
 
 void cfg_utilitys::inform(int level, const QString &text)
 {
-    QGuiApplication::restoreOverrideCursor();
+    // Without a window system there are no cursors, and Qt would read past its application object.
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        QGuiApplication::restoreOverrideCursor();
     m_machine.tell(Nvx::Util::BoxKind::Information, tr("NVX Configuration Utility"), text);
     log(level, text);
 }
