@@ -344,8 +344,9 @@ def _start_server(environment, processor, errors):
 
 
 def _end_with_parent():
-    """In the child: it gets SIGTERM, at which a server saves its registry, when its parent has ended."""
-    _LIBC.prctl(_PR_SET_PDEATHSIG, signal.SIGTERM)
+    """In the child: when its parent has ended it gets SIGINT, at which a server ends its programs and saves
+    its registry; at SIGTERM it would leave the programs running."""
+    _LIBC.prctl(_PR_SET_PDEATHSIG, signal.SIGINT)
 
 
 def _is_listening(server):

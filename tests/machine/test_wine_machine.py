@@ -26,14 +26,23 @@ class WineMachine(unittest.TestCase):
         self.template = make_template(BUILD / "wine-template")
         self.machine = Machine.create(BUILD / "machines" / self.id(), self.template)
         self.addCleanup(shutil.rmtree, self.machine.prefix)
+        self.addCleanup(self.end_programs)
         self.addCleanup(self.machine.stop)
+
+    def end_programs(self):
+        """Ends the programs that a server left which was killed, or slept when it should have ended them."""
+        for program in self.machine.programs():
+            with contextlib.suppress(ProcessLookupError):
+                os.kill(program, signal.SIGKILL)
 
     @contextlib.contextmanager
     def foreign_server(self, *options):
         """A server of the machine that this process did not start through it."""
         command = ["wineserver", "--foreground", *options]
         environment = self.machine.environment()
-        server = subprocess.Popen(command, env=environment, stderr=subprocess.DEVNULL)
+        server = subprocess.Popen(
+            command, env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL
+        )
         try:
             while server.poll() is None and not winemachine._is_listening(server):
                 time.sleep(0.01)
@@ -51,7 +60,14 @@ class WineMachine(unittest.TestCase):
             command = ["wine", "cmd", "/c", "exit"]
             with self.machine.program_settings():
                 environment = self.machine.environment()
-                subprocess.run(command, env=environment, check=True, stdout=subprocess.DEVNULL)
+                # The machine's services get its output too, and could keep a pipe of ours open.
+                subprocess.run(
+                    command,
+                    env=environment,
+                    check=True,
+                    stdout=subprocess.DEVNULL,
+                    stderr=subprocess.DEVNULL,
+                )
             time.sleep(2)
             # It sleeps over the moment at which it gives up; a program that connects now would be dropped.
             os.kill(server.pid, signal.SIGSTOP)
@@ -157,13 +173,14 @@ class WineMachine(unittest.TestCase):
         script = (
             "import os, sys; sys.path.insert(0, sys.argv[1]); from winemachine import Machine\n"
             "machine = Machine(sys.argv[2]); machine.set_value(sys.argv[3], 'kept', 'x')\n"
-            "print(machine._server.pid, flush=True); os._exit(0)"
+            "os._exit(0)"
         )
         command = [sys.executable, "-B", "-c", script, TOOLS, self.machine.prefix, KEY]
-        done = subprocess.run(command, stdout=subprocess.PIPE, check=True)
+        subprocess.run(command, check=True)
         deadline = time.monotonic() + 60
-        while os.path.exists(f"/proc/{int(done.stdout)}/cwd/socket") and time.monotonic() < deadline:
+        while self.machine.programs() and time.monotonic() < deadline:
             time.sleep(0.05)
+        self.assertEqual(self.machine.programs(), {})
         self.assertEqual(self.value("kept"), "x")
 
 
