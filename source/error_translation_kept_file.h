@@ -12,7 +12,7 @@ namespace Error {
 /// used again. Returns the copy, or std::nullopt when it cannot be made.
 std::optional<QString> keepEarlierFile(const QString &fileName);
 
-/// What the user is told of such a copy.
+/// The message to the user about such a copy.
 QString keptFileText(const QString &copy);
 
 } // namespace Error

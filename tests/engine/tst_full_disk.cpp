@@ -330,8 +330,8 @@ private:
         ++(files == after ? m_undisturbed : m_disturbed);
     }
 
-    // The log lies where there is room and is whole; the diagnostic output names every file of a CAD system
-    // that could not be written.
+    // The log is on a disk with free space and complete; the diagnostic output names every file of a CAD
+    // system that could not be written.
     static void checkTold(const SmallMachine &machine, const Files &after)
     {
         const QStringList lines = machine.lines();

@@ -33,7 +33,7 @@ QStringList machineVariables()
     return found;
 }
 
-// The runs that install: one is told to, one has no mode.
+// The runs that install: with -I, and without a mode.
 void addInstallRows()
 {
     QTest::addColumn<QString>("options");

@@ -61,7 +61,7 @@ class Plan:
     creo: list[Creo] = field(default_factory=list)
     nx: dict[str, str] = field(default_factory=dict)  # {version: folder}
     menus: dict[str, SharedFile] = field(default_factory=dict)  # {folder of NX: SharedFile}
-    brevant: tuple[str, ...] = ()  # names of what tells of it: "last run", "version"
+    brevant: tuple[str, ...] = ()  # the registry entries that show it: "last run", "version"
     solidworks: tuple[int, ...] = ()  # years
     tamsel: dict[tuple[str, int], str] = field(
         default_factory=dict

@@ -41,13 +41,13 @@ public:
     /// Called while a program "runs".
     std::function<void(const Nvx::Util::ProgramCall &)> whileRunning;
 
-    /// Called while a box that only tells is open.
+    /// Called while a message box without a question is open.
     std::function<void()> whileTelling;
 
     /// Called while a question is open.
     std::function<void()> whileAsking;
 
-    /// Called when the shell is told that associations changed.
+    /// Called when the shell is notified of changed associations.
     std::function<void()> whenNotified;
 
     /// What runs on it.

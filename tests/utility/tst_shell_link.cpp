@@ -37,7 +37,7 @@ Link completeLink()
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-// An object of the shell that writes down what it is told and refuses what the test has set.
+// A shell object that records the calls and refuses those that the test names.
 class RecordingLink final : public IShellLinkW, public IPersistFile
 {
 public:
