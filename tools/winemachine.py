@@ -26,6 +26,7 @@ import re
 import shutil
 import signal
 import socket
+import struct
 import subprocess
 import sys
 import tempfile
@@ -350,13 +351,16 @@ def _end_with_parent():
 
 
 def _is_listening(server):
-    """Whether a server takes programs: its working folder then holds the socket that they connect to."""
+    """Whether a server takes programs: its working folder then holds the socket that they connect to. Another
+    server of the machine may listen there, until this one finds out and ends."""
     with socket.socket(socket.AF_UNIX) as probe:
         try:
             probe.connect(f"/proc/{server.pid}/cwd/socket")
-            return True
         except OSError:
             return False
+        credentials = probe.getsockopt(socket.SOL_SOCKET, socket.SO_PEERCRED, struct.calcsize("3i"))
+        listening_process, _user, _group = struct.unpack("3i", credentials)
+        return listening_process == server.pid
 
 
 def _stop_other_server(environment):

@@ -88,6 +88,17 @@ class WineMachine(unittest.TestCase):
             self.assertIsNotNone(server.poll())
             self.assertIsNone(moved._server.poll())
 
+    def test_a_server_that_finds_another_at_its_socket_has_not_started(self):
+        with self.foreign_server("-p") as server:
+            self.assertTrue(winemachine._is_listening(server))
+            # One that has only just entered the folder of the sockets, as a second server does.
+            newcomer = subprocess.Popen(["sleep", "60"], cwd=f"/proc/{server.pid}/cwd")
+            try:
+                self.assertFalse(winemachine._is_listening(newcomer))
+            finally:
+                newcomer.kill()
+                newcomer.wait()
+
     def test_nothing_is_lost_between_programs_however_long_they_are_apart(self):
         for number, pause in enumerate((0, 0.4, 0.5, 3.2)):
             time.sleep(pause)
