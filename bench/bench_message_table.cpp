@@ -4,9 +4,9 @@
 
 #include "clt_message_table.h"
 #include "clt_message_table_xml.h"
-#include "error_translation_table.h"
-#include "error_translation_update.h"
 #include "measure.h"
+#include "translation/error_translation_table.h"
+#include "translation/translation_update.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -3,12 +3,12 @@
 // Argument: the number of items. Prints one line of medians, in nanoseconds per item.
 
 #include "clt_message_table.h"
-#include "error_message_table_update.h"
-#include "error_source_scanner.h"
-#include "error_translation_table.h"
-#include "mat_material_name.h"
-#include "mat_translation_table.h"
+#include "materials/mat_material_name.h"
+#include "materials/mat_translation_table.h"
 #include "measure.h"
+#include "scanner/source_scanner.h"
+#include "synchronisation/message_table_update.h"
+#include "translation/error_translation_table.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

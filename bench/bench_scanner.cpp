@@ -2,11 +2,11 @@
 // alone and on one thread, then all together on more. Argument: a file that lists the source files' paths,
 // one a line.
 
-#include "error_macro_finder.h"
-#include "error_source_parser.h"
-#include "error_source_scanner.h"
-#include "error_source_text.h"
 #include "measure.h"
+#include "scanner/macro_finder.h"
+#include "scanner/source_parser.h"
+#include "scanner/source_scanner.h"
+#include "scanner/source_text.h"
 
 #include <QCoreApplication>
 #include <QFile>

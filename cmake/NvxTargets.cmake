@@ -28,7 +28,7 @@ if(NVX_COVERAGE)
     target_link_options(nvx_options INTERFACE --coverage)
 endif()
 
-# nvx_library(NAME [MOC] SOURCES FILE... LINKS TARGET... [INCLUDES FOLDER]): a static library of one room.
+# nvx_library(NAME [MOC] SOURCES FILE... LINKS TARGET... [INCLUDES FOLDER]): a static library of one module.
 # Headers are included as they lie below INCLUDES, by default the folder "source". With MOC, Qt's moc reads its
 # headers: for classes with Q_OBJECT.
 function(nvx_library name)

@@ -2,10 +2,10 @@
 // about. A table brought in step with the names holds them all, also once it was written and read back, and
 // has nothing to add then.
 
-#include "error_translation_table.h"
-#include "error_translation_table_xml.h"
-#include "mat_material_name.h"
-#include "mat_translation_table.h"
+#include "materials/mat_material_name.h"
+#include "materials/mat_translation_table.h"
+#include "translation/error_translation_table.h"
+#include "translation/translation_table_xml.h"
 
 #include <QBuffer>
 

@@ -2,7 +2,7 @@
 // twice is the same as once, and so is installing. After an install a removal leaves what it would have left
 // without, and at most the empty line that came with ours.
 
-#include "cad/nx_custom_dirs.h"
+#include "cad/nx/nx_custom_dirs.h"
 
 #include <cstdlib>
 

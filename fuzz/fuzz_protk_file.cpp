@@ -1,8 +1,8 @@
 // Whatever a protk.dat holds: a removal keeps exactly the pieces of others, byte for byte, an install puts
 // the entry in front or leaves the file, and doing either twice is the same as once.
 
-#include "cad/creo_names.h"
-#include "cad/protk_file.h"
+#include "cad/creo/creo_names.h"
+#include "cad/creo/protk_file.h"
 
 #include <QStringList>
 

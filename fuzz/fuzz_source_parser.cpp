@@ -1,6 +1,6 @@
 #include "clt_xml_text.h"
-#include "error_source_parser.h"
-#include "error_source_text.h"
+#include "scanner/source_parser.h"
+#include "scanner/source_text.h"
 
 #include <cstdlib>
 

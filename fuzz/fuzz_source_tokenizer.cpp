@@ -1,5 +1,5 @@
-#include "error_source_lexis.h"
-#include "error_source_tokenizer.h"
+#include "scanner/source_lexis.h"
+#include "scanner/source_tokenizer.h"
 
 #include <QString>
 

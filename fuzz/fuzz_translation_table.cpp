@@ -1,7 +1,7 @@
 // Reads bytes as a translation file. What was read must be written, and read back as it was.
 
-#include "error_translation_table.h"
-#include "error_translation_table_xml.h"
+#include "translation/error_translation_table.h"
+#include "translation/translation_table_xml.h"
 
 #include <QBuffer>
 

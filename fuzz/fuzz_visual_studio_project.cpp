@@ -1,5 +1,5 @@
-#include "error_visual_studio_project.h"
 #include "nvx_util/assertion.h"
+#include "scanner/error_visual_studio_project.h"
 
 #include <QBuffer>
 

@@ -1,7 +1,7 @@
 """What the tests reached, as the compiler's counters tell it.
 
-coverage.py read BUILD FILE ROOM...    reads the counters below a build folder into a file; the rooms are the
-                                       folders whose sources count
+coverage.py read BUILD FILE FOLDER...  reads the counters below a build folder into a file, for the sources in
+                                       these folders
 coverage.py table FILE                 a line for each folder, and one for all
 coverage.py missed FILE FOLDER         the lines and branches below the folder that were not reached
 """
@@ -120,14 +120,14 @@ def decisions(branches: list[dict[str, Any]], code: str) -> list[int]:
 
 def read_unit(arguments: tuple[Path, Path, list[Path]]) -> dict[str, Source]:
     """The sources of one compiled unit, by their paths from the root on."""
-    notes, root, rooms = arguments
+    notes, root, folders = arguments
     gcov = ["gcov", "--json-format", "--stdout", "--branch-probabilities", notes.name]
     answer = subprocess.run(gcov, cwd=notes.parent, capture_output=True, check=True, text=True)
     unit = json.loads(answer.stdout)
     sources = {}
     for file in unit["files"]:
         path = Path(os.path.normpath(os.path.join(unit["current_working_directory"], file["file"])))
-        if path.exists() and any(room in path.parents for room in rooms):
+        if path.exists() and any(folder in path.parents for folder in folders):
             sources[str(path.relative_to(root))] = read_source(path, file)
     return sources
 
@@ -152,10 +152,10 @@ def read_source(path: Path, file: dict[str, Any]) -> Source:
     return source
 
 
-def read(build: str, target: str, rooms: Iterable[str]) -> None:
+def read(build: str, target: str, folders: Iterable[str]) -> None:
     root = Path(__file__).resolve().parent.parent
     units = [
-        (notes.resolve(), root, [root / room for room in rooms])
+        (notes.resolve(), root, [root / folder for folder in folders])
         for notes in Path(build).rglob("*.gcno")
         if "_autogen" not in str(notes)
     ]

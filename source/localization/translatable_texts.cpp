@@ -1,6 +1,6 @@
 #include "localization/translatable_texts.h"
 
-#include "error_source_tokenizer.h"
+#include "scanner/source_tokenizer.h"
 
 #include <QXmlStreamReader>
 

@@ -4,7 +4,7 @@
 #include "localization/localization_languages.h"
 #include "localization/translatable_texts.h"
 #include "localization/translation_tools.h"
-#include "mat_translation_table.h"
+#include "materials/mat_translation_table.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
 #include "run/reporter.h"

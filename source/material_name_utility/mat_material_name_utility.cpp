@@ -1,9 +1,9 @@
 #include "material_name_utility/mat_material_name_utility.h"
 
-#include "error_translation_kept_file.h"
-#include "mat_translation_table.h"
 #include "material_name_utility/material_files.h"
 #include "material_name_utility/material_rows.h"
+#include "materials/mat_translation_table.h"
+#include "translation/translation_kept_file.h"
 #include "window/dialogs.h"
 #include "window/dropped_file.h"
 #include "window/marked_table_view.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "error_translation_table.h"
+#include "translation/error_translation_table.h"
 #include "window/table_window.h"
 
 #include <QSet>

@@ -1,7 +1,7 @@
 #include "material_name_utility/material_files.h"
 
-#include "mat_material_name.h"
-#include "mat_translation_table.h"
+#include "materials/mat_material_name.h"
+#include "materials/mat_translation_table.h"
 
 namespace mat {
 

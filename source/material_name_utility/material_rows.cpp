@@ -1,7 +1,7 @@
 #include "material_name_utility/material_rows.h"
 
-#include "error_translation_table.h"
-#include "mat_translation_table.h"
+#include "materials/mat_translation_table.h"
+#include "translation/error_translation_table.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "message_table_utility/project_scan.h"
 
-#include "error_source_scanner.h"
-#include "error_visual_studio_project.h"
+#include "scanner/error_visual_studio_project.h"
+#include "scanner/source_scanner.h"
 
 #include <QCoreApplication>
 

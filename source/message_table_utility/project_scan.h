@@ -1,6 +1,6 @@
 #pragma once
 
-#include "error_source_scanner.h"
+#include "scanner/source_scanner.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,8 +1,8 @@
 #include "update_error_table/update_error_table.h"
 
-#include "error_message_table_update.h"
-#include "error_progress_log.h"
-#include "error_translation_update.h"
+#include "synchronisation/message_table_update.h"
+#include "synchronisation/progress_log.h"
+#include "translation/translation_update.h"
 #include "update_error_table/command_line.h"
 
 #include <QTextStream>

@@ -37,7 +37,7 @@ class Form(unittest.TestCase):
     def text_of(self, name):
         return (ROOT / name).read_text(encoding="utf-8")
 
-    def test_only_its_own_rooms_ask_for_the_operating_system(self):
+    def test_only_its_own_modules_ask_for_the_operating_system(self):
         files = [n for n in tracked("*.cpp", "*.h") if not n.startswith(KNOW_THEIR_SYSTEM)]
         self.assertGreater(len(files), 300)
         self.assertEqual([name for name in files if has_branch(self.text_of(name))], [])

@@ -1,5 +1,5 @@
-#include "cad/creo_launcher.h"
-#include "cad/creo_names.h"
+#include "cad/creo/creo_launcher.h"
+#include "cad/creo/creo_names.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
 #include "support/recorded_diagnostics.h"

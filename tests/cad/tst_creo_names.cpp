@@ -1,4 +1,4 @@
-#include "cad/creo_names.h"
+#include "cad/creo/creo_names.h"
 #include "support/test_class.h"
 #include "support/text.h"
 

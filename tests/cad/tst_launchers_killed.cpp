@@ -1,9 +1,9 @@
 // The steps that rewrite files of CAD systems, killed while they do so.
 
-#include "cad/creo_launcher.h"
-#include "cad/creo_names.h"
-#include "cad/nx_custom_dirs.h"
-#include "cad/nx_launcher.h"
+#include "cad/creo/creo_launcher.h"
+#include "cad/creo/creo_names.h"
+#include "cad/nx/nx_custom_dirs.h"
+#include "cad/nx/nx_launcher.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
 

@@ -1,7 +1,7 @@
 // Files of CAD systems that cannot be read whole, and add-ins on a disk that is full.
 
 #include "cad/foreign_file.h"
-#include "cad/tamsel_launcher.h"
+#include "cad/tamsel/tamsel_launcher.h"
 #include "launcher_fixture.h"
 #include "support/full_disk.h"
 #include "support/odd_files.h"

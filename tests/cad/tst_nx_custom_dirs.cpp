@@ -1,4 +1,4 @@
-#include "cad/nx_custom_dirs.h"
+#include "cad/nx/nx_custom_dirs.h"
 #include "nvx_util/code_page.h"
 #include "random_bytes.h"
 #include "support/test_class.h"

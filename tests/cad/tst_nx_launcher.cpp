@@ -1,5 +1,5 @@
-#include "cad/nx_custom_dirs.h"
-#include "cad/nx_launcher.h"
+#include "cad/nx/nx_custom_dirs.h"
+#include "cad/nx/nx_launcher.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
 #include "support/recorded_diagnostics.h"

@@ -1,5 +1,5 @@
-#include "cad/creo_names.h"
-#include "cad/protk_file.h"
+#include "cad/creo/creo_names.h"
+#include "cad/creo/protk_file.h"
 #include "nvx_util/code_page.h"
 #include "random_bytes.h"
 #include "support/test_class.h"

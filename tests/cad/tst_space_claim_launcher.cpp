@@ -1,4 +1,4 @@
-#include "cad/space_claim_launcher.h"
+#include "cad/spaceclaim/spaceclaim_launcher.h"
 #include "launcher_fixture.h"
 #include "support/test_class.h"
 #include "support/text.h"

@@ -1,5 +1,5 @@
-#include "cad/tamsel_launcher.h"
-#include "cad/tamsel_manifest.h"
+#include "cad/tamsel/tamsel_launcher.h"
+#include "cad/tamsel/tamsel_manifest.h"
 #include "launcher_fixture.h"
 #include "support/test_class.h"
 #include "support/text.h"

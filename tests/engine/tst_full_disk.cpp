@@ -1,7 +1,7 @@
 // Whole runs on a disk that fills up: they come to their end, leave nothing of others half written, and a run
 // with room again ends as if nothing had been.
 
-#include "cad/creo_names.h"
+#include "cad/creo/creo_names.h"
 #include "engine/engine_fixture.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "error_translation_table.h"
 #include "material_name_utility/mat_material_name_utility.h"
 #include "support/file_bytes.h"
 #include "support/recording_dialogs.h"
 #include "support/test_folder.h"
+#include "translation/error_translation_table.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,7 @@
 // Files that break when they are read, and files that cannot be opened.
 
-#include "mat_material_name.h"
-#include "mat_translation_table.h"
+#include "materials/mat_material_name.h"
+#include "materials/mat_translation_table.h"
 #include "name_utility_fixture.h"
 #include "support/odd_files.h"
 #include "support/test_class.h"

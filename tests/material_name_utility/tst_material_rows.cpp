@@ -1,6 +1,6 @@
-#include "error_translation_table.h"
 #include "material_name_utility/material_rows.h"
 #include "support/test_class.h"
+#include "translation/error_translation_table.h"
 
 #include <QTest>
 

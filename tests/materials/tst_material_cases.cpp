@@ -1,4 +1,4 @@
-#include "mat_translation_table.h"
+#include "materials/mat_translation_table.h"
 #include "support/case_folders.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"

@@ -1,4 +1,4 @@
-#include "mat_material_name.h"
+#include "materials/mat_material_name.h"
 #include "support/broken_device.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"

@@ -1,9 +1,9 @@
-#include "error_translation_table.h"
-#include "mat_translation_table.h"
+#include "materials/mat_translation_table.h"
 #include "support/file_bytes.h"
 #include "support/processor_time.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
+#include "translation/error_translation_table.h"
 
 #include <QBuffer>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "error_source_lexis.h"
+#include "scanner/source_lexis.h"
 #include "support/test_class.h"
 
 #include <QTest>

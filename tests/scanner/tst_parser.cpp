@@ -1,4 +1,4 @@
-#include "error_source_parser.h"
+#include "scanner/source_parser.h"
 #include "support/test_class.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "error_source_scanner.h"
+#include "scanner/source_scanner.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"

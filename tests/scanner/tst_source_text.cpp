@@ -1,4 +1,4 @@
-#include "error_source_text.h"
+#include "scanner/source_text.h"
 #include "support/test_class.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "error_string_literal.h"
+#include "scanner/string_literal.h"
 #include "support/test_class.h"
 
 #include <QTest>

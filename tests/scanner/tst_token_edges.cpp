@@ -1,4 +1,4 @@
-#include "error_source_tokenizer.h"
+#include "scanner/source_tokenizer.h"
 #include "support/test_class.h"
 
 #include <QTest>

@@ -1,5 +1,5 @@
-#include "error_source_tokenizer.h"
-#include "error_wide_scan.h"
+#include "scanner/source_tokenizer.h"
+#include "scanner/wide_scan.h"
 #include "support/test_class.h"
 
 #include <QTest>

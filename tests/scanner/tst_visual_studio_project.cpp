@@ -1,4 +1,4 @@
-#include "error_visual_studio_project.h"
+#include "scanner/error_visual_studio_project.h"
 #include "support/broken_device.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"

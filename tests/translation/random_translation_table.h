@@ -1,7 +1,7 @@
 #pragma once
 
-#include "error_translation_table.h"
 #include "support/random_text.h"
+#include "translation/error_translation_table.h"
 
 /// The table of a seed. Every third text has a character that XML itself cannot carry.
 inline Error::TranslationTable randomTranslationTable(quint32 seed)

@@ -1,9 +1,9 @@
 #include "translation_case.h"
 
-#include "error_translation_table.h"
-#include "error_translation_update.h"
 #include "support/file_bytes.h"
 #include "support/recorded_assertions.h"
+#include "translation/error_translation_table.h"
+#include "translation/translation_update.h"
 
 #include <QDir>
 #include <QTextStream>

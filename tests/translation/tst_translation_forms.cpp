@@ -1,11 +1,11 @@
 // Files with plural forms and length variants, which a rewrite loses: what is kept beside them.
 
 #include "clt_message_table.h"
-#include "error_translation_table.h"
-#include "error_translation_update.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
+#include "translation/error_translation_table.h"
+#include "translation/translation_update.h"
 
 #include <QDir>
 #include <QTest>

@@ -1,9 +1,9 @@
 // The rewrite of a translation file with plural forms, killed while it is at it.
 
-#include "error_translation_table.h"
 #include "nvx_util/whole_file.h"
 #include "support/file_bytes.h"
 #include "support/test_folder.h"
+#include "translation/error_translation_table.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

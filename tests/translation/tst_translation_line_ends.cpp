@@ -1,9 +1,9 @@
 // The bytes of a saved translation file. Lines end as the operating system ends them: LINE_END.
 
-#include "error_translation_table.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
+#include "translation/error_translation_table.h"
 
 #include <QTest>
 

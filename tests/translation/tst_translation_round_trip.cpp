@@ -1,6 +1,6 @@
-#include "error_translation_table_xml.h"
 #include "random_translation_table.h"
 #include "support/test_class.h"
+#include "translation/translation_table_xml.h"
 
 #include <QBuffer>
 #include <QTest>

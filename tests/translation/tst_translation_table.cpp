@@ -1,9 +1,9 @@
-#include "error_translation_table.h"
-#include "error_translation_table_xml.h"
 #include "support/broken_device.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
+#include "translation/error_translation_table.h"
+#include "translation/translation_table_xml.h"
 
 #include <QBuffer>
 #include <QDateTime>

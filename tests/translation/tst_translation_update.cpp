@@ -1,9 +1,9 @@
 #include "clt_message_table.h"
-#include "error_translation_table.h"
-#include "error_translation_update.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
+#include "translation/error_translation_table.h"
+#include "translation/translation_update.h"
 
 #include <QCoreApplication>
 #include <QTest>

@@ -1,9 +1,9 @@
 #include "clt_message_table.h"
-#include "error_message_table_update.h"
-#include "error_progress_log.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
+#include "synchronisation/message_table_update.h"
+#include "synchronisation/progress_log.h"
 
 #include <QDateTime>
 #include <QFileInfo>

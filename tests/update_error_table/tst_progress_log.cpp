@@ -1,5 +1,5 @@
-#include "error_progress_log.h"
 #include "support/test_class.h"
+#include "synchronisation/progress_log.h"
 
 #include <QBuffer>
 #include <QTest>

@@ -95,7 +95,7 @@ public:
     /// nobody has written into it.
     void processFlagFile(const QString &name, RunMode mode);
 
-    // The steps; each does what the class or the header of its name in the rooms of the steps says.
+    // The steps; each does what the class or the header of its name in the modules of the steps says.
     int runCommand(const QString &program, const QStringList &arguments, const QString &workFolder,
                    int timeoutMs = 30000);
     bool removeDirectory(const QString &path);

@@ -1,10 +1,10 @@
 // The launchers in the CAD systems.
 
 #include "cad/com_launchers.h"
-#include "cad/creo_launcher.h"
-#include "cad/nx_launcher.h"
-#include "cad/space_claim_launcher.h"
-#include "cad/tamsel_launcher.h"
+#include "cad/creo/creo_launcher.h"
+#include "cad/nx/nx_launcher.h"
+#include "cad/spaceclaim/spaceclaim_launcher.h"
+#include "cad/tamsel/tamsel_launcher.h"
 #include "cfg_utilities/cfg_utilitys.h"
 
 void cfg_utilitys::installLaunchers(RunMode mode)

@@ -1,0 +1,95 @@
+#include "scanner/question_call.h"
+
+#include "clt_message_enumerations.h"
+#include "scanner/string_literal.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace Scan {
+
+namespace {
+
+QString joined(std::string_view source)
+{
+    return QString::fromStdString(joinTokens(source));
+}
+
+bool isAnswerName(const QString &name)
+{
+    static const QStringList names = {
+        QStringLiteral("NoAnswer"), QStringLiteral("Ok"),     QStringLiteral("Yes"),    QStringLiteral("No"),
+        QStringLiteral("Abort"),    QStringLiteral("Cancel"), QStringLiteral("Discard")};
+    return names.contains(name);
+}
+
+bool namesAnswers(std::string_view expression)
+{
+    const QString answers = Clt::answerExpressionToText(joined(expression));
+    const QStringList names = answers.split(QStringLiteral(", "));
+    return std::all_of(names.begin(), names.end(), isAnswerName);
+}
+
+} // namespace
+
+QuestionCall::QuestionCall(CallFamily family, int line, const Tokenizer &token)
+    : m_family(family)
+    , m_line(line)
+    , m_question(token.literals())
+    , m_argumentBegin(token.begin())
+{
+}
+
+QuestionCall::Outcome QuestionCall::take(const Tokenizer &token)
+{
+    switch (token.kind()) {
+    case TokenKind::LeftParen:
+        ++m_parentheses;
+        break;
+    case TokenKind::RightParen:
+        if (--m_parentheses > 0)
+            break;
+        endArgument(token);
+        return Outcome::Ends;
+    case TokenKind::LeftBrace:
+        ++m_braces;
+        break;
+    case TokenKind::RightBrace:
+        if (m_braces == 0)
+            return Outcome::Breaks;
+        --m_braces;
+        break;
+    case TokenKind::Other:
+        if (m_parentheses == 1 && token.text() == ",")
+            endArgument(token);
+        break;
+    default:
+        break;
+    }
+    return Outcome::GoesOn;
+}
+
+void QuestionCall::endArgument(const Tokenizer &token)
+{
+    const std::string_view argument = token.between(m_argumentBegin, token.begin());
+    if (m_arguments == 1 || m_arguments == 2)
+        m_first[m_arguments - 1] = argument;
+    m_last = {m_last[1], argument};
+    ++m_arguments;
+    m_argumentBegin = token.end();
+}
+
+// The answers follow the question, and what fills its placeholders follows them; or the answers stand last.
+std::optional<QString> QuestionCall::tag() const
+{
+    constexpr std::uint32_t fewest = 3;
+    if (m_arguments < fewest)
+        return std::nullopt;
+    const bool answersStandLast =
+        m_family == CallFamily::QuestionWithArguments && !namesAnswers(m_first[0]) && namesAnswers(m_last[0]);
+    const auto &answers = answersStandLast ? m_last : m_first;
+    return Clt::questionDisplayText(decodeLiterals(m_question), joined(answers[0]), joined(answers[1]));
+}
+
+} // namespace Scan

@@ -1,0 +1,62 @@
+#include "translation/translation_update.h"
+
+#include "clt_message_table.h"
+#include "translation/error_translation_table.h"
+#include "translation/translation_kept_file.h"
+
+#include <QFile>
+#include <QTextStream>
+
+#include <iterator>
+
+namespace Error {
+
+// The messages of one context mostly follow each other, and so do those of the next one.
+int addMessageTexts(TranslationTable &table, const Clt::MessageTable &messages)
+{
+    int added = 0;
+    TranslationContext *context = nullptr;
+    auto next = table.contexts().begin();
+    for (const auto &[key, message] : messages) {
+        for (const QString *text : {&message.sourceTitle(), &message.sourceText(), &message.sourceAction()}) {
+            if (text->isEmpty())
+                continue;
+            if (!context || context->name() != key.context) {
+                const auto found = table.contextNamed(key.context, next);
+                context = &found->second;
+                next = std::next(found);
+            }
+            if (context->addMissing(*text))
+                ++added;
+        }
+    }
+    return added;
+}
+
+bool synchronizeTranslationTable(const QString &messageTableFile, const QString &translationFile,
+                                 QTextStream &log, QTextStream &errors)
+{
+    log << "Loading message table \"" << messageTableFile << "\"...\n";
+    Clt::MessageTable messages;
+    if (!messages.load(messageTableFile)) {
+        log << "Could not load message table\n";
+        return false;
+    }
+
+    TranslationTable table;
+    if (QFile::exists(translationFile)) {
+        log << "Loading translation table \"" << translationFile << "\"...\n";
+        table.load(translationFile);
+    }
+
+    log << "Added " << addMessageTexts(table, messages) << " new strings to the translation table\n";
+    if (!table.save(translationFile)) {
+        log << "Could not save translation table\n";
+        return false;
+    }
+    if (!table.keptFile().isEmpty())
+        errors << keptFileText(table.keptFile()) << '\n';
+    return true;
+}
+
+} // namespace Error

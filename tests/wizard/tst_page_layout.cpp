@@ -1,0 +1,172 @@
+// Every text of the pages fits, in every language and with the text sizes that people set.
+// With the variable NVX_PICTURES the pages are saved as pictures into the folder that it names.
+
+#include "cfg_wizard/feature_page.h"
+#include "cfg_wizard/interface_font.h"
+#include "cfg_wizard/interface_translators.h"
+#include "nvx_util/system.h"
+#include "support/test_class.h"
+#include "support/text.h"
+#include "wizard/wizard_fixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGlyphRun>
+#include <QRawFont>
+#include <QTest>
+#include <QTextLayout>
+
+namespace {
+
+QString nameOf(const QWidget &widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    const auto *button = qobject_cast<const QAbstractButton *>(&widget);
+    return label ? label->text() : button ? button->text() : widget.objectName();
+}
+
+bool holdsItsText(const QWidget &widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    if (label && label->wordWrap())
+        return label->heightForWidth(label->width()) <= label->height();
+    return widget.width() >= widget.sizeHint().width() && widget.height() >= widget.sizeHint().height();
+}
+
+bool isText(const QWidget &widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    return (label && !label->text().trimmed().isEmpty()) || qobject_cast<const QAbstractButton *>(&widget) ||
+           qobject_cast<const QComboBox *>(&widget);
+}
+
+// The texts of the wizard's page that do not fit.
+QStringList crampedTexts(const QWizard &wizard)
+{
+    QStringList cramped;
+    const auto widgets = wizard.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (!widget->isVisible() || !isText(*widget))
+            continue;
+        const QWidget &parent = *widget->parentWidget();
+        const QRect inWindow(widget->mapTo(&wizard, QPoint()), widget->size());
+        if (!holdsItsText(*widget) || !parent.rect().contains(widget->geometry()) ||
+            !wizard.rect().contains(inWindow))
+            cramped << nameOf(*widget);
+    }
+    return cramped;
+}
+
+// As a machine with many CAD systems has them.
+void labelBoxes(FeaturePage &page)
+{
+    for (int i = 0; i < launcherCount; ++i)
+        page.setFound(static_cast<Launcher>(i), i != static_cast<int>(Launcher::TamselMep));
+    page.setLabel(Launcher::Creo, text("Creo Parametric 1.0 2.0 3.0"));
+    page.setLabel(Launcher::Nx, text("UGS NX 8.5 8.5.0 9.0 9.5 9.5.0 10.0 10.5.0 11.0"));
+    page.setLabel(Launcher::TamselArchitecture, text("Tamsel Architecture 2015 2016 2017 2018"));
+}
+
+} // namespace
+
+class tst_page_layout : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        m_font = QApplication::font();
+        m_pictures = qEnvironmentVariable("NVX_PICTURES");
+    }
+    void cleanup() { QApplication::setFont(m_font); }
+
+    void everyTextFits_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<int>("percent");
+        const QStringList locales = Nvx::Util::System::validLocales();
+        for (const QString &locale : locales) {
+            for (const int percent : {100, 150, 200})
+                QTest::addRow("%s, text of %d %%", qPrintable(locale), percent) << locale << percent;
+        }
+    }
+
+    void everyTextFits()
+    {
+        QFETCH(QString, locale);
+        QFETCH(int, percent);
+        QFont font = m_font;
+        font.setPointSizeF(m_font.pointSizeF() * percent / 100);
+        QApplication::setFont(font);
+        const InterfaceTranslators translators(text(NVX_LANGUAGES_FOLDER), locale);
+        const InterfaceFont interfaceFont(locale);
+
+        WizardFixture fixture;
+        ClassWizard &wizard = fixture.build(text("-L") + locale);
+        labelBoxes(*wizard.findChild<FeaturePage *>());
+        wizard.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&wizard));
+        checkPage(wizard, text("welcome"));
+        const QSize size = wizard.size();
+        wizard.next();
+        QCoreApplication::processEvents();
+        checkPage(wizard, text("launchers"));
+        wizard.next();
+        fixture.progress().addItem(text("C:\\Program Files\\") +
+                                   QString(text("a-long-folder\\")).repeated(9));
+        fixture.progress().addItem(QCoreApplication::translate(
+            "cfg_utilitys", "The installation or update is complete. Click finish to continue."));
+        QCoreApplication::processEvents();
+        checkPage(wizard, text("conclusion"));
+        QCOMPARE(wizard.size(), size);
+        const QRect area = fixture.progress().viewport()->rect();
+        for (int row = 0; row < 2; ++row) {
+            const QRect shown = fixture.progress().visualItemRect(fixture.progress().item(row));
+            QVERIFY(shown.left() >= 0 && shown.right() <= area.right());
+        }
+    }
+
+    void aCharacterHasTheShapeOfItsLanguage_data()
+    {
+        QTest::addColumn<QString>("locale");
+        for (const char *locale : {"ja-JP", "ko-KR", "zh-CN", "zh-TW"})
+            QTest::newRow(locale) << text(locale);
+    }
+
+    void aCharacterHasTheShapeOfItsLanguage()
+    {
+        QFETCH(QString, locale);
+        const QFont before = QApplication::font();
+        {
+            const InterfaceFont interfaceFont(locale);
+            QTextLayout layout(text("直"), QApplication::font());
+            layout.beginLayout();
+            layout.createLine();
+            layout.endLayout();
+            QCOMPARE(layout.glyphRuns().size(), 1);
+            const QString family = layout.glyphRuns().first().rawFont().familyName();
+            QVERIFY2(fontsOfLanguage(locale).contains(family), qPrintable(family));
+        }
+        QCOMPARE(QApplication::font(), before);
+    }
+
+private:
+    void checkPage(ClassWizard &wizard, const QString &page)
+    {
+        const QStringList cramped = crampedTexts(wizard);
+        if (!m_pictures.isEmpty()) {
+            QFETCH(QString, locale);
+            QFETCH(int, percent);
+            const QString file = text("%1/%2-%3-%4.png").arg(m_pictures, locale, page).arg(percent);
+            QVERIFY2(wizard.grab().save(file), qPrintable(file));
+        }
+        QVERIFY2(cramped.isEmpty(), qPrintable(page + text(": ") + cramped.join(text(" | "))));
+    }
+
+    QFont m_font;
+    QString m_pictures;
+};
+
+NVX_TEST(tst_page_layout)
+#include "tst_page_layout.moc"
