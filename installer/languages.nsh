@@ -1,17 +1,5 @@
-; The installer's languages, and the locale by which the product knows each.
-
-; The first one serves where nothing else fits.
-!macro EachLanguage ACTION
-    !insertmacro ${ACTION} en-US English ENGLISH
-    !insertmacro ${ACTION} de-DE German GERMAN
-    !insertmacro ${ACTION} fr-FR French FRENCH
-    !insertmacro ${ACTION} it-IT Italian ITALIAN
-    !insertmacro ${ACTION} ja-JP Japanese JAPANESE
-    !insertmacro ${ACTION} ko-KR Korean KOREAN
-    !insertmacro ${ACTION} ru-RU Russian RUSSIAN
-    !insertmacro ${ACTION} zh-CN SimpChinese SIMPCHINESE
-    !insertmacro ${ACTION} zh-TW TradChinese TRADCHINESE
-!macroend
+; The installer's languages, and the product's locale for each. make_installer.cmake writes the macro EachLanguage
+; from the product's table of languages. The first language is the default.
 
 !macro LoadLanguage LOCALE NAME ID
     !insertmacro MUI_LANGUAGE ${NAME}
@@ -30,8 +18,8 @@
     ${EndIf}
 !macroend
 
-; ChooseLanguage settles $LANGUAGE and $Locale: the option /LANG=xx-XX counts most, then the language in
-; which the product is installed, then Windows' own. A locale that is not among ours gives English.
+; ChooseLanguage sets $LANGUAGE and $Locale from the option /LANG=xx-XX, else from the language in which the
+; product is installed, else from the language of Windows. For a locale that is not in the table it is English.
 !macro LanguageFunctions UN
 Function ${UN}ChooseLanguage
     ${GetParameters} $1
@@ -54,7 +42,7 @@ Function ${UN}NameLocale
     !insertmacro EachLanguage TakeLocaleOfLanguage
 FunctionEnd
 
-; $0: the locale of the product that is installed, or nothing.
+; Sets $0 to the locale of the installed product, or to "".
 Function ${UN}InstalledLocale
     StrCpy $0 ""
     ReadRegStr $1 HKLM "${UNINSTALL_KEY}" "UninstallString"

@@ -1,10 +1,32 @@
-# Makes the set-up program of what CPack has laid out: the folder "product" is what belongs into the install
-# dir, "translators" what belongs into the folder of the translators. Run by CPack.
+# Makes the set-up program from what CPack has staged: the files of the folder "product" belong in the install dir,
+# those of "translators" in the translators' folder. Run by CPack.
 
 find_program(makensis makensis REQUIRED)
+find_program(python python3 REQUIRED)
 
-# describe_files(NAME FOLDER): adds macros to `lists` that do something with each file of the folder, and with
-# each folder, a folder after those in it; adds the size of the files to `bytes`.
+# describe_languages(): adds a macro to `lists` that does something with each language of the product's table. The
+# first language of the table comes first, the others in the order of their locales.
+function(describe_languages)
+    execute_process(
+        COMMAND "${python}" -B "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../tools/languages.py" locale installerName
+        OUTPUT_VARIABLE rows OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    string(REPLACE "\n" ";" rows "${rows}")
+    list(POP_FRONT rows default)
+    list(SORT rows)
+    string(APPEND lists "!macro EachLanguage ACTION\n")
+    foreach(row IN LISTS default rows)
+        string(REPLACE "\t" ";" row "${row}")
+        list(GET row 0 locale)
+        list(GET row 1 name)
+        string(TOUPPER "${name}" id)
+        string(APPEND lists "    !insertmacro \${ACTION} ${locale} ${name} ${id}\n")
+    endforeach()
+    string(APPEND lists "!macroend\n")
+    set(lists "${lists}" PARENT_SCOPE)
+endfunction()
+
+# describe_files(NAME FOLDER): adds two macros to `lists`, which do something with each file in the folder and with
+# each folder below it, subfolders first. Adds the size of the files to `bytes`.
 function(describe_files name folder)
     file(GLOB_RECURSE files RELATIVE "${folder}" LIST_DIRECTORIES false "${folder}/*")
     list(SORT files)
@@ -42,10 +64,11 @@ endfunction()
 set(lists "")
 set(bytes 0)
 set(laid_out "${CPACK_TEMPORARY_DIRECTORY}")
+describe_languages()
 describe_files(Product "${laid_out}/product")
 describe_files(Translators "${laid_out}/translators")
 set(lists_file "${CPACK_TOPLEVEL_DIRECTORY}/files.nsh")
-# The mark of the encoding, without which the compiler would read the names in another one.
+# Without the byte order mark the compiler would read the names in another encoding.
 string(ASCII 239 187 191 mark)
 file(WRITE "${lists_file}" "${mark}${lists}")
 
@@ -62,6 +85,6 @@ execute_process(
         "${CMAKE_CURRENT_LIST_DIR}/nvx.nsi"
     RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
-    message(FATAL_ERROR "The set-up program was not made: makensis answered ${result}")
+    message(FATAL_ERROR "The set-up program was not made: makensis ended with ${result}")
 endif()
 set(CPACK_EXTERNAL_BUILT_PACKAGES "${set_up}")

@@ -18,6 +18,7 @@ from pathlib import Path
 from typing import TypeVar
 
 from cadsystems import put_cad_systems
+from languages import read_languages
 from winemachine import INSTALL_DIR, Machine, StrPath, make_template
 
 ROOT = Path(__file__).resolve().parents[1]
@@ -28,13 +29,9 @@ SCREEN = "2560x1800"
 PATIENCE_S = 120
 MARLETT = Path("/usr/share/wine/fonts/marlett.ttf")
 
-# What the machines' user reads most comfortably; a family that the machine has must stand here.
-FAMILIES = {
-    "ja-JP": "Noto Sans CJK JP",
-    "ko-KR": "Noto Sans CJK KR",
-    "zh-CN": "Noto Sans CJK SC",
-    "zh-TW": "Noto Sans CJK TC",
-}
+# The family of the system's fonts in each language; this machine must have it. The last font of a language is
+# the one for Linux.
+FAMILIES = {row["locale"]: row["fonts"] for row in read_languages() if "fonts" in row}
 OTHER_FAMILY = "Open Sans"
 SYSTEM_FAMILIES = ("MS Shell Dlg", "MS Shell Dlg 2", "Tahoma")
 

@@ -1,5 +1,6 @@
 #include "nvx_util/system.h"
 
+#include "nvx_util/languages.h"
 #include "nvx_util/product.h"
 #include "nvx_util/registry_key.h"
 #include "platform.h"
@@ -12,7 +13,6 @@ namespace Nvx::Util {
 
 namespace {
 
-const auto builtInLocale = QStringLiteral("en-US");
 const auto localeValue = QStringLiteral("Locale");
 
 RegistryKey userSettings()
@@ -69,11 +69,9 @@ bool System::makePath(const QString &path)
 
 QStringList System::validLocales()
 {
-    static const QStringList locales{
-        QStringLiteral("en-US"), QStringLiteral("zh-CN"), QStringLiteral("zh-TW"),
-        QStringLiteral("de-DE"), QStringLiteral("fr-FR"), QStringLiteral("ja-JP"),
-        QStringLiteral("it-IT"), QStringLiteral("ko-KR"), QStringLiteral("ru-RU"),
-    };
+    QStringList locales;
+    for (const Language &language : languages)
+        locales.append(language.locale);
     return locales;
 }
 
@@ -105,7 +103,7 @@ QString System::getProgramFilesPathFromRegistry(bool thirtyTwoBit)
 QString supportedLocale(QString systemName)
 {
     systemName.replace(QLatin1Char('_'), QLatin1Char('-'));
-    return System::validLocales().contains(systemName) ? systemName : builtInLocale;
+    return languageOf(systemName) ? systemName : QString(sourceLanguage.locale);
 }
 
 QString supportedSystemLocale()

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Stands for the translators at the other end of the share: watches the job folder, takes the job NVX360,
-gives every text of its files a made-up translation in each language, and says that it is done.
+"""Simulates the translators at the other end of the share: watches the job folder, takes the job NVX360,
+gives every text of its files a made-up translation in each language, and reports the job done.
 
     translation_worker.py SHARE [--once] [--settle SECONDS] [--damage CODE/NAME]
 
-SHARE is the folder that holds "pTrans". --once ends after one job. --settle says how long the uploaded files
-must have been left alone before they count as complete (5 seconds). --damage sends a file back cut in half.
+SHARE is the folder that contains "pTrans". --once ends after one job. --settle sets how long the uploaded
+files must have been unchanged before they count as complete (5 seconds). --damage sends a file back cut in
+half.
 """
 
 import argparse
@@ -14,26 +15,22 @@ import time
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
-LANGUAGES = {
-    "deu": "de_DE",
-    "fra": "fr_FR",
-    "ita": "it_IT",
-    "jpn": "ja_JP",
-    "chs": "zh_CN",
-    "cht": "zh_TW",
-    "kor": "ko_KR",
-    "rus": "ru_RU",
-}
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
+
+from languages import read_languages  # noqa: E402
+
+# The language of the files for each of the translators' codes.
+LANGUAGES = {row["translatorsCode"]: row["locale"].replace("-", "_") for row in read_languages()[1:]}
 JOB = "NVX360"
 
 
 def pseudo_translation(source: str, code: str) -> str:
-    """The text, marked with the language; its placeholders stay."""
+    """The text with the code of the language in front; its placeholders are preserved."""
     return f"[{code}] {source}"
 
 
 def translate(table: bytes, code: str) -> bytes:
-    """The bytes of a translation file in the language of a code."""
+    """The bytes of a translation file, translated into the language of a code."""
     root = ElementTree.fromstring(table)
     root.set("language", LANGUAGES[code])
     for message in root.iter("message"):
@@ -53,21 +50,22 @@ def translate(table: bytes, code: str) -> bytes:
 
 
 def is_settled(job: Path, files_folder: Path, sources: list[Path], seconds: float) -> bool:
-    """Whether the sources are there and nothing has come or gone anywhere for some time.
+    """Whether all sources exist and no file has changed for some time.
 
-    The job comes before the files: those of an earlier job may still lie there, long settled.
+    The job is written before its files, and files of an earlier job may still be there: the time of the job
+    counts as well.
     """
     if not all(source.exists() for source in sources):
         return False
     try:
         newest = max(path.stat().st_mtime for path in (job, *files_folder.rglob("*")))
-    except FileNotFoundError:  # something has just gone
+    except FileNotFoundError:  # a file has just been deleted
         return False
     return time.time() - newest >= seconds
 
 
 def take(job: Path, files_folder: Path, settle: float, damaged: str) -> None:
-    """Does a job and writes the answer."""
+    """Does a job, and writes the translations and the file that ends it."""
     names = [line.removeprefix("enu\\") for line in job.read_text(encoding="utf-8").splitlines() if line]
     sources = [files_folder / "enu" / name for name in names]
     while not is_settled(job, files_folder, sources, settle):

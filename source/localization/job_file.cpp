@@ -1,8 +1,10 @@
 #include "localization/job_file.h"
 
-#include "localization/localization_languages.h"
+#include "nvx_util/languages.h"
 
 #include <QXmlStreamReader>
+
+using Nvx::Util::sourceLanguage;
 
 namespace util {
 
@@ -10,7 +12,7 @@ QByteArray jobFile(const QStringList &sourceNames)
 {
     QString text;
     for (const QString &name : sourceNames)
-        text += sourceLanguage.code + QLatin1Char('\\') + name + QLatin1Char('\n');
+        text += sourceLanguage.translatorsCode + QLatin1Char('\\') + name + QLatin1Char('\n');
     return text.toUtf8();
 }
 

@@ -1,6 +1,6 @@
 #include "localization/locale_folders.h"
 
-#include "localization/localization_languages.h"
+#include "nvx_util/languages.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
 #include "run/reporter.h"
@@ -10,6 +10,9 @@
 #include <QSet>
 
 using Nvx::Util::joinPath;
+using Nvx::Util::Language;
+using Nvx::Util::sourceLanguage;
+using Nvx::Util::targetLanguages;
 
 namespace util {
 
@@ -17,12 +20,12 @@ namespace {
 
 const QStringList compiledFiles = {QStringLiteral("*.qm")};
 
+// The language of the sources, then the others in their order.
 QList<Language> allLanguages()
 {
-    QList<Language> languages = {sourceLanguage};
-    for (const Language &language : targetLanguages)
-        languages.append(language);
-    return languages;
+    QList<Language> all(targetLanguages.begin(), targetLanguages.end());
+    all.prepend(sourceLanguage);
+    return all;
 }
 
 } // namespace
@@ -96,7 +99,7 @@ bool LocaleFolders::make(const QString &folder)
 void LocaleFolders::collect()
 {
     for (const Language &language : allLanguages())
-        collect(folder(language.locale), collected(language.code));
+        collect(folder(language.locale), collected(language.translatorsCode));
 }
 
 void LocaleFolders::collect(const QString &source, const QString &target)

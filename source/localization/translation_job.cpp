@@ -1,7 +1,7 @@
 #include "localization/translation_job.h"
 
 #include "localization/job_file.h"
-#include "localization/localization_languages.h"
+#include "nvx_util/languages.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
 #include "run/reporter.h"
@@ -11,6 +11,9 @@
 #include <QSet>
 
 using Nvx::Util::joinPath;
+using Nvx::Util::Language;
+using Nvx::Util::sourceLanguage;
+using Nvx::Util::targetLanguages;
 
 namespace util {
 
@@ -94,8 +97,10 @@ void TranslationJob::upload()
     }
     // The sources come last: a worker that has them has everything.
     for (const Language &language : targetLanguages)
-        upload(m_folders.collected(language.code), joinPath(m_shareFolder, language.code));
-    upload(m_folders.collected(sourceLanguage.code), joinPath(m_shareFolder, sourceLanguage.code));
+        upload(m_folders.collected(language.translatorsCode),
+               joinPath(m_shareFolder, language.translatorsCode));
+    upload(m_folders.collected(sourceLanguage.translatorsCode),
+           joinPath(m_shareFolder, sourceLanguage.translatorsCode));
 }
 
 void TranslationJob::upload(const QString &source, const QString &target)
@@ -136,7 +141,7 @@ void TranslationJob::waitUntilDone()
 void TranslationJob::download()
 {
     for (const Language &language : targetLanguages)
-        download(joinPath(m_shareFolder, language.code), m_folders.folder(language.locale));
+        download(joinPath(m_shareFolder, language.translatorsCode), m_folders.folder(language.locale));
 }
 
 void TranslationJob::download(const QString &source, const QString &target)

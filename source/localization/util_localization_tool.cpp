@@ -1,10 +1,10 @@
 #include "localization/util_localization_tool.h"
 
 #include "localization/locale_folders.h"
-#include "localization/localization_languages.h"
 #include "localization/translatable_texts.h"
 #include "localization/translation_tools.h"
 #include "materials/mat_translation_table.h"
+#include "nvx_util/languages.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
 #include "run/reporter.h"
@@ -15,7 +15,10 @@
 #include <QFileInfo>
 
 using Nvx::Util::joinPath;
+using Nvx::Util::Language;
+using Nvx::Util::sourceLanguage;
 using Nvx::Util::System;
+using Nvx::Util::targetLanguages;
 
 namespace util {
 
@@ -95,7 +98,7 @@ QString util_localization_tool::inRoot(const QString &relativePath) const
     return joinPath(m_rootFolder, relativePath);
 }
 
-QString util_localization_tool::inLocale(QLatin1String locale, const QString &name) const
+QString util_localization_tool::inLocale(QLatin1StringView locale, const QString &name) const
 {
     return inRoot(QStringLiteral("Locale/%1/%2").arg(locale, name));
 }
@@ -191,7 +194,7 @@ void util_localization_tool::compile()
     m_context.reporter.log(LogLevel::step, QStringLiteral("release finishes cool"));
 }
 
-void util_localization_tool::release(QLatin1String locale, const QString &translations,
+void util_localization_tool::release(QLatin1StringView locale, const QString &translations,
                                      const QString &compiled)
 {
     if (!hasRoot())

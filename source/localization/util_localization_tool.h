@@ -33,7 +33,7 @@ private:
     LocalizationSettings readSettings() const;
     bool hasRoot() const { return !m_rootFolder.isEmpty(); }
     QString inRoot(const QString &relativePath) const;
-    QString inLocale(QLatin1String locale, const QString &name) const;
+    QString inLocale(QLatin1StringView locale, const QString &name) const;
 
     void scanSources();
     void updateEnglishSources();
@@ -41,7 +41,7 @@ private:
     void updateMaterialNames();
     void runTranslationJob();
     void compile();
-    void release(QLatin1String locale, const QString &translations, const QString &compiled);
+    void release(QLatin1StringView locale, const QString &translations, const QString &compiled);
     void copyRibbon();
 
     QString m_rootFolder;  ///< of sources and locale folders, an existing one; empty when there is none

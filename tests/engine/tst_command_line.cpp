@@ -1,4 +1,5 @@
 #include "cfg_utilities/command_line.h"
+#include "nvx_util/languages.h"
 #include "support/test_class.h"
 #include "support/text.h"
 
@@ -61,8 +62,11 @@ private slots:
         row("-Lja-jp keeps its spelling", "NVXConfig.exe -Lja-jp", none, false, "ja-jp");
         row("-Lde is taken as it stands", "NVXConfig.exe -Lde", none, false, "de");
         row("-L alone is an empty locale", "NVXConfig.exe -L", none, false, "");
-        for (const char *locale : {"de-DE", "fr-FR", "it-IT", "ja-JP", "ko-KR", "ru-RU", "zh-CN", "zh-TW"})
+        for (const Nvx::Util::Language &language : Nvx::Util::targetLanguages) {
+            const char *locale = language.locale.data();
             row(locale, QByteArray("NVXConfig.exe -L").append(locale).constData(), none, false, locale);
+        }
+        row("-L with an end and a beginning in the list", "NVXConfig.exe -LT-IT,ko", none, false, "T-IT,ko");
         row("an unknown locale is en-US", "NVXConfig.exe -Lxx", none, false, "en-US");
         row("-Len-US is en-US", "NVXConfig.exe -Len-US", none, false, "en-US");
         row("the later locale wins", "NVXConfig.exe -Lde-DE -Lko-KR", none, false, "ko-KR");

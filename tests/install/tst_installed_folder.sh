@@ -32,7 +32,9 @@ env -i LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen NVX_MACHINE="$folder/machine" \
 log="$installed/bin/NVXConfig.log"
 grep -qF 'Language de-DE' "$log" || fail "no language in the log"
 grep -qF 'Deinstallation der Tutorials' "$log" || fail "the log is not in German"
-for locale in de-DE fr-FR it-IT ja-JP ko-KR ru-RU zh-CN zh-TW; do
+locales=$(python3 -B "$(dirname "${BASH_SOURCE[0]}")/../../tools/languages.py" --translated locale) ||
+    fail "the table of languages could not be read"
+for locale in $locales; do
     for catalogue in nvxconfig nvxwindow messagetableutility materialnameutility; do
         [ -s "$installed/bin/$locale/$catalogue.qm" ] || fail "no translations $catalogue for $locale"
     done

@@ -116,6 +116,7 @@ void tst_interface_translators::init()
 
 void tst_interface_translators::aLocaleIsTranslated_data()
 {
+    // A language without expected texts must only differ from English.
     using Texts = std::pair<QString, QString>;
     const QHash<QString, Texts> texts{
         {german, {QStringLiteral("Befehlszeilenargumente"), QStringLiteral("&Ja")}},
@@ -142,8 +143,14 @@ void tst_interface_translators::aLocaleIsTranslated()
 {
     QFETCH(QString, locale);
     const InterfaceTranslators translators(languagesFolder(), locale);
-    QTEST(programText(), "ofProgram");
-    QTEST(toolkitText(), "ofToolkit");
+    QVERIFY(programText() != englishProgramText);
+    QVERIFY(toolkitText() != englishToolkitText);
+    QFETCH(QString, ofProgram);
+    QFETCH(QString, ofToolkit);
+    if (!ofProgram.isEmpty()) {
+        QCOMPARE(programText(), ofProgram);
+        QCOMPARE(toolkitText(), ofToolkit);
+    }
 }
 
 void tst_interface_translators::theLastTextNamesTheFinishButton()

@@ -1,6 +1,7 @@
 // The compiled catalogues of the window programs, as the real windows show them.
 
 #include "message_table_utility/error_message_table_utility.h"
+#include "nvx_util/languages.h"
 #include "nvx_util/translators.h"
 #include "support/recording_dialogs.h"
 #include "support/test_class.h"
@@ -14,7 +15,7 @@
 
 namespace {
 
-/// What a window shows in one language.
+/// What a window shows in one language. A language without a row must only differ from English.
 struct Words
 {
     QString title;
@@ -63,9 +64,8 @@ private slots:
     void windowSpeaksTheLanguage_data()
     {
         QTest::addColumn<QString>("locale");
-        const QStringList locales = wordsOf.keys();
-        for (const QString &locale : locales)
-            QTest::newRow(qPrintable(locale)) << locale;
+        for (const Nvx::Util::Language &language : Nvx::Util::languages)
+            QTest::newRow(language.locale.data()) << QString(language.locale);
     }
 
     void windowSpeaksTheLanguage()
@@ -79,6 +79,10 @@ private slots:
         RecordingDialogs dialogs;
         const MessageTableUtility window(dialogs, settings);
 
+        if (!wordsOf.contains(locale)) {
+            QVERIFY(window.windowTitle() != wordsOf.value(QStringLiteral("en-US")).title);
+            return;
+        }
         const Words expected = wordsOf.value(locale);
         QCOMPARE(window.windowTitle(), expected.title);
         QCOMPARE(window.findChild<QAction *>(QStringLiteral("actionOpen"))->text(), expected.open);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 namespace {
 
@@ -22,7 +23,8 @@ const Marks marks[] = {
     {"ko-KR", "“”[]", "-"}, {"ru-RU", "«»", "—"}, {"zh-CN", "“”", "-"}, {"zh-TW", "「」[]", "-"},
 };
 
-// A pattern that matches nowhere in the texts of the locales. "\h" is a blank of any width within a line.
+// A pattern that matches nowhere in the texts of the locales: those named, or after "not " all others. "\h"
+// is a blank of any width within a line.
 struct Fault
 {
     const char *locales;
@@ -34,13 +36,13 @@ const char *const ideographs = "[\\x{3041}-\\x{30FA}\\x{30FC}-\\x{30FF}\\x{3400}
 
 const Fault spacingFaults[] = {
     // No blank after punctuation, a blank inside parentheses, two blanks.
-    {"de-DE fr-FR it-IT ja-JP ko-KR ru-RU zh-CN zh-TW", "[:;!?,][^\\s»“”」)]|[(\\[]\\h|\\S\\h\\h+\\S"},
+    {"not ", "[:;!?,][^\\s»“”」)]|[(\\[]\\h|\\S\\h\\h+\\S"},
     // A blank before punctuation; a blank that does not break.
-    {"de-DE it-IT ja-JP ko-KR ru-RU zh-CN zh-TW", "\\h[:;!?,)\\]]|[\\x{A0}\\x{202F}]"},
+    {"not fr-FR", "\\h[:;!?,)\\]]|[\\x{A0}\\x{202F}]"},
     // Double punctuation and guillemets without the blank that does not break, or with a narrow one.
     {"fr-FR", "(?<!\\x{A0})[:;!?»]|«(?!\\x{A0})|\\h[,)]|\\x{202F}"},
     // No blank in front of a parenthesis, and in Korean one.
-    {"de-DE fr-FR it-IT ja-JP ru-RU", "[^\\s„«“]\\("},
+    {"not ko-KR zh-CN zh-TW", "[^\\s„«“]\\("},
     {"ko-KR", "\\h\\("},
     // Blanks beside full-width punctuation.
     {"ja-JP zh-CN zh-TW", "\\h[，。：；？！）、]|[，。：；？！（、]\\h+\\S"},
@@ -49,7 +51,7 @@ const Fault spacingFaults[] = {
 };
 
 const Fault punctuationFaults[] = {
-    {"de-DE fr-FR it-IT ko-KR ru-RU", "[\\x{3000}-\\x{303F}\\x{FF00}-\\x{FFEF}]"},
+    {"not ja-JP zh-CN zh-TW", "[\\x{3000}-\\x{303F}\\x{FF00}-\\x{FFEF}]"},
     {"ja-JP", "[\\x{FF01}-\\x{FF5E}]|(?<=IDEOGRAPHS)[,.;](?!\\.\\.)"},
     {"zh-CN zh-TW", "[,:;?!()]|(?<=IDEOGRAPHS)\\.(?!\\.\\.)"},
 };
@@ -71,7 +73,13 @@ bool everyFormKeeps(const Entry &entry, const QString &locale, Property property
            });
 }
 
-// The patterns of a table that count in each locale.
+bool appliesTo(const Fault &fault, const char *locale)
+{
+    const std::string_view locales = fault.locales;
+    return locales.starts_with("not ") != (locales.find(locale) != std::string_view::npos);
+}
+
+// The patterns of a table that apply to each locale.
 template<std::size_t Count>
 QMap<QString, QList<QRegularExpression>> patternsByLocale(const Fault (&faults)[Count])
 {
@@ -79,9 +87,10 @@ QMap<QString, QList<QRegularExpression>> patternsByLocale(const Fault (&faults)[
     for (const Fault &fault : faults) {
         QString pattern = QString::fromUtf8(fault.pattern);
         pattern.replace(QLatin1String("IDEOGRAPHS"), QString::fromUtf8(ideographs));
-        const QStringList locales = QString::fromLatin1(fault.locales).split(QLatin1Char(' '));
-        for (const QString &locale : locales)
-            patterns[locale].append(QRegularExpression(pattern));
+        for (const Marks &language : marks) {
+            if (appliesTo(fault, language.locale))
+                patterns[QString::fromLatin1(language.locale)].append(QRegularExpression(pattern));
+        }
     }
     return patterns;
 }

@@ -1,4 +1,5 @@
 #include "localization/locale_folders.h"
+#include "nvx_util/system.h"
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
@@ -35,8 +36,9 @@ private slots:
         LocaleFolders(root.path(), reporter).prepare();
         const QStringList made =
             QDir(root.path(QStringLiteral("Locale"))).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        QCOMPARE(made.join(QLatin1Char(' ')),
-                 QStringLiteral("de-DE en-US fr-FR it-IT ja-JP ko-KR ru-RU zh-CN zh-TW"));
+        QStringList locales = Nvx::Util::System::validLocales();
+        locales.sort();
+        QCOMPARE(made, locales);
         QCOMPARE(reporter.lines, QStringList());
     }
 

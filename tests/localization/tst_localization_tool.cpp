@@ -1,6 +1,7 @@
 // The whole road on this machine: the real lupdate and lrelease, and a worker at the other end of the share.
 
 #include "localization/util_localization_tool.h"
+#include "nvx_util/languages.h"
 #include "nvx_util/native_machine.h"
 #include "run/run_state.h"
 #include "support/recording_reporter.h"
@@ -18,9 +19,6 @@
 using util::util_localization_tool;
 
 namespace {
-
-const QStringList locales = {text("de-DE"), text("fr-FR"), text("it-IT"), text("ja-JP"),
-                             text("zh-CN"), text("zh-TW"), text("ko-KR"), text("ru-RU")};
 
 /// This machine, but the executable lies in a folder of the test, and time passes at once.
 class QuickMachine : public Nvx::Util::NativeMachine
@@ -71,21 +69,22 @@ private slots:
         writeSettings(text(TOOLS_FOLDER));
     }
 
-    void sourcesGoInAndEightLanguagesComeOut()
+    void sourcesGoInAndEveryLanguageComesOut()
     {
         m_machine->whileSleeping = [this] { work({}); };
         tool()->runScript();
-        for (const QString &locale : locales) {
-            const QByteArray code = languageCode(locale);
+        for (const Nvx::Util::Language &language : Nvx::Util::targetLanguages) {
+            const QString locale = language.locale;
+            const QString code = language.translatorsCode;
             QTranslator client;
             QVERIFY(client.load(root("Locale/") + locale + text("/client.qm")));
-            QCOMPARE(client.translate("StudyWindow", "Solve"), text("[%1] Solve").arg(text(code)));
+            QCOMPARE(client.translate("StudyWindow", "Solve"), text("[%1] Solve").arg(code));
             QCOMPARE(client.translate("StudyWindow", "Study %1"),
-                     text("[%2] Study %1").arg(text("%1"), text(code)));
+                     text("[%2] Study %1").arg(text("%1"), code));
             QTranslator config;
             QVERIFY(config.load(root("Locale/") + locale + text("/nvxconfig.qm")));
             QCOMPARE(config.translate("SetUp", "The product has been set up"),
-                     text("[%1] The product has been set up").arg(text(code)));
+                     text("[%1] The product has been set up").arg(code));
             QCOMPARE(readFile(root("Locale/") + locale + text("/Ribbon2D.xmal")),
                      readFile(root("Locale/en-US/Ribbon2D.xmal")));
         }
@@ -259,14 +258,6 @@ private:
                 files.insert(path, readFile(path));
         }
         return files;
-    }
-
-    static QByteArray languageCode(const QString &locale)
-    {
-        static const QMap<QString, QByteArray> codes = {
-            {text("de-DE"), "deu"}, {text("fr-FR"), "fra"}, {text("it-IT"), "ita"}, {text("ja-JP"), "jpn"},
-            {text("zh-CN"), "chs"}, {text("zh-TW"), "cht"}, {text("ko-KR"), "kor"}, {text("ru-RU"), "rus"}};
-        return codes.value(locale);
     }
 
     std::unique_ptr<TestMachine> m_test;

@@ -1,4 +1,5 @@
 #include "localization/translation_job.h"
+#include "nvx_util/languages.h"
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
@@ -93,16 +94,17 @@ private slots:
 
     void theCollectedFilesOfEveryLanguageGoOntoTheShareTheSourcesLast()
     {
-        for (const char *code : {"deu", "fra", "ita", "jpn", "chs", "cht", "rus"})
-            QVERIFY(QDir().mkpath(path("root/Locale/collect/") + text(code)));
+        for (const Nvx::Util::Language &language : Nvx::Util::targetLanguages)
+            QVERIFY(QDir().mkpath(path("root/Locale/collect/") + language.translatorsCode));
         writeFile(path("root/Locale/collect/enu/client.ts"), "english");
         writeFile(path("root/Locale/collect/kor/client.ts"), "korean");
         job()->upload();
         QCOMPARE(readFile(path("share/pTrans/NVX360/enu/client.ts")), QByteArray("english"));
         QCOMPARE(readFile(path("share/pTrans/NVX360/kor/client.ts")), QByteArray("korean"));
         QStringList expected;
-        for (const char *code : {"deu", "fra", "ita", "jpn", "chs", "cht", "kor", "rus", "enu"})
-            expected.append(text("0 upload ") + path("share/pTrans/NVX360/") + text(code));
+        for (const Nvx::Util::Language &language : Nvx::Util::targetLanguages)
+            expected.append(text("0 upload ") + path("share/pTrans/NVX360/") + language.translatorsCode);
+        expected.append(text("0 upload ") + path("share/pTrans/NVX360/enu"));
         QCOMPARE(m_reporter->lines, expected);
     }
 

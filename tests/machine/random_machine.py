@@ -11,6 +11,7 @@ from dataclasses import dataclass, field, fields
 
 from machine_case import INSTALL_DIR, MachineCase
 from cadsystems import SPACE_CLAIM_ADDINS, TAMSEL_ADDINS, registry_script
+from languages import read_languages
 from winemachine import ENVIRONMENT_KEY, SHARED_DATA, TRANSLATORS, TUTORIALS, Registry
 
 SOFTWARE = "HKEY_LOCAL_MACHINE\\SOFTWARE\\"
@@ -21,7 +22,7 @@ TAMSEL_PRODUCTS = {
     "Tamsel Architecture": "Velmora Tamsel Architecture",
     "Tamsel MEP": "Velmora Tamsel MEP",
 }
-LOCALES = ("en-US", "de-DE", "fr-FR", "it-IT", "ja-JP", "ko-KR", "ru-RU", "zh-CN", "zh-TW")
+LOCALES = ("en-US", *sorted(row["locale"] for row in read_languages()[1:]))
 CODE_PAGES = {"C.UTF-8": "cp1252", "ja_JP.UTF-8": "cp932"}
 
 # Names of folders, by the code page that can write all of their characters.

@@ -1,13 +1,14 @@
-"""The localisation tool on a Windows machine: sources in, eight languages out. lupdate and lrelease are those
-of the host, which translates the same files."""
+"""The localisation tool on a Windows machine: from the sources to the compiled files of every language.
+lupdate and lrelease are those of the host, which translate the same files."""
 
 import unittest
 
 from machine_case import BUILD, MachineCase
 
+from languages import read_languages
 from localization_share import ROOT, SHARE, Translators
 
-LOCALES = ("de-DE", "fr-FR", "it-IT", "ja-JP", "zh-CN", "zh-TW", "ko-KR", "ru-RU")
+LOCALES = [row["locale"] for row in read_languages()[1:]]
 
 
 class Localization(MachineCase):

@@ -1,6 +1,7 @@
 // The language of the run: what is remembered of it, and the files that go with it.
 
 #include "cfg_utilities/cfg_utilitys.h"
+#include "nvx_util/languages.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
@@ -14,7 +15,7 @@ using Nvx::Util::System;
 
 namespace {
 
-const QString builtInLocale = QStringLiteral("en-US");
+const QString builtInLocale = Nvx::Util::sourceLanguage.locale;
 const QString japanese = QStringLiteral("ja-JP");
 const QString flagsFile = Nvx::Product::flagsFile;
 

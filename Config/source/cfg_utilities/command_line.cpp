@@ -1,5 +1,7 @@
 #include "cfg_utilities/command_line.h"
 
+#include "nvx_util/languages.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -82,8 +84,11 @@ CommandLineReading readCommandLine(const QString &commandLine, const QString &sy
 
 QString localeOfOption(const QString &text)
 {
-    const auto shipped = QStringLiteral("DE-DE,FR-FR,JA-JP,ZH-CN,ZH-TW,IT-IT,KO-KR,RU-RU");
-    return shipped.contains(text.toUpper()) ? text : QStringLiteral("en-US");
+    QStringList translated;
+    for (const auto &language : Nvx::Util::translatedLanguages(&Nvx::Util::Language::optionPlace))
+        translated.append(language.locale);
+    const QString list = translated.join(QLatin1Char(',')).toUpper();
+    return list.contains(text.toUpper()) ? text : QString(Nvx::Util::sourceLanguage.locale);
 }
 
 QString usageText()

@@ -23,8 +23,9 @@ struct CommandLineReading
 CommandLineReading readCommandLine(const QString &commandLine, const QString &systemLocale,
                                    const std::function<bool()> &goOnAfterUnknownOption);
 
-/// The locale that the text behind "-L" stands for: that text, as it was spelled, when its upper-case form
-/// occurs anywhere in the list of the shipped languages, which an empty text does; else "en-US".
+/// The locale selected by the text after "-L". This is the text itself, spelled as it was given, if it occurs
+/// anywhere in "DE-DE,FR-FR,...", the list of the translated languages, in any case; an empty text does. For
+/// any other text it is "en-US".
 QString localeOfOption(const QString &text);
 
 /// The text of the box that an unknown option brings up.

@@ -1,23 +1,20 @@
 #include "cfg_wizard/interface_font.h"
 
+#include "nvx_util/languages.h"
+
 #include <QApplication>
-#include <QHash>
 
 QStringList fontsOfLanguage(const QString &locale)
 {
-    // Those of Windows 8 and later, of Windows 7, and of Linux.
-    static const QHash<QString, QStringList> fonts{
-        {QStringLiteral("ja-JP"),
-         {QStringLiteral("Yu Gothic UI"), QStringLiteral("Meiryo UI"), QStringLiteral("Noto Sans CJK JP")}},
-        {QStringLiteral("ko-KR"), {QStringLiteral("Malgun Gothic"), QStringLiteral("Noto Sans CJK KR")}},
-        {QStringLiteral("zh-CN"),
-         {QStringLiteral("Microsoft YaHei UI"), QStringLiteral("Microsoft YaHei"),
-          QStringLiteral("Noto Sans CJK SC")}},
-        {QStringLiteral("zh-TW"),
-         {QStringLiteral("Microsoft JhengHei UI"), QStringLiteral("Microsoft JhengHei"),
-          QStringLiteral("Noto Sans CJK TC")}},
-    };
-    return fonts.value(locale);
+    const Nvx::Util::Language *language = Nvx::Util::languageOf(locale);
+    if (!language)
+        return {};
+    QStringList fonts;
+    for (const QLatin1StringView font : language->fonts) {
+        if (!font.isEmpty())
+            fonts.append(font);
+    }
+    return fonts;
 }
 
 InterfaceFont::InterfaceFont(const QString &locale)

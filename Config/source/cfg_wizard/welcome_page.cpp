@@ -2,30 +2,15 @@
 
 #include "cfg_utilities/cfg_utilitys.h"
 #include "cfg_wizard/start_up.h"
+#include "nvx_util/languages.h"
 #include "nvx_util/product.h"
-#include "nvx_util/system.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 
-using Nvx::Util::System;
-
 namespace {
-
-// In the order of System::validLocales.
-constexpr const char *languageNames[] = {
-    QT_TRANSLATE_NOOP("WelcomePage", "English"),
-    QT_TRANSLATE_NOOP("WelcomePage", "Chinese (Simplified)"),
-    QT_TRANSLATE_NOOP("WelcomePage", "Chinese (Traditional)"),
-    QT_TRANSLATE_NOOP("WelcomePage", "German"),
-    QT_TRANSLATE_NOOP("WelcomePage", "French"),
-    QT_TRANSLATE_NOOP("WelcomePage", "Japanese"),
-    QT_TRANSLATE_NOOP("WelcomePage", "Italian"),
-    QT_TRANSLATE_NOOP("WelcomePage", "Korean"),
-    QT_TRANSLATE_NOOP("WelcomePage", "Russian"),
-};
 
 // Codes are compared without case: a command line may have spelled its own in any.
 int positionOf(const QComboBox &languages, const QString &code)
@@ -70,10 +55,8 @@ WelcomePage::WelcomePage(cfg_utilitys &engine, int followingPage, QWidget *paren
 
 void WelcomePage::offerLanguages()
 {
-    const QStringList codes = System::validLocales();
-    qsizetype place = 0;
-    for (const char *name : languageNames)
-        m_languages->addItem(tr(name), codes.value(place++));
+    for (const Nvx::Util::Language &language : Nvx::Util::languages)
+        m_languages->addItem(tr(language.name), QString(language.locale));
     m_languages->setCurrentIndex(positionOf(*m_languages, m_engine.state().currentLocale));
 }
 

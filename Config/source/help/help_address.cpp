@@ -1,12 +1,11 @@
 #include "help/help_address.h"
 
+#include "nvx_util/languages.h"
+
 QString helpLanguage(const QString &locale)
 {
-    if (locale == QLatin1String("de-DE"))
-        return QStringLiteral("DEU");
-    if (locale == QLatin1String("ja-JP"))
-        return QStringLiteral("JPN");
-    return QStringLiteral("ENU");
+    const Nvx::Util::Language *language = Nvx::Util::languageOf(locale);
+    return language ? language->helpCode : Nvx::Util::sourceLanguage.helpCode;
 }
 
 QString topicAddress(const HelpSettings &settings, const QString &contextId)

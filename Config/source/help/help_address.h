@@ -19,7 +19,8 @@ struct HelpSettings
     QString suffix; ///< stands behind the id of a topic
 };
 
-/// The help's language for an interface language: "DEU" for "de-DE", "JPN" for "ja-JP", else "ENU".
+/// The language of the help for an interface language: "DEU" for "de-DE", "JPN" for "ja-JP". "ENU" for a
+/// language without a help of its own.
 QString helpLanguage(const QString &locale);
 
 /// The address of a topic; with empty settings the bare id.
