@@ -1,7 +1,7 @@
-"""What flake8 checks in the project's scripts beyond its own rules; setup.cfg names this module.
+"""The project's own checks for flake8, registered in setup.cfg.
 
-NVX1    a literal is formatted by "%" or format(): f-strings are used. A template that is data has a name.
-NVX2    a public function or a constructor lacks type hints. Tests need none; what they share does.
+NVX1    a string literal is formatted with "%" or format() instead of an f-string; named templates are allowed
+NVX2    a public function or a constructor has no type hints; not checked in test_*.py
 """
 
 import ast
@@ -15,15 +15,13 @@ class Checks:
 
     def __init__(self, tree: ast.Module, filename: str) -> None:
         self._tree = tree
-        self._is_test = Path(filename).name.startswith(("test_", "tst_"))
+        self._is_test = Path(filename).name.startswith("test_")
 
     def run(self) -> Iterator[tuple[int, int, str, type]]:
-        """Each finding as flake8 expects it: line, column, text, and the type of the check."""
-        findings = [(node, "NVX1 an f-string is expected") for node in _formatted_literals(self._tree)]
+        """Yields each finding as flake8 expects it: line, column, text and type of the check."""
+        findings = [(node, "NVX1 use an f-string") for node in _formatted_literals(self._tree)]
         if not self._is_test:
-            findings += [
-                (node, f"NVX2 type hints are missing: {node.name}") for node in _without_hints(self._tree)
-            ]
+            findings += [(node, f"NVX2 no type hints: {node.name}") for node in _without_hints(self._tree)]
         for node, text in findings:
             yield node.lineno, node.col_offset, text, type(self)
 
@@ -42,7 +40,7 @@ def _is_text(node):
 
 
 def _without_hints(scope):
-    """Of a module and its classes; what a function defines within itself is its own."""
+    """Yields the public functions without hints of a module and its classes, not those inside functions."""
     for node in scope.body:
         if isinstance(node, ast.ClassDef):
             yield from _without_hints(node)

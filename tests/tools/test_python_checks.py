@@ -1,4 +1,4 @@
-"""Tests what flake8 checks in the project's scripts beyond its own rules."""
+"""The project's own checks for flake8 find each fault they look for, and only those."""
 
 import ast
 import unittest
@@ -7,7 +7,7 @@ from python_checks import Checks
 
 
 def findings(source, filename="tools/demo.py"):
-    """The lines and the codes of the findings in a source."""
+    """Returns (line, code) of each finding in a source."""
     return [(line, text.split()[0]) for line, _, text, _ in Checks(ast.parse(source), filename).run()]
 
 
@@ -65,7 +65,7 @@ class Hints(unittest.TestCase):
     def test_tests_need_no_hints_but_what_they_share_does(self):
         source = "def f(): pass"
         self.assertEqual(findings(source, "tests/machine/test_cycles.py"), [])
-        self.assertEqual(findings(source, "tests/tools/tst_mutants.py"), [])
+        self.assertEqual(findings(source, "tests/tools/test_mutants.py"), [])
         self.assertEqual(findings(source, "tests/machine/machine_case.py"), [(1, "NVX2")])
 
 

@@ -1,4 +1,4 @@
-"""Tests what tools/lint form finds: each kind of fault in a small checkout of its own."""
+"""tools/lint form reports each kind of fault, in a small checkout made for the test."""
 
 import shutil
 import subprocess
@@ -7,25 +7,27 @@ import unittest
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
-MISSPELLED = "rec" + "ieve"  # taken apart for the check of this file
-CHECKS = ("lint", "lib.sh", "sizes.py", "python_checks.py", "spelling.txt")
+MISSPELLED = "rec" + "ieve"  # split, or the spelling check would report this file
+CHECKS = ("lint", "lib.sh", "source_form.py", "python_checks.py", "spelling.txt")
 SETTINGS = (".clang-format", ".shellcheckrc", "pyproject.toml", "setup.cfg")
 GOOD = {
     "source/good.h": "#pragma once\n\nint good();\n",
     "tools/good.py": '"""A script."""\n\n\ndef good(number: int) -> str:\n    return f"{number}"\n',
     "tools/good": '#!/usr/bin/env bash\necho "$1"\n',
     "tests/machine/test_good.py": "def good():\n    pass\n",
-    # What belongs to the product, inputs of tests and translations may look as they like.
+    # The product's own files, test inputs and translations are not checked.
     "sample/archives/bad.py": "import  os\n",
     "tests/scanner/cases/bad/source.cpp": f"int  a; // {MISSPELLED}\n",
     "resource/languages/bad.ts": f"{MISSPELLED}\n",
 }
-# A file, its text and what is reported.
+# (file, its text, part of the report)
 FAULTS = (
     ("source/layout.h", "#pragma once\n\nint  a();\n", "source/layout.h:3:4: error"),
-    ("source/twice.h", "int b();\n", "source/twice.h: no '#pragma once'"),
-    ("source/system.cpp", "#ifdef _WIN32\n#endif\n", "source/system.cpp:1:#ifdef _WIN32"),
-    ("source/wide.cpp", "// " + "x" * 120 + "\n", "source/wide.cpp:1: 123 characters"),
+    ("source/twice.h", "int b();\n", "source/twice.h:1: #pragma once is missing"),
+    ("source/system.cpp", "#ifdef _WIN32\n#endif\n", "source/system.cpp:1: a branch on the operating"),
+    ("source/wide.cpp", "// " + "x" * 120 + "\n", "source/wide.cpp:1: the line has 123 characters"),
+    ("CMakeLists.txt", "\n" * 501, "CMakeLists.txt:501: the file has 501 lines"),
+    ("tools/long", "#!/bin/sh\n" + "\n" * 500, "tools/long:501: the file has 501 lines"),
     ("tools/layout.py", "a = {1:2}\n", "-a = {1:2}"),
     ("tools/unused.py", "import os\n", "tools/unused.py:1:1: F401"),
     ("tools/bare", "#!/usr/bin/env python3\nimport os\n", "tools/bare:2:1: F401"),
@@ -58,7 +60,7 @@ class Lint(unittest.TestCase):
         path.write_text(text, encoding="utf-8")
 
     def lint(self):
-        """The exit status, and what is written without the headings."""
+        """Returns the exit status and the output without its headings."""
         subprocess.run(["git", "add", "--all"], cwd=self.folder, check=True)
         done = subprocess.run(
             ["tools/lint", "form"],
