@@ -2,8 +2,8 @@
 
 // What the folders windows and unix each implement for the rest of this library.
 
-#include "nvx_util/cpu_info.h"
 #include "nvx_util/machine.h"
+#include "nvx_util/processor_counts.h"
 
 #include <QString>
 

@@ -1,24 +1,12 @@
 #pragma once
 
-#include <QString>
+#include "nvx_util/processor_counts.h"
 
-#include <optional>
+#include <QString>
 
 namespace Nvx::Util {
 
 class Log;
-
-/// What a probe of the machine counts.
-struct ProcessorCounts
-{
-    qint32 processors = 1;        ///< processor packages (sockets)
-    qint32 coresPerProcessor = 1; ///< physical cores of one package
-    bool hyperThreading = false;  ///< a core runs more than one thread
-};
-
-/// The counts of a machine with that many packages and physical cores in all. Never less than 1 each,
-/// whatever the probe counted; packages of unequal size count as equal, rounded down.
-ProcessorCounts countProcessors(qint32 packages, qint32 cores, bool hyperThreading);
 
 /// The machine's processors, as the operating system describes their topology.
 class CpuInfo

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "nvx_util/cpu_info.h"
+#include "nvx_util/processor_counts.h"
 
 #include <QString>
 
