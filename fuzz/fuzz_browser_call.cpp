@@ -1,9 +1,12 @@
-// Whatever a browser's command line and an address are made of: the address adds one argument or none, fills
-// every place that the command line has for it, and leaves everything else as it was.
+// With any command line and any address, the address replaces every placeholder or adds one argument, and
+// changes nothing else.
 
 #include "help/browser_call.h"
 
 #include <cstdlib>
+
+using namespace Nvx::Help;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -13,22 +16,22 @@ void demand(bool condition)
         std::abort();
 }
 
-// What the call would be for an address that is known to be harmless.
+// Compares a call with the call for a harmless address.
 void compareWithHarmless(const QString &commandLine, const QString &encoded, const BrowserCall &call)
 {
-    const std::optional<BrowserCall> harmless = browserCall(commandLine, QStringLiteral("x"));
+    const std::optional<BrowserCall> harmless = browserCall(commandLine, u"x"_s);
     demand(harmless && harmless->program == call.program);
     demand(harmless->arguments.size() == call.arguments.size());
-    const QString http = QStringLiteral("http://");
+    const QString http = u"http://"_s;
     const QString inPlace = encoded.startsWith(http) ? encoded.mid(http.size()) : encoded;
-    if (!commandLine.contains(QStringLiteral("%1"))) {
+    if (!commandLine.contains(u"%1"_s)) {
         demand(call.arguments.last() == encoded);
         demand(harmless->arguments.mid(0, harmless->arguments.size() - 1) ==
                call.arguments.mid(0, call.arguments.size() - 1));
         return;
     }
-    QStringList filled = browserCall(commandLine, QStringLiteral("%1"))->arguments;
-    demand(filled.replaceInStrings(QStringLiteral("%1"), inPlace) == call.arguments);
+    QStringList filled = browserCall(commandLine, u"%1"_s)->arguments;
+    demand(filled.replaceInStrings(u"%1"_s, inPlace) == call.arguments);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// A marker file counts as unchanged exactly when trimming leaves nothing of it, however it is read.
+// A marker file counts as unchanged if and only if it is empty after trimming, wherever the blocks end.
 
 #include "cfg_utilities/flag_file.h"
 
@@ -6,12 +6,14 @@
 
 #include <cstdlib>
 
+using namespace Nvx::Engine;
+
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *bytes, std::size_t size)
 {
     QByteArray contents(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
-    // Blanks in front bring the interesting bytes to the border between two reads.
+    // Leading blanks move the interesting bytes to the border between two blocks.
     if (size > 0)
-        contents.prepend(QByteArray(4096 - (bytes[0] % 8), ' '));
+        contents.prepend(QByteArray(flagFileBlockBytes - (bytes[0] % 8), ' '));
     QBuffer buffer(&contents);
     buffer.open(QIODevice::ReadOnly);
     if (holdsOnlyWhiteSpace(buffer) != contents.trimmed().isEmpty())

@@ -1,4 +1,4 @@
-// Any file of settings is either taken, the same way each time and for both places, or not.
+// Any settings file is valid for both places or for neither.
 
 #include "help/help_settings.h"
 
@@ -6,20 +6,23 @@
 
 #include <cstdlib>
 
+using namespace Nvx::Help;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-std::optional<HelpSettings> settingsIn(QByteArray document, HelpPlace place)
+Nvx::Util::Result<HelpSettings> settingsIn(QByteArray document, HelpPlace place)
 {
     QBuffer buffer(&document);
     buffer.open(QIODevice::ReadOnly);
-    return readHelpSettings(buffer, place, {QStringLiteral("C:\\Shared"), QStringLiteral("ENU")});
+    return readHelpSettings(buffer, place, {u"C:\\Shared"_s, u"ENU"_s});
 }
 
 void check(const QByteArray &document)
 {
-    const std::optional<HelpSettings> online = settingsIn(document, HelpPlace::Online);
-    const std::optional<HelpSettings> installed = settingsIn(document, HelpPlace::Installed);
-    if (online.has_value() != installed.has_value())
+    const Nvx::Util::Result<HelpSettings> online = settingsIn(document, HelpPlace::Online);
+    const Nvx::Util::Result<HelpSettings> installed = settingsIn(document, HelpPlace::Installed);
+    if (bool(online) != bool(installed))
         std::abort();
     if (online && (!online->suffix.isEmpty() || !online->url.endsWith(u'/')))
         std::abort();
@@ -31,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *bytes, std::size_t si
 {
     const QByteArray input(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
     check(input);
-    // Where a document is read on and taken.
+    // Documents that are valid apart from the input.
     check("<help_ids><help_url " + input + "/></help_ids>");
     check("<help_ids><help_url online_prefix='" + input + "'/></help_ids>");
     check("<help_ids>" + input + "<help_url/></help_ids>");

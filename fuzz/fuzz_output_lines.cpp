@@ -1,9 +1,11 @@
-// Any output of a program gives at most 21 lines, none of them empty or with blanks around it, and what comes
-// behind the bytes that 21 pieces can hold changes nothing.
+// Any output of a program gives at most 21 trimmed lines, none of them empty. Bytes after the maximum size of
+// 21 pieces change nothing.
 
 #include "run/output_lines.h"
 
 #include <cstdlib>
+
+using namespace Nvx::Run;
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *bytes, std::size_t size)
 {

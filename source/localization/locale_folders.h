@@ -1,9 +1,9 @@
 #pragma once
 
+#include "run/reporter.h"
+
 #include <QString>
 #include <QStringList>
-
-class Reporter;
 
 namespace util {
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "localization/locale_folders.h"
+#include "run/reporter.h"
 
 #include <QObject>
 #include <QString>
@@ -8,8 +9,6 @@
 
 #include <chrono>
 #include <functional>
-
-class Reporter;
 
 namespace util {
 

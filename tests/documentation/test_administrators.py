@@ -14,7 +14,7 @@ _LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 def options_of_reader():
     """The beginnings of options that the command line's reader tells apart."""
     reader = text_of("Config/source/cfg_utilities/command_line.cpp")
-    return {text for text in re.findall(r'QLatin1String\("(-\w+)"\)', reader)}
+    return {text for text in re.findall(r'"(-\w+)"_L1', reader)}
 
 
 def texts_of_sources():

@@ -6,28 +6,29 @@
 
 #include <memory>
 
-/// An engine on a recording machine whose folders lie in a fresh test folder.
+/// An engine on a recording machine whose folders are in a new test folder.
 class EngineFixture
 {
 public:
     EngineFixture() { machine.ownFolder = test.installDir(); }
 
-    /// Starts the engine with these options behind the program's name.
+    /// Starts the engine with these options after the program's name.
     cfg_utilitys &start(const QString &options = QString())
     {
+        using namespace Qt::Literals::StringLiterals;
         engine.reset();
-        machine.ownCommandLine = QStringLiteral("NVXConfig.exe ") + options;
+        machine.ownCommandLine = u"NVXConfig.exe "_s + options;
         engine = std::make_unique<cfg_utilitys>(machine);
         return *engine;
     }
 
     /// The lines of the log so far.
-    QStringList lines() const { return logLines(test.path(QStringLiteral("NVX/NVXConfig.log"))); }
+    QStringList lines() const { return logLines(installed("NVXConfig.log")); }
 
-    /// A path below the install dir, named with "/".
+    /// A path below the install dir, written with "/".
     QString installed(const char *name) const
     {
-        return test.path(QStringLiteral("NVX/") + QString::fromUtf8(name));
+        return test.path(QString::fromLatin1("NVX/") + QString::fromUtf8(name));
     }
 
     TestMachine test;

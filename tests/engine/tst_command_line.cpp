@@ -5,9 +5,13 @@
 
 #include <QTest>
 
+using namespace Nvx::Engine;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString systemLocale = QStringLiteral("fr-FR");
+const QString systemLocale = u"fr-FR"_s;
 
 } // namespace
 
@@ -16,7 +20,7 @@ class tst_command_line : public QObject
     Q_OBJECT
 
 private slots:
-    void optionsAreToldByHowTheyBegin_data()
+    void optionsAreRecognisedByTheirFirstLetters_data()
     {
         QTest::addColumn<QString>("commandLine");
         QTest::addColumn<int>("mode");
@@ -35,7 +39,7 @@ private slots:
             QTest::newRow(name) << text(commandLine) << mode << silent << text(locale) << questions;
         };
         row("no options", "NVXConfig.exe", none, false);
-        row("nothing at all", "", none, false);
+        row("an empty command line", "", none, false);
         row("install", "NVXConfig.exe -I", install, false);
         row("uninstall", "NVXConfig.exe -U", uninstall, false);
         row("stop services", "NVXConfig.exe -ST", stop, false);
@@ -50,8 +54,8 @@ private slots:
         row("many blanks", "   NVXConfig.exe    -I   -S  ", install, true);
         row("quotes have no meaning", "\"C:\\Program Files\\-I x\\NVXConfig.exe\" -S", none, true);
         row("a blank in the path can make an option", "C:\\Program -U\\NVXConfig.exe", uninstall, false);
-        row("small letters are no options", "NVXConfig.exe -i -s", none, false, "fr-FR", 2);
-        row("a small l is no option", "NVXConfig.exe -lde-DE", none, false, "fr-FR", 1);
+        row("lower-case letters are unknown options", "NVXConfig.exe -i -s", none, false, "fr-FR", 2);
+        row("a lower-case l is an unknown option", "NVXConfig.exe -lde-DE", none, false, "fr-FR", 1);
         row("the first token can be an option", "-I", install, false);
         row("a tab does not split", "NVXConfig.exe -I\t-U", install, false);
         row("words without a dash are ignored", "NVXConfig.exe I /S /U", none, false);
@@ -60,7 +64,7 @@ private slots:
         row("-LIT-IT keeps its spelling", "NVXConfig.exe -LIT-IT", none, false, "IT-IT");
         row("-Lde-de keeps its spelling", "NVXConfig.exe -Lde-de", none, false, "de-de");
         row("-Lja-jp keeps its spelling", "NVXConfig.exe -Lja-jp", none, false, "ja-jp");
-        row("-Lde is taken as it stands", "NVXConfig.exe -Lde", none, false, "de");
+        row("-Lde is a locale", "NVXConfig.exe -Lde", none, false, "de");
         row("-L alone is an empty locale", "NVXConfig.exe -L", none, false, "");
         for (const Nvx::Util::Language &language : Nvx::Util::targetLanguages) {
             const char *locale = language.locale.data();
@@ -78,51 +82,50 @@ private slots:
         row("each unknown option asks", "NVXConfig.exe -X -I -Y", install, false, "fr-FR", 2);
     }
 
-    void optionsAreToldByHowTheyBegin()
+    void optionsAreRecognisedByTheirFirstLetters()
     {
         QFETCH(QString, commandLine);
         int questions = 0;
-        const auto goOn = [&questions] {
+        const auto answerYes = [&questions] {
             ++questions;
             return true;
         };
-        const CommandLineReading reading = readCommandLine(commandLine, systemLocale, goOn);
-        QTEST(static_cast<int>(reading.runMode), "mode");
-        QTEST(reading.silent, "silent");
-        QTEST(reading.locale, "locale");
+        const RunOptions options = readRunOptions(commandLine, systemLocale, answerYes);
+        QTEST(static_cast<int>(options.runMode), "mode");
+        QTEST(options.silent, "silent");
+        QTEST(options.locale, "locale");
         QTEST(questions, "questions");
-        QVERIFY(!reading.abandoned);
+        QVERIFY(!options.abandoned);
     }
 
-    void noAbandonsWhatIsLeftAndKeepsWhatWasRead()
+    void afterNoTheRestIsNotRead()
     {
-        const auto stop = [] { return false; };
-        const CommandLineReading reading =
-            readCommandLine(text("NVXConfig.exe -U -Lde-DE -X -S -I -Lja-JP"), systemLocale, stop);
-        QVERIFY(reading.abandoned);
-        QVERIFY(reading.runMode == RunMode::Uninstall);
-        QVERIFY(!reading.silent);
-        QCOMPARE(reading.locale, text("de-DE"));
+        const auto answerNo = [] { return false; };
+        const RunOptions options =
+            readRunOptions(u"NVXConfig.exe -U -Lde-DE -X -S -I -Lja-JP"_s, systemLocale, answerNo);
+        QVERIFY(options.abandoned);
+        QVERIFY(options.runMode == RunMode::Uninstall);
+        QVERIFY(!options.silent);
+        QCOMPARE(options.locale, u"de-DE"_s);
     }
 
-    void afterNoARunIsNotSilent()
+    void afterNoTheRunIsNotSilent()
     {
-        const auto stop = [] { return false; };
-        const CommandLineReading reading =
-            readCommandLine(text("NVXConfig.exe -U -S -X"), systemLocale, stop);
-        QVERIFY(reading.abandoned);
-        QVERIFY(reading.runMode == RunMode::Uninstall);
-        QVERIFY(!reading.silent);
+        const auto answerNo = [] { return false; };
+        const RunOptions options = readRunOptions(u"NVXConfig.exe -U -S -X"_s, systemLocale, answerNo);
+        QVERIFY(options.abandoned);
+        QVERIFY(options.runMode == RunMode::Uninstall);
+        QVERIFY(!options.silent);
     }
 
-    void theUsageTextIsShownLineByLineWithItsOldSpelling()
+    void theUsageTextHasItsDeliberateSpelling()
     {
-        QCOMPARE(usageText().split(QLatin1Char('\n')),
-                 QStringList({text("Valid NVX command line arguments are:"), text("-I Install mode(default)"),
-                              text("-U UnInstall mode"), text("-STop Stop Services"), text("-S Slient mode"),
-                              text("-L Install USA language"), text("-Lxxx Install language xxx"),
-                              text("-E look in %temp%NVXENv.txt for install language"), QString(),
-                              text(" Do you want to continue?"), QString()}));
+        QCOMPARE(runOptionsUsage().split(u'\n'),
+                 QStringList({u"Valid NVX command line arguments are:"_s, u"-I Install mode(default)"_s,
+                              u"-U UnInstall mode"_s, u"-STop Stop Services"_s, u"-S Slient mode"_s,
+                              u"-L Install USA language"_s, u"-Lxxx Install language xxx"_s,
+                              u"-E look in %temp%NVXENv.txt for install language"_s, QString(),
+                              u" Do you want to continue?"_s, QString()}));
     }
 };
 

@@ -5,24 +5,27 @@
 
 #include <QTest>
 
+using namespace Nvx::Engine;
+using namespace Qt::Literals::StringLiterals;
+
 class tst_engine_full_disk : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void aMarkerFileThatIsNotWholeIsTold_data()
+    void anIncompleteMarkerFileReturnsFalse_data()
     {
         QTest::addColumn<qint64>("freeBytes");
-        QTest::newRow("nothing is free") << qint64(0);
-        QTest::newRow("room for half a line end") << qint64(1);
+        QTest::newRow("no space") << qint64(0);
+        QTest::newRow("space for half a line end") << qint64(1);
     }
 
-    void aMarkerFileThatIsNotWholeIsTold()
+    void anIncompleteMarkerFileReturnsFalse()
     {
         QFETCH(const qint64, freeBytes);
         const TestFolder folder;
         const FullDisk disk(freeBytes);
-        QVERIFY(!createFlagFile(folder.path(QStringLiteral("NVX_flags.txt"))));
+        QVERIFY(!createFlagFile(folder.path(u"NVX_flags.txt"_s)));
     }
 };
 

@@ -5,6 +5,9 @@
 #include <QBuffer>
 #include <QTest>
 
+using namespace Nvx::Engine;
+using namespace Qt::Literals::StringLiterals;
+
 class tst_flag_file : public QObject
 {
     Q_OBJECT
@@ -18,7 +21,7 @@ private slots:
         QTest::newRow("an empty line") << QByteArray("\r\n") << true;
         QTest::newRow("blanks and tabs") << QByteArray("  \t \n \r\n") << true;
         QTest::newRow("text") << QByteArray("on") << false;
-        QTest::newRow("text behind much white space") << QByteArray(100000, ' ') + "x" << false;
+        QTest::newRow("text after much white space") << QByteArray(100000, ' ') + "x" << false;
         QTest::newRow("much white space") << QByteArray(100000, '\n') << true;
         QTest::newRow("a zero byte") << QByteArray(1, '\0') << false;
         QTest::newRow("a byte order mark") << QByteArray("\xEF\xBB\xBF") << false;
@@ -31,7 +34,7 @@ private slots:
         QVERIFY(buffer.open(QIODevice::ReadOnly));
         QTEST(holdsOnlyWhiteSpace(buffer), "unchanged");
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("NVX_flags.txt"));
+        const QString path = folder.path(u"NVX_flags.txt"_s);
         writeFile(path, contents);
         QTEST(isUnchangedFlagFile(path), "unchanged");
     }
@@ -46,33 +49,33 @@ private slots:
     void aFileThatCannotBeOpenedCountsAsChanged()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("NVX_flags.txt"));
-        QVERIFY(QDir().mkdir(path)); // it exists, yet nobody can read it as a file
+        const QString path = folder.path(u"NVX_flags.txt"_s);
+        QVERIFY(QDir().mkdir(path)); // it exists but cannot be read as a file
         QVERIFY(!isUnchangedFlagFile(path));
     }
 
-    void aNewFileHoldsAnEmptyLine()
+    void aNewFileContainsAnEmptyLine()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("NVX_flags.txt"));
+        const QString path = folder.path(u"NVX_flags.txt"_s);
         QVERIFY(createFlagFile(path));
         QCOMPARE(readFile(path), QByteArray("\r\n"));
         QVERIFY(isUnchangedFlagFile(path));
     }
 
-    void aFileThatIsThereIsNotMadeAnew()
+    void anExistingFileIsNotReplaced()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("NVX_flags.txt"));
+        const QString path = folder.path(u"NVX_flags.txt"_s);
         writeFile(path, "on");
         QVERIFY(!createFlagFile(path));
         QCOMPARE(readFile(path), QByteArray("on"));
     }
 
-    void noFileCountsAsUnchanged()
+    void aMissingFileCountsAsUnchanged()
     {
         const TestFolder folder;
-        QVERIFY(isUnchangedFlagFile(folder.path(QStringLiteral("NVX_flags.txt"))));
+        QVERIFY(isUnchangedFlagFile(folder.path(u"NVX_flags.txt"_s)));
     }
 };
 

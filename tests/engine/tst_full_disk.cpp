@@ -1,5 +1,5 @@
-// Whole runs on a disk that fills up: they come to their end, leave nothing of others half written, and a run
-// with room again ends as if nothing had been.
+// Whole runs on a full disk: they reach their end and leave no file of another program incomplete, and a
+// later run with enough space has the usual result.
 
 #include "cad/creo/creo_names.h"
 #include "engine/engine_fixture.h"
@@ -18,13 +18,15 @@ using Nvx::Util::joinPath;
 using Nvx::Util::ProgramCall;
 using Nvx::Util::ProgramResult;
 using Nvx::Util::RegistryKey;
+using namespace Nvx::Engine;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int notRun = 77; // what ctest is told to take for a test that could not run
+constexpr int notRun = 77; // the exit code that ctest reports as a skipped test
 constexpr qint64 diskPages = 256;
-// More than a run needs.
-constexpr qint64 mostPages = 40;
+constexpr qint64 maxFreePages = 40; // more than a run needs
 
 QString text(const char *utf8)
 {
@@ -41,32 +43,32 @@ const QByteArray shippedDatabase(3 * SmallDisk::page, 'm');
 
 using Files = QMap<QString, QByteArray>;
 
-/// What is full.
+/// The disk that is full.
 enum class Full
 {
     DataDisk,
     WholeDisk
 };
 
-/// A machine whose disk is small. Its programs do what the real ones do to the disk.
+/// A machine with a small disk. Its programs change the disk as the real ones do.
 class SmallMachine
 {
 public:
     explicit SmallMachine(Full full)
-        : m_folder(fixture.test.path(text("disk")))
+        : m_folder(fixture.test.path(u"disk"_s))
     {
         QDir().mkpath(m_folder);
         disk = std::make_unique<SmallDisk>(m_folder, diskPages);
         fixture.test.setVariable("NVX_MACHINE", m_folder);
         fixture.test.unsetVariable("OSTRADE2016DIR");
-        fixture.machine.desktop = joinPath(m_folder, text("Desktop"));
-        installDir = full == Full::WholeDisk ? joinPath(m_folder, text("NVX")) : fixture.test.installDir();
+        fixture.machine.desktop = joinPath(m_folder, u"Desktop"_s);
+        installDir = full == Full::WholeDisk ? joinPath(m_folder, u"NVX"_s) : fixture.test.installDir();
         fixture.machine.ownFolder = installDir;
         fixture.machine.whileRunning = [this](const ProgramCall &call) { act(call); };
         for (const char *name : {"NVXSolver.exe", "NVXServer.exe"})
             writeFile(joinPath(installDir, text(name)));
-        writeFile(joinPath(installDir, text("matprop.mdb")), shippedDatabase);
-        writeFile(joinPath(installDir, text("en-US/matprop.mdb")), shippedDatabase);
+        writeFile(joinPath(installDir, u"matprop.mdb"_s), shippedDatabase);
+        writeFile(joinPath(installDir, u"en-US/matprop.mdb"_s), shippedDatabase);
         putCadSystems();
     }
 
@@ -74,7 +76,7 @@ public:
     {
         badPrograms.clear();
         const RecordedDiagnostics recorded;
-        cfg_utilitys &engine = fixture.start(text(mode) + text(" -S -Len-US"));
+        cfg_utilitys &engine = fixture.start(text(mode) + u" -S -Len-US"_s);
         engine.searchCADPackages();
         engine.ProcessInstallation();
         if (engine.state().runMode == RunMode::Uninstall)
@@ -84,10 +86,10 @@ public:
         diagnostics = recorded.list();
     }
 
-    /// The log as it is, of all runs.
-    QStringList lines() const { return logLines(joinPath(installDir, text("NVXConfig.log"))); }
+    /// The log of all runs.
+    QStringList lines() const { return logLines(joinPath(installDir, u"NVXConfig.log"_s)); }
 
-    /// All files but the log and what fills the disk, by their path in the test's folder.
+    /// All files except the log and the one that fills the disk, by their path in the test's folder.
     Files files() const
     {
         Files found;
@@ -96,7 +98,7 @@ public:
                                  QDirIterator::Subdirectories);
             while (entries.hasNext()) {
                 const QString path = entries.next();
-                if (!path.endsWith(text("/filler")) && !path.endsWith(text("/NVXConfig.log")))
+                if (!path.endsWith(u"/filler"_s) && !path.endsWith(u"/NVXConfig.log"_s))
                     found.insert(path.mid(fixture.test.path({}).size()), shownAs(readFile(path)));
             }
         }
@@ -109,9 +111,9 @@ public:
     QString protk;
     QString menu;
     bool isComplete = false;
-    /// Somebody makes room when the server registers itself.
-    bool makesRoomUnderWay = false;
-    /// What was run though it was not whole.
+    /// Free the disk while the server registers itself.
+    bool freesDiskDuringRun = false;
+    /// Incomplete files that were executed.
     QStringList badPrograms;
     /// The diagnostic warnings of the last run.
     QStringList diagnostics;
@@ -119,18 +121,18 @@ public:
 private:
     void putCadSystems()
     {
-        const QString creo = joinPath(m_folder, text("PTC/Creo 3.0/Parametric"));
+        const QString creo = joinPath(m_folder, u"PTC/Creo 3.0/Parametric"_s);
         protk = protkPath(creo, QString(), 3);
         writeFile(protk, foreignEntries);
-        const QString software = text("HKEY_LOCAL_MACHINE\\Software\\");
-        RegistryKey(software + text("PTC\\Creo Parametric\\3.0\\F000")).setText(text("InstallDir"), creo);
-        const QString nx = joinPath(m_folder, text("NX 11.0"));
-        menu = joinPath(nx, text("UGII/MENUS/custom_dirs.dat"));
+        const QString software = u"HKEY_LOCAL_MACHINE\\Software\\"_s;
+        RegistryKey(software + u"PTC\\Creo Parametric\\3.0\\F000"_s).setText(u"InstallDir"_s, creo);
+        const QString nx = joinPath(m_folder, u"NX 11.0"_s);
+        menu = joinPath(nx, u"UGII/MENUS/custom_dirs.dat"_s);
         writeFile(menu, foreignDirs);
-        RegistryKey(software + text("Unigraphics Solutions\\NX\\11.0")).setText(text("UGII_BASE_DIR"), nx);
+        RegistryKey(software + u"Unigraphics Solutions\\NX\\11.0"_s).setText(u"UGII_BASE_DIR"_s, nx);
     }
 
-    // The test's folder has another name each time.
+    // Replaces the name of the test's folder, which differs in each test.
     QByteArray shownAs(QByteArray contents) const
     {
         return contents.replace(fixture.test.path({}).toUtf8(), "TEST/");
@@ -139,13 +141,13 @@ private:
     void act(const ProgramCall &call)
     {
         bool isDone = true;
-        if (call.program.endsWith(text("7z.exe")))
+        if (call.program.endsWith(u"7z.exe"_s))
             isDone = unpack(call.arguments.last().mid(2));
-        else if (call.program == text("cmd.exe"))
+        else if (call.program == u"cmd.exe"_s)
             isDone = removeFolder(call.arguments.last());
-        else if (call.program == text("regedit"))
+        else if (call.program == u"regedit"_s)
             isDone = import(call.arguments.last());
-        else if (call.program.endsWith(text("NVXServer.exe")))
+        else if (call.program.endsWith(u"NVXServer.exe"_s))
             registerServer();
         fixture.machine.programResult = {ProgramResult::Outcome::Exited, isDone ? 0 : 8, {}};
     }
@@ -153,11 +155,11 @@ private:
     void registerServer()
     {
         fixture.machine.service.current = Nvx::Util::ServiceState::Stopped;
-        if (makesRoomUnderWay)
+        if (freesDiskDuringRun)
             disk->makeRoom();
     }
 
-    // As the unpacker does, it goes on with the next file when one does not fit.
+    // Like the unpacker, it continues with the next file if one does not fit.
     static bool unpack(const QString &folder)
     {
         bool isDone = true;
@@ -174,11 +176,11 @@ private:
 
     bool removeFolder(const QString &batchFile)
     {
-        static const QRegularExpression command(text("^rmdir /s /q \"([^\"]+)\"$"));
+        static const QRegularExpression command(u"^rmdir /s /q \"([^\"]+)\"$"_s);
         const QString batch = QString::fromUtf8(readFile(batchFile));
         const QRegularExpressionMatch match = command.match(batch);
         if (!match.hasMatch()) {
-            badPrograms << text("batch file: ") + batch;
+            badPrograms << u"batch file: "_s + batch;
             return false;
         }
         return QDir(match.captured(1)).removeRecursively();
@@ -190,25 +192,25 @@ private:
         const bool isWhole = bytes.startsWith("Windows Registry Editor") &&
                              (bytes.endsWith("nvxpkg.ico\\\"\"\n") || bytes.endsWith("NVX2017.tpl]\n"));
         if (!isWhole)
-            badPrograms << text("script: ") + QString::fromUtf8(bytes);
+            badPrograms << u"script: "_s + QString::fromUtf8(bytes);
         return isWhole;
     }
 
     QString m_folder;
 };
 
-/// Every number of free pages from none to more than enough.
+/// Every number of free pages from zero to maxFreePages.
 void addRows()
 {
     QTest::addColumn<Full>("full");
     QTest::addColumn<qint64>("pages");
-    for (qint64 pages = 0; pages <= mostPages; ++pages) {
+    for (qint64 pages = 0; pages <= maxFreePages; ++pages) {
         QTest::addRow("the disk of the data, %lld pages", pages) << Full::DataDisk << pages;
         QTest::addRow("the whole disk, %lld pages", pages) << Full::WholeDisk << pages;
     }
 }
 
-/// The paths of what is in one only or not the same in both.
+/// The paths of the files that are in one set only or differ.
 QStringList differences(const Files &left, const Files &right)
 {
     QSet<QString> paths;
@@ -224,7 +226,7 @@ QStringList differences(const Files &left, const Files &right)
 
 QStringList unfinished(const Files &files)
 {
-    return files.keys().filter(QRegularExpression(text("part$|\\.reg$|work\\.bat$|qt_temp")));
+    return files.keys().filter(QRegularExpression(u"part$|\\.reg$|work\\.bat$|qt_temp"_s));
 }
 
 } // namespace
@@ -246,9 +248,9 @@ private slots:
         }
     }
 
-    void installGoesToItsEnd_data() { addRows(); }
+    void installReachesItsEnd_data() { addRows(); }
 
-    void installGoesToItsEnd()
+    void installReachesItsEnd()
     {
         QFETCH(Full, full);
         QFETCH(qint64, pages);
@@ -258,16 +260,16 @@ private slots:
         machine.run("-I");
         checkWhole(machine, before, m_installed.value(full));
         if (full == Full::DataDisk)
-            checkTold(machine, m_installed.value(full));
+            checkReported(machine, m_installed.value(full));
 
         machine.disk->makeRoom();
         machine.run("-I");
         QCOMPARE(differences(machine.files(), m_installed.value(full)), QStringList());
     }
 
-    void removalGoesToItsEnd_data() { addRows(); }
+    void removalReachesItsEnd_data() { addRows(); }
 
-    void removalGoesToItsEnd()
+    void removalReachesItsEnd()
     {
         QFETCH(Full, full);
         QFETCH(qint64, pages);
@@ -277,30 +279,29 @@ private slots:
         machine.run("-U");
         checkWhole(machine, m_installed.value(full), m_removed.value(full));
         if (full == Full::DataDisk)
-            checkTold(machine, m_removed.value(full));
+            checkReported(machine, m_removed.value(full));
 
         machine.disk->makeRoom();
         machine.run("-U");
         QCOMPARE(differences(machine.files(), m_removed.value(full)), QStringList());
     }
 
-    void logThatGetsRoomUnderWayHoldsTheWholeRun()
+    void logOnADiskFreedDuringTheRunIsComplete()
     {
         SmallMachine machine(Full::WholeDisk);
         QVERIFY(machine.disk->leave(0));
-        machine.makesRoomUnderWay = true;
+        machine.freesDiskDuringRun = true;
         machine.run("-I");
         const QStringList lines = machine.lines();
-        QCOMPARE(lines.filter(QRegularExpression(text("^! (?!Processors: )"))), QStringList());
-        QCOMPARE(lines.first(), text("   0 "));
+        QCOMPARE(lines.filter(QRegularExpression(u"^! (?!Processors: )"_s)), QStringList());
+        QCOMPARE(lines.first(), u"   0 "_s);
         const QString tutorials = Nvx::Util::System::getTutorialsDirPath();
-        QVERIFY(lines.contains(text("   1 Unable to create %1work.bat, this folder is not removed: %2")
-                                   .arg(machine.installDir, tutorials)));
-        QCOMPARE(lines.last(),
-                 text("   0 The installation or update is complete. Click finish to continue."));
+        QVERIFY(lines.contains(u"   1 Unable to create %1work.bat, this folder is not removed: %2"_s.arg(
+            machine.installDir, tutorials)));
+        QCOMPARE(lines.last(), u"   0 The installation or update is complete. Click finish to continue."_s);
     }
 
-    // Some rows must have been too small and others large enough, or the others would show nothing.
+    // The tests are meaningful only if the space was too small in some rows and sufficient in others.
     void cleanupTestCase()
     {
         QVERIFY(m_disturbed > 0);
@@ -308,8 +309,8 @@ private slots:
     }
 
 private:
-    // The run is at its end, and each file that is shared with others is as before or as after a run with
-    // room.
+    // The run has ended, and each file shared with other programs is as before or as after a run with enough
+    // space.
     void checkWhole(const SmallMachine &machine, const Files &before, const Files &after)
     {
         QVERIFY(machine.isComplete);
@@ -330,16 +331,16 @@ private:
         ++(files == after ? m_undisturbed : m_disturbed);
     }
 
-    // The log is on a disk with free space and complete; the diagnostic output names every file of a CAD
-    // system that could not be written.
-    static void checkTold(const SmallMachine &machine, const Files &after)
+    // The log, on a disk with free space, is complete; the diagnostic output names every file of a CAD system
+    // that could not be written.
+    static void checkReported(const SmallMachine &machine, const Files &after)
     {
         const QStringList lines = machine.lines();
-        QCOMPARE(lines.filter(text("The installation or update is complete.")).isEmpty(), false);
+        QCOMPARE(lines.filter(u"The installation or update is complete."_s).isEmpty(), false);
         const Files files = machine.files();
         for (const QString &path : {machine.protk, machine.menu}) {
             const QString key = path.mid(machine.fixture.test.path({}).size());
-            QCOMPARE(machine.diagnostics.contains(text("Unable to write ") + path),
+            QCOMPARE(machine.diagnostics.contains(u"Unable to write "_s + path),
                      files.value(key) != after.value(key));
         }
     }

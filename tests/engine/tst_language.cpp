@@ -7,12 +7,14 @@
 
 using Nvx::Util::joinPath;
 using Nvx::Util::System;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 QString flagsFile()
 {
-    return joinPath(System::getFlagsDirPath(), text("NVX_flags.txt"));
+    return joinPath(System::getFlagsDirPath(), u"NVX_flags.txt"_s);
 }
 
 } // namespace
@@ -27,7 +29,7 @@ private slots:
         m_fixture = std::make_unique<EngineFixture>();
         for (const char *locale : {"en-US", "de-DE", "ja-JP"}) {
             for (const char *name : {"matprop.mdb", "VistrelResources.dll", "VelmoraApplicationFrameRes.dll"})
-                writeFile(m_fixture->test.path(text("NVX/%1/%2").arg(text(locale), text(name))), locale);
+                writeFile(m_fixture->test.path(u"NVX/%1/%2"_s.arg(text(locale), text(name))), locale);
         }
         writeFile(m_fixture->installed("ja-JP/ZorvRes.dll"), "Japanese solver");
     }
@@ -35,16 +37,15 @@ private slots:
 
     void anInstallInGermanIsLoggedLineByLine()
     {
-        m_fixture->start(text("-I -Lde-DE"));
-        const QString dictionary = joinPath(System::getUserDataPath(), text("NVX_db_dictionary.nvxcfg"));
-        QCOMPARE(
-            languageLines(),
-            QStringList({text("   2 Install Language de-DE"), text("   0 Language de-DE"),
-                         text("   0 Install Language: de-DE"), text("   0 ChangeLanguage = en-US"),
-                         removeSorvane(), text("   0 Install Sorvane"), text("   0 Remove:") + dictionary,
-                         text("   0 ChangeLanguage = de-DE"), removeSorvane(), text("   0 Install Sorvane"),
-                         text("   0 Remove:") + dictionary}));
-        QCOMPARE(System::getLocale(), text("de-DE"));
+        m_fixture->start(u"-I -Lde-DE"_s);
+        const QString dictionary = joinPath(System::getUserDataPath(), u"NVX_db_dictionary.nvxcfg"_s);
+        QCOMPARE(languageLines(),
+                 QStringList({u"   2 Install Language de-DE"_s, u"   0 Language de-DE"_s,
+                              u"   0 Install Language: de-DE"_s, u"   0 ChangeLanguage = en-US"_s,
+                              removeSorvane(), u"   0 Install Sorvane"_s, u"   0 Remove:"_s + dictionary,
+                              u"   0 ChangeLanguage = de-DE"_s, removeSorvane(), u"   0 Install Sorvane"_s,
+                              u"   0 Remove:"_s + dictionary}));
+        QCOMPARE(System::getLocale(), u"de-DE"_s);
     }
 
     void theResourcesComeFromTheRunsLanguage_data()
@@ -53,14 +54,13 @@ private slots:
         QTest::addColumn<QByteArray>("resources");
         QTest::addColumn<QByteArray>("materials");
         QTest::addColumn<QByteArray>("solver");
-        QTest::newRow("German") << text("-Lde-DE") << QByteArray("de-DE") << QByteArray("old")
-                                << QByteArray();
-        QTest::newRow("English") << text("-Len-US") << QByteArray("en-US") << QByteArray("en-US")
+        QTest::newRow("German") << u"-Lde-DE"_s << QByteArray("de-DE") << QByteArray("old") << QByteArray();
+        QTest::newRow("English") << u"-Len-US"_s << QByteArray("en-US") << QByteArray("en-US")
                                  << QByteArray();
-        QTest::newRow("Japanese") << text("-Lja-JP") << QByteArray("ja-JP") << QByteArray("old")
+        QTest::newRow("Japanese") << u"-Lja-JP"_s << QByteArray("ja-JP") << QByteArray("old")
                                   << QByteArray("Japanese solver");
         QTest::newRow("a language without a folder")
-            << text("-Lko-KR") << QByteArray() << QByteArray("old") << QByteArray();
+            << u"-Lko-KR"_s << QByteArray() << QByteArray("old") << QByteArray();
     }
 
     void theResourcesComeFromTheRunsLanguage()
@@ -70,7 +70,7 @@ private slots:
         writeFile(m_fixture->installed("matprop.new"), "old");
         writeFile(m_fixture->installed("VistrelResources.dll"), "old");
         writeFile(m_fixture->installed("VelmoraApplicationFrameRes.dll"), "old");
-        m_fixture->start(text("-I ") + option);
+        m_fixture->start(u"-I "_s + option);
         QCOMPARE(readFile(m_fixture->installed("VistrelResources.dll")), resources);
         QCOMPARE(readFile(m_fixture->installed("VelmoraApplicationFrameRes.dll")), resources);
         QTEST(readFile(m_fixture->installed("matprop.new")), "materials");
@@ -79,16 +79,15 @@ private slots:
 
     void theCopyOfTheMaterialsIsLogged()
     {
-        m_fixture->start(text("-I -Len-US"));
-        QVERIFY(m_fixture->lines().contains(
-            text("   0 COPY:%1 to %2")
-                .arg(m_fixture->installed("en-US/matprop.mdb"), m_fixture->installed("matprop.new"))));
+        m_fixture->start(u"-I -Len-US"_s);
+        QVERIFY(m_fixture->lines().contains(u"   0 COPY:%1 to %2"_s.arg(
+            m_fixture->installed("en-US/matprop.mdb"), m_fixture->installed("matprop.new"))));
     }
 
-    void japaneseIsToldToTheSolverThreeTimesInAll()
+    void theJapaneseSolverResourcesAreCopiedThreeTimes()
     {
-        m_fixture->start(text("-I -Lja-JP"));
-        QCOMPARE(m_fixture->lines().count(text("   0 zorv :") + m_fixture->test.installDir()), 3);
+        m_fixture->start(u"-I -Lja-JP"_s);
+        QCOMPARE(m_fixture->lines().count(u"   0 zorv :"_s + m_fixture->test.installDir()), 3);
     }
 
     void theSolversResourcesFollowTheLanguageInEveryMode_data()
@@ -99,14 +98,14 @@ private slots:
         for (const char *mode : {"-U", "-ST", "-T"}) {
             const auto row = [mode](const char *locale, const QByteArray &solver, int copies) {
                 QTest::addRow("%s %s", mode, locale)
-                    << text("%1 -L%2").arg(text(mode), text(locale)) << solver << copies;
+                    << u"%1 -L%2"_s.arg(text(mode), text(locale)) << solver << copies;
             };
             row("de-DE", QByteArray(), 0);
             row("ja-JP", "Japanese solver", 1);
-            row("en-US", "old", 0); // nothing is done once more for the built-in language
+            row("en-US", "old", 0); // no second switch for the built-in language
         }
-        QTest::newRow("install in English") << text("-I -Len-US") << QByteArray() << 0;
-        QTest::newRow("no mode, in Japanese") << text("-Lja-JP") << QByteArray("Japanese solver") << 3;
+        QTest::newRow("install in English") << u"-I -Len-US"_s << QByteArray() << 0;
+        QTest::newRow("no mode, in Japanese") << u"-Lja-JP"_s << QByteArray("Japanese solver") << 3;
     }
 
     void theSolversResourcesFollowTheLanguageInEveryMode()
@@ -116,29 +115,29 @@ private slots:
         writeFile(m_fixture->installed("ja/ZorvRes.dll"), "old");
         m_fixture->start(options);
         QTEST(readFile(m_fixture->installed("ja/ZorvRes.dll")), "solver");
-        QTEST(int(m_fixture->lines().count(text("   0 zorv :") + m_fixture->test.installDir())), "copies");
+        QTEST(int(m_fixture->lines().count(u"   0 zorv :"_s + m_fixture->test.installDir())), "copies");
     }
 
     void anotherLanguageRemovesTheJapaneseSolverResources()
     {
-        m_fixture->start(text("-I -Lja-JP"));
+        m_fixture->start(u"-I -Lja-JP"_s);
         QVERIFY(QFile::exists(m_fixture->installed("ja/ZorvRes.dll")));
-        m_fixture->start(text("-I -Lde-DE"));
+        m_fixture->start(u"-I -Lde-DE"_s);
         QVERIFY(!QDir(m_fixture->installed("ja")).exists());
     }
 
-    void theJapaneseFolderStaysWhenSomethingElseIsInIt()
+    void theJapaneseFolderStaysIfItContainsOtherFiles()
     {
         writeFile(m_fixture->installed("ja/own.txt"), "mine");
-        m_fixture->start(text("-I -Lde-DE"));
+        m_fixture->start(u"-I -Lde-DE"_s);
         QCOMPARE(readFile(m_fixture->installed("ja/own.txt")), QByteArray("mine"));
     }
 
-    void theUsersDictionaryGoes()
+    void theUsersDictionaryIsRemoved()
     {
-        const QString dictionary = joinPath(System::getUserDataPath(), text("NVX_db_dictionary.nvxcfg"));
+        const QString dictionary = joinPath(System::getUserDataPath(), u"NVX_db_dictionary.nvxcfg"_s);
         writeFile(dictionary);
-        m_fixture->start(text("-I -Lde-DE"));
+        m_fixture->start(u"-I -Lde-DE"_s);
         QVERIFY(!QFile::exists(dictionary));
     }
 
@@ -146,13 +145,12 @@ private slots:
     {
         writeFile(m_fixture->installed("NVXSolver.exe"));
         writeFile(m_fixture->installed("VistrelResources.dll"), "old");
-        m_fixture->start(text("-U -Lde-DE"));
-        QCOMPARE(languageLines(),
-                 QStringList({text("   2 UnInstall Language de-DE"), removeSorvane(),
-                              text("   0 UnInstall Sorvane"), text("   0 Language de-DE"),
-                              text("   0 ChangeLanguage = en-US"), removeSorvane(),
-                              text("   0 UnInstall Sorvane"), text("   0 ChangeLanguage = de-DE"),
-                              removeSorvane(), text("   0 UnInstall Sorvane")}));
+        m_fixture->start(u"-U -Lde-DE"_s);
+        QCOMPARE(languageLines(), QStringList({u"   2 UnInstall Language de-DE"_s, removeSorvane(),
+                                               u"   0 UnInstall Sorvane"_s, u"   0 Language de-DE"_s,
+                                               u"   0 ChangeLanguage = en-US"_s, removeSorvane(),
+                                               u"   0 UnInstall Sorvane"_s, u"   0 ChangeLanguage = de-DE"_s,
+                                               removeSorvane(), u"   0 UnInstall Sorvane"_s}));
         QCOMPARE(readFile(m_fixture->installed("VistrelResources.dll")), QByteArray("old"));
         QVERIFY(!QFile::exists(flagsFile()));
     }
@@ -160,33 +158,32 @@ private slots:
     void stoppingServicesUsesTheThirdModeWord()
     {
         writeFile(m_fixture->installed("NVXSolver.exe"));
-        m_fixture->start(text("-ST -Len-US"));
-        QCOMPARE(languageLines().first(), text("   2 Found  Language en-US"));
+        m_fixture->start(u"-ST -Len-US"_s);
+        QCOMPARE(languageLines().first(), u"   2 Found  Language en-US"_s);
     }
 
-    void theCustomisationGoesWithTheLanguage()
+    void aLanguageRemovesTheCustomisation()
     {
-        const QString ribbon = joinPath(System::getUserDataPath(), text("ribbon2D.st"));
+        const QString ribbon = joinPath(System::getUserDataPath(), u"ribbon2D.st"_s);
         writeFile(ribbon);
-        m_fixture->start(text("-I -L"));
+        m_fixture->start(u"-I -L"_s);
         QVERIFY(QFile::exists(ribbon));
-        m_fixture->start(text("-I -Lde-DE"));
+        m_fixture->start(u"-I -Lde-DE"_s);
         QVERIFY(!QFile::exists(ribbon));
     }
 
-    void anUninstallWithoutALocaleResetsTheCustomisationAllTheSame()
+    void anUninstallWithoutALocaleResetsTheCustomisation()
     {
         writeFile(m_fixture->installed("NVXSolver.exe"));
-        m_fixture->start(text("-U -L"));
+        m_fixture->start(u"-U -L"_s);
         QCOMPARE(languageLines(),
-                 QStringList({text("   2 UnInstall Language "), removeSorvane(),
-                              text("   0 UnInstall Sorvane"), text("   0 No Language locale Specified")}));
+                 QStringList({u"   2 UnInstall Language "_s, removeSorvane(), u"   0 UnInstall Sorvane"_s,
+                              u"   0 No Language locale Specified"_s}));
     }
 
     void theUsersMaterialsSurviveEveryLanguage()
     {
-        const QString materials =
-            joinPath(System::getProgramDataPath(text("NVX 2017")), text("matprop.nvxmdb"));
+        const QString materials = joinPath(System::getProgramDataPath(u"NVX 2017"_s), u"matprop.nvxmdb"_s);
         writeFile(materials, "mine");
         for (const char *option :
              {"-I -Len-US", "-I -Lde-DE", "-I -Lja-JP", "-I -L", "-Lde-DE", "-ST -Len-US"})
@@ -194,25 +191,25 @@ private slots:
         QCOMPARE(readFile(materials), QByteArray("mine"));
     }
 
-    void anEmptyLocaleIsReportedAndNothingElseDone()
+    void anEmptyLocaleIsOnlyReported()
     {
-        m_fixture->start(text("-I -L"));
+        m_fixture->start(u"-I -L"_s);
         QCOMPARE(languageLines(),
-                 QStringList({text("   2 Install Language "), text("   0 No Language locale Specified")}));
+                 QStringList({u"   2 Install Language "_s, u"   0 No Language locale Specified"_s}));
         QVERIFY(!QFile::exists(flagsFile()));
     }
 
     void aRunWithoutAModeSetsUpLikeAnInstall()
     {
-        m_fixture->start(text("-Lde-DE"));
-        QCOMPARE(languageLines().first(), text("   2 Install Language de-DE"));
+        m_fixture->start(u"-Lde-DE"_s);
+        QCOMPARE(languageLines().first(), u"   2 Install Language de-DE"_s);
         QCOMPARE(readFile(m_fixture->installed("VistrelResources.dll")), QByteArray("de-DE"));
         QVERIFY(m_fixture->engine->state().runMode == RunMode::NotGiven);
     }
 
-    void theFlagsFileIsMadeWithoutBytes()
+    void theFlagsFileIsCreatedEmpty()
     {
-        m_fixture->start(text("-I"));
+        m_fixture->start(u"-I"_s);
         QVERIFY(QFile::exists(flagsFile()));
         QCOMPARE(QFileInfo(flagsFile()).size(), 0);
     }
@@ -220,66 +217,65 @@ private slots:
     void anExistingFlagsFileIsLeftAlone()
     {
         writeFile(flagsFile(), "mine");
-        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(text("prepared")));
-        writeFile(m_fixture->test.path(text("prepared/NVX_flags.txt")), "prepared");
-        m_fixture->start(text("-I"));
+        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(u"prepared"_s));
+        writeFile(m_fixture->test.path(u"prepared/NVX_flags.txt"_s), "prepared");
+        m_fixture->start(u"-I"_s);
         QCOMPARE(readFile(flagsFile()), QByteArray("mine"));
-        QVERIFY(m_fixture->lines().filter(text("Unable to create")).isEmpty());
+        QVERIFY(m_fixture->lines().filter(u"Unable to create"_s).isEmpty());
     }
 
     void aPreparedFlagsFileIsCopied()
     {
-        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(text("prepared")));
-        writeFile(m_fixture->test.path(text("prepared/NVX_flags.txt")), "prepared");
-        m_fixture->start(text("-I"));
+        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(u"prepared"_s));
+        writeFile(m_fixture->test.path(u"prepared/NVX_flags.txt"_s), "prepared");
+        m_fixture->start(u"-I"_s);
         QCOMPARE(readFile(flagsFile()), QByteArray("prepared"));
     }
 
-    void aPreparedFlagsFileThatCannotBeCopiedIsLoggedAndComesWithTheNextRun()
+    void aPreparedFlagsFileThatCannotBeCopiedIsLoggedAndCopiedByTheNextRun()
     {
-        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(text("prepared")));
-        writeFile(m_fixture->test.path(text("prepared/NVX_flags.txt")), "prepared");
-        const QString inTheWay = flagsFile() + text(".nvxpart/in the way");
-        writeFile(inTheWay);
-        m_fixture->start(text("-I"));
-        QVERIFY(m_fixture->lines().contains(text("   1 Unable to create ") + flagsFile()));
+        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(u"prepared"_s));
+        writeFile(m_fixture->test.path(u"prepared/NVX_flags.txt"_s), "prepared");
+        const QString obstacle = flagsFile() + u".nvxpart/a file"_s;
+        writeFile(obstacle);
+        m_fixture->start(u"-I"_s);
+        QVERIFY(m_fixture->lines().contains(u"   1 Unable to create "_s + flagsFile()));
         QVERIFY(!QFile::exists(flagsFile()));
-        QVERIFY(QDir(QFileInfo(inTheWay).path()).removeRecursively());
-        m_fixture->start(text("-I"));
+        QVERIFY(QDir(QFileInfo(obstacle).path()).removeRecursively());
+        m_fixture->start(u"-I"_s);
         QCOMPARE(readFile(flagsFile()), QByteArray("prepared"));
     }
 
-    void aPreparedFolderWithoutTheFileGivesAnEmptyOne()
+    void withoutAPreparedFileTheFlagsFileIsEmpty()
     {
-        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(text("prepared")));
-        m_fixture->start(text("-I"));
+        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(u"prepared"_s));
+        m_fixture->start(u"-I"_s);
         QVERIFY(QFile::exists(flagsFile()));
         QCOMPARE(QFileInfo(flagsFile()).size(), 0);
     }
 
-    void aFlagsFileThatCannotBeMadeIsLogged()
+    void aFlagsFileThatCannotBeCreatedIsLogged()
     {
-        writeFile(System::getFlagsDirPath()); // a file is in the folder's place
-        m_fixture->start(text("-I"));
-        QVERIFY(m_fixture->lines().contains(text("   1 Unable to create ") + flagsFile()));
+        writeFile(System::getFlagsDirPath()); // a file has the folder's name
+        m_fixture->start(u"-I"_s);
+        QVERIFY(m_fixture->lines().contains(u"   1 Unable to create "_s + flagsFile()));
     }
 
 private:
     static QString removeSorvane()
     {
-        return text("   0 Remove: ") +
-               joinPath(System::getProgramDataPath(text("NVX 2017")), text("Sorvane"));
+        return u"   0 Remove: "_s + joinPath(System::getProgramDataPath(u"NVX 2017"_s), u"Sorvane"_s);
     }
 
-    // The lines from the first about the language on, without those of external programs.
+    // The lines from the first one about the language, without those of external programs.
     QStringList languageLines() const
     {
         QStringList lines = m_fixture->lines();
         lines.removeIf([](const QString &line) {
-            return line.startsWith(text("   0 Command:cmd.exe")) || line == text("   0  output:");
+            return line.startsWith(u"   0 Command:cmd.exe"_s) || line == u"   0  output:"_s;
         });
         for (qsizetype i = 0; i < lines.size(); ++i) {
-            if (lines.at(i).startsWith(text("   2 ")))
+            if (lines.at(i).startsWith(u"   2 "_s))
                 return lines.mid(i);
         }
         return QStringList();

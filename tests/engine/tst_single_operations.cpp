@@ -1,4 +1,4 @@
-// The operations of the engine that are called by themselves, outside a run.
+// The operations of the engine that can be called outside a run.
 
 #include "engine/engine_fixture.h"
 #include "nvx_util/shell_link.h"
@@ -8,14 +8,9 @@
 
 #include <memory>
 
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
+using namespace Nvx::Engine;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_single_operations : public QObject
 {
@@ -25,19 +20,19 @@ private slots:
     void init()
     {
         m_fixture = std::make_unique<EngineFixture>();
-        m_engine = &m_fixture->start(text("-I"));
+        m_engine = &m_fixture->start(u"-I"_s);
         m_fixture->machine.calls.clear(); // those of the start
     }
     void cleanup() { m_fixture.reset(); }
 
-    void whatOthersConnectToIsASlot_data()
+    void theseMembersAreSlots_data()
     {
         QTest::addColumn<QByteArray>("signature");
         for (const char *signature : {"ProcessInstallation()", "initLocalizationTool()", "getLtool()"})
             QTest::newRow(signature) << QByteArray(signature);
     }
 
-    void whatOthersConnectToIsASlot()
+    void theseMembersAreSlots()
     {
         QFETCH(QByteArray, signature);
         QVERIFY(cfg_utilitys::staticMetaObject.indexOfSlot(signature.constData()) >= 0);
@@ -57,15 +52,15 @@ private slots:
         QCOMPARE(tool(), std::pair(true, m_engine->getLtool()));
     }
 
-    void aCommandIsRunAndItsExitCodeAnswered()
+    void aCommandIsRunAndItsExitCodeReturned()
     {
         m_fixture->machine.programResult = {Nvx::Util::ProgramResult::Outcome::Exited, 7, {}};
-        QCOMPARE(m_engine->runCommand(text("C:\\a.exe"), {text("-x")}, text("C:\\work"), 500), 7);
+        QCOMPARE(m_engine->runCommand(u"C:\\a.exe"_s, {u"-x"_s}, u"C:\\work"_s, 500), 7);
         QCOMPARE(m_fixture->machine.calls.size(), 1);
         const Nvx::Util::ProgramCall &call = m_fixture->machine.calls.first();
-        QCOMPARE(call.program, text("C:\\a.exe"));
-        QCOMPARE(call.arguments, QStringList(text("-x")));
-        QCOMPARE(call.workFolder, text("C:\\work"));
+        QCOMPARE(call.program, u"C:\\a.exe"_s);
+        QCOMPARE(call.arguments, QStringList(u"-x"_s));
+        QCOMPARE(call.workFolder, u"C:\\work"_s);
         QCOMPARE(call.timeoutMs, 500);
     }
 
@@ -75,9 +70,9 @@ private slots:
         m_fixture->machine.whileRunning = [&batch](const Nvx::Util::ProgramCall &call) {
             batch = readFile(call.arguments.last());
         };
-        QVERIFY(m_engine->removeDirectory(text("C:\\a b")));
+        QVERIFY(m_engine->removeDirectory(u"C:\\a b"_s));
         QCOMPARE(m_fixture->machine.calls.size(), 1);
-        QCOMPARE(m_fixture->machine.calls.first().program, text("cmd.exe"));
+        QCOMPARE(m_fixture->machine.calls.first().program, u"cmd.exe"_s);
         QCOMPARE(batch, QByteArray("rmdir /s /q \"C:\\a b\""));
     }
 
@@ -86,35 +81,35 @@ private slots:
         const QString folder = m_fixture->installed("cache");
         writeFile(m_fixture->installed("cache/a.pyc"));
         writeFile(m_fixture->installed("cache/a.py"));
-        QVERIFY(m_engine->removeMatchingFiles(folder, text(".PYC")));
-        QCOMPARE(namesIn(folder), QStringList(text("a.py")));
-        QVERIFY(!m_engine->removeMatchingFiles(m_fixture->installed("missing"), text(".PYC")));
+        QVERIFY(m_engine->removeMatchingFiles(folder, u".PYC"_s));
+        QCOMPARE(namesIn(folder), QStringList(u"a.py"_s));
+        QVERIFY(!m_engine->removeMatchingFiles(m_fixture->installed("missing"), u".PYC"_s));
     }
 
     void theViewerIsConfigured()
     {
         QCOMPARE(m_engine->configureViewer(RunMode::Install), 0);
         QCOMPARE(m_fixture->machine.calls.size(), 1);
-        QVERIFY(m_fixture->machine.calls.first().program.endsWith(text("NVXViewerConfig.exe")));
-        QCOMPARE(m_fixture->machine.calls.first().arguments, QStringList(text("-i")));
+        QVERIFY(m_fixture->machine.calls.first().program.endsWith(u"NVXViewerConfig.exe"_s));
+        QCOMPARE(m_fixture->machine.calls.first().arguments, QStringList(u"-i"_s));
     }
 
-    void aShortcutIsMadeAsItIsDescribed()
+    void aShortcutHasTheGivenProperties()
     {
-        QCOMPARE(m_engine->createShortcut(text("C:\\NVX.exe"), text("C:\\a.lnk"), text("NVX"),
-                                          text("C:\\nvx.ico"), text("-x")),
-                 0);
+        QCOMPARE(
+            m_engine->createShortcut(u"C:\\NVX.exe"_s, u"C:\\a.lnk"_s, u"NVX"_s, u"C:\\nvx.ico"_s, u"-x"_s),
+            0);
         QCOMPARE(m_fixture->machine.shellLinks.size(), 1);
         const Nvx::Util::ShellLink &link = m_fixture->machine.shellLinks.first();
-        QCOMPARE(link.target, text("C:\\NVX.exe"));
-        QCOMPARE(link.linkPath, text("C:\\a.lnk"));
-        QCOMPARE(link.description, text("NVX"));
+        QCOMPARE(link.target, u"C:\\NVX.exe"_s);
+        QCOMPARE(link.linkPath, u"C:\\a.lnk"_s);
+        QCOMPARE(link.description, u"NVX"_s);
         QCOMPARE(link.workFolder, m_fixture->test.installDir());
-        QCOMPARE(link.iconPath, text("C:\\nvx.ico"));
-        QCOMPARE(link.arguments, text("-x"));
+        QCOMPARE(link.iconPath, u"C:\\nvx.ico"_s);
+        QCOMPARE(link.arguments, u"-x"_s);
     }
 
-    void aRunMayBeginAnewWithoutAPageThatShowsIt()
+    void aRunCanBeRepeatedWithoutAPage()
     {
         m_engine->ProcessInstallation();
         QVERIFY(m_engine->state().runComplete);
@@ -122,14 +117,14 @@ private slots:
         QVERIFY(!m_engine->state().runComplete);
     }
 
-    void theLogStaysWhenOldFilesAreRemovedAndEndsThere_data()
+    void removingOldFilesClosesTheLogAndKeepsIt_data()
     {
         QTest::addColumn<QString>("options");
-        QTest::newRow("shown") << text("-I");
-        QTest::newRow("silent") << text("-I -S");
+        QTest::newRow("with a window") << u"-I"_s;
+        QTest::newRow("silent") << u"-I -S"_s;
     }
 
-    void theLogStaysWhenOldFilesAreRemovedAndEndsThere()
+    void removingOldFilesClosesTheLogAndKeepsIt()
     {
         QFETCH(const QString, options);
         cfg_utilitys &engine = m_fixture->start(options);
@@ -138,7 +133,7 @@ private slots:
         QVERIFY(!QFile::exists(m_fixture->installed("matprop.new")));
         const QStringList before = m_fixture->lines();
         QVERIFY(!before.isEmpty());
-        engine.log(0, text("lost"));
+        engine.log(0, u"lost"_s);
         QCOMPARE(m_fixture->lines(), before);
     }
 

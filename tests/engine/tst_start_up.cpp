@@ -8,13 +8,15 @@
 
 using Nvx::Util::RegistryKey;
 using Nvx::Util::System;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 RegistryKey environment()
 {
     return RegistryKey(
-        text("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment"));
+        u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment"_s);
 }
 
 const char *const installDirVariables[] = {"OSTRADE", "OSTRADE2017DIR", "OSTRADE2017TEMP"};
@@ -29,15 +31,15 @@ QStringList machineVariables()
 {
     QStringList found;
     for (const char *variable : installDirVariables)
-        found << environment().text(text(variable)).value_or(text("none"));
+        found << environment().text(text(variable)).value_or(u"none"_s);
     return found;
 }
 
-// The runs that install: with -I, and without a mode.
+// Runs that install: with -I and without a mode.
 void addInstallRows()
 {
     QTest::addColumn<QString>("options");
-    QTest::newRow("install") << text("-I");
+    QTest::newRow("install") << u"-I"_s;
     QTest::newRow("no mode") << QString();
 }
 
@@ -53,22 +55,22 @@ private slots:
 
     void theLogBeginsWithTheBannerAndTheCommandLine()
     {
-        m_fixture->start(text("-I -S"));
+        m_fixture->start(u"-I -S"_s);
         const QStringList lines = m_fixture->lines();
-        QCOMPARE(lines.at(0), text("   0 "));
-        QCOMPARE(lines.at(1), text("   0 ") + QString(77, QLatin1Char('=')));
-        QCOMPARE(lines.at(2), text("   0 Program startup - NVX 2017 DIR== ") + m_fixture->test.installDir());
-        QCOMPARE(lines.at(3), text("   0 Command Line:NVXConfig.exe -I -S"));
+        QCOMPARE(lines.at(0), u"   0 "_s);
+        QCOMPARE(lines.at(1), u"   0 "_s + QString(77, u'='));
+        QCOMPARE(lines.at(2), u"   0 Program startup - NVX 2017 DIR== "_s + m_fixture->test.installDir());
+        QCOMPARE(lines.at(3), u"   0 Command Line:NVXConfig.exe -I -S"_s);
     }
 
     void twoRunsAreBothInTheLog()
     {
-        m_fixture->start(text("-I -S"));
-        m_fixture->start(text("-U -S"));
+        m_fixture->start(u"-I -S"_s);
+        m_fixture->start(u"-U -S"_s);
         const QStringList lines = m_fixture->lines();
-        QCOMPARE(lines.count(text("   0 ") + QString(77, QLatin1Char('='))), 2);
-        const auto first = lines.indexOf(text("   0 Command Line:NVXConfig.exe -I -S"));
-        const auto second = lines.indexOf(text("   0 Command Line:NVXConfig.exe -U -S"));
+        QCOMPARE(lines.count(u"   0 "_s + QString(77, u'=')), 2);
+        const auto first = lines.indexOf(u"   0 Command Line:NVXConfig.exe -I -S"_s);
+        const auto second = lines.indexOf(u"   0 Command Line:NVXConfig.exe -U -S"_s);
         QVERIFY(first >= 0 && second > first);
     }
 
@@ -76,20 +78,20 @@ private slots:
     {
         QTest::addColumn<int>("level");
         QTest::addColumn<QString>("line");
-        QTest::newRow("two") << 2 << text("   2 x");
-        QTest::newRow("ten") << 10 << text("  10 x");
-        QTest::newRow("negative") << -2 << text("  -2 x");
-        QTest::newRow("wider than four") << 62097 << text("62097 x");
+        QTest::newRow("two") << 2 << u"   2 x"_s;
+        QTest::newRow("ten") << 10 << u"  10 x"_s;
+        QTest::newRow("negative") << -2 << u"  -2 x"_s;
+        QTest::newRow("wider than four") << 62097 << u"62097 x"_s;
     }
 
     void theLevelIsRightAlignedInFourCharacters()
     {
         QFETCH(int, level);
-        m_fixture->start().log(level, text("x"));
+        m_fixture->start().log(level, u"x"_s);
         QTEST(m_fixture->lines().last(), "line");
     }
 
-    void theEngineIsReachableWhileItLives()
+    void theEngineIsReachableWhileItExists()
     {
         QVERIFY(!cfg_utilitys::instance());
         cfg_utilitys &engine = m_fixture->start();
@@ -100,14 +102,14 @@ private slots:
 
     void theStateIsFilled()
     {
-        const RunState &state = m_fixture->start(text("-U -S -Lde-DE")).state();
+        const RunState &state = m_fixture->start(u"-U -S -Lde-DE"_s).state();
         QVERIFY(state.runMode == RunMode::Uninstall);
         QVERIFY(state.silent);
         QVERIFY(!state.runComplete);
-        QCOMPARE(state.locale, text("de-DE"));
+        QCOMPARE(state.locale, u"de-DE"_s);
         QCOMPARE(state.commonDesktop, m_fixture->machine.desktop);
-        QCOMPARE(state.modeWords, QStringList({text("Install"), text("UnInstall"), text("Found "),
-                                               text(" Success"), text(" Failed")}));
+        QCOMPARE(state.modeWords,
+                 QStringList({u"Install"_s, u"UnInstall"_s, u"Found "_s, u" Success"_s, u" Failed"_s}));
         QVERIFY(state.pendingNotes.isEmpty());
     }
 
@@ -117,42 +119,38 @@ private slots:
         QCOMPARE(m_fixture->start().state().commonDesktop, QString());
     }
 
-    void theSystemsLocaleIsTakenWithoutAnOption()
+    void withoutAnOptionTheSystemsLocaleIsUsed()
     {
         QCOMPARE(m_fixture->start().state().locale, Nvx::Util::supportedSystemLocale());
     }
 
-    void aRunWithoutOptionsStaysWithoutAMode()
-    {
-        QVERIFY(m_fixture->start().state().runMode == RunMode::NotGiven);
-    }
+    void aRunWithoutOptionsHasNoMode() { QVERIFY(m_fixture->start().state().runMode == RunMode::NotGiven); }
 
     void theEscapedInstallDirDoublesEveryBackslash()
     {
-        m_fixture->machine.ownFolder = m_fixture->test.path(text("NVX")) + text("\\a\\b");
-        const RunState &state = m_fixture->start(text("-I")).state();
-        QCOMPARE(state.installDirEscaped,
-                 QString(state.installDir).replace(QLatin1Char('\\'), QLatin1String("\\\\")));
-        QVERIFY(state.installDirEscaped.endsWith(text("\\\\a\\\\b")));
+        m_fixture->machine.ownFolder = m_fixture->test.path(u"NVX"_s) + u"\\a\\b"_s;
+        const RunState &state = m_fixture->start(u"-I"_s).state();
+        QCOMPARE(state.installDirEscaped, QString(state.installDir).replace(u'\\', "\\\\"_L1));
+        QVERIFY(state.installDirEscaped.endsWith(u"\\\\a\\\\b"_s));
     }
 
-    void theThirtyTwoBitPartOfTheRegistryIsNoticed_data()
+    void theThirtyTwoBitPartOfTheRegistryIsDetected_data()
     {
         QTest::addColumn<QString>("subKey");
-        QTest::newRow("by a value") << QString();
-        QTest::newRow("by a key") << text("\\Run");
+        QTest::newRow("it has a value") << QString();
+        QTest::newRow("it has a key") << u"\\Run"_s;
     }
 
-    void theThirtyTwoBitPartOfTheRegistryIsNoticed()
+    void theThirtyTwoBitPartOfTheRegistryIsDetected()
     {
         QFETCH(QString, subKey);
         const auto windows32 =
-            text("HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion");
-        // A Windows machine has it from the start.
+            u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion"_s;
+        // A Windows machine always has it.
         QCOMPARE(m_fixture->start().state().registry64, RegistryKey(windows32).hasEntries());
-        QVERIFY(RegistryKey(windows32 + subKey).setText(text("a name"), text("a value")));
+        QVERIFY(RegistryKey(windows32 + subKey).setText(u"a name"_s, u"a value"_s));
         QVERIFY(m_fixture->start().state().registry64);
-        RegistryKey(windows32 + subKey).removeValue(text("a name"));
+        RegistryKey(windows32 + subKey).removeValue(u"a name"_s);
     }
 
     void anInstallAcceptsItsFolderAndWritesNoVariables_data() { addInstallRows(); }
@@ -160,26 +158,26 @@ private slots:
     void anInstallAcceptsItsFolderAndWritesNoVariables()
     {
         QFETCH(QString, options);
-        setMachineVariables(text("C:\\by the installer"));
+        setMachineVariables(u"C:\\by the installer"_s);
         m_fixture->start(options);
         const QStringList lines = m_fixture->lines();
         const QString folder = m_fixture->test.installDir();
         const auto start =
-            lines.indexOf(text("   0 Validating Installation Path Velmora NVX 2017 DIR=") + folder);
+            lines.indexOf(u"   0 Validating Installation Path Velmora NVX 2017 DIR="_s + folder);
         QVERIFY(start > 0);
-        QCOMPARE(lines.at(start + 1), text("   0 Install Path OK ") + folder);
-        QCOMPARE(lines.at(start + 2), text("   0 user dir="));
-        QCOMPARE(machineVariables(), QStringList(3, text("C:\\by the installer")));
+        QCOMPARE(lines.at(start + 1), u"   0 Install Path OK "_s + folder);
+        QCOMPARE(lines.at(start + 2), u"   0 user dir="_s);
+        QCOMPARE(machineVariables(), QStringList(3, u"C:\\by the installer"_s));
         QVERIFY(m_fixture->machine.processVariables.isEmpty());
         QVERIFY(QDir(System::getUserDataPath()).exists());
     }
 
-    void anInstallWithoutAFolderTakesTheWorkingFolderAndWritesTheVariables_data() { addInstallRows(); }
+    void anInstallWithoutAFolderUsesTheWorkingFolderAndWritesTheVariables_data() { addInstallRows(); }
 
-    void anInstallWithoutAFolderTakesTheWorkingFolderAndWritesTheVariables()
+    void anInstallWithoutAFolderUsesTheWorkingFolderAndWritesTheVariables()
     {
         QFETCH(QString, options);
-        setMachineVariables(text("C:\\by the installer"));
+        setMachineVariables(u"C:\\by the installer"_s);
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(m_fixture->test.installDir()));
         m_fixture->machine.ownFolder.clear();
@@ -188,7 +186,7 @@ private slots:
         QDir::setCurrent(before);
 
         QCOMPARE(state.installDir, working);
-        QCOMPARE(state.installDirEscaped, QString(working).replace(QLatin1Char('\\'), QLatin1String("\\\\")));
+        QCOMPARE(state.installDirEscaped, QString(working).replace(u'\\', "\\\\"_L1));
         QVERIFY(state.runMode == (options.isEmpty() ? RunMode::NotGiven : RunMode::Install));
         QVERIFY(QDir(System::getUserDataPath()).exists());
         QCOMPARE(machineVariables(), QStringList(3, working));
@@ -201,9 +199,9 @@ private slots:
     void everyOtherModeRemovesTheVariables_data()
     {
         QTest::addColumn<QString>("option");
-        QTest::newRow("uninstall") << text("-U");
-        QTest::newRow("stop services") << text("-ST");
-        QTest::newRow("localisation") << text("-T");
+        QTest::newRow("uninstall") << u"-U"_s;
+        QTest::newRow("stop services") << u"-ST"_s;
+        QTest::newRow("localisation") << u"-T"_s;
     }
 
     void everyOtherModeRemovesTheVariables()
@@ -211,90 +209,89 @@ private slots:
         QFETCH(QString, option);
         writeFile(m_fixture->installed("NVXSolver.exe"));
         setMachineVariables(m_fixture->test.installDir());
-        QVERIFY(environment().setText(text("OSTRADE2016DIR"), text("C:\\old")));
+        QVERIFY(environment().setText(u"OSTRADE2016DIR"_s, u"C:\\old"_s));
         m_fixture->start(option);
 
         const QStringList lines = m_fixture->lines();
         const QString folder = m_fixture->test.installDir();
         const auto start =
-            lines.indexOf(text("   0 Validating Installation Path Velmora NVX 2017 DIR=") + folder);
+            lines.indexOf(u"   0 Validating Installation Path Velmora NVX 2017 DIR="_s + folder);
         QVERIFY(start > 0);
-        QCOMPARE(lines.at(start + 1),
-                 text("   0 Removing installation path environment variables.") + folder);
-        QVERIFY(!lines.contains(text("   0 user dir=")));
-        QCOMPARE(machineVariables(), QStringList(3, text("none")));
-        QCOMPARE(environment().text(text("OSTRADE2016DIR")), std::optional<QString>(text("C:\\old")));
+        QCOMPARE(lines.at(start + 1), u"   0 Removing installation path environment variables."_s + folder);
+        QVERIFY(!lines.contains(u"   0 user dir="_s));
+        QCOMPARE(machineVariables(), QStringList(3, u"none"_s));
+        QCOMPARE(environment().text(u"OSTRADE2016DIR"_s), std::optional<QString>(u"C:\\old"_s));
         QVERIFY(!QDir(System::getUserDataPath()).exists());
     }
 
-    void anUninstallWithoutTheSolverOrAFolderTakesTheWorkingFolder_data()
+    void anUninstallWithoutTheSolverOrAFolderUsesTheWorkingFolder_data()
     {
         QTest::addColumn<bool>("hasFolder");
         QTest::newRow("without the solver") << true;
         QTest::newRow("without a folder") << false;
     }
 
-    void anUninstallWithoutTheSolverOrAFolderTakesTheWorkingFolder()
+    void anUninstallWithoutTheSolverOrAFolderUsesTheWorkingFolder()
     {
         QFETCH(const bool, hasFolder);
-        const QString folder = m_fixture->test.path(text("empty"));
+        const QString folder = m_fixture->test.path(u"empty"_s);
         QVERIFY(QDir().mkdir(folder));
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(folder));
         if (!hasFolder)
             m_fixture->machine.ownFolder.clear();
-        const RunState &state = m_fixture->start(text("-U")).state();
+        const RunState &state = m_fixture->start(u"-U"_s).state();
         QDir::setCurrent(before);
         QCOMPARE(QDir(state.installDir).canonicalPath(), QDir(folder).canonicalPath());
     }
 
-    void theWorkingFolderIsLoggedWhenItIsTaken()
+    void theWorkingFolderIsLoggedWhenItIsUsed()
     {
-        const RunState &state = m_fixture->start(text("-U")).state();
+        const RunState &state = m_fixture->start(u"-U"_s).state();
         QCOMPARE(state.installDir, System::getWorkingDirPath());
         QVERIFY(m_fixture->lines().contains(
-            text("   0 Program startup - Install path is empty or is invalid, resetting to:") +
+            u"   0 Program startup - Install path is empty or is invalid, resetting to:"_s +
             System::getWorkingDirPath()));
     }
 
     void anUnknownOptionShowsTheUsage()
     {
-        m_fixture->start(text("-X -I"));
+        m_fixture->start(u"-X -I"_s);
         QCOMPARE(m_fixture->machine.boxes.size(), 1);
         QVERIFY(m_fixture->machine.boxes.first().kind == Nvx::Util::BoxKind::Warning);
-        QCOMPARE(m_fixture->machine.boxes.first().title, text("Command line arguments"));
-        QVERIFY(m_fixture->machine.boxes.first().text.startsWith(
-            text("Valid NVX command line arguments are:\n")));
+        QCOMPARE(m_fixture->machine.boxes.first().title, u"Command line arguments"_s);
+        QVERIFY(
+            m_fixture->machine.boxes.first().text.startsWith(u"Valid NVX command line arguments are:\n"_s));
         QVERIFY(m_fixture->engine->state().runMode == RunMode::Install);
     }
 
-    void noAtTheUsageSkipsTheRestOfTheStartUp_data()
+    void noInTheMessageBoxSkipsTheRestOfTheStartUp_data()
     {
         QTest::addColumn<int>("answer");
         QTest::newRow("No") << int(Nvx::Util::Answer::No);
         QTest::newRow("closed") << int(Nvx::Util::Answer::Dismissed);
     }
 
-    void noAtTheUsageSkipsTheRestOfTheStartUp()
+    void noInTheMessageBoxSkipsTheRestOfTheStartUp()
     {
         QFETCH(int, answer);
         m_fixture->machine.answer = static_cast<Nvx::Util::Answer>(answer);
-        setMachineVariables(text("C:\\old"));
-        const RunState &state = m_fixture->start(text("-U -X -S")).state();
+        setMachineVariables(u"C:\\old"_s);
+        const RunState &state = m_fixture->start(u"-U -X -S"_s).state();
         QVERIFY(state.runMode == RunMode::Uninstall);
         QVERIFY(!state.silent);
         QVERIFY(state.modeWords.isEmpty());
         QCOMPARE(state.installDirEscaped, QString());
-        QCOMPARE(machineVariables(), QStringList(3, text("C:\\old")));
-        QCOMPARE(m_fixture->lines().last(), text("   0 Command Line:NVXConfig.exe -U -X -S"));
+        QCOMPARE(machineVariables(), QStringList(3, u"C:\\old"_s));
+        QCOMPARE(m_fixture->lines().last(), u"   0 Command Line:NVXConfig.exe -U -X -S"_s);
     }
 
     void aLogThatCannotBeOpenedChangesNothingElse()
     {
-        QVERIFY(QDir().mkpath(m_fixture->installed("NVXConfig.log"))); // a folder of that name is in the way
-        const RunState &state = m_fixture->start(text("-I -S -Lde-DE")).state();
+        QVERIFY(QDir().mkpath(m_fixture->installed("NVXConfig.log"))); // a folder has that name
+        const RunState &state = m_fixture->start(u"-I -S -Lde-DE"_s).state();
         QVERIFY(state.runMode == RunMode::Install);
-        QCOMPARE(System::getLocale(), text("de-DE"));
+        QCOMPARE(System::getLocale(), u"de-DE"_s);
         QVERIFY(QDir(System::getUserDataPath()).exists());
         m_fixture->engine->ProcessInstallation();
         QVERIFY(state.runComplete);

@@ -8,6 +8,7 @@
 
 using Nvx::Io::Nvx2ConfigFile;
 using Nvx::Util::toStdString;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -23,17 +24,17 @@ class tst_nvx2_config_file : public QObject
     Q_OBJECT
 
 private slots:
-    void settingsAreLinesInTheOrderOfTheirFirstNaming()
+    void settingsAreLinesInTheOrderOfTheirFirstUse()
     {
         const TestFolder folder;
         Nvx2ConfigFile file;
         file.setting("b").setValue("1");
         file.setting("a").setValue("2");
         file.setting("b").setValue("3");
-        QCOMPARE(saved(file, folder.path(QStringLiteral("x.nvxcfg"))), QByteArray("b = 3\na = 2\n"));
+        QCOMPARE(saved(file, folder.path(u"x.nvxcfg"_s)), QByteArray("b = 3\na = 2\n"));
     }
 
-    void theSolverKnowsTheFileAndItsSettingsByTheseNames()
+    void theNamesAreThoseThatTheSolverReads()
     {
         QCOMPARE(Nvx2ConfigFile::DefaultName, "NVX2_config.nvxcfg");
         QCOMPARE(Nvx2ConfigFile::AnalyzePath, "AnalyzePath");
@@ -43,19 +44,18 @@ private slots:
         QCOMPARE(Nvx2ConfigFile::SocketsPerNode, "SocketsPerNode");
     }
 
-    void valuesOfTheCodePageAreWrittenInUtf8()
+    void valuesAreConvertedFromTheCodePageToUtf8()
     {
         const TestFolder folder;
         Nvx2ConfigFile file;
-        file.setting(Nvx2ConfigFile::ExePath).setValue(toStdString(QStringLiteral("C:\\Größe")));
-        QCOMPARE(saved(file, folder.path(QStringLiteral("x.nvxcfg"))),
-                 QStringLiteral("ExePath = C:\\Größe\n").toUtf8());
+        file.setting(Nvx2ConfigFile::ExePath).setValue(toStdString(u"C:\\Größe"_s));
+        QCOMPARE(saved(file, folder.path(u"x.nvxcfg"_s)), u"ExePath = C:\\Größe\n"_s.toUtf8());
     }
 
-    void anExistingFileIsReplacedWhole()
+    void anExistingFileIsReplacedCompletely()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("Größe.nvxcfg"));
+        const QString path = folder.path(u"Größe.nvxcfg"_s);
         writeFile(path, QByteArray(10000, 'x'));
         Nvx2ConfigFile file;
         file.setting("a").setValue("1");
@@ -66,24 +66,24 @@ private slots:
     void aFileWithoutSettingsIsEmpty()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("x.nvxcfg"));
+        const QString path = folder.path(u"x.nvxcfg"_s);
         QVERIFY(Nvx2ConfigFile().saveTo(toStdString(path)));
         QVERIFY(QFile::exists(path));
         QCOMPARE(readFile(path), QByteArray());
     }
 
-    void aValueWithALineBreakIsNotWrittenAndTheOldFileStays_data()
+    void aValueWithALineBreakIsRejectedAndTheOldFileStays_data()
     {
         QTest::addColumn<QByteArray>("value");
         QTest::newRow("line feed") << QByteArray("a\nMpi = 99");
         QTest::newRow("carriage return") << QByteArray("a\rMpi = 99");
     }
 
-    void aValueWithALineBreakIsNotWrittenAndTheOldFileStays()
+    void aValueWithALineBreakIsRejectedAndTheOldFileStays()
     {
         QFETCH(QByteArray, value);
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("x.nvxcfg"));
+        const QString path = folder.path(u"x.nvxcfg"_s);
         writeFile(path, "old");
         Nvx2ConfigFile file;
         file.setting("a").setValue(value.toStdString());
@@ -91,21 +91,21 @@ private slots:
         QCOMPARE(readFile(path), QByteArray("old"));
     }
 
-    void aPathThatCannotBeWrittenGivesFalse()
+    void aPathThatCannotBeWrittenReturnsFalse()
     {
         const TestFolder folder;
         Nvx2ConfigFile file;
         file.setting("a").setValue("1");
-        QVERIFY(!file.saveTo(toStdString(folder.path(QStringLiteral("missing/x.nvxcfg")))));
-        QVERIFY(QDir().mkdir(folder.path(QStringLiteral("taken"))));
-        QVERIFY(!file.saveTo(toStdString(folder.path(QStringLiteral("taken")))));
-        QVERIFY(QDir(folder.path(QStringLiteral("taken"))).exists());
+        QVERIFY(!file.saveTo(toStdString(folder.path(u"missing/x.nvxcfg"_s))));
+        QVERIFY(QDir().mkdir(folder.path(u"taken"_s)));
+        QVERIFY(!file.saveTo(toStdString(folder.path(u"taken"_s))));
+        QVERIFY(QDir(folder.path(u"taken"_s)).exists());
     }
 
-    void aWriterEndedAtAnyMomentLeavesOneOfTheTwoFilesWhole()
+    void aWriterEndedAtAnyMomentLeavesACompleteFile()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("x.nvxcfg"));
+        const QString path = folder.path(u"x.nvxcfg"_s);
         const QByteArray first = QByteArray("ExePath = ") + QByteArray(200000, 'x');
         const QList<QByteArray> wholeFiles{first + "\nMpi = 8\n", first + "\nMpi = -16\n"};
         for (int moment = 0; moment < 20; ++moment) {

@@ -8,7 +8,10 @@
 
 #include <memory>
 
-/// What really arrives in a browser that is started on this machine.
+using namespace Nvx::Help;
+using namespace Qt::Literals::StringLiterals;
+
+/// The arguments that a browser started on this machine receives.
 class tst_browser_starts : public QObject
 {
     Q_OBJECT
@@ -17,10 +20,10 @@ private slots:
     void init()
     {
         m_folders = std::make_unique<TestMachine>();
-        m_browser = m_folders->path(QStringLiteral("My & browser (x86)/browser.exe"));
+        m_browser = m_folders->path(u"My & browser (x86)/browser.exe"_s);
         QVERIFY(QDir().mkpath(QFileInfo(m_browser).path()));
         QVERIFY(QFile::copy(QStringLiteral(SCRIPTED_TOOL), m_browser));
-        writeFile(m_browser + QStringLiteral(".script"), "record\n");
+        writeFile(m_browser + u".script"_s, "record\n");
     }
 
     void cleanup()
@@ -38,7 +41,7 @@ private slots:
         };
         row("blanks", "http://host/a b  c", "host/a%20b%20%20c");
         row("quotes", "http://host/\" -evil \"x\" \\\" y", "host/%22%20-evil%20%22x%22%20%5C%22%20y");
-        row("signs of the command interpreter", "http://host/a&calc.exe|more>x^<y%PATH%;(z)",
+        row("special characters of the command interpreter", "http://host/a&calc.exe|more>x^<y%PATH%;(z)",
             "host/a&calc.exe%7Cmore%3Ex%5E%3Cy%25PATH%25;(z)");
         row("line ends", "http://host/a\r\ncalc.exe", "host/a%0D%0Acalc.exe");
         row("another scheme", "javascript:alert('a b')", "javascript:alert('a%20b')");
@@ -50,23 +53,23 @@ private slots:
     {
         QFETCH(QString, address);
         QFETCH(QByteArray, arrived);
-        open(address, QStringLiteral(" -url \"%1\" -last"));
+        open(address, u" -url \"%1\" -last"_s);
         QCOMPARE(recorded(), QByteArray("-url\n" + arrived + "\n-last\n"));
     }
 
-    void theAddressIsTheLastArgumentWhereItHasNoPlace()
+    void withoutAPlaceholderTheAddressIsTheLastArgument()
     {
-        open(QStringLiteral("http://host/\" -evil"), QStringLiteral(" \"a \\\"b\\\"\" C:\\x\\"));
+        open(u"http://host/\" -evil"_s, u" \"a \\\"b\\\"\" C:\\x\\"_s);
         QCOMPARE(recorded(), QByteArray("a \"b\"\nC:\\x\\\nhttp://host/%22%20-evil\n"));
     }
 
 private:
     static Nvx::Util::RegistryKey browserKey()
     {
-        return Nvx::Util::RegistryKey(QStringLiteral("HKEY_CLASSES_ROOT\\http\\shell\\open\\command"));
+        return Nvx::Util::RegistryKey(u"HKEY_CLASSES_ROOT\\http\\shell\\open\\command"_s);
     }
 
-    // Opens an address with a browser that is recorded with these options, and waits for its end.
+    // Opens an address with a browser that is registered with these options, and waits until it ends.
     void open(const QString &address, const QString &options)
     {
         QVERIFY(browserKey().setText(QString(), u'"' + m_browser + u'"' + options));
@@ -74,10 +77,7 @@ private:
         ContextHelp(machine).openAddress(address, HelpWait::UntilClosed);
     }
 
-    QByteArray recorded() const
-    {
-        return readFile(m_browser + QStringLiteral(".arguments")).replace("\r\n", "\n");
-    }
+    QByteArray recorded() const { return readFile(m_browser + u".arguments"_s).replace("\r\n", "\n"); }
 
     QString m_browser;
     std::unique_ptr<TestMachine> m_folders;

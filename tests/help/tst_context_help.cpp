@@ -12,11 +12,13 @@
 
 using Nvx::Util::RegistryKey;
 using Nvx::Util::System;
+using namespace Nvx::Help;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 const QByteArray plainSettings = "<help_ids><help_url/></help_ids>";
-const auto browser = QStringLiteral("C:\\Browser\\browser.exe");
+const auto browser = u"C:\\Browser\\browser.exe"_s;
 
 } // namespace
 
@@ -31,7 +33,7 @@ private slots:
         m_machine = std::make_unique<RecordingMachine>();
         m_machine->ownFolder = m_folders->installDir();
         m_help = std::make_unique<ContextHelp>(*m_machine);
-        System::setLocale(QStringLiteral("en-US"));
+        System::setLocale(u"en-US"_s);
         setBrowser(browser);
     }
 
@@ -43,20 +45,20 @@ private slots:
         m_folders.reset();
     }
 
-    void withoutSettingsATopicIsTheBareId()
+    void withoutSettingsATopicsAddressIsTheId()
     {
         QVERIFY(m_help->initialise());
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")), QStringLiteral("mesh"));
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), u"mesh"_s);
     }
 
-    void aFolderInPlaceOfTheSettingsIsNone()
+    void aFolderWithTheNameOfTheSettingsIsIgnored()
     {
         QVERIFY(QDir().mkpath(settingsFile()));
         QVERIFY(m_help->initialise());
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")), QStringLiteral("mesh"));
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), u"mesh"_s);
     }
 
-    void brokenSettingsLeaveWhatWasThere_data()
+    void invalidSettingsChangeNothing_data()
     {
         QTest::addColumn<QByteArray>("document");
         QTest::newRow("empty") << QByteArray();
@@ -64,19 +66,19 @@ private slots:
         QTest::newRow("without the element") << QByteArray("<help_ids/>");
     }
 
-    void brokenSettingsLeaveWhatWasThere()
+    void invalidSettingsChangeNothing()
     {
         QFETCH(QByteArray, document);
         writeFile(settingsFile(), document);
         QVERIFY(!m_help->initialise());
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")), QStringLiteral("mesh"));
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), u"mesh"_s);
 
         writeFile(settingsFile(), plainSettings);
         QVERIFY(m_help->initialise());
-        const QString before = m_help->topicAddress(QStringLiteral("mesh"));
+        const QString before = m_help->topicAddress(u"mesh"_s);
         writeFile(settingsFile(), document);
         QVERIFY(!m_help->initialise());
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")), before);
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), before);
     }
 
     void settingsOf100MegabytesAreNotRead()
@@ -87,27 +89,27 @@ private slots:
         QElapsedTimer timer;
         timer.start();
         QVERIFY(!m_help->initialise());
-        QVERIFY2(timer.elapsed() < 200, "the first page would have to wait");
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")), QStringLiteral("mesh"));
+        QVERIFY2(timer.elapsed() < 200, "reading the file would delay the first page");
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), u"mesh"_s);
     }
 
-    void settingsAmongManyIdsAreRead()
+    void settingsAfterManyIdsAreRead()
     {
         QByteArray document = "<a>";
         while (document.size() < 1'000'000)
             document += "<help id='1234'>topic</help>\n";
         writeFile(settingsFile(), document + "<help_url online_prefix='x'/></a>");
         QVERIFY(m_help->initialise());
-        QVERIFY(m_help->topicAddress(QStringLiteral("mesh")).startsWith(u'x'));
+        QVERIFY(m_help->topicAddress(u"mesh"_s).startsWith(u'x'));
     }
 
     void onlineHelpIsInTheLanguageOfTheInterface_data()
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("language");
-        QTest::newRow("German") << QStringLiteral("de-DE") << QStringLiteral("DEU");
-        QTest::newRow("Japanese") << QStringLiteral("ja-JP") << QStringLiteral("JPN");
-        QTest::newRow("French reads English") << QStringLiteral("fr-FR") << QStringLiteral("ENU");
+        QTest::newRow("German") << u"de-DE"_s << u"DEU"_s;
+        QTest::newRow("Japanese") << u"ja-JP"_s << u"JPN"_s;
+        QTest::newRow("French gets English") << u"fr-FR"_s << u"ENU"_s;
     }
 
     void onlineHelpIsInTheLanguageOfTheInterface()
@@ -117,85 +119,82 @@ private slots:
         System::setLocale(locale);
         writeFile(settingsFile(), plainSettings);
         QVERIFY(m_help->initialise());
-        const QString wiki = QStringLiteral("http://help.velmora.example/wiki/KORVA/2017/%1/").arg(language);
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")), wiki + QStringLiteral("?contextId=mesh"));
-        QCOMPARE(m_help->searchAddress(QStringLiteral("heat sink")),
-                 wiki + QStringLiteral("?query=heat sink"));
+        const QString wiki = u"http://help.velmora.example/wiki/KORVA/2017/%1/"_s.arg(language);
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), wiki + u"?contextId=mesh"_s);
+        QCOMPARE(m_help->searchAddress(u"heat sink"_s), wiki + u"?query=heat sink"_s);
     }
 
-    void installedHelpLiesInTheSharedFolder()
+    void theInstalledHelpIsInTheSharedFolder()
     {
-        const QString help = sharedFolder() + QStringLiteral("/NVXHelp/");
-        QVERIFY(QDir().mkpath(help + QStringLiteral("contexthelp")));
+        const QString help = sharedFolder() + u"/NVXHelp/"_s;
+        QVERIFY(QDir().mkpath(help + u"contexthelp"_s));
         writeFile(settingsFile(), plainSettings);
         m_help->setOffline(true);
         QVERIFY(m_help->initialise());
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")),
-                 QStringLiteral("file:///") + help + QStringLiteral("contexthelp/mesh.htm"));
-        QCOMPARE(m_help->searchAddress(QStringLiteral("heat sink")),
-                 QStringLiteral("file:///") + help + QStringLiteral("index.html?query=heat sink"));
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), u"file:///"_s + help + u"contexthelp/mesh.htm"_s);
+        QCOMPARE(m_help->searchAddress(u"heat sink"_s),
+                 u"file:///"_s + help + u"index.html?query=heat sink"_s);
     }
 
-    void installedHelpThatIsMissingIsTheDefaultPage_data()
+    void aMissingInstalledHelpGivesTheDefaultPage_data()
     {
         QTest::addColumn<QByteArray>("document");
         QTest::newRow("with settings") << plainSettings;
-        QTest::newRow("with broken settings") << QByteArray("<");
+        QTest::newRow("with invalid settings") << QByteArray("<");
         QTest::newRow("without settings") << QByteArray();
     }
 
-    void installedHelpThatIsMissingIsTheDefaultPage()
+    void aMissingInstalledHelpGivesTheDefaultPage()
     {
         QFETCH(QByteArray, document);
         if (!document.isNull())
             writeFile(settingsFile(), document);
         m_help->setOffline(true);
         m_help->initialise();
-        const QString page = m_folders->installDir() + QStringLiteral("/NVXDefaultHelp.html");
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")), page);
-        QCOMPARE(m_help->searchAddress(QStringLiteral("heat sink")), page);
+        const QString page = m_folders->installDir() + u"/NVXDefaultHelp.html"_s;
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), page);
+        QCOMPARE(m_help->searchAddress(u"heat sink"_s), page);
 
-        m_help->showTopic(QStringLiteral("mesh"));
+        m_help->showTopic(u"mesh"_s);
         QCOMPARE(m_machine->starts.size(), 1);
         const QString opened = m_machine->starts.first().arguments.value(0);
-        QVERIFY2(opened.startsWith(QLatin1String("file:///")), qPrintable(opened));
-        QVERIFY2(opened.endsWith(QLatin1String("/NVX/NVXDefaultHelp.html")), qPrintable(opened));
+        QVERIFY2(opened.startsWith("file:///"_L1), qPrintable(opened));
+        QVERIFY2(opened.endsWith("/NVX/NVXDefaultHelp.html"_L1), qPrintable(opened));
     }
 
-    void onlineHelpNeverNeedsTheDefaultPage()
+    void onlineHelpNeverUsesTheDefaultPage()
     {
         m_help->setOffline(true);
         m_help->initialise();
         m_help->setOffline(false);
         QVERIFY(m_help->initialise());
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")), QStringLiteral("mesh"));
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), u"mesh"_s);
     }
 
     void theMarkChangesNoAddress()
     {
         writeFile(settingsFile(), plainSettings);
         m_help->initialise();
-        const QString before = m_help->topicAddress(QStringLiteral("mesh"));
+        const QString before = m_help->topicAddress(u"mesh"_s);
         m_help->setMarked(true);
         QVERIFY(m_help->isMarked());
         m_help->initialise();
-        QCOMPARE(m_help->topicAddress(QStringLiteral("mesh")), before);
+        QCOMPARE(m_help->topicAddress(u"mesh"_s), before);
     }
 
     void aTopicIsShownInTheBrowser()
     {
         writeFile(settingsFile(), plainSettings);
         m_help->initialise();
-        m_help->showTopic(QStringLiteral("mesh"));
+        m_help->showTopic(u"mesh"_s);
         QCOMPARE(m_machine->starts.size(), 1);
         QCOMPARE(m_machine->starts.first().program, browser);
-        QCOMPARE(
-            m_machine->starts.first().arguments,
-            QStringList{QStringLiteral("http://help.velmora.example/wiki/KORVA/2017/ENU/?contextId=mesh")});
+        QCOMPARE(m_machine->starts.first().arguments,
+                 QStringList{u"http://help.velmora.example/wiki/KORVA/2017/ENU/?contextId=mesh"_s});
         QCOMPARE(m_machine->starts.first().waitMs, 0);
     }
 
-    void theTextOfASearchIsPutIntoTheAddressAsItIs_data()
+    void theTextOfASearchIsNotEncodedInItsAddress_data()
     {
         QTest::addColumn<QString>("searched");
         QTest::addColumn<QString>("opened");
@@ -208,80 +207,78 @@ private slots:
         row("#3", "#3");
         row("5%20", "5%20");
         row("a=b?c/d", "a=b?c/d");
-        // What an address cannot hold is encoded where it is passed to the browser.
+        // Characters that an address cannot contain are encoded for the browser.
         row("heat \"sink\"", "heat%20%22sink%22");
         row("50%", "50%25");
         row("a\\b", "a%5Cb");
     }
 
-    void theTextOfASearchIsPutIntoTheAddressAsItIs()
+    void theTextOfASearchIsNotEncodedInItsAddress()
     {
         QFETCH(QString, searched);
         QFETCH(QString, opened);
         writeFile(settingsFile(), plainSettings);
         m_help->initialise();
-        const auto wiki = QStringLiteral("http://help.velmora.example/wiki/KORVA/2017/ENU/?query=");
+        const auto wiki = u"http://help.velmora.example/wiki/KORVA/2017/ENU/?query="_s;
         QCOMPARE(m_help->searchAddress(searched), wiki + searched);
         m_help->showSearch(searched);
         QCOMPARE(m_machine->starts.size(), 1);
         QCOMPARE(m_machine->starts.first().arguments, QStringList{wiki + opened});
 
-        const QString help = sharedFolder() + QStringLiteral("/NVXHelp/");
-        QVERIFY(QDir().mkpath(help + QStringLiteral("contexthelp")));
+        const QString help = sharedFolder() + u"/NVXHelp/"_s;
+        QVERIFY(QDir().mkpath(help + u"contexthelp"_s));
         m_help->setOffline(true);
         m_help->initialise();
         m_help->showSearch(searched);
         QCOMPARE(m_machine->starts.size(), 2);
         const QString argument = m_machine->starts.last().arguments.value(0);
-        QVERIFY2(argument.endsWith(QStringLiteral("/NVXHelp/index.html?query=") + opened),
-                 qPrintable(argument));
+        QVERIFY2(argument.endsWith(u"/NVXHelp/index.html?query="_s + opened), qPrintable(argument));
     }
 
-    void whoWantsToWaitWaitsAtMostThirtySeconds()
+    void waitingForTheBrowserEndsAfterThirtySeconds()
     {
-        m_help->openAddress(QStringLiteral("http://host/"), HelpWait::UntilClosed);
+        m_help->openAddress(u"http://host/"_s, HelpWait::UntilClosed);
         QCOMPARE(m_machine->starts.size(), 1);
         QCOMPARE(m_machine->starts.first().waitMs, 30000);
     }
 
-    void theAddressTakesItsPlaceInTheBrowsersCommand()
+    void theAddressReplacesThePlaceholderOfTheBrowsersCommand()
     {
-        setBrowser(QStringLiteral("\"%NVX_TEST_FOLDER%\\b.exe\" -url \"%1\""));
-        m_folders->setVariable("NVX_TEST_FOLDER", QStringLiteral("C:\\My Browser"));
-        m_help->openAddress(QStringLiteral("http://host/\" -evil \"x & calc"));
+        setBrowser(u"\"%NVX_TEST_FOLDER%\\b.exe\" -url \"%1\""_s);
+        m_folders->setVariable("NVX_TEST_FOLDER", u"C:\\My Browser"_s);
+        m_help->openAddress(u"http://host/\" -evil \"x & calc"_s);
         QCOMPARE(m_machine->starts.size(), 1);
-        QCOMPARE(m_machine->starts.first().program, QStringLiteral("C:\\My Browser\\b.exe"));
+        QCOMPARE(m_machine->starts.first().program, u"C:\\My Browser\\b.exe"_s);
         QCOMPARE(m_machine->starts.first().arguments,
-                 (QStringList{QStringLiteral("-url"), QStringLiteral("host/%22%20-evil%20%22x%20&%20calc")}));
+                 (QStringList{u"-url"_s, u"host/%22%20-evil%20%22x%20&%20calc"_s}));
     }
 
     void aVariableThatIsNotSetStaysAsItIsInTheBrowsersCommand()
     {
-        setBrowser(QStringLiteral("\"%NVX_TEST_FOLDER%\\b.exe\" \"%1\""));
+        setBrowser(u"\"%NVX_TEST_FOLDER%\\b.exe\" \"%1\""_s);
         m_folders->unsetVariable("NVX_TEST_FOLDER");
-        m_help->openAddress(QStringLiteral("http://host/"));
+        m_help->openAddress(u"http://host/"_s);
         QCOMPARE(m_machine->starts.size(), 1);
-        QCOMPARE(m_machine->starts.first().program, QStringLiteral("%NVX_TEST_FOLDER%\\b.exe"));
+        QCOMPARE(m_machine->starts.first().program, u"%NVX_TEST_FOLDER%\\b.exe"_s);
     }
 
-    void nothingIsStartedForWhatIsNoAddress()
+    void noBrowserIsStartedForAnInvalidAddress()
     {
         m_help->openAddress(QString());
-        m_help->openAddress(QStringLiteral("http://host:port/"));
+        m_help->openAddress(u"http://host:port/"_s);
         QVERIFY(m_machine->starts.isEmpty());
     }
 
-    void nothingIsStartedWithoutABrowser()
+    void noProgramIsStartedWithoutABrowser()
     {
         browserKey().removeValue(QString());
-        m_help->openAddress(QStringLiteral("http://host/"));
+        m_help->openAddress(u"http://host/"_s);
         QVERIFY(m_machine->starts.isEmpty());
     }
 
-    void anEmptyFileOfIdsIsWrittenForTheUser()
+    void anEmptyHelpIdFileIsWrittenForTheUser()
     {
-        const QString written =
-            QDir::toNativeSeparators(System::getUserDataPath() + QStringLiteral("/NVXHelpIds.xml"));
+        const QString written = QDir::toNativeSeparators(System::getUserDataPath() + u"/NVXHelpIds.xml"_s);
         QVERIFY(writeEmptyHelpIds());
         QVERIFY(readFile(written).contains("<help_ids/>"));
         writeFile(written, "old");
@@ -289,18 +286,18 @@ private slots:
         QVERIFY(!readFile(written).contains("old"));
     }
 
-    void anEmptyFileOfIdsThatCannotBeWrittenIsTold_data()
+    void aHelpIdFileThatCannotBeWrittenReturnsFalse_data()
     {
         QTest::addColumn<bool>("hasFolder");
-        QTest::newRow("a file in the folder's place") << false;
-        QTest::newRow("a folder in the file's place") << true;
+        QTest::newRow("a file with the folder's name") << false;
+        QTest::newRow("a folder with the file's name") << true;
     }
 
-    void anEmptyFileOfIdsThatCannotBeWrittenIsTold()
+    void aHelpIdFileThatCannotBeWrittenReturnsFalse()
     {
         QFETCH(const bool, hasFolder);
         if (hasFolder)
-            QVERIFY(QDir().mkpath(System::getUserDataPath() + QStringLiteral("/NVXHelpIds.xml")));
+            QVERIFY(QDir().mkpath(System::getUserDataPath() + u"/NVXHelpIds.xml"_s));
         else
             writeFile(System::getUserDataPath());
         QVERIFY(!writeEmptyHelpIds());
@@ -309,7 +306,7 @@ private slots:
 private:
     static RegistryKey browserKey()
     {
-        return RegistryKey(QStringLiteral("HKEY_CLASSES_ROOT\\http\\shell\\open\\command"));
+        return RegistryKey(u"HKEY_CLASSES_ROOT\\http\\shell\\open\\command"_s);
     }
 
     static void setBrowser(const QString &commandLine)
@@ -317,12 +314,9 @@ private:
         QVERIFY(browserKey().setText(QString(), commandLine));
     }
 
-    static QString sharedFolder() { return System::getProgramDataPath(QStringLiteral("NVX 2017")); }
+    static QString sharedFolder() { return System::getProgramDataPath(u"NVX 2017"_s); }
 
-    QString settingsFile() const
-    {
-        return m_folders->installDir() + QDir::separator() + QStringLiteral("NVXHelpIds.xml");
-    }
+    QString settingsFile() const { return m_folders->installDir() + QDir::separator() + u"NVXHelpIds.xml"_s; }
 
     std::unique_ptr<TestMachine> m_folders;
     std::unique_ptr<RecordingMachine> m_machine;

@@ -3,10 +3,12 @@
 
 #include <QTest>
 
+using namespace Nvx::Help;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const HelpSettings settings{QStringLiteral("http://"), QStringLiteral("host/"), QStringLiteral("?id="),
-                            QStringLiteral("?query="), QStringLiteral(".htm")};
+const HelpSettings settings{u"http://"_s, u"host/"_s, u"?id="_s, u"?query="_s, u".htm"_s};
 
 } // namespace
 
@@ -15,19 +17,19 @@ class tst_help_address : public QObject
     Q_OBJECT
 
 private slots:
-    void theHelpSpeaksThreeLanguages_data()
+    void theHelpHasThreeLanguages_data()
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("German") << QStringLiteral("de-DE") << QStringLiteral("DEU");
-        QTest::newRow("Japanese") << QStringLiteral("ja-JP") << QStringLiteral("JPN");
-        QTest::newRow("English") << QStringLiteral("en-US") << QStringLiteral("ENU");
-        QTest::newRow("French reads English") << QStringLiteral("fr-FR") << QStringLiteral("ENU");
-        QTest::newRow("another German reads English") << QStringLiteral("de-AT") << QStringLiteral("ENU");
-        QTest::newRow("none reads English") << QString() << QStringLiteral("ENU");
+        QTest::newRow("German") << u"de-DE"_s << u"DEU"_s;
+        QTest::newRow("Japanese") << u"ja-JP"_s << u"JPN"_s;
+        QTest::newRow("English") << u"en-US"_s << u"ENU"_s;
+        QTest::newRow("French gets English") << u"fr-FR"_s << u"ENU"_s;
+        QTest::newRow("Austrian German gets English") << u"de-AT"_s << u"ENU"_s;
+        QTest::newRow("an empty locale gets English") << QString() << u"ENU"_s;
     }
 
-    void theHelpSpeaksThreeLanguages()
+    void theHelpHasThreeLanguages()
     {
         QFETCH(QString, locale);
         QTEST(helpLanguage(locale), "expected");
@@ -35,21 +37,19 @@ private slots:
 
     void aTopicsAddressEndsWithTheSuffix()
     {
-        QCOMPARE(topicAddress(settings, QStringLiteral("mesh")), QStringLiteral("http://host/?id=mesh.htm"));
+        QCOMPARE(topicAddress(settings, u"mesh"_s), u"http://host/?id=mesh.htm"_s);
     }
 
-    void withoutSettingsATopicsAddressIsTheBareId()
+    void withoutSettingsATopicsAddressIsTheId()
     {
-        QCOMPARE(topicAddress(HelpSettings(), QStringLiteral("mesh")), QStringLiteral("mesh"));
+        QCOMPARE(topicAddress(HelpSettings(), u"mesh"_s), u"mesh"_s);
     }
 
     void onlyAnOnlineSearchEndsWithTheSuffix()
     {
-        const QString text = QStringLiteral("heat sink");
-        QCOMPARE(searchAddress(settings, HelpPlace::Online, text),
-                 QStringLiteral("http://host/?query=heat sink.htm"));
-        QCOMPARE(searchAddress(settings, HelpPlace::Installed, text),
-                 QStringLiteral("http://host/?query=heat sink"));
+        const QString text = u"heat sink"_s;
+        QCOMPARE(searchAddress(settings, HelpPlace::Online, text), u"http://host/?query=heat sink.htm"_s);
+        QCOMPARE(searchAddress(settings, HelpPlace::Installed, text), u"http://host/?query=heat sink"_s);
     }
 };
 

@@ -6,26 +6,29 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+using namespace Nvx::Help;
+using namespace Qt::Literals::StringLiterals;
+
 class tst_help_button : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void aHelpButtonShowsAPictureAndNoText_data()
+    void aHelpButtonShowsAnIconAndNoText_data()
     {
         QTest::addColumn<bool>("flat");
         QTest::newRow("raised") << false;
         QTest::newRow("flat") << true;
     }
 
-    void aHelpButtonShowsAPictureAndNoText()
+    void aHelpButtonShowsAnIconAndNoText()
     {
         QFETCH(bool, flat);
-        QPushButton button(QStringLiteral("text"));
+        QPushButton button(u"text"_s);
         styleHelpButton(button, flat ? HelpButtonFrame::Flat : HelpButtonFrame::Raised);
         QVERIFY(!button.icon().pixmap(24).isNull());
         QCOMPARE(button.text(), QString());
-        QCOMPARE(button.accessibleName(), QStringLiteral("Help"));
+        QCOMPARE(button.accessibleName(), u"Help"_s);
         QCOMPARE(button.isFlat(), flat);
     }
 
@@ -50,7 +53,7 @@ private slots:
         QCOMPARE(opened, 1);
     }
 
-    void theTitleBarLosesItsHelpButtonOnly()
+    void onlyTheHelpButtonIsRemovedFromTheTitleBar()
     {
         QDialog dialog;
         const Qt::WindowFlags without = dialog.windowFlags() & ~Qt::WindowContextHelpButtonHint;

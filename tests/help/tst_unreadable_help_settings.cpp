@@ -7,18 +7,21 @@
 #include <QRegularExpression>
 #include <QTest>
 
+using namespace Nvx::Help;
+using namespace Qt::Literals::StringLiterals;
+
 class tst_unreadable_help_settings : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void settingsThatCannotBeOpenedAreToldAndLeaveTheBareId()
+    void settingsThatCannotBeOpenedReturnFalse()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); // nothing is read of what is not open
+        QTest::failOnWarning(QRegularExpression(u".*"_s)); // as reading from a closed file would cause
         const TestMachine folders;
         RecordingMachine machine;
         machine.ownFolder = folders.installDir();
-        writeFile(folders.path(QStringLiteral("NVX/NVXHelpIds.xml")),
+        writeFile(folders.path(u"NVX/NVXHelpIds.xml"_s),
                   "<help_ids><help_url online_prefix='x'/></help_ids>");
         // A sanitizer opens a pipe when it meets a type for the first time.
         QVERIFY(ContextHelp(machine).initialise());
@@ -27,9 +30,9 @@ private slots:
             const NoMoreFiles none;
             QVERIFY(!help.initialise());
         }
-        QCOMPARE(help.topicAddress(QStringLiteral("mesh")), QStringLiteral("mesh"));
+        QCOMPARE(help.topicAddress(u"mesh"_s), u"mesh"_s);
         QVERIFY(help.initialise());
-        QVERIFY(help.topicAddress(QStringLiteral("mesh")).startsWith(u'x'));
+        QVERIFY(help.topicAddress(u"mesh"_s).startsWith(u'x'));
     }
 };
 

@@ -10,6 +10,8 @@
 using Nvx::Util::ProgramCall;
 using Nvx::Util::ProgramResult;
 using Outcome = ProgramResult::Outcome;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_command_runner : public QObject
 {
@@ -23,31 +25,30 @@ private slots:
     void aRunIsLoggedWithItsArgumentsFolderAndOutput()
     {
         m_fixture->machine.programResult = {Outcome::Exited, 0, "first\n\n second \n"};
-        const int code =
-            runner().runCommand(text("C:\\a b\\7z.exe"), {text("x"), text("-y")}, text("C:\\work"));
+        const int code = runner().runCommand(u"C:\\a b\\7z.exe"_s, {u"x"_s, u"-y"_s}, u"C:\\work"_s);
         QCOMPARE(code, 0);
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({text("0 Command:C:\\a b\\7z.exe x -y"), text("0 WorkDir:C:\\work"),
-                              text("0 Output:"), text("0   first"), text("0   second")}));
+                 QStringList({u"0 Command:C:\\a b\\7z.exe x -y"_s, u"0 WorkDir:C:\\work"_s, u"0 Output:"_s,
+                              u"0   first"_s, u"0   second"_s}));
     }
 
-    void withoutArgumentsNothingFollowsTheProgram()
+    void withoutArgumentsOnlyTheProgramIsLogged()
     {
-        runner().runCommand(text("a.exe"), {}, text("w"));
-        QCOMPARE(m_fixture->reporter.lines.first(), text("0 Command:a.exe"));
+        runner().runCommand(u"a.exe"_s, {}, u"w"_s);
+        QCOMPARE(m_fixture->reporter.lines.first(), u"0 Command:a.exe"_s);
     }
 
-    void anEmptyWorkFolderIsTheInstallDir()
+    void anEmptyWorkFolderMeansTheInstallDir()
     {
-        runner().runCommand(text("a.exe"), {}, QString());
-        QCOMPARE(m_fixture->reporter.lines.at(1), text("0 WorkDir:") + m_fixture->state.installDir);
+        runner().runCommand(u"a.exe"_s, {}, QString());
+        QCOMPARE(m_fixture->reporter.lines.at(1), u"0 WorkDir:"_s + m_fixture->state.installDir);
         QCOMPARE(m_fixture->machine.calls.first().workFolder, m_fixture->state.installDir);
     }
 
-    void theUsualTimeOutIsThirtySecondsAndMinusOneIsNone()
+    void theUsualTimeOutIsThirtySecondsAndMinusOneMeansNoLimit()
     {
-        runner().runCommand(text("a.exe"), {}, QString());
-        runner().runCommand(text("a.exe"), {}, QString(), -1);
+        runner().runCommand(u"a.exe"_s, {}, QString());
+        runner().runCommand(u"a.exe"_s, {}, QString(), -1);
         QCOMPARE(m_fixture->machine.calls.at(0).timeoutMs, 30000);
         QCOMPARE(m_fixture->machine.calls.at(1).timeoutMs, -1);
     }
@@ -56,25 +57,26 @@ private slots:
     {
         QTest::addColumn<int>("outcome");
         QTest::addColumn<int>("exitCode");
-        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("returned");
         QTest::addColumn<QStringList>("lines");
-        QTest::newRow("255") << int(Outcome::Exited) << 255 << 255
-                             << QStringList({text("255 Output:"), text("255   x")});
-        QTest::newRow("negative") << int(Outcome::Exited) << -5 << -5
-                                  << QStringList({text("-5 Output:"), text("-5   x")});
-        QTest::newRow("not started") << int(Outcome::NotStarted) << 0 << CommandRunner::notStarted
-                                     << QStringList({text("-2 Output:"), text("-2   x"),
-                                                     text("-2   The program could not be started.")});
-        QTest::newRow("hanging") << int(Outcome::TimedOut) << 0 << CommandRunner::timedOut
-                                 << QStringList({text("-1 Output:"), text("-1   x"),
-                                                 text("-1   The program was still running after 30000 ms and "
-                                                      "has been ended.")});
-        QTest::newRow("a result code of Windows")
+        QTest::newRow("exit code 255")
+            << int(Outcome::Exited) << 255 << 255 << QStringList({u"255 Output:"_s, u"255   x"_s});
+        QTest::newRow("a negative exit code")
+            << int(Outcome::Exited) << -5 << -5 << QStringList({u"-5 Output:"_s, u"-5   x"_s});
+        QTest::newRow("a program that cannot be started")
+            << int(Outcome::NotStarted) << 0 << CommandRunner::notStarted
+            << QStringList({u"-2 Output:"_s, u"-2   x"_s, u"-2   The program could not be started."_s});
+        QTest::newRow("a program that hangs")
+            << int(Outcome::TimedOut) << 0 << CommandRunner::timedOut
+            << QStringList({u"-1 Output:"_s, u"-1   x"_s,
+                            u"-1   The program was still running after 30000 ms and "
+                            "has been ended."_s});
+        QTest::newRow("an error number of Windows")
             << int(Outcome::Exited) << static_cast<int>(0x80070005U) << -2147024891
-            << QStringList({text("-2147024891 Output:"), text("-2147024891   x")});
-        QTest::newRow("crashed") << int(Outcome::Crashed) << 139 << 139
-                                 << QStringList({text("139 Output:"), text("139   x"),
-                                                 text("139   The program crashed.")});
+            << QStringList({u"-2147024891 Output:"_s, u"-2147024891   x"_s});
+        QTest::newRow("a program that crashes")
+            << int(Outcome::Crashed) << 139 << 139
+            << QStringList({u"139 Output:"_s, u"139   x"_s, u"139   The program crashed."_s});
     }
 
     void theExitCodeIsTheLevelOfTheOutput()
@@ -82,146 +84,144 @@ private slots:
         QFETCH(int, outcome);
         QFETCH(int, exitCode);
         m_fixture->machine.programResult = {static_cast<Outcome>(outcome), exitCode, "x\n"};
-        QTEST(runner().runCommand(text("a.exe"), {}, QString()), "answer");
+        QTEST(runner().runCommand(u"a.exe"_s, {}, QString()), "returned");
         QTEST(m_fixture->reporter.lines.mid(2), "lines");
     }
 
     void aSystemCommandIsLoggedByItsNameAndStartedFromTheSystemFolder()
     {
-        runner().runSystemCommand(text("regedit"), {text("-s")}, QString());
-        QCOMPARE(m_fixture->reporter.lines.first(), text("0 Command:regedit -s"));
+        runner().runSystemCommand(u"regedit"_s, {u"-s"_s}, QString());
+        QCOMPARE(m_fixture->reporter.lines.first(), u"0 Command:regedit -s"_s);
         QVERIFY(m_fixture->machine.calls.first().place == ProgramCall::Place::SystemFolder);
         QVERIFY(m_fixture->machine.calls.first().quoting == ProgramCall::Quoting::Arguments);
     }
 
-    void aFolderIsRemovedByABatchFileBesideTheInstallDir()
+    void aFolderIsRemovedByABatchFileNextToTheInstallDir()
     {
-        const QString batchFile = m_fixture->state.installDir + text("work.bat");
+        const QString batchFile = m_fixture->state.installDir + u"work.bat"_s;
         QByteArray commandLine;
         m_fixture->machine.whileRunning = [&](const ProgramCall &) { commandLine = readFile(batchFile); };
         m_fixture->machine.programResult = {Outcome::Exited, 0, "gone\r\n"};
-        QVERIFY(runner().removeDirectory(text("C:\\a b\\Lib")));
+        QVERIFY(runner().removeDirectory(u"C:\\a b\\Lib"_s));
 
         QCOMPARE(commandLine, QByteArray("rmdir /s /q \"C:\\a b\\Lib\""));
         QVERIFY(!QFile::exists(batchFile));
         const ProgramCall &call = m_fixture->machine.calls.first();
-        QCOMPARE(call.program, text("cmd.exe"));
-        QCOMPARE(call.arguments, QStringList({text("/C"), batchFile}));
+        QCOMPARE(call.program, u"cmd.exe"_s);
+        QCOMPARE(call.arguments, QStringList({u"/C"_s, batchFile}));
         QVERIFY(call.place == ProgramCall::Place::SystemFolder);
         QVERIFY(call.quoting == ProgramCall::Quoting::CommandInterpreter);
         QCOMPARE(call.timeoutMs, 30000);
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({text("0 Command:cmd.exe /C %1 ").arg(batchFile), text("0  output:gone\r\n")}));
+                 QStringList({u"0 Command:cmd.exe /C %1 "_s.arg(batchFile), u"0  output:gone\r\n"_s}));
     }
 
     void anOldBatchFileIsReplaced()
     {
-        const QString batchFile = m_fixture->state.installDir + text("work.bat");
+        const QString batchFile = m_fixture->state.installDir + u"work.bat"_s;
         writeFile(batchFile, "format c:\r\n");
         QByteArray commandLine;
         m_fixture->machine.whileRunning = [&](const ProgramCall &) { commandLine = readFile(batchFile); };
-        runner().removeDirectory(text("C:\\a"));
+        runner().removeDirectory(u"C:\\a"_s);
         QCOMPARE(commandLine, QByteArray("rmdir /s /q \"C:\\a\""));
     }
 
-    void aBatchFileThatCannotBeMadeIsNotRun()
+    void aBatchFileThatCannotBeCreatedIsNotRun()
     {
-        const QString batchFile = m_fixture->state.installDir + text("work.bat");
-        QVERIFY(QDir().mkpath(batchFile + text("/x"))); // a folder of that name is in the way
-        QVERIFY(runner().removeDirectory(text("C:\\a")));
+        const QString batchFile = m_fixture->state.installDir + u"work.bat"_s;
+        QVERIFY(QDir().mkpath(batchFile + u"/x"_s)); // a folder has that name
+        QVERIFY(runner().removeDirectory(u"C:\\a"_s));
         QVERIFY(m_fixture->machine.calls.isEmpty());
-        QCOMPARE(
-            m_fixture->reporter.lines,
-            QStringList{text("1 Unable to create %1, this folder is not removed: C:\\a").arg(batchFile)});
+        QCOMPARE(m_fixture->reporter.lines,
+                 QStringList{u"1 Unable to create %1, this folder is not removed: C:\\a"_s.arg(batchFile)});
     }
 
-    void aFolderThatTheCodePageCannotNameIsNotRemoved()
+    void aFolderWhoseNameTheCodePageCannotWriteIsNotRemoved()
     {
-        const QString path = text("C:\\a") + QChar(0xD800);
+        const QString path = u"C:\\a"_s + QChar(0xD800);
         QVERIFY(runner().removeDirectory(path));
         QVERIFY(m_fixture->machine.calls.isEmpty());
         QCOMPARE(m_fixture->reporter.lines.size(), 1);
         QVERIFY(m_fixture->reporter.lines.first().endsWith(path));
     }
 
-    void aRemovalWhoseInterpreterFailsIsLoggedAndCountsAsDone()
+    void aRemovalThatFailsIsLoggedAndReturnsTrue()
     {
         m_fixture->machine.programResult = {Outcome::NotStarted, 0, {}};
-        QVERIFY(runner().removeDirectory(text("C:\\a")));
-        QCOMPARE(m_fixture->reporter.lines.last(), text("-2  output:"));
+        QVERIFY(runner().removeDirectory(u"C:\\a"_s));
+        QCOMPARE(m_fixture->reporter.lines.last(), u"-2  output:"_s);
     }
 
-    void theRemovalCommandNamesExactlyTheFolder_data()
+    void theRemovalCommandNamesTheFolder_data()
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("blanks") << text("C:\\a b") << text("rmdir /s /q \"C:\\a b\"");
+        QTest::newRow("blanks are quoted") << u"C:\\a b"_s << u"rmdir /s /q \"C:\\a b\""_s;
         QTest::newRow("a percent sign is doubled")
-            << text("C:\\50% %TEMP%\\x") << text("rmdir /s /q \"C:\\50%% %%TEMP%%\\x\"");
-        QTest::newRow("a double quote is not escaped")
-            << text("C:\\a\"b") << text("rmdir /s /q \"C:\\a\"b\"");
+            << u"C:\\50% %TEMP%\\x"_s << u"rmdir /s /q \"C:\\50%% %%TEMP%%\\x\""_s;
+        QTest::newRow("a double quote is not escaped") << u"C:\\a\"b"_s << u"rmdir /s /q \"C:\\a\"b\""_s;
     }
 
-    void theRemovalCommandNamesExactlyTheFolder()
+    void theRemovalCommandNamesTheFolder()
     {
         QFETCH(QString, path);
         QTEST(removalCommand(path), "expected");
     }
 
-    void filesAreRemovedWhoseUpperCasePathContainsThePattern_data()
+    void filesWhoseUpperCasePathContainsThePatternAreRemoved_data()
     {
         QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QStringList>("left");
-        QTest::newRow(".LOG matches anywhere in the name") << text(".LOG") << QStringList({text("b.txt")});
+        QTest::addColumn<QStringList>("remaining");
+        QTest::newRow(".LOG matches anywhere in the name") << u".LOG"_s << QStringList({u"b.txt"_s});
         QTest::newRow("a lower-case pattern never matches")
-            << text("x.log") << QStringList({text("A.LOGBOOK"), text("X.LOG"), text("b.txt"), text("c.log")});
-        QTest::newRow("one lower-case letter is enough")
-            << text(".LOg") << QStringList({text("A.LOGBOOK"), text("X.LOG"), text("b.txt"), text("c.log")});
-        QTest::newRow("the folder's name counts too") << text("REPORTS") << QStringList();
-        QTest::newRow("nothing matches")
-            << text(".PYC") << QStringList({text("A.LOGBOOK"), text("X.LOG"), text("b.txt"), text("c.log")});
+            << u"x.log"_s << QStringList({u"A.LOGBOOK"_s, u"X.LOG"_s, u"b.txt"_s, u"c.log"_s});
+        QTest::newRow("a pattern with one lower-case letter never matches")
+            << u".LOg"_s << QStringList({u"A.LOGBOOK"_s, u"X.LOG"_s, u"b.txt"_s, u"c.log"_s});
+        QTest::newRow("the folder is part of the path") << u"REPORTS"_s << QStringList();
+        QTest::newRow("a pattern that matches no file")
+            << u".PYC"_s << QStringList({u"A.LOGBOOK"_s, u"X.LOG"_s, u"b.txt"_s, u"c.log"_s});
     }
 
-    void filesAreRemovedWhoseUpperCasePathContainsThePattern()
+    void filesWhoseUpperCasePathContainsThePatternAreRemoved()
     {
         QFETCH(QString, pattern);
-        const QString folder = m_fixture->test.path(text("Reports"));
+        const QString folder = m_fixture->test.path(u"Reports"_s);
         for (const char *name : {"A.LOGBOOK", "X.LOG", "b.txt", "c.log"})
-            writeFile(folder + QLatin1Char('/') + text(name));
-        writeFile(folder + text("/below/d.LOG"));
+            writeFile(folder + u'/' + text(name));
+        writeFile(folder + u"/below/d.LOG"_s);
         QVERIFY(runner().removeMatchingFiles(folder, pattern));
-        QTEST(QDir(folder).entryList(QDir::Files, QDir::Name), "left");
-        QVERIFY(QFile::exists(folder + text("/below/d.LOG")));
+        QTEST(QDir(folder).entryList(QDir::Files, QDir::Name), "remaining");
+        QVERIFY(QFile::exists(folder + u"/below/d.LOG"_s));
     }
 
     void everyRemovalIsLogged()
     {
-        const QString folder = m_fixture->test.path(text("Reports"));
-        writeFile(folder + text("/a.pyc"));
-        runner().removeMatchingFiles(folder, text(".PYC"));
-        QCOMPARE(m_fixture->reporter.lines, QStringList{text("0 Removing:%1/a.pyc").arg(folder)});
+        const QString folder = m_fixture->test.path(u"Reports"_s);
+        writeFile(folder + u"/a.pyc"_s);
+        runner().removeMatchingFiles(folder, u".PYC"_s);
+        QCOMPARE(m_fixture->reporter.lines, QStringList{u"0 Removing:%1/a.pyc"_s.arg(folder)});
     }
 
-    void aHiddenFileIsRemovedLikeAnyOther()
+    void aHiddenFileIsRemovedToo()
     {
-        const QString folder = m_fixture->test.path(text("Reports"));
-        writeFile(folder + text("/.old.pyc"));
-        QVERIFY(runner().removeMatchingFiles(folder, text(".PYC")));
-        QVERIFY(!QFile::exists(folder + text("/.old.pyc")));
+        const QString folder = m_fixture->test.path(u"Reports"_s);
+        writeFile(folder + u"/.old.pyc"_s);
+        QVERIFY(runner().removeMatchingFiles(folder, u".PYC"_s));
+        QVERIFY(!QFile::exists(folder + u"/.old.pyc"_s));
     }
 
-    void aFolderOfTheMatchingNameStays()
+    void aFolderWithAMatchingNameStays()
     {
-        const QString folder = m_fixture->test.path(text("Reports"));
-        writeFile(folder + text("/cache.pyc/x"));
-        runner().removeMatchingFiles(folder, text("CACHE.PYC"));
-        QVERIFY(QFile::exists(folder + text("/cache.pyc/x")));
+        const QString folder = m_fixture->test.path(u"Reports"_s);
+        writeFile(folder + u"/cache.pyc/x"_s);
+        runner().removeMatchingFiles(folder, u"CACHE.PYC"_s);
+        QVERIFY(QFile::exists(folder + u"/cache.pyc/x"_s));
         QVERIFY(m_fixture->reporter.lines.isEmpty());
     }
 
-    void aMissingFolderGivesFalseAndNoLine()
+    void aMissingFolderReturnsFalseAndLogsNothing()
     {
-        QVERIFY(!runner().removeMatchingFiles(m_fixture->test.path(text("missing")), text(".PYC")));
+        QVERIFY(!runner().removeMatchingFiles(m_fixture->test.path(u"missing"_s), u".PYC"_s));
         QVERIFY(m_fixture->reporter.lines.isEmpty());
     }
 

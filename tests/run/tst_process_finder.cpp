@@ -11,6 +11,8 @@
 #include <memory>
 
 using Kind = RecordingProcesses::Kind;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_process_finder : public QObject
 {
@@ -27,7 +29,7 @@ private slots:
     {
         for (const char *path : {"C:\\b\\Beta.exe", "C:\\x\\other.exe", "C:\\a\\alpha.EXE", "D:\\BETA.EXE"})
             running().add(text(path));
-        QCOMPARE(find(OnMatch::List), QStringList({text("Second"), text("First"), text("Second")}));
+        QCOMPARE(find(OnMatch::List), QStringList({u"Second"_s, u"First"_s, u"Second"_s}));
         QVERIFY(running().ended.isEmpty());
         QVERIFY(m_reporter->lines.isEmpty());
     }
@@ -43,11 +45,11 @@ private slots:
     {
         QTest::addColumn<QString>("filter");
         QTest::addColumn<int>("matches");
-        QTest::newRow("none") << QString() << 3;
-        QTest::newRow("digits") << text("2017") << 1;
-        QTest::newRow("upper case") << text("NVX 2016") << 1;
-        QTest::newRow("lower case never matches") << text("nvx") << 0;
-        QTest::newRow("in the file name too") << text("ALPHA") << 3;
+        QTest::newRow("empty") << QString() << 3;
+        QTest::newRow("digits") << u"2017"_s << 1;
+        QTest::newRow("upper case") << u"NVX 2016"_s << 1;
+        QTest::newRow("a filter in lower case never matches") << u"nvx"_s << 0;
+        QTest::newRow("a part of the file name") << u"ALPHA"_s << 3;
     }
 
     void theFilterMustOccurInTheUpperCasePath()
@@ -58,50 +60,49 @@ private slots:
         QTEST(int(find(OnMatch::List, filter).size()), "matches");
     }
 
-    void endingEndsEveryMatchLogsEachAndAnswersNothing()
+    void endingLogsEachProcessAndReturnsAnEmptyList()
     {
         for (const char *path : {"C:\\alpha.exe", "C:\\other.exe", "C:\\beta.exe"})
             running().add(text(path));
         QCOMPARE(find(OnMatch::Terminate), QStringList());
-        QCOMPARE(running().ended, QStringList({text("C:\\alpha.exe"), text("C:\\beta.exe")}));
-        QCOMPARE(m_reporter->lines, QStringList({text("0 First terminated"), text("0 Second terminated")}));
+        QCOMPARE(running().ended, QStringList({u"C:\\alpha.exe"_s, u"C:\\beta.exe"_s}));
+        QCOMPARE(m_reporter->lines, QStringList({u"0 First terminated"_s, u"0 Second terminated"_s}));
     }
 
-    void aProcessThatCannotBeOpenedIsPassedOver()
+    void aProcessThatCannotBeOpenedIsSkipped()
     {
-        running().add(text("C:\\alpha.exe"), Kind::Closed);
-        running().add(text("C:\\beta.exe"));
-        QCOMPARE(find(OnMatch::List), QStringList(text("Second")));
+        running().add(u"C:\\alpha.exe"_s, Kind::Closed);
+        running().add(u"C:\\beta.exe"_s);
+        QCOMPARE(find(OnMatch::List), QStringList(u"Second"_s));
         find(OnMatch::Terminate);
-        QCOMPARE(m_reporter->lines, QStringList(text("0 Second terminated")));
+        QCOMPARE(m_reporter->lines, QStringList(u"0 Second terminated"_s));
     }
 
-    void aProcessThatEndsBeforeItIsEndedIsLoggedAndTheNextIsEndedAllTheSame()
+    void aProcessThatEndsByItselfIsLoggedAndTheNextOneIsEnded()
     {
-        running().add(text("C:\\alpha.exe"), Kind::EndsMeanwhile);
-        running().add(text("C:\\beta.exe"));
+        running().add(u"C:\\alpha.exe"_s, Kind::EndsMeanwhile);
+        running().add(u"C:\\beta.exe"_s);
         find(OnMatch::Terminate);
-        QCOMPARE(m_reporter->lines,
-                 QStringList({text("0 First was not terminated"), text("0 Second terminated")}));
+        QCOMPARE(m_reporter->lines, QStringList({u"0 First was not terminated"_s, u"0 Second terminated"_s}));
     }
 
     void aProcessWithoutANameMatchesNothing()
     {
-        running().list.append({text("<unknown>"), text("<unknown>")});
+        running().list.append({u"<unknown>"_s, u"<unknown>"_s});
         QCOMPARE(find(OnMatch::List), QStringList());
     }
 
-    void processesBeyond1024AreNotSeen()
+    void onlyTheFirst1024ProcessesAreExamined()
     {
         for (int i = 0; i < 1023; ++i)
-            running().add(text("C:\\other.exe"));
-        running().add(text("C:\\alpha.exe"));
-        running().add(text("C:\\beta.exe"));
-        QCOMPARE(find(OnMatch::List), QStringList(text("First")));
+            running().add(u"C:\\other.exe"_s);
+        running().add(u"C:\\alpha.exe"_s);
+        running().add(u"C:\\beta.exe"_s);
+        QCOMPARE(find(OnMatch::List), QStringList(u"First"_s));
         QCOMPARE(running().limits, QList<int>{1024});
     }
 
-    void aMachineThatTellsNoProcessesHasNone() { QCOMPARE(find(OnMatch::List), QStringList()); }
+    void aMachineWithoutAProcessListHasNoMatch() { QCOMPARE(find(OnMatch::List), QStringList()); }
 
 private:
     RecordingProcesses &running() { return m_machine->running; }
@@ -109,8 +110,8 @@ private:
     QStringList find(OnMatch onMatch, const QString &filter = QString())
     {
         const StepContext context{*m_machine, *m_reporter, m_state};
-        return findProcesses(context, {text("ALPHA.EXE"), text("BETA.EXE")}, {text("First"), text("Second")},
-                             onMatch, filter);
+        return findProcesses(context, {u"ALPHA.EXE"_s, u"BETA.EXE"_s}, {u"First"_s, u"Second"_s}, onMatch,
+                             filter);
     }
 
     std::unique_ptr<RecordingMachine> m_machine;

@@ -4,6 +4,9 @@
 
 #include <QTest>
 
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 void protect(const QString &path)
@@ -21,74 +24,73 @@ private slots:
     void aWriteProtectedFileIsRemoved()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("a.dll"));
+        const QString path = folder.path(u"a.dll"_s);
         writeFile(path, "x");
         protect(path);
         QVERIFY(removeProductFile(path));
         QVERIFY(!QFile::exists(path));
     }
 
-    void aFileThatIsNotThereCountsAsRemoved()
+    void aMissingFileCountsAsRemoved()
     {
         const TestFolder folder;
-        for (const auto &name : {QStringLiteral("missing.dll"), QStringLiteral("missing.lnk"),
-                                 QStringLiteral("missing/too.lnk")})
+        for (const auto &name : {u"missing.dll"_s, u"missing.lnk"_s, u"missing/too.lnk"_s})
             QVERIFY(removeProductFile(folder.path(name)));
     }
 
-    void aLinkThatLeadsNowhereIsRemoved()
+    void aLinkWithoutATargetIsRemoved()
     {
         const TestFolder folder;
-        const QString link = folder.path(QStringLiteral("a.lnk"));
-        QVERIFY(QFile::link(folder.path(QStringLiteral("gone.exe")), link));
+        const QString link = folder.path(u"a.lnk"_s);
+        QVERIFY(QFile::link(folder.path(u"gone.exe"_s), link));
         QVERIFY(removeProductFile(link));
-        // A link that leads nowhere is among the names only when they are asked for.
+        // QDir::System includes links without a target.
         QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
                  QStringList());
     }
 
-    void ofALinkTheTargetStays()
+    void theTargetOfARemovedLinkStays()
     {
         const TestFolder folder;
-        const QString target = folder.path(QStringLiteral("a.exe"));
-        const QString link = folder.path(QStringLiteral("a.lnk"));
+        const QString target = folder.path(u"a.exe"_s);
+        const QString link = folder.path(u"a.lnk"_s);
         writeFile(target, "x");
         QVERIFY(QFile::link(target, link));
         QVERIFY(removeProductFile(link));
-        QCOMPARE(namesIn(folder.path()), QStringList(QStringLiteral("a.exe")));
+        QCOMPARE(namesIn(folder.path()), QStringList(u"a.exe"_s));
         QCOMPARE(readFile(target), QByteArray("x"));
     }
 
     void aFolderIsNotRemoved()
     {
         const TestFolder folder;
-        QVERIFY(QDir().mkdir(folder.path(QStringLiteral("a"))));
-        QVERIFY(!removeProductFile(folder.path(QStringLiteral("a"))));
-        QVERIFY(QDir(folder.path(QStringLiteral("a"))).exists());
+        QVERIFY(QDir().mkdir(folder.path(u"a"_s)));
+        QVERIFY(!removeProductFile(folder.path(u"a"_s)));
+        QVERIFY(QDir(folder.path(u"a"_s)).exists());
     }
 
     void aWriteProtectedFileIsReplaced()
     {
         const TestFolder folder;
-        const QString source = folder.path(QStringLiteral("de-DE.dll"));
-        const QString target = folder.path(QStringLiteral("a.dll"));
+        const QString source = folder.path(u"de-DE.dll"_s);
+        const QString target = folder.path(u"a.dll"_s);
         writeFile(source, "new");
         writeFile(target, "old");
         protect(source);
         protect(target);
         QVERIFY(replaceProductFile(source, target));
         QCOMPARE(readFile(target), QByteArray("new"));
-        QVERIFY(replaceProductFile(source, target)); // the copy is write-protected like its source
+        QVERIFY(replaceProductFile(source, target)); // the copy is write-protected, as its source is
         QCOMPARE(readFile(source), QByteArray("new"));
     }
 
     void aTargetThatCannotBeRemovedStays()
     {
         const TestFolder folder;
-        const QString source = folder.path(QStringLiteral("de-DE.dll"));
-        const QString target = folder.path(QStringLiteral("a.dll"));
+        const QString source = folder.path(u"de-DE.dll"_s);
+        const QString target = folder.path(u"a.dll"_s);
         writeFile(source, "new");
-        QVERIFY(QDir().mkdir(target)); // a folder in its place
+        QVERIFY(QDir().mkdir(target)); // a folder has its name
         QVERIFY(!replaceProductFile(source, target));
         QVERIFY(QDir(target).exists());
         QCOMPARE(namesIn(folder.path()).size(), 2);
@@ -97,9 +99,9 @@ private slots:
     void aMissingSourceLeavesNoFile()
     {
         const TestFolder folder;
-        const QString target = folder.path(QStringLiteral("a.dll"));
+        const QString target = folder.path(u"a.dll"_s);
         writeFile(target, "old");
-        QVERIFY(!replaceProductFile(folder.path(QStringLiteral("missing.dll")), target));
+        QVERIFY(!replaceProductFile(folder.path(u"missing.dll"_s), target));
         QVERIFY(!QFile::exists(target));
     }
 };

@@ -5,8 +5,9 @@
 #include <QTest>
 
 using namespace std::chrono_literals;
+using namespace Qt::Literals::StringLiterals;
 
-/// A machine without a service control manager pretends nothing.
+/// A machine without a service control manager reports no services.
 class tst_missing_services : public QObject
 {
     Q_OBJECT
@@ -14,7 +15,7 @@ class tst_missing_services : public QObject
 private slots:
     void everyRequestFails()
     {
-        const QString name = QStringLiteral("NVX 2017 Server");
+        const QString name = u"NVX 2017 Server"_s;
         Nvx::Util::NativeMachine machine;
         QVERIFY(machine.services().state(name) == Nvx::Util::ServiceState::NotInstalled);
         QCOMPARE(machine.services().description(name), QString());

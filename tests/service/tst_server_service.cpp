@@ -12,24 +12,27 @@
 
 #include <memory>
 
+using AtStop = RecordingServices::AtStop;
 using Nvx::Util::joinPath;
 using Nvx::Util::ProgramCall;
 using Nvx::Util::ServiceState;
-using AtStop = RecordingServices::AtStop;
 using Outcome = Nvx::Util::ProgramResult::Outcome;
+using namespace Nvx::Run;
+using namespace Nvx::Service;
 using namespace std::chrono_literals;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString start = text("start NVX 2017 Server");
-const QString stop = text("stop NVX 2017 Server");
-const QString removal = text("remove NVX 2017 Server");
-const QString beginning = text("0 uninstallServer ");
-const QString notStopped = text("0 uninstallServer - could not stop service");
-const QString notInTime = text("The server has not stopped in time and is ended");
-const QString notInstalled = text("0 uninstallServer - service was not installed");
-const QString notUninstalled = text("0 uninstallServer - could not uninstall service");
-const QString ended = text("0 NVXServer terminated");
+const QString start = u"start NVX 2017 Server"_s;
+const QString stop = u"stop NVX 2017 Server"_s;
+const QString removal = u"remove NVX 2017 Server"_s;
+const QString beginning = u"0 uninstallServer "_s;
+const QString notStopped = u"0 uninstallServer - could not stop service"_s;
+const QString notInTime = u"The server has not stopped in time and is ended"_s;
+const QString notInstalled = u"0 uninstallServer - service was not installed"_s;
+const QString notUninstalled = u"0 uninstallServer - could not uninstall service"_s;
+const QString ended = u"0 NVXServer terminated"_s;
 
 } // namespace
 
@@ -49,17 +52,16 @@ private slots:
         m_removedFolders.clear();
         m_state = RunState();
         m_state.installDir = m_test->installDir();
-        m_analyze = joinPath(Nvx::Util::System::getProgramDataPath(text("NVX 2017")), text("Analyze"));
-        m_server = m_test->path(text("NVX/NVXServer.exe"));
+        m_analyze = joinPath(Nvx::Util::System::getProgramDataPath(u"NVX 2017"_s), u"Analyze"_s);
+        m_server = m_test->path(u"NVX/NVXServer.exe"_s);
         writeFile(m_server);
         m_machine->whileRunning = [this](const ProgramCall &call) {
-            if (call.program == text("cmd.exe"))
-                m_removedFolders
-                    << QString::fromUtf8(readFile(call.arguments.last())).section(QLatin1Char('"'), 1, 1);
+            if (call.program == u"cmd.exe"_s)
+                m_removedFolders << QString::fromUtf8(readFile(call.arguments.last())).section(u'"', 1, 1);
             else if (m_machine->service.current == ServiceState::NotInstalled)
                 m_machine->service.current = ServiceState::Stopped; // it registers itself
             else
-                m_machine->programResult.exitCode = 1; // the name is taken
+                m_machine->programResult.exitCode = 1; // the name is in use
         };
     }
 
@@ -68,7 +70,7 @@ private slots:
         QVERIFY(install() == ServerService::Installed::Yes);
         QCOMPARE(m_machine->calls.size(), 1);
         QCOMPARE(m_machine->calls.first().program, m_server);
-        QCOMPARE(m_machine->calls.first().arguments, QStringList{text("-i")});
+        QCOMPARE(m_machine->calls.first().arguments, QStringList{u"-i"_s});
         QCOMPARE(m_machine->service.asked, QStringList{start});
         QVERIFY(m_machine->service.current == ServiceState::Active);
         QVERIFY(m_machine->boxes.isEmpty());
@@ -78,32 +80,32 @@ private slots:
     void theDescriptionIsTheServersOwn()
     {
         install();
-        QCOMPARE(m_service->serviceDescription(), text("as registered"));
-        QCOMPARE(m_service->serviceName(), text("NVX 2017 Server"));
+        QCOMPARE(m_service->serviceDescription(), u"as registered"_s);
+        QCOMPARE(m_service->serviceName(), u"NVX 2017 Server"_s);
     }
 
-    void aMissingServerIsToldOnce()
+    void aMissingServerIsReportedOnce()
     {
         QVERIFY(QFile::remove(m_server));
-        writeFile(joinPath(m_analyze, text("solver_manager.cfg")));
+        writeFile(joinPath(m_analyze, u"solver_manager.cfg"_s));
         QVERIFY(install() == ServerService::Installed::ProgramMissing);
-        QCOMPARE(m_reporter->lines,
-                 QStringList{
-                     text("inform 1 Unable to find server executable; Check_ Installation Directory path:") +
-                     m_server});
-        QVERIFY(m_machine->boxes.isEmpty()); // no box beside that of the reporter
+        QCOMPARE(
+            m_reporter->lines,
+            QStringList{u"inform 1 Unable to find server executable; Check_ Installation Directory path:"_s +
+                        m_server});
+        QVERIFY(m_machine->boxes.isEmpty()); // only the reporter's message box
         QVERIFY(m_machine->calls.isEmpty());
         QVERIFY(m_machine->service.asked.isEmpty());
-        QVERIFY(QFile::exists(joinPath(m_analyze, text("solver_manager.cfg"))));
+        QVERIFY(QFile::exists(joinPath(m_analyze, u"solver_manager.cfg"_s)));
     }
 
     void aFailedRegistrationIsShownAndNotLogged_data()
     {
         QTest::addColumn<int>("outcome");
-        QTest::newRow("the server says so") << int(Outcome::Exited);
-        QTest::newRow("the server crashes") << int(Outcome::Crashed);
-        QTest::newRow("the server cannot be started") << int(Outcome::NotStarted);
-        QTest::newRow("the server hangs") << int(Outcome::TimedOut);
+        QTest::newRow("an exit code of the server") << int(Outcome::Exited);
+        QTest::newRow("a crash") << int(Outcome::Crashed);
+        QTest::newRow("a server that cannot be started") << int(Outcome::NotStarted);
+        QTest::newRow("a server that hangs") << int(Outcome::TimedOut);
     }
 
     void aFailedRegistrationIsShownAndNotLogged()
@@ -115,36 +117,36 @@ private slots:
         QVERIFY(install() == ServerService::Installed::RegistrationFailed);
         QCOMPARE(m_machine->boxes.size(), 1);
         QVERIFY(m_machine->boxes.first().kind == Nvx::Util::BoxKind::Critical);
-        QCOMPARE(m_machine->boxes.first().title, text("Server Error"));
-        QCOMPARE(m_machine->boxes.first().text, text("Unable to install the server"));
+        QCOMPARE(m_machine->boxes.first().title, u"Server Error"_s);
+        QCOMPARE(m_machine->boxes.first().text, u"Unable to install the server"_s);
         QCOMPARE(m_reporter->lines, QStringList());
-        QCOMPARE(diagnostics.list(), QStringList{m_server + text(" has not registered its service")});
+        QCOMPARE(diagnostics.list(), QStringList{m_server + u" has not registered its service"_s});
         QVERIFY(m_machine->service.asked.isEmpty());
     }
 
-    void aServerThatCannotBeStartedIsNotInTheLog()
+    void aServerThatCannotBeStartedIsADiagnosticWarning()
     {
         const RecordedDiagnostics diagnostics;
         m_machine->service.canBeStarted = false;
         QVERIFY(install() == ServerService::Installed::Yes);
         QCOMPARE(m_reporter->lines, QStringList());
         QCOMPARE(diagnostics.list(),
-                 QStringList{text("The server has been registered, but could not be started")});
+                 QStringList{u"The server has been registered, but could not be started"_s});
         QVERIFY(m_machine->boxes.isEmpty());
     }
 
-    void theServerStartsWithoutItsOldConfigurationAndLog()
+    void anInstallRemovesTheOldConfigurationAndLog()
     {
         for (const char *name : {"solver_manager.cfg", "solver_manager.log", "jobs.txt"})
             writeFile(joinPath(m_analyze, text(name)));
         install();
-        QCOMPARE(QDir(m_analyze).entryList(QDir::Files), QStringList{text("jobs.txt")});
+        QCOMPARE(QDir(m_analyze).entryList(QDir::Files), QStringList{u"jobs.txt"_s});
     }
 
-    void uninstallingWhatWasNeverInstalledCleansUpAllTheSame()
+    void uninstallingAMissingServiceRemovesTheFolders()
     {
         uninstall();
-        QCOMPARE(told(), QStringList({beginning, notStopped, notInstalled}));
+        QCOMPARE(reported(), QStringList({beginning, notStopped, notInstalled}));
         QCOMPARE(m_machine->service.asked, QStringList({stop, stop}));
         QVERIFY(m_machine->sleeps.isEmpty());
         assertFoldersRemoved();
@@ -154,14 +156,14 @@ private slots:
     {
         m_machine->service.current = ServiceState::Active;
         uninstall();
-        QCOMPARE(told(), QStringList{beginning});
+        QCOMPARE(reported(), QStringList{beginning});
         QCOMPARE(m_machine->service.asked, QStringList({stop, removal}));
         QVERIFY(m_machine->service.current == ServiceState::NotInstalled);
         QVERIFY(m_machine->sleeps.isEmpty());
         assertFoldersRemoved();
     }
 
-    void theFoldersGoWhenTheServerCannotUseThemAnyMore()
+    void theFoldersAreRemovedAfterTheService()
     {
         m_machine->service.current = ServiceState::Active;
         QList<ServiceState> states;
@@ -174,7 +176,7 @@ private slots:
     {
         m_machine->service.current = ServiceState::Stopped;
         uninstall();
-        QCOMPARE(told(), QStringList({beginning, notStopped}));
+        QCOMPARE(reported(), QStringList({beginning, notStopped}));
         QCOMPARE(m_machine->service.asked, QStringList({stop, stop, removal}));
         QVERIFY(m_machine->service.current == ServiceState::NotInstalled);
     }
@@ -183,21 +185,21 @@ private slots:
     {
         runServer(AtStop::Refuses);
         uninstall();
-        QCOMPARE(told(), QStringList({beginning, notStopped, ended}));
+        QCOMPARE(reported(), QStringList({beginning, notStopped, ended}));
         QCOMPARE(m_machine->service.asked, QStringList({stop, stop, removal}));
         QVERIFY(m_machine->service.current == ServiceState::NotInstalled);
         assertFoldersRemoved();
     }
 
-    void everyProcessOfTheServerIsEndedWithAndWithoutAnExtension()
+    void everyServerProcessIsEndedWithOrWithoutItsExtension()
     {
         for (const char *path : {"C:\\NVX\\NVXServer.exe", "D:\\old\\nvxserver", "D:\\old\\NVXServer.com",
                                  "C:\\NVX\\NVXServer.exe.bak", "C:\\NVXServer\\NVX.exe"})
             m_machine->running.add(text(path));
         uninstall();
         QCOMPARE(m_machine->running.ended,
-                 QStringList({text("C:\\NVX\\NVXServer.exe"), text("D:\\old\\nvxserver")}));
-        QCOMPARE(told(), QStringList({beginning, notStopped, ended, ended, notInstalled}));
+                 QStringList({u"C:\\NVX\\NVXServer.exe"_s, u"D:\\old\\nvxserver"_s}));
+        QCOMPARE(reported(), QStringList({beginning, notStopped, ended, ended, notInstalled}));
     }
 
     void aServiceThatDoesNotStopInTimeIsEnded()
@@ -205,13 +207,13 @@ private slots:
         runServer(AtStop::Hangs);
         const RecordedDiagnostics diagnostics;
         uninstall();
-        QCOMPARE(told(), QStringList({beginning, ended}));
+        QCOMPARE(reported(), QStringList({beginning, ended}));
         QCOMPARE(diagnostics.list(), QStringList{notInTime});
         QCOMPARE(m_machine->service.asked, QStringList({stop, removal}));
         QVERIFY(m_machine->service.current == ServiceState::NotInstalled);
     }
 
-    void aServiceWhoseEndIsNoticedLateIsWaitedFor()
+    void theStepWaitsUntilTheServiceHasStopped()
     {
         m_machine->service.current = ServiceState::Active;
         m_machine->service.atStop = AtStop::Hangs;
@@ -229,11 +231,11 @@ private slots:
         m_machine->service.current = ServiceState::Active;
         m_machine->service.canBeRemoved = false;
         uninstall();
-        QCOMPARE(told(), QStringList({beginning, notUninstalled}));
+        QCOMPARE(reported(), QStringList({beginning, notUninstalled}));
         assertFoldersRemoved();
     }
 
-    void aServiceThatAnotherProgramLooksAtIsWaitedFor()
+    void theStepWaitsWhileAnotherProgramHasTheServiceOpen()
     {
         m_machine->service.current = ServiceState::Active;
         m_machine->service.isLookedAt = true;
@@ -244,34 +246,34 @@ private slots:
         uninstall();
         QVERIFY(install() == ServerService::Installed::Yes);
         QCOMPARE(m_machine->sleeps.size(), 7);
-        QCOMPARE(told(), QStringList{beginning});
+        QCOMPARE(reported(), QStringList{beginning});
         QVERIFY(m_machine->service.current == ServiceState::Active);
     }
 
-    void theWaitForADeletedServiceIsBounded()
+    void theWaitForADeletedServiceIsLimited()
     {
         m_machine->service.current = ServiceState::Active;
         m_machine->service.isLookedAt = true;
         const RecordedDiagnostics diagnostics;
         uninstall();
         QCOMPARE(m_machine->sleeps, QList<std::chrono::milliseconds>(100, 100ms));
-        QCOMPARE(told(), QStringList{beginning});
-        QCOMPARE(diagnostics.list(), QStringList{text("The service will be deleted once it has stopped and "
-                                                      "no other program has it open")});
+        QCOMPARE(reported(), QStringList{beginning});
+        QCOMPARE(diagnostics.list(), QStringList{u"The service will be deleted once it has stopped and "
+                                                 "no other program has it open"_s});
         assertFoldersRemoved();
         QVERIFY(install() == ServerService::Installed::RegistrationFailed);
     }
 
-    void theWaitForAServiceThatCannotBeEndedIsBounded()
+    void theWaitForAServiceThatCannotBeEndedIsLimited()
     {
         m_machine->service.current = ServiceState::Active;
         m_machine->service.atStop = AtStop::Refuses;
         uninstall();
-        QCOMPARE(m_machine->sleeps.size(), 200); // for its end, and for its name
+        QCOMPARE(m_machine->sleeps.size(), 200); // for the stop and for the name, 100 each
         assertFoldersRemoved();
     }
 
-    void aReinstallEndsWithAFreshServiceThatRuns_data()
+    void aReinstallEndsWithANewRunningService_data()
     {
         QTest::addColumn<int>("state");
         QTest::addColumn<int>("atStop");
@@ -279,10 +281,10 @@ private slots:
         QTest::newRow("stopped") << int(ServiceState::Stopped) << int(AtStop::Stops);
         QTest::newRow("running") << int(ServiceState::Active) << int(AtStop::Stops);
         QTest::newRow("refusing to stop") << int(ServiceState::Active) << int(AtStop::Refuses);
-        QTest::newRow("hanging at the stop") << int(ServiceState::Active) << int(AtStop::Hangs);
+        QTest::newRow("hanging while it stops") << int(ServiceState::Active) << int(AtStop::Hangs);
     }
 
-    void aReinstallEndsWithAFreshServiceThatRuns()
+    void aReinstallEndsWithANewRunningService()
     {
         QFETCH(int, state);
         QFETCH(int, atStop);
@@ -301,29 +303,29 @@ private:
     void uninstall() { server().uninstall(); }
     ServerService server() { return {{*m_machine, *m_reporter, m_state}, *m_service}; }
 
-    // The service runs, and its process can be found.
+    // Makes the service active, with a process that can be found.
     void runServer(AtStop atStop)
     {
         m_machine->service.current = ServiceState::Active;
         m_machine->service.atStop = atStop;
-        m_machine->running.add(text("C:\\NVX\\NVXServer.exe"));
-        m_machine->running.add(text("C:\\NVX\\NVXMonitor.exe"));
-        // That the process has ended is noticed a moment later.
+        m_machine->running.add(u"C:\\NVX\\NVXServer.exe"_s);
+        m_machine->running.add(u"C:\\NVX\\NVXMonitor.exe"_s);
+        // The service control manager notices the end of the process a moment later.
         m_machine->afterSleep = [this] {
-            if (m_machine->running.ended == QStringList{text("C:\\NVX\\NVXServer.exe")})
+            if (m_machine->running.ended == QStringList{u"C:\\NVX\\NVXServer.exe"_s})
                 m_machine->service.endProcess();
         };
     }
 
     void assertFoldersRemoved() const
     {
-        QCOMPARE(m_removedFolders, QStringList({m_analyze, m_test->path(text("NVX/HPCAnalyze"))}));
+        QCOMPARE(m_removedFolders, QStringList({m_analyze, m_test->path(u"NVX/HPCAnalyze"_s)}));
     }
 
-    // What was reported, without the external programs.
-    QStringList told() const
+    // The reported lines, without those of external programs.
+    QStringList reported() const
     {
-        static const QRegularExpression ofPrograms(text("^0 (Command:| output:)"));
+        static const QRegularExpression ofPrograms(u"^0 (Command:| output:)"_s);
         QStringList lines;
         for (const QString &line : std::as_const(m_reporter->lines)) {
             if (!ofPrograms.match(line).hasMatch())

@@ -16,11 +16,13 @@ using Nvx::Util::NativeMachine;
 using Nvx::Util::RegistryKey;
 using Nvx::Util::ServiceState;
 using Nvx::Util::ServiceStop;
+using namespace Nvx::Service;
 using namespace std::chrono_literals;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString name = text("NVX 2017 Server");
+const QString name = u"NVX 2017 Server"_s;
 
 } // namespace
 
@@ -33,7 +35,7 @@ private slots:
     void init()
     {
         m_folder = std::make_unique<TestFolder>();
-        m_server = m_folder->path(text("Program Files (x86)/Größe 2017/NVXServer.exe"));
+        m_server = m_folder->path(u"Program Files (x86)/Größe 2017/NVXServer.exe"_s);
         QVERIFY(QDir().mkpath(QFileInfo(m_server).path()));
         QVERIFY(QFile::copy(text(NVX_SERVER), m_server));
         m_machine = std::make_unique<NativeMachine>();
@@ -50,7 +52,7 @@ private slots:
         m_folder.reset();
     }
 
-    void aServiceLivesThroughItsLife()
+    void aServiceIsInstalledStartedStoppedAndDeleted()
     {
         QVERIFY(install());
         QVERIFY(service().isInstalled());
@@ -63,42 +65,41 @@ private slots:
         QVERIFY(!service().isInstalled());
     }
 
-    void theRegistrationIsTheProgramsOwn()
+    void theProgramRegistersItsOwnDescriptionAndPath()
     {
         QVERIFY(install());
-        QCOMPARE(service().serviceDescription(), text("Sample server: registered by itself."));
-        const RegistryKey key(text("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\") + name);
-        QCOMPARE(key.text(text("ImagePath")),
-                 std::optional<QString>(QLatin1Char('"') + m_server + QLatin1Char('"')));
+        QCOMPARE(service().serviceDescription(), u"Sample server: registered by itself."_s);
+        const RegistryKey key(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"_s + name);
+        QCOMPARE(key.text(u"ImagePath"_s), std::optional<QString>(u'"' + m_server + u'"'));
     }
 
-    void aStopWaitsForTheProcess()
+    void aStopWaitsUntilTheProcessHasEnded()
     {
         QVERIFY(install());
         QVERIFY(service().start());
         QVERIFY(m_machine->services().stop(name, 10s) == ServiceStop::Stopped);
-        QVERIFY(QFile::remove(m_server)); // nobody runs it any more
+        QVERIFY(QFile::remove(m_server)); // possible only when it does not run
     }
 
-    void aServiceThatDoesNotRunRefusesTheStop()
+    void aServiceThatIsNotRunningRefusesTheStop()
     {
         QVERIFY(m_machine->services().stop(name, 10s) == ServiceStop::Refused);
         QVERIFY(install());
         QVERIFY(m_machine->services().stop(name, 10s) == ServiceStop::Refused);
     }
 
-    void aServiceMayRefuseTheStop()
+    void aServiceCanRefuseTheStop()
     {
-        tell(".refuses-to-stop");
+        setBehaviour(".refuses-to-stop");
         QVERIFY(install());
         QVERIFY(service().start());
         QVERIFY(!service().stop());
         QVERIFY(m_machine->services().state(name) == ServiceState::Active);
     }
 
-    void theWaitForAStopIsBounded()
+    void theWaitForAStopIsLimited()
     {
-        tell(".hangs-at-stop");
+        setBehaviour(".hangs-at-stop");
         QVERIFY(install());
         QVERIFY(service().start());
         QElapsedTimer since;
@@ -108,30 +109,30 @@ private slots:
         QVERIFY(m_machine->services().state(name) == ServiceState::Active);
     }
 
-    void aRemovedServiceThatRunsGoesWhenItStops()
+    void aRemovedServiceDisappearsWhenItStops()
     {
         QVERIFY(install());
         QVERIFY(service().start());
         QVERIFY(service().uninstall());
-        QVERIFY(!install()); // its name is taken
+        QVERIFY(!install()); // its name is in use
         QVERIFY(service().stop());
         QTRY_VERIFY(!service().isInstalled());
         QVERIFY(install());
     }
 
-    void aProgramThatFailsToRegisterIsNoSuccess()
+    void aProgramThatFailsToRegisterReturnsFalse()
     {
-        tell(".fails-to-register");
+        setBehaviour(".fails-to-register");
         QVERIFY(!install());
         QVERIFY(!service().isInstalled());
     }
 
-    void aMissingProgramIsNoSuccess()
+    void aMissingProgramReturnsFalse()
     {
-        QVERIFY(!ServiceController::install(*m_machine, m_server + text(".missing"), QString(), QString()));
+        QVERIFY(!ServiceController::install(*m_machine, m_server + u".missing"_s, QString(), QString()));
     }
 
-    void anUnknownServiceHasNothing()
+    void everyRequestToAnUnknownServiceFails()
     {
         QVERIFY(!service().start());
         QVERIFY(!service().uninstall());
@@ -147,7 +148,7 @@ private:
 
     NvxService service() { return NvxService(*m_machine); }
     bool install() { return NvxService::install(*m_machine, m_server, QString(), QString()); }
-    void tell(const char *ending) const { writeFile(m_server + text(ending)); }
+    void setBehaviour(const char *ending) const { writeFile(m_server + text(ending)); }
 
     std::unique_ptr<TestFolder> m_folder;
     std::unique_ptr<NativeMachine> m_machine;

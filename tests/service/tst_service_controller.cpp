@@ -1,13 +1,14 @@
 #include "service/nvx_service.h"
 #include "support/recording_machine.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
 using Nvx::Util::ProgramResult;
 using Nvx::Util::ServiceState;
 using Outcome = ProgramResult::Outcome;
+using namespace Nvx::Service;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_service_controller : public QObject
 {
@@ -16,9 +17,9 @@ class tst_service_controller : public QObject
 private slots:
     void init() { m_machine = std::make_unique<RecordingMachine>(); }
 
-    void theProductsServiceHasItsFixedName()
+    void theProductsServiceHasAFixedName()
     {
-        QCOMPARE(NvxService(*m_machine).serviceName(), text("NVX 2017 Server"));
+        QCOMPARE(NvxService(*m_machine).serviceName(), u"NVX 2017 Server"_s);
     }
 
     void theProgramRegistersItself_data()
@@ -26,24 +27,23 @@ private slots:
         QTest::addColumn<QString>("account");
         QTest::addColumn<QString>("password");
         QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("under the default account") << QString() << QString() << QStringList{text("-i")};
-        QTest::newRow("under an account of its own")
-            << text("nvx") << text("secret word")
-            << QStringList{text("-i"), text("nvx"), text("secret word")};
+        QTest::newRow("under the default account") << QString() << QString() << QStringList{u"-i"_s};
+        QTest::newRow("under a given account")
+            << u"nvx"_s << u"secret word"_s << QStringList{u"-i"_s, u"nvx"_s, u"secret word"_s};
     }
 
     void theProgramRegistersItself()
     {
         QFETCH(QString, account);
         QFETCH(QString, password);
-        QVERIFY(ServiceController::install(*m_machine, text("/opt/a b/NVXServer.exe"), account, password));
+        QVERIFY(ServiceController::install(*m_machine, u"/opt/a b/NVXServer.exe"_s, account, password));
         QCOMPARE(m_machine->calls.size(), 1);
-        QCOMPARE(m_machine->calls.first().program, text("/opt/a b/NVXServer.exe"));
+        QCOMPARE(m_machine->calls.first().program, u"/opt/a b/NVXServer.exe"_s);
         QTEST(m_machine->calls.first().arguments, "arguments");
         QVERIFY(m_machine->service.asked.isEmpty());
     }
 
-    void theProgramsEndDecidesOnSuccess_data()
+    void onlyExitCodeZeroIsASuccess_data()
     {
         QTest::addColumn<int>("outcome");
         QTest::addColumn<int>("exitCode");
@@ -56,12 +56,12 @@ private slots:
         QTest::newRow("still running at the time-out") << int(Outcome::TimedOut) << 0 << false;
     }
 
-    void theProgramsEndDecidesOnSuccess()
+    void onlyExitCodeZeroIsASuccess()
     {
         QFETCH(int, outcome);
         QFETCH(int, exitCode);
         m_machine->programResult = {static_cast<Outcome>(outcome), exitCode, {}};
-        QTEST(ServiceController::install(*m_machine, text("a.exe"), QString(), QString()), "success");
+        QTEST(ServiceController::install(*m_machine, u"a.exe"_s, QString(), QString()), "success");
     }
 
     void aServiceIsInstalledWhenItsNameIsKnown_data()
@@ -77,42 +77,41 @@ private slots:
     {
         QFETCH(int, state);
         m_machine->service.current = static_cast<ServiceState>(state);
-        QTEST(ServiceController(*m_machine, text("x")).isInstalled(), "installed");
+        QTEST(ServiceController(*m_machine, u"x"_s).isInstalled(), "installed");
     }
 
     void everyRequestNamesTheService()
     {
         m_machine->service.current = ServiceState::Stopped;
-        ServiceController controller(*m_machine, text("x y"));
+        ServiceController controller(*m_machine, u"x y"_s);
         QVERIFY(controller.start());
         QVERIFY(controller.stop());
         QVERIFY(controller.uninstall());
-        QCOMPARE(m_machine->service.asked,
-                 QStringList({text("start x y"), text("stop x y"), text("remove x y")}));
+        QCOMPARE(m_machine->service.asked, QStringList({u"start x y"_s, u"stop x y"_s, u"remove x y"_s}));
     }
 
-    void whatTheMachineRefusesIsFalse()
+    void aRefusedRequestReturnsFalse()
     {
-        ServiceController controller(*m_machine, text("x"));
+        ServiceController controller(*m_machine, u"x"_s);
         QVERIFY(!controller.start());
         QVERIFY(!controller.stop());
         QVERIFY(!controller.uninstall());
     }
 
-    void anAcceptedStopIsTrueWhateverComesOfIt()
+    void anAcceptedStopReturnsTrueEvenIfTheServiceHangs()
     {
         m_machine->service.current = ServiceState::Active;
         m_machine->service.atStop = RecordingServices::AtStop::Hangs;
-        QVERIFY(ServiceController(*m_machine, text("x")).stop());
+        QVERIFY(ServiceController(*m_machine, u"x"_s).stop());
     }
 
     void nameAndDescriptionAreCopies()
     {
-        ServiceController controller(*m_machine, text("x"));
-        controller.serviceDescription() = text("another");
-        controller.serviceName() = text("another");
-        QCOMPARE(controller.serviceDescription(), text("as registered"));
-        QCOMPARE(controller.serviceName(), text("x"));
+        ServiceController controller(*m_machine, u"x"_s);
+        controller.serviceDescription() = u"another"_s;
+        controller.serviceName() = u"another"_s;
+        QCOMPARE(controller.serviceDescription(), u"as registered"_s);
+        QCOMPARE(controller.serviceName(), u"x"_s);
     }
 
 private:

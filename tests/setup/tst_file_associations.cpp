@@ -4,7 +4,6 @@
 #include "setup/setup_fixture.h"
 #include "support/recorded_diagnostics.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
@@ -12,12 +11,15 @@
 
 using Nvx::Util::ProgramCall;
 using Nvx::Util::ProgramResult;
+using namespace Nvx::Run;
+using namespace Nvx::Setup;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QByteArray asFile(const QStringList &lines)
+QByteArray scriptOf(const QStringList &lines)
 {
-    return (lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8();
+    return (lines.join(u'\n') + u'\n').toUtf8();
 }
 
 } // namespace
@@ -33,7 +35,7 @@ private slots:
     {
         m_fixture = std::make_unique<SetupFixture>();
         m_imported.clear();
-        m_fixture->state.installDirEscaped = text("C:\\\\NVX");
+        m_fixture->state.installDirEscaped = u"C:\\\\NVX"_s;
         m_script = m_fixture->installed("FileAssociations.reg");
         m_fixture->machine.whileRunning = [this](const ProgramCall &call) {
             m_imported << readFile(call.arguments.last());
@@ -43,7 +45,7 @@ private slots:
     void anInstallRemovesTheTypesAndThenCreatesThem()
     {
         QCOMPARE(run(RunMode::Install), 0);
-        QCOMPARE(m_imported, QList<QByteArray>({asFile(removal()), asFile(creation())}));
+        QCOMPARE(m_imported, QList<QByteArray>({scriptOf(removal()), scriptOf(creation())}));
     }
 
     void inEveryOtherModeTheTypesAreOnlyRemoved_data()
@@ -51,24 +53,24 @@ private slots:
         QTest::addColumn<int>("mode");
         QTest::newRow("uninstall") << int(RunMode::Uninstall);
         QTest::newRow("stop services") << int(RunMode::StopServices);
-        QTest::newRow("none given") << int(RunMode::NotGiven);
+        QTest::newRow("no mode") << int(RunMode::NotGiven);
     }
 
     void inEveryOtherModeTheTypesAreOnlyRemoved()
     {
         QFETCH(int, mode);
         QCOMPARE(run(static_cast<RunMode>(mode)), 0);
-        QCOMPARE(m_imported, QList<QByteArray>{asFile(removal())});
+        QCOMPARE(m_imported, QList<QByteArray>{scriptOf(removal())});
     }
 
-    void theRegistryEditorOfTheSystemImportsSilently()
+    void theSystemsRegistryEditorImportsSilently()
     {
         run(RunMode::Install);
         QCOMPARE(m_fixture->machine.calls.size(), 2);
         for (const ProgramCall &call : std::as_const(m_fixture->machine.calls)) {
             QVERIFY(call.place == ProgramCall::Place::SystemFolder);
-            QCOMPARE(call.program, text("regedit"));
-            QCOMPARE(call.arguments, QStringList({text("-s"), m_script}));
+            QCOMPARE(call.program, u"regedit"_s);
+            QCOMPARE(call.arguments, QStringList({u"-s"_s, m_script}));
             QCOMPARE(call.workFolder, m_fixture->state.installDir);
             QCOMPARE(call.timeoutMs, 30000);
         }
@@ -77,90 +79,90 @@ private slots:
     void theScriptAndItsImportsAreLogged()
     {
         run(RunMode::Install);
-        const QStringList import = {text("0 Command:regedit -s ") + m_script,
-                                    text("0 WorkDir:") + m_fixture->state.installDir, text("0 Output:")};
+        const QStringList import = {u"0 Command:regedit -s "_s + m_script,
+                                    u"0 WorkDir:"_s + m_fixture->state.installDir, u"0 Output:"_s};
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({text("progress 0 Create file associations"), text("0 ") + m_script}) + import +
+                 QStringList({u"progress 0 Create file associations"_s, u"0 "_s + m_script}) + import +
                      import);
     }
 
-    void theScriptIsThereOnlyWhileItIsImported()
+    void theScriptIsRemovedAfterTheImport()
     {
         run(RunMode::Install);
         QVERIFY(!QFile::exists(m_script));
     }
 
-    void anOldScriptIsNeverImported_data()
+    void anExistingScriptIsNeverImported_data()
     {
         QTest::addColumn<bool>("writeProtected");
-        QTest::newRow("usual") << false;
+        QTest::newRow("writable") << false;
         QTest::newRow("write-protected") << true;
     }
 
-    void anOldScriptIsNeverImported()
+    void anExistingScriptIsNeverImported()
     {
         QFETCH(bool, writeProtected);
-        writeFile(m_script, "somebody else's");
+        writeFile(m_script, "foreign");
         if (writeProtected)
             QFile::setPermissions(m_script, QFile::ReadOwner);
         run(RunMode::Uninstall);
-        QCOMPARE(m_imported, QList<QByteArray>{asFile(removal())});
+        QCOMPARE(m_imported, QList<QByteArray>{scriptOf(removal())});
         QVERIFY(!QFile::exists(m_script));
     }
 
-    void aScriptThatCannotBeCreatedIsNotLoggedAndNothingIsImported()
+    void aScriptThatCannotBeCreatedIsADiagnosticWarning()
     {
         const RecordedDiagnostics diagnostics;
-        QVERIFY(QDir().mkpath(m_script)); // a folder is in its place
+        QVERIFY(QDir().mkpath(m_script)); // a folder has its name
         QCOMPARE(run(RunMode::Install), 0);
         QVERIFY(m_fixture->machine.calls.isEmpty());
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({text("progress 0 Create file associations"), text("0 ") + m_script}));
-        QCOMPARE(diagnostics.list(), QStringList(2, text("Unable to create ") + m_script));
+                 QStringList({u"progress 0 Create file associations"_s, u"0 "_s + m_script}));
+        QCOMPARE(diagnostics.list(), QStringList(2, u"Unable to create "_s + m_script));
         QVERIFY(QDir(m_script).exists());
     }
 
-    void aMissingRegistryEditorStopsNothing()
+    void aMissingRegistryEditorDoesNotStopTheStep()
     {
         m_fixture->machine.programResult = {ProgramResult::Outcome::NotStarted, 0, {}};
         QCOMPARE(run(RunMode::Install), 0);
-        QCOMPARE(m_fixture->reporter.lines.filter(text("-2   The program could not be started.")).size(), 2);
+        QCOMPARE(m_fixture->reporter.lines.filter(u"-2   The program could not be started."_s).size(), 2);
         QVERIFY(!QFile::exists(m_script));
     }
 
-    void umlautsArriveInTheCodePage()
+    void scriptsAreWrittenInTheSystemsCodePage()
     {
-        const QString folder = text("C:\\\\größe");
+        const QString folder = u"C:\\\\größe"_s;
         m_fixture->state.installDirEscaped = folder;
         run(RunMode::Install);
         QCOMPARE(m_imported.size(), 2);
         QCOMPARE(m_imported.last().count(Nvx::Util::toAnsi(folder).value_or("")), 6);
     }
 
-    void aFolderThatTheCodePageCannotWriteIsNotWrittenWrong()
+    void aFolderThatTheCodePageCannotWriteIsNotImported()
     {
-        m_fixture->state.installDirEscaped = text("C:\\\\") + QChar(0xD800);
+        m_fixture->state.installDirEscaped = u"C:\\\\"_s + QChar(0xD800);
         QCOMPARE(run(RunMode::Install), 0);
-        QCOMPARE(m_imported, QList<QByteArray>{asFile(removal())});
+        QCOMPARE(m_imported, QList<QByteArray>{scriptOf(removal())});
         QCOMPARE(m_fixture->reporter.lines.last(),
-                 text("1 The system's code page cannot write the folder, no files are associated with the "
-                      "product: ") +
+                 u"1 The system's code page cannot write the folder, no files are associated with the "
+                 "product: "_s +
                      m_fixture->state.installDir);
     }
 
-    void anInstallDirLeftUnknownIsNotWritten()
+    void withoutAnInstallDirOnlyTheRemovalIsImported()
     {
         m_fixture->state.installDirEscaped.clear();
         run(RunMode::Install);
-        QCOMPARE(m_imported, QList<QByteArray>{asFile(removal())});
+        QCOMPARE(m_imported, QList<QByteArray>{scriptOf(removal())});
         QCOMPARE(m_fixture->reporter.lines.last(),
-                 text("1 The install folder is not known, no files are associated"));
+                 u"1 The install folder is not known, no files are associated"_s);
     }
 
 private:
     int run(RunMode mode) { return createFileAssociations(m_fixture->context(), mode); }
 
-    static AssociationNames names() { return associationNamesOf(text("2017")); }
+    static AssociationNames names() { return associationNamesOf(u"2017"_s); }
     static QStringList removal() { return removalScript(names()); }
     QStringList creation() const { return creationScript(names(), m_fixture->state.installDirEscaped); }
 

@@ -1,9 +1,12 @@
-#include "setup/lumara.h"
 #include "setup/setup_fixture.h"
+#include "setup/user_files.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
+
+using namespace Nvx::Run;
+using namespace Nvx::Setup;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_lumara : public QObject
 {
@@ -17,36 +20,36 @@ private slots:
         fixture.machine.whileRunning = [&](const Nvx::Util::ProgramCall &call) {
             commandLine = QString::fromUtf8(readFile(call.arguments.last()));
         };
-        cleanLumara(fixture.context(), RunMode::Uninstall);
+        UserFiles(fixture.context()).cleanLumara(RunMode::Uninstall);
         QCOMPARE(fixture.machine.calls.size(), 1);
-        QCOMPARE(commandLine, text("rmdir /s /q \"%1\"").arg(fixture.installed("WebServices")));
+        QCOMPARE(commandLine, u"rmdir /s /q \"%1\""_s.arg(fixture.installed("WebServices")));
     }
 
-    void itsFilesInTheInstallDirStay()
+    void theNotificationCentresFilesStay()
     {
         SetupFixture fixture;
-        const QStringList files = {text("Lumara.log"), text("lumara.xml"), text("Kelvane_2014_WF50.dll"),
-                                   text("LUMARA.LOG")};
+        const QStringList files = {u"Lumara.log"_s, u"lumara.xml"_s, u"Kelvane_2014_WF50.dll"_s,
+                                   u"LUMARA.LOG"_s};
         for (const QString &file : files)
             writeFile(fixture.installed(file.toUtf8().constData()));
-        cleanLumara(fixture.context(), RunMode::Uninstall);
+        UserFiles(fixture.context()).cleanLumara(RunMode::Uninstall);
         for (const QString &file : files)
             QVERIFY2(QFile::exists(fixture.installed(file.toUtf8().constData())), qPrintable(file));
-        QVERIFY(fixture.reporter.lines.filter(text("Removing:")).isEmpty());
+        QVERIFY(fixture.reporter.lines.filter(u"Removing:"_s).isEmpty());
     }
 
-    void inOtherModesNothingHappens_data()
+    void inOtherModesNothingIsRemoved_data()
     {
         QTest::addColumn<int>("mode");
         QTest::newRow("install") << int(RunMode::Install);
         QTest::newRow("stop services") << int(RunMode::StopServices);
     }
 
-    void inOtherModesNothingHappens()
+    void inOtherModesNothingIsRemoved()
     {
         QFETCH(int, mode);
         SetupFixture fixture;
-        cleanLumara(fixture.context(), static_cast<RunMode>(mode));
+        UserFiles(fixture.context()).cleanLumara(static_cast<RunMode>(mode));
         QVERIFY(fixture.machine.calls.isEmpty());
         QVERIFY(fixture.reporter.lines.isEmpty());
     }

@@ -3,18 +3,20 @@
 #include "setup/setup_fixture.h"
 #include "support/recorded_diagnostics.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
 
 using Nvx::Util::joinPath;
+using namespace Nvx::Run;
+using namespace Nvx::Setup;
 using namespace std::chrono_literals;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString checking = text("progress 0 Checking material database");
+const QString checking = u"progress 0 Checking material database"_s;
 
 } // namespace
 
@@ -29,12 +31,12 @@ private slots:
     {
         m_fixture = std::make_unique<SetupFixture>();
         m_fixture->test.unsetVariable("OSTRADE2016DIR");
-        // The program's folder is the one that counts, wherever the install dir is.
-        m_fixture->state.installDir = m_fixture->test.path(text("elsewhere"));
-        m_sharedData = Nvx::Util::System::getProgramDataPath(text("NVX 2017"));
-        m_shipped = joinPath(m_fixture->machine.ownFolder, text("matprop.mdb"));
-        m_working = joinPath(m_sharedData, text("matprop.nvxmdb"));
-        m_previous = joinPath(m_sharedData, text("Materials 2016.nvxmdb"));
+        // The step uses the program's folder, not the install dir.
+        m_fixture->state.installDir = m_fixture->test.path(u"elsewhere"_s);
+        m_sharedData = Nvx::Util::System::getProgramDataPath(u"NVX 2017"_s);
+        m_shipped = joinPath(m_fixture->machine.ownFolder, u"matprop.mdb"_s);
+        m_working = joinPath(m_sharedData, u"matprop.nvxmdb"_s);
+        m_previous = joinPath(m_sharedData, u"Materials 2016.nvxmdb"_s);
         writeFile(m_shipped, "shipped");
     }
 
@@ -44,21 +46,21 @@ private slots:
         QCOMPARE(check(RunMode::Install), 0);
         QCOMPARE(readFile(m_working), QByteArray("shipped"));
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({checking, text("0 Copy: %1 to: %2").arg(m_shipped, m_working)}));
-        QCOMPARE(filesOfSharedData(), QStringList{text("matprop.nvxmdb")});
+                 QStringList({checking, u"0 Copy: %1 to: %2"_s.arg(m_shipped, m_working)}));
+        QCOMPARE(filesOfSharedData(), QStringList{u"matprop.nvxmdb"_s});
         QVERIFY(m_fixture->machine.sleeps.isEmpty());
     }
 
-    void anExistingDatabaseIsTheUsers_data()
+    void anExistingDatabaseIsNotChanged_data()
     {
         QTest::addColumn<QByteArray>("users");
         QTest::addColumn<bool>("isProtected");
-        QTest::newRow("with their materials") << QByteArray("shipped, and mine") << false;
+        QTest::newRow("with materials of the user") << QByteArray("shipped, and mine") << false;
         QTest::newRow("empty") << QByteArray("") << false;
         QTest::newRow("write-protected") << QByteArray("mine") << true;
     }
 
-    void anExistingDatabaseIsTheUsers()
+    void anExistingDatabaseIsNotChanged()
     {
         QFETCH(QByteArray, users);
         QFETCH(bool, isProtected);
@@ -71,32 +73,32 @@ private slots:
         QCOMPARE(m_fixture->reporter.lines, QStringList{checking});
     }
 
-    void aCopyThatWasCutOffGoes_data()
+    void anUnfinishedCopyIsRemoved_data()
     {
         QTest::addColumn<RunMode>("mode");
-        QTest::newRow("at an install") << RunMode::Install;
-        QTest::newRow("at a removal") << RunMode::Uninstall;
+        QTest::newRow("install") << RunMode::Install;
+        QTest::newRow("uninstall") << RunMode::Uninstall;
     }
 
-    void aCopyThatWasCutOffGoes()
+    void anUnfinishedCopyIsRemoved()
     {
         QFETCH(RunMode, mode);
         writeFile(m_working, "mine");
-        writeFile(m_working + text(".nvxpart"), "half");
-        writeFile(m_previous + text(".nvxpart"), "half");
-        writeFile(joinPath(m_sharedData, text("mine.nvxpart")), "mine");
+        writeFile(m_working + u".nvxpart"_s, "half");
+        writeFile(m_previous + u".nvxpart"_s, "half");
+        writeFile(joinPath(m_sharedData, u"mine.nvxpart"_s), "mine");
         check(mode);
-        QStringList left{text("mine.nvxpart")};
+        QStringList remaining{u"mine.nvxpart"_s};
         if (mode == RunMode::Install)
-            left << text("matprop.nvxmdb");
-        left.sort();
-        QCOMPARE(filesOfSharedData(), left);
+            remaining << u"matprop.nvxmdb"_s;
+        remaining.sort();
+        QCOMPARE(filesOfSharedData(), remaining);
     }
 
     void aSecondInstallCopiesNothing()
     {
         check(RunMode::Install);
-        writeFile(m_shipped, "shipped anew");
+        writeFile(m_shipped, "shipped again");
         m_fixture->reporter.lines.clear();
         check(RunMode::Install);
         QCOMPARE(readFile(m_working), QByteArray("shipped"));
@@ -130,12 +132,12 @@ private slots:
         QCOMPARE(check(RunMode::Install), 0);
         QCOMPARE(m_fixture->machine.sleeps, QList<std::chrono::milliseconds>(4, 10ms));
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({checking, text("progress 0 Installation error matprop.mdb does not exist?"),
-                              text("0 Installation error: %1 does not exist.").arg(m_shipped)}));
+                 QStringList({checking, u"progress 0 Installation error matprop.mdb does not exist?"_s,
+                              u"0 Installation error: %1 does not exist."_s.arg(m_shipped)}));
         QVERIFY(!QFile::exists(m_working));
     }
 
-    void aMissingShippedDatabaseLeavesTheUsers()
+    void theUsersDatabaseStaysWhenTheShippedOneIsMissing()
     {
         QVERIFY(QFile::remove(m_shipped));
         writeFile(m_working, "mine");
@@ -143,82 +145,82 @@ private slots:
         QCOMPARE(readFile(m_working), QByteArray("mine"));
     }
 
-    void thePreviousReleaseIsCarriedForward()
+    void thePreviousReleasesDatabaseIsCopied()
     {
         writeFile(previousFolderFile(), "of 2016");
-        m_fixture->test.setVariable("OSTRADE2016DIR", m_fixture->test.path(text("NVX 2016")));
+        m_fixture->test.setVariable("OSTRADE2016DIR", m_fixture->test.path(u"NVX 2016"_s));
         check(RunMode::Install);
         QCOMPARE(readFile(m_previous), QByteArray("of 2016"));
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({checking, text("0 Copy: %1 to: %2").arg(m_shipped, m_working)}));
+                 QStringList({checking, u"0 Copy: %1 to: %2"_s.arg(m_shipped, m_working)}));
     }
 
-    void itIsCarriedForwardAlsoWhenTheShippedDatabaseIsMissing()
+    void thePreviousReleasesDatabaseIsCopiedEvenIfTheShippedOneIsMissing()
     {
         QVERIFY(QFile::remove(m_shipped));
         writeFile(previousFolderFile(), "of 2016");
-        m_fixture->test.setVariable("OSTRADE2016DIR", m_fixture->test.path(text("NVX 2016")));
+        m_fixture->test.setVariable("OSTRADE2016DIR", m_fixture->test.path(u"NVX 2016"_s));
         check(RunMode::Install);
         QCOMPARE(readFile(m_previous), QByteArray("of 2016"));
     }
 
-    void whatWasCarriedForwardIsNeverReplaced()
+    void aCopyOfThePreviousReleaseIsNeverReplaced()
     {
         writeFile(m_previous, "mine of 2016");
         writeFile(previousFolderFile(), "newer");
-        m_fixture->test.setVariable("OSTRADE2016DIR", m_fixture->test.path(text("NVX 2016")));
+        m_fixture->test.setVariable("OSTRADE2016DIR", m_fixture->test.path(u"NVX 2016"_s));
         check(RunMode::Install);
         QCOMPARE(readFile(m_previous), QByteArray("mine of 2016"));
     }
 
-    void withoutAPreviousReleaseNothingIsCarriedForward_data()
+    void withoutAPreviousReleaseOnlyTheShippedDatabaseIsCopied_data()
     {
         QTest::addColumn<bool>("isSet");
         QTest::addColumn<QString>("folder");
         QTest::newRow("not set") << false << QString();
-        QTest::newRow("empty") << true << text("");
-        QTest::newRow("a folder that is not there") << true << text("/nowhere/at all");
+        QTest::newRow("empty") << true << u""_s;
+        QTest::newRow("a missing folder") << true << u"/nowhere/at all"_s;
         QTest::newRow("a folder without a database") << true << QDir::tempPath();
     }
 
-    void withoutAPreviousReleaseNothingIsCarriedForward()
+    void withoutAPreviousReleaseOnlyTheShippedDatabaseIsCopied()
     {
         QFETCH(bool, isSet);
         QFETCH(QString, folder);
         if (isSet)
             m_fixture->test.setVariable("OSTRADE2016DIR", folder);
         check(RunMode::Install);
-        QCOMPARE(filesOfSharedData(), QStringList{text("matprop.nvxmdb")});
+        QCOMPARE(filesOfSharedData(), QStringList{u"matprop.nvxmdb"_s});
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({checking, text("0 Copy: %1 to: %2").arg(m_shipped, m_working)}));
+                 QStringList({checking, u"0 Copy: %1 to: %2"_s.arg(m_shipped, m_working)}));
     }
 
-    void aCopyThatFailsLeavesNothingAndIsNotTold()
+    void aCopyThatFailsLeavesNoFileAndIsADiagnosticWarning()
     {
-        writeFile(m_sharedData); // a file is in the folder's place
+        writeFile(m_sharedData); // a file has the folder's name
         const RecordedDiagnostics diagnostics;
         QCOMPARE(check(RunMode::Install), 0);
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({checking, text("0 Copy: %1 to: %2").arg(m_shipped, m_working)}));
+                 QStringList({checking, u"0 Copy: %1 to: %2"_s.arg(m_shipped, m_working)}));
         QCOMPARE(readFile(m_sharedData), QByteArray(""));
-        QCOMPARE(diagnostics.list(), QStringList{text("Unable to copy %1 to %2").arg(m_shipped, m_working)});
+        QCOMPARE(diagnostics.list(), QStringList{u"Unable to copy %1 to %2"_s.arg(m_shipped, m_working)});
     }
 
-    void anUninstallRemovesTheDatabaseOfTheSharedFolder()
+    void anUninstallRemovesTheDatabaseInTheSharedFolder()
     {
-        const QString leftover = joinPath(m_fixture->machine.ownFolder, text("matprop.new"));
-        const QString named = joinPath(m_fixture->machine.ownFolder, text("matprop.nvxmdb"));
+        const QString leftover = joinPath(m_fixture->machine.ownFolder, u"matprop.new"_s);
+        const QString named = joinPath(m_fixture->machine.ownFolder, u"matprop.nvxmdb"_s);
         writeFile(leftover, "old");
-        writeFile(named, "not meant");
+        writeFile(named, "another");
         writeFile(m_working, "mine");
         writeFile(m_previous, "mine of 2016");
         QVERIFY(QFile::setPermissions(m_working, QFile::ReadOwner | QFile::ReadUser));
         QCOMPARE(check(RunMode::Uninstall), 0);
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({checking, text("0 Remove: ") + leftover, text("0 Remove: ") + named}));
+                 QStringList({checking, u"0 Remove: "_s + leftover, u"0 Remove: "_s + named}));
         QVERIFY(!QFile::exists(leftover));
         QVERIFY(!QFile::exists(m_working));
-        QCOMPARE(readFile(named), QByteArray("not meant"));
+        QCOMPARE(readFile(named), QByteArray("another"));
         QCOMPARE(readFile(m_previous), QByteArray("mine of 2016"));
         QCOMPARE(readFile(m_shipped), QByteArray("shipped"));
     }
@@ -229,7 +231,7 @@ private slots:
         QCOMPARE(m_fixture->reporter.lines.size(), 3);
     }
 
-    void anyOtherModeOnlyShowsTheStatus_data()
+    void inOtherModesOnlyTheProgressLineIsShown_data()
     {
         QTest::addColumn<int>("mode");
         QTest::newRow("stop services") << int(RunMode::StopServices);
@@ -237,20 +239,20 @@ private slots:
         QTest::newRow("not given") << int(RunMode::NotGiven);
     }
 
-    void anyOtherModeOnlyShowsTheStatus()
+    void inOtherModesOnlyTheProgressLineIsShown()
     {
         QFETCH(int, mode);
         writeFile(m_working, "mine");
         check(static_cast<RunMode>(mode));
         QCOMPARE(m_fixture->reporter.lines, QStringList{checking});
         QCOMPARE(readFile(m_working), QByteArray("mine"));
-        QCOMPARE(filesOfSharedData(), QStringList{text("matprop.nvxmdb")});
+        QCOMPARE(filesOfSharedData(), QStringList{u"matprop.nvxmdb"_s});
     }
 
 private:
     int check(RunMode mode) { return MaterialDatabase(m_fixture->context()).check(mode); }
 
-    QString previousFolderFile() const { return m_fixture->test.path(text("NVX 2016/matprop.mdb")); }
+    QString previousFolderFile() const { return m_fixture->test.path(u"NVX 2016/matprop.mdb"_s); }
 
     QStringList filesOfSharedData() const
     {

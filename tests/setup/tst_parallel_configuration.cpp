@@ -1,9 +1,9 @@
 #include "nvx_util/cpu_info.h"
+#include "nvx_util/processor_counts.h"
 #include "nvx_util/system.h"
 #include "setup/parallel_configuration.h"
 #include "setup/setup_fixture.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
@@ -12,16 +12,16 @@
 using Nvx::Util::CpuInfo;
 using Nvx::Util::joinPath;
 using Nvx::Util::ProcessorCounts;
+using namespace Nvx::Run;
+using namespace Nvx::Setup;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 CpuInfo processors(qint32 count, qint32 cores, bool hyperThreading)
 {
-    ProcessorCounts counts;
-    counts.processors = count;
-    counts.coresPerProcessor = cores;
-    counts.hyperThreading = hyperThreading;
-    return CpuInfo(counts);
+    return CpuInfo(
+        ProcessorCounts{.processors = count, .coresPerProcessor = cores, .hyperThreading = hyperThreading});
 }
 
 } // namespace
@@ -36,46 +36,45 @@ private slots:
     void init()
     {
         m_fixture = std::make_unique<SetupFixture>();
-        m_sharedData = Nvx::Util::System::getProgramDataPath(text("NVX 2017"));
-        m_file = joinPath(m_sharedData, text("NVX2_config.nvxcfg"));
-        m_analysisFolder = joinPath(m_sharedData, text("HPCAnalyze"));
+        m_sharedData = Nvx::Util::System::getProgramDataPath(u"NVX 2017"_s);
+        m_file = joinPath(m_sharedData, u"NVX2_config.nvxcfg"_s);
+        m_analysisFolder = joinPath(m_sharedData, u"HPCAnalyze"_s);
     }
 
-    void theSignOfMpiTellsOfHyperThreading_data()
+    void mpiIsNegativeWithHyperThreading_data()
     {
         QTest::addColumn<bool>("hyperThreading");
         QTest::addColumn<QString>("mpi");
-        QTest::newRow("off") << false << text("8");
-        QTest::newRow("on") << true << text("-8");
+        QTest::newRow("off") << false << u"8"_s;
+        QTest::newRow("on") << true << u"-8"_s;
     }
 
-    void theSignOfMpiTellsOfHyperThreading()
+    void mpiIsNegativeWithHyperThreading()
     {
         QFETCH(bool, hyperThreading);
         QFETCH(QString, mpi);
         run(RunMode::Install, processors(2, 8, hyperThreading));
         QCOMPARE(written(),
-                 text("ExePath = %1\nAnalyzePath = %2\nNumberOfThreads = 8\nMpi = %3\nSocketsPerNode = 2\n")
-                     .arg(joinPath(m_fixture->machine.ownFolder, text("NVX2_share")), m_analysisFolder, mpi));
+                 u"ExePath = %1\nAnalyzePath = %2\nNumberOfThreads = 8\nMpi = %3\nSocketsPerNode = 2\n"_s.arg(
+                     joinPath(m_fixture->machine.ownFolder, u"NVX2_share"_s), m_analysisFolder, mpi));
     }
 
     void bothResultsAreLogged()
     {
         run(RunMode::Install, processors(1, 4, false));
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({text("0 Created NVX2 default configuration: ") + m_file,
-                              text("0 Created NVX2 analyze folder: ") + m_analysisFolder}));
+                 QStringList({u"0 Created NVX2 default configuration: "_s + m_file,
+                              u"0 Created NVX2 analyze folder: "_s + m_analysisFolder}));
         QVERIFY(QDir(m_analysisFolder).exists());
     }
 
-    void everyInstallSizesTheFileAnew()
+    void everyInstallSizesTheFileAgain()
     {
         run(RunMode::Install, processors(1, 4, false));
         run(RunMode::Install, processors(1, 16, false));
-        QVERIFY(written().contains(text("NumberOfThreads = 16\n")));
-        QVERIFY(!written().contains(text("NumberOfThreads = 4\n")));
-        QCOMPARE(m_fixture->reporter.lines.last(),
-                 text("0 Created NVX2 analyze folder: ") + m_analysisFolder);
+        QVERIFY(written().contains(u"NumberOfThreads = 16\n"_s));
+        QVERIFY(!written().contains(u"NumberOfThreads = 4\n"_s));
+        QCOMPARE(m_fixture->reporter.lines.last(), u"0 Created NVX2 analyze folder: "_s + m_analysisFolder);
     }
 
     void inOtherModesNothingIsWrittenOrLogged_data()
@@ -93,46 +92,46 @@ private slots:
         QVERIFY(!QDir(m_sharedData).exists());
     }
 
-    void whatACrashHasLeftGoesInEveryMode_data()
+    void anUnfinishedFileIsRemovedInEveryMode_data()
     {
         QTest::addColumn<RunMode>("mode");
         QTest::newRow("install") << RunMode::Install;
         QTest::newRow("uninstall") << RunMode::Uninstall;
     }
 
-    void whatACrashHasLeftGoesInEveryMode()
+    void anUnfinishedFileIsRemovedInEveryMode()
     {
         QFETCH(RunMode, mode);
-        writeFile(m_file + text(".nvxpart"), "half");
+        writeFile(m_file + u".nvxpart"_s, "half");
         run(mode, processors(1, 4, false));
-        QVERIFY(!QFile::exists(m_file + text(".nvxpart")));
+        QVERIFY(!QFile::exists(m_file + u".nvxpart"_s));
         QCOMPARE(QFile::exists(m_file), mode == RunMode::Install);
     }
 
-    void aFileThatCannotBeSavedDoesNotKeepTheFolderFromBeingMade()
+    void theFolderIsCreatedEvenIfTheFileCannotBeSaved()
     {
-        QVERIFY(QDir().mkpath(m_file)); // a folder of that name is in the way
+        QVERIFY(QDir().mkpath(m_file)); // a folder has that name
         run(RunMode::Install, processors(1, 4, false));
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({text("1 Unable to create NVX2 default configuration: ") + m_file,
-                              text("0 Created NVX2 analyze folder: ") + m_analysisFolder}));
+                 QStringList({u"1 Unable to create NVX2 default configuration: "_s + m_file,
+                              u"0 Created NVX2 analyze folder: "_s + m_analysisFolder}));
     }
 
-    void aFolderThatCannotBeMadeDoesNotKeepTheFileFromBeingSaved()
+    void theFileIsSavedEvenIfTheFolderCannotBeCreated()
     {
-        writeFile(m_analysisFolder); // a file of that name is in the way
+        writeFile(m_analysisFolder); // a file has that name
         run(RunMode::Install, processors(1, 4, false));
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({text("0 Created NVX2 default configuration: ") + m_file,
-                              text("1 Unable to create NVX2 analyze folder: ") + m_analysisFolder}));
+                 QStringList({u"0 Created NVX2 default configuration: "_s + m_file,
+                              u"1 Unable to create NVX2 analyze folder: "_s + m_analysisFolder}));
     }
 
-    void aFolderThatTheCodePageCannotWriteIsNotWrittenWrong()
+    void aFolderThatTheCodePageCannotWriteIsNotWritten()
     {
         m_fixture->machine.ownFolder = m_fixture->test.installDir() + QChar(0xD800);
         run(RunMode::Install, processors(1, 4, false));
         QCOMPARE(m_fixture->reporter.lines.first(),
-                 text("1 Unable to create NVX2 default configuration: ") + m_file);
+                 u"1 Unable to create NVX2 default configuration: "_s + m_file);
         QVERIFY(!QFile::exists(m_file));
     }
 
@@ -142,7 +141,7 @@ private:
         createParallelConfiguration(m_fixture->context(), mode, cpuInfo);
     }
 
-    QString written() const { return QString::fromUtf8(readFile(m_file)).remove(QLatin1Char('\r')); }
+    QString written() const { return QString::fromUtf8(readFile(m_file)).remove(u'\r'); }
 
     std::unique_ptr<SetupFixture> m_fixture;
     QString m_sharedData;

@@ -1,5 +1,5 @@
-// The registry refuses every change: where it is a file, because its folder cannot be made or the disk is
-// full.
+// A registry that refuses every change. Where the registry is a file, its folder cannot be created or the
+// disk is full.
 
 #include "nvx_util/registry_key.h"
 #include "setup/product_registry.h"
@@ -12,42 +12,45 @@
 
 #include <QTest>
 
+using namespace Nvx::Run;
+using namespace Nvx::Setup;
+using namespace Qt::Literals::StringLiterals;
+
 class tst_product_registry_refused : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void noValueThatIsRefusedIsLoggedAndTheStepGoesOn()
+    void aRefusedValueIsADiagnosticWarningAndTheStepContinues()
     {
         SetupFixture fixture;
-        writeFile(fixture.test.path(text("in the way")));
-        fixture.test.setVariable("NVX_MACHINE", fixture.test.path(text("in the way/machine")));
-        fixture.state.locale = text("de-DE");
+        writeFile(fixture.test.path(u"a file"_s));
+        fixture.test.setVariable("NVX_MACHINE", fixture.test.path(u"a file/machine"_s));
+        fixture.state.locale = u"de-DE"_s;
         const RecordedDiagnostics diagnostics;
         QCOMPARE(updateRegistry(fixture.context(), RunMode::Install), 0);
-        QCOMPARE(fixture.reporter.lines.filter(QRegularExpression(text("^1 "))), QStringList());
+        QCOMPARE(fixture.reporter.lines.filter(QRegularExpression(u"^1 "_s)), QStringList());
         QCOMPARE(diagnostics.list().size(), 7 + 7);
-        QCOMPARE(diagnostics.list().first(), text("The registry refuses the value CurrentVersion of "
-                                                  "HKEY_LOCAL_MACHINE\\Software\\Velmora\\NVX"));
-        QCOMPARE(fixture.machine.calls.size(), 1); // the viewer is configured all the same
+        QCOMPARE(diagnostics.list().first(), u"The registry refuses the value CurrentVersion of "
+                                             "HKEY_LOCAL_MACHINE\\Software\\Velmora\\NVX"_s);
+        QCOMPARE(fixture.machine.calls.size(), 1); // the viewer is configured nevertheless
     }
 
-    void noGroupThatStaysIsLoggedAndTheRemovalGoesOn()
+    void aRefusedRemovalIsADiagnosticWarningAndTheStepContinues()
     {
         SetupFixture fixture;
-        const QString large(2 * FullDisk::mostBytes, QLatin1Char('x'));
+        const QString large(2 * FullDisk::mostBytes, u'x');
         for (const char *group : {"\\WebServices", "\\Lumara"})
-            QVERIFY(Nvx::Util::RegistryKey(userProductKey() + text(group)).setText(text("a"), text("b")));
-        QVERIFY(Nvx::Util::RegistryKey(userProductKey()).setText(text("large"), large));
+            QVERIFY(Nvx::Util::RegistryKey(userProductKey() + text(group)).setText(u"a"_s, u"b"_s));
+        QVERIFY(Nvx::Util::RegistryKey(userProductKey()).setText(u"large"_s, large));
         const RecordedDiagnostics diagnostics;
         {
             const FullDisk disk;
             QCOMPARE(updateRegistry(fixture.context(), RunMode::Uninstall), 0);
         }
-        QCOMPARE(fixture.reporter.lines.filter(QRegularExpression(text("^1 "))), QStringList());
-        const QString refused = text("The registry refuses to remove ") + userProductKey();
-        QCOMPARE(diagnostics.list(),
-                 QStringList({refused + text("\\WebServices"), refused + text("\\Lumara")}));
+        QCOMPARE(fixture.reporter.lines.filter(QRegularExpression(u"^1 "_s)), QStringList());
+        const QString refused = u"The registry refuses to remove "_s + userProductKey();
+        QCOMPARE(diagnostics.list(), QStringList({refused + u"\\WebServices"_s, refused + u"\\Lumara"_s}));
     }
 };
 

@@ -1,4 +1,4 @@
-// Steps that write a file for another program, on a disk that is full.
+// Steps that write a file for another program, on a full disk.
 
 #include "run/command_runner.h"
 #include "setup/file_associations.h"
@@ -11,14 +11,9 @@
 
 #include <memory>
 
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
+using namespace Nvx::Run;
+using namespace Nvx::Setup;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_setup_full_disk : public QObject
 {
@@ -28,30 +23,29 @@ private slots:
     void init() { m_fixture = std::make_unique<SetupFixture>(); }
     void cleanup() { m_fixture.reset(); }
 
-    void aBatchFileThatIsNotWholeIsNotRunAndGoes_data() { addFreeBytes(); }
+    void anIncompleteBatchFileIsNotRunAndIsRemoved_data() { addFreeBytes(); }
 
-    void aBatchFileThatIsNotWholeIsNotRunAndGoes()
+    void anIncompleteBatchFileIsNotRunAndIsRemoved()
     {
         QFETCH(const qint64, freeBytes);
         {
             const FullDisk disk(freeBytes);
-            QVERIFY(CommandRunner(m_fixture->context()).removeDirectory(text("C:\\NVX 2017\\Python\\Lib")));
+            QVERIFY(CommandRunner(m_fixture->context()).removeDirectory(u"C:\\NVX 2017\\Python\\Lib"_s));
         }
         QVERIFY(m_fixture->machine.calls.isEmpty());
-        const QString batchFile = m_fixture->state.installDir + text("work.bat");
+        const QString batchFile = m_fixture->state.installDir + u"work.bat"_s;
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList(text("1 Unable to create %1, this folder is not removed: C:\\NVX "
-                                  "2017\\Python\\Lib")
-                                 .arg(batchFile)));
+                 QStringList(u"1 Unable to create %1, this folder is not removed: C:\\NVX "
+                             "2017\\Python\\Lib"_s.arg(batchFile)));
         QVERIFY(!QFile::exists(batchFile));
     }
 
-    void aRegistryScriptThatIsNotWholeIsNotImportedAndGoes_data() { addFreeBytes(); }
+    void anIncompleteRegistryScriptIsNotImportedAndIsRemoved_data() { addFreeBytes(); }
 
-    void aRegistryScriptThatIsNotWholeIsNotImportedAndGoes()
+    void anIncompleteRegistryScriptIsNotImportedAndIsRemoved()
     {
         QFETCH(const qint64, freeBytes);
-        m_fixture->state.installDirEscaped = text("C:\\\\NVX");
+        m_fixture->state.installDirEscaped = u"C:\\\\NVX"_s;
         const RecordedDiagnostics diagnostics;
         {
             const FullDisk disk(freeBytes);
@@ -60,7 +54,7 @@ private slots:
         QVERIFY(m_fixture->machine.calls.isEmpty());
         const QString script = m_fixture->installed("FileAssociations.reg");
         QCOMPARE(m_fixture->reporter.lines.mid(2), QStringList());
-        QCOMPARE(diagnostics.list(), QStringList(2, text("Unable to create ") + script));
+        QCOMPARE(diagnostics.list(), QStringList(2, u"Unable to create "_s + script));
         QVERIFY(!QFile::exists(script));
     }
 
@@ -68,8 +62,8 @@ private:
     static void addFreeBytes()
     {
         QTest::addColumn<qint64>("freeBytes");
-        QTest::newRow("nothing is free") << qint64(0);
-        QTest::newRow("room for its beginning") << qint64(20);
+        QTest::newRow("no space") << qint64(0);
+        QTest::newRow("space for a part of the file") << qint64(20);
     }
 
     std::unique_ptr<SetupFixture> m_fixture;

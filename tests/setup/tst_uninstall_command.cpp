@@ -1,11 +1,13 @@
-#include "setup/uninstall_command.h"
+#include "setup/product_values.h"
 #include "support/random_text.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
 #include <algorithm>
+
+using namespace Nvx::Setup;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_uninstall_command : public QObject
 {
@@ -17,69 +19,69 @@ private slots:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("rewritten");
         QTest::newRow("what follows is dropped")
-            << text("setup.exe /LANG=en-US /X") << text("setup.exe /LANG=de-DE");
-        QTest::newRow("nothing follows") << text("setup.exe /LANG=en-US") << text("setup.exe /LANG=de-DE");
-        QTest::newRow("the separator is kept")
-            << text("setup.exe /LANG:en-US") << text("setup.exe /LANG:de-DE");
-        QTest::newRow("a blank separates") << text("setup.exe /LANG en-US") << text("setup.exe /LANG de-DE");
-        QTest::newRow("no language yet") << text("setup.exe /LANG=") << text("setup.exe /LANG=de-DE");
-        QTest::newRow("at the very end") << text("setup.exe /LANG") << text("setup.exe /LANGde-DE");
+            << u"setup.exe /LANG=en-US /X"_s << u"setup.exe /LANG=de-DE"_s;
+        QTest::newRow("nothing follows") << u"setup.exe /LANG=en-US"_s << u"setup.exe /LANG=de-DE"_s;
+        QTest::newRow("the separator stays") << u"setup.exe /LANG:en-US"_s << u"setup.exe /LANG:de-DE"_s;
+        QTest::newRow("a blank separates") << u"setup.exe /LANG en-US"_s << u"setup.exe /LANG de-DE"_s;
+        QTest::newRow("no language yet") << u"setup.exe /LANG="_s << u"setup.exe /LANG=de-DE"_s;
+        QTest::newRow("at the very end") << u"setup.exe /LANG"_s << u"setup.exe /LANGde-DE"_s;
         QTest::newRow("twice: the first counts")
-            << text("setup.exe /LANG=en-US /LANG=fr-FR") << text("setup.exe /LANG=de-DE");
-        QTest::newRow("right behind the first character") << text("x/LANG=en-US") << text("x/LANG=de-DE");
-        QTest::newRow("inside a longer option") << text("a /LANGUAGE=en") << text("a /LANGUde-DE");
-        QTest::newRow("quotes and letters of all kinds") << text("\"C:\\Größe 日本\\setup.exe\" /LANG=en-US")
-                                                         << text("\"C:\\Größe 日本\\setup.exe\" /LANG=de-DE");
-        QTest::newRow("already that locale") << text("a /LANG=de-DE") << text("a /LANG=de-DE");
+            << u"setup.exe /LANG=en-US /LANG=fr-FR"_s << u"setup.exe /LANG=de-DE"_s;
+        QTest::newRow("directly after the first character") << u"x/LANG=en-US"_s << u"x/LANG=de-DE"_s;
+        QTest::newRow("inside a longer option") << u"a /LANGUAGE=en"_s << u"a /LANGUde-DE"_s;
+        QTest::newRow("quotes and letters of several alphabets")
+            << u"\"C:\\Größe 日本\\setup.exe\" /LANG=en-US"_s
+            << u"\"C:\\Größe 日本\\setup.exe\" /LANG=de-DE"_s;
+        QTest::newRow("already that locale") << u"a /LANG=de-DE"_s << u"a /LANG=de-DE"_s;
     }
 
     void theCommandGetsTheLocale()
     {
         QFETCH(QString, command);
-        QTEST(uninstallCommandIn(command, text("de-DE")).value_or(text("left alone")), "rewritten");
+        QTEST(uninstallCommandIn(command, u"de-DE"_s).value_or(u"left alone"_s), "rewritten");
     }
 
     void theCommandIsLeftAlone_data()
     {
         QTest::addColumn<QString>("command");
         QTest::newRow("empty") << QString();
-        QTest::newRow("without the option") << text("setup.exe /X");
-        QTest::newRow("in lower case") << text("setup.exe /lang=en-US");
-        QTest::newRow("it begins with the option") << text("/LANG=en-US setup.exe");
-        QTest::newRow("it begins with the option and has it again") << text("/LANG=en-US /LANG=en-US");
-        QTest::newRow("it is the option") << text("/LANG");
-        QTest::newRow("half the option") << text("setup.exe /LAN");
+        QTest::newRow("without the option") << u"setup.exe /X"_s;
+        QTest::newRow("in lower case") << u"setup.exe /lang=en-US"_s;
+        QTest::newRow("the option at the start") << u"/LANG=en-US setup.exe"_s;
+        QTest::newRow("the option at the start and again") << u"/LANG=en-US /LANG=en-US"_s;
+        QTest::newRow("the option alone") << u"/LANG"_s;
+        QTest::newRow("a part of the option") << u"setup.exe /LAN"_s;
     }
 
     void theCommandIsLeftAlone()
     {
         QFETCH(QString, command);
-        QVERIFY(!uninstallCommandIn(command, text("de-DE")));
+        QVERIFY(!uninstallCommandIn(command, u"de-DE"_s));
     }
 
     void anEmptyLocaleLeavesTheSeparator()
     {
-        QCOMPARE(uninstallCommandIn(text("a /LANG=en-US"), QString()), std::optional(text("a /LANG=")));
+        QCOMPARE(uninstallCommandIn(u"a /LANG=en-US"_s, QString()), std::optional(u"a /LANG="_s));
     }
 
-    void whateverTheCommandItsBeginningStays()
+    void theTextBeforeTheLocaleStays()
     {
         RandomText random(2017);
-        const QStringList pieces = {text("/LANG"), text("/LANG="), text("/LAN"), text("/lang="), text("=")};
+        const QStringList pieces = {u"/LANG"_s, u"/LANG="_s, u"/LAN"_s, u"/lang="_s, u"="_s};
         for (int round = 0; round < 5000; ++round) {
             QString command;
             for (quint32 count = random.below(5); count > 0; --count)
                 command += random.below(2) ? pieces.at(random.below(5)) : random.text();
 
-            const auto rewritten = uninstallCommandIn(command, text("ja-JP"));
-            const auto option = command.indexOf(text("/LANG"));
+            const auto rewritten = uninstallCommandIn(command, u"ja-JP"_s);
+            const auto option = command.indexOf(u"/LANG"_s);
             QCOMPARE(rewritten.has_value(), option > 0);
             if (!rewritten)
                 continue;
-            QVERIFY2(rewritten->endsWith(text("ja-JP")), qPrintable(command));
-            const QString kept = rewritten->chopped(5);
-            QVERIFY2(command.startsWith(kept), qPrintable(command));
-            QCOMPARE(kept.size(), std::min(command.size(), option + 6));
+            QVERIFY2(rewritten->endsWith(u"ja-JP"_s), qPrintable(command));
+            const QString beginning = rewritten->chopped(5);
+            QVERIFY2(command.startsWith(beginning), qPrintable(command));
+            QCOMPARE(beginning.size(), std::min(command.size(), option + 6));
         }
     }
 };

@@ -11,6 +11,9 @@
 using Nvx::Util::joinPath;
 using Nvx::Util::ProgramCall;
 using Nvx::Util::System;
+using namespace Nvx::Run;
+using namespace Nvx::Setup;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_user_files : public QObject
 {
@@ -23,11 +26,11 @@ private slots:
     {
         m_fixture = std::make_unique<SetupFixture>();
         m_removedFolders.clear();
-        m_fixture->machine.ownFolder = m_fixture->test.path(text("program"));
-        m_sharedData = System::getProgramDataPath(text("NVX 2017"));
+        m_fixture->machine.ownFolder = m_fixture->test.path(u"program"_s);
+        m_sharedData = System::getProgramDataPath(u"NVX 2017"_s);
         m_fixture->machine.whileRunning = [this](const ProgramCall &call) {
             const QString commandLine = QString::fromUtf8(readFile(call.arguments.last()));
-            m_removedFolders << commandLine.section(QLatin1Char('"'), 1, 1);
+            m_removedFolders << commandLine.section(u'"', 1, 1);
         };
     }
 
@@ -35,18 +38,18 @@ private slots:
     {
         writeFile(installed("a.new"));
         writeFile(installed("plugins/Reports/report.pyc"));
-        writeFile(joinPath(m_sharedData, text("old.dat")));
+        writeFile(joinPath(m_sharedData, u"old.dat"_s));
         files().removeOldFiles();
-        QCOMPARE(m_removedFolders, QStringList{joinPath(m_fixture->machine.ownFolder, text("Launchers"))});
-        QCOMPARE(told(),
-                 QStringList({text("0 Removing:") + m_fixture->state.installDir + text("/a.new"),
-                              text("0 Command:cmd.exe"), text("0 Remove: ") + m_sharedData + text("*.dat"),
-                              text("0 Removing:") + m_sharedData + text("/old.dat"),
-                              text("0 Remove: Report .pyc files"),
-                              text("0 Removing:") + installed("plugins/Reports") + text("/report.pyc")}));
+        QCOMPARE(m_removedFolders, QStringList{joinPath(m_fixture->machine.ownFolder, u"Launchers"_s)});
+        QCOMPARE(
+            reported(),
+            QStringList({u"0 Removing:"_s + m_fixture->state.installDir + u"/a.new"_s, u"0 Command:cmd.exe"_s,
+                         u"0 Remove: "_s + m_sharedData + u"*.dat"_s,
+                         u"0 Removing:"_s + m_sharedData + u"/old.dat"_s, u"0 Remove: Report .pyc files"_s,
+                         u"0 Removing:"_s + installed("plugins/Reports") + u"/report.pyc"_s}));
     }
 
-    void onlyFilesThatMatchGo_data()
+    void onlyMatchingFilesAreRemoved_data()
     {
         QTest::addColumn<QString>("file");
         QTest::addColumn<bool>("stays");
@@ -54,22 +57,23 @@ private slots:
             QTest::newRow(name) << text(file) << stays;
         };
         row("a leftover of an update", "NVX/matprop.new", false);
-        row("in capitals", "NVX/MATPROP.NEW", false);
+        row("a leftover in upper case", "NVX/MATPROP.NEW", false);
         row("the pattern within the name", "NVX/A.NEW.TXT", false);
-        row("no such ending", "NVX/renewal.txt", true);
-        row("the system's description", "NVX/systeminfo2012.xml", true);
+        row("another ending", "NVX/renewal.txt", true);
+        row("systeminfo2012.xml", "NVX/systeminfo2012.xml", true);
         row("the log", "NVX/NVXConfig.log", true);
         row("a leftover in a sub-folder", "NVX/en-US/matprop.new", true);
         row("a report's compiled file", "NVX/plugins/Reports/a.pyc", false);
         row("a report", "NVX/plugins/Reports/a.py", true);
         row("a compiled file elsewhere", "NVX/plugins/a.pyc", true);
-        row("shared values", "ProgramData/Velmora/NVX 2017/a.dat", false);
+        row("a shared .dat file", "ProgramData/Velmora/NVX 2017/a.dat", false);
         row("the material database", "ProgramData/Velmora/NVX 2017/matprop.nvxmdb", true);
-        row("that of the previous release", "ProgramData/Velmora/NVX 2017/Materials 2016.nvxmdb", true);
-        row("values in a sub-folder", "ProgramData/Velmora/NVX 2017/HPCAnalyze/a.dat", true);
+        row("the previous release's material database", "ProgramData/Velmora/NVX 2017/Materials 2016.nvxmdb",
+            true);
+        row("a shared .dat file in a sub-folder", "ProgramData/Velmora/NVX 2017/HPCAnalyze/a.dat", true);
     }
 
-    void onlyFilesThatMatchGo()
+    void onlyMatchingFilesAreRemoved()
     {
         QFETCH(QString, file);
         writeFile(m_fixture->test.path(file));
@@ -81,63 +85,62 @@ private slots:
     void missingFoldersAreNoError()
     {
         files().removeOldFiles();
-        QCOMPARE(told(),
-                 QStringList({text("0 Command:cmd.exe"), text("0 Remove: ") + m_sharedData + text("*.dat"),
-                              text("0 Remove: Report .pyc files")}));
+        QCOMPARE(reported(), QStringList({u"0 Command:cmd.exe"_s, u"0 Remove: "_s + m_sharedData + u"*.dat"_s,
+                                          u"0 Remove: Report .pyc files"_s}));
     }
 
-    void theSorvaneFolderAndTheUsersSettingsGo()
+    void theSorvaneFolderAndTheUsersSettingsAreRemoved()
     {
         for (const char *name : {"qat.st", "ribbon2D.st", "flagset.usr", "own.st"})
             writeFile(joinPath(System::getUserDataPath(), text(name)));
         files().resetSorvane(RunMode::Install);
-        const QString folder = joinPath(m_sharedData, text("Sorvane"));
+        const QString folder = joinPath(m_sharedData, u"Sorvane"_s);
         QCOMPARE(m_removedFolders, QStringList{folder});
-        QCOMPARE(told(), QStringList({text("0 Remove: ") + folder, text("0 Command:cmd.exe"),
-                                      text("progress 0 Install Sorvane")}));
-        QCOMPARE(QDir(System::getUserDataPath()).entryList(QDir::Files), QStringList{text("own.st")});
+        QCOMPARE(reported(), QStringList({u"0 Remove: "_s + folder, u"0 Command:cmd.exe"_s,
+                                          u"progress 0 Install Sorvane"_s}));
+        QCOMPARE(QDir(System::getUserDataPath()).entryList(QDir::Files), QStringList{u"own.st"_s});
     }
 
-    void theModeOnlyNamesTheStatusLine_data()
+    void theModeOnlyChangesTheProgressLine_data()
     {
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("line");
-        QTest::newRow("install") << int(RunMode::Install) << text("progress 0 Install Sorvane");
-        QTest::newRow("uninstall") << int(RunMode::Uninstall) << text("progress 0 UnInstall Sorvane");
-        QTest::newRow("stop services") << int(RunMode::StopServices) << text("progress 0 Found  Sorvane");
-        QTest::newRow("localisation") << int(RunMode::Localization) << text("progress 0  Success Sorvane");
+        QTest::newRow("install") << int(RunMode::Install) << u"progress 0 Install Sorvane"_s;
+        QTest::newRow("uninstall") << int(RunMode::Uninstall) << u"progress 0 UnInstall Sorvane"_s;
+        QTest::newRow("stop services") << int(RunMode::StopServices) << u"progress 0 Found  Sorvane"_s;
+        QTest::newRow("localisation") << int(RunMode::Localization) << u"progress 0  Success Sorvane"_s;
     }
 
-    void theModeOnlyNamesTheStatusLine()
+    void theModeOnlyChangesTheProgressLine()
     {
         QFETCH(int, mode);
         QFETCH(QString, line);
-        writeFile(joinPath(System::getUserDataPath(), text("qat.st")));
+        writeFile(joinPath(System::getUserDataPath(), u"qat.st"_s));
         files().resetSorvane(static_cast<RunMode>(mode));
         QCOMPARE(m_removedFolders.size(), 1);
-        QCOMPARE(told().last(), line);
-        QVERIFY(!QFile::exists(joinPath(System::getUserDataPath(), text("qat.st"))));
+        QCOMPARE(reported().last(), line);
+        QVERIFY(!QFile::exists(joinPath(System::getUserDataPath(), u"qat.st"_s)));
     }
 
     void missingUserFilesAreNoError()
     {
         files().resetSorvane(RunMode::Install);
-        QCOMPARE(told().last(), text("progress 0 Install Sorvane"));
+        QCOMPARE(reported().last(), u"progress 0 Install Sorvane"_s);
     }
 
 private:
     UserFiles files() { return UserFiles(m_fixture->context()); }
 
-    QString installed(const char *name) const { return m_fixture->test.path(text("NVX/") + text(name)); }
+    QString installed(const char *name) const { return m_fixture->test.path(u"NVX/"_s + text(name)); }
 
-    // What was reported, of external programs only that one ran.
-    QStringList told() const
+    // The reported lines; of an external program only that it was run.
+    QStringList reported() const
     {
         QStringList lines;
         for (const QString &line : std::as_const(m_fixture->reporter.lines)) {
-            if (line.startsWith(text("0 Command:cmd.exe")))
-                lines << text("0 Command:cmd.exe");
-            else if (!line.startsWith(text("0  output:")))
+            if (line.startsWith(u"0 Command:cmd.exe"_s))
+                lines << u"0 Command:cmd.exe"_s;
+            else if (!line.startsWith(u"0  output:"_s))
                 lines << line;
         }
         return lines;

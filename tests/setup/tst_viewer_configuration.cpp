@@ -1,25 +1,28 @@
 #include "setup/setup_fixture.h"
 #include "setup/viewer_configuration.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
+
+using namespace Nvx::Run;
+using namespace Nvx::Setup;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_viewer_configuration : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void onlyAnInstallHandsTheOptionOver_data()
+    void onlyAnInstallPassesTheOption_data()
     {
         QTest::addColumn<int>("mode");
         QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("install") << int(RunMode::Install) << QStringList(text("-i"));
+        QTest::newRow("install") << int(RunMode::Install) << QStringList(u"-i"_s);
         QTest::newRow("uninstall") << int(RunMode::Uninstall) << QStringList();
         QTest::newRow("stop services") << int(RunMode::StopServices) << QStringList();
     }
 
-    void onlyAnInstallHandsTheOptionOver()
+    void onlyAnInstallPassesTheOption()
     {
         QFETCH(int, mode);
         SetupFixture fixture;
@@ -37,23 +40,23 @@ private slots:
     {
         SetupFixture fixture;
         configureViewer(fixture.context(), RunMode::Install);
-        QCOMPARE(fixture.reporter.lines.mid(0, 2),
-                 QStringList({text("0 Running NVX 3D-ViewerConfig."),
-                              text("0 Command:") + fixture.installed("NVX Viewer/NVXViewerConfig.exe") +
-                                  text(" -i")}));
+        QCOMPARE(
+            fixture.reporter.lines.mid(0, 2),
+            QStringList({u"0 Running NVX 3D-ViewerConfig."_s,
+                         u"0 Command:"_s + fixture.installed("NVX Viewer/NVXViewerConfig.exe") + u" -i"_s}));
     }
 
-    void aViewerThatFailsOrIsMissingStopsNothing_data()
+    void aViewerThatFailsDoesNotStopTheStep_data()
     {
         using Outcome = Nvx::Util::ProgramResult::Outcome;
         QTest::addColumn<int>("outcome");
         QTest::addColumn<QString>("line");
-        QTest::newRow("missing") << int(Outcome::NotStarted) << text("-2 Output:");
-        QTest::newRow("failing") << int(Outcome::Exited) << text("3 Output:");
-        QTest::newRow("hanging") << int(Outcome::TimedOut) << text("-1 Output:");
+        QTest::newRow("missing") << int(Outcome::NotStarted) << u"-2 Output:"_s;
+        QTest::newRow("failing") << int(Outcome::Exited) << u"3 Output:"_s;
+        QTest::newRow("hanging") << int(Outcome::TimedOut) << u"-1 Output:"_s;
     }
 
-    void aViewerThatFailsOrIsMissingStopsNothing()
+    void aViewerThatFailsDoesNotStopTheStep()
     {
         QFETCH(int, outcome);
         QFETCH(QString, line);

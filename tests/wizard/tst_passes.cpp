@@ -148,7 +148,7 @@ private slots:
     {
         writeFile(m_fixture->installed("of an update.new"));
         cfg_utilitys &engine = m_fixture->start(text("-U -S"));
-        engine.removeOldFiles(OldFiles::Keep);
+        engine.removeOldFiles(Nvx::Engine::OldFiles::Keep);
         QVERIFY(QFile::exists(m_fixture->installed("of an update.new")));
         engine.log(0, text("still open"));
         QCOMPARE(m_fixture->lines().last(), text("   0 still open"));

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "run/reporter.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <optional>
-
-class Reporter;
 
 // Files of the CAD systems, which exist before the product and outlive it.
 

@@ -5,7 +5,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace Nvx::Run {
 struct StepContext;
+}
 
 /// Asks what is to happen to running CAD systems, in silent runs too, and ends them when the user says so.
 /// True only when the question was dismissed.

@@ -3,6 +3,7 @@
 #include "cad/cad_packages.h"
 #include "cad/shared_folders.h"
 #include "nvx_util/log.h"
+#include "run/command_runner.h"
 #include "run/launcher_boxes.h"
 #include "run/process_finder.h"
 #include "run/reporter.h"
@@ -14,48 +15,57 @@
 
 #include <memory>
 
+namespace Nvx::Run {
+class ProgressView;
+}
 namespace Nvx::Util {
 class CpuInfo;
 }
-class ProgressView;
 namespace util {
 class util_localization_tool;
 }
 
-/// What becomes of the files that earlier releases and runs have left.
+namespace Nvx::Engine {
+
+/// What to do with the leftovers of earlier releases and runs.
 enum class OldFiles
 {
     Keep,
     Remove
 };
 
+} // namespace Nvx::Engine
+
 /// The configuration engine: the state of one configuration run, its log, and every installation step as one
-/// of its operations. There is one in a process; it lives as long as the process and outlives the wizards
-/// that are built on it. Everything runs on the thread of the user interface. No operation throws, and none
-/// stops the run: what fails is logged.
-class cfg_utilitys final : public QObject, public Reporter
+/// of its operations. A process has one engine, which lives until the process ends and outlives the wizards.
+/// Everything runs on the user interface's thread. No operation throws, and none stops the run: failures are
+/// logged.
+class cfg_utilitys final : public QObject, public Nvx::Run::Reporter
 {
     Q_OBJECT
 
 public:
+    using OnMatch = Nvx::Run::OnMatch;
+    using RunMode = Nvx::Run::RunMode;
+
     /// Opens the log "NVXConfig.log" in the machine's executable folder, reads the command line, validates
-    /// the install dir and sets up the language. An unknown option brings up a box.
+    /// the install dir and sets up the language. For an unknown option a message box asks what to do.
     explicit cfg_utilitys(Nvx::Util::Machine &machine, QObject *parent = nullptr);
     ~cfg_utilitys() override;
 
     /// The process's engine; null before it exists.
     static cfg_utilitys *instance();
 
-    const RunState &state() const { return m_state; }
+    const Nvx::Run::RunState &state() const { return m_state; }
 
-    /// Sets the mode of the run: the wizard takes a run without a mode for an installation.
+    /// Sets the mode of the run. The wizard turns a run without a mode into an installation.
     void setRunMode(RunMode mode) { m_state.runMode = mode; }
 
-    /// Adds a line to those told first when the installation run starts.
+    /// Adds a line to those that are logged first when the installation run starts.
     void addPendingNote(const QString &note) { m_state.pendingNotes.append(note); }
 
-    /// Where progress lines are shown from now on; null for nowhere. The view must outlive its use.
-    void setProgressView(ProgressView *view) { m_progressView = view; }
+    /// Sets where progress lines are shown; null if they are not. The view must outlive its use.
+    void setProgressView(Nvx::Run::ProgressView *view) { m_progressView = view; }
 
     /// The CAD systems found by the last search.
     const CadPackages &cadPackages() const { return m_cadPackages; }
@@ -76,28 +86,29 @@ public:
     bool checkRunningCAD();
     bool checkRunningProduct(OnMatch onMatch);
 
-    /// A run is about to start: until it ends, runComplete is false.
+    /// Called before a run starts: runComplete is false until the run ends.
     void clearRunComplete();
 
     void log(int level, const QString &text) override;
     void progress(int level, const QString &text) override;
     void inform(int level, const QString &text) override;
 
-    /// Makes the run's language the product's: remembers it, and on install puts its files in place. The mode
-    /// is the one the run is taken for.
+    /// Sets the product's language to the run's: remembers it and, on install, copies its files. Mode is the
+    /// mode that the run is treated as.
     void setUpLanguage(RunMode mode);
 
-    /// Makes another language the run's and the product's in the course of an installation. The shortcuts are
-    /// made anew.
+    /// Changes the language of the run and of the product during an installation. The shortcuts are created
+    /// again.
     void changeLanguage(const QString &locale);
 
-    /// Keeps a marker file in the flags folder: on install it is made when missing, else it is removed if
-    /// nobody has written into it.
+    /// On install, creates a marker file in the flags folder if it is missing; in other modes, removes it
+    /// unless text was written into it.
     void processFlagFile(const QString &name, RunMode mode);
 
-    // The steps; each does what the class or the header of its name in the modules of the steps says.
+    // The steps, and what they share. They only forward to the functions and classes of the modules setup,
+    // run and service, whose headers describe them.
     int runCommand(const QString &program, const QStringList &arguments, const QString &workFolder,
-                   int timeoutMs = 30000);
+                   int timeoutMs = Nvx::Run::CommandRunner::usualTimeoutMs);
     bool removeDirectory(const QString &path);
     bool removeMatchingFiles(const QString &folder, const QString &pattern);
     int installTutorials(RunMode mode);
@@ -125,35 +136,34 @@ public:
     /// The launchers of all CAD systems, in their order.
     void installLaunchers(RunMode mode);
 
-    // The material database and the users' files; see the classes MaterialDatabase and UserFiles.
     int checkMaterialDatabase(RunMode mode);
     void resetSorvane(RunMode mode);
 
-    /// Removes old files, or does nothing. Afterwards the log is closed: what is logged later is lost.
-    void removeOldFiles(OldFiles treatment);
+    /// Removes old files and closes the log, so later lines are lost; or does nothing.
+    void removeOldFiles(Nvx::Engine::OldFiles treatment);
 
-    /// Registers the product's server as a service and starts it. Returns 0, 1 when the server program is
-    /// missing or 2 when it did not register itself; for these a box tells the user.
+    /// Registers the product's server as a service and starts it. Returns 0, 1 if the server program is
+    /// missing or 2 if it did not register itself; a message box reports 1 and 2.
     int installServer();
 
-    /// Stops the server and removes its service and the folders that it works in. Always returns 0.
+    /// Stops the server, removes its service and its work folders. Always returns 0.
     int uninstallServer();
 
     /// Uninstalls the server, and on install installs it again. Always returns 0.
     int stopServices(RunMode mode);
 
 public slots:
-    /// Makes the localisation tool, once.
+    /// Creates the localisation tool, unless it exists.
     void initLocalizationTool();
 
     /// The localisation tool; null before initLocalizationTool.
     util::util_localization_tool *getLtool() const { return m_localizationTool.get(); }
 
-    /// Performs one whole run: every step in its order, each told the run mode.
+    /// Performs one installation run: calls every step of installation_steps.cpp in its order.
     void ProcessInstallation();
 
 private:
-    StepContext context() { return {m_machine, *this, m_state}; }
+    Nvx::Run::StepContext context() { return {m_machine, *this, m_state}; }
 
     void writeStartUpBanner();
     void processCommandLine();
@@ -168,15 +178,15 @@ private:
     void installSolverResources();
     void createFlagsFile();
 
-    void tellPendingNotes();
-    void tellProcessors(const Nvx::Util::CpuInfo &cpuInfo);
+    void reportPendingNotes();
+    void reportProcessors(const Nvx::Util::CpuInfo &cpuInfo);
 
     Nvx::Util::Machine &m_machine;
     NvxService m_service;
-    RunState m_state;
+    Nvx::Run::RunState m_state;
     Nvx::Util::Log m_log;
     std::unique_ptr<util::util_localization_tool> m_localizationTool;
-    ProgressView *m_progressView = nullptr;
+    Nvx::Run::ProgressView *m_progressView = nullptr;
     CadPackages m_cadPackages;
     SharedFolders m_sharedFolders;
     UnshownLauncherBoxes m_unshownBoxes;

@@ -1,4 +1,4 @@
-// The language of the run: what is remembered of it, and the files that go with it.
+// The language of the run: remembering it, and the files that depend on it.
 
 #include "cfg_utilities/cfg_utilitys.h"
 #include "nvx_util/languages.h"
@@ -12,18 +12,21 @@
 
 using Nvx::Util::joinPath;
 using Nvx::Util::System;
+using namespace Nvx::Run;
+using namespace Nvx;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString builtInLocale = Nvx::Util::sourceLanguage.locale;
-const QString japanese = QStringLiteral("ja-JP");
-const QString flagsFile = Nvx::Product::flagsFile;
+const QString builtInLocale = Util::sourceLanguage.locale;
+const QString japanese = u"ja-JP"_s;
+const QString flagsFile = Product::flagsFile;
 
 } // namespace
 
 void cfg_utilitys::setUpLanguage(RunMode mode)
 {
-    log(LogLevel::note, m_state.modeWord(mode) + QLatin1Char(' ') + tr("Language ") + m_state.locale);
+    log(LogLevel::note, m_state.modeWord(mode) + u' ' + tr("Language ") + m_state.locale);
     if (mode == RunMode::Uninstall)
         resetSorvane(RunMode::Uninstall);
     if (m_state.locale.isEmpty()) {
@@ -32,7 +35,8 @@ void cfg_utilitys::setUpLanguage(RunMode mode)
     }
     log(LogLevel::step, tr("Language ") + m_state.locale);
 
-    // The steps below look at the run's mode, and a run without one counts as the mode that was passed.
+    // The operations below read the run's mode, and a run without a mode is treated as the mode that was
+    // passed.
     const RunMode stored = m_state.runMode;
     m_state.runMode = mode;
     if (mode == RunMode::Install) {
@@ -48,7 +52,7 @@ void cfg_utilitys::setUpLanguage(RunMode mode)
     m_state.currentLocale = m_state.locale;
 }
 
-// The shortcuts' names are those of the language in which they were made.
+// The shortcuts are created again, since their texts depend on the language.
 void cfg_utilitys::changeLanguage(const QString &locale)
 {
     createShortcuts(RunMode::Uninstall);
@@ -65,11 +69,11 @@ void cfg_utilitys::createFlagsFile()
     if (QFile::exists(target))
         return;
 
-    const QString prepared = System::getEnv(QStringLiteral("OSTRADE2017TEMP"));
+    const QString prepared = System::getEnv(u"OSTRADE2017TEMP"_s);
     const QString source = joinPath(prepared, flagsFile);
     if (!prepared.isEmpty() && QFile::exists(source)) {
-        // Whole or not at all: what is there once is never copied again.
-        if (!Nvx::Util::copyToFreeName(source, target))
+        // A file that exists is never copied again, so it must be copied whole or not at all.
+        if (!Util::copyToFreeName(source, target))
             log(LogLevel::failure, tr("Unable to create %1").arg(target));
         return;
     }
@@ -78,7 +82,8 @@ void cfg_utilitys::createFlagsFile()
         log(LogLevel::failure, tr("Unable to create %1").arg(target));
 }
 
-// The argument decides what is remembered and logged; the files come from the folder of the run's locale.
+// The argument is remembered and logged; the files come from the folder of the run's locale. That is
+// deliberate.
 void cfg_utilitys::switchLanguage(const QString &locale)
 {
     System::setLocale(locale);
@@ -92,29 +97,27 @@ void cfg_utilitys::installLanguageFiles()
 {
     const QString localeFolder = joinPath(m_state.installDir, m_state.locale);
     if (m_state.locale == builtInLocale) {
-        const QString source = joinPath(localeFolder, Nvx::Product::materialNames);
-        const QString target = joinPath(m_state.installDir, QStringLiteral("matprop.new"));
+        const QString source = joinPath(localeFolder, Product::materialNames);
+        const QString target = joinPath(m_state.installDir, u"matprop.new"_s);
         replaceProductFile(source, target);
         log(LogLevel::step, tr("COPY:%1 to %2").arg(source, target));
     }
     installSolverResources();
 
-    const QString dictionary =
-        joinPath(System::getUserDataPath(), QStringLiteral("NVX_db_dictionary.nvxcfg"));
+    const QString dictionary = joinPath(System::getUserDataPath(), u"NVX_db_dictionary.nvxcfg"_s);
     removeProductFile(dictionary);
     log(LogLevel::step, tr("Remove:") + dictionary);
 
-    for (const auto &library :
-         {QStringLiteral("VistrelResources.dll"), QStringLiteral("VelmoraApplicationFrameRes.dll")})
+    for (const auto &library : {u"VistrelResources.dll"_s, u"VelmoraApplicationFrameRes.dll"_s})
         replaceProductFile(joinPath(localeFolder, library), joinPath(m_state.installDir, library));
 }
 
 void cfg_utilitys::installSolverResources()
 {
-    const auto library = QStringLiteral("ZorvRes.dll");
-    const QString folder = joinPath(m_state.installDir, QStringLiteral("ja"));
+    const auto library = u"ZorvRes.dll"_s;
+    const QString folder = joinPath(m_state.installDir, u"ja"_s);
     removeProductFile(joinPath(folder, library));
-    QDir().rmdir(folder); // stays when it holds anything else
+    QDir().rmdir(folder); // fails if it contains other files
     if (m_state.locale != japanese)
         return;
 

@@ -1,37 +1,25 @@
-// The installation run: every step in its order.
+// The installation run.
 
 #include "cfg_utilities/cfg_utilitys.h"
+#include "cfg_utilities/installation_steps.h"
 #include "nvx_util/cpu_info.h"
-#include "nvx_util/machine.h"
-#include "nvx_util/product.h"
 #include "run/progress_view.h"
 
 #include <QCoreApplication>
+
+using namespace Nvx;
+using namespace Nvx::Run;
 
 void cfg_utilitys::ProcessInstallation()
 {
     const RunMode mode = m_state.runMode;
     log(LogLevel::step, tr("Beginning ") + m_state.modeWord(mode));
-    tellPendingNotes();
-    const Nvx::Util::CpuInfo cpuInfo(m_log, m_state.installDir);
-    tellProcessors(cpuInfo);
+    reportPendingNotes();
+    const Util::CpuInfo cpuInfo(m_log, m_state.installDir);
+    reportProcessors(cpuInfo);
 
-    installTutorials(mode);
-    installPython(mode);
-    installMertleServer(mode);
-    createParallelConfiguration(mode, cpuInfo);
-    updateRegistry(mode);
-    createFileAssociations(mode);
-    // What is registered now may be of an older version, so the server is always registered afresh.
-    uninstallServer();
-    if (mode == RunMode::Install)
-        installServer();
-    createShortcuts(mode);
-    installLaunchers(mode);
-    m_machine.notifyAssociationsChanged();
-    processFlagFile(Nvx::Product::flagsFile, mode);
-    checkMaterialDatabase(mode);
-    cleanLumara(mode);
+    for (const Engine::InstallationStep &step : Engine::installationSteps())
+        step.run({.engine = *this, .context = context(), .mode = mode, .cpuInfo = cpuInfo});
 
     progress(LogLevel::step, tr("The installation or update is complete. Click finish to continue."));
     m_state.runComplete = true;
@@ -39,7 +27,7 @@ void cfg_utilitys::ProcessInstallation()
         m_progressView->runCompleteChanged();
 }
 
-void cfg_utilitys::tellPendingNotes()
+void cfg_utilitys::reportPendingNotes()
 {
     for (const QString &note : std::as_const(m_state.pendingNotes))
         log(LogLevel::step, note);
@@ -50,8 +38,8 @@ void cfg_utilitys::tellPendingNotes()
         m_progressView->appendRow(note);
 }
 
-// This one line of the log has neither time nor level.
-void cfg_utilitys::tellProcessors(const Nvx::Util::CpuInfo &cpuInfo)
+// This line of the log deliberately has no time and no level.
+void cfg_utilitys::reportProcessors(const Util::CpuInfo &cpuInfo)
 {
     const QString text = tr("Processors: %1, Cores per processor: %2")
                              .arg(cpuInfo.processorCount())

@@ -1,4 +1,4 @@
-// The start of a run: the command line, the install dir and the variables that point at it.
+// The start of a run: the command line, the install dir and the environment variables with its path.
 
 #include "cfg_utilities/cfg_utilitys.h"
 #include "cfg_utilities/command_line.h"
@@ -12,13 +12,16 @@
 
 using Nvx::Util::RegistryKey;
 using Nvx::Util::System;
+using namespace Nvx::Run;
+using namespace Nvx;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 RegistryKey machineEnvironment()
 {
-    return RegistryKey(QStringLiteral(
-        "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment"));
+    return RegistryKey(
+        u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment"_s);
 }
 
 // The translations are loaded later, and the language may change during the run.
@@ -33,8 +36,7 @@ QStringList modeWords()
 
 QStringList installDirVariables()
 {
-    return {QStringLiteral("OSTRADE"), QStringLiteral("OSTRADE%1DIR").arg(Nvx::Product::release),
-            QStringLiteral("OSTRADE%1TEMP").arg(Nvx::Product::release)};
+    return {u"OSTRADE"_s, u"OSTRADE%1DIR"_s.arg(Product::release), u"OSTRADE%1TEMP"_s.arg(Product::release)};
 }
 
 } // namespace
@@ -43,54 +45,55 @@ void cfg_utilitys::processCommandLine()
 {
     const QString commandLine = m_machine.commandLine().trimmed();
     log(LogLevel::step, tr("Command Line:") + commandLine);
-    const CommandLineReading reading = readCommandLine(commandLine, Nvx::Util::supportedSystemLocale(),
-                                                       [this] { return isUnknownOptionAccepted(); });
-    m_state.runMode = reading.runMode;
-    m_state.silent = reading.silent;
-    m_state.locale = reading.locale;
+    const Engine::RunOptions options = Engine::readRunOptions(commandLine, Util::supportedSystemLocale(),
+                                                              [this] { return isUnknownOptionAccepted(); });
+    m_state.runMode = options.runMode;
+    m_state.silent = options.silent;
+    m_state.locale = options.locale;
     m_state.cadSearchSuppressed =
-        reading.runMode == RunMode::StopServices || reading.runMode == RunMode::Localization;
-    if (reading.abandoned)
+        options.runMode == RunMode::StopServices || options.runMode == RunMode::Localization;
+    if (options.abandoned)
         return;
 
     m_state.modeWords = modeWords();
     const RegistryKey windows32(
-        QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion"));
+        u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion"_s);
     m_state.registry64 = windows32.hasEntries();
 
     validateInstallDir();
     m_state.installDirEscaped = m_state.installDir;
-    m_state.installDirEscaped.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    m_state.installDirEscaped.replace(u'\\', "\\\\"_L1);
     setUpLanguage(m_state.runMode == RunMode::NotGiven ? RunMode::Install : m_state.runMode);
 }
 
 bool cfg_utilitys::isUnknownOptionAccepted()
 {
-    const auto answer = m_machine.ask(Nvx::Util::BoxKind::Warning, tr("Command line arguments"), usageText());
-    return answer == Nvx::Util::Answer::Yes;
+    const auto answer =
+        m_machine.ask(Util::BoxKind::Warning, tr("Command line arguments"), Engine::runOptionsUsage());
+    return answer == Util::Answer::Yes;
 }
 
 void cfg_utilitys::validateInstallDir()
 {
     const bool installs = m_state.runMode == RunMode::Install || m_state.runMode == RunMode::NotGiven;
     if (!installs) {
-        log(LogLevel::step, tr("Validating Installation Path Velmora %1 %2 DIR=")
-                                    .arg(Nvx::Product::name, Nvx::Product::release) +
-                                m_state.installDir);
-        const QString solver = Nvx::Util::joinPath(m_state.installDir, Nvx::Product::solverProgram);
+        log(LogLevel::step,
+            tr("Validating Installation Path Velmora %1 %2 DIR=").arg(Product::name, Product::release) +
+                m_state.installDir);
+        const QString solver = Util::joinPath(m_state.installDir, Product::solverProgram);
         if (m_state.installDir.isEmpty() || !QFile::exists(solver))
             resetInstallDir();
         removeMachineVariables();
         return;
     }
 
-    log(LogLevel::step, tr("Validating Installation Path Velmora NVX %1 DIR=").arg(Nvx::Product::release) +
-                            m_state.installDir);
+    log(LogLevel::step,
+        tr("Validating Installation Path Velmora NVX %1 DIR=").arg(Product::release) + m_state.installDir);
     if (m_state.installDir.isEmpty()) {
         resetInstallDir();
         writeMachineVariables();
     } else {
-        // The installer has written the variables.
+        // The installer has already written the variables.
         log(LogLevel::step, tr("Install Path OK ") + m_state.installDir);
     }
     log(LogLevel::step, tr("user dir="));
@@ -116,7 +119,7 @@ void cfg_utilitys::removeMachineVariables()
 void cfg_utilitys::writeMachineVariables()
 {
     RegistryKey environment = machineEnvironment();
-    const std::optional<QByteArray> value = Nvx::Util::toAnsi(m_state.installDir);
+    const std::optional<QByteArray> value = Util::toAnsi(m_state.installDir);
     const QStringList variables = installDirVariables();
     for (const QString &variable : variables) {
         environment.setText(variable, m_state.installDir);

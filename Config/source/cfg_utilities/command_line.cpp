@@ -4,6 +4,11 @@
 
 #include <QCoreApplication>
 
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Engine {
+
 namespace {
 
 struct Messages
@@ -23,17 +28,16 @@ enum class Option
     None
 };
 
-// The first beginning that fits decides, so "-ST" stands before "-S".
+// The first match counts, so "-ST" precedes "-S".
 Option optionOf(const QString &token)
 {
-    static const std::pair<QLatin1String, Option> beginnings[] = {
-        {QLatin1String("-I"), Option::Install},   {QLatin1String("-L"), Option::Locale},
-        {QLatin1String("-U"), Option::Uninstall}, {QLatin1String("-ST"), Option::StopServices},
-        {QLatin1String("-S"), Option::Silent},    {QLatin1String("-T"), Option::Localization},
-        {QLatin1String("-"), Option::Unknown},
+    static const std::pair<QLatin1StringView, Option> prefixes[] = {
+        {"-I"_L1, Option::Install},       {"-L"_L1, Option::Locale}, {"-U"_L1, Option::Uninstall},
+        {"-ST"_L1, Option::StopServices}, {"-S"_L1, Option::Silent}, {"-T"_L1, Option::Localization},
+        {"-"_L1, Option::Unknown},
     };
-    for (const auto &[beginning, option] : beginnings) {
-        if (token.startsWith(beginning))
+    for (const auto &[prefix, option] : prefixes) {
+        if (token.startsWith(prefix))
             return option;
     }
     return Option::None;
@@ -41,59 +45,59 @@ Option optionOf(const QString &token)
 
 } // namespace
 
-CommandLineReading readCommandLine(const QString &commandLine, const QString &systemLocale,
-                                   const std::function<bool()> &goOnAfterUnknownOption)
+RunOptions readRunOptions(const QString &commandLine, const QString &systemLocale,
+                          const std::function<bool()> &continueAfterUnknownOption)
 {
-    CommandLineReading reading;
-    reading.locale = systemLocale;
-    const QStringList tokens = commandLine.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    RunOptions options;
+    options.locale = systemLocale;
+    const QStringList tokens = commandLine.split(u' ', Qt::SkipEmptyParts);
     for (qsizetype i = 0; i < tokens.size(); ++i) {
         const QString &token = tokens.at(i);
         switch (optionOf(token)) {
         case Option::Install:
-            reading.runMode = RunMode::Install;
+            options.runMode = RunMode::Install;
             break;
         case Option::Locale:
-            reading.locale = localeOfOption(token.mid(2));
+            options.locale = localeOfOption(token.mid(2));
             break;
         case Option::Uninstall:
-            reading.runMode = RunMode::Uninstall;
+            options.runMode = RunMode::Uninstall;
             break;
         case Option::StopServices:
-            reading.runMode = RunMode::StopServices;
+            options.runMode = RunMode::StopServices;
             break;
         case Option::Silent:
-            reading.silent = true;
+            options.silent = true;
             break;
         case Option::Localization:
-            reading.runMode = RunMode::Localization;
+            options.runMode = RunMode::Localization;
             break;
         case Option::Unknown:
-            if (i > 0 && !goOnAfterUnknownOption()) {
-                reading.abandoned = true;
-                reading.silent = false; // someone is there, who is shown the wizard
-                return reading;
+            if (i > 0 && !continueAfterUnknownOption()) {
+                options.abandoned = true;
+                options.silent = false; // there is a user, who is shown the wizard
+                return options;
             }
             break;
         case Option::None:
             break;
         }
     }
-    return reading;
+    return options;
 }
 
 QString localeOfOption(const QString &text)
 {
     QStringList translated;
-    for (const auto &language : Nvx::Util::translatedLanguages(&Nvx::Util::Language::optionPlace))
+    for (const auto &language : Util::translatedLanguages(&Util::Language::optionPlace))
         translated.append(language.locale);
-    const QString list = translated.join(QLatin1Char(',')).toUpper();
-    return list.contains(text.toUpper()) ? text : QString(Nvx::Util::sourceLanguage.locale);
+    const QString list = translated.join(u',').toUpper();
+    return list.contains(text.toUpper()) ? text : QString(Util::sourceLanguage.locale);
 }
 
-QString usageText()
+QString runOptionsUsage()
 {
-    // "-E" has no effect, and "Slient" is how the box has always spelled it.
+    // "-E" has no effect and "Slient" is misspelled, both deliberately.
     return Messages::tr("Valid NVX command line arguments are:\n"
                         "-I Install mode(default)\n"
                         "-U UnInstall mode\n"
@@ -105,3 +109,5 @@ QString usageText()
                         "\n"
                         " Do you want to continue?\n");
 }
+
+} // namespace Nvx::Engine

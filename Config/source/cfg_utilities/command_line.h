@@ -6,27 +6,31 @@
 
 #include <functional>
 
-/// What the command line says about the run.
-struct CommandLineReading
+namespace Nvx::Engine {
+
+/// What the options of the command line say about the run.
+struct RunOptions
 {
-    RunMode runMode = RunMode::NotGiven;
+    Run::RunMode runMode = Run::RunMode::NotGiven;
     bool silent = false;
     QString locale;
-    bool abandoned = false; ///< the user said No at an unknown option; nothing after it was read
+    bool abandoned = false; ///< the user answered No at an unknown option; the rest was not read
 };
 
-/// Reads the whole command line of the process, program path first. It is split at blanks, quotes have no
-/// meaning, options are told by how they begin, with case, and the later of two modes wins. The locale stays
-/// systemLocale unless an option sets it. For each unknown option other than the first token,
-/// goOnAfterUnknownOption is called; if it returns false, the reading is abandoned: the mode and the locale
-/// stay as they were read, but the run is not silent.
-CommandLineReading readCommandLine(const QString &commandLine, const QString &systemLocale,
-                                   const std::function<bool()> &goOnAfterUnknownOption);
+/// Reads the options in the command line of the process, which begins with the program path. It is split at
+/// blanks; quotes have no meaning. An option is recognised by its first letters, in upper case. Of two modes
+/// the later one counts. The locale is systemLocale unless an option sets it. For each unknown option, except
+/// as the first token, continueAfterUnknownOption is called; if it returns false, reading ends: the mode and
+/// the locale keep the values read so far, but the run is not silent.
+RunOptions readRunOptions(const QString &commandLine, const QString &systemLocale,
+                          const std::function<bool()> &continueAfterUnknownOption);
 
 /// The locale selected by the text after "-L". This is the text itself, spelled as it was given, if it occurs
 /// anywhere in "DE-DE,FR-FR,...", the list of the translated languages, in any case; an empty text does. For
 /// any other text it is "en-US".
 QString localeOfOption(const QString &text);
 
-/// The text of the box that an unknown option brings up.
-QString usageText();
+/// The text of the message box for an unknown option.
+QString runOptionsUsage();
+
+} // namespace Nvx::Engine

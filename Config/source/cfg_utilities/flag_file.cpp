@@ -2,11 +2,13 @@
 
 #include <QFile>
 
+namespace Nvx::Engine {
+
 bool holdsOnlyWhiteSpace(QIODevice &device)
 {
-    char bytes[4096];
+    char bytes[flagFileBlockBytes];
     for (;;) {
-        const qint64 read = device.read(bytes, sizeof bytes);
+        const qint64 read = device.read(bytes, flagFileBlockBytes);
         if (read < 0)
             return false;
         if (read == 0)
@@ -30,3 +32,5 @@ bool createFlagFile(const QString &path)
     return file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered) &&
            file.write("\r\n") == 2;
 }
+
+} // namespace Nvx::Engine

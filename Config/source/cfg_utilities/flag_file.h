@@ -3,13 +3,20 @@
 #include <QIODevice>
 #include <QString>
 
-/// True when everything that is left to read from the device is white space: blanks, tabs and line ends.
-/// False also when reading fails.
+namespace Nvx::Engine {
+
+/// How much of a device holdsOnlyWhiteSpace reads at a time.
+constexpr qsizetype flagFileBlockBytes = 4096;
+
+/// Whether the rest of the device contains only white space: blanks, tabs and line ends. Returns false if
+/// reading fails.
 bool holdsOnlyWhiteSpace(QIODevice &device);
 
-/// True when the user has left a marker file alone, so that it may go: it holds only white space, or there is
-/// none. A file that cannot be read counts as changed.
+/// Whether a marker file may be removed because the user has not changed it: it contains only white space or
+/// does not exist. A file that cannot be read counts as changed.
 bool isUnchangedFlagFile(const QString &path);
 
-/// Makes the marker file, which holds an empty line. False when there is one or the disk does not take it.
+/// Creates the marker file, with one empty line. Returns false if the file exists or cannot be written.
 [[nodiscard]] bool createFlagFile(const QString &path);
+
+} // namespace Nvx::Engine

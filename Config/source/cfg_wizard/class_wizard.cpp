@@ -31,7 +31,7 @@ ClassWizard::ClassWizard(cfg_utilitys &engine, const QList<Page> &pages)
     : m_engine(engine)
 {
     setObjectName(QStringLiteral("ClassWizard"));
-    removeTitleBarHelpButton(*this);
+    Nvx::Help::removeTitleBarHelpButton(*this);
     for (const Page page : pages)
         setPage(static_cast<int>(page), makePage(page));
     dress();

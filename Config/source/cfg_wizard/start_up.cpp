@@ -57,7 +57,7 @@ int runPass(cfg_utilitys &engine, const WizardPlan &plan)
         engine.searchCADPackages();
         engine.ProcessInstallation();
         if (plan.runMode == RunMode::Uninstall)
-            engine.removeOldFiles(OldFiles::Remove);
+            engine.removeOldFiles(Nvx::Engine::OldFiles::Remove);
         return 0;
     case WizardPlan::Action::StopServices:
         engine.log(LogLevel::step, Messages::tr("Stopping Services"));

@@ -5,9 +5,13 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Help {
+
 namespace {
 
-const auto placeholder = QStringLiteral("%1");
+const auto placeholder = u"%1"_s;
 
 bool isBlank(QChar c)
 {
@@ -22,10 +26,10 @@ bool startsWithDrive(const QString &address)
 
 bool isPath(const QString &address)
 {
-    return startsWithDrive(address) || address.startsWith(QLatin1String("\\\\")) || address.startsWith(u'/');
+    return startsWithDrive(address) || address.startsWith("\\\\"_L1) || address.startsWith(u'/');
 }
 
-// A query and a fragment keep their backslashes.
+// Backslashes in the query and the fragment stay.
 void useSlashesInPath(QString &address)
 {
     const auto isEndOfPath = [](QChar c) { return c == u'?' || c == u'#'; };
@@ -37,7 +41,7 @@ QUrl urlOf(QString address)
 {
     if (isPath(address))
         return QUrl::fromLocalFile(address.replace(u'\\', u'/'));
-    if (address.startsWith(QLatin1String("file:"), Qt::CaseInsensitive))
+    if (address.startsWith("file:"_L1, Qt::CaseInsensitive))
         useSlashesInPath(address);
     return QUrl(address);
 }
@@ -61,10 +65,10 @@ public:
         for (; !atEnd() && (quoted || !isBlank(m_text.at(m_at))); ++m_at) {
             const QChar c = m_text.at(m_at);
             if (c == u'\\') {
-                takeBackslashes(argument);
+                readBackslashes(argument);
             } else if (c != u'"') {
                 argument += c;
-            } else if (quoted && m_text.mid(m_at + 1, 1) == QLatin1String("\"")) {
+            } else if (quoted && m_text.mid(m_at + 1, 1) == "\""_L1) {
                 argument += u'"';
                 ++m_at;
             } else {
@@ -82,9 +86,9 @@ private:
             ++m_at;
     }
 
-    // Before a quote two backslashes are one, and an odd one makes the quote a character; elsewhere they are
-    // themselves. Stays on the last character taken.
-    void takeBackslashes(QString &argument)
+    // Before a quote, two backslashes mean one, and an odd one makes the quote an ordinary character;
+    // elsewhere a backslash is an ordinary character. Ends on the last character read.
+    void readBackslashes(QString &argument)
     {
         qsizetype end = m_at;
         while (end < m_text.size() && m_text.at(end) == u'\\')
@@ -103,11 +107,11 @@ private:
     qsizetype m_at = 0;
 };
 
-// Where the program's path ends that stands at the start without quotes. It may hold blanks all the same, as
-// those of careless installers do.
+// The end of an unquoted program path at the start of the command line. The path may contain blanks, since
+// some installers forget the quotes.
 qsizetype endOfBareProgram(const QString &commandLine)
 {
-    const QLatin1String suffix(".exe");
+    const auto suffix = ".exe"_L1;
     for (qsizetype at = 0; (at = commandLine.indexOf(suffix, at, Qt::CaseInsensitive)) >= 0;) {
         at += suffix.size();
         if (at == commandLine.size() || isBlank(commandLine.at(at)))
@@ -117,7 +121,7 @@ qsizetype endOfBareProgram(const QString &commandLine)
     return blank - commandLine.begin();
 }
 
-// The program and what follows it.
+// The program and its arguments.
 BrowserCall splitCommandLine(const QString &commandLine)
 {
     const QString trimmed = commandLine.trimmed();
@@ -125,23 +129,22 @@ BrowserCall splitCommandLine(const QString &commandLine)
         const qsizetype end = endOfBareProgram(trimmed);
         return {trimmed.left(end), splitArguments(trimmed.mid(end))};
     }
-    // No backslash changes the meaning of a quote around a program.
+    // A backslash does not escape the closing quote of a program.
     const qsizetype closing = trimmed.indexOf(u'"', 1);
     if (closing < 0)
         return {trimmed.mid(1), {}};
     return {trimmed.mid(1, closing - 1), splitArguments(trimmed.mid(closing + 1))};
 }
 
-// Programs that would look for commands in an address.
+// Programs that would execute parts of an address as commands.
 bool interpretsArguments(QString program)
 {
-    // The operating system does not see dots and blanks at the end of a file name.
+    // The operating system ignores dots and blanks at the end of a file name.
     while (program.endsWith(u'.') || program.endsWith(u' '))
         program.chop(1);
     const QFileInfo file(program.replace(u'\\', u'/').toLower());
-    const QStringList suffixes{QStringLiteral("bat"), QStringLiteral("cmd")};
-    const QStringList interpreters{QStringLiteral("cmd"), QStringLiteral("command"),
-                                   QStringLiteral("powershell"), QStringLiteral("pwsh")};
+    const QStringList suffixes{u"bat"_s, u"cmd"_s};
+    const QStringList interpreters{u"cmd"_s, u"command"_s, u"powershell"_s, u"pwsh"_s};
     return suffixes.contains(file.suffix()) || interpreters.contains(file.completeBaseName());
 }
 
@@ -154,7 +157,7 @@ bool looksLikeAnOption(const QString &argument)
 
 QString encodedAddress(const QString &address)
 {
-    return QString::fromLatin1(urlOf(address).toEncoded()); // nothing for what is no address
+    return QString::fromLatin1(urlOf(address).toEncoded()); // empty if it is not valid
 }
 
 QString expandVariables(const QString &text, const std::function<QString(const QString &)> &valueOf)
@@ -167,7 +170,7 @@ QString expandVariables(const QString &text, const std::function<QString(const Q
         if (closing < 0)
             break;
         const QString value = valueOf(text.mid(opening + 1, closing - opening - 1));
-        // A percent sign that ends no name may begin one.
+        // The closing percent sign of an unknown name may begin the next variable.
         const qsizetype next = value.isNull() ? closing : closing + 1;
         expanded += text.mid(at, opening - at);
         expanded += value.isNull() ? text.mid(opening, closing - opening) : value;
@@ -191,16 +194,18 @@ std::optional<BrowserCall> browserCall(const QString &commandLine, const QString
         return std::nullopt;
 
     QString address = encodedAddress;
-    const bool hasPlace = commandLine.contains(placeholder);
-    const QLatin1String scheme("http://");
-    if (hasPlace && address.startsWith(scheme))
+    const bool hasPlaceholder = commandLine.contains(placeholder);
+    const auto scheme = "http://"_L1;
+    if (hasPlaceholder && address.startsWith(scheme))
         address.remove(0, scheme.size());
     if (address.isEmpty() || looksLikeAnOption(address))
         return std::nullopt;
 
-    if (hasPlace)
+    if (hasPlaceholder)
         call.arguments.replaceInStrings(placeholder, address);
     else
         call.arguments += address;
     return call;
 }
+
+} // namespace Nvx::Help

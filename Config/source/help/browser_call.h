@@ -6,6 +6,8 @@
 #include <functional>
 #include <optional>
 
+namespace Nvx::Help {
+
 /// A program to start.
 struct BrowserCall
 {
@@ -13,23 +15,23 @@ struct BrowserCall
     QStringList arguments;
 };
 
-/// The address as it is handed to a browser: percent-encoded, so that it holds no blanks, quotes or
-/// backslashes whatever it was made of. A path of this machine becomes a "file:" address. Empty when the
-/// address is not valid.
+/// The address as it is passed to a browser: percent-encoded, so that it never contains blanks, quotes or
+/// backslashes. A path of this machine becomes a "file:" address. Empty if the address is not valid.
 QString encodedAddress(const QString &address);
 
-/// The text with the variables in it ("%ProgramFiles%") replaced by what valueOf answers; a name for which it
-/// answers a null string stays as it is.
+/// Replaces each variable, such as "%ProgramFiles%", with what valueOf returns for its name. A variable for
+/// which valueOf returns a null string is left as it is.
 QString expandVariables(const QString &text, const std::function<QString(const QString &)> &valueOf);
 
-/// The arguments in the command line of a Windows program, as the program itself would read them.
+/// Splits a command line into arguments, as a Windows program does with its own.
 QStringList splitArguments(const QString &commandLine);
 
-/// How to show an address with the browser that the machine records: its command line, which may hold "%1"
-/// for the address. There "http://" is left out at the start; without "%1" the whole address is the last
-/// argument. The command line is taken apart before the address is put in, so nothing in an address ever
-/// parts or adds an argument.
+/// How to open an address in the browser with the given command line. The address replaces "%1", without a
+/// leading "http://"; if there is no "%1", the complete address becomes the last argument. The command line
+/// is split before the address is inserted, so nothing in an address can split or add an argument.
 ///
-/// Nothing when the command line names no program or one that interprets its arguments anew (a command
-/// interpreter, a batch file), and when the program would take the address for an option.
+/// std::nullopt if the command line contains no program, or one that interprets its arguments (a command
+/// interpreter, a batch file), or if the program would treat the address as an option.
 std::optional<BrowserCall> browserCall(const QString &commandLine, const QString &encodedAddress);
+
+} // namespace Nvx::Help

@@ -11,25 +11,31 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
+
 using Nvx::Util::System;
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Nvx::Help {
 
 namespace {
 
-const auto helpIdsFile = QStringLiteral("NVXHelpIds.xml");
-constexpr int longestWaitMs = 30000;
+const auto helpIdsFile = u"NVXHelpIds.xml"_s;
+constexpr std::chrono::milliseconds maxWait = 30s;
 
-// Far more than the settings need. Reading 100 MB of XML would keep the first page waiting for seconds.
-constexpr qint64 largestSettings = 4'000'000;
+// Far more than the settings need. Reading 100 MB of XML would delay the first page by seconds.
+constexpr qint64 maxSettingsBytes = 4'000'000;
 
 QString sharedFolder()
 {
-    return System::getProgramDataPath(Nvx::Product::fullName);
+    return System::getProgramDataPath(Product::fullName);
 }
 
-// The command line of the user's web browser; empty when none is recorded.
+// The command line of the user's web browser; empty if the registry has none.
 QString browserCommandLine()
 {
-    const Nvx::Util::RegistryKey key(QStringLiteral("HKEY_CLASSES_ROOT\\http\\shell\\open\\command"));
+    const Util::RegistryKey key(u"HKEY_CLASSES_ROOT\\http\\shell\\open\\command"_s);
     const QString recorded = key.text(QString()).value_or(QString());
     return expandVariables(recorded, [](const QString &name) {
         const QString value = System::getEnv(name);
@@ -39,26 +45,26 @@ QString browserCommandLine()
 
 } // namespace
 
-ContextHelp::ContextHelp(Nvx::Util::Machine &machine)
+ContextHelp::ContextHelp(Util::Machine &machine)
     : m_machine(machine)
 {
 }
 
 bool ContextHelp::initialise()
 {
-    m_useDefaultPage = m_place == HelpPlace::Installed &&
-                       !QFileInfo(sharedFolder() + QStringLiteral("/NVXHelp/contexthelp/")).isDir();
+    m_useDefaultPage =
+        m_place == HelpPlace::Installed && !QFileInfo(sharedFolder() + u"/NVXHelp/contexthelp/"_s).isDir();
 
-    QFile file(Nvx::Util::joinPath(m_machine.executableFolder(), helpIdsFile));
+    QFile file(Util::joinPath(m_machine.executableFolder(), helpIdsFile));
     if (!QFileInfo(file).isFile())
         return true;
-    if (file.size() > largestSettings || !file.open(QIODevice::ReadOnly))
+    if (file.size() > maxSettingsBytes || !file.open(QIODevice::ReadOnly))
         return false;
-    const std::optional<HelpSettings> settings =
-        readHelpSettings(file, m_place, {sharedFolder(), helpLanguage(System::getLocale())});
+    const Util::Result<HelpSettings> settings = readHelpSettings(
+        file, m_place, {.sharedFolder = sharedFolder(), .language = helpLanguage(System::getLocale())});
     if (settings)
         m_settings = *settings;
-    return settings.has_value();
+    return static_cast<bool>(settings);
 }
 
 void ContextHelp::setOffline(bool offline)
@@ -68,17 +74,17 @@ void ContextHelp::setOffline(bool offline)
 
 QString ContextHelp::defaultPage() const
 {
-    return m_machine.executableFolder() + QStringLiteral("/NVXDefaultHelp.html");
+    return m_machine.executableFolder() + u"/NVXDefaultHelp.html"_s;
 }
 
 QString ContextHelp::topicAddress(const QString &contextId) const
 {
-    return m_useDefaultPage ? defaultPage() : ::topicAddress(m_settings, contextId);
+    return m_useDefaultPage ? defaultPage() : Help::topicAddress(m_settings, contextId);
 }
 
 QString ContextHelp::searchAddress(const QString &text) const
 {
-    return m_useDefaultPage ? defaultPage() : ::searchAddress(m_settings, m_place, text);
+    return m_useDefaultPage ? defaultPage() : Help::searchAddress(m_settings, m_place, text);
 }
 
 void ContextHelp::showTopic(const QString &contextId) const
@@ -97,13 +103,17 @@ void ContextHelp::openAddress(const QString &address, HelpWait wait) const
     if (encoded.isEmpty())
         return;
     const std::optional<BrowserCall> call = browserCall(browserCommandLine(), encoded);
-    if (call)
-        m_machine.startDetached(call->program, call->arguments, wait == HelpWait::No ? 0 : longestWaitMs);
+    if (!call)
+        return;
+    const std::chrono::milliseconds maxWaitNow = wait == HelpWait::No ? 0ms : maxWait;
+    m_machine.startDetached(call->program, call->arguments, static_cast<int>(maxWaitNow.count()));
 }
 
 bool writeEmptyHelpIds()
 {
     const QString folder = System::getUserDataPath();
     return System::makePath(folder) &&
-           Nvx::Util::replaceWholeFile(Nvx::Util::joinPath(folder, helpIdsFile), emptyHelpIds());
+           Util::replaceWholeFile(Util::joinPath(folder, helpIdsFile), emptyHelpIds());
 }
+
+} // namespace Nvx::Help

@@ -6,60 +6,64 @@ namespace Nvx::Util {
 class Machine;
 }
 
-/// Whether to go on at once once the browser has been started.
+namespace Nvx::Help {
+
+/// Whether to wait after the browser was started.
 enum class HelpWait
 {
     No,
-    UntilClosed ///< at most 30 seconds
+    UntilClosed ///< for at most 30 seconds
 };
 
-/// Shows topics of the help in the user's web browser, from the installed help or the online help. There is
-/// one per process, shared by its windows.
+/// Shows help topics in the user's web browser, from the installed help or the online help. A process has
+/// one, which its windows share.
 ///
-/// Whatever is missing - the settings, the help, the browser - leaves the user without help and without a
-/// message.
+/// If the settings, the help or the browser are missing, no help is shown, and no message either.
 class ContextHelp
 {
 public:
-    /// The machine must live as long as the help.
-    explicit ContextHelp(Nvx::Util::Machine &machine);
+    /// The machine must outlive the help.
+    explicit ContextHelp(Util::Machine &machine);
 
-    /// Reads the settings from the file "NVXHelpIds.xml" beside the executable and looks whether the
-    /// installed help is there. Without the file the settings stay as they are. False when the file cannot be
-    /// read, is larger than 4 MB, is not well formed or lacks its settings; they stay as they are then, too.
+    /// Reads the settings from the file "NVXHelpIds.xml" next to the executable and checks whether the
+    /// installed help exists. Returns false if the file cannot be read, is larger than 4 MB, is not well
+    /// formed or lacks the settings; the settings do not change then. Nor do they if there is no such file,
+    /// but that returns true.
     bool initialise();
 
-    /// Chooses the installed help instead of the online help, for the next initialise.
+    /// Chooses the installed help instead of the online help; takes effect at the next initialise.
     void setOffline(bool offline);
 
-    /// A mark for those who show help; the help itself takes no notice of it.
+    /// A flag for the callers; this class does not use it.
     void setMarked(bool marked) { m_marked = marked; }
     bool isMarked() const { return m_marked; }
 
-    /// The address of a topic, or of the default page when the installed help is not there.
+    /// The address of a topic, or of the default page if the installed help is missing.
     QString topicAddress(const QString &contextId) const;
 
-    /// The address of a search, or of the default page when the installed help is not there.
+    /// The address of a search, or of the default page if the installed help is missing.
     QString searchAddress(const QString &text) const;
 
     void showTopic(const QString &contextId) const;
 
-    /// The text is part of the address as it is: an "&" or "#" in it has its meaning there.
+    /// The text is not encoded: a "&" or "#" keeps its meaning in the address.
     void showSearch(const QString &text) const;
 
-    /// Opens an address in the user's web browser. One that is not valid is not opened.
+    /// Opens an address in the user's web browser. Does nothing if the address is not valid.
     void openAddress(const QString &address, HelpWait wait = HelpWait::No) const;
 
 private:
     QString defaultPage() const;
 
-    Nvx::Util::Machine &m_machine;
+    Util::Machine &m_machine;
     HelpPlace m_place = HelpPlace::Online;
     bool m_marked = false;
     bool m_useDefaultPage = false;
     HelpSettings m_settings;
 };
 
-/// Writes a file of help ids with none in it, "NVXHelpIds.xml", into the product's folder of the user's data,
-/// which is made when it is missing. False when it cannot be written.
+/// Writes a help id file without ids, "NVXHelpIds.xml", into the user's data folder of the product, which is
+/// created if necessary. Returns false if that fails.
 bool writeEmptyHelpIds();
+
+} // namespace Nvx::Help

@@ -2,10 +2,12 @@
 
 #include "nvx_util/languages.h"
 
+namespace Nvx::Help {
+
 QString helpLanguage(const QString &locale)
 {
-    const Nvx::Util::Language *language = Nvx::Util::languageOf(locale);
-    return language ? language->helpCode : Nvx::Util::sourceLanguage.helpCode;
+    const Util::Language *language = Util::languageOf(locale);
+    return language ? language->helpCode : Util::sourceLanguage.helpCode;
 }
 
 QString topicAddress(const HelpSettings &settings, const QString &contextId)
@@ -18,3 +20,5 @@ QString searchAddress(const HelpSettings &settings, HelpPlace place, const QStri
     const QString address = settings.prefix + settings.url + settings.search + text;
     return place == HelpPlace::Online ? address + settings.suffix : address;
 }
+
+} // namespace Nvx::Help

@@ -4,9 +4,13 @@
 #include <QIcon>
 #include <QPushButton>
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Help {
+
 void styleHelpButton(QPushButton &button, HelpButtonFrame frame)
 {
-    button.setIcon(QIcon(QStringLiteral(":/help/help.png")));
+    button.setIcon(QIcon(u":/help/help.png"_s));
     button.setText(QString());
     button.setAccessibleName(QCoreApplication::translate("ContextHelp", "Help"));
     button.setDefault(false);
@@ -18,3 +22,5 @@ void removeTitleBarHelpButton(QWidget &window)
 {
     window.setWindowFlags(window.windowFlags() & ~Qt::WindowContextHelpButtonHint);
 }
+
+} // namespace Nvx::Help

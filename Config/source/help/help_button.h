@@ -3,14 +3,18 @@
 class QPushButton;
 class QWidget;
 
+namespace Nvx::Help {
+
 enum class HelpButtonFrame
 {
     Raised,
     Flat
 };
 
-/// Makes a button a help button: the picture of help, no text, and never the button that Enter presses.
+/// Gives a button the help icon and no text, and prevents Enter from pressing it.
 void styleHelpButton(QPushButton &button, HelpButtonFrame frame = HelpButtonFrame::Raised);
 
-/// Takes the help button out of a window's title bar. Hides the window, as every change of its flags does.
+/// Removes the help button from a window's title bar. Hides the window, as any change of its flags does.
 void removeTitleBarHelpButton(QWidget &window);
+
+} // namespace Nvx::Help

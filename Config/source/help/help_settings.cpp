@@ -4,9 +4,17 @@
 
 #include <QXmlStreamReader>
 
+#include <optional>
+
+using Nvx::Util::Failure;
+using Nvx::Util::Result;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Help {
+
 namespace {
 
-/// The attributes of the element, with what they are when they are missing.
+/// The attributes of the element, with defaults for missing ones.
 class Attributes
 {
 public:
@@ -24,8 +32,8 @@ private:
     QXmlStreamAttributes m_attributes;
 };
 
-// The whole document is read, since one that is broken further down does not count.
-std::optional<QXmlStreamAttributes> helpUrlAttributes(QIODevice &document)
+// Reads the whole document, since an error anywhere in it counts.
+Result<QXmlStreamAttributes> helpUrlAttributes(QIODevice &document)
 {
     QXmlStreamReader reader(&document);
     reader.setNamespaceProcessing(false);
@@ -38,48 +46,46 @@ std::optional<QXmlStreamAttributes> helpUrlAttributes(QIODevice &document)
         if (token != QXmlStreamReader::StartElement)
             continue;
         ++depth;
-        if (depth == 2 && !attributes && reader.qualifiedName() == QLatin1String("help_url"))
+        if (depth == 2 && !attributes && reader.qualifiedName() == "help_url"_L1)
             attributes = reader.attributes();
     }
-    return reader.hasError() ? std::nullopt : attributes;
+    if (reader.hasError())
+        return Failure{reader.errorString()};
+    if (!attributes)
+        return Failure{u"the element help_url is missing"_s};
+    return *attributes;
 }
 
 HelpSettings installedSettings(const Attributes &attributes, const HelpDefaults &defaults)
 {
-    HelpSettings settings;
-    settings.prefix = attributes.value(QLatin1String("offline_prefix"), QStringLiteral("file:///"));
-    settings.url =
-        attributes.value(QLatin1String("offline_url"), defaults.sharedFolder + QStringLiteral("/NVXHelp/"));
-    settings.direct = attributes.value(QLatin1String("offline_direct"), QStringLiteral("contexthelp/"));
-    settings.search = attributes.value(QLatin1String("offline_search"), QStringLiteral("index.html?query="));
-    settings.suffix = attributes.value(QLatin1String("offline_suffix"), QStringLiteral(".htm"));
-    return settings;
+    return {.prefix = attributes.value("offline_prefix"_L1, u"file:///"_s),
+            .url = attributes.value("offline_url"_L1, defaults.sharedFolder + u"/NVXHelp/"_s),
+            .direct = attributes.value("offline_direct"_L1, u"contexthelp/"_s),
+            .search = attributes.value("offline_search"_L1, u"index.html?query="_s),
+            .suffix = attributes.value("offline_suffix"_L1, u".htm"_s)};
 }
 
 HelpSettings onlineSettings(const Attributes &attributes, const HelpDefaults &defaults)
 {
-    const QString wiki =
-        attributes.value(QLatin1String("online_wiki"), QStringLiteral("help.velmora.example/wiki"));
-    const QString product = attributes.value(QLatin1String("product"), QStringLiteral("KORVA"));
-    const QString release = attributes.value(QLatin1String("release"), Nvx::Product::release);
-    const QString language = attributes.value(QLatin1String("language"), defaults.language);
+    const QString wiki = attributes.value("online_wiki"_L1, u"help.velmora.example/wiki"_s);
+    const QString product = attributes.value("product"_L1, u"KORVA"_s);
+    const QString release = attributes.value("release"_L1, Product::release);
+    const QString language = attributes.value("language"_L1, defaults.language);
 
-    HelpSettings settings;
-    settings.prefix = attributes.value(QLatin1String("online_prefix"), QStringLiteral("http://"));
-    settings.url = wiki + u'/' + product + u'/' + release + u'/' + language + u'/';
-    settings.direct = attributes.value(QLatin1String("online_direct"), QStringLiteral("?contextId="));
-    settings.search = attributes.value(QLatin1String("online_search"), QStringLiteral("?query="));
-    return settings;
+    return {.prefix = attributes.value("online_prefix"_L1, u"http://"_s),
+            .url = wiki + u'/' + product + u'/' + release + u'/' + language + u'/',
+            .direct = attributes.value("online_direct"_L1, u"?contextId="_s),
+            .search = attributes.value("online_search"_L1, u"?query="_s),
+            .suffix = QString()};
 }
 
 } // namespace
 
-std::optional<HelpSettings> readHelpSettings(QIODevice &document, HelpPlace place,
-                                             const HelpDefaults &defaults)
+Result<HelpSettings> readHelpSettings(QIODevice &document, HelpPlace place, const HelpDefaults &defaults)
 {
-    const std::optional<QXmlStreamAttributes> found = helpUrlAttributes(document);
+    const Result<QXmlStreamAttributes> found = helpUrlAttributes(document);
     if (!found)
-        return std::nullopt;
+        return Failure{found.error()};
     const Attributes attributes(*found);
     return place == HelpPlace::Installed ? installedSettings(attributes, defaults)
                                          : onlineSettings(attributes, defaults);
@@ -87,5 +93,7 @@ std::optional<HelpSettings> readHelpSettings(QIODevice &document, HelpPlace plac
 
 QByteArray emptyHelpIds()
 {
-    return QByteArrayLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<help_ids/>\n");
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<help_ids/>\n"_ba;
 }
+
+} // namespace Nvx::Help

@@ -13,15 +13,9 @@
 
 using Nvx::Util::ProgramCall;
 using Nvx::Util::ProgramResult;
+using namespace Qt::Literals::StringLiterals;
 
-struct CommandRunner::Call
-{
-    ProgramCall::Place place;
-    QString program;
-    QStringList arguments;
-    QString workFolder;
-    int timeoutMs;
-};
+namespace Nvx::Run {
 
 namespace {
 
@@ -43,8 +37,8 @@ bool createBatchFile(const QString &path, const QByteArray &commandLine)
 {
     QFile::remove(path);
     QFile file(path);
-    // Only a file that is new is ours to run, and only whole: what a full disk cuts short names another
-    // folder.
+    // Only a new file is ours to run, and only a complete one: a command cut short by a full disk names
+    // another folder.
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return false;
     if (file.write(commandLine) == commandLine.size())
@@ -63,37 +57,41 @@ CommandRunner::CommandRunner(const StepContext &context)
 int CommandRunner::runCommand(const QString &program, const QStringList &arguments, const QString &workFolder,
                               int timeoutMs)
 {
-    return run({ProgramCall::Place::Path, program, arguments, workFolder, timeoutMs});
+    return run({.program = program,
+                .arguments = arguments,
+                .workFolder = workFolder,
+                .timeoutMs = timeoutMs,
+                .place = ProgramCall::Place::Path});
 }
 
 int CommandRunner::runSystemCommand(const QString &fileName, const QStringList &arguments,
                                     const QString &workFolder, int timeoutMs)
 {
-    return run({ProgramCall::Place::SystemFolder, fileName, arguments, workFolder, timeoutMs});
+    return run({.program = fileName,
+                .arguments = arguments,
+                .workFolder = workFolder,
+                .timeoutMs = timeoutMs,
+                .place = ProgramCall::Place::SystemFolder});
 }
 
-int CommandRunner::run(const Call &call)
+int CommandRunner::run(ProgramCall program)
 {
     Reporter &reporter = m_context.reporter;
-    QString commandLine = QStringLiteral("Command:") + call.program;
-    for (const QString &argument : call.arguments)
-        commandLine += QLatin1Char(' ') + argument;
+    QString commandLine = u"Command:"_s + program.program;
+    for (const QString &argument : std::as_const(program.arguments))
+        commandLine += u' ' + argument;
     reporter.log(LogLevel::step, commandLine);
 
-    ProgramCall program;
-    program.place = call.place;
-    program.program = call.program;
-    program.arguments = call.arguments;
-    program.workFolder = call.workFolder.isEmpty() ? m_context.state.installDir : call.workFolder;
-    program.timeoutMs = call.timeoutMs;
+    if (program.workFolder.isEmpty())
+        program.workFolder = m_context.state.installDir;
     program.outputLimit = maxOutputLines * maxOutputLineBytes;
-    reporter.log(LogLevel::step, QStringLiteral("WorkDir:") + program.workFolder);
+    reporter.log(LogLevel::step, u"WorkDir:"_s + program.workFolder);
 
     const ProgramResult result = m_context.machine.run(program);
     const int exitCode = exitCodeOf(result);
     const int level = LogLevel::ofResult(exitCode);
-    reporter.log(level, QStringLiteral("Output:"));
-    const QString indent = QStringLiteral("  ");
+    reporter.log(level, u"Output:"_s);
+    const QString indent = u"  "_s;
     const QStringList lines = outputLines(result.output);
     for (const QString &line : lines)
         reporter.log(level, indent + line);
@@ -102,7 +100,8 @@ int CommandRunner::run(const Call &call)
     else if (result.outcome == ProgramResult::Outcome::TimedOut)
         reporter.log(
             level,
-            indent + tr("The program was still running after %1 ms and has been ended.").arg(call.timeoutMs));
+            indent +
+                tr("The program was still running after %1 ms and has been ended.").arg(program.timeoutMs));
     else if (result.outcome == ProgramResult::Outcome::Crashed)
         reporter.log(level, indent + tr("The program crashed."));
     return exitCode;
@@ -111,14 +110,14 @@ int CommandRunner::run(const Call &call)
 QString removalCommand(const QString &path)
 {
     QString escaped = path;
-    escaped.replace(QLatin1Char('%'), QLatin1String("%%"));
-    return QStringLiteral("rmdir /s /q \"") + escaped + QLatin1Char('"');
+    escaped.replace(u'%', "%%"_L1);
+    return u"rmdir /s /q \""_s + escaped + u'"';
 }
 
 bool CommandRunner::removeDirectory(const QString &path)
 {
     Reporter &reporter = m_context.reporter;
-    const std::optional<QByteArray> commandLine = Nvx::Util::toOem(removalCommand(path));
+    const std::optional<QByteArray> commandLine = Util::toOem(removalCommand(path));
     if (!commandLine) {
         reporter.log(LogLevel::failure,
                      tr("The command interpreter's code page cannot write the name of this folder, "
@@ -127,26 +126,23 @@ bool CommandRunner::removeDirectory(const QString &path)
         return true;
     }
 
-    // The file lies beside the install dir rather than in it: its name is the folder's, continued.
-    const QString batchFile = m_context.state.installDir + QStringLiteral("work.bat");
+    // The batch file is next to the install dir, not in it: the file's name is appended without a separator.
+    const QString batchFile = m_context.state.installDir + u"work.bat"_s;
     if (!createBatchFile(batchFile, *commandLine)) {
         reporter.log(LogLevel::failure,
                      tr("Unable to create %1, this folder is not removed: %2").arg(batchFile, path));
         return true;
     }
 
-    ProgramCall call;
-    call.place = ProgramCall::Place::SystemFolder;
-    call.quoting = ProgramCall::Quoting::CommandInterpreter;
-    call.program = QStringLiteral("cmd.exe");
-    call.arguments = QStringList{QStringLiteral("/C"), batchFile};
-    call.workFolder = m_context.state.installDir;
-    call.timeoutMs = usualTimeoutMs;
-    reporter.log(LogLevel::step, QStringLiteral("Command:cmd.exe /C %1 ").arg(batchFile));
-    const ProgramResult result = m_context.machine.run(call);
+    reporter.log(LogLevel::step, u"Command:cmd.exe /C %1 "_s.arg(batchFile));
+    const ProgramResult result = m_context.machine.run({.program = u"cmd.exe"_s,
+                                                        .arguments = {u"/C"_s, batchFile},
+                                                        .workFolder = m_context.state.installDir,
+                                                        .timeoutMs = usualTimeoutMs,
+                                                        .place = ProgramCall::Place::SystemFolder,
+                                                        .quoting = ProgramCall::Quoting::CommandInterpreter});
     QFile::remove(batchFile);
-    reporter.log(LogLevel::ofResult(exitCodeOf(result)),
-                 QStringLiteral(" output:") + Nvx::Util::fromOem(result.output));
+    reporter.log(LogLevel::ofResult(exitCodeOf(result)), u" output:"_s + Util::fromOem(result.output));
     return true;
 }
 
@@ -158,13 +154,15 @@ bool CommandRunner::removeMatchingFiles(const QString &folder, const QString &pa
     QDirIterator entries(folder, QDir::Files | QDir::Hidden | QDir::System);
     while (entries.hasNext()) {
         entries.next();
-        const QString path = folder + QLatin1Char('/') + entries.fileName();
+        const QString path = folder + u'/' + entries.fileName();
         if (path.toUpper().contains(pattern))
             matching.append(path);
     }
     for (const QString &path : std::as_const(matching)) {
-        m_context.reporter.log(LogLevel::step, QStringLiteral("Removing:") + path);
+        m_context.reporter.log(LogLevel::step, u"Removing:"_s + path);
         QFile::remove(path);
     }
     return true;
 }
+
+} // namespace Nvx::Run

@@ -1,7 +1,13 @@
 #pragma once
 
+#include "run/namespace.h"
+
 #include <QLoggingCategory>
 
-/// Failures that the log leaves out: a step passes them over. They go to Qt's diagnostic output as warnings,
-/// in English, for an administrator who looks into one machine.
+namespace Nvx::Run {
+
+/// Failures that are not in the log, because no step reports them. They are warnings in Qt's diagnostic
+/// output, in English, for an administrator who examines one machine.
 Q_DECLARE_LOGGING_CATEGORY(diagnostics)
+
+} // namespace Nvx::Run

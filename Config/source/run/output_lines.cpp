@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace Nvx::Run {
+
 QStringList outputLines(const QByteArray &output)
 {
     QStringList lines;
@@ -12,10 +14,12 @@ QStringList outputLines(const QByteArray &output)
         const qsizetype newLine = output.indexOf('\n', start);
         const qsizetype lineEnd = newLine < 0 ? output.size() : newLine + 1;
         const qsizetype end = std::min(lineEnd, start + maxOutputLineBytes);
-        const QString line = Nvx::Util::fromOem(output.mid(start, end - start)).trimmed();
+        const QString line = Util::fromOem(output.mid(start, end - start)).trimmed();
         if (!line.isEmpty())
             lines.append(line);
         start = end;
     }
     return lines;
 }
+
+} // namespace Nvx::Run

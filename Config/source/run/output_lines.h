@@ -3,11 +3,15 @@
 #include <QByteArray>
 #include <QStringList>
 
-/// How much of a program's output is looked at.
+namespace Nvx::Run {
+
+// How much of a program's output is read.
 constexpr int maxOutputLines = 21;
 constexpr qsizetype maxOutputLineBytes = 255;
 
-/// The lines of a program's output that are worth logging, without the blanks around them. The output is read
-/// in lines of at most 255 bytes, a longer line in pieces; 21 lines or pieces are read, the rest is dropped.
-/// Empty ones count as read but are left out.
+/// The lines of a program's output that are logged, without leading and trailing white space. A line longer
+/// than maxOutputLineBytes is split into pieces. Reading ends after maxOutputLines lines or pieces. Empty
+/// ones count as read but are left out.
 QStringList outputLines(const QByteArray &output);
+
+} // namespace Nvx::Run

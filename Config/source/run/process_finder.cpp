@@ -11,6 +11,8 @@ using Nvx::Util::OpenedProcess;
 using Nvx::Util::ProcessId;
 using Nvx::Util::ProcessTable;
 
+namespace Nvx::Run {
+
 namespace {
 
 struct ProcessFinder
@@ -18,8 +20,8 @@ struct ProcessFinder
     Q_DECLARE_TR_FUNCTIONS(ProcessFinder)
 };
 
-// Processes beyond these are not seen.
-constexpr int mostProcesses = 1024;
+// Further processes are not examined.
+constexpr int maxProcesses = 1024;
 
 void end(OpenedProcess &process, const QString &displayName, Reporter &reporter)
 {
@@ -35,15 +37,15 @@ QStringList findProcesses(const StepContext &context, const QStringList &exeName
 {
     QStringList found;
     ProcessTable &processes = context.machine.processes();
-    const QList<ProcessId> ids = processes.ids(mostProcesses);
+    const QList<ProcessId> ids = processes.ids(maxProcesses);
     for (const ProcessId id : ids) {
         const std::unique_ptr<OpenedProcess> process = processes.open(id);
         if (!process || !process->path().toUpper().contains(pathFilter))
             continue;
-        const qsizetype place = exeNames.indexOf(process->baseName().toUpper());
-        if (place < 0)
+        const qsizetype position = exeNames.indexOf(process->baseName().toUpper());
+        if (position < 0)
             continue;
-        const QString displayName = displayNames.value(place);
+        const QString displayName = displayNames.value(position);
         if (onMatch == OnMatch::Terminate)
             end(*process, displayName, context.reporter);
         else
@@ -51,3 +53,5 @@ QStringList findProcesses(const StepContext &context, const QStringList &exeName
     }
     return found;
 }
+
+} // namespace Nvx::Run

@@ -4,11 +4,13 @@
 #include <QFile>
 #include <QFileInfo>
 
+namespace Nvx::Run {
+
 namespace {
 
-// A link whose target is gone "does not exist", and anything with a shortcut's name counts as a link, whether
-// it is there or not; so it is looked for in its folder.
-bool isThere(const QString &path)
+// QFileInfo reports a link as missing if its target is missing, and treats every path with a shortcut's
+// suffix as a link, even if no such file exists. So a link is looked up in its folder's listing.
+bool fileExists(const QString &path)
 {
     const QFileInfo entry(path);
     if (entry.exists() || !entry.isSymLink())
@@ -26,18 +28,21 @@ bool isThere(const QString &path)
 
 bool removeProductFile(const QString &path)
 {
-    if (!isThere(path))
+    if (!fileExists(path))
         return true;
     QFile file(path);
     if (!file.remove()) {
         file.setPermissions(file.permissions() | QFile::WriteOwner | QFile::WriteUser);
         file.remove();
     }
-    // The system may take a removal for done that the disk then refuses, or that waits for another program.
-    return !isThere(path);
+    // The system may report a removal as done although the disk then refuses it, or another program has the
+    // file open.
+    return !fileExists(path);
 }
 
 bool replaceProductFile(const QString &source, const QString &target)
 {
     return removeProductFile(target) && QFile::copy(source, target);
 }
+
+} // namespace Nvx::Run

@@ -1,12 +1,18 @@
 #pragma once
 
+#include "run/namespace.h"
+
 #include <QString>
 
-/// Removes a file of the product even when it is write-protected, as files copied from read-only media are.
-/// Of a link or a shortcut it removes the link, wherever it leads. True when it is gone, also when it never
-/// was there.
+namespace Nvx::Run {
+
+/// Removes a file of the product, even a write-protected one, such as a file copied from read-only media. For
+/// a link or a shortcut it removes the link, not the target. Returns true if the file does not exist
+/// afterwards.
 bool removeProductFile(const QString &path);
 
-/// Replaces a file of the product by a copy of another: the old file is removed first, so that a source that
-/// is missing leaves none. True when the copy is there.
+/// Replaces a file of the product with a copy of another. The old file is removed first, so if the source is
+/// missing, no file is left. Returns true if the copy was made.
 bool replaceProductFile(const QString &source, const QString &target);
+
+} // namespace Nvx::Run

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "run/namespace.h"
+
 #include <QString>
+
+namespace Nvx::Run {
 
 /// Where progress lines are shown: the list on the wizard's last page. A silent run has none.
 class ProgressView
@@ -17,6 +21,8 @@ public:
     /// Removes all rows.
     virtual void clear() = 0;
 
-    /// The run has begun or ended.
+    /// Called when the run begins and when it ends.
     virtual void runCompleteChanged() = 0;
 };
+
+} // namespace Nvx::Run

@@ -1,15 +1,19 @@
 #pragma once
 
+#include "run/namespace.h"
+
 #include <QString>
 
-/// The levels of the log's lines. A line on a program's exit code, or on another result of the system, has
-/// that result as its level.
+namespace Nvx::Run {
+
+/// The levels of the lines in the log.
 namespace LogLevel {
 
 inline constexpr int step = 0;
 inline constexpr int failure = 1;
 inline constexpr int note = 2;
 
+/// The level of a line about a program's exit code or an error number of the system: that number.
 constexpr int ofResult(int result)
 {
     return result;
@@ -29,9 +33,11 @@ public:
     /// Writes a line into the log.
     virtual void log(int level, const QString &text) = 0;
 
-    /// Shows a line to the user where there is a progress list, and logs it.
+    /// Adds a line to the progress list, if there is one, and logs it.
     virtual void progress(int level, const QString &text) = 0;
 
-    /// Shows a box that waits for the user, and logs its text.
+    /// Shows a message box, waits until the user closes it, and logs its text.
     virtual void inform(int level, const QString &text) = 0;
 };
+
+} // namespace Nvx::Run

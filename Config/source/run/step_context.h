@@ -1,15 +1,22 @@
 #pragma once
 
+#include "run/namespace.h"
+
 namespace Nvx::Util {
 class Machine;
 }
+
+namespace Nvx::Run {
+
 class Reporter;
 struct RunState;
 
-/// What every step is handed: the machine to act on, where to report, and the run it belongs to.
+/// What every step receives: the machine to configure, the reporter, and the state of the run.
 struct StepContext
 {
-    Nvx::Util::Machine &machine;
+    Util::Machine &machine;
     Reporter &reporter;
     const RunState &state;
 };
+
+} // namespace Nvx::Run

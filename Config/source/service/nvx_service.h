@@ -4,7 +4,7 @@
 #include "service/service_controller.h"
 
 /// The service of the product's server, "NVXServer.exe".
-class NvxService : public ServiceController
+class NvxService : public Nvx::Service::ServiceController
 {
 public:
     explicit NvxService(Nvx::Util::Machine &machine)

@@ -13,17 +13,24 @@
 
 #include <QFile>
 
+#include <chrono>
+
 using Nvx::Util::joinPath;
 using Nvx::Util::ServiceState;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Nvx::Service {
 
 namespace {
 
-constexpr std::chrono::milliseconds pollInterval{100};
-constexpr int mostPolls = 100; // ten seconds
+constexpr std::chrono::milliseconds pollInterval = 100ms;
+constexpr std::chrono::milliseconds waitLimit = 10s;
 
 QString analyzeFolder()
 {
-    return joinPath(Nvx::Util::System::getProgramDataPath(Nvx::Product::fullName), QStringLiteral("Analyze"));
+    return joinPath(Util::System::getProgramDataPath(Product::fullName), u"Analyze"_s);
 }
 
 } // namespace
@@ -36,7 +43,7 @@ ServerService::ServerService(const StepContext &context, NvxService &service)
 
 ServerService::Installed ServerService::install()
 {
-    const QString path = joinPath(m_context.state.installDir, Nvx::Product::serverProgram);
+    const QString path = joinPath(m_context.state.installDir, Product::serverProgram);
     if (!QFile::exists(path)) {
         m_context.reporter.inform(
             LogLevel::failure,
@@ -44,20 +51,20 @@ ServerService::Installed ServerService::install()
         return Installed::ProgramMissing;
     }
 
-    // The new server is to start without the configuration and the log of the old one.
-    removeProductFile(joinPath(analyzeFolder(), QStringLiteral("solver_manager.cfg")));
-    removeProductFile(joinPath(analyzeFolder(), QStringLiteral("solver_manager.log")));
+    // The new server must start without the configuration and the log of the old one.
+    removeProductFile(joinPath(analyzeFolder(), u"solver_manager.cfg"_s));
+    removeProductFile(joinPath(analyzeFolder(), u"solver_manager.log"_s));
 
     if (!NvxService::install(m_context.machine, path, QString(), QString())) {
         qCWarning(diagnostics, "%ls has not registered its service", qUtf16Printable(path));
-        m_context.machine.tell(Nvx::Util::BoxKind::Critical, tr("Server Error"),
+        m_context.machine.tell(Util::BoxKind::Critical, tr("Server Error"),
                                tr("Unable to install the server"));
         return Installed::RegistrationFailed;
     }
 
-    // These are copies: people are shown the description that the server has registered for itself.
+    // Both calls return copies, so the description shown to users is the one that the server has registered.
     m_service.serviceDescription() = tr("Manages communication between NVX components.");
-    m_service.serviceName() = Nvx::Product::serverService;
+    m_service.serviceName() = Product::serverService;
     if (!m_service.start())
         qCWarning(diagnostics, "The server has been registered, but could not be started");
     return Installed::Yes;
@@ -81,16 +88,16 @@ void ServerService::stop()
         qCWarning(diagnostics, "The server has not stopped in time and is ended");
         endProcesses();
     }
-    // The service control manager needs a moment to notice that a process has ended. A service that it
-    // takes for active could only be marked for deletion.
+    // The service control manager needs a moment to notice that a process has ended. Until then the service
+    // could only be marked for deletion.
     waitUntil([this] { return !isActive(); });
 }
 
 void ServerService::endProcesses()
 {
-    const auto name = QStringLiteral("NVXServer");
-    findProcesses(m_context, {QStringLiteral("NVXSERVER.EXE"), QStringLiteral("NVXSERVER")}, {name, name},
-                  OnMatch::Terminate, QString());
+    const auto name = u"NVXServer"_s;
+    findProcesses(m_context, {u"NVXSERVER.EXE"_s, u"NVXSERVER"_s}, {name, name}, OnMatch::Terminate,
+                  QString());
 }
 
 void ServerService::remove()
@@ -103,7 +110,7 @@ void ServerService::remove()
         m_context.reporter.log(LogLevel::step, tr("uninstallServer - could not uninstall service"));
         return;
     }
-    // As long as the name is taken the server cannot register itself again.
+    // The server cannot register itself again while the name is in use.
     if (!waitUntil([this] { return !m_service.isInstalled(); }))
         qCWarning(diagnostics,
                   "The service will be deleted once it has stopped and no other program has it open");
@@ -113,7 +120,7 @@ void ServerService::removeWorkFolders()
 {
     CommandRunner runner(m_context);
     runner.removeDirectory(analyzeFolder());
-    runner.removeDirectory(joinPath(m_context.state.installDir, QStringLiteral("HPCAnalyze")));
+    runner.removeDirectory(joinPath(m_context.state.installDir, u"HPCAnalyze"_s));
 }
 
 bool ServerService::isActive() const
@@ -124,10 +131,12 @@ bool ServerService::isActive() const
 template<typename Condition>
 bool ServerService::waitUntil(const Condition &condition) const
 {
-    for (int polls = 0; polls < mostPolls; ++polls) {
+    for (auto waited = 0ms; waited < waitLimit; waited += pollInterval) {
         if (condition())
             return true;
         m_context.machine.sleep(pollInterval);
     }
     return condition();
 }
+
+} // namespace Nvx::Service

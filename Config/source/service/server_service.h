@@ -5,29 +5,31 @@
 
 #include <QCoreApplication>
 
-/// The product's server as a service of the machine: registers it, removes it, and stops it for an update.
-/// Whatever state the service is in, removing and then installing ends with a freshly registered one that
-/// has been started, as far as the machine lets us.
+namespace Nvx::Service {
+
+/// Registers the product's server as a service and removes it. Removing and then installing it results in a
+/// newly registered and started service, whatever state it was in, unless the machine refuses.
 class ServerService
 {
     Q_DECLARE_TR_FUNCTIONS(ServerService)
 
 public:
-    /// What became of the installation. The numbers are those of the engine's operation.
+    /// The result of an installation. The numbers are what the engine's operation returns.
     enum class Installed
     {
         Yes = 0,
-        ProgramMissing = 1,    ///< there is no NVXServer.exe; the user has been told
-        RegistrationFailed = 2 ///< the program did not register itself; the user has been told
+        ProgramMissing = 1,    ///< NVXServer.exe does not exist; a message box said so
+        RegistrationFailed = 2 ///< the program did not register itself; a message box said so
     };
 
-    ServerService(const StepContext &context, NvxService &service);
+    ServerService(const Run::StepContext &context, NvxService &service);
 
-    /// Has the server program register itself, and starts the service. Boxes for the user block.
+    /// Runs the server program to register itself, and starts the service. Blocks while a message box is
+    /// open.
     Installed install();
 
-    /// Stops the service, if need be by ending its processes, deletes it and removes the folders that the
-    /// server works in. What fails is logged.
+    /// Stops the service, by ending its processes if necessary, deletes it and removes the server's work
+    /// folders. Failures are logged.
     void uninstall();
 
 private:
@@ -39,6 +41,8 @@ private:
     template<typename Condition>
     bool waitUntil(const Condition &condition) const;
 
-    StepContext m_context;
+    Run::StepContext m_context;
     NvxService &m_service;
 };
+
+} // namespace Nvx::Service

@@ -5,39 +5,43 @@
 
 #include <QFileInfo>
 
-using Nvx::Util::ProgramCall;
+#include <chrono>
+
 using Nvx::Util::ProgramResult;
 using Nvx::Util::ServiceState;
 using Nvx::Util::ServiceStop;
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Nvx::Service {
 
 namespace {
 
-// The system gives a service twenty seconds when it shuts down.
-constexpr std::chrono::seconds patienceAtStop{20};
+// As long as Windows waits for a service when it shuts down.
+constexpr std::chrono::milliseconds stopTimeout = 20s;
 
-// A program that waits for an answer must not hold a silent run for ever.
-constexpr int registrationTimeoutMs = 120000;
+// A program that waits for input must not block a silent run for ever.
+constexpr std::chrono::milliseconds registrationTimeout = 2min;
 
 } // namespace
 
-ServiceController::ServiceController(Nvx::Util::Machine &machine, const QString &serviceName)
+ServiceController::ServiceController(Util::Machine &machine, const QString &serviceName)
     : m_machine(&machine)
     , m_serviceName(serviceName)
 {
 }
 
-bool ServiceController::install(Nvx::Util::Machine &machine, const QString &path, const QString &account,
+bool ServiceController::install(Util::Machine &machine, const QString &path, const QString &account,
                                 const QString &password)
 {
-    ProgramCall call;
-    call.program = path;
-    call.arguments = QStringList{QStringLiteral("-i")};
+    QStringList arguments = {u"-i"_s};
     if (!account.isEmpty())
-        call.arguments << account << password;
-    call.workFolder = QFileInfo(path).path();
-    call.timeoutMs = registrationTimeoutMs;
-    call.outputLimit = 0;
-    const ProgramResult result = machine.run(call);
+        arguments << account << password;
+    const ProgramResult result = machine.run({.program = path,
+                                              .arguments = arguments,
+                                              .workFolder = QFileInfo(path).path(),
+                                              .timeoutMs = static_cast<int>(registrationTimeout.count()),
+                                              .outputLimit = 0});
     return result.outcome == ProgramResult::Outcome::Exited && result.exitCode == 0;
 }
 
@@ -53,7 +57,7 @@ bool ServiceController::start()
 
 bool ServiceController::stop()
 {
-    return m_machine->services().stop(m_serviceName, patienceAtStop) != ServiceStop::Refused;
+    return m_machine->services().stop(m_serviceName, stopTimeout) != ServiceStop::Refused;
 }
 
 bool ServiceController::uninstall()
@@ -65,3 +69,5 @@ QString ServiceController::serviceDescription() const
 {
     return m_machine->services().description(m_serviceName);
 }
+
+} // namespace Nvx::Service

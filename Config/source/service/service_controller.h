@@ -6,40 +6,43 @@ namespace Nvx::Util {
 class Machine;
 }
 
+namespace Nvx::Service {
+
 /// Controls one service by its name.
 class ServiceController
 {
 public:
     /// The machine must outlive the controller.
-    ServiceController(Nvx::Util::Machine &machine, const QString &serviceName);
+    ServiceController(Util::Machine &machine, const QString &serviceName);
 
-    /// Has a service program register its own service, by running it with the argument "-i" and, when they
-    /// are not empty, the account that the service is to run under and its password. The program writes the
-    /// registration, its path and description included. Waits for the program's end. True when it ended
-    /// with exit code 0.
-    static bool install(Nvx::Util::Machine &machine, const QString &path, const QString &account,
+    /// Runs a service program with the argument "-i" to register its own service, path and description
+    /// included. If account is not empty, the service will run under that account; account and password are
+    /// further arguments. Waits until the program ends. Returns true if its exit code is 0.
+    static bool install(Util::Machine &machine, const QString &path, const QString &account,
                         const QString &password);
 
     /// Whether the service control manager knows the service.
     bool isInstalled() const;
 
-    /// Starts the service without arguments. True when its program has been started.
+    /// Starts the service without arguments. Returns true if its program was started.
     bool start();
 
-    /// Stops the service. True when it took the request; it is then given some time to stop, after which it
-    /// may still be active.
+    /// Asks the service to stop and waits up to 20 seconds for it. Returns true if it accepted the request,
+    /// even if it is still active afterwards.
     bool stop();
 
-    /// Deletes the service from the service control manager. True on success; the name is free again once
-    /// the service has stopped and no program looks at it any more.
+    /// Deletes the service from the service control manager. Returns true on success. The name can be used
+    /// again once the service has stopped and no other program has it open.
     bool uninstall();
 
-    /// The description that the service is registered with.
+    /// The registered description of the service.
     QString serviceDescription() const;
 
     QString serviceName() const { return m_serviceName; }
 
 private:
-    Nvx::Util::Machine *m_machine;
+    Util::Machine *m_machine;
     QString m_serviceName;
 };
+
+} // namespace Nvx::Service

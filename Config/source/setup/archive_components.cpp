@@ -8,6 +8,17 @@
 #include <array>
 
 using Nvx::Util::joinPath;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Setup {
+
+namespace {
+
+// No path on Windows is longer, in 16-bit characters.
+constexpr qsizetype maxPathLength = 32768;
+
+} // namespace
 
 ArchiveComponents::ArchiveComponents(const StepContext &context)
     : m_context(context)
@@ -17,24 +28,24 @@ ArchiveComponents::ArchiveComponents(const StepContext &context)
 
 int ArchiveComponents::installTutorials(RunMode mode)
 {
-    const QString tutorials = Nvx::Util::System::getTutorialsDirPath();
+    const QString tutorials = Util::System::getTutorialsDirPath();
     m_runner.removeDirectory(tutorials);
     m_context.reporter.progress(LogLevel::step, m_context.state.modeWord(mode) + tr(" Tutorials"));
     if (mode != RunMode::Install)
         return 0;
 
     m_context.reporter.log(LogLevel::step, tr("Installing Tutorials"));
-    unpack(joinPath(m_context.state.installDir, QStringLiteral("en-US/Examples.7z")), tutorials,
+    unpack(joinPath(m_context.state.installDir, u"en-US/Examples.7z"_s), tutorials,
            CommandRunner::usualTimeoutMs);
     return 0;
 }
 
 int ArchiveComponents::installPython(RunMode mode)
 {
-    const QString python = joinPath(m_context.machine.executableFolder(), QStringLiteral("Python"));
-    m_runner.removeDirectory(joinPath(python, QStringLiteral("DLLs")));
-    m_runner.removeDirectory(joinPath(python, QStringLiteral("Lib")));
-    m_runner.removeMatchingFiles(joinPath(python, QStringLiteral("Ostrade/NVX")), QStringLiteral(".PYC"));
+    const QString python = joinPath(m_context.machine.executableFolder(), u"Python"_s);
+    m_runner.removeDirectory(joinPath(python, u"DLLs"_s));
+    m_runner.removeDirectory(joinPath(python, u"Lib"_s));
+    m_runner.removeMatchingFiles(joinPath(python, u"Ostrade/NVX"_s), u".PYC"_s);
     m_context.reporter.progress(LogLevel::step,
                                 m_context.state.modeWord(mode) + tr(" Python (locally for NVX)"));
     if (mode == RunMode::Uninstall)
@@ -43,18 +54,17 @@ int ArchiveComponents::installPython(RunMode mode)
         return 0;
 
     m_context.reporter.log(LogLevel::step, tr("Installing Python"));
-    const auto processor = QStringLiteral("x64");
-    unpack(joinPath(python, QStringLiteral("python26_%1.7z").arg(processor)), python,
-           CommandRunner::noTimeout);
+    const auto processor = u"x64"_s;
+    unpack(joinPath(python, u"python26_%1.7z"_s.arg(processor)), python, CommandRunner::noTimeout);
     return 0;
 }
 
 int ArchiveComponents::installMertleServer(RunMode mode)
 {
-    std::array<wchar_t, 32768> buffer; // no path is longer
-    Nvx::Util::Registry::readKelvaneTranslatorsFolder(buffer.data(), buffer.size());
+    std::array<wchar_t, maxPathLength> buffer;
+    Util::Registry::readKelvaneTranslatorsFolder(buffer.data(), buffer.size());
     const QString translators = QString::fromWCharArray(buffer.data());
-    const QString mertle = joinPath(translators, QStringLiteral("NVX_MertleServer"));
+    const QString mertle = joinPath(translators, u"NVX_MertleServer"_s);
 
     m_context.reporter.progress(LogLevel::step, m_context.state.modeWord(mode) + tr(" Mertle Server"));
     if (translators.isEmpty()) {
@@ -68,14 +78,15 @@ int ArchiveComponents::installMertleServer(RunMode mode)
         return 0;
 
     m_context.reporter.log(LogLevel::step, tr("Installing Mertle Server"));
-    unpack(joinPath(mertle, QStringLiteral("NVX_MertleServer.7z")), mertle, CommandRunner::noTimeout);
+    unpack(joinPath(mertle, u"NVX_MertleServer.7z"_s), mertle, CommandRunner::noTimeout);
     return 0;
 }
 
 void ArchiveComponents::unpack(const QString &archive, const QString &folder, int timeoutMs)
 {
     const QString installDir = m_context.state.installDir;
-    m_runner.runCommand(joinPath(installDir, QStringLiteral("7z.exe")),
-                        {QStringLiteral("x"), archive, QStringLiteral("-y"), QStringLiteral("-o") + folder},
+    m_runner.runCommand(joinPath(installDir, u"7z.exe"_s), {u"x"_s, archive, u"-y"_s, u"-o"_s + folder},
                         installDir, timeoutMs);
 }
+
+} // namespace Nvx::Setup

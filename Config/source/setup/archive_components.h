@@ -6,29 +6,33 @@
 
 #include <QCoreApplication>
 
-/// The components that the product brings as 7-Zip archives. Each operation is a step of the installation
-/// run: it takes the run mode and always returns 0.
+namespace Nvx::Setup {
+
+/// The components that the product ships as 7-Zip archives. Each operation is a step of the installation run:
+/// it takes the run mode and always returns 0.
 class ArchiveComponents
 {
     Q_DECLARE_TR_FUNCTIONS(ArchiveComponents)
 
 public:
-    explicit ArchiveComponents(const StepContext &context);
+    explicit ArchiveComponents(const Run::StepContext &context);
 
-    /// Empties the tutorials folder, and on install unpacks the tutorials into it.
-    int installTutorials(RunMode mode);
+    /// Removes the tutorials folder; on install, unpacks the tutorials into it.
+    int installTutorials(Run::RunMode mode);
 
-    /// Removes what was unpacked of the product's private Python, and on install unpacks it; an uninstall
-    /// removes the Python folder whole.
-    int installPython(RunMode mode);
+    /// Removes the unpacked files of the product's private Python; on install, unpacks it again. On
+    /// uninstall, removes the whole Python folder.
+    int installPython(Run::RunMode mode);
 
-    /// Unpacks the translation server over the folder that holds its archive, or removes that folder. Nothing
-    /// is touched when the machine has no translators folder.
-    int installMertleServer(RunMode mode);
+    /// On install, unpacks the translation server over the folder that contains its archive; on uninstall,
+    /// removes that folder. Does nothing on a machine without a translators folder.
+    int installMertleServer(Run::RunMode mode);
 
 private:
     void unpack(const QString &archive, const QString &folder, int timeoutMs);
 
-    StepContext m_context;
-    CommandRunner m_runner;
+    Run::StepContext m_context;
+    Run::CommandRunner m_runner;
 };
+
+} // namespace Nvx::Setup

@@ -1,5 +1,9 @@
 #include "setup/association_scripts.h"
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Setup {
+
 namespace {
 
 struct FileType
@@ -25,46 +29,40 @@ struct FileType
 const QList<FileType> &fileTypes()
 {
     static const QList<FileType> types = {
-        {QStringLiteral(".nvxst"), QStringLiteral("nvxst.ico"), FileType::Opens::WithProgram,
-         FileType::Removal::Whole},
-        {QStringLiteral(".nvz"), QStringLiteral("nvz.ico"), FileType::Opens::WithProgram,
-         FileType::Removal::Whole},
-        {QStringLiteral(".tpl"), QStringLiteral("nvxtpl.ico"), FileType::Opens::Not,
-         FileType::Removal::ClassOnly},
-        {QStringLiteral(".nvxpkg"), QStringLiteral("nvxpkg.ico"), FileType::Opens::Not,
-         FileType::Removal::None},
+        {u".nvxst"_s, u"nvxst.ico"_s, FileType::Opens::WithProgram, FileType::Removal::Whole},
+        {u".nvz"_s, u"nvz.ico"_s, FileType::Opens::WithProgram, FileType::Removal::Whole},
+        {u".tpl"_s, u"nvxtpl.ico"_s, FileType::Opens::Not, FileType::Removal::ClassOnly},
+        {u".nvxpkg"_s, u"nvxpkg.ico"_s, FileType::Opens::Not, FileType::Removal::None},
     };
     return types;
 }
 
-const QString header = QStringLiteral("Windows Registry Editor Version 5.00");
-const QString classes = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Classes\\");
+const QString header = u"Windows Registry Editor Version 5.00"_s;
+const QString classes = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Classes\\"_s;
 
 QString keyLine(const QString &key)
 {
-    return QLatin1Char('[') + key + QLatin1Char(']');
+    return u'[' + key + u']';
 }
 
 QString removedKeyLine(const QString &key)
 {
-    return QStringLiteral("[-") + key + QLatin1Char(']');
+    return u"[-"_s + key + u']';
 }
 
-// The text stands in the script as it is, so it must be escaped.
+// The text is written into the script as it is, so it must be escaped already.
 QString defaultValueLine(const QString &escapedText)
 {
-    return QStringLiteral("@=\"") + escapedText + QLatin1Char('"');
+    return u"@=\""_s + escapedText + u'"';
 }
 
-// What people and Windows itself keep of an extension.
+// The keys that Windows and the user have for an extension.
 QStringList keysOfExtension(const QString &extension)
 {
-    const QString explorer =
-        QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\");
-    return {QStringLiteral("HKEY_CLASSES_ROOT\\") + extension,
-            QStringLiteral("HKEY_CLASSES_ROOT\\WOW6432Node\\") + extension,
-            explorer + QStringLiteral("FileExts\\") + extension,
-            explorer + QStringLiteral("RecentDocs\\") + extension, classes + extension};
+    const QString explorer = u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\"_s;
+    return {u"HKEY_CLASSES_ROOT\\"_s + extension, u"HKEY_CLASSES_ROOT\\WOW6432Node\\"_s + extension,
+            explorer + u"FileExts\\"_s + extension, explorer + u"RecentDocs\\"_s + extension,
+            classes + extension};
 }
 
 QStringList typeAndIcon(const FileType &type, const AssociationNames &names, const QString &installDirEscaped)
@@ -72,33 +70,31 @@ QStringList typeAndIcon(const FileType &type, const AssociationNames &names, con
     const QString extensionKey = classes + type.extension;
     const QString className = names.programId + type.extension;
     const QString classKey = classes + className;
-    const QString subKey = extensionKey + QLatin1Char('\\') + className;
+    const QString subKey = extensionKey + u'\\' + className;
     return {keyLine(extensionKey),
             defaultValueLine(className),
             keyLine(subKey),
-            keyLine(subKey + QStringLiteral("\\ShellNew")),
+            keyLine(subKey + u"\\ShellNew"_s),
             keyLine(classKey),
             defaultValueLine(names.description),
-            keyLine(classKey + QStringLiteral("\\DefaultIcon")),
-            defaultValueLine(QStringLiteral("\\\"%1\\\\%2\\\"").arg(installDirEscaped, type.icon))};
+            keyLine(classKey + u"\\DefaultIcon"_s),
+            defaultValueLine(u"\\\"%1\\\\%2\\\""_s.arg(installDirEscaped, type.icon))};
 }
 
 QStringList openCommand(const FileType &type, const AssociationNames &names, const QString &installDirEscaped)
 {
-    const QString shell = classes + names.programId + type.extension + QStringLiteral("\\shell");
-    return {keyLine(shell), defaultValueLine(QStringLiteral("Open")),
-            keyLine(shell + QStringLiteral("\\Open")), defaultValueLine(names.description),
-            keyLine(shell + QStringLiteral("\\Open\\command")),
-            // The argument stands for the document, which the shell puts in its place.
-            defaultValueLine(QStringLiteral("\\\"") + installDirEscaped +
-                             QStringLiteral("\\\\NVX.exe\\\" \\\"%1\\\""))};
+    const QString shell = classes + names.programId + type.extension + u"\\shell"_s;
+    return {keyLine(shell), defaultValueLine(u"Open"_s), keyLine(shell + u"\\Open"_s),
+            defaultValueLine(names.description), keyLine(shell + u"\\Open\\command"_s),
+            // The shell replaces "%1" with the path of the document.
+            defaultValueLine(u"\\\""_s + installDirEscaped + u"\\\\NVX.exe\\\" \\\"%1\\\""_s)};
 }
 
 } // namespace
 
 AssociationNames associationNamesOf(const QString &release)
 {
-    return {QStringLiteral("NVX%1").arg(release), QStringLiteral("NVX %1").arg(release)};
+    return {u"NVX%1"_s.arg(release), u"NVX %1"_s.arg(release)};
 }
 
 QStringList removalScript(const AssociationNames &names)
@@ -127,3 +123,5 @@ QStringList creationScript(const AssociationNames &names, const QString &install
     }
     return lines;
 }
+
+} // namespace Nvx::Setup

@@ -12,6 +12,11 @@
 #include <QCoreApplication>
 #include <QFile>
 
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Setup {
+
 namespace {
 
 struct Messages
@@ -19,18 +24,18 @@ struct Messages
     Q_DECLARE_TR_FUNCTIONS(FileAssociations)
 };
 
-// The lines as the file holds them; nothing when the code page lacks a character of one. The Registry Editor
-// reads a script without a byte order mark in that code page, whatever version its first line names.
+// The bytes of the script; std::nullopt if the code page lacks a character. The Registry Editor reads a
+// script without a byte order mark in the system's code page, even if the first line says version 5.00.
 std::optional<QByteArray> encoded(const QStringList &lines)
 {
-    return Nvx::Util::toAnsi(lines.join(QLatin1Char('\n')) + QLatin1Char('\n'));
+    return Util::toAnsi(lines.join(u'\n') + u'\n');
 }
 
 bool createScript(const QString &path, const QByteArray &script)
 {
     removeProductFile(path);
     QFile file(path);
-    // Only a file that is new and whole is ours to import.
+    // Only a new and complete file is ours to import.
     return file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered) &&
            file.write(script) == script.size();
 }
@@ -46,8 +51,8 @@ void importScript(const StepContext &context, const QString &path, const QString
         return;
     }
     if (createScript(path, *script))
-        CommandRunner(context).runSystemCommand(QStringLiteral("regedit"), {QStringLiteral("-s"), path},
-                                                context.state.installDir, CommandRunner::usualTimeoutMs);
+        CommandRunner(context).runSystemCommand(u"regedit"_s, {u"-s"_s, path}, context.state.installDir,
+                                                CommandRunner::usualTimeoutMs);
     else
         qCWarning(diagnostics, "Unable to create %ls", qUtf16Printable(path));
     removeProductFile(path);
@@ -57,19 +62,20 @@ void importScript(const StepContext &context, const QString &path, const QString
 
 int createFileAssociations(const StepContext &context, RunMode mode)
 {
-    const AssociationNames names = associationNamesOf(Nvx::Product::release);
-    const QString script =
-        Nvx::Util::joinPath(context.state.installDir, QStringLiteral("FileAssociations.reg"));
+    const AssociationNames names = associationNamesOf(Product::release);
+    const QString script = Util::joinPath(context.state.installDir, u"FileAssociations.reg"_s);
     context.reporter.progress(LogLevel::step, Messages::tr("Create file associations"));
     context.reporter.log(LogLevel::step, script);
 
     importScript(context, script, removalScript(names));
     if (mode != RunMode::Install)
         return 0;
-    if (context.state.installDirEscaped.isEmpty()) // the user broke the reading of the command line off
+    if (context.state.installDirEscaped.isEmpty()) // the user abandoned the start-up
         context.reporter.log(LogLevel::failure,
                              Messages::tr("The install folder is not known, no files are associated"));
     else
         importScript(context, script, creationScript(names, context.state.installDirEscaped));
     return 0;
 }
+
+} // namespace Nvx::Setup

@@ -10,38 +10,45 @@
 
 #include <QFile>
 
+#include <chrono>
+
 using Nvx::Util::joinPath;
 using Nvx::Util::System;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Nvx::Setup {
 
 namespace {
 
-const auto shippedFile = Nvx::Product::materialNames;
-const auto workingFile = QStringLiteral("matprop.nvxmdb");
+const auto shippedFile = Product::materialNames;
+const auto workingFile = u"matprop.nvxmdb"_s;
 
 // The installer may still be closing the shipped file.
-constexpr int furtherLooks = 4;
-constexpr std::chrono::milliseconds pauseBeforeLook{10};
+constexpr int maxRetries = 4;
+constexpr std::chrono::milliseconds retryPause = 10ms;
 
-QString shared(const QString &fileName)
+QString inSharedFolder(const QString &fileName)
 {
-    return joinPath(System::getProgramDataPath(Nvx::Product::fullName), fileName);
+    return joinPath(System::getProgramDataPath(Product::fullName), fileName);
 }
 
 QString previousYear()
 {
-    return QString::number(Nvx::Product::release.toInt() - 1);
+    return QString::number(Product::release.toInt() - 1);
 }
 
 QString previousDatabase()
 {
-    return shared(QStringLiteral("Materials %1.nvxmdb").arg(previousYear()));
+    return inSharedFolder(u"Materials %1.nvxmdb"_s.arg(previousYear()));
 }
 
-// The users' database goes by this one name: a copy never takes the place of anything.
+// The target may be the users' database, so an existing file is never replaced.
 void copyIfMissing(const QString &source, const QString &target)
 {
-    System::makePath(System::getProgramDataPath(Nvx::Product::fullName));
-    if (!Nvx::Util::copyToFreeName(source, target))
+    System::makePath(System::getProgramDataPath(Product::fullName));
+    if (!Util::copyToFreeName(source, target))
         qCWarning(diagnostics, "Unable to copy %ls to %ls", qUtf16Printable(source), qUtf16Printable(target));
 }
 
@@ -55,9 +62,9 @@ MaterialDatabase::MaterialDatabase(const StepContext &context)
 int MaterialDatabase::check(RunMode mode)
 {
     m_context.reporter.progress(LogLevel::step, tr("Checking material database"));
-    // A copy that a crash cut off is nobody's database, and as long as one of these.
-    for (const QString &database : {shared(workingFile), previousDatabase()})
-        Nvx::Util::removeUnfinished(database);
+    // The unfinished copies of a run that was killed are useless, and large.
+    for (const QString &database : {inSharedFolder(workingFile), previousDatabase()})
+        Util::removeUnfinished(database);
     if (mode == RunMode::Install)
         install();
     else if (mode == RunMode::Uninstall)
@@ -68,13 +75,13 @@ int MaterialDatabase::check(RunMode mode)
 void MaterialDatabase::install()
 {
     copyPreviousRelease();
-    const QString source = beside(shippedFile);
+    const QString source = inProgramFolder(shippedFile);
     if (!isShipped(source)) {
         m_context.reporter.progress(LogLevel::step, tr("Installation error matprop.mdb does not exist?"));
         m_context.reporter.log(LogLevel::step, tr("Installation error: ") + source + tr(" does not exist."));
         return;
     }
-    const QString target = shared(workingFile);
+    const QString target = inSharedFolder(workingFile);
     if (QFile::exists(target))
         return;
     m_context.reporter.log(LogLevel::step, tr("Copy: ") + source + tr(" to: ") + target);
@@ -86,7 +93,7 @@ void MaterialDatabase::copyPreviousRelease()
     const QString target = previousDatabase();
     if (QFile::exists(target))
         return;
-    const QString folder = System::getEnv(QStringLiteral("OSTRADE%1DIR").arg(previousYear()));
+    const QString folder = System::getEnv(u"OSTRADE%1DIR"_s.arg(previousYear()));
     const QString source = joinPath(folder, shippedFile);
     if (!folder.isEmpty() && QFile::exists(source))
         copyIfMissing(source, target);
@@ -94,25 +101,28 @@ void MaterialDatabase::copyPreviousRelease()
 
 bool MaterialDatabase::isShipped(const QString &shipped)
 {
-    for (int looks = 0; !QFile::exists(shipped); ++looks) {
-        if (looks == furtherLooks)
+    for (int retries = 0; !QFile::exists(shipped); ++retries) {
+        if (retries == maxRetries)
             return false;
-        m_context.machine.sleep(pauseBeforeLook);
+        m_context.machine.sleep(retryPause);
     }
     return true;
 }
 
 void MaterialDatabase::remove()
 {
-    const QString leftover = beside(QStringLiteral("matprop.new"));
+    const QString leftover = inProgramFolder(u"matprop.new"_s);
     m_context.reporter.log(LogLevel::step, tr("Remove: ") + leftover);
     removeProductFile(leftover);
-    // The line names the program's folder; the database lies in the folder that all users share.
-    m_context.reporter.log(LogLevel::step, tr("Remove: ") + beside(workingFile));
-    removeProductFile(shared(workingFile));
+    // The line names the program's folder although the database is in the folder that all users share. That
+    // is deliberate.
+    m_context.reporter.log(LogLevel::step, tr("Remove: ") + inProgramFolder(workingFile));
+    removeProductFile(inSharedFolder(workingFile));
 }
 
-QString MaterialDatabase::beside(const QString &fileName) const
+QString MaterialDatabase::inProgramFolder(const QString &fileName) const
 {
     return joinPath(m_context.machine.executableFolder(), fileName);
 }
+
+} // namespace Nvx::Setup

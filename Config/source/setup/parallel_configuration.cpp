@@ -17,6 +17,10 @@ using Nvx::Io::Nvx2ConfigFile;
 using Nvx::Util::joinPath;
 using Nvx::Util::System;
 using Nvx::Util::toStdString;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Setup {
 
 namespace {
 
@@ -27,17 +31,17 @@ struct Messages
 
 bool canBeWritten(const QStringList &texts)
 {
-    return Nvx::Util::toAnsi(texts.join(QLatin1Char('\n'))).has_value();
+    return Util::toAnsi(texts.join(u'\n')).has_value();
 }
 
 bool save(const QString &path, const QString &sharedFolder, const QString &analysisFolder,
-          const Nvx::Util::CpuInfo &cpuInfo)
+          const Util::CpuInfo &cpuInfo)
 {
     if (!canBeWritten({path, sharedFolder, analysisFolder}))
         return false;
 
     const qint32 cores = cpuInfo.coresPerProcessor();
-    // The sign carries the hyper-threading state to the solver.
+    // A negative number tells the solver that hyper-threading is on.
     const qint32 mpi = cpuInfo.isHyperThreadingOn() ? -cores : cores;
     const qint32 processors = cpuInfo.processorCount();
 
@@ -52,16 +56,16 @@ bool save(const QString &path, const QString &sharedFolder, const QString &analy
 
 } // namespace
 
-void createParallelConfiguration(const StepContext &context, RunMode mode, const Nvx::Util::CpuInfo &cpuInfo)
+void createParallelConfiguration(const StepContext &context, RunMode mode, const Util::CpuInfo &cpuInfo)
 {
-    const QString sharedData = System::getProgramDataPath(Nvx::Product::fullName);
+    const QString sharedData = System::getProgramDataPath(Product::fullName);
     const QString file = joinPath(sharedData, QString::fromLatin1(Nvx2ConfigFile::DefaultName));
-    Nvx::Util::removeUnfinished(file);
+    Util::removeUnfinished(file);
     if (mode != RunMode::Install)
         return;
 
-    const QString sharedFolder = joinPath(context.machine.executableFolder(), QStringLiteral("NVX2_share"));
-    const QString analysisFolder = joinPath(sharedData, QStringLiteral("HPCAnalyze"));
+    const QString sharedFolder = joinPath(context.machine.executableFolder(), u"NVX2_share"_s);
+    const QString analysisFolder = joinPath(sharedData, u"HPCAnalyze"_s);
 
     System::makePath(sharedData);
     if (save(file, sharedFolder, analysisFolder, cpuInfo))
@@ -78,3 +82,5 @@ void createParallelConfiguration(const StepContext &context, RunMode mode, const
         context.reporter.log(LogLevel::failure,
                              Messages::tr("Unable to create NVX2 analyze folder: %1").arg(analysisFolder));
 }
+
+} // namespace Nvx::Setup

@@ -6,12 +6,15 @@
 #include "run/diagnostics.h"
 #include "run/reporter.h"
 #include "setup/product_values.h"
-#include "setup/uninstall_command.h"
 #include "setup/viewer_configuration.h"
 
 #include <QCoreApplication>
 
 using Nvx::Util::RegistryKey;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Setup {
 
 namespace {
 
@@ -39,8 +42,8 @@ void writeAll(const QList<RegistryValue> &values)
 
 void removeUserGroups()
 {
-    for (const auto &group : {QStringLiteral("WebServices"), QStringLiteral("Lumara")}) {
-        RegistryKey key(userProductKey() + QLatin1Char('\\') + group);
+    for (const auto &group : {u"WebServices"_s, u"Lumara"_s}) {
+        RegistryKey key(userProductKey() + u'\\' + group);
         if (!key.removeWhole())
             qCWarning(diagnostics, "The registry refuses to remove %ls", qUtf16Printable(key.path()));
     }
@@ -51,19 +54,18 @@ void updateUninstallEntry(const StepContext &context)
     Reporter &reporter = context.reporter;
     const QString locale = context.state.locale;
     const QString entry =
-        QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\%1")
-            .arg(Nvx::Product::fullName);
+        u"HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\%1"_s.arg(
+            Product::fullName);
 
     reporter.log(LogLevel::step, Messages::tr("Updating language registry uninstall "));
-    const QString current = RegistryKey(entry).text(QStringLiteral("UninstallPath")).value_or(QString());
+    const QString current = RegistryKey(entry).text(u"UninstallPath"_s).value_or(QString());
     reporter.log(LogLevel::step,
                  Messages::tr("Updating language registry uninstall currently is:") + current);
     const std::optional<QString> command = uninstallCommandIn(current, locale);
     if (!command)
         return;
     reporter.log(LogLevel::step, Messages::tr("Updating language registry uninstall locale=") + locale);
-    writeAll({{entry, QStringLiteral("UninstallPath"), *command},
-              {entry, QStringLiteral("UninstallString"), *command}});
+    writeAll({{entry, u"UninstallPath"_s, *command}, {entry, u"UninstallString"_s, *command}});
     reporter.log(LogLevel::step, Messages::tr("Updating language registry uninstall set to:") + *command);
 }
 
@@ -78,15 +80,16 @@ int updateRegistry(const StepContext &context, RunMode mode)
         return 0;
     }
 
-    ProductRecord record;
-    record.analyzeDirectory = Nvx::Util::joinPath(
-        Nvx::Util::System::getProgramDataPath(Nvx::Product::fullName), QStringLiteral("Analyze"));
-    record.installDir = context.state.installDir;
-    record.locale = context.state.locale;
-    record.registry64 = context.state.registry64;
-    writeAll(machineValues(record));
-    writeAll(userValues(record.locale));
+    const RunState &state = context.state;
+    const QString sharedData = Util::System::getProgramDataPath(Product::fullName);
+    writeAll(machineValues({.analyzeDirectory = Util::joinPath(sharedData, u"Analyze"_s),
+                            .installDir = state.installDir,
+                            .locale = state.locale,
+                            .registry64 = state.registry64}));
+    writeAll(userValues(state.locale));
     updateUninstallEntry(context);
     configureViewer(context, mode);
     return 0;
 }
+
+} // namespace Nvx::Setup

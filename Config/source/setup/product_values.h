@@ -3,17 +3,20 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
 #include <variant>
 
-/// A value of the registry as a step writes it.
+namespace Nvx::Setup {
+
+/// A registry value to write.
 struct RegistryValue
 {
-    QString key; ///< whole path
+    QString key; ///< full path
     QString name;
     std::variant<QString, quint32> content;
 };
 
-/// What an installation tells the machine about the product.
+/// The properties of an installation that the registry records.
 struct ProductRecord
 {
     QString analyzeDirectory;
@@ -28,12 +31,19 @@ QString machineProductKey();
 /// The key of this version of the product for one user.
 QString userProductKey();
 
-/// The values written for all users, in their order.
+/// The values for all users, in the order in which they are written.
 QList<RegistryValue> machineValues(const ProductRecord &record);
 
-/// The values written for the user, in their order: the notification centre has been through its first
-/// start, and keeps quiet.
+/// The values for the user, in the order in which they are written. They mark the first start of the
+/// notification centre as completed and switch its notifications off.
 QList<RegistryValue> userValues(const QString &locale);
 
-/// The country of a locale: its two characters from the fourth on, in upper case; "US" when there are none.
+/// The country of a locale: its fourth and fifth characters, in upper case; "US" if there are none.
 QString countryCodeOf(const QString &locale);
+
+/// The command of the uninstall entry for another language: the command up to and including the character
+/// after its first "/LANG", followed by the locale; the rest is dropped. std::nullopt, for a command to be
+/// left alone, if "/LANG" does not occur in it, in upper case, or is at its start.
+std::optional<QString> uninstallCommandIn(const QString &command, const QString &locale);
+
+} // namespace Nvx::Setup

@@ -11,6 +11,10 @@
 
 using Nvx::Util::joinPath;
 using Nvx::Util::ShellLink;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Setup {
 
 namespace {
 
@@ -26,19 +30,19 @@ int createShortcuts(const StepContext &context, RunMode mode)
     const QString desktop = context.state.commonDesktop;
     context.reporter.log(LogLevel::step, Messages::tr("Desktop=") + desktop);
     if (desktop.isEmpty()) {
-        // A link without a folder would land at the top of the drive.
+        // Without a folder the link would be created at the top of the drive.
         context.reporter.log(LogLevel::failure,
                              Messages::tr("There is no desktop folder of all users, it gets no shortcut"));
         context.machine.notifyAssociationsChanged();
         return 0;
     }
 
-    const QString name = QStringLiteral("%1 %2").arg(Nvx::Product::maker, Nvx::Product::fullName);
-    const QString linkPath = joinPath(desktop, name + QStringLiteral(".lnk"));
+    const QString name = u"%1 %2"_s.arg(Product::maker, Product::fullName);
+    const QString linkPath = joinPath(desktop, name + u".lnk"_s);
     if (!removeProductFile(linkPath))
         context.reporter.log(LogLevel::failure, Messages::tr("Unable to remove %1").arg(linkPath));
     if (mode == RunMode::Install)
-        createShortcut(context, joinPath(context.state.installDir, Nvx::Product::program), linkPath, name,
+        createShortcut(context, joinPath(context.state.installDir, Product::program), linkPath, name,
                        QString(), QString());
     context.machine.notifyAssociationsChanged();
     return 0;
@@ -47,16 +51,15 @@ int createShortcuts(const StepContext &context, RunMode mode)
 int createShortcut(const StepContext &context, const QString &target, const QString &linkPath,
                    const QString &description, const QString &iconPath, const QString &arguments)
 {
-    ShellLink link;
-    link.target = target;
-    link.linkPath = linkPath;
-    link.description = description;
-    link.workFolder = context.state.installDir;
-    link.iconPath = iconPath;
-    link.arguments = arguments;
+    const ShellLink link = {.target = target,
+                            .linkPath = linkPath,
+                            .description = description,
+                            .workFolder = context.state.installDir,
+                            .iconPath = iconPath,
+                            .arguments = arguments};
 
-    qint32 result = Nvx::Util::shellLinkTextTooLong;
-    const QString tooLong = Nvx::Util::tooLongTextOf(link);
+    qint32 result = Util::shellLinkTextTooLong;
+    const QString tooLong = Util::tooLongTextOf(link);
     if (tooLong.isEmpty())
         result = context.machine.createShellLink(link);
     else
@@ -67,3 +70,5 @@ int createShortcut(const StepContext &context, const QString &target, const QStr
     context.reporter.log(LogLevel::ofResult(result), Messages::tr("Create shortcut ") + linkPath + outcome);
     return 0;
 }
+
+} // namespace Nvx::Setup

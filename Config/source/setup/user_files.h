@@ -5,24 +5,32 @@
 
 #include <QCoreApplication>
 
-/// What the program's runs and the product's work leave behind besides the installed files.
+namespace Nvx::Setup {
+
+/// The files next to the installed ones that this program and the product leave on a machine.
 class UserFiles
 {
     Q_DECLARE_TR_FUNCTIONS(UserFiles)
 
 public:
-    explicit UserFiles(const StepContext &context);
+    explicit UserFiles(const Run::StepContext &context);
 
-    /// Removes the files that earlier releases and earlier runs have left. What cannot be removed stays.
+    /// Removes the leftovers of earlier releases and runs. A file that cannot be removed is skipped.
     void removeOldFiles();
 
-    /// Removes the log of the run. The log is closed by then, so nothing is told.
+    /// Removes the log, which was closed before. The pattern deliberately matches no file, so the log stays.
     void removeLog();
 
     /// Removes the customisation of the product's user interface, which depends on the language; the product
-    /// makes it anew. The mode only names the status line.
-    void resetSorvane(RunMode mode);
+    /// creates it again. The mode is only used in the progress line.
+    void resetSorvane(Run::RunMode mode);
+
+    /// On uninstall, removes the notification centre's folder from the install dir; in other modes, does
+    /// nothing.
+    void cleanLumara(Run::RunMode mode);
 
 private:
-    StepContext m_context;
+    Run::StepContext m_context;
 };
+
+} // namespace Nvx::Setup

@@ -4,6 +4,11 @@
 #include "run/command_runner.h"
 #include "run/reporter.h"
 
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Setup {
+
 namespace {
 
 struct Messages
@@ -16,10 +21,10 @@ struct Messages
 int configureViewer(const StepContext &context, RunMode mode)
 {
     context.reporter.log(LogLevel::step, Messages::tr("Running NVX 3D-ViewerConfig."));
-    const QString program =
-        Nvx::Util::joinPath(context.state.installDir, QStringLiteral("NVX Viewer/NVXViewerConfig.exe"));
-    const QStringList arguments =
-        mode == RunMode::Install ? QStringList{QStringLiteral("-i")} : QStringList();
+    const QString program = Util::joinPath(context.state.installDir, u"NVX Viewer/NVXViewerConfig.exe"_s);
+    const QStringList arguments = mode == RunMode::Install ? QStringList{u"-i"_s} : QStringList();
     CommandRunner(context).runCommand(program, arguments, QString());
     return 0;
 }
+
+} // namespace Nvx::Setup

@@ -17,7 +17,7 @@ private:
     std::string m_value;
 };
 
-/// A file that is written as a whole.
+/// A file that is saved completely or not at all.
 class File
 {
 public:
@@ -26,17 +26,17 @@ public:
     File &operator=(const File &) = default;
     virtual ~File() = default;
 
-    /// Writes the file, in place of an existing one, which stays as it was if anything fails. The path is
-    /// 8-bit text. True when the file is on the disk.
+    /// Writes the file and replaces an existing one, which is unchanged if this fails. The path is 8-bit
+    /// text. Returns true if the file is on the disk.
     bool saveTo(const std::string &path) const;
 
 protected:
-    /// The bytes of the file in contents; false when they cannot be formed.
+    /// Appends the bytes of the file to contents. Returns false if a value cannot be written.
     virtual bool write(std::string &contents) const = 0;
 };
 
-/// The solver's configuration file: one line "key = value" for each setting, in the order in which the
-/// settings were first named, UTF-8, lines ended as on Windows. A value with a line break cannot be written.
+/// The solver's configuration file: one line "key = value" per setting, in the order in which the settings
+/// were first used, in UTF-8 with Windows line ends. A value with a line break cannot be written.
 class Nvx2ConfigFile : public File
 {
 public:
@@ -47,7 +47,8 @@ public:
     static const char *const NumberOfThreads; ///< cores per processor
     static const char *const SocketsPerNode;  ///< processors
 
-    /// The setting of that key, made empty when there is none yet. The reference holds until the next call.
+    /// The setting with that key; an empty one is added if there is none. The reference is valid until the
+    /// next call.
     Setting &setting(const std::string &key);
 
 protected:

@@ -1,0 +1,127 @@
+// The operations that only forward to the modules of the steps.
+
+#include "cfg_utilities/cfg_utilitys.h"
+#include "localization/util_localization_tool.h"
+#include "service/server_service.h"
+#include "setup/archive_components.h"
+#include "setup/file_associations.h"
+#include "setup/material_database.h"
+#include "setup/parallel_configuration.h"
+#include "setup/product_registry.h"
+#include "setup/shortcuts.h"
+#include "setup/user_files.h"
+#include "setup/viewer_configuration.h"
+
+using namespace Nvx;
+
+int cfg_utilitys::runCommand(const QString &program, const QStringList &arguments, const QString &workFolder,
+                             int timeoutMs)
+{
+    return Run::CommandRunner(context()).runCommand(program, arguments, workFolder, timeoutMs);
+}
+
+bool cfg_utilitys::removeDirectory(const QString &path)
+{
+    return Run::CommandRunner(context()).removeDirectory(path);
+}
+
+bool cfg_utilitys::removeMatchingFiles(const QString &folder, const QString &pattern)
+{
+    return Run::CommandRunner(context()).removeMatchingFiles(folder, pattern);
+}
+
+int cfg_utilitys::installTutorials(RunMode mode)
+{
+    return Setup::ArchiveComponents(context()).installTutorials(mode);
+}
+
+int cfg_utilitys::installPython(RunMode mode)
+{
+    return Setup::ArchiveComponents(context()).installPython(mode);
+}
+
+int cfg_utilitys::installMertleServer(RunMode mode)
+{
+    return Setup::ArchiveComponents(context()).installMertleServer(mode);
+}
+
+void cfg_utilitys::createParallelConfiguration(RunMode mode, const Util::CpuInfo &cpuInfo)
+{
+    Setup::createParallelConfiguration(context(), mode, cpuInfo);
+}
+
+int cfg_utilitys::updateRegistry(RunMode mode)
+{
+    return Setup::updateRegistry(context(), mode);
+}
+
+int cfg_utilitys::configureViewer(RunMode mode)
+{
+    return Setup::configureViewer(context(), mode);
+}
+
+int cfg_utilitys::createFileAssociations(RunMode mode)
+{
+    return Setup::createFileAssociations(context(), mode);
+}
+
+int cfg_utilitys::createShortcuts(RunMode mode)
+{
+    return Setup::createShortcuts(context(), mode);
+}
+
+int cfg_utilitys::createShortcut(const QString &target, const QString &linkPath, const QString &description,
+                                 const QString &iconPath, const QString &arguments)
+{
+    return Setup::createShortcut(context(), target, linkPath, description, iconPath, arguments);
+}
+
+int cfg_utilitys::checkMaterialDatabase(RunMode mode)
+{
+    return Setup::MaterialDatabase(context()).check(mode);
+}
+
+void cfg_utilitys::resetSorvane(RunMode mode)
+{
+    Setup::UserFiles(context()).resetSorvane(mode);
+}
+
+void cfg_utilitys::cleanLumara(RunMode mode)
+{
+    Setup::UserFiles(context()).cleanLumara(mode);
+}
+
+void cfg_utilitys::removeOldFiles(Engine::OldFiles treatment)
+{
+    if (treatment == Engine::OldFiles::Keep)
+        return;
+    Setup::UserFiles(context()).removeOldFiles();
+    m_log.close();
+    if (m_state.silent)
+        Setup::UserFiles(context()).removeLog();
+}
+
+int cfg_utilitys::installServer()
+{
+    return static_cast<int>(Service::ServerService(context(), m_service).install());
+}
+
+int cfg_utilitys::uninstallServer()
+{
+    Service::ServerService(context(), m_service).uninstall();
+    return 0;
+}
+
+int cfg_utilitys::stopServices(RunMode mode)
+{
+    uninstallServer();
+    if (mode == RunMode::Install)
+        installServer();
+    return 0;
+}
+
+void cfg_utilitys::initLocalizationTool()
+{
+    if (!m_localizationTool)
+        m_localizationTool = std::make_unique<util::util_localization_tool>(context());
+}
