@@ -167,8 +167,9 @@ void tst_interface_translators::theLastTextNamesTheFinishButton()
 void tst_interface_translators::aTextOfSeveralLinesIsTranslated()
 {
     const InterfaceTranslators translators(languagesFolder(), german);
-    QVERIFY2(usageText().startsWith(QStringLiteral("Gültige Befehlszeilenargumente für NVX:\n-I ")),
-             qPrintable(usageText()));
+    QVERIFY2(Nvx::Engine::runOptionsUsage().startsWith(
+                 QStringLiteral("Gültige Befehlszeilenargumente für NVX:\n-I ")),
+             qPrintable(Nvx::Engine::runOptionsUsage()));
 }
 
 // The name is used as it was typed; the file system decides.
