@@ -1,16 +1,16 @@
-# What `cmake --install` lays out: a folder that runs as it stands.
+# What `cmake --install` installs: a folder from which the programs run without further set-up.
 #
-# For Windows everything lies beside the program, as the product's installer copies it. Elsewhere the programs
-# lie in bin, with the libraries that are not of the operating system itself in lib and Qt's plug-ins in
+# For Windows all files are next to the programs, as the product's installer copies them. On other systems the
+# programs are in bin, libraries that are not part of the operating system in lib, and Qt's plug-ins in
 # plugins.
 #
-# `cmake --install` does not build. These targets build what is installed:
+# `cmake --install` does not build. These targets build what it installs:
 #
 #     built_configuration       the configuration program and the translations
 #     built_tools               the developers' tools and the translations
 #     built_programs            both
 #
-# and these build it and install it into the build's folder of the same name:
+# and these also install it, into the build's folder of the same name:
 #
 #     installed_configuration   the configuration program with all it needs, for Windows
 #     installed_programs        all programs
@@ -25,11 +25,11 @@ add_dependencies(built_tools ${nvx_tools} translations)
 add_custom_target(built_programs)
 add_dependencies(built_programs built_configuration built_tools)
 
-# nvx_installed(WHAT [OPTION...]): the target installed_WHAT, which installs what built_WHAT builds. The options
-# are those of `cmake --install`.
+# nvx_installed(WHAT [OPTION...]): the target installed_WHAT, which installs what built_WHAT builds, with
+# options of `cmake --install`.
 function(nvx_installed what)
     set(folder "${CMAKE_BINARY_DIR}/installed_${what}")
-    # A file that is no longer installed must not stay from the last time.
+    # A file that is no longer installed must not be left from an earlier install.
     add_custom_target(installed_${what}
         COMMAND ${CMAKE_COMMAND} -E rm -rf "${folder}"
         COMMAND ${CMAKE_COMMAND} --install "${CMAKE_BINARY_DIR}" --prefix "${folder}" ${ARGN}
@@ -57,7 +57,7 @@ if(WIN32)
             COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${library}
             OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
         get_filename_component(path "${path}" REALPATH)
-        # Nine tenths of the largest one is of use in a debugger only.
+        # Debug information is nine tenths of the largest one.
         set(stripped "${CMAKE_BINARY_DIR}/runtime/${library}")
         file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/runtime")
         execute_process(
@@ -66,7 +66,7 @@ if(WIN32)
     endforeach()
     include(NvxLicences)
 
-    # The sample product is laid out for the set-up program only.
+    # Only the set-up program contains the sample product.
     foreach(folder product translators)
         install(DIRECTORY "${CMAKE_BINARY_DIR}/sample/${folder}" DESTINATION .
             COMPONENT sample EXCLUDE_FROM_ALL)
@@ -76,15 +76,15 @@ if(WIN32)
     return()
 endif()
 
-# The developers' tools are a package of their own: what is only of the configuration is apart.
+# The developers' tools are a package without the configuration program.
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME tools)
 set_target_properties(${nvx_programs} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
 foreach(program ${nvx_programs})
-    # The old kind of run path serves the libraries' own libraries too.
+    # DT_RPATH, unlike DT_RUNPATH, is also used for the libraries that libraries need.
     target_link_options(${program} PRIVATE LINKER:--disable-new-dtags)
 endforeach()
 
-# The operating system's own: the C library and what belongs to the machine's drivers and display.
+# Parts of the operating system: the C library, and what depends on the machine's drivers and display.
 set(system_libraries
     "^ld-linux" "^linux-vdso"
     "^lib(c|m|dl|rt|pthread|resolv|gcc_s|stdc\\+\\+)\\.so"

@@ -1,9 +1,9 @@
-# The licences of the libraries that are shipped with the programs, installed into the folder "licences".
+# Installs the licences of the shipped libraries into the folder "licences".
 # Included by NvxInstall.
 
 if(NOT WIN32)
-    # Debian's libraries: those that are shipped are known only when they are laid out.
-    install(CODE "set(NVX_TRANSLATIONS_FOLDER \"${NVX_TOOLKIT_TRANSLATIONS}\")")
+    # Which of Debian's libraries are shipped is known only during the installation.
+    install(CODE "set(NVX_TRANSLATIONS_FOLDER \"${NVX_QT_TRANSLATIONS}\")")
     install(SCRIPT "${CMAKE_CURRENT_LIST_DIR}/install_debian_licences.cmake")
     return()
 endif()
@@ -12,7 +12,7 @@ endif()
 function(nvx_licences folder)
     foreach(file ${ARGN})
         if(NOT EXISTS "${file}")
-            message(FATAL_ERROR "There is no licence ${file}")
+            message(FATAL_ERROR "The licence ${file} is missing")
         endif()
     endforeach()
     install(FILES ${ARGN} DESTINATION "licences/${folder}")
@@ -24,7 +24,7 @@ nvx_licences(Qt
     "${qt_source}/LICENSES/GPL-3.0-only.txt"
     "${qt_source}/LICENSES/GPL-2.0-only.txt")
 
-# What is compiled into Qt's libraries, by its folder in Qt's source.
+# FOLDER=LICENCE,...: third-party code in Qt's libraries, by its folder in Qt's sources.
 set(third_parties
     corelib/text=UNICODE_LICENSE.txt
     corelib/tools=LICENSE.siphash

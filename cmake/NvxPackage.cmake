@@ -1,7 +1,7 @@
-# What `cpack` makes of the build, into the folder "package" of the build:
+# What `cpack` packs into the build's folder "package":
 #
-#     windows   a ZIP of the programs with all that they need, and the set-up program of the sample product
-#     native    a TGZ of the developers' tools, a folder that runs as it stands
+#     windows   a ZIP of the programs with all they need, and the set-up program of the sample product
+#     native    a TGZ of the developers' tools with all they need
 #
 # The target "packaged" builds what `cpack` packs.
 
@@ -13,7 +13,7 @@ set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY ON)
 set(CPACK_PACKAGE_CHECKSUM SHA256)
 
-# What goes into each package: "build folder;project;component;folder in the package", each.
+# The contents of a package are entries of "build folder;project;component;folder in the package".
 set(nvx_package_of "${CMAKE_BINARY_DIR};${PROJECT_NAME}")
 add_custom_target(packaged)
 if(WIN32)

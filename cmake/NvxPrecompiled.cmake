@@ -1,8 +1,9 @@
-# Precompiled headers of Qt and of the standard library: what most sources include, read once for a build. Sources
-# include what they use all the same, for NVX_PRECOMPILE may be off.
+# Precompiled headers of Qt and the standard library, with what most sources include. Each source must still
+# include what it uses, since NVX_PRECOMPILE may be off.
 #
-# A header precompiled serves only compilations with the same options and the same definitions that it looks at:
-# Qt's test header looks at which modules of Qt are linked. So there is one for each combination in use.
+# A precompiled header can only be used with the same options and the same definitions that its contents
+# depend on:
+# Qt's test header depends on the linked modules of Qt. So there is one for each combination in use.
 
 set(nvx_core_headers
     <algorithm> <array> <functional> <memory> <optional> <string> <string_view> <utility> <vector>
@@ -16,13 +17,14 @@ set(nvx_Gui_headers <QGuiApplication>)
 set(nvx_Core_headers)
 
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-    # By default the header is named too, with its whole path, which the compiler cache would take for a difference.
+    # By default the command also names the header with its absolute path, which changes the hash of the
+    # compiler cache.
     set(CMAKE_CXX_COMPILE_OPTIONS_USE_PCH -Xclang -include-pch -Xclang <PCH_FILE>)
 endif()
 
-# A compilation with a precompiled header is found in the compiler cache by what stands in the file .sum beside the
-# header: reading 150 MB each time would take longer than most of what the cache saves, and what clang precompiles
-# holds the path of the checkout. So .sum holds what the header is made of.
+# For a compilation with a precompiled header, the compiler cache hashes the file .sum next to the header.
+# Hashing the header itself, 150 MB, would take longer than most compilations, and clang writes the path of
+# the checkout into it. So .sum is a hash of what the header is made from.
 if(NVX_CCACHE)
     get_target_property(qt_headers Qt6::Core INTERFACE_INCLUDE_DIRECTORIES)
     list(FILTER qt_headers INCLUDE REGEX "QtCore$")
@@ -35,8 +37,8 @@ if(NVX_CCACHE)
     endforeach()
 endif()
 
-# nvx_precompiled_header(NAME MODULE LINKS TARGET... [HEADERS HEADER...]): a library without contents whose
-# precompiled header others use.
+# nvx_precompiled_header(NAME MODULE LINKS TARGET... [HEADERS HEADER...]): an empty library with a precompiled
+# header for other targets.
 function(nvx_precompiled_header name module)
     cmake_parse_arguments(ARG "" "" "LINKS;HEADERS" ${ARGN})
     add_library(${name} OBJECT "${PROJECT_SOURCE_DIR}/cmake/precompiled.cpp")
@@ -45,7 +47,8 @@ function(nvx_precompiled_header name module)
     target_precompile_headers(${name} PRIVATE ${headers})
     if(NVX_CCACHE)
         if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-            # It would be found by another checkout, in which clang misses this one's files.
+            # Another checkout would find it in the cache, and clang would not find this checkout's files
+            # there.
             set_target_properties(${name} PROPERTIES CXX_COMPILER_LAUNCHER "")
             set(suffix pch)
         else()
@@ -57,7 +60,7 @@ function(nvx_precompiled_header name module)
     endif()
 endfunction()
 
-# nvx_linked_targets(RESULT TARGET...): the targets, all that they link, and all that these link.
+# nvx_linked_targets(RESULT TARGET...): the targets and all targets that they link, directly or indirectly.
 function(nvx_linked_targets result)
     set(found)
     set(next ${ARGN})
@@ -77,8 +80,8 @@ function(nvx_linked_targets result)
     set(${result} ${found} PARENT_SCOPE)
 endfunction()
 
-# nvx_precompile(): lets the libraries and the test programs use precompiled headers. Called when all of them are
-# declared, for a library may link one that is declared after it.
+# nvx_precompile(): makes the libraries and the test programs use precompiled headers. To be called after all
+# of them have been declared, since a library may link one that is declared later.
 function(nvx_precompile)
     foreach(kind LIBRARIES TESTS)
         get_property(targets GLOBAL PROPERTY NVX_${kind})

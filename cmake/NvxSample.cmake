@@ -1,7 +1,8 @@
-# What the areas of the sample product are made of: one call each for a program, a library, a file or an
-# archive, and at the end one that makes them the area. "product" is the folder that they are built into.
+# Declares the parts of the sample product: a call for each program, library, file or archive of a folder, and
+# at its end sample_area, which adds them to the product. The variable "product" is the folder they are built
+# into.
 
-# sample_program(NAME SOURCE): a program that runs wherever it is copied.
+# sample_program(NAME SOURCE): a program without libraries of its own.
 function(sample_program name source)
     add_executable(${name} ${source})
     target_link_libraries(${name} PRIVATE nvx_options)
@@ -15,7 +16,7 @@ function(sample_library name folder)
     sample_library_named(sample_${name} ${name} "${folder}" ${ARGN})
 endfunction()
 
-# sample_library_named(TARGET NAME FOLDER SOURCE...): the same for a name that several libraries have.
+# sample_library_named(TARGET NAME FOLDER SOURCE...): the same, where several libraries have one name.
 function(sample_library_named target name folder)
     add_library(${target} SHARED ${ARGN})
     target_link_libraries(${target} PRIVATE nvx_options)
@@ -27,7 +28,7 @@ function(sample_library_named target name folder)
     set_property(DIRECTORY APPEND PROPERTY sample_parts ${target})
 endfunction()
 
-# sample_copy(SOURCE TARGET): puts a file into the product, under the path TARGET there.
+# sample_copy(SOURCE TARGET): copies a file to the path TARGET of the product.
 function(sample_copy source target)
     get_filename_component(source "${source}" ABSOLUTE)
     get_filename_component(folder "${product}/${target}" DIRECTORY)
@@ -39,7 +40,7 @@ function(sample_copy source target)
     set_property(DIRECTORY APPEND PROPERTY sample_files "${product}/${target}")
 endfunction()
 
-# sample_archive(ARCHIVE FOLDER): packs what the folder holds into the file ARCHIVE.
+# sample_archive(ARCHIVE FOLDER): packs the contents of a folder into the file ARCHIVE.
 function(sample_archive archive folder)
     find_program(NVX_SEVEN_ZIP 7zz REQUIRED)
     file(GLOB_RECURSE files CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*")
@@ -52,7 +53,7 @@ function(sample_archive archive folder)
     set_property(DIRECTORY APPEND PROPERTY sample_files "${archive}")
 endfunction()
 
-# sample_area(NAME): makes what the calls before it in this folder have named a part of the sample product.
+# sample_area(NAME): adds the parts declared in this folder to the target sample_product.
 function(sample_area name)
     get_property(files DIRECTORY PROPERTY sample_files)
     get_property(parts DIRECTORY PROPERTY sample_parts)

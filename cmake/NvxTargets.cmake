@@ -1,8 +1,8 @@
-# How the libraries, programs and tests of this project are declared: one call each.
+# Functions that declare the libraries and tests of this project, with one call each.
 
 include(CMakeParseArguments)
 
-# Every target of ours is built with these.
+# The options of every target of this project.
 add_library(nvx_options INTERFACE)
 target_compile_options(nvx_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
@@ -10,7 +10,7 @@ target_compile_options(nvx_options INTERFACE
 target_compile_definitions(nvx_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # The compiler cache sees which precompiled header is used.
+    # Without this the compiler cache does not know which precompiled header is used.
     target_compile_options(nvx_options INTERFACE -fpch-preprocess)
 endif()
 if(WIN32)
@@ -23,14 +23,14 @@ if(NVX_SANITIZE)
     target_link_options(nvx_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(NVX_COVERAGE)
-    # Several threads count at once, and a counter must not lose any.
+    # Several threads may increase a counter at the same time.
     target_compile_options(nvx_options INTERFACE --coverage -O0 -fprofile-update=atomic)
     target_link_options(nvx_options INTERFACE --coverage)
 endif()
 
 # nvx_library(NAME [MOC] SOURCES FILE... LINKS TARGET... [INCLUDES FOLDER]): a static library of one module.
-# Headers are included as they lie below INCLUDES, by default the folder "source". With MOC, Qt's moc reads its
-# headers: for classes with Q_OBJECT.
+# Headers are included by their paths below INCLUDES, by default the folder "source". With MOC, Qt's moc reads
+# the headers, for classes with Q_OBJECT.
 function(nvx_library name)
     cmake_parse_arguments(ARG "MOC" "INCLUDES" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
@@ -43,8 +43,8 @@ function(nvx_library name)
     target_include_directories(${name} PUBLIC "${ARG_INCLUDES}")
 endfunction()
 
-# Options of the test programs alone. They are compiled more often than they run: without optimisation, and with
-# line numbers only.
+# The options of test programs. They are compiled more often than they run, so they are not optimised and have
+# only line numbers as debug information.
 add_library(nvx_test_options INTERFACE)
 target_compile_options(nvx_test_options INTERFACE -O0)
 if(CMAKE_BUILD_TYPE MATCHES "Deb")
@@ -56,7 +56,8 @@ function(nvx_test_properties test)
     set_tests_properties(${test} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
     if(WIN32)
-        # The tests share one Windows machine, and its registry; as they run one by one they start first.
+        # The tests share one Windows machine and its registry, so they run one after the other and start
+        # first.
         set_tests_properties(${test} PROPERTIES
             COST 1000
             RESOURCE_LOCK windows_machine
@@ -64,8 +65,8 @@ function(nvx_test_properties test)
     endif()
 endfunction()
 
-# nvx_test(NAME [SOURCES FILE...] [LINKS TARGET...] [NEEDS TARGET...]): a test that is a program of its own because
-# it has its own main, registered with ctest. NAME.cpp is its source; NEEDS names programs that it starts.
+# nvx_test(NAME [SOURCES FILE...] [LINKS TARGET...] [NEEDS TARGET...]): a test program with its own main,
+# registered with ctest. NAME.cpp is its source; NEEDS names programs that it starts.
 function(nvx_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;NEEDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
@@ -79,10 +80,12 @@ function(nvx_test name)
     nvx_test_properties(${name})
 endfunction()
 
-# nvx_tests(PROGRAM TESTS NAME... [UNREGISTERED NAME...] [SOURCES FILE...] [LINKS TARGET...] [NEEDS TARGET...]):
-# the test classes of a module, in one program. NAME.cpp holds the class NAME, declared a test by NVX_TEST(NAME) or
-# NVX_GUILESS_TEST(NAME) of tests/support/test_class.h. Each class is registered with ctest under its name and runs
-# in a process of its own; those after UNREGISTERED the caller registers. NEEDS names programs that tests start.
+# nvx_tests(PROGRAM TESTS NAME... [UNREGISTERED NAME...] [SOURCES FILE...] [LINKS TARGET...] [NEEDS
+# TARGET...]):
+# the test classes of a module in one program. NAME.cpp contains the class NAME and ends with NVX_TEST(NAME)
+# or NVX_GUILESS_TEST(NAME) of tests/support/test_class.h. Each class is registered with ctest under its name
+# and runs in its own process; the caller registers those after UNREGISTERED. NEEDS names programs that tests
+# start.
 function(nvx_tests program)
     cmake_parse_arguments(ARG "" "" "TESTS;UNREGISTERED;SOURCES;LINKS;NEEDS" ${ARGN})
     set(declarations "")
@@ -109,14 +112,15 @@ function(nvx_tests program)
     endforeach()
 endfunction()
 
-# nvx_test_definitions(NAME DEFINITION...): preprocessor definitions for one test class of nvx_tests. Definitions
-# that hold paths go to the file that needs them, so that the other files stay in the compiler cache.
+# nvx_test_definitions(NAME DEFINITION...): preprocessor definitions for one test class of nvx_tests.
+# Definitions that contain paths are set for one file only, so that the compiler cache can be used for the
+# others.
 function(nvx_test_definitions test)
     set_property(SOURCE ${test}.cpp APPEND PROPERTY COMPILE_DEFINITIONS ${ARGN})
 endfunction()
 
 # nvx_python_test(NAME [NEEDS TARGET...] [ENVIRONMENT NAME=VALUE...]): the tests of NAME.py, registered with
-# ctest, and only if there are any.
+# ctest. The test fails if there are none.
 function(nvx_python_test name)
     cmake_parse_arguments(ARG "" "" "NEEDS;ENVIRONMENT" ${ARGN})
     find_package(Python3 3.11 REQUIRED COMPONENTS Interpreter)
@@ -131,9 +135,9 @@ function(nvx_python_test name)
     endif()
 endfunction()
 
-# nvx_fuzzer(NAME LINKS TARGET...): a libFuzzer program of NAME.cpp, run by ctest and as long as one likes by
-# hand. Where the folder corpus/NAME has inputs to start from, ctest makes a fixed number of runs from them, the
-# same ones each time; else it runs for two seconds. What is found is not written into the sources.
+# nvx_fuzzer(NAME LINKS TARGET...): a libFuzzer program of NAME.cpp. If the folder corpus/NAME has seeds,
+# ctest makes a fixed number of reproducible runs from them; otherwise it runs the program for two seconds.
+# Findings are not written to the source tree.
 function(nvx_fuzzer name)
     cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
     add_executable(${name} ${name}.cpp)

@@ -1,6 +1,6 @@
-# nvx_windows_program(TARGET DESCRIPTION TEXT ICON NAME [ADMINISTRATOR]): what Windows shows of a program and
-# must know of it: its version, its icon resource/images/NAME.ico, and its manifest. ADMINISTRATOR makes
-# Windows ask for an administrator's rights before it starts. Nothing elsewhere.
+# nvx_windows_program(TARGET DESCRIPTION TEXT ICON NAME [ADMINISTRATOR]): adds a version, the icon
+# resource/images/NAME.ico and a manifest to a Windows program. With ADMINISTRATOR, Windows asks for
+# administrator rights at its start. Does nothing on other systems.
 function(nvx_windows_program target)
     if(NOT WIN32)
         return()
@@ -21,7 +21,7 @@ function(nvx_windows_program target)
     configure_file("${templates}/program.manifest.in" "${program_manifest}" @ONLY)
     configure_file("${templates}/program.rc.in" "${script}" @ONLY)
 
-    # Apart from the program, whose compiler's options mean nothing to the resource compiler.
+    # A target of its own: the resource compiler does not accept the program's compiler options.
     add_library(${target}_resources OBJECT "${script}")
     set_source_files_properties("${script}" PROPERTIES OBJECT_DEPENDS "${program_icon};${program_manifest}")
     target_sources(${target} PRIVATE $<TARGET_OBJECTS:${target}_resources>)

@@ -1,25 +1,26 @@
-# Lays out the licences of Debian's libraries among the files that were installed, as Debian ships them, and
-# those of the general licences that they refer to.
+# Installs the licences of the Debian libraries among the installed files, and the common licences they refer
+# to.
 
 set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
 set(licences "${folder}/licences")
 
-# The packages of the files; asked for in one call, since each one reads the lists of all packages.
-function(find_packages answer)
+# find_packages(RESULT FILE...): the packages of the files. One call for all files, since each call reads the
+# lists of all packages.
+function(find_packages result)
     execute_process(COMMAND dpkg-query -S ${ARGN}
-        OUTPUT_VARIABLE owners RESULT_VARIABLE result)
-    if(NOT result EQUAL 0)
-        message(FATAL_ERROR "Of some of these no Debian package, and so no licence, is known: ${ARGN}")
+        OUTPUT_VARIABLE owners RESULT_VARIABLE status)
+    if(NOT status EQUAL 0)
+        message(FATAL_ERROR "Some of these belong to no Debian package, so their licence is unknown: ${ARGN}")
     endif()
     string(REGEX MATCHALL "[^\n]+" owners "${owners}")
     list(TRANSFORM owners REPLACE "^([^:]+)(:[^:]+)?: .*$" "\\1")
     list(REMOVE_DUPLICATES owners)
-    set(${answer} "${owners}" PARENT_SCOPE)
+    set(${result} "${owners}" PARENT_SCOPE)
 endfunction()
 
 function(copy_licence_of package)
     file(READ "/usr/share/doc/${package}/copyright" text)
-    # Its own name is a link in some packages.
+    # In some packages the file is a link, so its contents are copied.
     file(WRITE "${licences}/${package}.txt" "${text}")
 
     string(REGEX MATCHALL "/common-licenses/[A-Za-z0-9.+-]*[A-Za-z0-9]" references "${text}")

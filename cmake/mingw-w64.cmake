@@ -1,5 +1,5 @@
-# Tool chain for the 64-bit Windows build: mingw-w64 with posix threads, and the Qt for Windows that
-# tools/setup builds into the cache folder ($NVX_CACHE, or nvx below the user's cache folder).
+# Toolchain of the 64-bit Windows build: mingw-w64 with posix threads, and Qt for Windows, which tools/setup
+# builds into the cache folder ($NVX_CACHE, or nvx in the user's cache folder).
 
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
@@ -27,5 +27,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# Windows programs of the build (the tests) run under Wine.
+# CTest runs the Windows test programs under Wine.
 set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../tools/wine-run")

@@ -1,1 +1,1 @@
-// A precompiled header needs a source that it is made for.
+// The source file that a target with a precompiled header requires.

@@ -1,4 +1,4 @@
-"""What the tests reached, as the compiler's counters tell it.
+"""Reads the compiler's counters of what the tests executed.
 
 coverage.py read BUILD FILE FOLDER...  reads the counters below a build folder into a file, for the sources in
                                        these folders
@@ -16,17 +16,17 @@ from multiprocessing import Pool
 from pathlib import Path, PurePosixPath
 from typing import Any
 
-# The compiler's own: they run before main and have branches of their own for every global value.
+# Functions that the compiler adds: they run before main, with branches for every global variable.
 START_UP = ("_GLOBAL__sub_I_", "_Z41__static_initialization_and_destruction_0")
 
-Place = tuple[int, ...] | None  # of a function: its line and column
+Place = tuple[int, ...] | None  # the line and column of a function
 
 
 class Source:
-    """How often each line of a source file was run, and each of the two ways of its conditions.
+    """How often each line of a source file was executed, and each of the two ways of its conditions.
 
-    Conditions belong to a place: the line and the function, which may be there many times, as often as a
-    template or a constructor is compiled. What one of them reached is reached.
+    A condition is identified by its line and its function. A template or a constructor is compiled several
+    times; the counts are added.
     """
 
     def __init__(self) -> None:
@@ -48,10 +48,10 @@ class Source:
             self.add_conditions(number, function, ways)
 
     def branches(self) -> dict[int, list[int]]:
-        """The counts of the ways by their line.
+        """The counts of the ways by line.
 
-        A condition in a line that was run which was never looked at itself is part of the clean-up after an
-        exception; or the one before it, of which one way was not gone, stands for it.
+        Conditions that were not evaluated in an executed line are left out: they belong to the clean-up after
+        an exception, or follow a condition that counts as not taken itself.
         """
         branches: dict[int, list[int]] = defaultdict(list)
         for (number, _, _), ways in self.conditions.items():
@@ -61,7 +61,7 @@ class Source:
         return branches
 
     def missed_ranges(self) -> list[list[int]]:
-        """The first and last line of each stretch of code that was not run."""
+        """The first and last line of each block that was not executed."""
         ranges: list[list[int]] = []
         is_open = False
         for number, count in sorted(self.lines.items()):
@@ -73,14 +73,14 @@ class Source:
         return ranges
 
     def missed_branches(self) -> Iterator[tuple[int, int, int]]:
-        """Line, ways not taken and all ways, of each line that was run but has not gone every way."""
+        """(line, ways not taken, all ways) of each executed line with a way that was not taken."""
         for number, counts in sorted(self.branches().items()):
             if self.lines[number] and 0 in counts:
                 yield number, counts.count(0), len(counts)
 
 
 class Tally:
-    """How much there is, and how much of it was reached."""
+    """Lines and branches, and how many of them were reached."""
 
     def __init__(self) -> None:
         self.lines = self.lines_reached = self.branches = self.branches_reached = 0
@@ -106,9 +106,9 @@ def part(reached: int, every: int) -> str:
 def decisions(branches: list[dict[str, Any]], code: str) -> list[int]:
     """The counts of the two ways of each condition in a line of code.
 
-    A call from which an exception may come has two ways of its own, to what follows and to the clean-up; no
-    code of ours throws. The ways of a switch are lines themselves, its cases. What is made once is guarded by
-    the compiler.
+    Left out are the two ways after each call that could throw, since this project's code does not throw;
+    those of a switch, whose cases are lines; and those that the compiler adds to the initialisation of a
+    static variable.
     """
     pairs = zip(branches[::2], branches[1::2])
     counts = []
@@ -119,11 +119,11 @@ def decisions(branches: list[dict[str, Any]], code: str) -> list[int]:
 
 
 def read_unit(arguments: tuple[Path, Path, list[Path]]) -> dict[str, Source]:
-    """The sources of one compiled unit, by their paths from the root on."""
+    """The sources of one compiled unit by their paths relative to the root."""
     notes, root, folders = arguments
     gcov = ["gcov", "--json-format", "--stdout", "--branch-probabilities", notes.name]
-    answer = subprocess.run(gcov, cwd=notes.parent, capture_output=True, check=True, text=True)
-    unit = json.loads(answer.stdout)
+    done = subprocess.run(gcov, cwd=notes.parent, capture_output=True, check=True, text=True)
+    unit = json.loads(done.stdout)
     sources = {}
     for file in unit["files"]:
         path = Path(os.path.normpath(os.path.join(unit["current_working_directory"], file["file"])))
@@ -142,7 +142,7 @@ def read_source(path: Path, file: dict[str, Any]) -> Source:
         name = line.get("function_name", "")
         number = line["line_number"]
         text = code[number - 1].strip()
-        # At the end of a block there is but the clean-up of what was declared in it.
+        # The end of a block only has the clean-up of its variables.
         if name.startswith(START_UP) or text in ("{", "}", "};"):
             continue
         source.add_line(number, line["count"])
@@ -201,7 +201,7 @@ def print_table(sources: dict[str, Source]) -> None:
 
 
 def print_missed(sources: dict[str, Source], folder: str) -> bool:
-    """Whether there is anything below the folder."""
+    """Returns whether a source below the folder was counted."""
     wanted = PurePosixPath(folder)
     below = [path for path in sorted(sources) if PurePosixPath(path).is_relative_to(wanted)]
     for path in below:
@@ -218,7 +218,7 @@ def main(order: str, *arguments: str) -> None:
     elif order == "table":
         print_table(stored(arguments[0]))
     elif not print_missed(stored(arguments[0]), arguments[1]):
-        sys.exit(f"error: nothing was counted below {arguments[1]}")
+        sys.exit(f"error: no source below {arguments[1]} was counted")
 
 
 if __name__ == "__main__":

@@ -1,8 +1,8 @@
-"""The machine of tools/demo: prepares it, runs the program on it and tells what changed.
+"""The machine of tools/demo: prepares it, runs the program on it and prints what changed.
 
     demo.py BUILD_FOLDER [TOKENS...]
 
-Without tokens a new machine is made and the program installs the product on it.
+Without tokens, makes a new machine and installs the product on it.
 """
 
 import contextlib
@@ -22,10 +22,10 @@ from cadsystems import (
     put_cad_systems,
 )
 from localization_share import Translators
-from winemachine import INSTALL_DIR, Machine, Registry, make_template, value_of
+from winemachine import INSTALL_DIR, SERVICES, Machine, Registry, make_template, value_of
 
-# What Wine itself writes while any program runs.
-NOISE = (
+# Keys that Wine itself changes during any run.
+WINE_KEYS = (
     "HKEY_CURRENT_USER\\Software\\Wine",
     "HKEY_LOCAL_MACHINE\\Software\\Wine",
     "HKEY_CURRENT_USER\\Volatile Environment",
@@ -37,24 +37,23 @@ NOISE = (
     "HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Hardware Profiles",
     "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion\\Perflib",
 )
-SERVICES = "HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services\\"
 
-Item = TypeVar("Item", str, tuple[str, str])  # what is compared: a path, a name, a key with a value's name
+Item = TypeVar("Item", str, tuple[str, str])  # a path, a name, or a key with the name of a value
 
 
 def heading(text: str) -> None:
     print(f"\n\033[1m== {text}\033[0m" if sys.stdout.isatty() else f"\n== {text}", flush=True)
 
 
-def is_noise(key: str) -> bool:
-    return any(key.lower().startswith(noise.lower()) for noise in NOISE)
+def is_of_wine(key: str) -> bool:
+    return key.lower().startswith(tuple(own.lower() for own in WINE_KEYS))
 
 
 def flatten(registry: Registry) -> dict[tuple[str, str], str]:
     return {
         (key, name): value
         for key, values in registry.items()
-        if not is_noise(key)
+        if not is_of_wine(key)
         for name, value in values.items()
     }
 
@@ -78,7 +77,7 @@ def print_changes(
     print("\n".join(lines) if lines else "  nothing")
 
 
-# The files of CAD systems that are shown whole before and after the run.
+# CAD systems' files that are printed as a whole before and after the run.
 SHARED_FILES = (PROTK_2, PROTK_3, CUSTOM_DIRS_10, CUSTOM_DIRS_11)
 
 
@@ -93,7 +92,7 @@ def print_contents(title: str, contents: bytes) -> None:
 
 
 def print_launchers(machine: Machine, before: dict[str, bytes], registry: Registry) -> None:
-    """What the run has made of the CAD systems."""
+    """Prints what the run has changed for the CAD systems."""
     after = contents_of(machine, SHARED_FILES)
     for path in SHARED_FILES:
         heading(path)
@@ -140,7 +139,7 @@ def prepare(build: Path) -> Machine:
 def surroundings(
     machine: Machine, build: Path, tokens: list[str]
 ) -> contextlib.AbstractContextManager[Translators | None]:
-    """What a run meets beside the machine: the localisation tool has translators at the end of its share."""
+    """The translators on the other end of the share, for the localisation tool."""
     if "-T" in tokens:
         return Translators(machine, build, INSTALL_DIR)
     return contextlib.nullcontext()
@@ -150,7 +149,7 @@ def main(build: Path, tokens: list[str]) -> int:
     if tokens:
         machine = Machine(build / "demo")
         if not machine.prefix.exists():
-            sys.exit("there is no machine yet: run tools/demo without tokens first")
+            sys.exit("no machine found: run tools/demo without tokens first")
     else:
         machine = prepare(build)
         tokens = ["-I", "-S", "-Lde-DE"]
@@ -162,13 +161,13 @@ def main(build: Path, tokens: list[str]) -> int:
 
     heading("NVXConfig.exe " + " ".join(tokens))
     with surroundings(machine, build, tokens):
-        answer = machine.run(INSTALL_DIR + "\\NVXConfig.exe", *tokens, folder=INSTALL_DIR)
+        done = machine.run(INSTALL_DIR + "\\NVXConfig.exe", *tokens, folder=INSTALL_DIR)
     files_after, registry_after = machine.files(), machine.registry()
 
     heading("the log of this run")
     print(log_path.read_bytes()[log_start:].decode("utf-8").replace("\r\n", "\n"), end="")
 
-    print("\nWhat changed on the machine (+ new, - gone, * other contents)")
+    print("\nChanges on the machine (+ new, - deleted, * changed)")
     print_changes("files", files_before, files_after, str)
     values_before, values_after = flatten(registry_before), flatten(registry_after)
     print_changes(
@@ -178,10 +177,10 @@ def main(build: Path, tokens: list[str]) -> int:
         lambda item: f"{item[0]}: {item[1]} = {values_after.get(item, values_before.get(item))}",
     )
     print_changes("services", service_names(registry_before), service_names(registry_after), str)
-    print("\nWhat the CAD systems know of the product now")
+    print("\nThe product in the CAD systems")
     print_launchers(machine, shared_before, registry_after)
-    heading(f"exit status {answer.returncode}")
-    return answer.returncode
+    heading(f"exit status {done.returncode}")
+    return done.returncode
 
 
 if __name__ == "__main__":

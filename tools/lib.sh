@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What the scripts of this folder share: where things are, and how they speak. Sourced, not run.
+# Paths and functions for the scripts in this folder, which source it.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cache=${NVX_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/nvx}
@@ -16,18 +16,18 @@ fail() {
     exit 1
 }
 
-# Runs a command with its output in a file; on failure prints the file's end and stops the script.
+# quietly LOG COMMAND...: runs a command with its output in a file; if it fails, prints the end of the file and exits.
 quietly() {
     local file=$1
     shift
     mkdir -p "$(dirname "$file")"
     if ! "$@" >"$file" 2>&1; then
         tail -n 60 "$file" >&2
-        fail "'$*' failed; its whole output is in $file"
+        fail "'$*' failed; the whole output is in $file"
     fi
 }
 
-# build_with_progress FOLDER LOG [TARGET...]: builds with one line a minute, so that a watcher sees that it lives.
+# build_with_progress FOLDER LOG [TARGET...]: builds, and prints its progress once a minute.
 build_with_progress() {
     local folder=$1 log=$2
     shift 2
@@ -43,13 +43,12 @@ build_with_progress() {
     done
     wait $builder || {
         grep -m 20 -A 5 'FAILED\|error:' "$log" >&2
-        fail "$folder did not build; the whole output is in $log"
+        fail "the build in $folder failed; the whole output is in $log"
     }
 }
 
-# build_preset PRESET [TARGET...]: builds the targets of a preset, by default all that its tests need. Configures
-# the preset when it has not been configured yet or when the presets have changed; for all else the build itself
-# notices.
+# build_preset PRESET [TARGET...]: builds the targets of a preset, by default all. Configures the preset first if it has
+# not been configured or if the presets have changed; the build itself detects all other changes.
 build_preset() {
     local preset=$1 folder=$root/build/$1
     shift

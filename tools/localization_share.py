@@ -1,5 +1,5 @@
-"""What a run of "NVXConfig.exe -T" needs on a machine: sources, the translation tools, a share, and the
-translators at its other end.
+"""What a run of "NVXConfig.exe -T" needs on a machine: sources, the translation tools, a share, and
+translators on its other end.
 
     with Translators(machine, build, install_dir) as translators:
         machine.run(install_dir + "\\\\NVXConfig.exe", "-T")
@@ -21,7 +21,7 @@ TOOLS = "C:\\build\\tools"
 
 
 class Translators:
-    """Puts everything on the machine, and has a worker at the share while the block runs."""
+    """Prepares the machine; inside the context a worker translates the jobs on the share."""
 
     def __init__(self, machine: Machine, build: StrPath, install_dir: str, *worker_options: str) -> None:
         self.machine = machine

@@ -1,9 +1,8 @@
-"""What small changes can be made to a C++ source file: a list of mutants from its text.
+"""Lists the small changes (mutants) that can be made to a C++ source file.
 
-Each mutant is one change. Operators are looked for where comments, literals and preprocessor lines are
-masked. The sources are laid out by clang-format, which is relied upon: a binary operator has blanks around
-it, a template's brackets, a reference and a pointer have not, and a function ends with a brace in the first
-column.
+Comments, literals and preprocessor lines are masked before operators are searched. The sources must be
+formatted by clang-format: binary operators have blanks around them; the brackets of templates, references and
+pointers do not; and a function ends with a brace in the first column.
 """
 
 import re
@@ -12,7 +11,8 @@ from dataclasses import dataclass
 
 @dataclass(frozen=True, order=True)
 class Mutant:
-    """The text from start to end is replaced; source is the line of that number without its indent."""
+    """Replaces the text from start to end; `source` is the line with the number `line`, without its
+    indent."""
 
     start: int
     end: int
@@ -22,7 +22,7 @@ class Mutant:
     change: str
 
 
-LITERAL = "\x01"  # what a masked literal's inside consists of
+LITERAL = "\x01"  # replaces the characters of a masked literal
 
 TOKENS = re.compile(
     r"""(?P<comment>//[^\n]*|/\*.*?\*/)
@@ -38,12 +38,12 @@ def blank(text: str, by: str) -> str:
     return "".join(char if char == "\n" else by for char in text)
 
 
-# What stands behind #else is for another machine.
+# Code after #else is for another platform.
 OTHER_BRANCH = re.compile(r"^[ \t]*#[ \t]*else\b.*?^[ \t]*#[ \t]*endif\b", re.DOTALL | re.MULTILINE)
 
 
 def mask(text: str) -> tuple[str, list[tuple[int, int, str]]]:
-    """The text at the same length with nothing in it but code, and the ranges of its literals."""
+    """The text with everything but code masked, at the same length, and the ranges of its literals."""
     literals = []
     text = OTHER_BRANCH.sub(lambda match: blank(match.group(), " "), text)
 
@@ -58,7 +58,7 @@ def mask(text: str) -> tuple[str, list[tuple[int, int, str]]]:
     return TOKENS.sub(masked, text), literals
 
 
-# What stands for an operator with a blank on either side.
+# The replacement of each binary operator.
 BINARY = {
     "<": "<=",
     "<=": "<",
@@ -96,7 +96,7 @@ LOGIC = re.compile(r" (?:<|>|<=|>=|==|!=|&&|\|\|) |!|=|;")
 NOTHING = re.compile(r"(?:\{\}|false|true|0|nullptr|std::nullopt|[A-Z][\w:]*(?:<[\w:]+>)?(?:\(\)|\{\}))")
 TEXTS_AROUND = re.compile(r"(?:QStringLiteral|QLatin1String|QLatin1Char|QChar|QString|QByteArray)\(")
 
-WITHOUT_EFFECT = re.compile(r"static_assert|NVX_ASSERT|[\w.]+\.reserve\(")  # on anything that a test sees
+WITHOUT_EFFECT = re.compile(r"static_assert|NVX_ASSERT|[\w.]+\.reserve\(")  # that a test could detect
 NO_STATEMENT = re.compile(r"(?:return|break|continue|case|default|using|static_assert|friend)\b")
 BEFORE_STATEMENT = re.compile(r"(?:[;{}:]|\belse)$|^(?:else )?(?:if|for) \(.*\)$")
 DECLARATION = re.compile(
@@ -108,8 +108,8 @@ ASSIGNMENT = re.compile(r"((\w+)[\w.>\-]*(?:\[.*\])?) (?:=|\+=|\|=) (.*);$")
 DECLARED_NAME = re.compile(r"[*& ]([A-Za-z_]\w*)(?: =|;|\(|\{|\[)")
 
 
-def apart(line: str, following: str) -> bool:
-    """Whether two assignments have nothing to do with each other, one of them being without a call."""
+def are_independent(line: str, following: str) -> bool:
+    """Whether two assignments are independent of each other; at most one of them contains a call."""
     first, second = ASSIGNMENT.match(line), ASSIGNMENT.match(following)
     if not first or not second or ("(" in first[3] and "(" in second[3]):
         return False
@@ -118,7 +118,7 @@ def apart(line: str, following: str) -> bool:
 
 
 class Finder:
-    """Goes over one file and keeps what it finds."""
+    """Collects the mutants of one file."""
 
     def __init__(self, text: str) -> None:
         self.text = text
@@ -145,8 +145,8 @@ class Finder:
     def operators(self) -> None:
         for match in BINARY_OPERATOR.finditer(self.code):
             sign = match.group()
-            if sign in ("+", "+=") and self.beside_text(match):
-                continue  # texts are joined, which has no opposite
+            if sign in ("+", "+=") and self.joins_strings(match):
+                continue  # joining strings has no opposite
             self.replace(match.start(), match.end(), BINARY[sign])
         for match in STEP_OPERATOR.finditer(self.code):
             self.replace(match.start(), match.end(), "--" if match.group() == "++" else "++")
@@ -156,7 +156,7 @@ class Finder:
             self.add(match.start(), match.start(), "|| true ", "always the first of the choice")
             self.add(match.start(), match.start(), "&& false ", "always the second of the choice")
 
-    def beside_text(self, match: re.Match[str]) -> bool:
+    def joins_strings(self, match: re.Match[str]) -> bool:
         before = self.code[max(0, match.start() - 2) : match.start()].strip()
         after = self.code[match.end() : match.end() + 40].lstrip()
         return before.endswith('"') or after.startswith('"') or TEXTS_AROUND.match(after) is not None
@@ -180,7 +180,7 @@ class Finder:
                 self.replace(start, end, changed)
 
     def place_to_change(self, start: int, end: int, kind: str) -> int | None:
-        """A character that stands for itself: not part of an escape or of a place marker."""
+        """A character that is not part of an escape sequence or a place marker."""
         inside = self.text[start:end]
         first = inside.index("(") + 1 if kind == "raw" else 1
         plain = []
@@ -199,7 +199,7 @@ class Finder:
         return start + (letters or plain)[0] if plain else None
 
     def conditions(self) -> None:
-        """A condition without an operator of its own is negated."""
+        """Negates conditions without an operator."""
         for match in CONDITION.finditer(self.code):
             opened = match.end()
             closed = self.closing(opened, ")")
@@ -213,11 +213,11 @@ class Finder:
                 continue
             self.add(match.end(), closed, "{}", "return nothing")
             value = self.text[match.end() : closed]
-            if self.answers_bool(match.start()) and not LOGIC.search(self.code[match.end() : closed]):
+            if self.returns_bool(match.start()) and not LOGIC.search(self.code[match.end() : closed]):
                 self.add(match.end(), closed, f"!({value})", "return the contrary")
 
     def closing(self, start: int, end_sign: str) -> int | None:
-        """Where the sign is that ends what begins at start, on its own level."""
+        """The position of the sign that ends the expression at `start`, outside inner brackets."""
         depth = 0
         for at in range(start, len(self.code)):
             sign = self.code[at]
@@ -231,12 +231,12 @@ class Finder:
                     return None
         return None
 
-    def answers_bool(self, offset: int) -> bool:
+    def returns_bool(self, offset: int) -> bool:
         heads = re.findall(r"^ *(?:[\w:]+ )*?bool [\w:]+\(.*$|^}", self.code[:offset], re.MULTILINE)
         return bool(heads) and heads[-1] != "}"
 
     def statements(self) -> None:
-        """A statement of one line is left out, or changes places with the next."""
+        """Drops a statement of one line, or exchanges it with the next."""
         for number in range(1, len(self.code_lines) - 1):
             if not self.is_statement(number):
                 continue
@@ -269,7 +269,9 @@ class Finder:
         if guarded or not self.is_statement(number + 1) or len(following) - len(following.lstrip()) != indent:
             return False
         if not declares:
-            return not DECLARATION.match(following.strip()) and not apart(line.strip(), following.strip())
+            return not DECLARATION.match(following.strip()) and not are_independent(
+                line.strip(), following.strip()
+            )
         name = DECLARED_NAME.search(line.strip())
         used = name is None or re.search(rf"\b{name[1]}\b", following)
         return not used and not DECLARATION.match(following.strip())

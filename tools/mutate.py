@@ -1,11 +1,11 @@
 """Runs the tests of each pure function on small changes of it; called by tools/mutate.
 
-A change (mutant) that no test notices survives, and is printed. Everything happens in a copy of the sources
-in build/mutate. There the tests are built once as the native preset has them; then each mutant is compiled
-alone, not optimised, with the file's includes precompiled, and linked in front of the library that holds the
+A change (mutant) that no test detects survives and is printed. All work is done in a copy of the sources in
+build/mutate. The tests are built there once with the native preset. Then the changed file is compiled for
+each mutant, without optimisation and with precompiled includes, and linked before the library with the
 unchanged file.
 
-tools/mutate.txt names the files, the tests of each in the order in which they are run, and the changes that
+tools/mutate.txt lists the files, the tests of each in the order in which they are run, and the changes that
 make no difference, with the reason.
 """
 
@@ -34,10 +34,10 @@ from mutants import Mutant, mutants_of, mutated
 ROOT = Path(__file__).resolve().parent.parent
 LIST = ROOT / "tools" / "mutate.txt"
 COPY = ROOT / "build" / "mutate"
-BUILD = COPY / "build" / "native"  # as in a checkout, so that the cache knows the objects
+BUILD = COPY / "build" / "native"  # as in a checkout, so that the compiler cache can be used
 WORK = COPY / "build" / "mutants"
-MEMORY = 2 << 30  # bytes that a test may take
-ATTEMPTS = 3  # of a test that is ended for its time
+MEMORY = 2 << 30  # bytes that a test may use
+ATTEMPTS = 3  # of a test that reached its time-out
 OUTCOMES = ("killed", "timed out", "did not compile", "survived", "accepted")
 
 
@@ -47,7 +47,7 @@ def stop(complaint: str) -> NoReturn:
 
 @dataclass
 class Unit:
-    """A source file, its tests, and the changes of it that make no difference: (source, change) -> reason."""
+    """A source file, its tests, and the changes that make no difference: {(source, change): reason}."""
 
     file: str
     tests: list[str]
@@ -70,12 +70,12 @@ def read_list(text: str) -> list[Unit]:
         if not line.startswith(" "):
             file, _, tests = line.partition(":")
             units.append(Unit(file, tests.split()))
-        elif line.startswith("    > "):  # a change may begin so too, further in
+        elif line.startswith("    > "):  # a change may begin like this too, with a deeper indent
             source = stripped[2:]
         else:
             change, because, reason = stripped.rpartition(" because ")
             if not because or not reason or not units:
-                stop(f"{LIST}:{number}: a change, 'because' and a reason are expected")
+                stop(f"{LIST}:{number}: expected a change, 'because' and a reason")
             units[-1].accepted[source, change] = reason
     return units
 
@@ -84,7 +84,7 @@ def read_list(text: str) -> list[Unit]:
 
 
 def bring_copy_up_to_date() -> None:
-    """Only files that differ are written, so that only they are built again."""
+    """Writes only files that differ, so that only these are built again."""
     listed = subprocess.run(
         ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
         cwd=ROOT,
@@ -99,12 +99,12 @@ def bring_copy_up_to_date() -> None:
             target.parent.mkdir(parents=True, exist_ok=True)
             target.write_bytes(contents)
             shutil.copymode(ROOT / name, target)
-    kept = {str(COPY / name) for name in names}
+    wanted = {str(COPY / name) for name in names}
     for folder, subfolders, present in os.walk(COPY):
         if folder == str(COPY) and "build" in subfolders:
             subfolders.remove("build")
         for path in (os.path.join(folder, name) for name in present):
-            if path not in kept:
+            if path not in wanted:
                 os.remove(path)
 
 
@@ -118,7 +118,7 @@ def build(tests: Iterable[str]) -> dict[str, list[str]]:
         def run(command):
             done = subprocess.run(command, cwd=COPY, stdout=output, stderr=output, check=False)
             if done.returncode != 0:
-                stop(f"the copy does not build; see {log}")
+                stop(f"the build of the copy failed; see {log}")
 
         run(["cmake", "--preset", "native", *fast_linker])
         commands: dict[str, list[str]] = {}
@@ -126,14 +126,13 @@ def build(tests: Iterable[str]) -> dict[str, list[str]]:
             commands |= test_commands(file.read_text(encoding="utf-8"), BUILD)
         for test in tests:
             if test not in commands:
-                stop(f"there is no test {test}")
+                stop(f"unknown test {test}")
         run(["ninja", "-C", str(BUILD), *sorted({commands[test][0] for test in tests})])
     return {test: commands[test] for test in tests}
 
 
 def test_commands(registered: str, folder: Path) -> dict[str, list[str]]:
-    """The tests that a file of ctest registers and that are programs of the build below the folder:
-    {name: [target, argument...]}."""
+    """The tests in a file of CTest that are programs below the folder: {name: [target, argument...]}."""
     line = r'^add_test\((?:\[=*\[)?(\w+)(?:\]=*\])? (".*")\)$'
     commands = {}
     for name, words in re.findall(line, registered, re.MULTILINE):
@@ -155,12 +154,12 @@ def compile_command(file: str) -> list[str]:
     words = shlex.split(command)
     launcher = [at for at, word in enumerate(words) if word.endswith("ccache")]
     words = words[launcher[-1] + 1 :] if launcher else words
-    for option in ("-o", "-c", "-include"):  # the included one is the build's precompiled header
+    for option in ("-o", "-c", "-include"):  # -include is the build's precompiled header
         while option in words:
             at = words.index(option)
             del words[at : at + 2]
     words = [word for word in words if word != "-Werror"]
-    # Its time decides how long a run takes; this compiler reads precompiled includes twice as fast.
+    # Compiling takes most of a run, and clang reads precompiled includes twice as fast.
     return ["clang++", *words[1:], "-O0", "-g0", "-w", "-iquote", str((COPY / file).parent)]
 
 
@@ -175,15 +174,13 @@ def link_command(target: str) -> list[str]:
 @dataclass
 class Test:
     name: str
-    target: str  # the program that holds it
-    arguments: list[str]  # by which the program runs it
+    target: str  # the program that contains it
+    arguments: list[str]  # select it in the program
     link: list[str]
-    runs: list[tuple[list[str], float]] = field(
-        default_factory=list
-    )  # of some functions (none: all), with seconds
+    runs: list[tuple[list[str], float]] = field(default_factory=list)  # (functions, [] for all; seconds)
 
     def link_with(self, object_file: Path, program: Path) -> None:
-        """Links the test, the object taking the place of the library's."""
+        """Links the test with the object in place of the library's."""
         words = [str(program) if word == self.target else word for word in self.link]
         first = next(at for at, word in enumerate(words) if word.endswith(".a"))
         command = [*words[:first], str(object_file), *words[first:], "-Wl,--strip-debug"]
@@ -191,7 +188,7 @@ class Test:
 
 
 class Bench:
-    """What compiles and tries the mutants of one file."""
+    """Compiles and tries the mutants of one file."""
 
     def __init__(self, unit: Unit, place: Path, commands: dict[str, list[str]]) -> None:
         self.unit = unit
@@ -207,7 +204,7 @@ class Bench:
         self.preamble_end = self.precompile_includes()
 
     def precompile_includes(self) -> int:
-        """The includes at the top of the file come precompiled; the rest is what is compiled each time."""
+        """Precompiles the includes at the top of the file; returns the number of their lines."""
         lines = self.text.split("\n")
         length = 0
         while length < len(lines) and (not lines[length] or lines[length].startswith(("#include", "//"))):
@@ -219,7 +216,7 @@ class Bench:
         return length
 
     def compile(self, text: str, folder: Path) -> bool:
-        """Compiles a text in the file's name, which assertions tell; False when it does not compile."""
+        """Compiles a text under the file's name, which assertions contain; False if that fails."""
         lines = text.split("\n")
         source = folder / "mutant.cpp"
         rest = "\n".join(lines[self.preamble_end :])
@@ -231,7 +228,7 @@ class Bench:
         return done.returncode == 0
 
     def outcome(self, text: str, folder: Path) -> str:
-        """What becomes of a text of the file: 'killed', 'timed out', 'did not compile' or 'survived'."""
+        """The outcome of a changed text: 'killed', 'timed out', 'did not compile' or 'survived'."""
         if not self.compile(text, folder):
             return "did not compile"
         for test in self.tests:
@@ -240,7 +237,7 @@ class Bench:
             command = [str(program), *test.arguments]
             for functions, seconds in test.runs:
                 result, _ = run_test(command, functions, folder, seconds)
-                # Some hosts end a program for its processor time long before it has used it.
+                # Some hosts end a program long before it has used its processor time.
                 for _ in range(ATTEMPTS - 1):
                     if result == "timed out":
                         result, _ = run_test(command, functions, folder, seconds)
@@ -249,7 +246,7 @@ class Bench:
         return "survived"
 
     def try_unchanged(self, folder: Path) -> None:
-        """The tests pass on the unchanged file, and take so long."""
+        """Checks that the tests pass on the unchanged file, and measures them."""
         if not self.compile(self.text, folder):
             stop(f"{self.unit.file} does not compile unchanged")
         for test in self.tests:
@@ -265,7 +262,7 @@ class Bench:
 
 
 def quick_and_slow_functions(report: str) -> tuple[list[str], list[str]]:
-    """The functions of a test's report; those that take long run only when the others have passed."""
+    """The quick and the slow functions in a test's report; slow ones run only if the others have passed."""
     quick: list[str] = []
     slow: list[str] = []
     for function in ElementTree.fromstring(report).iter("TestFunction"):
@@ -277,18 +274,19 @@ def quick_and_slow_functions(report: str) -> tuple[list[str], list[str]]:
 
 
 def run_test(command: list[str], options: list[str], folder: Path, seconds: float) -> tuple[str, float]:
-    """Runs a test that usually takes so many seconds of processor time: how it went, and the time it took.
+    """Runs a test that usually takes this many seconds of processor time; returns the result and the time it
+    took.
 
-    A test that loops is ended by its processor time, which does not depend on what else the machine does.
+    The time-out is in processor time, which does not depend on the load of the machine.
     """
     scratch = folder / "scratch"
     shutil.rmtree(scratch, ignore_errors=True)
     scratch.mkdir()
-    most = int(1 + 5 * seconds)
+    limit = int(1 + 5 * seconds)
 
     def limits():
         os.setsid()
-        resource.setrlimit(resource.RLIMIT_CPU, (most, most + 1))
+        resource.setrlimit(resource.RLIMIT_CPU, (limit, limit + 1))
         resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
         resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
@@ -307,11 +305,11 @@ def run_test(command: list[str], options: list[str], folder: Path, seconds: floa
             stderr=output,
         )
         try:
-            status = test.wait(timeout=30 + 20 * most)
+            status = test.wait(timeout=30 + 20 * limit)
         except subprocess.TimeoutExpired:
             status = -signal.SIGXCPU
         try:
-            os.killpg(test.pid, signal.SIGKILL)  # also what the test has started
+            os.killpg(test.pid, signal.SIGKILL)  # including what the test has started
         except ProcessLookupError:
             pass
         test.wait()
@@ -335,7 +333,7 @@ def chosen_mutants(unit: Unit, text: str, lines: set[int], arguments: argparse.N
 def try_unit(
     unit: Unit, lines: set[int], arguments: argparse.Namespace, commands: dict[str, list[str]]
 ) -> dict[str, int]:
-    """Tries the mutants of one file, several at once; prints survivors, and answers the counts."""
+    """Tries the mutants of one file, several at a time; prints the survivors and returns the counts."""
     place = WORK / unit.file.replace("/", "-")
     bench = Bench(unit, place, commands)
     folders: Queue[Path] = Queue()
@@ -345,7 +343,7 @@ def try_unit(
     bench.try_unchanged(place / "0")
     known = {(mutant.source, mutant.change) for mutant in mutants_of(bench.text)}
     for source, change in unit.accepted.keys() - known:
-        print(f"{unit.file}: accepted, but there is no such change: {source} [{change}]")
+        print(f"{unit.file}: accepted, but no such change exists: {source} [{change}]")
 
     def attempt(mutant):
         if (mutant.source, mutant.change) in unit.accepted:
@@ -374,18 +372,18 @@ def row(name: str, counts: dict[str, int], seconds: float) -> str:
 
 def read_arguments() -> argparse.Namespace:
     parser = argparse.ArgumentParser(
-        prog="tools/mutate", description="Tells which changes of the sources no test notices."
+        prog="tools/mutate", description="Prints the changes of the sources that no test detects."
     )
     parser.add_argument("files", nargs="*", metavar="FILE", help="FILE or FILE:LINE of tools/mutate.txt")
     parser.add_argument("--sample", type=int, metavar="N", help="only N changes of each file")
-    parser.add_argument("--seed", default="1", metavar="S", help="which ones are taken (1)")
-    parser.add_argument("--jobs", type=int, default=2, metavar="N", help="how many are tried at once (2)")
-    parser.add_argument("--all", action="store_true", help="print what became of every change")
+    parser.add_argument("--seed", default="1", metavar="S", help="selects them (1)")
+    parser.add_argument("--jobs", type=int, default=2, metavar="N", help="number of processes (2)")
+    parser.add_argument("--all", action="store_true", help="print the outcome of every change")
     return parser.parse_args()
 
 
 def chosen_units(arguments: argparse.Namespace) -> list[tuple[Unit, set[int]]]:
-    """The units asked for, and the lines of each that are asked for, if not all."""
+    """The selected units, each with its selected lines; no lines select all."""
     units = {unit.file: unit for unit in read_list(LIST.read_text(encoding="utf-8"))}
     lines: dict[str, set[int]] = {}
     for name in arguments.files or units:

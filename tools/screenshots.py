@@ -1,4 +1,4 @@
-"""The pictures of tools/screenshots, taken on Windows machines of their own.
+"""Takes the pictures of tools/screenshots, each program and language on its own Windows machine.
 
     screenshots.py BUILD_FOLDER [--to FOLDER] [--scale PERCENT] [--program NAME] [--locale LOCALE]
 
@@ -26,21 +26,21 @@ LANGUAGES = ROOT / "resource" / "languages"
 COMPLETE = "The installation or update is complete. Click finish to continue."
 TABLES = "C:\\tables"
 SCREEN = "2560x1800"
-PATIENCE_S = 120
+TIMEOUT_S = 120
 MARLETT = Path("/usr/share/wine/fonts/marlett.ttf")
 
-# The family of the system's fonts in each language; this machine must have it. The last font of a language is
-# the one for Linux.
+# The font of the system in each language; Wine accepts only families that the host has. The last font of a
+# language is the one for Linux.
 FAMILIES = {row["locale"]: row["fonts"] for row in read_languages() if "fonts" in row}
 OTHER_FAMILY = "Open Sans"
 SYSTEM_FAMILIES = ("MS Shell Dlg", "MS Shell Dlg 2", "Tahoma")
 
-Answer = TypeVar("Answer")
+Value = TypeVar("Value")
 
 
 @dataclass
 class Page:
-    """A page, the keys that lead to it from the one before, and the text in the log that it waits for."""
+    """A page, the keys that lead to it from the previous page, and a text in the log that it waits for."""
 
     name: str
     keys: tuple[str, ...] = ()
@@ -49,14 +49,14 @@ class Page:
 
 @dataclass
 class Program:
-    """A program, the catalogue of its texts, its pages in order, and the arguments that it is started with,
-    in which {locale} stands for the language."""
+    """A program, the catalogue of its texts, its pages in order, and its arguments, in which {locale} stands
+    for the language."""
 
     name: str
     catalogue: str
     pages: tuple[Page, ...]
     tokens: tuple[str, ...] = ()
-    only: tuple[str, ...] = ()  # the languages that it is shown in, all of them when empty
+    only: tuple[str, ...] = ()  # the languages, all of them if empty
 
     def locales(self) -> list[str]:
         if self.only:
@@ -94,7 +94,7 @@ PROGRAMS = (
 
 
 def translated(text: str, catalogue: str, locale: str) -> str:
-    """A text of the program in a language."""
+    """The translation of a text of the program."""
     file = LANGUAGES / f"{catalogue}_{locale}.ts"
     if not file.exists():
         return text
@@ -104,36 +104,36 @@ def translated(text: str, catalogue: str, locale: str) -> str:
     raise ValueError(f"{file.name} has no text '{text}'")
 
 
-def wait_for(what: str, condition: Callable[[], Answer | None]) -> Answer:
-    """Waits until the condition answers something, and answers that."""
-    deadline = time.monotonic() + PATIENCE_S
+def wait_for(what: str, condition: Callable[[], Value | None]) -> Value:
+    """Waits until the condition returns a true value, and returns it."""
+    deadline = time.monotonic() + TIMEOUT_S
     while True:
-        answer = condition()
-        if answer:
-            return answer
+        value = condition()
+        if value:
+            return value
         if time.monotonic() > deadline:
-            raise TimeoutError("waited in vain for " + what)
+            raise TimeoutError("timed out waiting for " + what)
         time.sleep(0.2)
 
 
-def answer_of(*command: StrPath | bytes) -> bytes:
+def output_of(*command: StrPath | bytes) -> bytes:
     return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
 
 
 def make_machine(build: Path, locale: str, scale: int) -> Machine:
-    """A fresh machine of a user who speaks that language, with the product on it."""
+    """A fresh machine with the product, whose user speaks that language."""
     unix_locale = locale.replace("-", "_") + ".UTF-8"
     locales = build / "locales"
     locales.mkdir(exist_ok=True)
     if not (locales / unix_locale).exists():
-        answer_of("localedef", "-i", unix_locale.split(".")[0], "-f", "UTF-8", locales / unix_locale)
+        output_of("localedef", "-i", unix_locale.split(".")[0], "-f", "UTF-8", locales / unix_locale)
     machine = Machine.create(
         build / "screenshots", make_template(build / "wine-template"), unix_locale, locales
     )
     machine.put_product(build / "installed_programs", build / "sample")
     put_cad_systems(machine)
     shutil.copytree(ROOT / "sample" / "tables", machine.path(TABLES))
-    # Wine looks for the font of its title bars' buttons in a folder that Debian fills under another name.
+    # Debian installs the font of the title bars' buttons where Wine does not look for it.
     shutil.copy(MARLETT, machine.path("C:\\windows\\Fonts\\marlett.ttf"))
     machine.import_script(screen_settings(FAMILIES.get(locale, OTHER_FAMILY), scale))
     machine.stop()
@@ -141,8 +141,8 @@ def make_machine(build: Path, locale: str, scale: int) -> Machine:
 
 
 def screen_settings(family: str, scale: int) -> str:
-    """A script for the Registry Editor: a desktop of our own, on which windows have title bars; its font and
-    its scaling."""
+    """A script for the Registry Editor that sets a desktop on which windows have title bars, its font and its
+    scaling."""
     lines = [
         "Windows Registry Editor Version 5.00",
         "[HKEY_CURRENT_USER\\Software\\Wine\\Explorer]",
@@ -158,7 +158,7 @@ def screen_settings(family: str, scale: int) -> str:
 
 
 class Session:
-    """A program that runs on a machine and shows its window."""
+    """A running program with a window."""
 
     def __init__(self, machine: Machine, program: Program, locale: str) -> None:
         self.machine, self.program, self.locale = machine, program, locale
@@ -168,38 +168,38 @@ class Session:
         self.process = machine.start(f"{INSTALL_DIR}\\{program.name}.exe", *tokens)
 
     def window(self) -> str | None:
-        """The program's only window; nothing while it has none."""
+        """The program's only window, None while it has none."""
         pattern = f"^{self.program.name.lower()}\\.exe$"
-        found = answer_of("xdotool", "search", "--onlyvisible", "--class", pattern).split()
+        found = output_of("xdotool", "search", "--onlyvisible", "--class", pattern).split()
         if len(found) > 1:
-            names = [answer_of("xdotool", "getwindowname", window).decode().strip() for window in found]
+            names = [output_of("xdotool", "getwindowname", window).decode().strip() for window in found]
             raise RuntimeError("more than one window is shown: " + ", ".join(names))
         if not found and self.process.poll() is not None:
-            raise RuntimeError(f"{self.program.name} has ended with {self.process.returncode}")
+            raise RuntimeError(f"{self.program.name} exited with {self.process.returncode}")
         return found[0].decode() if found else None
 
     def picture(self) -> bytes | None:
-        """The window as a PNG; nothing while there is none."""
+        """The window as a PNG, None while there is none."""
         window = self.window()
         options = ("-strip", "-define", "png:exclude-chunks=date,time", "-define", "png:compression-level=9")
-        return answer_of("import", "-window", window, *options, "png:-") if window else None
+        return output_of("import", "-window", window, *options, "png:-") if window else None
 
     def still_picture(self) -> bytes:
-        """The window once it is another than before and no longer changes."""
+        """The window once it differs from the last picture and no longer changes."""
         seen = []
 
-        def calm():
+        def settled_picture():
             seen.append(self.picture())
             return len(seen) > 3 and len(set(seen[-4:])) == 1 and seen[-1] != self.last_picture and seen[-1]
 
         wait_for("the window", self.window)
-        answer_of("xdotool", "mousemove", "0", "0")  # what lies below the pointer would light up
-        self.last_picture = wait_for("a page that stays as it is", calm)
+        output_of("xdotool", "mousemove", "0", "0")  # a control below the pointer would be highlighted
+        self.last_picture = wait_for("a page that no longer changes", settled_picture)
         return self.last_picture
 
     def show(self, page: Page) -> bytes:
         for key in page.keys:
-            answer_of("xdotool", "key", key)
+            output_of("xdotool", "key", key)
         if page.log_text:
             text = translated(page.log_text, self.program.catalogue, self.locale)
             wait_for(
@@ -223,7 +223,7 @@ def take_pictures(build: Path, program: Program, locale: str, scale: int, folder
 
 
 def check_fonts() -> None:
-    families = answer_of("fc-list", ":", "family").decode()
+    families = output_of("fc-list", ":", "family").decode()
     missing = {family for family in (*FAMILIES.values(), OTHER_FAMILY) if family not in families}
     if missing:
         sys.exit(f"these fonts are missing: {', '.join(sorted(missing))}; run tools/setup")
@@ -246,7 +246,7 @@ def main() -> None:
             take_pictures(chosen.build.resolve(), program, locale, chosen.scale, chosen.to)
             taken += 1
     if not taken:
-        sys.exit("there is no language " + chosen.locale)
+        sys.exit("unknown language " + chosen.locale)
 
 
 if __name__ == "__main__":

@@ -1,20 +1,19 @@
-"""A Windows machine under Wine, made for one purpose and thrown away.
+"""Windows machines under Wine, each made for one purpose and deleted afterwards.
 
-Each machine is a Wine prefix of its own: files, registry, services and processes that no other machine sees.
-A fresh one is a copy of a template that is made once; the programs and libraries of its Windows folder are
-shared with the template by hard links, everything else is its own.
+Each machine is a Wine prefix with its own files, registry, services and processes. A fresh one is a copy of a
+template that is made once; programs and libraries of the Windows folder are shared by hard links.
 
-A machine has one server process, which holds its registry and starts its programs. Left alone, the server
-ends with its last program, and a program that connects at that moment is dropped: it ends with
-status 1 and has done nothing. Here the server is a child process that is started before the first program and
-runs until `stop`; a machine counts as started when a program of it has run to its end.
+A machine has one server process, which holds its registry and starts its programs. A server that Wine starts
+ends with its last program, and drops a program that connects at that moment: the program exits with 1 and has
+done nothing. Here the server is a child process that is started before the first program and runs until
+`stop`. A machine has started once a program on it has run to its end.
 
     machine = Machine.create(folder)
     machine.run(r"C:\\NVX\\NVXConfig.exe", "-I", "-S")
     machine.registry()["HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"]["Locale"]
     machine.stop()
 
-As a program, winemachine.py FOLDER makes the template in a folder.
+As a program, winemachine.py FOLDER makes the template in that folder.
 """
 
 import contextlib
@@ -42,9 +41,9 @@ TUTORIALS = "C:\\users\\Public\\Documents\\Velmora\\NVX 2017\\Tutorials"
 TRANSLATORS_KEY = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Kelvane\\Translators"
 ENVIRONMENT_KEY = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment"
 SERVICES = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"
-# They start with the machine and take half the time of a start.
+# Services that are not needed; they would double the time of a start.
 NEEDLESS_SERVICES = ("Eventlog", "PlugPlay", "NDIS", "nsiproxy")
-# Kinds of files in the Windows folder of which all machines share one copy.
+# Files of these kinds in the Windows folder are shared by all machines.
 SHARED_KINDS = {
     *(".dll", ".exe", ".sys", ".drv", ".ocx", ".cpl", ".acm", ".ds", ".ax", ".nls", ".tlb", ".msstyles")
 }
@@ -52,9 +51,9 @@ SHARED_SIZE = 1 << 20
 IMPORT_KEY = "HKEY_CURRENT_USER\\Software\\Wine\\Imported scripts"
 START_TIMEOUT_S = 60
 STOP_TIMEOUT_S = 120
-LOCK_TAKEN = 2  # the exit status of a server that finds another one in its place
+LOCK_TAKEN = 2  # the exit status of a server if another one is running
 
-# Of sys/prctl.h and sys/personality.h.
+# From sys/prctl.h and sys/personality.h.
 _LIBC = ctypes.CDLL(None)
 _PR_SET_PDEATHSIG = 1
 _ADDR_NO_RANDOMIZE = 0x0040000
@@ -70,7 +69,7 @@ class MachineError(Exception):
 
 
 class Machine:
-    """One machine. `locale` is the locale of its user, as Unix names it."""
+    """One machine. `locale` is the Unix locale of its user."""
 
     def __init__(
         self, prefix: StrPath, locale: str = "C.UTF-8", locale_folder: StrPath | None = None
@@ -85,26 +84,26 @@ class Machine:
     def create(
         cls, prefix: StrPath, template: StrPath, locale: str = "C.UTF-8", locale_folder: StrPath | None = None
     ) -> "Machine":
-        """A fresh machine in the folder `prefix`, replacing what is there. Its first program starts it."""
+        """A fresh machine in the folder `prefix`, which is deleted first. Its first program starts it."""
         machine = cls(prefix, locale, locale_folder)
         if machine.prefix.exists():
             machine.stop()
             shutil.rmtree(machine.prefix)
         _copy_template(Path(template), machine.prefix)
-        # Servers are found by the inode of their folder, which a deleted folder leaves to the next one.
+        # A server is found by the inode of its folder, and a new folder may get the inode of a deleted one.
         machine.stop()
         return machine
 
     def path(self, windows_path: str) -> Path:
-        """Where a file of the machine's drive C lies on the host."""
+        """The path on the host of a file on the machine's drive C."""
         drive, rest = windows_path[:2], windows_path[3:]
         if drive.upper() != "C:":
             raise ValueError("not on drive C: " + windows_path)
         return self.prefix / "drive_c" / rest.replace("\\", "/")
 
     def environment(self, **extra: str) -> dict[str, str]:
-        kept = ("PATH", "LANG", "DISPLAY", "XAUTHORITY", "TMPDIR")
-        environment = {name: os.environ[name] for name in kept if name in os.environ}
+        inherited = ("PATH", "LANG", "DISPLAY", "XAUTHORITY", "TMPDIR")
+        environment = {name: os.environ[name] for name in inherited if name in os.environ}
         environment.update(
             HOME=str(self.prefix / "home"),
             WINEPREFIX=str(self.prefix),
@@ -121,16 +120,16 @@ class Machine:
     def run(
         self, program: str, *tokens: str, folder: str | None = None, timeout: float = 240, **environment: str
     ) -> subprocess.CompletedProcess[bytes]:
-        """Runs a program of the machine to its end; returns its exit code, and what it wrote in `stdout`.
+        """Runs a program on the machine to its end; returns its exit code, and its output in `stdout`.
 
-        A program that outlives the timeout raises subprocess.TimeoutExpired, with a note of what ran on the
-        machine, and the machine is stopped.
+        After the timeout, stops the machine and raises subprocess.TimeoutExpired with a note of the programs
+        that were running.
         """
         self.start_up()
         working_folder = self.path(folder) if folder else self.prefix
         command = ["wine", program, *tokens]
-        # The first program starts the machine's services, which keep its output open for as long as they
-        # run: a file does not wait for them, a pipe would.
+        # The first program starts the machine's services, which inherit its output. Reading a pipe would wait
+        # until they end, reading a file does not.
         with tempfile.TemporaryFile() as output:
             with self.program_settings():
                 process = subprocess.Popen(
@@ -144,7 +143,7 @@ class Machine:
             try:
                 process.wait(timeout)
             except subprocess.TimeoutExpired as error:
-                error.add_note("Programs of the machine:\n" + "\n".join(self.programs().values()))
+                error.add_note("Programs on the machine:\n" + "\n".join(self.programs().values()))
                 self.stop()
                 process.wait()
                 raise
@@ -152,8 +151,7 @@ class Machine:
             return subprocess.CompletedProcess(command, process.returncode, output.read())
 
     def start(self, program: str, *tokens: str) -> subprocess.Popen[bytes]:
-        """Starts a program of the machine and does not wait for it; returns its process, whose output is
-        dropped."""
+        """Starts a program on the machine and returns its process; its output is discarded."""
         self.start_up()
         with self.program_settings():
             return subprocess.Popen(
@@ -166,31 +164,30 @@ class Machine:
             )
 
     def start_up(self) -> None:
-        """Starts the machine unless it runs; its services have started when this returns."""
+        """Starts the machine and its services, unless it is running."""
         if self._server:
             if self._server.poll() is None:
                 return
-            raise MachineError(f"the server of {self.prefix} ended with {self._server.returncode}")
+            raise MachineError(f"the server of {self.prefix} exited with {self._server.returncode}")
         self._processor = _free_processor()
         self._server_errors = tempfile.TemporaryFile()
         self._server = _start_server(self.environment(), self._processor, self._server_errors)
         try:
-            answer = self.run("cmd", "/c", "echo started", timeout=START_TIMEOUT_S)
-            if answer.returncode != 0 or answer.stdout.splitlines()[-1:] != [b"started"]:
-                raise MachineError(f"{self.prefix} does not start: {answer!r}")
+            done = self.run("cmd", "/c", "echo started", timeout=START_TIMEOUT_S)
+            if done.returncode != 0 or done.stdout.splitlines()[-1:] != [b"started"]:
+                raise MachineError(f"{self.prefix} did not start: {done!r}")
         except BaseException:
             self.stop()
             raise
 
     @contextlib.contextmanager
     def program_settings(self) -> Iterator[None]:
-        """What is started meanwhile gets the settings of the machine's programs.
+        """Processes started inside this context get the settings of the machine's programs.
 
         They stay on one processor: a program calls the server thousands of times, and waking another
-        processor for each call and each reply costs half as much again as the work itself. And their
-        addresses are not random: each needs the page at 0x7ffe0000, and a kernel that places the heap
-        anywhere within a gigabyte puts it there in one of some 2,500 starts, which then fails ("failed to map
-        the shared user data").
+        processor for each call and reply takes half as long again as the work itself. Their addresses are not
+        random: each program needs the page at 0x7ffe0000, and a kernel that places the heap at random puts it
+        there in about one of 2,500 starts, which then fails ("failed to map the shared user data").
         """
         processors = os.sched_getaffinity(0)
         personality = _LIBC.personality(_ASK_PERSONALITY)
@@ -204,11 +201,11 @@ class Machine:
             os.sched_setaffinity(0, processors)
 
     def stop(self) -> None:
-        """Ends every process of the machine and writes its registry to the disk."""
+        """Ends every process on the machine and writes its registry to the disk."""
         server, self._server = self._server, None
         if server:
             server.send_signal(signal.SIGINT)
-            # Never by force: that would lose the registry.
+            # Not by force, which would lose the registry.
             status = server.wait(STOP_TIMEOUT_S)
             self._server_errors.seek(0)
             errors = self._server_errors.read().decode(errors="replace")
@@ -216,13 +213,13 @@ class Machine:
             if errors:
                 print(errors, file=sys.stderr)
             if status != 0 or "Protocol error" in errors:
-                raise MachineError(f"the server of {self.prefix} ended with {status}: {errors}")
+                raise MachineError(f"the server of {self.prefix} exited with {status}: {errors}")
         else:
             _stop_other_server(self.environment())
 
     def programs(self, *names: str) -> dict[int, str]:
-        """The programs that run on the machine: {id on the host: command line}; with names, only those whose
-        command line holds one of them."""
+        """The running programs: {process id on the host: command line}; with names, only those whose command
+        line contains one of the names."""
         prefix = f"WINEPREFIX={self.prefix}".encode()
         found = {}
         for folder in Path("/proc").glob("[0-9]*"):
@@ -232,19 +229,21 @@ class Machine:
                 if wanted and prefix in (folder / "environ").read_bytes().split(b"\0"):
                     found[int(folder.name)] = command
             except OSError:
-                pass  # it has ended meanwhile
+                pass  # it has ended
         return found
 
     def set_value(self, key: str, name: str, text: str) -> None:
-        """Writes a text into the registry, as an administrator would with the machine's own tool."""
-        answer = self.run("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", text, "/f")
-        if answer.returncode != 0:
-            told = answer.stdout.decode(errors="replace")
-            raise MachineError(f"reg add ended with {answer.returncode}: {told}")
+        """Writes a string to the registry with the machine's own tool."""
+        done = self.run("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", text, "/f")
+        if done.returncode != 0:
+            output = done.stdout.decode(errors="replace")
+            raise MachineError(f"reg add exited with {done.returncode}: {output}")
 
     def import_script(self, script: str) -> None:
-        """Has the Registry Editor import a script (a str). The editor returns 0 for anything: a value added
-        at the end and read back shows that it has read all of the script."""
+        """Imports the text of a script with the Registry Editor.
+
+        The editor always exits with 0, so a value is added at the end of the script and read back.
+        """
         mark = str(time.monotonic_ns())
         lines = [*script.splitlines(), "", f"[{IMPORT_KEY}]", f'"Mark"="{mark}"', ""]
         path = self.path("C:\\import.reg")
@@ -252,10 +251,10 @@ class Machine:
         self.run("regedit", "/S", "C:\\import.reg")
         path.unlink()
         if mark.encode() not in self.run("reg", "query", IMPORT_KEY, "/v", "Mark").stdout:
-            raise MachineError(f"a registry script has not been imported on {self.prefix}")
+            raise MachineError(f"a registry script was not imported on {self.prefix}")
 
     def registry(self) -> Registry:
-        """The whole registry: {key path: {value name: value}}. Stops the machine, which writes it down."""
+        """The whole registry. Stops the machine, which writes the registry to the disk."""
         self.stop()
         keys = {}
         for file, root in (("system.reg", "HKEY_LOCAL_MACHINE"), ("user.reg", "HKEY_CURRENT_USER")):
@@ -263,8 +262,8 @@ class Machine:
         return keys
 
     def files(self, folder: str = "C:\\") -> dict[str, str]:
-        """Every file and empty folder below a folder of the machine, its Windows folder left out:
-        {path: hash of the contents}."""
+        """Every file and empty folder below a folder of the machine, without the Windows folder: {path: hash
+        of the contents}; the path of an empty folder ends in a backslash."""
         top = self.path(folder)
         drive = self.prefix / "drive_c"
         found = {}
@@ -287,21 +286,21 @@ class Machine:
         install_dir: str = INSTALL_DIR,
         translators: str | None = TRANSLATORS,
     ) -> None:
-        """Copies the sample product and our program to the machine, as an installer does. `installed` is a
-        folder laid out by `cmake --install`, `sample` the built sample product."""
+        """Copies the sample product and the programs to the machine, as an installer does. `installed` is the
+        folder of `cmake --install`, `sample` the built sample product."""
         for source in (Path(sample) / "product", Path(installed)):
-            _copy_anew(source, self.path(install_dir))
+            _copy_over(source, self.path(install_dir))
         if translators:
-            _copy_anew(Path(sample) / "translators", self.path(translators))
+            _copy_over(Path(sample) / "translators", self.path(translators))
             self.set_value(TRANSLATORS_KEY, "Folder", translators)
 
     def log(self, install_dir: str = INSTALL_DIR) -> str:
-        """The text of the run's log."""
+        """The text of the log."""
         return (self.path(install_dir) / "NVXConfig.log").read_text(encoding="utf-8")
 
 
 def _free_processor():
-    """The processor that the fewest machines of this host are on."""
+    """The processor with the fewest machines of this host."""
     machines = dict.fromkeys(sorted(os.sched_getaffinity(0)), 0)
     for comm in Path("/proc").glob("[0-9]*/comm"):
         try:
@@ -310,13 +309,13 @@ def _free_processor():
                 if len(on) == 1 and on <= machines.keys():
                     machines[on.pop()] += 1
         except (OSError, ValueError):
-            pass  # it has ended meanwhile
+            pass  # it has ended
     return min(machines, key=machines.__getitem__)
 
 
 def _start_server(environment, processor, errors):
-    """Starts the server of a machine as a child process that ends with this one; what it complains of goes to
-    the file `errors`. Returns when it listens."""
+    """Starts the server of a machine as a child process that ends with this one, and waits until it listens.
+    Its messages are written to the file `errors`."""
 
     def in_child():
         _end_with_parent()
@@ -335,7 +334,7 @@ def _start_server(environment, processor, errors):
         while server.poll() is None and not _is_listening(server):
             if time.monotonic() > deadline:
                 server.kill()
-                raise MachineError(f"the server of {environment['WINEPREFIX']} does not listen")
+                raise MachineError(f"the server of {environment['WINEPREFIX']} did not start to listen")
             time.sleep(0.005)
         if server.poll() is None:
             return server
@@ -345,14 +344,14 @@ def _start_server(environment, processor, errors):
 
 
 def _end_with_parent():
-    """In the child: when its parent has ended it gets SIGINT, at which a server ends its programs and saves
-    its registry; at SIGTERM it would leave the programs running."""
+    """Called in the child: makes it receive SIGINT when its parent ends. The server then ends its programs
+    and saves its registry; after SIGTERM the programs would keep running."""
     _LIBC.prctl(_PR_SET_PDEATHSIG, signal.SIGINT)
 
 
 def _is_listening(server):
-    """Whether a server takes programs: its working folder then holds the socket that they connect to. Another
-    server of the machine may listen there, until this one finds out and ends."""
+    """Whether this server accepts connections on the socket in its working folder. Another server of the
+    machine may be listening there, until this one detects it and ends."""
     with socket.socket(socket.AF_UNIX) as probe:
         try:
             probe.connect(f"/proc/{server.pid}/cwd/socket")
@@ -364,7 +363,7 @@ def _is_listening(server):
 
 
 def _stop_other_server(environment):
-    """Ends the server of a machine, if there is one, that another process started."""
+    """Ends the server of a machine that another process started, if there is one."""
     for option in ("-k", "-w"):
         subprocess.run(
             ["wineserver", option],
@@ -376,7 +375,7 @@ def _stop_other_server(environment):
 
 
 def make_template(folder: StrPath) -> Path:
-    """Makes the template of all machines, once; a Wine of another version makes it anew."""
+    """Makes the template of all machines, unless it exists and was made by this version of Wine."""
     folder = Path(folder)
     version = subprocess.run(
         ["wine", "--version"], env={**os.environ, "WINEDEBUG": "-all"}, stdout=subprocess.PIPE
@@ -395,9 +394,9 @@ def make_template(folder: StrPath) -> Path:
     return folder
 
 
-def _copy_anew(source, target):
-    """Copies a folder over another one. A file that was there is replaced, not written into: a program of the
-    machine may be running from it. Large libraries, which nobody writes into, are shared by hard links."""
+def _copy_over(source, target):
+    """Copies a folder over another one. Existing files are replaced, not overwritten: a program may be
+    running from them. Large libraries, which are never written, are shared by hard links."""
 
     def copy(file, place):
         Path(place).unlink(missing_ok=True)
@@ -412,7 +411,7 @@ def _copy_template(template, prefix):
     windows = template / "drive_c" / "windows"
 
     def copy(source, target):
-        # Programs are replaced, if at all, and never written into; anything else may be, win.ini for one.
+        # Programs are never overwritten; other files may be, for example win.ini.
         if Path(source).suffix.lower() in SHARED_KINDS and Path(source).is_relative_to(windows):
             os.link(source, target)
         else:
@@ -427,7 +426,7 @@ _VALUE = re.compile(r'^(?:"((?:[^"\\]|\\.)*)"|@)=(.*)$')
 
 def _read_registry(path, root):
     keys: Registry = {}
-    # Machines differ from their template in a few of twenty thousand keys, so most sections are known.
+    # Machines differ from their template in a few of twenty thousand keys, so most sections are in the cache.
     for section in path.read_text(encoding="utf-8", errors="surrogateescape").split("\n["):
         key, values = _read_section(section)
         if key:
@@ -437,8 +436,9 @@ def _read_registry(path, root):
 
 @functools.lru_cache(maxsize=None)
 def _read_section(section):
-    """The key of a section, whose opening bracket is left out, and its values; no key in the head of the
-    file."""
+    """The key and the values of a section without its opening bracket; the key is None for the head of the
+    file.
+    """
     head, *lines = section.splitlines() or [""]
     key = _KEY.match(head)
     values = {}
@@ -467,7 +467,7 @@ def _unescape(text):
 
 
 def value_of(registry: Registry, key: str, name: str) -> str | None:
-    """A value of a registry, keys and names compared without case; None when it is missing."""
+    """A value of a registry, None if it is missing. Letter case does not matter."""
     for path, values in registry.items():
         if path.lower() == key.lower():
             for value_name, value in values.items():

@@ -1,5 +1,5 @@
-// Stands for a program that is running: a CAD system, or one of the product's own. It makes the file
-// "EXECUTABLE.running" and runs until there is a file "EXECUTABLE.stop"; then it removes both and ends.
+// Stands in for a running CAD system or program of the product. It creates the file "EXECUTABLE.running" and
+// runs until there is a file "EXECUTABLE.stop"; then it deletes both and ends.
 
 #include <cstdio>
 #include <string>

@@ -1,4 +1,4 @@
-// Stands for a library of language resources: it tells which language it is for.
+// Stands in for a library of language resources; it returns its language.
 
 extern "C" __declspec(dllexport) const wchar_t *resourceLanguage();
 

@@ -1,5 +1,4 @@
-// Stands for a launcher that a CAD system finds as a COM library: it registers itself as one, and takes that
-// back.
+// Stands in for a launcher that is a COM library: it registers and unregisters itself.
 
 #include <olectl.h>
 #include <string>
@@ -46,7 +45,7 @@ STDAPI DllUnregisterServer()
     return result == ERROR_SUCCESS || result == ERROR_FILE_NOT_FOUND ? S_OK : SELFREG_E_CLASS;
 }
 
-// Nothing is made from this sample.
+// The sample has no objects.
 STDAPI DllGetClassObject(REFCLSID, REFIID, void **object)
 {
     *object = nullptr;

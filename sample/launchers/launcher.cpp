@@ -1,4 +1,4 @@
-// Stands for a launcher that a CAD system loads as a plain library: it tells for which.
+// Stands in for a launcher that is a plain library; it returns the name of its CAD system.
 
 extern "C" __declspec(dllexport) const wchar_t *launcherOf();
 

@@ -1,4 +1,4 @@
-// Stands for the product's main program, which the shortcut and the product's files start.
+// Stands in for the product's main program, which the shortcut and the product's files start.
 
 #include <cstdio>
 

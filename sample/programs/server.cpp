@@ -1,16 +1,16 @@
-// Stands for the product's server: a real service program.
+// Stands in for the product's server: a real service.
 //
-//     NVXServer.exe -i     registers itself as the service "NVX 2017 Server", to be started by hand
-//     NVXServer.exe        is how the service control manager starts it
+//     NVXServer.exe -i     registers itself as the service "NVX 2017 Server", started on demand
+//     NVXServer.exe        started by the service control manager
 //
-// It writes its configuration and its log into the product's Analyze folder and keeps the log open as long as
-// it runs. Files beside it, named as it is and with one of these endings, make it worse:
+// It writes its configuration and its log to the product's Analyze folder, and has the log open while it
+// runs. A file next to it with its name and one of these endings makes it fail:
 //
-//     .fails-to-register   "-i" ends with 1 and registers nothing
-//     .refuses-to-stop     it takes no request to stop
-//     .hangs-at-stop       it takes the request and goes on
+//     .fails-to-register   "-i" registers nothing and exits with 1
+//     .refuses-to-stop     it does not accept a request to stop
+//     .hangs-at-stop       it accepts the request and continues
 //
-// It looks for them all the time, and behaves as soon as they are gone.
+// It checks for these files all the time; once they are deleted, it works as usual.
 
 #include <atomic>
 #include <cstdio>
@@ -28,7 +28,7 @@ wchar_t serviceDescription[] = L"Sample server: registered by itself.";
 
 SERVICE_STATUS_HANDLE statusHandle = nullptr;
 HANDLE stopRequested = nullptr;
-std::atomic<bool> takesStop{true};
+std::atomic<bool> acceptsStop{true};
 
 std::wstring ownPath()
 {
@@ -37,14 +37,14 @@ std::wstring ownPath()
     return path;
 }
 
-bool isTold(const wchar_t *ending)
+bool isToldTo(const wchar_t *ending)
 {
     return GetFileAttributesW((ownPath() + ending).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
 std::wstring makeAnalyzeFolder()
 {
-    // Asked of the shell: a service may have another environment than its users.
+    // From the shell: the environment of a service may differ from that of the users.
     wchar_t data[MAX_PATH] = {};
     SHGetFolderPathW(nullptr, CSIDL_COMMON_APPDATA, nullptr, SHGFP_TYPE_CURRENT, data);
     std::wstring folder = data;
@@ -60,7 +60,7 @@ void report(DWORD state)
     SERVICE_STATUS status = {};
     status.dwServiceType = SERVICE_WIN32_OWN_PROCESS;
     status.dwCurrentState = state;
-    if (state == SERVICE_RUNNING && takesStop)
+    if (state == SERVICE_RUNNING && acceptsStop)
         status.dwControlsAccepted = SERVICE_ACCEPT_STOP;
     if (state == SERVICE_STOP_PENDING)
         status.dwWaitHint = 1000;
@@ -71,7 +71,7 @@ DWORD WINAPI handleControl(DWORD control, DWORD /*eventType*/, void * /*event*/,
 {
     if (control == SERVICE_CONTROL_INTERROGATE)
         return NO_ERROR;
-    if (control != SERVICE_CONTROL_STOP || !takesStop)
+    if (control != SERVICE_CONTROL_STOP || !acceptsStop)
         return ERROR_CALL_NOT_IMPLEMENTED;
     report(SERVICE_STOP_PENDING);
     SetEvent(stopRequested);
@@ -81,18 +81,18 @@ DWORD WINAPI handleControl(DWORD control, DWORD /*eventType*/, void * /*event*/,
 void waitForStop()
 {
     while (WaitForSingleObject(stopRequested, 100) != WAIT_OBJECT_0) {
-        const bool takesItNow = !isTold(L".refuses-to-stop");
-        if (takesStop.exchange(takesItNow) != takesItNow)
+        const bool acceptsNow = !isToldTo(L".refuses-to-stop");
+        if (acceptsStop.exchange(acceptsNow) != acceptsNow)
             report(SERVICE_RUNNING);
     }
-    while (isTold(L".hangs-at-stop"))
+    while (isToldTo(L".hangs-at-stop"))
         Sleep(100);
 }
 
 void WINAPI serve(DWORD /*argc*/, wchar_t ** /*argv*/)
 {
     stopRequested = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    takesStop = !isTold(L".refuses-to-stop");
+    acceptsStop = !isToldTo(L".refuses-to-stop");
     statusHandle = RegisterServiceCtrlHandlerExW(serviceName, handleControl, nullptr);
     const std::wstring folder = makeAnalyzeFolder();
     std::FILE *configuration = _wfopen((folder + L"\\solver_manager.cfg").c_str(), L"w");
@@ -108,11 +108,11 @@ void WINAPI serve(DWORD /*argc*/, wchar_t ** /*argv*/)
 
 int registerService()
 {
-    if (isTold(L".fails-to-register")) {
+    if (isToldTo(L".fails-to-register")) {
         std::puts("The server was told to fail.");
         return 1;
     }
-    // Without the quotes a path with blanks could be read as that of another program.
+    // Without quotes, part of a path with blanks could be taken as the program.
     const std::wstring command = L'"' + ownPath() + L'"';
     const SC_HANDLE control = OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CREATE_SERVICE);
     const SC_HANDLE service =

@@ -1,4 +1,4 @@
-// Stands for the product's solver, by which an install dir is told from any other folder.
+// Stands in for the product's solver. A folder without it is not recognised as an install dir.
 
 #include <cstdio>
 

@@ -1,5 +1,5 @@
-// Stands for the program that configures the product's viewer: it writes down, in UTF-8, how it was started
-// last, in the file "last-start.txt" beside itself: its working folder, then a line for each argument.
+// Stands in for the program that configures the product's viewer. It writes its working folder and its
+// arguments, one a line, to the file "last-start.txt" next to it, in UTF-8.
 
 #include <cstdio>
 #include <string>

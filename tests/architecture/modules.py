@@ -155,13 +155,13 @@ def dependencies_of_links(modules: Modules, targets: dict[str, Target]) -> Itera
 
 def forbidden(modules: Modules, dependencies: Iterable[Dependency]) -> list[str]:
     """The dependencies that the table does not allow, each with what it allows instead."""
-    faults = []
+    violations = []
     for start, end, cause in dependencies:
         if start == end or (start in modules and end in modules[start].uses):
             continue
         allowed = ", ".join(sorted(modules[start].uses)) if start in modules else "nothing"
-        faults.append(f"{cause}: {start} may use {allowed}, not {end}")
-    return faults
+        violations.append(f"{cause}: {start} may use {allowed}, not {end}")
+    return violations
 
 
 def unused_dependencies(modules: Modules, dependencies: Iterable[Dependency]) -> list[tuple[str, str]]:
@@ -175,8 +175,8 @@ def unused_dependencies(modules: Modules, dependencies: Iterable[Dependency]) ->
     )
 
 
-def circle(modules: Modules) -> list[str]:
-    """A path along the dependencies that returns to its start; empty if there is none."""
+def cycle(modules: Modules) -> list[str]:
+    """A cycle in the dependencies, as the names along it; empty if there is none."""
 
     def search(name, path):
         if name in path:

@@ -7,7 +7,7 @@ from pathlib import Path
 from modules import (
     dependencies_of_includes,
     dependencies_of_links,
-    circle,
+    cycle,
     forbidden,
     includes_of,
     read_modules,
@@ -65,17 +65,17 @@ class Modules(unittest.TestCase):
 
     def test_every_source_is_in_one_library_or_program(self):
         built = [source for target in self.targets.values() for source in target.sources]
-        there = [path for path in source_files(ROOT) if path.endswith(".cpp")]
-        self.assertEqual(sorted(built), there)
+        existing = [path for path in source_files(ROOT) if path.endswith(".cpp")]
+        self.assertEqual(sorted(built), existing)
 
-    def test_the_table_allows_nothing_that_is_not_used(self):
+    def test_every_allowed_dependency_exists(self):
         self.assertEqual(unused_dependencies(self.modules, self.dependencies()), [])
 
     def test_dependencies_go_one_way(self):
-        self.assertEqual(circle(self.modules), [])
+        self.assertEqual(cycle(self.modules), [])
 
 
-# A small project; each test adds one fault.
+# The modules of a small project; each test violates one rule.
 TABLE = """
 | Module | Files | What it holds | May use |
 |---|---|---|---|
@@ -85,8 +85,8 @@ TABLE = """
 """
 
 
-class TheChecks(unittest.TestCase):
-    """The checks find the faults they look for."""
+class ModuleChecks(unittest.TestCase):
+    """The checks report violations in a small project."""
 
     def project(self, **files):
         folder = tempfile.TemporaryDirectory()
@@ -156,9 +156,9 @@ class TheChecks(unittest.TestCase):
             unused_dependencies(read_modules(TABLE), [("attic", "hall", "")]), [("hall", "cellar")]
         )
 
-    def test_a_circle_is_reported(self):
+    def test_a_cycle_is_reported(self):
         turned = TABLE.replace("pipes | |", "pipes | attic |")
-        self.assertEqual(circle(read_modules(turned)), ["cellar", "attic", "hall", "cellar"])
+        self.assertEqual(cycle(read_modules(turned)), ["cellar", "attic", "hall", "cellar"])
 
 
 if __name__ == "__main__":

@@ -73,10 +73,10 @@ class Lint(unittest.TestCase):
         lines = [line for line in done.stdout.splitlines() if not line.startswith("== ")]
         return done.returncode, "\n".join(lines)
 
-    def test_a_checkout_without_a_fault_passes(self):
+    def test_a_checkout_without_faults_passes(self):
         self.assertEqual(self.lint(), (0, ""))
 
-    def test_every_fault_is_reported_by_its_file_and_line(self):
+    def test_each_fault_is_reported_with_its_file_and_line(self):
         for name, text, _ in FAULTS:
             self.write(name, text)
         status, output = self.lint()

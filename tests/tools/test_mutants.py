@@ -1,4 +1,4 @@
-"""Which changes of a source file are tried, and how the list of files is read."""
+"""The mutants that are made of a source file, the list of files, and the commands of the tests."""
 
 import tempfile
 import unittest
@@ -9,7 +9,7 @@ from mutate import read_list, run_test, test_commands
 
 
 def function(*statements):
-    """A source file of one function with these lines in it."""
+    """A source file with one function of these lines."""
     return "void f()\n{\n" + "".join(f"    {line}\n" for line in statements) + "}\n"
 
 
@@ -18,14 +18,14 @@ def changes(*statements):
 
 
 def lines_made(*statements):
-    """What becomes of the function's lines, a text for each mutant."""
+    """For each mutant, the lines of the function joined by blanks."""
     text = function(*statements)
     made = [mutated(text, mutant).split("\n")[2:-2] for mutant in mutants_of(text)]
     return [" ".join(line.strip() for line in lines) for lines in made]
 
 
-class TestMutants(unittest.TestCase):
-    def test_changes_of_one_line(self):
+class Mutants(unittest.TestCase):
+    def test_each_line_has_the_expected_mutants(self):
         rows = {
             "a comparison": ("auto b = x < y;", ["auto b = x <= y;"]),
             "equality": ("auto b = x == y;", ["auto b = x != y;"]),
@@ -35,12 +35,12 @@ class TestMutants(unittest.TestCase):
             "a number": ("auto b = x[7];", ["auto b = x[8];"]),
             "a number with a suffix": ("auto b = 1u;", ["auto b = 2u;"]),
             "a hexadecimal number": ("auto b = 0x7F;", ["auto b = 0x80;"]),
-            "a truth": ("auto b = true;", ["auto b = false;"]),
-            "a text": ('auto b = "day";', ['auto b = "eay";']),
-            "a text behind an escape": (r'auto b = "\nz";', [r'auto b = "\ny";']),
-            "a text behind a place marker": ('auto b = "%1a";', ['auto b = "%1b";']),
+            "a boolean": ("auto b = true;", ["auto b = false;"]),
+            "a string": ('auto b = "day";', ['auto b = "eay";']),
+            "a string after an escape": (r'auto b = "\nz";', [r'auto b = "\ny";']),
+            "a string after a place marker": ('auto b = "%1a";', ['auto b = "%1b";']),
             "a character": ("auto b = 'x';", ["auto b = 'y';"]),
-            "a raw text": ('auto b = R"(a"b)";', ['auto b = R"(b"b)";']),
+            "a raw string": ('auto b = R"(a"b)";', ['auto b = R"(b"b)";']),
             "a condition by itself": ("if (x)", ["if (!(x))"]),
             "a choice": (
                 "auto b = x ? y : z;",
@@ -49,15 +49,15 @@ class TestMutants(unittest.TestCase):
             "a step": ("const auto b = ++x;", ["const auto b = --x;"]),
             "a statement": ("call(x);", [";"]),
             "a returned value": ("return x;", ["return {};"]),
-            "nothing returned": ("return {};", []),
+            "a returned default value": ("return {};", []),
             "a declaration": ("const QString text;", []),
             "brackets of a template": ("auto b = c<int>(x);", []),
             "a reference that moves": ("auto &&b = c(x);", []),
-            "joined texts": ('auto b = x + "%1";', []),
+            "joined strings": ('auto b = x + "%1";', []),
             "a comment": ("auto b = c; // x < y, 1, true", []),
             "a directive": ("#define b 1 < 2", []),
-            "another machine's branch": ("#if x\n#else\n    auto b = x < 1;\n#endif", []),
-            "room made beforehand": ("m_texts.reserve(x + 1);", []),
+            "a branch for another platform": ("#if x\n#else\n    auto b = x < 1;\n#endif", []),
+            "reserved memory": ("m_texts.reserve(x + 1);", []),
             "an assertion": ("NVX_ASSERT(x < y, unit);", []),
             "an escape alone": (r'auto b = "\n";', []),
         }
@@ -65,12 +65,12 @@ class TestMutants(unittest.TestCase):
             with self.subTest(name):
                 self.assertEqual(sorted(lines_made(line)), sorted(expected))
 
-    def test_an_operator_in_a_literal_is_none(self):
+    def test_an_operator_in_a_literal_is_not_changed(self):
         self.assertNotIn("< to <=", changes('auto b = "x < y";'))
         self.assertNotIn("< to <=", changes('auto b = "\\" < y";'))
         self.assertNotIn("< to <=", changes('auto b = R"x(" < )" < )x";'))
 
-    def test_masking_keeps_every_place(self):
+    def test_masking_keeps_every_position(self):
         text = 'a \'b\' /* c\n d */ "e\\"" // f\n#g\n1\'000 R"h(i\n)h" j\n'
         masked, _ = mask(text)
         self.assertEqual(len(masked), len(text))
@@ -79,37 +79,37 @@ class TestMutants(unittest.TestCase):
         self.assertIn("1'000", masked)
         self.assertNotRegex(masked, "[bcdefghi]")
 
-    def test_neighbours_change_places(self):
+    def test_consecutive_statements_are_exchanged(self):
         self.assertIn("b(); a();", lines_made("a();", "b();"))
 
-    def test_a_declaration_stays_before_what_uses_it(self):
+    def test_a_declaration_is_not_moved_after_its_use(self):
         self.assertNotIn("change places with the next statement", changes("int x = y();", "call(x);"))
         self.assertIn("change places with the next statement", changes("int x = y();", "call();"))
 
-    def test_assignments_that_have_nothing_to_do_with_each_other_stay(self):
+    def test_independent_assignments_are_not_exchanged(self):
         swapped = "change places with the next statement"
         self.assertNotIn(swapped, changes("a.b = x;", "a.c = y(z);"))
         self.assertIn(swapped, changes("a.b = x;", "a.c = a.b;"))
         self.assertIn(swapped, changes("a.b = x;", "a.b += y;"))
         self.assertIn(swapped, changes("a = read();", "b = read();"))
 
-    def test_a_guarded_statement_does_not_leave_its_guard(self):
+    def test_a_statement_after_a_condition_is_not_exchanged(self):
         self.assertNotIn("change places with the next statement", changes("if (x)", "    a();", "b();"))
 
-    def test_a_function_that_answers_yes_or_no_answers_the_contrary(self):
-        answering = "bool f()\n{\n    return g();\n}\n"
-        self.assertIn("return the contrary", [mutant.change for mutant in mutants_of(answering)])
+    def test_the_result_of_a_boolean_function_is_negated(self):
+        boolean = "bool f()\n{\n    return g();\n}\n"
+        self.assertIn("return the contrary", [mutant.change for mutant in mutants_of(boolean)])
         self.assertNotIn("return the contrary", changes("return g();"))
-        behind = answering + "int h()\n{\n    return g();\n}\n"
-        self.assertEqual([mutant.change for mutant in mutants_of(behind)].count("return the contrary"), 1)
+        text = boolean + "int h()\n{\n    return g();\n}\n"
+        self.assertEqual([mutant.change for mutant in mutants_of(text)].count("return the contrary"), 1)
 
-    def test_a_mutant_tells_its_line(self):
+    def test_a_mutant_has_its_line(self):
         mutant = mutants_of(function("a;", "const auto b = x < y;"))[-1]
         self.assertEqual((mutant.line, mutant.source), (4, "const auto b = x < y;"))
 
 
-class TestList(unittest.TestCase):
-    def test_files_tests_and_what_makes_no_difference(self):
+class ListOfFiles(unittest.TestCase):
+    def test_files_tests_and_accepted_changes_are_read(self):
         first, second = read_list(
             "# a comment\na.cpp: tst_a tst_b\n"
             "    > if (a < b) // because\n"
@@ -121,14 +121,14 @@ class TestList(unittest.TestCase):
         self.assertEqual(first.accepted, {(line, "> to >="): "they never meet", (line, "drop !"): "of c"})
         self.assertEqual((second.file, second.tests, second.accepted), ("b.cpp", ["tst_b"], {}))
 
-    def test_what_is_accepted_needs_a_reason(self):
+    def test_an_accepted_change_needs_a_reason(self):
         for text in ("a.cpp: tst_a\n    > x\n        < to <=\n", "    > x\n        < to <= because y\n"):
             with self.subTest(text), self.assertRaises(SystemExit):
                 read_list(text)
 
 
-class TestTests(unittest.TestCase):
-    def test_the_program_of_a_test_and_its_arguments(self):
+class TestCommands(unittest.TestCase):
+    def test_the_program_and_the_arguments_of_a_test_are_found(self):
         registered = (
             'add_test([=[tst_a]=] "/build/tests/cad/cad_tests" "tst_a")\n'
             'set_tests_properties([=[tst_a]=] PROPERTIES ENVIRONMENT "A=1")\n'
@@ -140,7 +140,7 @@ class TestTests(unittest.TestCase):
             {"tst_a": ["tests/cad/cad_tests", "tst_a"], "tst_b": ["tests/cad/tst_b"]},
         )
 
-    def test_the_class_comes_before_the_options(self):
+    def test_the_class_precedes_the_options(self):
         script = 'test "$0 $*" = "tst_a -nocrashhandler first"'
         with tempfile.TemporaryDirectory() as folder:
             result, _ = run_test(["sh", "-c", script, "tst_a"], ["first"], Path(folder), 1)
