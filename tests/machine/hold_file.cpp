@@ -1,7 +1,7 @@
-// Keeps a file open that nobody else may open meanwhile: hold_file FILE MARK
+// Keeps a file open so that no other program can open it: hold_file FILE MARK
 //
-// Makes the file MARK when it holds the other one, and ends when MARK is gone, at the latest after two
-// minutes. Answers 1 when it could not open FILE.
+// Creates the file MARK once FILE is open, and ends when MARK has been deleted, after two minutes at the
+// latest. Exits with 1 if FILE cannot be opened, 2 for wrong arguments.
 
 #include <windows.h>
 

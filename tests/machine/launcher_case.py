@@ -1,4 +1,5 @@
-"""What the tests of the launchers share: a machine with all six CAD systems, and what is told to each."""
+"""What the tests of the launchers share: a machine with all six CAD systems, and what is installed in
+each."""
 
 from machine_case import MachineCase
 from cadsystems import (
@@ -63,24 +64,20 @@ class LauncherCase(MachineCase):
         put_cad_systems(cls.machine)
 
     def run_with(self, option: str, install_dir: str = INSTALL_DIR) -> list[str]:
-        """One run of the program; answers the lines of its log."""
-        self.machine.path(install_dir + "\\NVXConfig.log").unlink(missing_ok=True)
-        code, lines = self.configure(install_dir, option, "-S", "-Len-US")
+        """Runs NVXConfig.exe to its end; returns the lines of this run's log."""
+        code, lines = self.configure_with_new_log(install_dir, option, "-S", "-Len-US")
         self.assert_complete(code, lines)
         return lines
 
     def diagnose_with(self, option: str, install_dir: str = INSTALL_DIR) -> tuple[list[str], list[str]]:
-        """The same with the run's diagnostic warnings, as a second value."""
-        self.machine.path(install_dir + "\\NVXConfig.log").unlink(missing_ok=True)
+        """Like `run_with`; the second value is the run's diagnostic warnings."""
+        self.delete_log(install_dir)
         code, lines, warnings = self.diagnose(install_dir, option, "-S", "-Len-US")
         self.assert_complete(code, lines)
         return lines, warnings
 
-    def read(self, path: str) -> bytes:
-        return self.machine.path(path).read_bytes()
-
     def reset_files(self) -> None:
-        """Makes the shared files those of a machine without the product."""
+        """Restores the CAD systems' files to their state before the product was installed."""
         for path in (PROTK_2, PROTK_3, CUSTOM_DIRS_10, CUSTOM_DIRS_11):
             file = self.machine.path(path)
             file.chmod(0o644)

@@ -1,7 +1,8 @@
-"""What the tests on a Windows machine share. A test class has a machine of its own; its tests put the product
-into folders of their own on it."""
+"""What the tests on Windows machines share. Each test class has its own machine; its tests install the
+product into folders of it."""
 
 import contextlib
+import getpass
 import os
 import re
 import shutil
@@ -9,23 +10,36 @@ import subprocess
 import sys
 import time
 import unittest
-from collections.abc import Iterator
+from collections.abc import Callable, Iterator
 from pathlib import Path
 from typing import Any
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
 
-from winemachine import INSTALL_DIR, Machine, make_template  # noqa: E402
+from winemachine import INSTALL_DIR, SERVICES, Machine, make_template  # noqa: E402
 
-# The build folder, handed over by ctest.
+# The build folder, set by ctest.
 BUILD = Path(os.environ["NVX_BUILD"])
 LANE = os.environ.get("NVX_LANE", "1")
 HOLD_FILE = BUILD / "tests" / "machine" / "hold_file.exe"
+CLOSE_MESSAGE_BOX = BUILD / "tests" / "machine" / "close_message_box.exe"
 SCRIPTED_TOOL = BUILD / "tests" / "scripted_tool.exe"
 CATEGORY = "nvx.configuration: "
 COMPLETE = "   0 The installation or update is complete. Click finish to continue."
 
-_STAMP = re.compile(r"^[A-Z][a-z]{2} [A-Z][a-z]{2} [ \d]?\d \d\d:\d\d:\d\d \d{4} (.*)$")
+LOG = INSTALL_DIR + "\\NVXConfig.log"
+DESKTOP = "C:\\users\\Public\\Desktop"
+SHORTCUT = DESKTOP + "\\Velmora NVX 2017.lnk"
+USER_FOLDER = "C:\\users\\" + getpass.getuser()
+USER_DATA = USER_FOLDER + "\\AppData\\Roaming\\Velmora\\NVX 2017"
+PRODUCT_KEY = "HKEY_LOCAL_MACHINE\\Software\\Velmora\\NVX"
+USER_KEY = "HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"
+UNINSTALL_KEY = "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\NVX 2017"
+SERVICE = "NVX 2017 Server"
+SERVICE_KEY = SERVICES + SERVICE
+
+TIME_STAMP = r"[A-Z][a-z]{2} [A-Z][a-z]{2} [ \d]?\d \d\d:\d\d:\d\d \d{4} "
+_STAMPED_LINE = re.compile(f"^{TIME_STAMP}(.*)$")
 
 
 class MachineCase(unittest.TestCase):
@@ -35,37 +49,47 @@ class MachineCase(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls) -> None:
-        cls.machine = Machine.create(
-            # Two modules may have a class of one name, and run at the same time; so may two lanes of one.
-            BUILD / "machines" / ".".join((cls.__module__, cls.__name__, LANE)),
-            make_template(BUILD / "wine-template"),
-            cls.locale,
-            BUILD / "locales",
-        )
+        # Classes of the same name in two modules may run at the same time, and so may two lanes of one
+        # module.
+        cls.machine = new_machine(".".join((cls.__module__, cls.__name__, LANE)), cls.locale)
 
     @classmethod
     def tearDownClass(cls) -> None:
         cls.machine.stop()
         shutil.rmtree(cls.machine.prefix)
 
+    @classmethod
+    def turn_screen_off(cls) -> None:
+        """Makes the machine show message boxes without a screen; close_message_box finds them all the
+        same."""
+        cls.machine.set_value("HKEY_CURRENT_USER\\Software\\Wine\\Drivers", "Graphics", "null")
+        cls.machine.stop()
+
     def put_product(self, install_dir: str = INSTALL_DIR, translators: str | None = None) -> str:
         self.machine.put_product(BUILD / "installed", BUILD / "sample", install_dir, translators)
         return install_dir
 
     def replace_seven_zip(self, install_dir: str, orders: str) -> None:
-        """Puts a program in the place of 7z.exe that does what the orders say (scripted_tool.cpp)."""
+        """Replaces 7z.exe with a program that follows the orders (scripted_tool.cpp)."""
         seven_zip = self.machine.path(install_dir) / "7z.exe"
         shutil.copy(SCRIPTED_TOOL, seven_zip)
         (seven_zip.parent / "7z.exe.script").write_text(orders)
 
     def configure(self, install_dir: str, *tokens: str, **options: Any) -> tuple[int, list[str]]:
-        """Runs the program of an install dir; returns its exit code and the lines of the whole log, without
-        their time stamps; a line without one keeps "! " before it."""
+        """Runs NVXConfig.exe; returns its exit code and the lines of the whole log.
+
+        The lines are without their time stamps; a line that has none begins with "! ".
+        """
         return self._configure(install_dir, tokens, options)[:2]
 
+    def configure_with_new_log(self, install_dir: str, *tokens: str, **options: Any) -> tuple[int, list[str]]:
+        """Like `configure`, with a log that holds this run only."""
+        self.delete_log(install_dir)
+        return self.configure(install_dir, *tokens, **options)
+
     def diagnose(self, install_dir: str, *tokens: str, **options: Any) -> tuple[int, list[str], list[str]]:
-        """The same with the diagnostic warnings of the run as a third value."""
-        # Wine hides the host's variables for Qt from its programs.
+        """Like `configure`; the third value is the run's diagnostic warnings."""
+        # Wine does not pass the host's variables for Qt on to its programs.
         key = "HKEY_CURRENT_USER\\Environment"
         self.machine.set_value(key, "QT_FORCE_STDERR_LOGGING", "1")
         try:
@@ -78,14 +102,17 @@ class MachineCase(unittest.TestCase):
     ) -> tuple[int, list[str], list[str]]:
         log = self.machine.path(install_dir) / "NVXConfig.log"
         try:
-            answer = self.machine.run(install_dir + "\\NVXConfig.exe", *tokens, **options)
+            done = self.machine.run(install_dir + "\\NVXConfig.exe", *tokens, **options)
         except subprocess.TimeoutExpired as error:
-            error.add_note("Its log ends:\n" + "\n".join(log_lines(log)[-12:] if log.is_file() else []))
+            error.add_note("End of the log:\n" + "\n".join(log_lines(log)[-12:]))
             raise
-        if answer.returncode != 0:
-            output = answer.stdout.decode(errors="replace")
-            print(f"NVXConfig.exe ended with {answer.returncode}: {output}", file=sys.stderr)
-        return answer.returncode, log_lines(log) if log.is_file() else [], warnings_of(answer.stdout)
+        if done.returncode != 0:
+            output = done.stdout.decode(errors="replace")
+            print(f"NVXConfig.exe exited with {done.returncode}: {output}", file=sys.stderr)
+        return done.returncode, log_lines(log), warnings_of(done.stdout)
+
+    def delete_log(self, install_dir: str = INSTALL_DIR) -> None:
+        self.machine.path(install_dir + "\\NVXConfig.log").unlink(missing_ok=True)
 
     def write(self, windows_path: str, contents: bytes = b"") -> Path:
         path = self.machine.path(windows_path)
@@ -93,66 +120,91 @@ class MachineCase(unittest.TestCase):
         path.write_bytes(contents)
         return path
 
+    def read(self, windows_path: str) -> bytes:
+        return self.machine.path(windows_path).read_bytes()
+
     def exists(self, windows_path: str) -> bool:
         return self.machine.path(windows_path).exists()
 
+    def server_is_running(self) -> bool:
+        return SERVICE in self.machine.run("net", "start").stdout.decode("utf-8", "replace")
+
+    def server_is_registered(self) -> bool:
+        """Stops the machine, as `Machine.registry` does."""
+        return any(
+            (key + "\\").lower().startswith(SERVICE_KEY.lower() + "\\") for key in self.machine.registry()
+        )
+
     @contextlib.contextmanager
     def held(self, path: str, mark_path: str = "C:\\held") -> Iterator[None]:
-        """A program has the file open and lets nobody else at it. The other path is a sign between us."""
+        """Another program has the file open and denies all access to it. It signals with the file
+        `mark_path`."""
         mark = self.machine.path(mark_path)
         mark.unlink(missing_ok=True)
         holder = self.machine.start(str(HOLD_FILE), path, mark_path)
         try:
-            for _ in range(600):
-                if mark.exists() or holder.poll() is not None:
-                    break
-                time.sleep(0.1)
-            self.assertTrue(mark.exists(), "the file could not be held")
+            wait_until("a program to open " + path, lambda: mark.exists() or holder.poll() is not None)
+            self.assertTrue(mark.exists(), f"hold_file could not open {path}")
             yield
         finally:
             mark.unlink(missing_ok=True)
             self.assertEqual(holder.wait(60), 0)
 
-    def assert_not_logged(self, lines: list[str]) -> None:
-        """Nothing that could not be done is in the log."""
+    def assert_no_failure_logged(self, lines: list[str]) -> None:
         self.assertEqual([line for line in lines if line.startswith("   1 ")], [])
 
     def assert_complete(self, code: int, lines: list[str]) -> None:
-        """The run has come to its end; after a removal the old files are looked for."""
+        """The run reached its end; only the search for old files after a removal may follow the last line."""
         self.assertEqual(code, 0)
         self.assertIn(COMPLETE, lines)
         if "   0 Remove: Report .pyc files" not in lines[lines.index(COMPLETE) :]:
             self.assertEqual(lines[-1], COMPLETE)
 
     def assert_removed(self, code: int, lines: list[str]) -> None:
-        """A silent removal came to its end, and cleaned up after it."""
+        """A silent removal reached its end and deleted the old files after it."""
         self.assertEqual(code, 0)
         end = [line for line in lines if not line.startswith("   0 Removing:")][-1]
         self.assertEqual(end, "   0 Remove: Report .pyc files")
         self.assertIn(COMPLETE, lines)
 
 
+def new_machine(name: str, locale: str = "C.UTF-8") -> Machine:
+    """A fresh machine in a folder of that name in the build folder."""
+    template = make_template(BUILD / "wine-template")
+    return Machine.create(BUILD / "machines" / name, template, locale, BUILD / "locales")
+
+
+def wait_until(what: str, condition: Callable[[], object], timeout: float = 240) -> None:
+    """Waits until the condition holds; `what` names it if it does not in that many seconds."""
+    deadline = time.monotonic() + timeout
+    while not condition():
+        if time.monotonic() > deadline:
+            raise TimeoutError("timed out waiting for " + what)
+        time.sleep(0.05)
+
+
 def warnings_of(output: bytes) -> list[str]:
-    """The diagnostic warnings of the configuration in what a program has written."""
+    """The configuration's diagnostic warnings in a program's output."""
     lines = output.decode("utf-8", "replace").splitlines()
     return [line.removeprefix(CATEGORY) for line in lines if line.startswith(CATEGORY)]
 
 
 def log_lines(path: Path) -> list[str]:
+    """The lines of a log without their time stamps; a line that has none begins with "! ". Empty without a
+    file."""
     lines = []
-    for line in path.read_text(encoding="utf-8").splitlines():
-        stamped = _STAMP.match(line)
+    for line in path.read_text(encoding="utf-8").splitlines() if path.is_file() else ():
+        stamped = _STAMPED_LINE.match(line)
         lines.append(stamped.group(1) if stamped else "! " + line)
     return lines
 
 
 def output_of(lines: list[str], command: str) -> list[str]:
-    """The lines of a program's output: those that follow the line of its command."""
+    """The output of a program in the log: the lines that follow the line with its command."""
     start = next(i for i, line in enumerate(lines) if line.startswith("   0 Command:" + command))
-    answer = []
+    output = []
     for line in lines[start + 2 :]:
-        if re.match(r"^ *-?\d+ (Output:$|  )", line):
-            answer.append(line)
-        else:
+        if not re.match(r"^ *-?\d+ (Output:$|  )", line):
             break
-    return answer
+        output.append(line)
+    return output

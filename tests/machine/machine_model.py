@@ -1,27 +1,25 @@
-"""What an install and a removal must make of a machine that was drawn by lot, as values: the steps of the
-log, the files that are shared with others, the files that stay, the registry."""
+"""The expected result of an install and a removal on a random machine, as values: the steps in the log, the
+CAD systems' files, the files that are left, the registry."""
 
-import getpass
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 from launcher_case import ADDIN, TAMSEL_ADDINS, creo_entry, manifest, nx_line
+from machine_case import SHORTCUT, USER_DATA
 from random_machine import UNINSTALL, Plan
 from winemachine import ENVIRONMENT_KEY, SHARED_DATA, TRANSLATORS, TUTORIALS
 
 LANGUAGES = Path(__file__).resolve().parents[2] / "resource" / "languages"
-USER_DATA = f"C:\\users\\{getpass.getuser()}\\AppData\\Roaming\\Velmora\\NVX 2017"
-SHORTCUT = "C:\\users\\Public\\Desktop\\Velmora NVX 2017.lnk"
 LIBRARIES = ("VistrelResources.dll", "VelmoraApplicationFrameRes.dll")
 NX_SUB_FOLDERS = {"8": "\\NX8", "9": "\\NX9", "10": "\\NX10", "11": ""}
-# The languages for which the sample brings libraries.
+# The languages for which the sample has libraries.
 LANGUAGES_WITH_LIBRARIES = ("en-US", "de-DE", "ja-JP")
 
 SharedContents = dict[str, bytes | None]  # {path: contents, None for no file}
 
 
 class Catalogue:
-    """The texts of the program in a language."""
+    """The program's texts in a language."""
 
     def __init__(self, locale: str) -> None:
         self._texts: dict[str, str] = {}
@@ -36,7 +34,7 @@ class Catalogue:
 
 
 def step_beginnings(plan: Plan, is_install: bool) -> list[str]:
-    """The beginnings of the lines with which the steps begin, in the order of the run."""
+    """How the first line of each step begins, in the order of the run."""
     tr = Catalogue(plan.language)
     mode = tr("Install" if is_install else "UnInstall")
     steps = ["   0 " + tr("Beginning ") + mode, "! " + tr("Processors: %1, Cores per processor: %2")[:4]]
@@ -72,7 +70,7 @@ def _launcher_beginnings(plan, tr, mode):
 
 
 def find_steps(lines: list[str], beginnings: list[str]) -> list[str]:
-    """The beginnings that are found in the log one behind the other, up to the first that is not."""
+    """The beginnings that the log contains in this order, up to the first that is missing."""
     found, at = [], 0
     for beginning in beginnings:
         place = next((i for i in range(at, len(lines)) if lines[i].startswith(beginning)), None)
@@ -84,13 +82,13 @@ def find_steps(lines: list[str], beginnings: list[str]) -> list[str]:
 
 
 def shared_files_before(plan: Plan) -> SharedContents:
-    """{path: contents, None for no file} of the files that are shared with others, and of NX's backups."""
+    """The files that other programs write too, and NX's backups of them, before the first run."""
     shared = {file.path: file.contents for file in plan.shared_files()}
     return {**shared, **{menu.path + ".bak": None for menu in plan.menus.values()}}
 
 
 def shared_files_after(plan: Plan, is_install: bool, before: SharedContents) -> SharedContents:
-    """The same after a run."""
+    """The same files after a run."""
     after = dict(before)
     for creo in plan.creo:
         if _can_be_written(creo.protk):
@@ -123,7 +121,7 @@ def _protk_after(plan, creo, is_install, contents):
 
 
 def _length(plan, piece):
-    """The number of characters, without the white space around them, that the machine reads in the bytes."""
+    """The number of characters in the machine's code page, without leading and trailing white space."""
     return len(piece.decode(plan.code_page, "replace").strip())
 
 
@@ -131,14 +129,14 @@ def _menu_after(plan, version, is_install, contents):
     if not is_install:
         if contents is None:
             return None
-        return b"".join(p for p in _lines(contents) if not _holds(plan, p, plan.install_dir))
+        return b"".join(p for p in _lines(contents) if not _contains(plan, p, plan.install_dir))
     line = nx_line(NX_SUB_FOLDERS[version.partition(".")[0]], plan.install_dir, plan.code_page)
     old = contents or b""
-    return old if _holds(plan, old, line.decode(plan.code_page)) else old + line
+    return old if _contains(plan, old, line.decode(plan.code_page)) else old + line
 
 
-def _holds(plan, contents, text):
-    """Whether a text stands in a file, in small or in capital letters."""
+def _contains(plan, contents, text):
+    """Whether the contents include a string, in any letter case."""
     decoded = contents.decode(plan.code_page, "replace")
     return text.encode(plan.code_page) in contents or text.lower() in decoded.lower()
 
@@ -152,14 +150,13 @@ def tamsel_years(plan: Plan) -> list[int]:
 
 
 def manifests(plan: Plan) -> dict[str, bytes]:
-    """{path: contents} of the manifests of Tamsel while the product is installed."""
+    """{path: contents} of Tamsel's manifests while the product is installed."""
     paths = [f"{TAMSEL_ADDINS}\\{year}\\NVX_2017.Addin" for year in tamsel_years(plan)]
     return {path: manifest(plan.install_dir) for path in paths}
 
 
 def left_files(plan: Plan, after_removal: SharedContents) -> set[str]:
-    """The files and empty folders that the product leaves behind a removal; after_removal: the shared files
-    by then."""
+    """The files and empty folders that a removal leaves; `after_removal` holds the shared files after it."""
     folder = plan.install_dir
     left = {folder + "\\NVXConfig.log", folder + "\\NVX Viewer\\last-start.txt"}
     left |= {SHARED_DATA + "\\NVX2_config.nvxcfg", SHARED_DATA + "\\HPCAnalyze\\"}
@@ -168,7 +165,7 @@ def left_files(plan: Plan, after_removal: SharedContents) -> set[str]:
         left |= {folder + "\\" + library for library in LIBRARIES}
     if plan.language == "ja-JP":
         left.add(folder + "\\ja\\ZorvRes.dll")
-    if "C:\\NVX 2016\\matprop.mdb" in plan.kept and ENVIRONMENT_KEY in plan.values:
+    if "C:\\NVX 2016\\matprop.mdb" in plan.foreign and ENVIRONMENT_KEY in plan.values:
         left.add(SHARED_DATA + "\\Materials 2016.nvxmdb")
     left |= {path for path, contents in after_removal.items() if contents is not None}
     left |= {f"{TAMSEL_ADDINS}\\{year}\\" for year in tamsel_years(plan)}
@@ -177,35 +174,35 @@ def left_files(plan: Plan, after_removal: SharedContents) -> set[str]:
     return left
 
 
-def gone_files(plan: Plan) -> list[str]:
-    """What a removal takes of the files that lay there before, by the beginnings of their paths."""
+def deleted_files(plan: Plan) -> list[str]:
+    """How the paths begin of the earlier files that a removal deletes."""
     folder = plan.install_dir
-    gone = [folder + "\\" + name for name in ("Python\\", "HPCAnalyze\\", "WebServices\\", "Launchers\\")]
-    gone += [folder + "\\" + name for name in ("A.NEW.TXT", "NVX_2017_Creo20.dll", "matprop.new")]
-    gone += [folder + "\\plugins\\Reports\\report.pyc", TUTORIALS + "\\", SHORTCUT]
-    gone += [SHARED_DATA + name for name in ("\\Sorvane\\", "\\values.dat", "\\matprop.nvxmdb")]
-    gone += [folder + "\\ja\\ZorvRes.dll"] if plan.language != "ja-JP" else []
+    deleted = [folder + "\\" + name for name in ("Python\\", "HPCAnalyze\\", "WebServices\\", "Launchers\\")]
+    deleted += [folder + "\\" + name for name in ("A.NEW.TXT", "NVX_2017_Creo20.dll", "matprop.new")]
+    deleted += [folder + "\\plugins\\Reports\\report.pyc", TUTORIALS + "\\", SHORTCUT]
+    deleted += [SHARED_DATA + name for name in ("\\Sorvane\\", "\\values.dat", "\\matprop.nvxmdb")]
+    deleted += [folder + "\\ja\\ZorvRes.dll"] if plan.language != "ja-JP" else []
     if plan.old.get(SHARED_DATA + "\\NVX_flags.txt", b"").strip() == b"":
-        gone.append(SHARED_DATA + "\\NVX_flags.txt")
-    gone.append(SHARED_DATA + "\\Analyze\\")
-    gone += list(manifests(plan))
-    gone += [ADDIN + ".dll", ADDIN + ".xml"] if plan.spaceclaim else []
+        deleted.append(SHARED_DATA + "\\NVX_flags.txt")
+    deleted.append(SHARED_DATA + "\\Analyze\\")
+    deleted += list(manifests(plan))
+    deleted += [ADDIN + ".dll", ADDIN + ".xml"] if plan.spaceclaim else []
     if plan.has_translators:
-        gone.append(TRANSLATORS + "\\NVX_MertleServer\\")
+        deleted.append(TRANSLATORS + "\\NVX_MertleServer\\")
     if plan.language not in LANGUAGES_WITH_LIBRARIES:
-        gone += [folder + "\\" + library for library in LIBRARIES]
-    return gone
+        deleted += [folder + "\\" + library for library in LIBRARIES]
+    return deleted
 
 
 def changing_files(plan: Plan) -> set[str]:
-    """The files that are there before and after, with other contents."""
+    """The files whose contents differ before and after the runs."""
     names = [*LIBRARIES, "ja\\ZorvRes.dll", "NVXConfig.log"]
     changing = {plan.install_dir + "\\" + name for name in names}
     return changing | {SHARED_DATA + "\\NVX2_config.nvxcfg"}
 
 
 def uninstall_path_after(plan: Plan) -> str | None:
-    """The uninstall command that speaks the language of the run."""
+    """The uninstall command in the language of the run."""
     command = plan.uninstall_path
     if not command:
         return command
@@ -213,7 +210,7 @@ def uninstall_path_after(plan: Plan) -> str | None:
     return command[: at + 6] + plan.language if at > 0 else command
 
 
-# The keys below which a run may change the registry, in small letters.
+# The keys below which a run may change the registry, in lower case.
 OURS = tuple(
     key.lower()
     for key in (
@@ -227,7 +224,7 @@ OURS = tuple(
         "HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services\\NVX 2017 Server",
     )
 )
-# What a removal leaves of them, as beginnings, in small letters.
+# How the paths begin of the keys that a removal leaves, in lower case.
 OURS_LEFT = OURS[:3] + tuple(
     ("HKEY_LOCAL_MACHINE\\Software\\Classes\\" + name).lower()
     for name in (".tpl", ".nvxpkg", "NVX2017.nvxpkg")

@@ -1,11 +1,11 @@
-"""Reads what a Windows program file says about itself."""
+"""Reads the kind, the version, the icons and the manifest of a Windows program."""
 
 import struct
 from pathlib import Path
 
 ICON, GROUP_ICON, VERSION, MANIFEST = 3, 14, 16, 24
 
-# Kinds of program, as the file's header has them.
+# The subsystems in the file's header.
 WINDOWED, CONSOLE = 2, 3
 
 
@@ -14,7 +14,7 @@ class ProgramFile:
         self.bytes = path.read_bytes()
         header = self._number("<I", 0x3C)
         if self.bytes[header : header + 4] != b"PE\0\0":
-            raise ValueError(f"{path} is no program for Windows")
+            raise ValueError(f"{path} is not a Windows program")
         section_count, optional_size = self._number("<H", header + 6), self._number("<H", header + 20)
         self._optional = header + 24
         first_section = self._optional + optional_size
@@ -27,7 +27,7 @@ class ProgramFile:
         return self._number("<H", self._optional + 68)
 
     def resources(self, kind: int) -> list[tuple[int | str, bytes]]:
-        """The resources of a kind: [(name or number, bytes)], of each the first language only."""
+        """The resources of a kind: [(name or number, bytes)], each in its first language only."""
         root = self._number("<I", self._optional + 112 + 8 * 2)
         if not root:
             return []
@@ -43,23 +43,23 @@ class ProgramFile:
         return found
 
     def version(self) -> tuple[list[str], dict[str, str]]:
-        """The numbers of the file's and the product's version, and the texts of the version block."""
+        """The versions of the file and of the product, and the strings of the version block."""
         ((_, block),) = self.resources(VERSION)
         numbers = struct.unpack_from("<4I", block, block.index(struct.pack("<I", 0xFEEF04BD)) + 8)
-        return [_dotted(*numbers[:2]), _dotted(*numbers[2:])], dict(_version_texts(block, 0))
+        return [_dotted(*numbers[:2]), _dotted(*numbers[2:])], dict(_version_strings(block, 0))
 
     def _number(self, form: str, offset: int) -> int:
         return struct.unpack_from(form, self.bytes, offset)[0]
 
     def _place(self, address):
-        """Where in the file lies what lies at this address of the loaded program."""
+        """The offset in the file of an address in the loaded program."""
         for size, start, raw_size, raw in self._sections:
             if start <= address < start + max(size, raw_size):
                 return address - start + raw
-        raise ValueError(f"no section holds {address:x}")
+        raise ValueError(f"no section contains the address {address:x}")
 
     def _entries(self, root, folder):
-        """The entries of a folder of resources: name or number, and where the entry lies."""
+        """The entries of a folder of resources: (name or number, offset)."""
         start = self._place(root)
         count = sum(struct.unpack_from("<HH", self.bytes, start + folder + 12))
         for i in range(count):
@@ -71,22 +71,22 @@ class ProgramFile:
             yield key, place & 0x7FFFFFFF
 
 
-def _version_texts(block, start):
-    """The texts of one part of a version block and of the parts within it: (name, text)."""
+def _version_strings(block, start):
+    """Yields (name, string) for one part of a version block and the parts within it."""
     length, value_length, is_text = struct.unpack_from("<HHH", block, start)
     end = start + length
-    name, at = _text_at(block, start + 6)
+    name, at = _string_at(block, start + 6)
     if is_text and value_length:
-        yield name, _text_at(block, at)[0]
+        yield name, _string_at(block, at)[0]
         return
     at += (value_length + 3) // 4 * 4
     while at < end:
-        yield from _version_texts(block, at)
+        yield from _version_strings(block, at)
         at += (struct.unpack_from("<H", block, at)[0] + 3) // 4 * 4
 
 
-def _text_at(block, start):
-    """The text that starts there and ends with a zero, and where what follows it begins."""
+def _string_at(block, start):
+    """The zero-terminated string at an offset, and the offset of the next item."""
     end = start
     while block[end : end + 2] != b"\0\0":
         end += 2

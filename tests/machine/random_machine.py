@@ -1,8 +1,8 @@
-"""Machines drawn by lot: which CAD systems they have, what others have written into the files that are
-shared, and what an earlier install left. The same seed gives the same machine.
+"""Random machines: their CAD systems, what other programs have written into the CAD systems' files, and what
+an earlier install left. A seed always gives the same machine.
 
-    plan = draw_machine(4711)
-    print(plan)              what was drawn, to read
+    plan = random_plan(4711)
+    print(plan)
     put_machine(case, plan)  puts it on the machine of a test
 """
 
@@ -25,7 +25,7 @@ TAMSEL_PRODUCTS = {
 LOCALES = ("en-US", *sorted(row["locale"] for row in read_languages()[1:]))
 CODE_PAGES = {"C.UTF-8": "cp1252", "ja_JP.UTF-8": "cp932"}
 
-# Names of folders, by the code page that can write all of their characters.
+# Folder names, by the code page that can encode them.
 _WORDS = {
     "cp1252": ("NVX", "Größe & Söhne", "a b,c=d^e@f!g", "100% frei", "Prog (x86)", "Éric's", "[1] {2}"),
     "cp932": ("NVX", "日本 ソフト", "表 計算", "ソ", "Prog (x86)", "能 100%"),
@@ -35,20 +35,19 @@ _LEGACY_MARKER = b"$OSTRADE2017"
 
 @dataclass
 class SharedFile:
-    """A file of a CAD system that others write too. contents None: it is missing; has_folder: its folder is
-    there; fault "" or what keeps us from writing it, "held" or "protected"."""
+    """A file of a CAD system that other programs write too."""
 
     path: str
-    contents: bytes | None = None
+    contents: bytes | None = None  # None if it is missing
     has_folder: bool = True
-    fault: str = ""
+    fault: str = ""  # "held" by another program, or write-"protected"
 
 
 @dataclass
 class Creo:
     release: int
     folder: str
-    ship_code: str | None  # None where the value is missing
+    ship_code: str | None  # None if the value is missing
     is_32_bit: bool
     protk: SharedFile
 
@@ -62,18 +61,16 @@ class Plan:
     creo: list[Creo] = field(default_factory=list)
     nx: dict[str, str] = field(default_factory=dict)  # {version: folder}
     menus: dict[str, SharedFile] = field(default_factory=dict)  # {folder of NX: SharedFile}
-    brevant: tuple[str, ...] = ()  # the registry entries that show it: "last run", "version"
+    brevant: tuple[str, ...] = ()  # its registry entries: "last run", "version"
     solidworks: tuple[int, ...] = ()  # years
-    tamsel: dict[tuple[str, int], str] = field(
-        default_factory=dict
-    )  # {(edition, year): folder, "" without one}
+    tamsel: dict[tuple[str, int], str] = field(default_factory=dict)  # {(edition, year): folder, "" for none}
     spaceclaim: str = ""  # "", "found" or "found without a folder of add-ins"
     has_translators: bool = False
     uninstall_path: str | None = None
-    values: Registry = field(default_factory=dict)  # of the registry: {key: {name: text}}
-    kept: dict[str, bytes] = field(default_factory=dict)  # files that nobody may touch: {path: contents}
+    values: Registry = field(default_factory=dict)  # of the registry
+    foreign: dict[str, bytes] = field(default_factory=dict)  # files that must not change: {path: contents}
     old: dict[str, bytes] = field(default_factory=dict)  # files of an earlier install: {path: contents}
-    has_earlier_install: bool = False  # of the same product, in a folder of its own
+    has_earlier_install: bool = False  # of the same product, in another folder
 
     @property
     def code_page(self) -> str:
@@ -87,7 +84,7 @@ class Plan:
         return "\n".join(line if len(line) < 2000 else line[:2000] + "..." for line in lines)
 
 
-def draw_machine(seed: int) -> Plan:
+def random_plan(seed: int) -> Plan:
     rng = random.Random(seed)
     locale = rng.choice(("C.UTF-8", "C.UTF-8", "ja_JP.UTF-8"))
     install_dir = INSTALL_DIR
@@ -95,32 +92,32 @@ def draw_machine(seed: int) -> Plan:
         words = rng.sample(_WORDS[CODE_PAGES[locale]], rng.randint(1, 3))
         install_dir = "C:\\" + "\\".join(words)
     plan = Plan(seed, locale, rng.choice(LOCALES), install_dir)
-    _draw_creo(rng, plan)
-    _draw_nx(rng, plan)
-    _draw_others(rng, plan)
-    _draw_tamsel(rng, plan)
-    _draw_faults(rng, plan)
-    _draw_earlier_state(rng, plan)
-    _draw_what_is_not_ours(rng, plan)
+    _add_creo(rng, plan)
+    _add_nx(rng, plan)
+    _add_other_systems(rng, plan)
+    _add_tamsel(rng, plan)
+    _add_faults(rng, plan)
+    _add_earlier_state(rng, plan)
+    _add_foreign_files(rng, plan)
     return plan
 
 
-def _name(rng, plan):
+def _random_name(rng, plan):
     return rng.choice(_WORDS[plan.code_page]) + f" {rng.randint(1, 99)}"
 
 
-def _draw_creo(rng, plan):
+def _add_creo(rng, plan):
     for release in (1, 2, 3):
         if rng.random() < 0.5:
             continue
         parametric = rng.choice(("\\Parametric", "\\Parametric", ""))
-        folder = f"C:\\PTC {release}\\{_name(rng, plan)}{parametric}"
+        folder = f"C:\\PTC {release}\\{_random_name(rng, plan)}{parametric}"
         ship_code = rng.choice(("M010", "F000", None)) if release < 3 else "F000"
         base = folder.replace("Parametric", "Common Files")
         if release < 3:
             base += "\\" + (ship_code or "")
         path = (base + "\\text\\protk.dat").replace("\\\\", "\\")
-        protk = SharedFile(path, _draw_protk(rng, plan))
+        protk = SharedFile(path, _random_protk(rng, plan))
         protk.has_folder = protk.contents is not None or rng.random() < 0.7
         is_32_bit = release > 1 and rng.random() < 0.3
         plan.creo.append(Creo(release, folder, ship_code, is_32_bit, protk))
@@ -133,11 +130,11 @@ def _draw_creo(rng, plan):
             values["SHIPCODE"] = ship_code
 
 
-def _draw_protk(rng, plan):
-    """Entries of others and of an older install of ours; None for no file."""
+def _random_protk(rng, plan):
+    """Entries of other programs and of an older install; None for no file."""
     if rng.random() < 0.15:
         return None
-    pieces = [_draw_entry(rng) for _ in range(rng.randint(0, 4))]
+    pieces = [_random_entry(rng) for _ in range(rng.randint(0, 4))]
     if rng.random() < 0.4:
         ours = b"name NVX 2017\r\nexec_file D:\\old\\%s20.dll\r\nend\r\n"
         name = rng.choice((b"NVX_2017_Creo", b"nvx_2017_creo"))
@@ -150,7 +147,7 @@ def _draw_protk(rng, plan):
     return contents
 
 
-def _draw_entry(rng):
+def _random_entry(rng):
     word, encoding = rng.choice(
         (("Schaltplan Größe", "latin-1"), ("表の部品", "cp932"), ("Деталь", "utf-8"), ("gear", "ascii"))
     )
@@ -166,8 +163,8 @@ def _draw_entry(rng):
     return entry
 
 
-def _draw_nx(rng, plan):
-    shared = "C:\\Siemens\\" + _name(rng, plan)
+def _add_nx(rng, plan):
+    shared = "C:\\Siemens\\" + _random_name(rng, plan)
     for version in NX_VERSIONS:
         if rng.random() < 0.65:
             continue
@@ -175,18 +172,18 @@ def _draw_nx(rng, plan):
         plan.nx[version] = folder
         plan.values[SOFTWARE + "Unigraphics Solutions\\NX\\" + version] = {"UGII_BASE_DIR": folder}
         if folder not in plan.menus:
-            menu = SharedFile(folder + "\\UGII\\MENUS\\custom_dirs.dat", _draw_menu(rng, plan))
+            menu = SharedFile(folder + "\\UGII\\MENUS\\custom_dirs.dat", _random_menu(rng, plan))
             menu.has_folder = menu.contents is not None or rng.random() < 0.7
             plan.menus[folder] = menu
 
 
-def _draw_menu(rng, plan):
+def _random_menu(rng, plan):
     if rng.random() < 0.15:
         return None
     ours = plan.install_dir.lower().encode(plan.code_page)
     choices = (
         "# Ordner für Menüs\r\n".encode("latin-1"),
-        b"C:\\somebody\\nx\r\n",
+        b"C:\\other\\nx\r\n",
         "C:\\表\\nx\r\n".encode("cp932"),
         b"C:\\unix\\nx\n",
         rng.randbytes(rng.randint(1, 200)) + b"\r\n",
@@ -197,7 +194,7 @@ def _draw_menu(rng, plan):
     return contents.rstrip(b"\r\n") if rng.random() < 0.3 else contents
 
 
-def _draw_others(rng, plan):
+def _add_other_systems(rng, plan):
     plan.brevant = tuple(what for what in ("last run", "version") if rng.random() < 0.4)
     if "last run" in plan.brevant:
         plan.values[SOFTWARE + "Velmora\\Brevant\\Current Version"] = {"LASTVERSIONRUN": "21.0.3"}
@@ -206,35 +203,35 @@ def _draw_others(rng, plan):
     plan.solidworks = tuple(year for year in (2007, 2010, 2016, 2017) if rng.random() < 0.3)
     for year in plan.solidworks:
         key = SOFTWARE + f"SolidWorks\\SolidWorks {year}\\Setup"
-        plan.values[key] = {"SolidWorks Folder": "C:\\" + _name(rng, plan)}
+        plan.values[key] = {"SolidWorks Folder": "C:\\" + _random_name(rng, plan)}
     plan.spaceclaim = rng.choice(("", "found", "found without a folder of add-ins"))
     if plan.spaceclaim:
         plan.values[SOFTWARE + "Classes\\SpaceClaim.Location"] = {"Folder": "C:\\SpaceClaim"}
 
 
-def _draw_tamsel(rng, plan):
+def _add_tamsel(rng, plan):
     for edition, product in TAMSEL_PRODUCTS.items():
         for year in (2014, 2015, 2016, 2017, 2018):
             if rng.random() < 0.7:
                 continue
-            folder = "C:\\" + _name(rng, plan) if rng.random() < 0.8 else ""
+            folder = "C:\\" + _random_name(rng, plan) if rng.random() < 0.8 else ""
             code = f"{{T{year}-{edition[-3:]}}}"
             key = SOFTWARE + f"Velmora\\Tamsel\\{product} {year}\\Components"
             plan.values[key] = {"ProductCode": code}
             plan.values[UNINSTALL + code] = {"DisplayName": edition}
             if folder:
                 plan.values[UNINSTALL + code]["InstallLocation"] = folder
-            if year > 2014:  # the first that has a launcher is that of 2015
+            if year > 2014:  # 2015 is the first with a launcher
                 plan.tamsel[edition, year] = folder
 
 
-def _draw_faults(rng, plan):
+def _add_faults(rng, plan):
     for file in plan.shared_files():
         if file.contents is not None and rng.random() < 0.2:
             file.fault = rng.choice(("held", "protected"))
 
 
-def _draw_earlier_state(rng, plan):
+def _add_earlier_state(rng, plan):
     folder = plan.install_dir
     possible = {
         folder + "\\Python\\Lib\\old\\gone.py": b"old",
@@ -253,7 +250,7 @@ def _draw_earlier_state(rng, plan):
         SHARED_DATA + "\\matprop.nvxmdb": b"what the users have added" * rng.randint(0, 5000),
         SHARED_DATA + "\\Materials 2016.nvxmdb": b"of 2016",
         SHARED_DATA + "\\NVX_flags.txt": rng.choice((b"", b" \r\n", b"mine\r\n")),
-        "C:\\users\\Public\\Desktop\\Velmora NVX 2017.lnk": b"no link at all",
+        "C:\\users\\Public\\Desktop\\Velmora NVX 2017.lnk": b"not a link",
     }
     plan.old = {path: contents for path, contents in possible.items() if rng.random() < 0.4}
     plan.has_translators = rng.random() < 0.5
@@ -265,10 +262,10 @@ def _draw_earlier_state(rng, plan):
         plan.values[UNINSTALL + "NVX 2017"] = {"UninstallPath": plan.uninstall_path}
     if rng.random() < 0.4:
         plan.values[ENVIRONMENT_KEY] = {"OSTRADE2016DIR": "C:\\NVX 2016"}
-        plan.kept["C:\\NVX 2016\\matprop.mdb"] = b"the database of 2016"
+        plan.foreign["C:\\NVX 2016\\matprop.mdb"] = b"the database of 2016"
 
 
-def _draw_what_is_not_ours(rng, plan):
+def _add_foreign_files(rng, plan):
     possible = (
         plan.install_dir + "\\mine.txt",
         plan.install_dir + "\\systeminfo2012.xml",
@@ -282,17 +279,17 @@ def _draw_what_is_not_ours(rng, plan):
     )
     for path in possible:
         if rng.random() < 0.5:
-            plan.kept[path] = rng.randbytes(rng.randint(0, 2000))
+            plan.foreign[path] = rng.randbytes(rng.randint(0, 2000))
     if plan.spaceclaim == "found" and rng.random() < 0.5:
-        plan.kept[SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\mine.txt"] = b"mine"
-    plan.values[UNINSTALL + "Somebody else"] = {"UninstallPath": "x.exe /LANG=en-US"}
+        plan.foreign[SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\mine.txt"] = b"mine"
+    plan.values[UNINSTALL + "Other product"] = {"UninstallPath": "x.exe /LANG=en-US"}
     plan.values[SOFTWARE + "Classes\\.other"] = {"a": "b"}
     plan.values[SOFTWARE + "Velmora\\Other"] = {"a": "b"}
 
 
 def put_machine(case: MachineCase, plan: Plan) -> None:
-    """Puts all that was drawn on the machine of a MachineCase, and the product too."""
-    for path, contents in {**plan.kept, **plan.old}.items():
+    """Puts the planned files and registry values on the machine of a test, and the product too."""
+    for path, contents in {**plan.foreign, **plan.old}.items():
         case.write(path, contents)
     for file in plan.shared_files():
         place = case.machine.path(file.path)

@@ -1,6 +1,6 @@
 """Runs the tests of a module in this folder, or every n-th of them: run_lane.py MODULE [LANE/LANES]
 
-Lanes run side by side; each has machines of its own."""
+Lanes may run at the same time; each has its own machines."""
 
 import sys
 import unittest
@@ -8,7 +8,7 @@ from collections.abc import Iterator
 
 
 def tests_in(suite: unittest.TestSuite) -> Iterator[unittest.TestCase | unittest.TestSuite]:
-    """The single tests of a suite, in their order."""
+    """Yields the single tests of a suite in order."""
     for part in suite:
         if isinstance(part, unittest.TestSuite):
             yield from tests_in(part)

@@ -1,5 +1,5 @@
-"""Reads the scenarios: what is to be done on a machine, and what must come of it. README.md in the folder
-"scenarios" describes their files. Whatever is not understood is a ScenarioError that names file and line."""
+"""Reads the scenarios, whose files scenarios/README.md describes. A ScenarioError names the file and the line
+that cannot be read."""
 
 import getpass
 import re
@@ -31,16 +31,16 @@ _VALUE = re.compile(r'^(?:"((?:[^"\\]|\\.)*)"|(@))=(.*)$')
 
 
 class ScenarioError(Exception):
-    """A scenario that says something that cannot be read."""
+    """A scenario with a wrong file or line."""
 
 
 @dataclass
 class FileLine:
-    """One line of files-before.txt or files-after.txt. Of contents, names and like at most one is set."""
+    """One line of files-before.txt or files-after.txt. At most one of contents, names and like is set."""
 
     word: str
     path: str
-    contents: bytes | None = None  # of a line with "=" or "<"
+    contents: bytes | None = None  # after "=" or "<"
     like: str | None = None
     names: tuple[str, ...] = ()
 
@@ -48,7 +48,7 @@ class FileLine:
 @dataclass
 class Run:
     tokens: list[str]
-    folder: str | None = None  # the working folder, None where it does not matter
+    folder: str | None = None  # the working folder, None for any
 
 
 @dataclass
@@ -59,12 +59,12 @@ class Process:
 
 @dataclass
 class Expectation:
-    """A value of the registry; text None for no such value, name None for the key itself."""
+    """A value of the registry: `text` is None if it must not exist; `name` is None for the key itself."""
 
     key: str
     name: str | None = None
     text: str | None = None
-    is_there: bool = True
+    exists: bool = True
 
 
 @dataclass
@@ -72,7 +72,7 @@ class Scenario:
     name: str
     install_dir: str = INSTALL_DIR
     locale: str = "C.UTF-8"
-    steps: list[Run | FileLine] = field(default_factory=list)  # of Run and, between them, FileLine
+    steps: list[Run | FileLine] = field(default_factory=list)  # the runs, and the changes between them
     before: list[FileLine] = field(default_factory=list)
     after: list[FileLine] = field(default_factory=list)
     processes: list[Process] = field(default_factory=list)
@@ -95,7 +95,7 @@ class _Reader:
         scenario = self._scenario
         for name in REQUIRED_FILES:
             if not (self._folder / name).is_file():
-                raise ScenarioError(f"{scenario.name}: there is no {name}")
+                raise ScenarioError(f"{scenario.name}: {name} is missing")
         self._each_line("runs.txt", self._read_run)
         self._each_line("files-before.txt", lambda line: self._read_before(line, scenario.before))
         self._each_line("files-after.txt", self._read_after)
@@ -104,10 +104,10 @@ class _Reader:
         scenario.log = self._text("log.txt").splitlines()
         scenario.script = self._text("registry-before.reg")
         if scenario.script and scenario.script.splitlines()[0] != SCRIPT_HEADER:
-            raise ScenarioError(f"{scenario.name}: registry-before.reg has another header")
+            raise ScenarioError(f"{scenario.name}: registry-before.reg has a wrong header")
         self._read_registry()
         if not any(isinstance(step, Run) for step in scenario.steps):
-            raise ScenarioError(f"{scenario.name}: runs.txt names no run")
+            raise ScenarioError(f"{scenario.name}: runs.txt has no run")
         self._refuse_unknown_files()
         return scenario
 
@@ -135,29 +135,31 @@ class _Reader:
             return
         run = _RUN.match(line)
         if not run:
-            raise ScenarioError("neither options nor a line with a +: " + line)
+            raise ScenarioError("expected options, or a line with a +: " + line)
         steps.append(Run(run.group(2).split(" "), run.group(1)))
 
     def _read_before(self, line, target):
         found = self._file_line(line, _WORDS_BEFORE)
         if found.like or found.names:
-            raise ScenarioError("only what is expected can be told so: " + line)
+            raise ScenarioError("'like' and names are for files-after.txt only: " + line)
         if (found.word in ("file", "tool")) != (found.contents is not None):
-            raise ScenarioError("'file' and 'tool' have contents, and nothing else has: " + line)
+            raise ScenarioError(
+                "contents are required for 'file' and 'tool', and allowed for these only: " + line
+            )
         target.append(found)
 
     def _read_after(self, line):
         found = self._file_line(line, _WORDS_AFTER)
         if found.word != "file" and (found.contents is not None or found.like):
-            raise ScenarioError("only a file has contents: " + line)
+            raise ScenarioError("contents are allowed for 'file' only: " + line)
         if (found.word == "only") != bool(found.names):
-            raise ScenarioError("'only' is followed by names: " + line)
+            raise ScenarioError("names are required for 'only', and allowed for it only: " + line)
         self._scenario.after.append(found)
 
     def _file_line(self, line, words):
         word, _, rest = line.partition(" ")
         if word not in words:
-            raise ScenarioError(f"'{word}' is none of {', '.join(words)}")
+            raise ScenarioError(f"'{word}' is not one of {', '.join(words)}")
         if word == "only":
             path, _, names = rest.partition(" = ")
             return FileLine(word, self._checked_path(path), names=tuple(filter(None, names.split(", "))))
@@ -177,38 +179,38 @@ class _Reader:
     @staticmethod
     def _checked_path(path):
         if not _PATH.match(path):
-            raise ScenarioError("this is no path of drive C: " + path)
+            raise ScenarioError("not a path on drive C: " + path)
         return path
 
     def _contents(self, name):
         path = self._folder / name
         if name in KNOWN_FILES or not path.is_file():
-            raise ScenarioError(f"the scenario has no file of contents '{name}'")
+            raise ScenarioError(f"the scenario has no file '{name}' with contents")
         self._named.add(name)
         return path.read_bytes()
 
     def _read_process(self, line):
         process = _PROCESS.match(line)
         if not process:
-            raise ScenarioError("not a program of the product that 'is ended' or 'runs on': " + line)
+            raise ScenarioError("expected a program of the product, and 'is ended' or 'runs on': " + line)
         self._scenario.processes.append(Process(process.group(1), process.group(2) == "is ended"))
 
     def _read_locale(self, line):
         if not re.match(r"^[a-z]{2}_[A-Z]{2}\.UTF-8$", line):
-            raise ScenarioError("not the name of a locale: " + line)
+            raise ScenarioError("not a locale: " + line)
         self._scenario.locale = line
 
     def _read_registry(self):
         lines = self._text("registry-after.reg").splitlines()
         if lines and lines[0] != SCRIPT_HEADER:
-            raise ScenarioError(f"{self._scenario.name}: registry-after.reg has another header")
+            raise ScenarioError(f"{self._scenario.name}: registry-after.reg has a wrong header")
         key = None
         for line in [line for line in lines[1:] if line]:
-            stated = re.match(r"^\[(-?)((?:HKEY_LOCAL_MACHINE|HKEY_CURRENT_USER)\\.*)\]$", line)
+            key_line = re.match(r"^\[(-?)((?:HKEY_LOCAL_MACHINE|HKEY_CURRENT_USER)\\.*)\]$", line)
             value = _VALUE.match(line)
-            if stated:
-                key = stated.group(2)
-                self._scenario.registry.append(Expectation(key, is_there=not stated.group(1)))
+            if key_line:
+                key = key_line.group(2)
+                self._scenario.registry.append(Expectation(key, exists=not key_line.group(1)))
             elif value and key:
                 self._scenario.registry.append(self._value(key, value))
             else:
@@ -219,14 +221,14 @@ class _Reader:
         name = _unescaped(value.group(1) or "")
         text = value.group(3)
         if text == "-":
-            return Expectation(key, name, is_there=False)
+            return Expectation(key, name, exists=False)
         quoted = re.match(r'^"(.*)"$', text)
         return Expectation(key, name, _unescaped(quoted.group(1)) if quoted else text)
 
     def _refuse_unknown_files(self):
         for path in sorted(self._folder.iterdir()):
             if path.name not in KNOWN_FILES and path.name not in self._named:
-                raise ScenarioError(f"{self._scenario.name}: nobody names the file {path.name}")
+                raise ScenarioError(f"{self._scenario.name}: no line names the file {path.name}")
 
 
 def _unescaped(text):
@@ -234,9 +236,11 @@ def _unescaped(text):
 
 
 def log_difference(expected: list[str], lines: list[str]) -> list[str] | None:
-    """Why a log is not as expected, in lines to read; None when it is. In what is expected "..." stands for
-    any lines, and "<...>" in a line for any text."""
-    # The lines of a block follow each other; before a free one there may be any lines.
+    """A description of the first difference, None if there is none.
+
+    In `expected` a line "..." stands for any lines, and "<...>" in a line for any text.
+    """
+    # Blocks of consecutive lines; any lines may precede a free block.
     blocks: list[list[str]] = [[]]
     is_free = [False]
     for line in expected:
@@ -257,7 +261,7 @@ def log_difference(expected: list[str], lines: list[str]) -> list[str] | None:
             return _shown_mismatch(block, lines, at, free)
         at = start + len(block)
     if not ends_free and at < len(lines):
-        return ["the log goes on:", *("  log       " + line for line in lines[at : at + 20])]
+        return ["the log has more lines:", *("  log         " + line for line in lines[at : at + 20])]
     return None
 
 
@@ -267,32 +271,30 @@ def _find(block, lines, at, free):
 
 
 def _common(block, lines, start):
-    """How many lines of the block are those of the log from a place on."""
+    """The number of lines at the start of the block that match the log from `start`."""
     count = 0
-    for wanted, line in zip(block, lines[start:]):
-        if not _is_line(wanted, line):
+    for expected, line in zip(block, lines[start:]):
+        if not _matches(expected, line):
             break
         count += 1
     return count
 
 
-def _is_line(wanted, line):
-    if "<...>" not in wanted:
-        return wanted == line
-    return re.fullmatch(".*".join(map(re.escape, wanted.split("<...>"))), line) is not None
+def _matches(expected, line):
+    return re.fullmatch(".*".join(map(re.escape, expected.split("<...>"))), line) is not None
 
 
 def _shown_mismatch(block, lines, at, free):
-    """The block beside the place of the log that is most like it."""
+    """The block and the lines of the log that are most similar to it."""
     starts = range(at, len(lines)) if free else range(at, at + 1)
     best = max(starts, key=lambda start: _common(block, lines, start), default=at)
     common = _common(block, lines, best)
-    where = f" behind its line {at}" if at else ""
+    where = f" after its line {at}" if at else ""
     shown = [f"these lines are not in the log{where}:"]
-    shown += ["  as wanted " + line for line in block[:common]]
-    shown += ["  wanted    " + line for line in block[common:]]
+    shown += ["  as expected " + line for line in block[:common]]
+    shown += ["  expected    " + line for line in block[common:]]
     if common or not free:
-        shown += ["  log       " + line for line in lines[best + common : best + common + 5]]
+        shown += ["  log         " + line for line in lines[best + common : best + common + 5]]
     else:
-        shown += ["the log there:"] + ["  log       " + line for line in lines[at : at + 200]]
+        shown += ["the log:"] + ["  log         " + line for line in lines[at : at + 200]]
     return shown

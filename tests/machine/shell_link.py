@@ -1,5 +1,4 @@
-"""Reads link files of the shell, which is what shortcuts on the desktop are: the parts of [MS-SHLLINK] that
-the tests look at."""
+"""Reads shortcuts, which are link files of the shell: the parts of [MS-SHLLINK] that the tests check."""
 
 import struct
 import uuid
@@ -7,7 +6,7 @@ import uuid
 _LINK_CLASS = uuid.UUID("00021401-0000-0000-c000-000000000046")
 _HEADER_SIZE = 76
 
-# The flags of the header, by their bits.
+# The bits of the header's flags.
 _HAS_ID_LIST = 1 << 0
 _HAS_LINK_INFO = 1 << 1
 _STRINGS = (
@@ -21,22 +20,24 @@ _IS_UNICODE = 1 << 7
 
 
 def read_link(contents: bytes, code_page: str) -> dict[str, str]:
-    """The texts of a link: {"target": ..., "description": ...}. A text that the link lacks is missing; 8-bit
-    ones are in the code page of the machine that made the link."""
+    """The strings that a link contains: {"target": ..., "description": ...}.
+
+    `code_page` is that of the machine that wrote the link; 8-bit strings are encoded in it.
+    """
     size, link_class, flags = struct.unpack_from("<I16sI", contents)
     if size != _HEADER_SIZE or uuid.UUID(bytes_le=link_class) != _LINK_CLASS:
         raise ValueError("not a link file")
-    texts = {}
+    strings = {}
     offset = _HEADER_SIZE
     if flags & _HAS_ID_LIST:
         offset += 2 + struct.unpack_from("<H", contents, offset)[0]
     if flags & _HAS_LINK_INFO:
-        texts["target"] = _local_path(contents, offset, code_page)
+        strings["target"] = _local_path(contents, offset, code_page)
         offset += struct.unpack_from("<I", contents, offset)[0]
     for flag, name in _STRINGS:
         if flags & flag:
-            texts[name], offset = _counted_string(contents, offset, flags, code_page)
-    return texts
+            strings[name], offset = _counted_string(contents, offset, flags, code_page)
+    return strings
 
 
 def _local_path(contents, start, code_page):
@@ -51,7 +52,7 @@ def _local_path(contents, start, code_page):
     return contents[begin : contents.index(b"\0", begin)].decode(code_page, errors="replace")
 
 
-# A writer may count the zero that ends the text.
+# Some writers count the terminating zero.
 def _counted_string(contents, offset, flags, code_page):
     length = struct.unpack_from("<H", contents, offset)[0]
     begin = offset + 2

@@ -1,5 +1,5 @@
-"""Each program that a run starts, in turn missing, failing or hanging: the run comes to its end, the log
-says what happened, and nothing that is not the product's is lost."""
+"""Each program that a run starts is missing, fails or hangs, one at a time: the run reaches its end, the log
+says what happened, and the files of other programs and users survive."""
 
 import contextlib
 import shutil
@@ -7,24 +7,22 @@ import time
 import unittest
 
 from launcher_case import LauncherCase, creo_entry, nx_line
-from machine_case import BUILD, COMPLETE, SCRIPTED_TOOL, log_lines, output_of
+from machine_case import CLOSE_MESSAGE_BOX, COMPLETE, LOG, SCRIPTED_TOOL, log_lines, output_of, wait_until
 from cadsystems import CUSTOM_DIRS_10, FOREIGN_DIRS, FOREIGN_ENTRY, PROTK_2, PROTK_3
 from winemachine import INSTALL_DIR, SHARED_DATA, TRANSLATORS, TUTORIALS
 
-ANSWER_BOX = BUILD / "tests" / "machine" / "answer_box.exe"
-LOG = INSTALL_DIR + "\\NVXConfig.log"
 OVERRIDES = "HKEY_CURRENT_USER\\Software\\Wine\\DllOverrides"
 WINDOWS = "C:\\windows\\"
 SYSTEM = WINDOWS + "system32\\"
-MINE = TUTORIALS.rpartition("\\")[0] + "\\mine.txt"
+USERS_FILE = TUTORIALS.rpartition("\\")[0] + "\\mine.txt"
 
-# A program that hangs until the mark is taken away, which is how the tests end it.
+# The orders of a program that hangs until the test deletes the mark.
 HANGS = "C:\\hangs"
 HANG = "mark C:\\hangs\nwait C:\\hangs\nexit 1"
 NOT_STARTED = ["  -2 Output:", "  -2   The program could not be started."]
 ENDED = "The program was still running after 30000 ms and has been ended."
 
-# Each program: where it lies, how the log names it, and how often an install and a removal start it.
+# {program: (path, its command in the log, starts in an install, starts in a removal)}
 PROGRAMS = {
     "the unpacker": (INSTALL_DIR + "\\7z.exe", INSTALL_DIR + "\\7z.exe ", 3, 0),
     "the viewer's configuration": (
@@ -36,18 +34,20 @@ PROGRAMS = {
     "the Registry Editor": (WINDOWS + "regedit.exe", "regedit ", 2, 1),
     "the registration of libraries": (SYSTEM + "regsvr32.exe", "regsvr32 ", 4, 2),
 }
-# The command interpreter's line is of another form.
+# The log has another format for the command interpreter.
 INTERPRETER = (SYSTEM + "cmd.exe", "cmd.exe /C ", 6, 11)
 
 
 class ProgramCase(LauncherCase):
-    """A machine of its own, whose Windows folder is changed file by file: it is shared with others by hard
-    links, so that a file is taken away and another one put in its place, never written."""
+    """Replaces programs of a machine's Windows folder.
+
+    Machines share the files of that folder by hard links, so a file is renamed and never written.
+    """
 
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        # Otherwise the machine would run its own system programs whatever lies in their place.
+        # Without this Wine would run its built-in programs, whatever is in their place.
         for name in ("cmd.exe", "regedit.exe", "regsvr32.exe"):
             cls.machine.set_value(OVERRIDES, name, "native,builtin")
 
@@ -55,12 +55,11 @@ class ProgramCase(LauncherCase):
         self.reset_files()
         shutil.rmtree(self.machine.path(INSTALL_DIR), ignore_errors=True)
         self.put_product(translators=TRANSLATORS)
-        self.write(MINE, b"mine")
+        self.write(USERS_FILE, b"mine")
 
     @contextlib.contextmanager
     def replaced(self, windows_path, orders):
-        """In the place of a program there is another one that does what the orders say; without orders,
-        none."""
+        """Replaces a program with one that follows the orders, or with none if `orders` is None."""
         path = self.machine.path(windows_path)
         aside = path.with_name(path.name + ".aside")
         script = path.with_name(path.name + ".script")
@@ -76,23 +75,16 @@ class ProgramCase(LauncherCase):
             aside.rename(path)
 
     def start(self, mode="-I"):
-        """Starts a silent run that is not waited for."""
-        self.machine.path(LOG).unlink(missing_ok=True)
+        """Starts a silent run and does not wait for it."""
+        self.delete_log()
         process = self.machine.start(INSTALL_DIR + "\\NVXConfig.exe", mode, "-S", "-Len-US")
         self.addCleanup(self.machine.stop)
         return process
 
-    def wait_for(self, what, condition):
-        deadline = time.monotonic() + 240
-        while not condition():
-            self.assertLess(time.monotonic(), deadline, "waited in vain for " + what)
-            time.sleep(0.05)
-
     def start_and_wait_for_mark(self):
-        """Starts an install that comes to a program which makes the mark and hangs; it must still wait
-        later."""
+        """Starts an install and waits until a program of it hangs; two seconds later it must still wait."""
         process = self.start()
-        self.wait_for("the hanging program", self.machine.path(HANGS).exists)
+        wait_until("the hanging program", self.machine.path(HANGS).exists)
         time.sleep(2)
         self.assertIsNone(process.poll())
         self.assertNotIn(COMPLETE, self.lines())
@@ -108,46 +100,46 @@ class ProgramCase(LauncherCase):
         return lines
 
     def assert_done(self, mode):
-        """What the CAD systems share holds our entries after an install, and what was in it before at all
-        times."""
+        """The CAD systems' files hold our entries after an install only, and their other contents always."""
         installed = mode == "-I"
         for release, path in ((2, PROTK_2), (3, PROTK_3)):
             entry = creo_entry(release) if installed else b""
             self.assertEqual(self.read(path), entry + FOREIGN_ENTRY)
         added = nx_line("\\NX10") if installed else b"\r\n"
         self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS + added)
-        self.assertEqual(self.read(MINE), b"mine")
+        self.assertEqual(self.read(USERS_FILE), b"mine")
 
 
 class ExternalPrograms(ProgramCase):
     def each_program(self, orders, expected):
-        """Installs and removes with each program replaced; every start of it must be told as expected."""
+        """Installs and removes with each program replaced; the log must have the expected lines for each
+        start."""
         for name, (path, command, installs, removals) in PROGRAMS.items():
             for mode, starts in (("-I", installs), ("-U", removals)):
                 with self.subTest(name, mode=mode):
                     self.put_product(translators=TRANSLATORS)
                     with self.replaced(path, orders):
                         lines = self.run_with(mode)
-                    told = [
+                    logged = [
                         lines[i + 2 : i + 2 + len(expected)]
                         for i, line in enumerate(lines)
                         if line.startswith("   0 Command:" + command)
                     ]
-                    self.assertEqual(told, [expected] * starts)
+                    self.assertEqual(logged, [expected] * starts)
                     self.assert_done(mode)
             self.reset_files()
 
-    def test_a_missing_program_is_told(self):
+    def test_a_missing_program_is_logged(self):
         self.each_program(None, NOT_STARTED)
 
-    def test_a_failing_program_is_told(self):
+    def test_the_output_and_exit_code_of_a_failing_program_are_logged(self):
         self.each_program("line it is broken\nexit 7", ["   7 Output:", "   7   it is broken"])
 
     def outputs_of_the_interpreter(self, lines):
         start = "   0 Command:" + INTERPRETER[1]
         return [lines[i + 1] for i, line in enumerate(lines) if line.startswith(start)]
 
-    def test_a_missing_command_interpreter_leaves_the_folders(self):
+    def test_without_the_command_interpreter_the_folders_stay(self):
         old = self.write(INSTALL_DIR + "\\Python\\Lib\\old.py", b"old")
         with self.replaced(INTERPRETER[0], None):
             for mode, starts in (("-I", INTERPRETER[2]), ("-U", INTERPRETER[3])):
@@ -159,7 +151,7 @@ class ExternalPrograms(ProgramCase):
         self.run_with("-U")
         self.assertFalse(self.exists(INSTALL_DIR + "\\Python"))
 
-    def test_a_failing_command_interpreter_is_told(self):
+    def test_the_output_and_exit_code_of_a_failing_command_interpreter_are_logged(self):
         with self.replaced(INTERPRETER[0], "line access denied\nexit 5"):
             lines = self.run_with("-I")
         outputs = self.outputs_of_the_interpreter(lines)
@@ -167,7 +159,7 @@ class ExternalPrograms(ProgramCase):
         self.assert_done("-I")
 
     def test_a_hanging_program_is_ended_after_30_seconds(self):
-        # The unpacker's case stands in test_faults.py. The program hangs at its first start and at no other.
+        # test_faults.py has the unpacker's case. Each program hangs at its first start only.
         rows = {name: row[:2] for name, row in PROGRAMS.items() if name != "the unpacker"}
         rows["the command interpreter"] = INTERPRETER[:2]
         for name, (path, command) in rows.items():
@@ -183,9 +175,8 @@ class ExternalPrograms(ProgramCase):
                 self.assert_done("-I")
                 self.reset_files()
 
-    def test_a_hanging_unpacker_without_a_time_out_is_waited_for(self):
-        # Python and the Mertle Server are unpacked without a limit: the run waits until somebody ends the
-        # program.
+    def test_the_run_waits_for_an_unpacker_without_a_time_out(self):
+        # Unpacking Python and the Mertle Server has no time-out: the run waits until the program ends.
         for archive in ("python26_x64", "NVX_MertleServer"):
             with self.subTest(archive):
                 orders = f"only-for {archive}\n{HANG}"
@@ -201,76 +192,70 @@ class ExternalPrograms(ProgramCase):
 
 
 class Server(ProgramCase):
-    """The server's program. Where it cannot be registered a silent run shows a box too, and waits."""
+    """The server's program. If it cannot be registered, even a silent run shows a message box and waits."""
 
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        # Boxes need no screen: what they are closed with looks for them as another program of the machine
-        # does.
-        cls.machine.set_value("HKEY_CURRENT_USER\\Software\\Wine\\Drivers", "Graphics", "null")
-        cls.machine.stop()
+        cls.turn_screen_off()
 
-    def answered(self, process, title):
-        """Waits for the box and closes it; answers the lines of the log when it was up and of the whole
-        run."""
-        mark = self.machine.path("C:\\box")
+    def close_message_box(self, process, title):
+        """Waits for the message box and closes it; returns the log's lines while it was shown and at the
+        end."""
+        mark = self.machine.path("C:\\message box")
         mark.unlink(missing_ok=True)
-        answering = self.machine.start(str(ANSWER_BOX), title, "C:\\box")
-        self.wait_for("the box", lambda: mark.exists() or answering.poll() is not None)
+        closing = self.machine.start(str(CLOSE_MESSAGE_BOX), title, "C:\\message box")
+        wait_until("the message box", lambda: mark.exists() or closing.poll() is not None)
         before = self.lines()
         mark.unlink(missing_ok=True)
-        self.assertEqual(answering.wait(60), 0)
+        self.assertEqual(closing.wait(60), 0)
         return before, self.finish(process)
 
-    def is_registered(self):
-        return any("\\Services\\NVX 2017 Server" in key for key in self.machine.registry())
-
-    def test_a_missing_server_is_told_in_a_box(self):
+    def test_a_missing_server_is_reported_in_a_message_box(self):
         self.machine.path(INSTALL_DIR + "\\NVXServer.exe").unlink()
         text = (
             "   1 Unable to find server executable; "
             f"Check_ Installation Directory path:{INSTALL_DIR}\\NVXServer.exe"
         )
-        before, lines = self.answered(self.start(), "NVX Configuration Utility")
+        before, lines = self.close_message_box(self.start(), "NVX Configuration Utility")
         self.assertNotIn(COMPLETE, before)
-        self.assertNotIn(text, before)  # the line follows the box
+        self.assertNotIn(text, before)  # logged after the message box
         self.assertIn(text, lines)
         self.assert_done("-I")
-        self.assertFalse(self.is_registered())
+        self.assertFalse(self.server_is_registered())
 
-    def test_a_server_that_fails_to_register_is_told_in_a_box(self):
+    def test_a_server_that_fails_to_register_is_reported_in_a_message_box(self):
         self.write(INSTALL_DIR + "\\NVXServer.exe.fails-to-register")
-        before, lines = self.answered(self.start(), "Server Error")
+        before, lines = self.close_message_box(self.start(), "Server Error")
         self.assertNotIn(COMPLETE, before)
-        self.assert_not_logged(lines)
+        self.assert_no_failure_logged(lines)
         self.assert_done("-I")
-        self.assertFalse(self.is_registered())
+        self.assertFalse(self.server_is_registered())
 
-    def test_a_server_that_hangs_at_its_registration_is_told_in_a_box_when_it_is_ended(self):
-        # The limit of two minutes is tried elsewhere.
+    def test_a_server_that_hangs_at_its_registration_is_reported_in_a_message_box_once_it_has_ended(self):
+        # tests/service has the time-out of two minutes.
         with self.replaced(INSTALL_DIR + "\\NVXServer.exe", HANG):
             process = self.start_and_wait_for_mark()
             self.machine.path(HANGS).unlink()
-            _, lines = self.answered(process, "Server Error")
-        self.assert_not_logged(lines)
+            _, lines = self.close_message_box(process, "Server Error")
+        self.assert_no_failure_logged(lines)
         self.assert_done("-I")
 
-    def test_a_server_that_registers_nothing_stops_nothing(self):
+    def test_a_run_continues_after_a_server_that_registers_nothing(self):
         with self.replaced(INSTALL_DIR + "\\NVXServer.exe", "exit 0"):
             lines, warnings = self.diagnose_with("-I")
-        self.assert_not_logged(lines)
+        self.assert_no_failure_logged(lines)
         self.assertEqual(warnings, ["The server has been registered, but could not be started"])
         self.assert_done("-I")
-        self.assertFalse(self.is_registered())
+        self.assertFalse(self.server_is_registered())
 
-    def test_a_removal_needs_no_server(self):
+    def test_a_removal_needs_no_server_program(self):
         self.run_with("-I")
         self.machine.path(INSTALL_DIR + "\\NVXServer.exe").rename(self.machine.path("C:\\server.exe"))
         lines = self.run_with("-U")
-        self.assertFalse([line for line in lines if line.startswith("   1 ")])
+        self.assert_no_failure_logged(lines)
         self.assert_done("-U")
-        self.assertFalse(self.is_registered())
+        self.assertFalse(self.server_is_registered())
         self.assertFalse(self.exists(SHARED_DATA + "\\Analyze"))
 
 

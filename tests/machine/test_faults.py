@@ -1,5 +1,5 @@
-"""Faults of the machine and of the programs that are started: the run goes on to its end, says what happened,
-and loses nothing that is not the product's."""
+"""Faults of the machine and of the programs that a run starts: the run reaches its end, logs what happened,
+and preserves the files of other programs and users."""
 
 import shutil
 import unittest
@@ -8,16 +8,16 @@ from machine_case import SCRIPTED_TOOL, MachineCase, output_of
 from winemachine import SHARED_DATA, TUTORIALS
 
 
-class ExternalPrograms(MachineCase):
+class ProgramOutput(MachineCase):
     def run_with(self, folder, orders):
-        """Installs with a 7z.exe that does what the orders say; answers what was logged of its first run."""
+        """Installs with a 7z.exe that follows the orders; returns the log's lines on its first run."""
         self.put_product(folder)
         self.replace_seven_zip(folder, orders)
         code, lines = self.configure(folder, "-I", "-S", "-Len-US")
         self.assert_complete(code, lines)
         return output_of(lines, folder + "\\7z.exe")
 
-    def test_40_lines_are_cut_to_21(self):
+    def test_only_21_of_40_lines_are_logged(self):
         logged = self.run_with("C:\\lines", "lines 40")
         self.assertEqual(logged, ["   0 Output:"] + [f"   0   {i}" for i in range(1, 22)])
 
@@ -25,11 +25,11 @@ class ExternalPrograms(MachineCase):
         logged = self.run_with("C:\\bytes", "bytes 1000")
         self.assertEqual([len(line) - len("   0   ") for line in logged[1:]], [255, 255, 255, 235])
 
-    def test_exit_code_255_is_the_level(self):
+    def test_exit_code_255_is_logged_as_the_level(self):
         logged = self.run_with("C:\\code", "line last words\nexit 255")
         self.assertEqual(logged, [" 255 Output:", " 255   last words"])
 
-    def test_exit_codes_from_0x80000000_up_are_the_level_like_any_other(self):
+    def test_exit_codes_from_0x80000000_up_are_logged_as_the_level_too(self):
         for name, number, level in (
             ("access denied", 0x80070005, "-2147024891"),
             ("a library is missing", 0xC0000135, "-1073741515"),
@@ -42,7 +42,7 @@ class ExternalPrograms(MachineCase):
                 self.assertEqual(logged, [level + " Output:", level + "   last words"])
                 self.machine.path("C:\\codes\\NVXConfig.log").unlink()
 
-    def test_bytes_that_are_no_text_are_logged_all_the_same(self):
+    def test_a_line_that_is_not_valid_text_is_logged(self):
         logged = self.run_with("C:\\raw", "raw 610080ff81fe7a\nline \nline next")
         self.assertEqual(len(logged), 3)
         self.assertTrue(logged[1].startswith("   0   a") and logged[1].endswith("z"), logged[1])
@@ -51,10 +51,10 @@ class ExternalPrograms(MachineCase):
     def test_standard_error_is_logged_too(self):
         self.assertIn("   0   wrong", self.run_with("C:\\error", "error wrong"))
 
-    def test_a_program_that_asks_gets_an_end_of_input(self):
+    def test_a_program_that_reads_its_input_gets_an_end_of_file(self):
         self.assertEqual(self.run_with("C:\\asks", "read"), ["   0 Output:", "   0   read 0"])
 
-    def test_a_missing_program(self):
+    def test_a_missing_program_is_logged(self):
         self.put_product("C:\\missing")
         self.machine.path("C:\\missing\\7z.exe").unlink()
         code, lines = self.configure("C:\\missing", "-I", "-S", "-Len-US")
@@ -64,7 +64,7 @@ class ExternalPrograms(MachineCase):
             ["  -2 Output:", "  -2   The program could not be started."],
         )
 
-    def test_a_missing_archive_is_told_by_the_program_itself(self):
+    def test_the_unpackers_own_report_of_a_missing_archive_is_logged(self):
         self.put_product("C:\\archive")
         self.machine.path("C:\\archive\\en-US\\Examples.7z").unlink()
         code, lines = self.configure("C:\\archive", "-I", "-S", "-Len-US")
@@ -74,7 +74,7 @@ class ExternalPrograms(MachineCase):
         self.assertTrue(any("ERROR" in line for line in logged), logged)
 
     def test_a_hanging_program_is_ended_at_its_time_out(self):
-        # Only the tutorials have a time-out, so the program hangs at its first start and at no other.
+        # Only unpacking the tutorials has a time-out, so the program hangs at its first start only.
         self.put_product("C:\\hangs")
         self.replace_seven_zip("C:\\hangs", "forget\nline working\nsleep 100000")
         code, lines = self.configure("C:\\hangs", "-I", "-S", "-Len-US", timeout=120)
@@ -92,9 +92,7 @@ class ExternalPrograms(MachineCase):
 class Folders(MachineCase):
     def setUp(self):
         self.put_product("C:\\NVX")
-        log = self.machine.path("C:\\NVX\\NVXConfig.log")
-        if log.exists():
-            log.unlink()
+        self.delete_log("C:\\NVX")
 
     def install(self):
         code, lines = self.configure("C:\\NVX", "-I", "-S", "-Len-US")
@@ -112,7 +110,7 @@ class Folders(MachineCase):
         self.install()
         self.assertFalse(old.exists())
 
-    def test_a_file_in_the_folders_place_stops_nothing(self):
+    def test_a_run_continues_when_a_file_is_in_the_place_of_a_folder(self):
         shutil.rmtree(self.machine.path("C:\\NVX\\Python\\DLLs"), ignore_errors=True)
         self.write("C:\\NVX\\Python\\DLLs", b"a file")
         lines = self.install()
@@ -124,15 +122,15 @@ class Folders(MachineCase):
         self.install()
         self.assertTrue(self.exists(TUTORIALS + "\\First steps\\02 Heat sink.txt"))
 
-    def test_every_line_of_the_log_ends_as_lines_do_on_windows(self):
+    def test_every_line_of_the_log_ends_in_cr_lf(self):
         self.install()
         log = self.machine.path("C:\\NVX\\NVXConfig.log").read_bytes()
-        # The command interpreter shows each command, after an empty line.
+        # The command interpreter prints an empty line and the command.
         self.assertTrue(b" output:\r\nC:\\NVX>rmdir " in log)
         self.assertEqual(log.count(b"\r\r\n"), 0)
         self.assertEqual(log.count(b"\n"), log.count(b"\r\n"))
 
-    def test_a_log_that_cannot_be_opened_changes_nothing_else(self):
+    def test_without_a_log_the_run_does_everything_else(self):
         self.write("C:\\no log\\keep.txt")
         self.put_product("C:\\no log")
         self.machine.path("C:\\no log\\NVXConfig.log").mkdir()
@@ -165,8 +163,8 @@ class Folders(MachineCase):
         self.assertFalse(self.exists(flags))
 
 
-class PlantedPrograms(MachineCase):
-    def test_system_programs_come_from_the_system_folder(self):
+class SystemPrograms(MachineCase):
+    def test_programs_planted_under_their_names_are_not_started(self):
         folder = "C:\\planted"
         self.put_product(folder)
         self.replace_seven_zip(folder, "exit 0")

@@ -1,4 +1,4 @@
-"""Install folders with names of every kind, on machines of several code pages."""
+"""Install folders with all kinds of names, on machines with several code pages."""
 
 import unittest
 
@@ -10,7 +10,7 @@ LONG = "C:\\" + "\\".join([f"ein ziemlich langer Ordnername {i}" for i in range(
 
 class FolderCase(MachineCase):
     def install(self, folder):
-        """Installs over an earlier Python; beside the install dir lies a folder that must survive."""
+        """Installs over an earlier Python; a folder next to the install dir must survive."""
         self.put_product(folder)
         self.write(folder + "\\Python\\Lib\\old.py", b"old")
         self.write(folder + "\\Python\\DLLs\\old.dll", b"old")
@@ -33,7 +33,7 @@ class FolderCase(MachineCase):
 
 
 class WesternMachine(FolderCase):
-    def test_blanks_umlauts_and_the_interpreters_own_characters(self):
+    def test_blanks_umlauts_and_special_characters_of_the_interpreter_are_allowed(self):
         for folder in (
             "C:\\Program Files (x86)\\Velmora\\NVX 2017",
             "C:\\Größe & Söhne\\NVX",
@@ -43,27 +43,27 @@ class WesternMachine(FolderCase):
             with self.subTest(folder):
                 self.assert_configured(folder)
 
-    def test_a_variables_name_between_percent_signs_costs_a_removal_and_nothing_else(self):
-        # The interpreter replaces it in its own command line, where nothing can prevent that, and then finds
+    def test_with_a_variable_in_the_name_only_the_removal_of_folders_fails(self):
+        # The interpreter expands the variable in its command line, which nothing can prevent, and then finds
         # no batch file.
         folder = "C:\\in %TEMP%\\NVX"
         lines = self.install(folder)
         self.assertTrue(self.exists(folder + "\\Python\\Lib\\old.py"))
         removals = [line for line in lines if " output:" in line]
-        # the tutorials, two folders of Python, two of the server, and the customisation
+        # tutorials, two folders of Python, two of the server, customisation
         self.assertEqual(len(removals), 6)
         for line in removals:
             self.assertFalse(line.startswith("   0"), line)
 
-    def test_more_than_200_characters(self):
+    def test_a_name_of_more_than_200_characters_is_allowed(self):
         folder = LONG + "\\NVX"
         self.assertGreater(len(folder), 200)
         self.assert_configured(folder)
 
-    def test_a_name_that_the_code_page_lacks_is_configured_as_far_as_possible(self):
+    def test_with_a_name_outside_the_code_page_only_what_needs_it_fails(self):
         folder = "C:\\日本\\NVX"
         lines = self.install(folder)
-        # What cannot be named is left alone, and said.
+        # Folders whose names cannot be written are left alone and logged.
         self.assertTrue(self.exists(folder + "\\Python\\Lib\\old.py"))
         for name in ("DLLs", "Lib"):
             self.assertIn(
@@ -80,7 +80,7 @@ class WesternMachine(FolderCase):
 class JapaneseMachine(FolderCase):
     locale = "ja_JP.UTF-8"
 
-    def test_a_japanese_name(self):
+    def test_a_japanese_name_is_allowed(self):
         self.assert_configured("C:\\日本 ソフト\\表 NVX")
 
 

@@ -1,14 +1,14 @@
-"""The set-up program, run without a window: what it brings, how the product is told of it, and what a removal
-leaves. How it fails stands in test_installer_faults.py."""
+"""The set-up program, run without a window: what it installs, how it configures the product, and what a
+removal leaves. test_installer_faults.py has its failures."""
 
 import unittest
 import zipfile
 
-from installer_case import UNINSTALL_KEY, InstallerCase, hash_of
+from installer_case import InstallerCase, hash_of
 from launcher_case import ADDIN, LauncherCase, target_manifest
 from cadsystems import COM_CLASSES, PROTK_2
-from machine_case import BUILD, MachineCase
-from test_cycles import LEFT_ELSEWHERE
+from machine_case import BUILD, LOG, PRODUCT_KEY, SHORTCUT, UNINSTALL_KEY, MachineCase
+from run_steps import LEFT_ELSEWHERE
 from winemachine import (
     ENVIRONMENT_KEY,
     INSTALL_DIR,
@@ -20,16 +20,15 @@ from winemachine import (
 )
 
 VARIABLES = ("OSTRADE", "OSTRADE2017DIR", "OSTRADE2017TEMP")
-PRODUCT_KEY = "HKEY_LOCAL_MACHINE\\Software\\Velmora\\NVX\\17.2"
-SHORTCUT = "C:\\users\\Public\\Desktop\\Velmora NVX 2017.lnk"
-# Somebody else's files in our folders.
+VERSION_KEY = PRODUCT_KEY + "\\17.2"
+# Files of others in the product's folders.
 FOREIGN = [INSTALL_DIR + "\\my notes.txt", INSTALL_DIR + "\\licences\\Qt\\mine.txt"]
 MATERIALS = SHARED_DATA + "\\matprop.nvxmdb"
 MENU = INSTALL_DIR + "\\Launchers\\UGNX\\startup\\NVX_2017.men"
 
 
 class Installer(InstallerCase, LauncherCase):
-    """Installed in German, turned to Japanese by the product, installed again, and removed."""
+    """Installed in German, changed to Japanese by the product, installed again, and removed."""
 
     @classmethod
     def setUpClass(cls):
@@ -50,14 +49,14 @@ class Installer(InstallerCase, LauncherCase):
 
         case.write(MATERIALS, b"the user's materials")
         case.write(MENU, b"of an older release")
-        case.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink()
+        case.machine.path(LOG).unlink()
         cls.second_code = case.set_up("/S", "/NONSENSE")
         cls.second_running = case.server_is_running()
         cls.second = cls.machine.files()
         cls.second_registry = cls.machine.registry()
         cls.second_lines = case.log_lines()
 
-        case.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink()
+        case.machine.path(LOG).unlink()
         case.remove(cls.command_of(cls.second_registry))
         cls.removed = cls.machine.files()
         cls.removed_registry = cls.machine.registry()
@@ -67,10 +66,10 @@ class Installer(InstallerCase, LauncherCase):
     def command_of(registry):
         return value_of(registry, UNINSTALL_KEY, "UninstallString")
 
-    def test_it_ends_with_exit_status_0(self):
+    def test_both_set_ups_exit_with_0(self):
         self.assertEqual((self.code, self.second_code), (0, 0))
 
-    def test_every_file_of_the_sample_and_the_programs_is_there(self):
+    def test_every_file_of_the_sample_and_the_programs_is_installed(self):
         for place, folder in (
             (INSTALL_DIR, BUILD / "sample" / "product"),
             (INSTALL_DIR, BUILD / "installed"),
@@ -83,14 +82,14 @@ class Installer(InstallerCase, LauncherCase):
                 self.assertIn(there, self.installed)
         self.assertIn(INSTALL_DIR + "\\licences\\7-Zip\\LICENSE.txt", self.installed)
 
-    def test_nothing_of_its_own_work_is_left(self):
+    def test_no_temporary_file_is_left(self):
         for files in (self.installed, self.second, self.removed):
             self.assertEqual([path for path in files if "setup in progress" in path], [])
 
     def test_the_product_is_configured_in_the_installers_language(self):
         self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Lde-DE", self.lines)
         self.assertIn("   0 Installation der Tutorials", self.lines)
-        self.assertEqual(value_of(self.registry, PRODUCT_KEY, "Locale"), "de-DE")
+        self.assertEqual(value_of(self.registry, VERSION_KEY, "Locale"), "de-DE")
         for name in ("VistrelResources.dll", "VelmoraApplicationFrameRes.dll"):
             self.assertEqual(
                 self.installed[INSTALL_DIR + "\\" + name],
@@ -114,13 +113,13 @@ class Installer(InstallerCase, LauncherCase):
         self.assertNotEqual(self.installed[PROTK_2], self.before[PROTK_2])
         self.assertEqual(self.removed[PROTK_2], self.before[PROTK_2])
 
-    def test_the_machine_is_told_where_the_product_lies(self):
+    def test_the_environment_and_the_registry_name_the_install_folder(self):
         for name in VARIABLES:
             self.assertEqual(value_of(self.registry, ENVIRONMENT_KEY, name), INSTALL_DIR)
             self.assertEqual(value_of(self.second_registry, ENVIRONMENT_KEY, name), INSTALL_DIR)
         self.assertEqual(value_of(self.registry, TRANSLATORS_KEY, "Folder"), TRANSLATORS)
 
-    def test_windows_lists_the_product_among_its_programs(self):
+    def test_the_uninstall_entry_is_complete(self):
         def value(name):
             return value_of(self.registry, UNINSTALL_KEY, name)
 
@@ -133,7 +132,7 @@ class Installer(InstallerCase, LauncherCase):
         size = int(value("EstimatedSize").removeprefix("dword:"), 16)
         self.assertTrue(20_000 < size < 200_000, size)
 
-    def test_the_product_turns_the_command_of_the_entry_to_another_language(self):
+    def test_the_product_changes_the_language_of_the_uninstall_command(self):
         found = "   0 Sprache im Deinstallationseintrag der Registrierung, bisher:"
         self.assertIn(found + self.command_of(self.registry), self.lines)
         for name in ("UninstallString", "UninstallPath"):
@@ -145,28 +144,28 @@ class Installer(InstallerCase, LauncherCase):
     def test_a_second_set_up_keeps_the_language_of_the_product(self):
         self.assertIn("   0 Command Line:NVXConfig.exe -ST -S -Lja-JP", self.second_lines)
         self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Lja-JP", self.second_lines)
-        self.assertEqual(value_of(self.second_registry, PRODUCT_KEY, "Locale"), "ja-JP")
+        self.assertEqual(value_of(self.second_registry, VERSION_KEY, "Locale"), "ja-JP")
 
-    def test_a_second_set_up_brings_its_files_and_leaves_the_users(self):
+    def test_a_second_set_up_replaces_its_files_and_keeps_the_users(self):
         self.assertEqual(self.second[MENU], self.installed[MENU])
         self.assertEqual(self.second[MATERIALS], hash_of(b"the user's materials"))
         second = [path for path in self.second if path.startswith(INSTALL_DIR)]
         first = [path for path in self.installed if path.startswith(INSTALL_DIR)]
         self.assertEqual(sorted(second), sorted([*first, INSTALL_DIR + "\\ja\\ZorvRes.dll"]))
 
-    def test_the_removal_runs_the_products_own(self):
+    def test_the_removal_runs_the_products_removal(self):
         self.assertIn("   0 Command Line:NVXConfig.exe -U -S -Lja-JP", self.removal_lines)
 
-    def test_nothing_is_left_but_what_is_meant_to_stay(self):
-        # The copy of the removal's program goes when Windows starts next.
+    def test_a_removal_leaves_only_the_listed_files(self):
+        # Windows deletes the copy of the uninstaller at its next start.
         left = sorted(path for path in self.removed if path not in self.before and "\\Temp\\~nsu" not in path)
-        self.assertEqual(left, sorted([*LEFT_ELSEWHERE, INSTALL_DIR + "\\NVXConfig.log"]))
+        self.assertEqual(left, sorted([*LEFT_ELSEWHERE, LOG]))
 
-    def test_somebody_elses_files_survive(self):
+    def test_files_of_others_survive(self):
         for path in FOREIGN:
             self.assertEqual(self.removed.get(path), self.before[path], path)
 
-    def test_the_registry_keeps_nothing_that_the_set_up_wrote(self):
+    def test_a_removal_deletes_everything_that_the_set_up_wrote_to_the_registry(self):
         for name in VARIABLES:
             self.assertIsNone(value_of(self.removed_registry, ENVIRONMENT_KEY, name))
         for key in self.removed_registry:
@@ -181,32 +180,32 @@ class OtherPlaces(InstallerCase, MachineCase):
         if command:
             self.remove(command)
 
-    def test_a_language_that_is_not_ours_gives_english(self):
+    def test_an_unknown_language_installs_english(self):
         for option in ("/LANG=xx-YY", "/LANG=", "/LANG=de"):
             with self.subTest(option):
                 self.assertEqual(self.set_up("/S", option), 0)
                 self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Len-US", self.log_lines())
                 self.remove(f'"{INSTALL_DIR}\\uninstall.exe" /LANG=en-US')
 
-    def test_a_japanese_set_up_takes_the_files_of_its_language_back(self):
+    def test_a_removal_deletes_the_files_of_the_japanese_language(self):
         self.assertEqual(self.set_up("/S", "/LANG=ja-JP"), 0)
         self.assertTrue(self.exists(INSTALL_DIR + "\\ja\\ZorvRes.dll"))
         self.remove(f'"{INSTALL_DIR}\\uninstall.exe" /LANG=ja-JP')
-        self.assertEqual(list(self.machine.files(INSTALL_DIR)), [INSTALL_DIR + "\\NVXConfig.log"])
+        self.assertEqual(list(self.machine.files(INSTALL_DIR)), [LOG])
 
-    def test_a_folder_with_what_looks_like_options_is_a_folder_like_others(self):
+    def test_a_folder_name_that_looks_like_options_is_allowed(self):
         folder = "C:\\CAD -U -X größe\\NVX"
-        # The option takes the rest of the command line and knows no quotes.
+        # The option takes the rest of the command line, without quotes.
         self.assertEqual(self.set_up("/S", "/LANG=de-DE", *("/D=" + folder).split()), 0)
         registry = self.machine.registry()
         self.assertEqual(value_of(registry, ENVIRONMENT_KEY, "OSTRADE"), folder)
-        self.assertEqual(value_of(registry, PRODUCT_KEY, "InstallationDirectory"), folder)
+        self.assertEqual(value_of(registry, VERSION_KEY, "InstallationDirectory"), folder)
         self.remove(value_of(registry, UNINSTALL_KEY, "UninstallString"))
         self.assertEqual(list(self.machine.files(folder)), [folder + "\\NVXConfig.log"])
 
-    def test_the_folder_of_the_translators_that_the_machine_has_is_used_and_stays(self):
+    def test_an_existing_folder_of_the_translators_is_used_and_kept(self):
         folder = "C:\\Translators"
-        self.write(folder + "\\other server.txt", b"somebody else's")
+        self.write(folder + "\\other server.txt", b"of others")
         self.machine.set_value(TRANSLATORS_KEY, "Folder", folder)
         self.assertEqual(self.set_up("/S"), 0)
         self.assertTrue(self.exists(folder + "\\NVX_MertleServer\\server\\settings.txt"))
@@ -216,13 +215,13 @@ class OtherPlaces(InstallerCase, MachineCase):
 
 
 class Programs(unittest.TestCase):
-    def test_the_zip_holds_the_programs_and_all_that_they_need_and_nothing_of_the_sample(self):
+    def test_the_zip_holds_the_programs_with_all_they_need_and_no_sample_files(self):
         (path,) = (BUILD / "package").glob("*.zip")
         with zipfile.ZipFile(path) as archive:
             self.assertIsNone(archive.testzip())
             names = [name for name in archive.namelist() if not name.endswith("/")]
-        laid_out = BUILD / "installed"
-        wanted = [str(file.relative_to(laid_out)) for file in laid_out.rglob("*") if file.is_file()]
+        installed = BUILD / "installed"
+        wanted = [str(file.relative_to(installed)) for file in installed.rglob("*") if file.is_file()]
         self.assertIn("NVXConfig.exe", wanted)
         self.assertEqual(sorted(names), sorted(path.stem + "/" + name for name in wanted))
 

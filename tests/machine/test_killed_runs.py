@@ -1,7 +1,7 @@
-"""Silent runs that are killed at any instant: the files of CAD systems and users are whole at once, and the
-same run started again ends as one that nobody disturbed.
+"""Silent runs that are killed at a random moment: the files of CAD systems and users are whole at once, and
+the same run started again ends like an undisturbed one.
 
-NVX_SEED in the environment repeats the instants of an earlier run; the seed is printed.
+The seed is printed; NVX_SEED in the environment repeats the moments of an earlier run.
 """
 
 import os
@@ -22,20 +22,22 @@ from launcher_case import (
     LauncherCase,
     target_manifest,
 )
-from machine_case import BUILD, LANE
-from machine_state import MachineState
+from machine_case import BUILD, LANE, SHORTCUT
+from machine_state import MachineState, comparable_files
+from run_steps import INSTALL_STEPS, REMOVAL_STEPS, steps_of
 from cadsystems import COM_CLASSES
-from test_cycles import INSTALL, INSTALL_DIR, LOG, REMOVAL, steps_of
-from winemachine import ENVIRONMENT_KEY, SHARED_DATA, TRANSLATORS
+from winemachine import ENVIRONMENT_KEY, PROGRAM_FILES, SHARED_DATA, TRANSLATORS
 
-KILLS = 25  # of an install, and as many of a removal
+# As in test_cycles.py, a path without the release: the guard does not end the server.
+INSTALL_DIR = PROGRAM_FILES + "\\Velmora\\NVX"
+LOG = INSTALL_DIR + "\\NVXConfig.log"
+KILLS = 25  # installs, and as many removals
 KILLS_BEFORE_REMOVAL = 6
-LONGEST_DELAY_S = 0.08
+MAX_DELAY_S = 0.08
 IDLE_S = 3
-SHORTCUT = "C:\\users\\Public\\Desktop\\Velmora NVX 2017.lnk"
 MATERIALS = SHARED_DATA + "\\matprop.nvxmdb"
 FLAGS = SHARED_DATA + "\\NVX_flags.txt"
-# What others own or users keep: whole at every instant.
+# Files of CAD systems and users: whole at every moment.
 SHARED_FILES = (
     PROTK_2,
     PROTK_3,
@@ -56,13 +58,13 @@ OUR_KEYS = re.compile(
     ),
     re.IGNORECASE,
 )
-# Programs that a run starts; they go on when it is killed.
+# Programs that a run starts; they continue when it is killed.
 STARTED = ("7z.exe", "cmd.exe", "regedit.exe", "regsvr32.exe", "NVXViewerConfig.exe", "NVXServer.exe -i")
 TEXT = b"prepared by the administrator\r\n" * 200
 
 
 class Undisturbed:
-    """How a run ends that nobody disturbs: its log, and what is on the machine."""
+    """The end of an undisturbed run: its log, and the machine's files and registry."""
 
     def __init__(self, lines, files, registry):
         self.lines, self.files, self.registry = lines, files, registry
@@ -76,40 +78,36 @@ class KilledRuns(LauncherCase):
         print(f"NVX_SEED={cls.seed}", flush=True)
         case = cls()
         case.put_product(INSTALL_DIR, TRANSLATORS)
-        # The installer's folder of prepared files holds flags that must never arrive in part.
+        # The installer's folder of prepared files has a flags file, which must never be copied in part.
         cls.machine.set_value(ENVIRONMENT_KEY, "OSTRADE2017TEMP", "C:\\prepared")
         case.write("C:\\prepared\\NVX_flags.txt", TEXT)
         case.write(SHARED_DATA + "\\mine.txt", b"mine")
-        cls.kept = BUILD / "machines" / ("KilledRunsKept." + LANE)
-        cls.bare = MachineState(cls.machine, cls.kept / "bare")
+        cls.saved = BUILD / "machines" / ("KilledRuns saved." + LANE)
+        cls.bare = MachineState(cls.machine, cls.saved / "bare")
         cls.bare_files = cls.machine.files()
         cls.install = case.undisturbed("-I")
-        cls.installed = MachineState(cls.machine, cls.kept / "installed")
+        cls.installed = MachineState(cls.machine, cls.saved / "installed")
         cls.removal = case.undisturbed("-U")
 
     @classmethod
     def tearDownClass(cls):
         super().tearDownClass()
-        shutil.rmtree(cls.kept)
+        shutil.rmtree(cls.saved)
 
     def undisturbed(self, mode):
         code, lines = self.configure(INSTALL_DIR, mode, "-S", "-Len-US")
         lines = last_run(lines)
         self.assert_complete(code, lines)
         registry = ours(self.machine.registry())
-        return Undisturbed(lines, self.comparable_files(), registry)
+        return Undisturbed(lines, self.lasting_files(), registry)
 
-    def comparable_files(self):
-        """The files of the machine. The log tells of each run, and a shortcut holds when its program was
-        looked at last."""
-        files = {p: h for p, h in self.machine.files().items() if p != LOG and "\\Temp\\" not in p}
-        if SHORTCUT in files:
-            files[SHORTCUT] = ""
-        return files
+    def lasting_files(self):
+        files = comparable_files(self.machine, LOG)
+        return {path: contents for path, contents in files.items() if "\\Temp\\" not in path}
 
     def kill_at(self, mode, line, delay):
-        """Starts a run and kills it when its log has so many lines, and a moment later. False when it had
-        come to its end by then."""
+        """Starts a run and kills it `delay` seconds after its log has that many lines; False if it ended
+        before."""
         log = self.machine.path(LOG)
         before = line_count(log)
         process = self.machine.start(INSTALL_DIR + "\\NVXConfig.exe", mode, "-S", "-Len-US")
@@ -125,15 +123,17 @@ class KilledRuns(LauncherCase):
         return process.wait(timeout=60) == -signal.SIGKILL
 
     def wait_for_started_programs(self):
-        """Nobody starts a run again in the same second. A program that was just being started is never let
-        go, and would stay for ever; it is ended."""
+        """Waits until the programs that a killed run started have ended.
+
+        A program that was just being started when the run was killed hangs for ever, so it is ended.
+        """
         seen = {}
         while True:
             running = self.machine.programs(*STARTED)
             for pid in running:
-                work, since = seen.get(pid, (None, 0))
+                used, since = seen.get(pid, (None, 0))
                 now = time.monotonic()
-                if work != processor_time(pid):
+                if used != processor_time(pid):
                     seen[pid] = (processor_time(pid), now)
                 elif now - since > IDLE_S:
                     end_process(pid)
@@ -142,63 +142,62 @@ class KilledRuns(LauncherCase):
             time.sleep(0.1)
 
     def assert_whole(self, before, after):
-        """Each shared file is as before the run or as after one that nobody disturbed, or is not there if
-        it was not before or is not after."""
+        """Each shared file is as before the run or as after an undisturbed run; it may be missing if it is
+        missing in one of these."""
         files = self.machine.files()
         for path in SHARED_FILES:
             self.assertIn(files.get(path), (before.get(path), after.get(path)), path)
         self.assertEqual(files[SHARED_DATA + "\\mine.txt"], self.bare_files[SHARED_DATA + "\\mine.txt"])
 
     def kill_and_run_again(self, state, first, again, kills):
-        """Kills the run `first` at instants spread over its length, from that state of the machine each
-        time, and runs `again` to its end; answers how many were killed under way."""
+        """Kills the run `first` at moments spread over its length, each time from the same state of the
+        machine, and then runs `again` to its end. Returns how many runs were killed before their end."""
         expected = self.install if again == "-I" else self.removal
-        beginnings = INSTALL if again == "-I" else REMOVAL
+        steps = INSTALL_STEPS if again == "-I" else REMOVAL_STEPS
         disturbed = self.install if first == "-I" else self.removal
         chance = random.Random(f"{self.seed} {first} {again}")
-        under_way = 0
+        killed = 0
         for number in range(kills):
             line = int((number + chance.random()) * len(disturbed.lines) / kills)
-            delay = chance.uniform(0, LONGEST_DELAY_S)
+            delay = chance.uniform(0, MAX_DELAY_S)
             with self.subTest(seed=self.seed, kill=number, line=line, delay=delay):
-                state.bring_back()
+                state.restore()
                 before = self.machine.files()
-                under_way += self.kill_at(first, line, delay)
+                killed += self.kill_at(first, line, delay)
                 self.assert_whole(before, disturbed.files)
                 self.wait_for_started_programs()
                 code, lines = self.configure(INSTALL_DIR, again, "-S", "-Len-US")
                 lines = last_run(lines)
                 self.assert_complete(code, lines)
-                self.assertEqual(steps_of(lines, beginnings), beginnings)
-                self.assertFalse([entry for entry in lines if entry.startswith("   1 ")])
+                self.assertEqual(steps_of(lines, steps), steps)
+                self.assert_no_failure_logged(lines)
                 registry = ours(self.machine.registry())
-                self.assertEqual(self.comparable_files(), expected.files)
+                self.assertEqual(self.lasting_files(), expected.files)
                 self.assertEqual(registry, expected.registry)
-        return under_way
+        return killed
 
-    def test_a_killed_install_is_mended_by_the_next(self):
-        under_way = self.kill_and_run_again(self.bare, "-I", "-I", KILLS)
-        self.assertGreaterEqual(under_way, KILLS * 3 // 4)
+    def test_the_next_install_repairs_a_killed_one(self):
+        killed = self.kill_and_run_again(self.bare, "-I", "-I", KILLS)
+        self.assertGreaterEqual(killed, KILLS * 3 // 4)
 
-    def test_a_killed_removal_is_mended_by_the_next(self):
-        under_way = self.kill_and_run_again(self.installed, "-U", "-U", KILLS)
-        self.assertGreaterEqual(under_way, KILLS * 3 // 4)
+    def test_the_next_removal_repairs_a_killed_one(self):
+        killed = self.kill_and_run_again(self.installed, "-U", "-U", KILLS)
+        self.assertGreaterEqual(killed, KILLS * 3 // 4)
 
-    def test_an_install_that_was_killed_can_be_removed(self):
+    def test_a_killed_install_can_be_removed(self):
         chance = random.Random(f"{self.seed} removed")
         for number in range(KILLS_BEFORE_REMOVAL):
             line = int((number + chance.random()) * len(self.install.lines) / KILLS_BEFORE_REMOVAL)
             with self.subTest(seed=self.seed, kill=number, line=line):
-                self.bare.bring_back()
-                self.kill_at("-I", line, chance.uniform(0, LONGEST_DELAY_S))
+                self.bare.restore()
+                self.kill_at("-I", line, chance.uniform(0, MAX_DELAY_S))
                 self.wait_for_started_programs()
                 code, lines = self.configure(INSTALL_DIR, "-U", "-S", "-Len-US")
                 self.assert_removed(code, last_run(lines))
-                left = {path for path in self.comparable_files() if path not in self.bare_files}
+                left = {path for path in self.lasting_files() if path not in self.bare_files}
                 self.assertLessEqual(left, set(self.removal.files))
 
-    def test_an_install_brings_what_is_compared(self):
-        # What the comparisons above rest on.
+    def test_an_install_has_everything_that_the_other_tests_compare(self):
         for path in (*SHARED_FILES, SHORTCUT, ADDIN + ".dll", target_manifest(2017)):
             self.assertIn(path, self.install.files)
         self.assertEqual(self.install.files[FLAGS], self.install.files["C:\\prepared\\NVX_flags.txt"])
@@ -209,12 +208,12 @@ class KilledRuns(LauncherCase):
 
 
 def ours(registry):
-    """The part of a registry that a run has to do with."""
+    """The part of a registry that a run may change."""
     return {key: values for key, values in registry.items() if OUR_KEYS.search(key)}
 
 
 def last_run(lines):
-    """The lines of the last run of a log, from the line of "=" on."""
+    """The lines of the last run in a log, which begin with a line of "="."""
     banner = "   0 " + "=" * 77
     return lines[len(lines) - 1 - lines[::-1].index(banner) :]
 
@@ -223,11 +222,11 @@ def end_process(pid):
     try:
         os.kill(pid, signal.SIGKILL)
     except ProcessLookupError:
-        pass  # it was faster
+        pass  # it has ended by itself
 
 
 def processor_time(pid):
-    """What a process has used, in ticks of the clock; None when it is gone."""
+    """The processor time of a process in clock ticks; None if it has ended."""
     try:
         values = Path(f"/proc/{pid}/stat").read_text().rpartition(")")[2].split()
     except OSError:

@@ -1,5 +1,5 @@
-"""The launchers where something is in the way: files of CAD systems that others hold or protect, install
-folders that cannot be written, planted programs."""
+"""The launchers when something is wrong: CAD systems' files that are open or write-protected, install folders
+whose names cannot be written, planted programs."""
 
 import unittest
 
@@ -18,32 +18,32 @@ from cadsystems import (
 from winemachine import INSTALL_DIR, value_of
 
 
-class FilesOfOthers(LauncherCase):
+class CadSystemsFiles(LauncherCase):
     def setUp(self):
         self.reset_files()
         self.put_product()
 
     def assert_alone(self, path):
-        """No other file is left beside it that we have made on the way."""
+        """No temporary file is left next to the file."""
         folder = self.machine.path(path).parent
         names = [f.name for f in folder.iterdir() if not f.name.endswith(".bak")]
         self.assertEqual(names, [path.rsplit("\\", 1)[1]])
 
-    def test_a_file_that_another_program_holds_is_passed_over(self):
+    def test_a_file_that_another_program_has_open_is_skipped(self):
         with self.held(PROTK_2), self.held(CUSTOM_DIRS_10, "C:\\held too"):
             lines, warnings = self.diagnose_with("-I")
         self.assertEqual(self.read(PROTK_2), FOREIGN_ENTRY)
         self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS)
         self.assertEqual(self.read(PROTK_3), creo_entry(3) + FOREIGN_ENTRY)
         self.assertEqual(self.read(CUSTOM_DIRS_11), FOREIGN_DIRS + nx_line(""))
-        self.assert_not_logged(lines)
-        # Creo's file for the removal and for the new entry, NX's for its backup and for the new line.
+        self.assert_no_failure_logged(lines)
+        # Creo's file is read for the removal and for the new entry, NX's for the backup and for the new line.
         unread = ["Unable to read " + path for path in (PROTK_2, CUSTOM_DIRS_10) for _ in range(2)]
         self.assertEqual(sorted(warnings), sorted(unread))
         self.assert_alone(PROTK_2)
         self.assert_alone(CUSTOM_DIRS_10)
 
-    def test_a_file_that_another_program_holds_survives_the_removal(self):
+    def test_a_file_that_another_program_has_open_survives_the_removal(self):
         self.run_with("-I")
         with self.held(PROTK_2), self.held(CUSTOM_DIRS_10, "C:\\held too"):
             self.run_with("-U")
@@ -52,26 +52,26 @@ class FilesOfOthers(LauncherCase):
         self.run_with("-U")
         self.assertEqual(self.read(PROTK_2), FOREIGN_ENTRY)
 
-    def test_a_write_protected_file_is_passed_over(self):
+    def test_a_write_protected_file_is_skipped(self):
         for path in (PROTK_2, CUSTOM_DIRS_10):
             self.machine.path(path).chmod(0o444)
         lines, warnings = self.diagnose_with("-I")
         self.assertEqual(self.read(PROTK_2), FOREIGN_ENTRY)
         self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS)
-        self.assert_not_logged(lines)
+        self.assert_no_failure_logged(lines)
         self.assertEqual(warnings, ["Unable to write " + path for path in (PROTK_2, CUSTOM_DIRS_10)])
         self.assertEqual(self.machine.path(PROTK_2).stat().st_mode & 0o777, 0o444)
         self.assert_alone(PROTK_2)
         self.assert_alone(CUSTOM_DIRS_10)
 
-    def test_a_marker_of_an_older_release_keeps_creo_as_it_is(self):
+    def test_with_the_marker_of_an_older_release_creos_file_stays_unchanged(self):
         contents = FOREIGN_ENTRY + b"text_dir $OSTRADE2017\\Text\r\nend\r\n"
         self.machine.path(PROTK_2).write_bytes(contents)
         lines = self.run_with("-I")
         self.assertEqual(self.read(PROTK_2), contents)
         self.assertIn("   0 Ostrade 2017 already exists, do nothing", lines)
 
-    def test_missing_launchers_stop_nothing(self):
+    def test_a_run_continues_without_the_launchers_files(self):
         for name in ("Brevant\\NVX_2017_Brevant.dll", "SpaceClaim\\NVX_2017_SpaceClaim.dll"):
             self.machine.path(LAUNCHERS + "\\" + name).unlink()
         lines = self.run_with("-I")
@@ -84,8 +84,8 @@ class FilesOfOthers(LauncherCase):
         self.assertFalse(self.exists(ADDIN + ".dll"))
 
 
-class PlantedPrograms(LauncherCase):
-    def test_libraries_are_registered_by_the_systems_own_tool(self):
+class PlantedRegsvr32(LauncherCase):
+    def test_it_is_not_started_in_place_of_the_systems(self):
         self.put_product()
         for place in (INSTALL_DIR, "C:\\elsewhere"):
             for name in ("regsvr32", "regsvr32.exe", "regsvr32.bat"):
@@ -106,7 +106,7 @@ class PlantedPrograms(LauncherCase):
             self.assertIsNotNone(value_of(registry, key + "\\InprocServer32", ""))
 
 
-class InstallFolders(LauncherCase):
+class LauncherFolders(LauncherCase):
     def setUp(self):
         self.reset_files()
 
@@ -140,13 +140,13 @@ class InstallFolders(LauncherCase):
         self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS)
 
 
-class JapaneseMachine(LauncherCase):
+class JapaneseLaunchers(LauncherCase):
     locale = "ja_JP.UTF-8"
 
     def setUp(self):
         self.reset_files()
 
-    def test_a_japanese_name(self):
+    def test_a_japanese_name_is_written_in_the_code_page(self):
         folder = "C:\\日本 ソフト\\表 NVX"
         self.put_product(folder)
         self.run_with("-I", folder)
@@ -165,7 +165,7 @@ class JapaneseMachine(LauncherCase):
         self.run_with("-I")
         self.assertEqual(self.read(PROTK_2), creo_entry(2) + FOREIGN_ENTRY + five)
 
-    def test_a_byte_that_begins_a_character_does_not_hide_the_line_behind_it(self):
+    def test_an_incomplete_character_does_not_hide_the_line_after_it(self):
         folder = "C:\\日本\\NVX"
         self.put_product(folder)
         contents = FOREIGN_DIRS + b"C:\\\x83"

@@ -1,5 +1,5 @@
 """The launchers on a machine with all six CAD systems: installed, installed again and removed by the real
-program, with real COM libraries registered by the system's own tool."""
+program, with COM libraries that the system's regsvr32 registers."""
 
 import unittest
 
@@ -36,7 +36,7 @@ def tamsel_install(year):
 
 
 def expected_log(is_install):
-    """The lines of the six launchers, without their levels, which are all 0."""
+    """The log's lines for the six launchers without their levels, which are all 0."""
     word = "Install" if is_install else "UnInstall"
     lines = []
 
@@ -99,14 +99,14 @@ class AllSystems(LauncherCase):
         expected = ["   0 " + line for line in expected_log(is_install=False)]
         self.assertEqual(self.launcher_lines("removal"), expected)
 
-    def test_creo_finds_the_launcher_before_the_others(self):
+    def test_creo_lists_the_launcher_first(self):
         for run in ("first", "second"):
             self.assertEqual(self.bytes[run][PROTK_2], creo_entry(2) + FOREIGN_ENTRY)
             self.assertEqual(self.bytes[run][PROTK_3], creo_entry(3) + FOREIGN_ENTRY)
         for path in (PROTK_2, PROTK_3):
             self.assertEqual(self.bytes["removal"][path], FOREIGN_ENTRY)
 
-    def test_what_the_entry_names_is_there(self):
+    def test_the_paths_in_creos_entry_exist(self):
         for line in creo_entry(3).decode().splitlines():
             word, _, path = line.partition(" ")
             if word == "exec_file":
@@ -114,7 +114,7 @@ class AllSystems(LauncherCase):
             elif word == "text_dir":
                 self.assertTrue(self.machine.path(path).is_dir())
 
-    def test_an_old_copy_of_a_launcher_is_swept(self):
+    def test_an_old_copy_of_a_launcher_is_deleted(self):
         self.assertNotIn(INSTALL_DIR + "\\NVX_2017_Creo20.dll", self.files["first"])
 
     def test_com_libraries_are_registered_and_unregistered(self):
@@ -128,7 +128,7 @@ class AllSystems(LauncherCase):
             for left in self.registries["removal"]:
                 self.assertFalse(left.lower().startswith(key.lower()), left)
 
-    def test_nx_finds_the_launcher_of_its_version(self):
+    def test_nx_lists_the_launcher_of_its_version(self):
         for run in ("first", "second"):
             self.assertEqual(self.bytes[run][CUSTOM_DIRS_10], FOREIGN_DIRS + nx_line("\\NX10"))
             self.assertEqual(self.bytes[run][CUSTOM_DIRS_11], FOREIGN_DIRS + nx_line(""))
@@ -145,7 +145,7 @@ class AllSystems(LauncherCase):
         left = [path for path in self.files["removal"] if path.endswith("NVX_2017.Addin")]
         self.assertEqual(left, [])
 
-    def test_space_claim_has_the_addin(self):
+    def test_spaceclaim_has_the_add_in(self):
         for suffix in (".dll", ".xml"):
             source = LAUNCHERS + "\\SpaceClaim\\NVX_2017_SpaceClaim" + suffix
             for run in ("first", "second"):
@@ -154,7 +154,7 @@ class AllSystems(LauncherCase):
         self.assertIn(SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim\\", self.files["removal"])
 
     def test_a_second_install_changes_no_file_of_a_cad_system(self):
-        # The logs grow, and a shortcut holds when its program was looked at last.
+        # The logs grow, and a shortcut holds the time when its program was last accessed.
         def lasting(files):
             changing = (".log", ".lnk")
             return {path: found for path, found in files.items() if not path.endswith(changing)}

@@ -1,5 +1,5 @@
-"""The localisation tool on a Windows machine: from the sources to the compiled files of every language.
-lupdate and lrelease are those of the host, which translate the same files."""
+"""The localisation tool on a Windows machine translates sources into every language. It runs the host's
+lupdate and lrelease, which work on the same files."""
 
 import unittest
 
@@ -20,7 +20,7 @@ class Localization(MachineCase):
         self.assertEqual(lines[-1], "   0 Localization script finishes cool")
         return lines
 
-    def test_every_language_is_compiled_from_what_the_translators_sent(self):
+    def test_every_language_is_compiled_from_the_translators_files(self):
         lines = self.translate()
         cool = [line for line in lines if line.endswith(" cool")]
         self.assertEqual(
@@ -46,7 +46,7 @@ class Localization(MachineCase):
         compiled = self.machine.path(ROOT + "\\Locale\\de-DE\\client.qm").read_bytes()
         self.assertIn("[deu] Flow study".encode("utf-16-be"), compiled)
 
-    def test_a_damaged_answer_is_left_out(self):
+    def test_a_damaged_file_of_the_translators_is_rejected(self):
         lines = self.translate("--damage", "jpn/client.ts")
         damaged = SHARE + "\\pTrans\\NVX360\\jpn\\client.ts"
         self.assertIn("   1 download fails " + damaged, lines)

@@ -1,9 +1,9 @@
-"""The users' material database on a real machine: whatever a run meets, it is never lost and never replaced;
-only a removal of the product takes it."""
+"""The users' material database on a real machine: no run loses or replaces it; only a removal of the product
+deletes it."""
 
 import unittest
 
-from machine_case import MachineCase
+from machine_case import USER_DATA, MachineCase
 from winemachine import SHARED_DATA
 
 FOLDER = "C:\\Program Files\\Velmora\\Größe"
@@ -25,9 +25,8 @@ class MaterialDatabase(MachineCase):
                 file.unlink()
 
     def run_with(self, *tokens, **environment):
-        """One run of the program; answers the lines of its log."""
-        self.machine.path(FOLDER + "\\NVXConfig.log").unlink(missing_ok=True)
-        code, lines = self.configure(FOLDER, *tokens, **environment)
+        """Runs NVXConfig.exe; returns the lines of this run's log."""
+        code, lines = self.configure_with_new_log(FOLDER, *tokens, **environment)
         self.assertEqual(code, 0)
         self.assertFalse(self.exists(WORKING + ".nvxpart"))
         self.assertFalse(self.exists(PREVIOUS + ".nvxpart"))
@@ -36,16 +35,13 @@ class MaterialDatabase(MachineCase):
     def install(self, **environment):
         return self.run_with("-I", "-S", "-Len-US", **environment)
 
-    def read(self, path):
-        return self.machine.path(path).read_bytes()
-
     def test_a_first_install_copies_the_shipped_database(self):
         lines = self.install()
         self.assertEqual(self.read(WORKING), self.shipped)
         at = lines.index(CHECKING)
         self.assertEqual(lines[at + 1], f"   0 Copy: {SHIPPED} to: {WORKING}")
 
-    def test_the_users_database_survives_installs_and_languages(self):
+    def test_the_users_database_survives_installs_in_any_language(self):
         self.install()
         self.write(WORKING, MINE)
         self.write(SHIPPED, b"shipped anew")
@@ -66,13 +62,13 @@ class MaterialDatabase(MachineCase):
         self.install()
         self.assertEqual(self.read(WORKING), MINE)
 
-    def test_a_database_that_is_open_elsewhere_survives(self):
+    def test_a_database_that_another_program_has_open_survives(self):
         self.write(WORKING, MINE)
         with self.held(WORKING):
             self.install()
         self.assertEqual(self.read(WORKING), MINE)
 
-    def test_a_shipped_database_that_is_open_elsewhere_leaves_no_half_copy(self):
+    def test_a_shipped_database_that_another_program_has_open_is_not_copied_in_part(self):
         with self.held(SHIPPED):
             lines = self.install()
         self.assertIn(f"   0 Copy: {SHIPPED} to: {WORKING}", lines)
@@ -80,7 +76,7 @@ class MaterialDatabase(MachineCase):
         self.install()
         self.assertEqual(self.read(WORKING), self.shipped)
 
-    def test_a_missing_shipped_database_is_reported_and_the_users_survives(self):
+    def test_a_missing_shipped_database_is_logged_and_the_users_survives(self):
         self.write(WORKING, MINE)
         self.machine.path(SHIPPED).unlink()
         lines = self.install()
@@ -94,7 +90,7 @@ class MaterialDatabase(MachineCase):
         )
         self.assertEqual(self.read(WORKING), MINE)
 
-    def test_the_previous_release_is_carried_forward_once(self):
+    def test_the_database_of_the_previous_release_is_copied_once(self):
         self.write("C:\\NVX 2016\\matprop.mdb", b"of 2016")
         lines = self.install(OSTRADE2016DIR="C:\\NVX 2016")
         self.assertEqual(self.read(PREVIOUS), b"of 2016")
@@ -103,7 +99,7 @@ class MaterialDatabase(MachineCase):
         self.install(OSTRADE2016DIR="C:\\NVX 2016")
         self.assertEqual(self.read(PREVIOUS), b"of 2016")
 
-    def test_a_previous_release_that_is_nowhere_carries_nothing_forward(self):
+    def test_nothing_is_copied_from_a_previous_release_that_does_not_exist(self):
         self.write(WORKING, MINE)
         for folder in ("C:\\nowhere", "Z:\\nowhere\\at all", "no folder at all"):
             with self.subTest(folder):
@@ -112,7 +108,7 @@ class MaterialDatabase(MachineCase):
                 self.assertFalse([line for line in lines if "Materials 2016" in line or "NVX 2016" in line])
                 self.assertEqual(self.read(WORKING), MINE)
 
-    def test_a_removal_takes_the_database_and_old_files_and_nothing_else(self):
+    def test_a_removal_deletes_the_database_and_old_files_and_nothing_else(self):
         self.install()
         self.write(WORKING, MINE).chmod(0o444)
         self.write(PREVIOUS, b"mine of 2016")
@@ -146,24 +142,18 @@ class MaterialDatabase(MachineCase):
         self.assertTrue(self.exists(FOLDER + "\\plugins\\Reports\\report.py"))
         self.assertEqual(lines[-2], "   0 Remove: Report .pyc files")
 
-    def test_the_customisation_goes_with_every_language(self):
+    def test_installs_and_removals_delete_the_customisation(self):
         self.install()
-        user = f"C:\\users\\{self.user()}\\AppData\\Roaming\\Velmora\\NVX 2017\\"
         for mode in ("-I", "-U"):
             with self.subTest(mode):
                 self.write(SHARED_DATA + "\\Sorvane\\sub\\ribbon.txt")
                 for name in ("qat.st", "ribbon2D.st", "flagset.usr", "own.st"):
-                    self.write(user + name)
+                    self.write(f"{USER_DATA}\\{name}")
                 self.run_with(mode, "-S", "-Lde-DE")
                 self.assertFalse(self.exists(SHARED_DATA + "\\Sorvane"))
                 for name in ("qat.st", "ribbon2D.st", "flagset.usr"):
-                    self.assertFalse(self.exists(user + name), name)
-                self.assertTrue(self.exists(user + "own.st"))
-
-    def user(self):
-        names = [p.name for p in self.machine.path("C:\\users").iterdir() if p.name != "Public"]
-        self.assertEqual(len(names), 1, names)
-        return names[0]
+                    self.assertFalse(self.exists(f"{USER_DATA}\\{name}"), name)
+                self.assertTrue(self.exists(USER_DATA + "\\own.st"))
 
 
 if __name__ == "__main__":

@@ -1,4 +1,4 @@
-"""What Windows reads in the programs before it starts them, and shows of them."""
+"""The version, icons and manifests of the programs, which Windows reads and shows."""
 
 import unittest
 import xml.etree.ElementTree as ElementTree
@@ -6,14 +6,14 @@ import xml.etree.ElementTree as ElementTree
 from machine_case import BUILD
 from program_file import CONSOLE, GROUP_ICON, ICON, MANIFEST, WINDOWED, ProgramFile
 
-# Those with a text in place of a window; every other program of ours shows one.
+# Programs without a window.
 CONSOLE_PROGRAMS = {"UpdateErrorTable.exe"}
 ADMINISTRATORS_PROGRAMS = {"NVXConfig.exe"}
 ICON_SIZES = [16, 20, 24, 32, 40, 48, 64, 128, 256]
 
 
 def each_program(check):
-    """Makes a test of a check of one program: every program that is shipped is checked."""
+    """Makes a test that runs the check on every shipped program."""
 
     def test(self):
         for name, program in sorted(self.programs.items()):
@@ -37,7 +37,7 @@ class ProgramFiles(unittest.TestCase):
         return [item.text for item in self.manifest(program).iter() if item.tag.endswith("}" + name)]
 
     @each_program
-    def test_a_program_tells_its_version(self, name, program):
+    def test_the_version_block_is_complete(self, name, program):
         numbers, texts = program.version()
         self.assertEqual(numbers, ["17.2.0.0", "17.2.0.0"])
         self.assertEqual(texts["CompanyName"], "Velmora")
@@ -48,7 +48,7 @@ class ProgramFiles(unittest.TestCase):
         self.assertTrue(texts["FileDescription"].startswith(("NVX ", "Message ", "Material ")))
 
     @each_program
-    def test_only_the_configuration_asks_for_an_administrators_rights(self, name, program):
+    def test_only_the_configuration_asks_for_administrator_rights(self, name, program):
         (level,) = [
             item.get("level")
             for item in self.manifest(program).iter()
@@ -58,7 +58,7 @@ class ProgramFiles(unittest.TestCase):
         self.assertEqual(level, wanted)
 
     @each_program
-    def test_a_program_is_sharp_on_every_screen_and_takes_long_paths(self, _, program):
+    def test_a_program_scales_with_each_screen_and_allows_long_paths(self, _, program):
         self.assertEqual(self.setting(program, "dpiAwareness"), ["PerMonitorV2, PerMonitor"])
         self.assertEqual(self.setting(program, "dpiAware"), ["true/pm"])
         self.assertEqual(self.setting(program, "longPathAware"), ["true"])
@@ -68,7 +68,7 @@ class ProgramFiles(unittest.TestCase):
         self.assertEqual(self.setting(program, "activeCodePage"), [])
 
     @each_program
-    def test_a_program_looks_like_the_system(self, _, program):
+    def test_a_program_uses_the_systems_look(self, _, program):
         assemblies = [
             (item.get("name"), item.get("version"))
             for item in self.manifest(program).iter()
@@ -77,7 +77,7 @@ class ProgramFiles(unittest.TestCase):
         self.assertIn(("Microsoft.Windows.Common-Controls", "6.0.0.0"), assemblies)
 
     @each_program
-    def test_the_toolkit_finds_an_icon_of_every_size(self, _, program):
+    def test_the_icon_that_qt_loads_has_every_size(self, _, program):
         ((name, group),) = program.resources(GROUP_ICON)
         self.assertEqual(name, "IDI_ICON1")
         sizes = [group[6 + 14 * i] or 256 for i in range(group[4])]

@@ -1,37 +1,30 @@
-"""Each folder that a run writes into, in turn on a disk that is read-only: the run comes to its end and does
-everything else as if nothing were. What it could not do is in the log, or in the diagnostic output.
+"""Each folder that a run writes to is read-only, one at a time: the run reaches its end, does everything else
+as usual, and reports what it could not do in the log or in the diagnostic output.
 
-A read-only disk stands for every folder that cannot be written: one that is protected by its rights, on a
-medium that is, or on a share that is. To see an administrator refused, nothing less will do here: a Windows
-program under Wine may write wherever the host's administrator may. The folder is mounted over itself in a
-name space of this process, which nobody else sees; where that is not permitted the tests say so, and ctest
-counts them as not run.
+A read-only disk stands for every folder that cannot be written, whether by its access rights or by its
+medium. Only a disk works here: a Windows program under Wine may write wherever the host's administrator may.
+The folder is mounted over itself in a mount name space of this process. Where mounting is not permitted, the
+tests are skipped.
 """
 
 import contextlib
 import ctypes
-import getpass
 import subprocess
 import unittest
 
 from launcher_case import LAUNCHERS, SPACE_CLAIM_ADDINS, TAMSEL_ADDINS, LauncherCase
-from machine_case import BUILD
+from machine_case import BUILD, DESKTOP, LOG, SHORTCUT, USER_DATA, USER_FOLDER
 from cadsystems import CUSTOM_DIRS_10, PROTK_2
-from machine_state import MachineState
+from machine_state import MachineState, comparable_files
 from winemachine import INSTALL_DIR, SHARED_DATA, TRANSLATORS, TUTORIALS
 
 CLONE_NEWNS = 0x00020000
-LOG = INSTALL_DIR + "\\NVXConfig.log"
-DESKTOP = "C:\\users\\Public\\Desktop"
-SHORTCUT = DESKTOP + "\\Velmora NVX 2017.lnk"
-USER = "C:\\users\\" + getpass.getuser()
-USER_DATA = USER + "\\AppData\\Roaming\\Velmora\\NVX 2017"
 MERTLE = TRANSLATORS + "\\NVX_MertleServer"
 BATCH_FILE = INSTALL_DIR + "work.bat"
 AROUND = "around the install folder"
 SPACE_CLAIM = SPACE_CLAIM_ADDINS + "\\NVX_2017_SpaceClaim"
 
-# Begins what the log leaves out and the diagnostic output has.
+# Marks lines of the diagnostic output among those of the log.
 DIAGNOSTIC = "diagnostic: "
 UNWRITTEN = DIAGNOSTIC + "Unable to write "
 
@@ -40,9 +33,9 @@ def parent(path):
     return path.rpartition("\\")[0]
 
 
-# Each folder, and how lines begin or what they hold that tell of it: after an install, and after a removal.
-# Where the list is empty the run says nothing of it: a copy or a removal that fails is not reported, and
-# the command interpreter of this machine takes a folder that stays for removed.
+# {name: (folder, parts of the lines that report it in an install, and in a removal)}
+# The lists are empty where the run reports nothing: failed copies and deletions are not reported, and Wine's
+# command interpreter reports success for a folder that it could not remove.
 FOLDERS = {
     "Python": (
         INSTALL_DIR + "\\Python",
@@ -73,7 +66,7 @@ FOLDERS = {
     "Tamsel": (TAMSEL_ADDINS, [], []),
     "SpaceClaim": (SPACE_CLAIM, [], []),
     "desktop": (DESKTOP, [f"Create shortcut {SHORTCUT} Failed"], ["   1 Unable to remove " + SHORTCUT]),
-    "temporary files": (USER + "\\AppData\\Local\\Temp", [], []),
+    "temporary files": (USER_FOLDER + "\\AppData\\Local\\Temp", [], []),
     "translators": (MERTLE, ["   2 Output:"], []),
     "launchers": (LAUNCHERS, [" Open failed:"], []),
     AROUND: (
@@ -81,16 +74,16 @@ FOLDERS = {
         [f"   1 Unable to create {BATCH_FILE}, this folder is not removed: "],
         [f"   1 Unable to create {BATCH_FILE}, this folder is not removed: "],
     ),
-    "install folder": (INSTALL_DIR, None, None),  # where the log cannot be written either
+    "install folder": (INSTALL_DIR, None, None),  # the log cannot be written either
 }
-# What can be written although it lies in such a folder.
+# Folders that stay writable inside a read-only one.
 WRITABLE = {AROUND: (INSTALL_DIR, TRANSLATORS)}
 
 
 def setUpModule():
     libc = ctypes.CDLL(None, use_errno=True)
     if libc.unshare(CLONE_NEWNS) != 0:
-        raise unittest.SkipTest("Not run: this process may not mount a file system.")
+        raise unittest.SkipTest("Not run: mounting a file system is not permitted.")
     mount("--make-rprivate", "/")
 
 
@@ -108,29 +101,26 @@ class ReadOnlyFolders(LauncherCase):
             cls.machine.path(folder).mkdir(parents=True, exist_ok=True)
         case.write(SHARED_DATA + "\\mine.txt", b"mine")
         case.write(USER_DATA + "\\mine.txt", b"mine")
-        cls.kept = BUILD / "machines" / "ReadOnlyFoldersKept"
-        cls.bare = MachineState(cls.machine, cls.kept / "bare")
-        cls.files_bare = case.comparable_files()
+        cls.saved = BUILD / "machines" / "ReadOnlyFolders saved"
+        cls.bare = MachineState(cls.machine, cls.saved / "bare")
+        cls.files_bare = case.files()
         case.run_with("-I")
-        cls.installed = MachineState(cls.machine, cls.kept / "installed")
-        cls.files_installed = case.comparable_files()
+        cls.installed = MachineState(cls.machine, cls.saved / "installed")
+        cls.files_installed = case.files()
         case.run_with("-U")
         cls.machine.stop()
-        cls.files_removed = case.comparable_files()
+        cls.files_removed = case.files()
 
     @classmethod
     def tearDownClass(cls):
         super().tearDownClass()
-        subprocess.run(["rm", "-rf", str(cls.kept)], check=True)
+        subprocess.run(["rm", "-rf", str(cls.saved)], check=True)
 
-    def comparable_files(self):
-        """The files of the machine. The log tells of each run, and a shortcut holds when its program was
-        looked at last; empty folders are left out, as a file in one of them is a question of the row."""
+    def files(self):
+        """The files for comparisons. Empty folders are left out: which folders are empty differs by row."""
         self.machine.stop()
-        files = {p: h for p, h in self.machine.files().items() if p != LOG and not p.endswith("\\")}
-        if SHORTCUT in files:
-            files[SHORTCUT] = ""
-        return files
+        files = comparable_files(self.machine, LOG)
+        return {path: contents for path, contents in files.items() if not path.endswith("\\")}
 
     @contextlib.contextmanager
     def read_only(self, name):
@@ -145,46 +135,46 @@ class ReadOnlyFolders(LauncherCase):
             yield
 
     def check_row(self, mode, name, state, before, expected):
-        """One run with that folder read-only, from that state of the machine with the files `before`; in
-        its other folders everything must be as expected."""
-        folder, *told = FOLDERS[name]
-        lines_told = told[0 if mode == "-I" else 1]
-        state.bring_back()
-        self.machine.path(LOG).unlink(missing_ok=True)
+        """One run with a read-only folder, from a saved state of the machine with the files `before`; outside
+        the folder the files must be as expected."""
+        folder, install_reports, removal_reports = FOLDERS[name]
+        reports = install_reports if mode == "-I" else removal_reports
+        state.restore()
+        self.delete_log()
         with self.read_only(name):
             code, lines, warnings = self.diagnose(INSTALL_DIR, mode, "-S", "-Len-US")
         self.assertEqual(code, 0)
-        if lines_told is None:
+        if reports is None:
             self.assertEqual(lines, [])
         else:
             self.assert_complete(code, lines)
-            told = lines + [DIAGNOSTIC + text for text in warnings]
-            for text in lines_told:
-                self.assertTrue([line for line in told if text in line], (text, told))
-            failures = [line for line in told if line.startswith(("   1 ", DIAGNOSTIC))]
-            unexpected = [f for f in failures if not any(text in f for text in lines_told)]
+            lines += [DIAGNOSTIC + text for text in warnings]
+            for text in reports:
+                self.assertTrue([line for line in lines if text in line], (text, lines))
+            failures = [line for line in lines if line.startswith(("   1 ", DIAGNOSTIC))]
+            unexpected = [f for f in failures if not any(text in f for text in reports)]
             self.assertEqual(unexpected, [])
 
-        found = self.comparable_files()
+        found = self.files()
         if name != AROUND:
             there = {path: contents for path, contents in found.items() if is_below(path, folder)}
             self.assertEqual(there, {p: h for p, h in before.items() if is_below(p, folder)})
             found = {path: contents for path, contents in found.items() if path not in there}
             expected = {p: h for p, h in expected.items() if not is_below(p, folder)}
         elif mode == "-U":
-            # Folders are removed by a batch file there; without it they stay.
+            # Folders are removed by a batch file in that folder; without it they stay.
             found = {path: contents for path, contents in found.items() if path in expected}
-        # The manifests of Tamsel are copies of the one among the launchers.
+        # Tamsel's manifests are copies of the one among the launchers.
         left_out = TAMSEL_ADDINS if mode == "-I" and is_below(LAUNCHERS, folder) else LOG
         differing = {p for p in (*found, *expected) if found.get(p) != expected.get(p)}
         self.assertEqual(sorted(p for p in differing if not is_below(p, left_out)), [])
 
-    def test_an_install_does_all_the_rest(self):
+    def test_an_install_does_everything_else(self):
         for name in FOLDERS:
             with self.subTest(name):
                 self.check_row("-I", name, self.bare, self.files_bare, self.files_installed)
 
-    def test_a_removal_does_all_the_rest(self):
+    def test_a_removal_does_everything_else(self):
         for name in FOLDERS:
             with self.subTest(name):
                 self.check_row("-U", name, self.installed, self.files_installed, self.files_removed)

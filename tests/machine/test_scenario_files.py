@@ -1,4 +1,4 @@
-"""The reader of the scenarios: what it refuses, and how a log is compared with what is expected of it."""
+"""The reader of the scenarios rejects what it does not understand, and compares logs."""
 
 import tempfile
 import unittest
@@ -10,9 +10,9 @@ HEADER = "Windows Registry Editor Version 5.00\n"
 GOOD = {"runs.txt": "-I -S\n", "log.txt": "...\n"}
 
 
-class Reading(unittest.TestCase):
+class ScenarioReader(unittest.TestCase):
     def read(self, **changes):
-        """Reads a good scenario with changes: file names with "_" for "." and "-"."""
+        """Reads a valid scenario with changed files; "_" in a name stands for "." or "-"."""
         with tempfile.TemporaryDirectory() as folder:
             files = dict(GOOD)
             for name, text in changes.items():
@@ -23,28 +23,30 @@ class Reading(unittest.TestCase):
                     (Path(folder) / name).write_text(text, encoding="utf-8")
             return read_scenario(folder)
 
-    def test_what_is_spelled_wrong_is_refused(self):
+    def test_a_wrong_file_or_line_is_rejected(self):
         cases = {
-            "no runs": dict(runs_txt=None),
-            "no log": dict(log_txt=None),
-            "empty runs": dict(runs_txt="\n# nothing\n"),
+            "no runs.txt": dict(runs_txt=None),
+            "no log.txt": dict(log_txt=None),
+            "no run in runs.txt": dict(runs_txt="\n# nothing\n"),
             "a run without options": dict(runs_txt="install\n"),
-            "a file that nobody names": dict(file_after_txt="file C:\\a\n"),
-            "a word": dict(files_after_txt="fil C:\\a.txt\n"),
-            "a word of the other list": dict(files_before_txt="nothing C:\\a.txt\n"),
-            "a path of nowhere": dict(files_after_txt="nothing a.txt\n"),
+            "a file that no line names": dict(file_after_txt="file C:\\a\n"),
+            "an unknown word": dict(files_after_txt="fil C:\\a.txt\n"),
+            "a word of files-after.txt": dict(files_before_txt="nothing C:\\a.txt\n"),
+            "a path without a drive": dict(files_after_txt="nothing a.txt\n"),
             "a path that ends in a backslash": dict(files_after_txt="nothing C:\\a\\\n"),
-            "contents of no file": dict(files_after_txt="file C:\\a.txt < a.bin\n"),
-            "contents of a folder": dict(files_before_txt="folder C:\\a = b\n"),
+            "a missing file of contents": dict(files_after_txt="file C:\\a.txt < a.bin\n"),
+            "contents for a folder": dict(files_before_txt="folder C:\\a = b\n"),
             "a file without contents": dict(files_before_txt="file C:\\a\n"),
-            "only without names": dict(files_after_txt="only C:\\a\n"),
-            "what happens between runs": dict(runs_txt="-I\n+ fil C:\\a = b\n"),
-            "a process": dict(processes_txt="C:\\2017\\NVX.exe ends\n"),
-            "a program that is not the product's": dict(processes_txt="C:\\xtop.exe is ended\n"),
-            "a locale": dict(locale_txt="japanese\n"),
-            "a root of the registry": dict(registry_after_reg=HEADER + "[HKEY_CLASSES_ROOT\\.nvz]\n"),
+            '"only" without names': dict(files_after_txt="only C:\\a\n"),
+            "an unknown word between runs": dict(runs_txt="-I\n+ fil C:\\a = b\n"),
+            "an unknown end of a process": dict(processes_txt="C:\\2017\\NVX.exe ends\n"),
+            "a process that is not the product's": dict(processes_txt="C:\\xtop.exe is ended\n"),
+            "no locale": dict(locale_txt="japanese\n"),
+            "an unknown root of the registry": dict(
+                registry_after_reg=HEADER + "[HKEY_CLASSES_ROOT\\.nvz]\n"
+            ),
             "a value without a key": dict(registry_after_reg=HEADER + '"a"="b"\n'),
-            "a value": dict(registry_after_reg=HEADER + "[HKEY_CURRENT_USER\\A]\na=b\n"),
+            "a value without quotes": dict(registry_after_reg=HEADER + "[HKEY_CURRENT_USER\\A]\na=b\n"),
             "a script without a header": dict(registry_before_reg="[HKEY_CURRENT_USER\\A]\n"),
             "expectations without a header": dict(registry_after_reg="[HKEY_CURRENT_USER\\A]\n"),
         }
@@ -56,7 +58,7 @@ class Reading(unittest.TestCase):
         with self.assertRaisesRegex(ScenarioError, "files-after.txt:2: "):
             self.read(files_after_txt="folder C:\\a\nfil C:\\b\n")
 
-    def test_every_kind_of_line(self):
+    def test_every_kind_of_line_is_read(self):
         scenario = self.read(
             runs_txt="product C:\\A B\n-I -S\n+ file C:\\a b = c = d\nC:\\else where> -U -S\n",
             files_before_txt="file C:\\x.txt =\nheld C:\\x.txt\n",
@@ -77,7 +79,7 @@ class Reading(unittest.TestCase):
         self.assertEqual(scenario.after[2].contents, b"bytes")
         self.assertEqual([p.is_ended for p in scenario.processes], [False])
         self.assertEqual(
-            [(e.name, e.text, e.is_there) for e in scenario.registry],
+            [(e.name, e.text, e.exists) for e in scenario.registry],
             [
                 (None, None, True),
                 ("b", "c\\d", True),
@@ -88,8 +90,8 @@ class Reading(unittest.TestCase):
         )
 
 
-class Logs(unittest.TestCase):
-    def test_logs_that_are_as_expected(self):
+class LogDifference(unittest.TestCase):
+    def test_logs_as_expected_have_no_difference(self):
         for expected, lines in (
             ("a b", "a b"),
             ("...", ""),
@@ -105,7 +107,7 @@ class Logs(unittest.TestCase):
             with self.subTest(expected):
                 self.assertIsNone(log_difference(expected.split(), lines.split()))
 
-    def test_logs_that_are_not(self):
+    def test_other_logs_have_a_difference(self):
         for expected, lines in (
             ("a b", "a"),
             ("a b", "a b c"),
@@ -123,11 +125,11 @@ class Logs(unittest.TestCase):
             with self.subTest(expected):
                 self.assertIsNotNone(log_difference(expected.split(), lines.split()))
 
-    def test_a_difference_shows_what_is_wanted_and_what_is_there(self):
+    def test_a_difference_shows_the_expected_and_the_logged_lines(self):
         shown = "\n".join(log_difference(["...", "a", "b", "..."], ["x", "a", "c", "d"]))
-        self.assertIn("as wanted a", shown)
-        self.assertIn("wanted    b", shown)
-        self.assertIn("log       c", shown)
+        self.assertIn("as expected a", shown)
+        self.assertIn("expected    b", shown)
+        self.assertIn("log         c", shown)
 
 
 if __name__ == "__main__":

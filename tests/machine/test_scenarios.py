@@ -1,5 +1,5 @@
-"""Runs the scenarios: every folder in "scenarios" is a test of its name. README.md there says what a folder
-holds."""
+"""Runs the scenarios: each folder in "scenarios" is a test with its name. scenarios/README.md describes its
+files."""
 
 import contextlib
 import difflib
@@ -8,40 +8,35 @@ import shutil
 import unittest
 from pathlib import Path
 
-from machine_case import BUILD, SCRIPTED_TOOL, MachineCase, log_lines
+from guarded_program import GUARDED, GuardedProgram
+from machine_case import BUILD, SCRIPTED_TOOL, MachineCase, log_lines, new_machine
 from scenario import FileLine, Run, log_difference, read_scenario
-from test_process_guard import GUARDED, Program
-from winemachine import TRANSLATORS_KEY, Machine, make_template, value_of
+from winemachine import TRANSLATORS_KEY, value_of
 
 SCENARIOS = Path(__file__).resolve().parent / "scenarios"
 
-# What a run makes on its way and takes away again, by the ends of the names.
-PASSING = ("work.bat", "FileAssociations.reg", ".nvxpart")
+# The endings of temporary files, which a run deletes.
+TEMPORARY = ("work.bat", "FileAssociations.reg", ".nvxpart")
 
 
 class Scenarios(MachineCase):
-    """The methods are made below, one a folder. Each has a machine of its own."""
+    """_add_tests adds a method for each folder. Each test has its own machine."""
 
     @classmethod
     def setUpClass(cls):
-        cls.template = make_template(BUILD / "wine-template")
+        """Each test makes its machine."""
 
     @classmethod
     def tearDownClass(cls):
-        """Every test has taken its machine away."""
+        """Each test has deleted its machine."""
 
-    def setUp(self):
-        self.machine = Machine.create(BUILD / "machines" / self._testMethodName, self.template)
+    def run_scenario(self, folder):
+        scenario = read_scenario(folder)
+        self.machine = new_machine(self._testMethodName, scenario.locale)
         self.addCleanup(shutil.rmtree, self.machine.prefix)
         self.addCleanup(self.machine.stop)
         self.marks = 0
-        self.put = {}  # what lies on the machine by our hand: {path: contents}
-
-    def play(self, folder):
-        scenario = read_scenario(folder)
-        if scenario.locale != self.machine.locale:
-            self.machine.locale = scenario.locale
-            self.machine.locale_folder = BUILD / "locales"
+        self.written = {}  # files of the scenario: {path: contents}
         self.prepare(scenario)
         with contextlib.ExitStack() as held:
             programs = [(p, self.start(p)) for p in scenario.processes]
@@ -51,7 +46,7 @@ class Scenarios(MachineCase):
                 if isinstance(step, Run):
                     self.run_once(scenario, step)
                 else:
-                    self.do(step)
+                    self.change(step)
                     self.hold(step, held)
         for process, program in programs:
             with self.subTest(process.path):
@@ -67,17 +62,17 @@ class Scenarios(MachineCase):
     def prepare(self, scenario):
         self.put_product(scenario.install_dir)
         for line in scenario.before:
-            self.do(line)
+            self.change(line)
         if scenario.script:
             self.machine.import_script(scenario.script)
 
-    def do(self, line: FileLine):
-        """Changes the machine as a line of files-before.txt says."""
+    def change(self, line: FileLine):
+        """Changes the machine by a line of files-before.txt."""
         path = self.machine.path(line.path)
         if line.word == "folder":
             path.mkdir(parents=True, exist_ok=True)
         elif line.word == "without":
-            self.assertTrue(path.exists(), "the product has no " + line.path)
+            self.assertTrue(path.exists(), "the product has no file " + line.path)
             shutil.rmtree(path) if path.is_dir() else path.unlink()
         elif line.word == "protected":
             path.chmod(0o444)
@@ -89,7 +84,7 @@ class Scenarios(MachineCase):
             self.write(line.path + ".script", line.contents)
         elif line.word == "file":
             self.write(line.path, line.contents)
-            self.put[line.path] = line.contents
+            self.written[line.path] = line.contents
 
     def hold(self, line, held):
         if line.word == "held":
@@ -99,26 +94,25 @@ class Scenarios(MachineCase):
     def start(self, process):
         name = process.path.rpartition("\\")[2].lower()
         source = next(p for p in (GUARDED / "product").iterdir() if p.name.lower() == name)
-        return Program(self.machine, process.path, source)
+        return GuardedProgram(self.machine, process.path, source)
 
     def run_once(self, scenario, run):
         program = scenario.install_dir + "\\NVXConfig.exe"
         folder = run.folder
         if folder:
             self.machine.path(folder).mkdir(parents=True, exist_ok=True)
-        answer = self.machine.run(program, *run.tokens, folder=folder)
-        self.assertEqual(answer.returncode, 0, (run.tokens, answer.stdout[-2000:]))
-        self.assert_nothing_passing_is_left()
+        done = self.machine.run(program, *run.tokens, folder=folder)
+        self.assertEqual(done.returncode, 0, (run.tokens, done.stdout[-2000:]))
+        self.assert_no_temporary_file_is_left()
 
-    def assert_nothing_passing_is_left(self):
+    def assert_no_temporary_file_is_left(self):
         for place, folders, names in os.walk(self.machine.path("C:\\")):
             folders[:] = [name for name in folders if name != "windows"]
-            left = [name for name in names if name.endswith(PASSING)]
+            left = [name for name in names if name.endswith(TEMPORARY)]
             self.assertEqual(left, [], place)
 
     def assert_log(self, scenario):
-        log = self.machine.path(scenario.install_dir + "\\NVXConfig.log")
-        lines = log_lines(log) if log.is_file() else []
+        lines = log_lines(self.machine.path(scenario.install_dir + "\\NVXConfig.log"))
         difference = log_difference(scenario.log, lines)
         with self.subTest("the log"):
             if difference:
@@ -129,15 +123,15 @@ class Scenarios(MachineCase):
         if expectation.name is None:
             key = expectation.key.lower()
             found = [path for path in registry if (path.lower() + "\\").startswith(key + "\\")]
-            self.assertEqual(bool(found), expectation.is_there, f"{shown}: {found}")
+            self.assertEqual(bool(found), expectation.exists, f"{shown}: {found}")
         else:
             found = value_of(registry, expectation.key, expectation.name)
             self.assertEqual(found, expectation.text, shown)
 
     def assert_files(self, after):
         named = {line.path.lower(): line for line in after}
-        for path, contents in self.put.items():
-            if path.lower() not in named and not is_told_to_be_gone(path, named):
+        for path, contents in self.written.items():
+            if path.lower() not in named and not must_be_deleted(path, named):
                 with self.subTest(path):
                     self.assert_contents(path, contents)
         for line in after:
@@ -147,30 +141,30 @@ class Scenarios(MachineCase):
     def assert_file(self, line):
         path = self.machine.path(line.path)
         if line.word == "nothing":
-            self.assertFalse(path.exists(), "is there: " + line.path)
+            self.assertFalse(path.exists(), "exists: " + line.path)
         elif line.word == "folder":
-            self.assertTrue(path.is_dir(), "is no folder: " + line.path)
+            self.assertTrue(path.is_dir(), "is not a folder: " + line.path)
         elif line.word == "only":
-            self.assertTrue(path.is_dir(), "is no folder: " + line.path)
+            self.assertTrue(path.is_dir(), "is not a folder: " + line.path)
             self.assertEqual(sorted(p.name for p in path.iterdir()), sorted(line.names))
         elif line.like:
             self.assert_contents(line.path, self.machine.path(line.like).read_bytes())
         elif line.contents is not None:
             self.assert_contents(line.path, line.contents)
         else:
-            self.assertTrue(path.is_file(), "is no file: " + line.path)
+            self.assertTrue(path.is_file(), "is not a file: " + line.path)
 
     def assert_contents(self, windows_path, expected):
         path = self.machine.path(windows_path)
-        self.assertTrue(path.is_file(), "is no file: " + windows_path)
+        self.assertTrue(path.is_file(), "is not a file: " + windows_path)
         found = path.read_bytes()
         if found != expected:
             difference = "\n".join(difflib.ndiff(_shown(expected), _shown(found)))
-            self.fail(f"{windows_path}: - as wanted, + as found\n{difference}")
+            self.fail(f"{windows_path}: - expected, + found\n{difference}")
 
 
-def is_told_to_be_gone(path, named):
-    """Whether one of the folders around a file is to be gone, or is to hold other names only."""
+def must_be_deleted(path, named):
+    """Whether a folder that contains the file must not exist, or must contain other names only."""
     for at, character in enumerate(path):
         folder = named.get(path[:at].lower()) if character == "\\" else None
         if folder and folder.word == "nothing":
@@ -181,13 +175,13 @@ def is_told_to_be_gone(path, named):
 
 
 def _shown(contents):
-    """The lines of a file with all that is invisible in them."""
+    """The lines of a file with their invisible characters escaped."""
     return [ascii(line)[2:-1] for line in contents[:20000].splitlines(keepends=True)]
 
 
 def _add_tests():
     def test_of(folder):
-        return lambda case: case.play(folder)
+        return lambda case: case.run_scenario(folder)
 
     for folder in sorted(folder for folder in SCENARIOS.iterdir() if folder.is_dir()):
         setattr(Scenarios, "test_" + folder.name, test_of(folder))

@@ -3,7 +3,7 @@
 import re
 import unittest
 
-from machine_case import COMPLETE, MachineCase
+from machine_case import COMPLETE, LOG, SHORTCUT, USER_KEY, MachineCase
 from winemachine import (
     ENVIRONMENT_KEY,
     INSTALL_DIR,
@@ -14,13 +14,11 @@ from winemachine import (
 )
 
 MERTLE = TRANSLATORS + "\\NVX_MertleServer"
-LOCALE_KEY = "HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"
-SHORTCUT = "C:\\users\\Public\\Desktop\\Velmora NVX 2017.lnk"
 BANNER = "   0 " + "=" * 77
 
 
 def titles(lines, beginnings):
-    """The lines that begin with one of the beginnings, each cut to it."""
+    """For each line that begins with one of the beginnings, that beginning."""
     return [b for line in lines for b in beginnings if line.startswith(b)]
 
 
@@ -49,12 +47,12 @@ class SilentInstall(MachineCase):
     def text_at(self, windows_path):
         return self.machine.path(windows_path).read_text(encoding="utf-8")
 
-    def test_ends_with_exit_status_0_and_the_last_line(self):
+    def test_the_runs_exit_with_0(self):
         for code, lines in (self.first, self.second, self.removal):
             self.assertEqual(code, 0)
         self.assertTrue(self.first[1][-1].startswith("   0 "))
 
-    def test_steps_are_logged_in_their_order_in_the_users_language(self):
+    def test_the_start_is_logged_in_order(self):
         order = [
             BANNER,
             "   0 Program startup - NVX 2017 DIR== " + INSTALL_DIR,
@@ -70,7 +68,7 @@ class SilentInstall(MachineCase):
         ]
         self.assertEqual(titles(self.first[1], order), order)
 
-    def test_the_run_speaks_the_users_language(self):
+    def test_the_steps_are_logged_in_the_users_language(self):
         for line in (
             "   0 Installation der Tutorials",
             "   0 Installation von Python (lokal für NVX)",
@@ -79,7 +77,7 @@ class SilentInstall(MachineCase):
             self.assertIn(line, self.first[1])
         self.assertNotIn(COMPLETE, self.first[1])
 
-    def test_what_was_unpacked_is_there_and_what_was_old_is_gone(self):
+    def test_the_archives_are_unpacked_and_old_files_deleted(self):
         for path in (
             TUTORIALS + "\\First steps\\01 Pipe bend.txt",
             TUTORIALS + "\\Äußere Strömung\\Tragflügel.txt",
@@ -102,16 +100,16 @@ class SilentInstall(MachineCase):
         left = [path for path in self.removal_files if path.endswith("work.bat")]
         self.assertEqual(left, [])
 
-    def test_language_files_are_those_of_the_language(self):
+    def test_the_files_of_the_language_are_installed(self):
         for name in ("VistrelResources.dll", "VelmoraApplicationFrameRes.dll"):
             self.assertEqual(
                 self.first_files[INSTALL_DIR + "\\" + name],
                 self.first_files[INSTALL_DIR + "\\de-DE\\" + name],
             )
         self.assertNotIn(INSTALL_DIR + "\\matprop.new", self.first_files)
-        self.assertEqual(value_of(self.first_registry, LOCALE_KEY, "Locale"), "de-DE")
+        self.assertEqual(value_of(self.first_registry, USER_KEY, "Locale"), "de-DE")
 
-    def test_configuration_fits_the_machine(self):
+    def test_the_parallel_configuration_matches_the_machine(self):
         lines = dict(
             line.split(" = ") for line in self.text_at(SHARED_DATA + "\\NVX2_config.nvxcfg").splitlines()
         )
@@ -131,8 +129,8 @@ class SilentInstall(MachineCase):
         self.assertEqual(len(bare), 1, self.first[1])
 
     def test_a_second_install_equals_the_first(self):
-        # The log grows, and a shortcut holds when its program was looked at last.
-        changing = (INSTALL_DIR + "\\NVXConfig.log", SHORTCUT)
+        # The log grows, and a shortcut holds the time when its program was last accessed.
+        changing = (LOG, SHORTCUT)
         self.assertEqual(self.first_files.keys(), self.second_files.keys())
         for path, found in self.first_files.items():
             if path not in changing:
@@ -142,30 +140,30 @@ class SilentInstall(MachineCase):
         self.assertEqual(self.second[1].count(BANNER), 2)
         self.assertEqual(self.second[1][: len(self.first[1])], self.first[1])
 
-    def test_the_shortcut_is_there_until_the_removal(self):
+    def test_the_shortcut_exists_until_the_removal(self):
         self.assertIn(SHORTCUT, self.second_files)
         self.assertNotIn(SHORTCUT, self.removal_files)
 
-    def test_removal_leaves_what_is_not_ours(self):
+    def test_removal_leaves_only_the_configuration_and_the_log(self):
         self.assertNotIn(INSTALL_DIR + "\\Python\\mine.txt", self.removal_files)
         for path in self.removal_files:
             self.assertFalse(path.startswith(TUTORIALS), path)
             self.assertFalse(path.startswith(INSTALL_DIR + "\\Python"), path)
             self.assertFalse(path.startswith(MERTLE), path)
-        # The parallel configuration and its folder stay, as does the log.
+        # These stay.
         self.assertIn(SHARED_DATA + "\\NVX2_config.nvxcfg", self.removal_files)
         self.assertIn(SHARED_DATA + "\\HPCAnalyze\\", self.removal_files)
-        self.assertIn(INSTALL_DIR + "\\NVXConfig.log", self.removal_files)
+        self.assertIn(LOG, self.removal_files)
         self.assertNotIn(SHARED_DATA + "\\NVX_flags.txt", self.removal_files)
 
-    def test_removal_takes_the_variables_of_this_release_only(self):
+    def test_removal_deletes_the_variables_of_this_release_only(self):
         for name in ("OSTRADE", "OSTRADE2017DIR", "OSTRADE2017TEMP"):
             self.assertIsNone(value_of(self.removal_registry, ENVIRONMENT_KEY, name))
         self.assertEqual(value_of(self.removal_registry, ENVIRONMENT_KEY, "OSTRADE2016DIR"), INSTALL_DIR)
 
 
 class EnglishInstall(MachineCase):
-    def test_the_whole_log_is_in_the_order_of_the_run(self):
+    def test_the_log_is_in_the_order_of_the_run(self):
         self.put_product(translators=TRANSLATORS)
         code, lines = self.configure(INSTALL_DIR, "-I", "-S", "-Len-US")
         self.assert_complete(code, lines)

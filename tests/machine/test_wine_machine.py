@@ -1,5 +1,5 @@
-"""The test machines themselves: a program that is started does its work, whatever the machine's server was
-doing before, and what a program has written is there afterwards."""
+"""The test machines themselves: a program always runs, whatever the machine's server was doing before, and
+what it wrote is there afterwards."""
 
 import contextlib
 import os
@@ -13,9 +13,9 @@ import unittest
 from pathlib import Path
 from unittest import mock
 
-from machine_case import BUILD, SCRIPTED_TOOL
+from machine_case import SCRIPTED_TOOL, new_machine, wait_until
 import winemachine
-from winemachine import Machine, MachineError, make_template, value_of
+from winemachine import Machine, MachineError, value_of
 
 TOOLS = Path(winemachine.__file__).parent
 KEY = "HKEY_CURRENT_USER\\Software\\Tried"
@@ -23,29 +23,27 @@ KEY = "HKEY_CURRENT_USER\\Software\\Tried"
 
 class WineMachine(unittest.TestCase):
     def setUp(self):
-        self.template = make_template(BUILD / "wine-template")
-        self.machine = Machine.create(BUILD / "machines" / self.id(), self.template)
+        self.machine = new_machine(self.id())
         self.addCleanup(shutil.rmtree, self.machine.prefix)
         self.addCleanup(self.end_programs)
         self.addCleanup(self.machine.stop)
 
     def end_programs(self):
-        """Ends the programs that a server left which was killed, or slept when it should have ended them."""
+        """Ends the programs that are left when a test has killed or suspended the server."""
         for program in self.machine.programs():
             with contextlib.suppress(ProcessLookupError):
                 os.kill(program, signal.SIGKILL)
 
     @contextlib.contextmanager
     def foreign_server(self, *options):
-        """A server of the machine that this process did not start through it."""
+        """A server of the machine that `Machine` did not start."""
         command = ["wineserver", "--foreground", *options]
         environment = self.machine.environment()
         server = subprocess.Popen(
             command, env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL
         )
         try:
-            while server.poll() is None and not winemachine._is_listening(server):
-                time.sleep(0.01)
+            wait_until("the server", lambda: server.poll() is not None or winemachine._is_listening(server))
             yield server
         finally:
             if server.poll() is None:
@@ -60,7 +58,7 @@ class WineMachine(unittest.TestCase):
             command = ["wine", "cmd", "/c", "exit"]
             with self.machine.program_settings():
                 environment = self.machine.environment()
-                # The machine's services get its output too, and could keep a pipe of ours open.
+                # The machine's services inherit its output, and would keep a pipe open.
                 subprocess.run(
                     command,
                     env=environment,
@@ -69,16 +67,16 @@ class WineMachine(unittest.TestCase):
                     stderr=subprocess.DEVNULL,
                 )
             time.sleep(2)
-            # It sleeps over the moment at which it gives up; a program that connects now would be dropped.
+            # The server is suspended at its time-out; a program that connects now would be dropped.
             os.kill(server.pid, signal.SIGSTOP)
-            awake = threading.Timer(3, os.kill, (server.pid, signal.SIGCONT))
-            awake.start()
+            resume = threading.Timer(3, os.kill, (server.pid, signal.SIGCONT))
+            resume.start()
             self.machine.set_value(KEY, "kept", "x")
-            awake.join()
+            resume.join()
         self.assertEqual(self.value("kept"), "x")
 
     def test_the_server_of_a_deleted_folder_with_the_same_inode_serves_no_other_machine(self):
-        # The folder moves, which leaves it its inode; the server goes on with what it has read.
+        # A moved folder keeps its inode; the server continues with the registry that it has read.
         moved = Machine(str(self.machine.prefix) + " moved")
         with self.foreign_server("-p") as server:
             os.rename(self.machine.prefix, moved.prefix)
@@ -91,7 +89,7 @@ class WineMachine(unittest.TestCase):
     def test_a_server_that_finds_another_at_its_socket_has_not_started(self):
         with self.foreign_server("-p") as server:
             self.assertTrue(winemachine._is_listening(server))
-            # One that has only just entered the folder of the sockets, as a second server does.
+            # A second server that has just changed to the folder of the socket.
             newcomer = subprocess.Popen(["sleep", "60"], cwd=f"/proc/{server.pid}/cwd")
             try:
                 self.assertFalse(winemachine._is_listening(newcomer))
@@ -99,7 +97,7 @@ class WineMachine(unittest.TestCase):
                 newcomer.kill()
                 newcomer.wait()
 
-    def test_nothing_is_lost_between_programs_however_long_they_are_apart(self):
+    def test_the_registry_survives_any_pause_between_programs(self):
         for number, pause in enumerate((0, 0.4, 0.5, 3.2)):
             time.sleep(pause)
             self.machine.set_value(KEY, str(number), "x")
@@ -115,7 +113,7 @@ class WineMachine(unittest.TestCase):
         )
 
     def test_the_addresses_of_programs_are_not_random(self):
-        # The page that each program needs could be taken otherwise.
+        # A random address may take the page that each program needs.
         ADDR_NO_RANDOMIZE = 0x0040000
         shutil.copy(SCRIPTED_TOOL, self.machine.path("C:\\tool.exe"))
         self.machine.path("C:\\tool.exe.script").write_text("mark C:\\runs\nwait C:\\runs")
@@ -123,8 +121,7 @@ class WineMachine(unittest.TestCase):
         for start in (self.machine.start, self.start_by_wine_run):
             with self.subTest(start.__name__):
                 process = start("C:\\tool.exe")
-                while not runs.exists() and process.poll() is None:
-                    time.sleep(0.01)
+                wait_until("the program", lambda: runs.exists() or process.poll() is not None)
                 programs = self.machine.programs()
                 personalities = {
                     command: int(Path(f"/proc/{pid}/personality").read_text(), 16)
@@ -138,14 +135,14 @@ class WineMachine(unittest.TestCase):
                 random = [name for name, value in personalities.items() if not value & ADDR_NO_RANDOMIZE]
                 self.assertEqual(random, [])
 
-    def test_a_program_that_the_server_drops_is_reported(self):
-        complaint = "Protocol error:0020: partial read 3"
+    def test_a_dropped_program_is_reported(self):
+        message = "Protocol error:0020: partial read 3"
         self.machine.start_up()
-        self.machine._server_errors.write(complaint.encode())
-        with self.assertRaisesRegex(MachineError, complaint):
+        self.machine._server_errors.write(message.encode())
+        with self.assertRaisesRegex(MachineError, message):
             self.machine.stop()
 
-    def test_an_imported_script_is_there_to_its_last_value(self):
+    def test_every_value_of_a_script_is_imported(self):
         names = [f"value {number}" for number in range(200)]
         values = "\n".join(f'"{name}"="größe 日本"' for name in names)
         header = "Windows Registry Editor Version 5.00\n\n"
@@ -153,11 +150,11 @@ class WineMachine(unittest.TestCase):
         registry = self.machine.registry()
         self.assertEqual({value_of(registry, KEY, name) for name in names}, {"größe 日本"})
 
-    def test_a_script_that_the_registry_editor_does_not_import_is_reported(self):
+    def test_a_script_that_is_not_imported_is_reported(self):
         with self.assertRaises(MachineError):
             self.machine.import_script(f'[{KEY}]\n"no header"="x"\n')
 
-    def test_a_program_that_outlives_its_timeout_is_named_and_ended(self):
+    def test_a_program_is_named_and_ended_at_its_timeout(self):
         shutil.copy(SCRIPTED_TOOL, self.machine.path("C:\\tool.exe"))
         self.machine.path("C:\\tool.exe.script").write_text("sleep 100000")
         with self.assertRaises(subprocess.TimeoutExpired) as caught:
@@ -165,7 +162,7 @@ class WineMachine(unittest.TestCase):
         self.assertIn("C:\\tool.exe", "".join(caught.exception.__notes__))
         self.assertEqual(self.machine.programs(), {})
 
-    def test_a_machine_whose_server_was_killed_says_so(self):
+    def test_a_killed_server_is_reported(self):
         self.machine.start_up()
         self.machine._server.kill()
         self.machine._server.wait()
@@ -174,13 +171,13 @@ class WineMachine(unittest.TestCase):
         with self.assertRaises(MachineError):
             self.machine.stop()
 
-    def test_a_machine_on_which_no_program_runs_has_not_started(self):
-        answer = subprocess.CompletedProcess([], 1, stdout=b"")
-        with mock.patch.object(Machine, "run", return_value=answer):
+    def test_a_machine_that_cannot_run_a_program_has_not_started(self):
+        failed = subprocess.CompletedProcess([], 1, stdout=b"")
+        with mock.patch.object(Machine, "run", return_value=failed):
             with self.assertRaises(MachineError):
                 self.machine.start_up()
 
-    def test_a_server_ends_with_the_process_that_started_it_and_saves_the_registry(self):
+    def test_a_server_saves_the_registry_and_ends_with_its_parent_process(self):
         script = (
             "import os, sys; sys.path.insert(0, sys.argv[1]); from winemachine import Machine\n"
             "machine = Machine(sys.argv[2]); machine.set_value(sys.argv[3], 'kept', 'x')\n"
@@ -188,9 +185,7 @@ class WineMachine(unittest.TestCase):
         )
         command = [sys.executable, "-B", "-c", script, TOOLS, self.machine.prefix, KEY]
         subprocess.run(command, check=True)
-        deadline = time.monotonic() + 60
-        while self.machine.programs() and time.monotonic() < deadline:
-            time.sleep(0.05)
+        wait_until("the programs to end", lambda: not self.machine.programs(), 60)
         self.assertEqual(self.machine.programs(), {})
         self.assertEqual(self.value("kept"), "x")
 

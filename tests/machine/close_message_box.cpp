@@ -1,8 +1,8 @@
-// Closes a box that a program shows, as its close button does: answer_box TITLE MARK
+// Closes a program's message box as its close button does: close_message_box TITLE MARK
 //
-// Waits for a window with that title, at the latest for four minutes, makes the file MARK when it is there,
-// and closes it as soon as somebody has taken the file away. Answers 1 when none came, 2 when it would not
-// close.
+// Waits up to four minutes for a window with that title, creates the file MARK when it appears, and closes it
+// once MARK has been deleted. Exits with 1 if no such window appeared, 2 if it did not close, 3 for wrong
+// arguments.
 
 #include <array>
 #include <string>
@@ -17,7 +17,7 @@ struct Search
     HWND found;
 };
 
-BOOL CALLBACK look(HWND window, LPARAM parameter)
+BOOL CALLBACK compareTitle(HWND window, LPARAM parameter)
 {
     auto &search = *reinterpret_cast<Search *>(parameter);
     std::array<wchar_t, 256> title{};
@@ -28,10 +28,10 @@ BOOL CALLBACK look(HWND window, LPARAM parameter)
     return FALSE;
 }
 
-HWND boxWith(const std::wstring &title)
+HWND windowWithTitle(const std::wstring &title)
 {
     Search search{title, nullptr};
-    EnumWindows(look, reinterpret_cast<LPARAM>(&search));
+    EnumWindows(compareTitle, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 
@@ -41,19 +41,19 @@ int wmain(int argc, wchar_t **argv)
 {
     if (argc != 3)
         return 3;
-    HWND box = nullptr;
-    for (int waits = 0; waits < 2400 && !box; ++waits) {
+    HWND messageBox = nullptr;
+    for (int waits = 0; waits < 2400 && !messageBox; ++waits) {
         Sleep(100);
-        box = boxWith(argv[1]);
+        messageBox = windowWithTitle(argv[1]);
     }
-    if (!box)
+    if (!messageBox)
         return 1;
     CloseHandle(CreateFileW(argv[2], GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
     for (int waits = 0; waits < 1200 && GetFileAttributesW(argv[2]) != INVALID_FILE_ATTRIBUTES; ++waits)
         Sleep(50);
-    for (int tries = 0; tries < 100 && IsWindow(box); ++tries) {
-        PostMessageW(box, WM_CLOSE, 0, 0);
+    for (int tries = 0; tries < 100 && IsWindow(messageBox); ++tries) {
+        PostMessageW(messageBox, WM_CLOSE, 0, 0);
         Sleep(100);
     }
-    return IsWindow(box) ? 2 : 0;
+    return IsWindow(messageBox) ? 2 : 0;
 }
