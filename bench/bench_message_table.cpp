@@ -1,6 +1,6 @@
-// How long message tables and translation tables take, beside the bare reader and writer on the same bytes.
-// Arguments: numbers of messages, by default 1000 10000 100000 1000000. Each number is measured in a process
-// of its own, so that none finds the memory as another left it.
+// Measures message tables and translation tables, compared with Qt's XML reader and writer on the same bytes.
+// Arguments: numbers of messages, by default 1000 10000 100000 1000000. Each number is measured in a separate
+// process, so that the memory of one measurement does not affect the next.
 
 #include "clt_message_table.h"
 #include "clt_message_table_xml.h"
@@ -18,14 +18,16 @@
 
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Clt::Message;
 using Clt::MessageTable;
 
 constexpr int messagesPerContext = 12;
-const QString tableName = QStringLiteral("table.xml");
-const QString oneOption = QStringLiteral("--one");
+const QString tableName = u"table.xml"_s;
+const QString oneOption = u"--one"_s;
 
 Message messageOf(int number)
 {
@@ -33,17 +35,13 @@ Message messageOf(int number)
     message.setSeverity(static_cast<Clt::Severity>(number % 5));
     message.setState(static_cast<Clt::MessageState>(number % 3));
     const int context = number / messagesPerContext;
-    message.setKey({QStringLiteral("MESSAGE_TAG_%1").arg(number, 7, 10, QLatin1Char('0')),
-                    QStringLiteral("Clt::Component%1::handleRequest").arg(context, 6, 10, QLatin1Char('0')),
-                    QStringLiteral("client")});
-    message.setTitle(QStringLiteral("Title of message %1").arg(number));
-    message.setText(
-        QStringLiteral("The value %1 of the boundary condition number %2 lies outside the range that "
-                       "the turbulence model allows.")
-            .arg(QStringLiteral("%1"))
-            .arg(number));
-    message.setAction(
-        QStringLiteral("Choose a value within the range, then run the analysis %1 again.").arg(number));
+    message.setKey({u"MESSAGE_TAG_%1"_s.arg(number, 7, 10, u'0'),
+                    u"Clt::Component%1::handleRequest"_s.arg(context, 6, 10, u'0'), u"client"_s});
+    message.setTitle(u"Title of message %1"_s.arg(number));
+    message.setText(u"The value %1 of the boundary condition number %2 lies outside the range that "
+                    "the turbulence model allows."_s.arg(u"%1"_s)
+                        .arg(number));
+    message.setAction(u"Choose a value within the range, then run the analysis %1 again."_s.arg(number));
     message.setSolution(number % 7);
     return message;
 }
@@ -60,7 +58,7 @@ void readTokens(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read what was written");
+        qFatal("cannot read the written file");
     QXmlStreamReader xml(&file);
     while (!xml.atEnd())
         xml.readNext();
@@ -72,7 +70,7 @@ struct Element
     QString text;
 };
 
-/// One message as the elements that its writing makes.
+/// The elements of one written message.
 struct Elements
 {
     QString severity;
@@ -83,20 +81,20 @@ struct Elements
 Elements elementsOf(const Message &message)
 {
     Elements elements{Clt::severityToText(message.severity()),
-                      {{QStringLiteral("process"), message.key().process},
-                       {QStringLiteral("context"), message.key().context},
-                       {QStringLiteral("tag"), message.key().tag}},
+                      {{u"process"_s, message.key().process},
+                       {u"context"_s, message.key().context},
+                       {u"tag"_s, message.key().tag}},
                       {}};
     const bool critical = message.severity() == Clt::Severity::Critical;
     if (critical || message.severity() == Clt::Severity::Question)
-        elements.texts.push_back({QStringLiteral("title"), message.title()});
-    elements.texts.push_back({QStringLiteral("text"), message.text()});
+        elements.texts.push_back({u"title"_s, message.title()});
+    elements.texts.push_back({u"text"_s, message.text()});
     if (critical)
-        elements.texts.push_back({QStringLiteral("action"), message.action()});
+        elements.texts.push_back({u"action"_s, message.action()});
     if (message.state() != Clt::MessageState::InSync)
-        elements.texts.push_back({QStringLiteral("state"), Clt::stateToText(message.state())});
+        elements.texts.push_back({u"state"_s, Clt::stateToText(message.state())});
     if (message.solution() != 0)
-        elements.texts.push_back({QStringLiteral("solution"), QString::number(message.solution())});
+        elements.texts.push_back({u"solution"_s, QString::number(message.solution())});
     return elements;
 }
 
@@ -109,11 +107,11 @@ void writeElements(const std::vector<Elements> &messages, const QString &fileNam
     xml.setAutoFormatting(true);
     xml.setAutoFormattingIndent(3);
     xml.writeStartDocument();
-    xml.writeStartElement(QStringLiteral("messageTable"));
+    xml.writeStartElement(u"messageTable"_s);
     for (const Elements &message : messages) {
-        xml.writeStartElement(QStringLiteral("message"));
-        xml.writeAttribute(QStringLiteral("severity"), message.severity);
-        xml.writeStartElement(QStringLiteral("key"));
+        xml.writeStartElement(u"message"_s);
+        xml.writeAttribute(u"severity"_s, message.severity);
+        xml.writeStartElement(u"key"_s);
         for (const Element &element : message.key)
             xml.writeTextElement(element.name, element.text);
         xml.writeEndElement();
@@ -130,12 +128,12 @@ Bench::Pair measureLoad(const QString &fileName)
         [&fileName] {
             MessageTable table;
             if (!table.load(fileName))
-                qFatal("cannot load what was written");
+                qFatal("cannot load the written file");
         },
         [&fileName] { readTokens(fileName); });
 }
 
-// Each save changes one text, so that each time the whole file is compared and written.
+// Each save changes one text, so that the file is compared and written each time.
 Bench::Pair measureSave(MessageTable &table, const QString &fileName, const QString &peerFileName)
 {
     std::vector<Elements> elements;
@@ -145,7 +143,7 @@ Bench::Pair measureSave(MessageTable &table, const QString &fileName, const QStr
     int run = 0;
     return Bench::sideBySide(
         [&] {
-            last.setText(QStringLiteral("run %1").arg(run++));
+            last.setText(u"run %1"_s.arg(run++));
             table.insert(last);
             if (!table.save(fileName))
                 qFatal("cannot save");
@@ -153,7 +151,7 @@ Bench::Pair measureSave(MessageTable &table, const QString &fileName, const QStr
         [&] { writeElements(elements, peerFileName); });
 }
 
-/// Nanoseconds per message, with an empty translation table and then with the one that this made.
+/// Nanoseconds per message, with an empty translation table and with the resulting one.
 struct Feeding
 {
     double first = 0;
@@ -203,19 +201,19 @@ void measure(int count, const QDir &folder, QTextStream &out)
     const double before = Bench::peakMemory();
     MessageTable table;
     if (!table.load(fileName))
-        qFatal("cannot load what was written");
+        qFatal("cannot load the written file");
     const double memory = Bench::peakMemory() - before;
 
     const Feeding feeding = measureFeeding(table);
     const Bench::Pair load = measureLoad(fileName);
-    const Feeding update = measureUpdate(count, fileName, folder.filePath(QStringLiteral("table.ts")));
-    const Bench::Pair save = measureSave(table, fileName, folder.filePath(QStringLiteral("peer.xml")));
+    const Feeding update = measureUpdate(count, fileName, folder.filePath(u"table.ts"_s));
+    const Bench::Pair save = measureSave(table, fileName, folder.filePath(u"peer.xml"_s));
     out << QString::asprintf("%9d %8.1f %8.1f %5.2f %8.1f %8.1f %5.2f %8.0f %6.0f %8.0f %6.0f %7.1f\n", count,
                              load.ours, load.peer, load.ratio(), save.ours, save.peer, save.ratio(),
                              feeding.first, feeding.again, update.first, update.again, memory);
 }
 
-void measureApart(const QStringList &counts)
+void measureInProcesses(const QStringList &counts)
 {
     for (const QString &count : counts) {
         const QTemporaryDir folder;
@@ -240,13 +238,13 @@ int main(int argc, char *argv[])
         return 0;
     }
     if (arguments.isEmpty())
-        arguments = QStringLiteral("1000 10000 100000 1000000").split(QLatin1Char(' '));
+        arguments = u"1000 10000 100000 1000000"_s.split(u' ');
     out << "medians of five: load, save and their peers in ms; feeding a translation table in memory, and "
            "updating\n"
         << "its file from the message table's, in ns per message; memory of the loaded table in MB\n"
         << " messages     load   tokens ratio     save   writer ratio     feed  again   update  again  "
            "memory\n"
         << Qt::flush;
-    measureApart(arguments);
+    measureInProcesses(arguments);
     return 0;
 }

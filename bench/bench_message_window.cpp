@@ -1,5 +1,6 @@
-// How long the Message Table Utility takes to open a table, beside filling a QTableWidget with plain items,
-// and to answer the typing in its filter field. Arguments: numbers of messages, by default 1000 10000 100000.
+// Measures how long the Message Table Utility takes to open a table, compared with filling a QTableWidget
+// with plain items, and to respond to a key in its filter field. Arguments: numbers of messages, by default
+// 1000 10000 100000.
 
 #include "clt_message_table.h"
 #include "measure.h"
@@ -18,6 +19,8 @@
 #include <array>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int columns = 4;
@@ -30,13 +33,10 @@ Clt::Message messageOf(int number)
     Clt::Message message;
     message.setSeverity(Clt::Severity::Warning);
     message.setState(static_cast<Clt::MessageState>(number % 3));
-    message.setKey({QStringLiteral("MESSAGE_TAG_%1").arg(number, 7, 10, QLatin1Char('0')),
-                    QStringLiteral("Clt::Component%1::handleRequest")
-                        .arg(number / messagesPerContext, 6, 10, QLatin1Char('0')),
-                    QStringLiteral("client")});
-    message.setText(QStringLiteral("The value %1 lies outside the range of model %2.")
-                        .arg(QStringLiteral("%1"))
-                        .arg(number));
+    message.setKey({u"MESSAGE_TAG_%1"_s.arg(number, 7, 10, u'0'),
+                    u"Clt::Component%1::handleRequest"_s.arg(number / messagesPerContext, 6, 10, u'0'),
+                    u"client"_s});
+    message.setText(u"The value %1 lies outside the range of model %2."_s.arg(u"%1"_s).arg(number));
     return message;
 }
 
@@ -48,7 +48,7 @@ Clt::MessageTable tableOf(int count)
     return table;
 }
 
-/// What the table shows, as texts of their own.
+/// Copies of the texts that the table shows.
 std::vector<Cells> cellsOf(const Clt::MessageTable &table)
 {
     std::vector<Cells> cells;
@@ -57,7 +57,7 @@ std::vector<Cells> cellsOf(const Clt::MessageTable &table)
     return cells;
 }
 
-/// A shown table widget, to be filled anew each time.
+/// A visible table widget that is filled repeatedly.
 class PlainTable
 {
 public:
@@ -89,14 +89,14 @@ private:
 struct Opening
 {
     double open = 0;  // from the file to the rows on the screen
-    double load = 0;  // reading the file alone
+    double load = 0;  // only reading the file
     double show = 0;  // from the messages to the rows on the screen
     double plain = 0; // filling the table widget
 };
 
 Opening measureOpening(MessageTableUtility &window, const QString &fileName, const std::vector<Cells> &cells)
 {
-    auto *view = window.findChild<Window::MarkedTableView *>(QStringLiteral("tableWidget"));
+    auto *view = window.findChild<Window::MarkedTableView *>(u"tableWidget"_s);
     PlainTable plain;
     Bench::Samples open{};
     Bench::Samples load{};
@@ -108,12 +108,12 @@ Opening measureOpening(MessageTableUtility &window, const QString &fileName, con
         load[run] = Bench::milliseconds([&] {
             Clt::MessageTable table;
             if (!table.load(fileName))
-                qFatal("cannot load what was written");
+                qFatal("cannot load the written file");
         });
         window.newTable();
         open[run] = Bench::milliseconds([&] {
             if (!window.openFile(fileName))
-                qFatal("cannot open what was written");
+                qFatal("cannot open the written file");
             QApplication::processEvents();
         });
         view->showRows(Window::MarkedRows(columns));
@@ -125,11 +125,11 @@ Opening measureOpening(MessageTableUtility &window, const QString &fileName, con
     return {Bench::median(open), Bench::median(load), Bench::median(show), Bench::median(fill)};
 }
 
-/// The slowest key of typing and rubbing out, in the median of the runs.
+/// The slowest key while a filter is typed and deleted, the median of the runs.
 double measureFilter(MessageTableUtility &window)
 {
-    auto *field = window.findChild<QLineEdit *>(QStringLiteral("filterField"));
-    const QString typed = QStringLiteral("TAG_0042zz");
+    auto *field = window.findChild<QLineEdit *>(u"filterField"_s);
+    const QString typed = u"TAG_0042zz"_s;
     Bench::Samples slowest{};
     for (double &sample : slowest) {
         const auto press = [&](const QString &text) {
@@ -150,12 +150,12 @@ double measureFilter(MessageTableUtility &window)
 void measure(int count, QTextStream &out)
 {
     const QTemporaryDir folder;
-    const QString fileName = folder.filePath(QStringLiteral("table.xml"));
+    const QString fileName = folder.filePath(u"table.xml"_s);
     const Clt::MessageTable table = tableOf(count);
     if (!table.save(fileName))
         qFatal("cannot save");
 
-    QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    QSettings settings(folder.filePath(u"settings.ini"_s), QSettings::IniFormat);
     RecordingDialogs dialogs;
     MessageTableUtility window(dialogs, settings);
     window.show();
@@ -174,7 +174,7 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     QStringList counts = QApplication::arguments().mid(1);
     if (counts.isEmpty())
-        counts = QStringLiteral("1000 10000 100000").split(QLatin1Char(' '));
+        counts = u"1000 10000 100000"_s.split(u' ');
     QTextStream out(stdout);
     out << "medians of five, in ms: opening a file; reading it alone; showing the messages that were read; "
            "filling "

@@ -1,13 +1,13 @@
-// How the time per item grows with their number: scanning sources for macros, bringing a message table in
-// step with their keys, and reading a material database and bringing a translation table in step with it.
+// Measures how the time per item depends on the number of items: scanning sources for macros, synchronising a
+// message table with their keys, reading a material database, and synchronising a translation table with it.
 // Argument: the number of items. Prints one line of medians, in nanoseconds per item.
 
 #include "clt_message_table.h"
 #include "materials/mat_material_name.h"
 #include "materials/mat_translation_table.h"
 #include "measure.h"
-#include "scanner/source_scanner.h"
-#include "synchronisation/message_table_update.h"
+#include "scanner/scan_files.h"
+#include "synchronisation/message_table_synchronisation.h"
 #include "translation/error_translation_table.h"
 
 #include <QBuffer>
@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -38,7 +40,7 @@ QStringList writeSources(const QTemporaryDir &folder, int macros)
 {
     QStringList fileNames;
     for (int first = 0; first < macros; first += macrosPerFile) {
-        const QString fileName = folder.filePath(QStringLiteral("%1.cpp").arg(first));
+        const QString fileName = folder.filePath(u"%1.cpp"_s.arg(first));
         QFile file(fileName);
         if (!file.open(QIODevice::WriteOnly))
             qFatal("cannot write");
@@ -62,9 +64,9 @@ Scan::FoundKeys keysIn(const QStringList &fileNames)
     Scan::FoundKeys found;
     const auto receive = [&found](qsizetype, const Scan::SourceScanner &scanner) {
         Scan::addKeys(found, scanner);
-        return Scan::Continuation::GoOn;
+        return Scan::Continuation::Continue;
     };
-    Scan::scanFiles(QStringLiteral("client"), fileNames, receive, 1);
+    Scan::scanFiles(u"client"_s, fileNames, receive, 1);
     return found;
 }
 
@@ -76,7 +78,7 @@ mat::MaterialNames namesIn(const QByteArray &database)
     return mat::readMaterialNames(device);
 }
 
-/// The median of five, in nanoseconds per item.
+/// The median of five runs, in nanoseconds per item.
 template<typename Work>
 double perItem(int items, Work work)
 {
@@ -100,7 +102,7 @@ void measure(int items)
     const double scan = perItem(items, [&] { keysIn(fileNames); });
     const double synchronise = perItem(items, [&] {
         Clt::MessageTable table;
-        Error::synchronizeKeys(table, keys);
+        Synchronisation::synchronizeKeys(table, keys);
     });
     const double read = perItem(items, [&] { namesIn(database); });
     Error::TranslationTable filled;

@@ -1,11 +1,11 @@
-// Where the scanner's time goes: reading the files, searching them for macro names, and parsing them, each
-// alone and on one thread, then all together on more. Argument: a file that lists the source files' paths,
-// one a line.
+// Measures the parts of a scan: reading the files, searching them for macro names, and parsing them, each on
+// one thread; then the whole scan on one and on several threads. Argument: a file with the source files'
+// paths, one per line.
 
 #include "measure.h"
 #include "scanner/macro_finder.h"
-#include "scanner/source_parser.h"
-#include "scanner/source_scanner.h"
+#include "scanner/parser.h"
+#include "scanner/scan_files.h"
 #include "scanner/source_text.h"
 
 #include <QCoreApplication>
@@ -15,6 +15,8 @@
 
 #include <algorithm>
 #include <vector>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -55,7 +57,7 @@ std::size_t countCalls(const std::vector<QByteArray> &texts)
     for (const QByteArray &text : texts) {
         const QByteArray source = Scan::toSourceText(text);
         Scan::Parser parser(viewOf(source));
-        parser.parse();
+        static_cast<void>(parser.parse());
         calls += parser.calls().size();
     }
     return calls;
@@ -63,8 +65,8 @@ std::size_t countCalls(const std::vector<QByteArray> &texts)
 
 void scan(const QStringList &fileNames, int threads)
 {
-    const auto receive = [](qsizetype, const Scan::SourceScanner &) { return Scan::Continuation::GoOn; };
-    Scan::scanFiles(QStringLiteral("client"), fileNames, receive, threads);
+    const auto receive = [](qsizetype, const Scan::SourceScanner &) { return Scan::Continuation::Continue; };
+    Scan::scanFiles(u"client"_s, fileNames, receive, threads);
 }
 
 template<typename Work>

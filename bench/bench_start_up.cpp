@@ -1,5 +1,5 @@
-// From the start of the process to the first page: the wizard in German beside a QWizard of three empty
-// pages. Each start is a process of its own. Prints the medians, in milliseconds.
+// Measures the time from the start of the process to the first page: of the wizard in German, and of a
+// QWizard with three empty pages. Each start is a separate process. Prints the medians, in milliseconds.
 //
 //     bench_start_up
 
@@ -18,9 +18,11 @@
 #include <cstdio>
 #include <cstdlib>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-// A machine that has the product in a folder of its own.
+// A machine with the product in this folder.
 class BenchMachine final : public Nvx::Util::NativeMachine
 {
 public:
@@ -29,14 +31,14 @@ public:
     {
     }
 
-    QString commandLine() const override { return QStringLiteral("NVXConfig.exe -Lde-DE"); }
+    QString commandLine() const override { return u"NVXConfig.exe -Lde-DE"_s; }
     QString executableFolder() const override { return m_folder; }
 
 private:
     QString m_folder;
 };
 
-// Ends the process, successfully, as soon as a wizard has been painted for the first time.
+// Ends the process successfully when a wizard has been painted for the first time.
 class EndAtFirstPage final : public QObject
 {
 public:
@@ -78,23 +80,23 @@ void runChild(const QStringList &arguments)
     child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     child.start(QCoreApplication::applicationFilePath(), arguments);
     if (!child.waitForFinished() || child.exitStatus() != QProcess::NormalExit || child.exitCode() != 0)
-        qFatal("%s did not come to its first page", qPrintable(arguments.first()));
+        qFatal("%s did not reach its first page", qPrintable(arguments.first()));
 }
 
-// The file that stands for the registry is flushed to the disk at every change. The registry's own changes
-// wait for no disk, so the file lies in memory where there is a folder for that.
+// The substitute for the registry flushes its file to the disk at every change. The real registry does not
+// wait for the disk, so the file is in memory if there is a folder for that.
 QString memoryFolder()
 {
-    const auto memory = QStringLiteral("/dev/shm");
-    return (QDir(memory).exists() ? memory : QDir::tempPath()) + QStringLiteral("/bench_start_up");
+    const auto memory = u"/dev/shm"_s;
+    return (QDir(memory).exists() ? memory : QDir::tempPath()) + u"/bench_start_up"_s;
 }
 
-void putLanguages(const QString &folder)
+void copyLanguages(const QString &folder)
 {
-    const auto german = QStringLiteral("de-DE");
+    const auto german = u"de-DE"_s;
     QDir(folder).mkdir(german);
-    for (const auto &name : {QStringLiteral("nvxconfig.qm"), QStringLiteral("qt_de_DE.qm")}) {
-        const QString place = QLatin1Char('/') + german + QLatin1Char('/') + name;
+    for (const auto &name : {u"nvxconfig.qm"_s, u"qt_de_DE.qm"_s}) {
+        const QString place = u'/' + german + u'/' + name;
         if (!QFile::copy(QStringLiteral(NVX_LANGUAGES_FOLDER) + place, folder + place))
             qFatal("no %s", qPrintable(place));
     }
@@ -116,9 +118,9 @@ int main(int argc, char *argv[])
     const QTemporaryDir folder(memoryFolder());
     qputenv("XDG_RUNTIME_DIR", folder.path().toLocal8Bit());
     qputenv("NVX_MACHINE", folder.path().toLocal8Bit());
-    putLanguages(folder.path());
-    const auto wizard = [&] { runChild({QStringLiteral("wizard"), folder.path()}); };
-    const auto empty = [] { runChild({QStringLiteral("empty")}); };
+    copyLanguages(folder.path());
+    const auto wizard = [&] { runChild({u"wizard"_s, folder.path()}); };
+    const auto empty = [] { runChild({u"empty"_s}); };
     wizard(); // warms up
     empty();
     const Bench::Pair pair = Bench::sideBySide(wizard, empty);

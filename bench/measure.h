@@ -15,7 +15,7 @@ using Samples = std::array<double, runs>;
 
 inline double median(Samples samples)
 {
-    std::sort(samples.begin(), samples.end());
+    std::ranges::sort(samples);
     return samples[runs / 2];
 }
 
@@ -29,7 +29,7 @@ double milliseconds(Work work)
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-/// The medians of two pieces of work done in turn, so that what else the machine does falls on both.
+/// The medians of two pieces of work that run alternately, so that other load affects both.
 struct Pair
 {
     double ours = 0;
@@ -49,7 +49,7 @@ Pair sideBySide(Ours ours, Peer peer)
     return {median(ourSamples), median(peerSamples)};
 }
 
-/// The most memory that the process had so far, in megabytes; 0 where the system does not tell.
+/// The process's peak memory so far, in megabytes; 0 if the system does not report it.
 inline double peakMemory()
 {
     QFile status(QStringLiteral("/proc/self/status"));

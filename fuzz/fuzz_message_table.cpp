@@ -1,4 +1,4 @@
-// Reads bytes as a message table. What was read must be written, and read back as it was.
+// Reads bytes as a message table. The result must be writable, and read back unchanged.
 
 #include "clt_message_table.h"
 #include "clt_message_table_xml.h"
@@ -17,7 +17,7 @@ Clt::MessageTable tableOf(const QByteArray &bytes, bool &wellFormed)
     device.setData(bytes);
     device.open(QIODevice::ReadOnly);
     Clt::MessageTable table;
-    wellFormed = Clt::readMessageTable(device, table);
+    wellFormed = bool(Clt::readMessageTable(device, table));
     return table;
 }
 
@@ -39,7 +39,7 @@ QByteArray written(const Clt::MessageTable &table)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
-    // Unknown severities and states are failed assertions, which a table of anybody's may well have.
+    // Ignores failed assertions, because any table may contain unknown severities and states.
     const Nvx::Util::AssertionListener listener([](const Nvx::Util::AssertionFailure &) {});
     bool wellFormed = false;
     const Clt::MessageTable table =

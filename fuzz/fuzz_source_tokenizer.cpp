@@ -1,13 +1,12 @@
-#include "scanner/source_lexis.h"
-#include "scanner/source_tokenizer.h"
+#include "scanner/lexis.h"
+#include "scanner/tokenizer.h"
 
 #include <QString>
 
 #include <cstdlib>
 
-// Any bytes give tokens that rise through the text and end; words are of the kind that their spelling has;
-// and reading as in a body finds the same braces, macro names, conditionals and strings as reading every
-// token.
+// Any bytes give tokens with increasing positions up to the end; words have the kind of their spelling; and
+// reading as in a body finds the same braces, macro names, conditionals and strings as reading every token.
 
 using namespace Scan;
 

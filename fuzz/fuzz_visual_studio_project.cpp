@@ -5,7 +5,9 @@
 
 #include <cstdlib>
 
-// Any bytes are read to an end without a failed assertion, and no file that is not to be scanned is listed.
+using namespace Qt::Literals::StringLiterals;
+
+// Any bytes can be read without a failed assertion, and excluded files are never listed.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
@@ -17,10 +19,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
     if (!project)
         return 0;
     for (const QString &file : project->sourceFiles) {
-        if (file.isEmpty() || file.contains(QLatin1String("libraries"), Qt::CaseInsensitive) ||
-            file.contains(QLatin1String("generatedfiles"), Qt::CaseInsensitive))
+        if (file.isEmpty() || file.contains("libraries"_L1, Qt::CaseInsensitive) ||
+            file.contains("generatedfiles"_L1, Qt::CaseInsensitive))
             std::abort();
-        Scan::sourceFilePath(QStringLiteral("p.vcxproj"), file);
+        Scan::sourceFilePath(u"p.vcxproj"_s, file);
     }
     return 0;
 }

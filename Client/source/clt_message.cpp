@@ -5,13 +5,15 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Clt {
 
 namespace {
 
 using AsciiText = QVarLengthArray<char, 256>;
 
-/// Ended by a NUL. On the stack mostly, for it is made for every text that is read.
+// The text as ASCII with a final NUL. Mostly on the stack, because every text that is read is converted.
 AsciiText toAscii(const QString &text)
 {
     AsciiText ascii(text.size() + 1);
@@ -50,21 +52,21 @@ void Message::applyArguments(const QStringList &arguments)
 
 QString Message::logText() const
 {
-    QString lines = QStringLiteral("### ") + severityToText(m_severity) + QStringLiteral(": ") + m_file +
-                    u' ' + QString::number(m_line) + u'\n';
+    QString lines =
+        u"### "_s + severityToText(m_severity) + u": "_s + m_file + u' ' + QString::number(m_line) + u'\n';
     lines += m_text + u'\n';
     if (m_text != m_sourceText)
-        lines += u'(' + m_sourceText + QStringLiteral(")\n");
+        lines += u'(' + m_sourceText + u")\n"_s;
     return lines;
 }
 
-// The application answers an unknown text with the text that it was asked for, which ASCII may have
-// mutilated; the text itself is then the answer.
+// For a text without a translation, the look-up returns its argument, in which "?" may replace characters.
+// The text itself is then returned.
 QString Message::translated(const QString &text) const
 {
     const AsciiText ascii = toAscii(text);
-    const QString answer = QCoreApplication::translate(toAscii(m_key.context).constData(), ascii.constData());
-    return answer == QLatin1String(ascii.constData()) ? text : answer;
+    const QString found = QCoreApplication::translate(toAscii(m_key.context).constData(), ascii.constData());
+    return found == QLatin1String(ascii.constData()) ? text : found;
 }
 
 } // namespace Clt

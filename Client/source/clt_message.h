@@ -23,10 +23,10 @@ public:
     const MessageKey &key() const { return m_key; }
     void setKey(const MessageKey &key) { m_key = key; }
 
-    // The three text setters store the text as the source form and what the application's translators make of
-    // it, in the key's present context, as the translated form. The look-up is made with context and text
-    // converted to ASCII, "?" for every other UTF-16 code unit; a text that no translator knows is its own
-    // translation. Setting the key later translates nothing anew.
+    // The three text setters store the text as the source form, and its translation by the application's
+    // translators, in the current key's context, as the translated form. The look-up converts context and
+    // text to ASCII, with "?" for every other UTF-16 code unit; a text without a translation is its own
+    // translation. Setting the key later does not translate the texts again.
 
     const QString &title() const { return m_title; }
     const QString &sourceTitle() const { return m_sourceTitle; }
@@ -59,12 +59,12 @@ public:
     qint32 solution() const { return m_solution; }
     void setSolution(qint32 solution) { m_solution = solution; }
 
-    /// Fills the placeholders of both forms of text and action; see Clt::applyArguments. Titles are never
-    /// filled.
+    /// Fills the placeholders of both forms of text and action; see Clt::applyArguments. Titles are not
+    /// changed.
     void applyArguments(const QStringList &arguments);
 
-    /// The lines for a log, each ended by "\n": severity, file and line; the translated text; and, if it is
-    /// another, the source text in parentheses.
+    /// The lines for a log, each ended by "\n": severity, file and line; the translated text; and, if it
+    /// differs, the source text in parentheses.
     QString logText() const;
 
 private:

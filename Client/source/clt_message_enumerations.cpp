@@ -9,6 +9,8 @@
 #include <array>
 #include <iterator>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Clt {
 
 namespace {
@@ -25,47 +27,42 @@ struct Named
 };
 
 constexpr std::array severities{
-    Named<Severity>{Severity::Information, QLatin1String("Information")},
-    Named<Severity>{Severity::Warning, QLatin1String("Warning")},
-    Named<Severity>{Severity::Critical, QLatin1String("Critical")},
-    Named<Severity>{Severity::Status, QLatin1String("Status")},
-    Named<Severity>{Severity::Question, QLatin1String("Question")},
+    Named<Severity>{Severity::Information, "Information"_L1},
+    Named<Severity>{Severity::Warning, "Warning"_L1},
+    Named<Severity>{Severity::Critical, "Critical"_L1},
+    Named<Severity>{Severity::Status, "Status"_L1},
+    Named<Severity>{Severity::Question, "Question"_L1},
 };
 
 constexpr std::array states{
-    Named<MessageState>{MessageState::InSync, QLatin1String("InSync")},
-    Named<MessageState>{MessageState::New, QLatin1String("New")},
-    Named<MessageState>{MessageState::Obsolete, QLatin1String("Obsolete")},
+    Named<MessageState>{MessageState::InSync, "InSync"_L1},
+    Named<MessageState>{MessageState::New, "New"_L1},
+    Named<MessageState>{MessageState::Obsolete, "Obsolete"_L1},
 };
 
-constexpr Named<Answer> noAnswer{Answer::NoAnswer, QLatin1String("NoAnswer")};
+constexpr Named<Answer> noAnswer{Answer::NoAnswer, "NoAnswer"_L1};
 
-// In the order in which a set of answers is turned into text.
+// In the order of their names in a text.
 constexpr std::array answersInOrder{
-    Named<Answer>{Answer::Ok, QLatin1String("Ok")},
-    Named<Answer>{Answer::Yes, QLatin1String("Yes")},
-    Named<Answer>{Answer::No, QLatin1String("No")},
-    Named<Answer>{Answer::Abort, QLatin1String("Abort")},
-    Named<Answer>{Answer::Cancel, QLatin1String("Cancel")},
-    Named<Answer>{Answer::Discard, QLatin1String("Discard")},
+    Named<Answer>{Answer::Ok, "Ok"_L1},         Named<Answer>{Answer::Yes, "Yes"_L1},
+    Named<Answer>{Answer::No, "No"_L1},         Named<Answer>{Answer::Abort, "Abort"_L1},
+    Named<Answer>{Answer::Cancel, "Cancel"_L1}, Named<Answer>{Answer::Discard, "Discard"_L1},
 };
 
 template<typename Table, typename Value>
 QString nameOf(const Table &table, Value value)
 {
-    const auto found = std::find_if(std::begin(table), std::end(table),
-                                    [value](const auto &entry) { return entry.value == value; });
+    const auto found = std::ranges::find(table, value, [](const auto &entry) { return entry.value; });
     if (found != std::end(table))
         return found->name;
     NVX_ASSERT(false, unit);
-    return QStringLiteral("Unknown");
+    return u"Unknown"_s;
 }
 
 template<typename Table, typename Value>
 Value valueOf(const Table &table, QStringView name, Value fallback)
 {
-    const auto found = std::find_if(std::begin(table), std::end(table),
-                                    [name](const auto &entry) { return entry.name == name; });
+    const auto found = std::ranges::find_if(table, [name](const auto &entry) { return entry.name == name; });
     if (found != std::end(table))
         return found->value;
     NVX_ASSERT(false, unit);
@@ -80,8 +77,8 @@ QStringView lastScopeSection(QStringView name)
 
 QString questionWith(const QString &question, const QString &answers, const QString &defaultAnswer)
 {
-    const QString mark = question.endsWith(u'?') ? QString() : QStringLiteral("?");
-    return question + mark + u' ' + answers + QStringLiteral("; ") + defaultAnswer;
+    const QString mark = question.endsWith(u'?') ? QString() : u"?"_s;
+    return question + mark + u' ' + answers + u"; "_s + defaultAnswer;
 }
 
 } // namespace

@@ -16,10 +16,10 @@ enum class Severity : qint32
     Question = 4
 };
 
-/// How a message of the table stands to the sources.
+/// How a message of the table relates to the sources.
 enum class MessageState : qint32
 {
-    InSync = 0,  ///< raised in the sources, and the table agrees
+    InSync = 0,  ///< raised in the sources, and reviewed in the table
     New = 1,     ///< found in the sources, not yet reviewed in the table
     Obsolete = 2 ///< in the table, no longer found in the sources
 };
@@ -38,9 +38,9 @@ enum class Answer : quint32
 Q_DECLARE_FLAGS(Answers, Answer)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Answers)
 
-// A value that its enumeration does not have raises an assertion failure of the unit "clt_message" and gives
-// the text "Unknown"; a text that names no value raises one too and gives Information, InSync or NoAnswer.
-// Texts are the enumerators' names, compared with case.
+// The texts are the enumerators' names; comparisons are case-sensitive. A value that is not in its
+// enumeration raises an assertion failure of the unit "clt_message", and its text is "Unknown". A text that
+// is not the name of a value also raises one, and its value is Information, InSync or NoAnswer.
 
 QString severityToText(Severity severity);
 Severity textToSeverity(QStringView text);
@@ -55,18 +55,18 @@ Answer textToAnswer(QStringView text);
 /// empty for the empty set.
 QString answersToText(Answers answers);
 
-/// The set of the answers named in a text of names joined by ", ".
+/// The set of the answers whose names, joined by ", ", are the text.
 Answers textToAnswers(QStringView text);
 
-/// The answers' names joined by ", " from an expression as it stands in a source file: names joined by "|",
-/// each with any number of "::" prefixes.
+/// The names of the answers, joined by ", ", in an expression from a source file: names joined by "|", each
+/// with any number of "::" prefixes.
 QString answerExpressionToText(QStringView expression);
 
-/// A question as it is shown and keyed: the question with "?" at its end, a blank, the answers' names, "; "
-/// and the default answer's name.
+/// A question as it is shown and as it is in keys: the question with "?" at its end, a blank, the answers'
+/// names, "; " and the default answer's name.
 QString questionDisplayText(const QString &question, Answers answers, Answer defaultAnswer);
 
-/// The same from the expressions for the answers and the default answer, as they stand in a source file.
+/// The same from the expressions of a source file for the answers and the default answer.
 QString questionDisplayText(const QString &question, QStringView answerExpression,
                             QStringView defaultExpression);
 

@@ -4,6 +4,8 @@
 #include <QList>
 #include <QVarLengthArray>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Clt {
 
 namespace {
@@ -14,7 +16,7 @@ constexpr QStringView separator = u"::";
 
 QString MessageKey::displayText() const
 {
-    return u'(' + process + QStringLiteral(", ") + context + QStringLiteral(", ") + tag + u')';
+    return u'(' + process + u", "_s + context + u", "_s + tag + u')';
 }
 
 bool MessageKey::hasFullContext() const
@@ -35,16 +37,16 @@ bool operator==(const MessageKey &left, const MessageKey &right)
     return left.process == right.process && left.context == right.context && left.tag == right.tag;
 }
 
-bool operator<(const MessageKey &left, const MessageKey &right)
+std::strong_ordering operator<=>(const MessageKey &left, const MessageKey &right)
 {
     if (const int order = left.process.compare(right.process))
-        return order < 0;
+        return order <=> 0;
     if (const int order = left.context.compare(right.context))
-        return order < 0;
-    return left.tag < right.tag;
+        return order <=> 0;
+    return left.tag.compare(right.tag) <=> 0;
 }
 
-// The display text is put together on the stack: sets of keys hash each of them many times.
+// Builds the display text on the stack, because sets of keys hash each key many times.
 std::size_t qHash(const MessageKey &key, std::size_t seed)
 {
     QVarLengthArray<QChar, 256> text;

@@ -2,12 +2,13 @@
 
 #include <QString>
 
+#include <compare>
 #include <cstddef>
 
 namespace Clt {
 
-/// The identity of a message: where in the product's sources it is raised. Texts compare by their UTF-16 code
-/// units, with case and without regard to the locale.
+/// The identity of a message: where in the product's sources it is raised. Texts are compared by their UTF-16
+/// code units, case-sensitively and independently of the locale.
 struct MessageKey
 {
     QString tag;     ///< the identifier written as the first argument of the reporting macro
@@ -20,22 +21,18 @@ struct MessageKey
     /// True when splitting the context on "::", empty parts kept, yields exactly three parts.
     bool hasFullContext() const;
 
-    /// The key with the first part of its context dropped when that has three parts or more (A::B::C becomes
-    /// B::C), else the key itself.
+    /// The key without the first part of its context if that has three parts or more (A::B::C becomes B::C),
+    /// otherwise the key itself.
     MessageKey withShortenedContext() const;
 };
 
-/// Equal when process, context and tag all are.
+/// Compares process, context and tag, in this order.
 bool operator==(const MessageKey &left, const MessageKey &right);
-inline bool operator!=(const MessageKey &left, const MessageKey &right)
-{
-    return !(left == right);
-}
 
-/// By process, then context, then tag.
-bool operator<(const MessageKey &left, const MessageKey &right);
+/// Orders by process, then context, then tag.
+std::strong_ordering operator<=>(const MessageKey &left, const MessageKey &right);
 
-/// The hash of the display text, as of any other text.
+/// The hash of the display text, the same as of any other string.
 std::size_t qHash(const MessageKey &key, std::size_t seed = 0);
 
 } // namespace Clt

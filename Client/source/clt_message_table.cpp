@@ -12,7 +12,7 @@ namespace Clt {
 
 namespace {
 
-/// Makes the texts that neighbours mostly have in common one text in memory.
+// The key with the texts that it has in common with its neighbour shared in memory.
 MessageKey sharingTexts(MessageKey key, const MessageKey &neighbour)
 {
     if (key.process == neighbour.process)
@@ -57,7 +57,7 @@ void MessageTable::insert(const Message &message)
     insert(Message(message));
 }
 
-// Tables are mostly filled in their own order, in which the end is where the message belongs.
+// The hint is the end, because tables are mostly filled in their own order.
 void MessageTable::insert(Message &&message)
 {
     Messages &messages = m_storage->messages;

@@ -33,38 +33,38 @@ public:
     std::size_t size() const { return messages().size(); }
     bool isEmpty() const { return messages().empty(); }
 
-    /// All keys, in no order.
+    /// All keys, in no particular order.
     QSet<MessageKey> keys() const;
 
     /// True when a message is stored under exactly that key.
     bool contains(const MessageKey &key) const { return messages().find(key) != end(); }
 
-    /// The message stored under the key or, when there is none, under the key with its context shortened; a
-    /// message with its initial values when there is none there either.
+    /// The message stored under the key or, if there is none, under the key with its context shortened; a
+    /// message with its initial values if there is none under either.
     Message message(const MessageKey &key) const;
 
-    /// Stores the message under its key, in place of one that is there.
+    /// Stores the message under its key, and replaces an existing one.
     void insert(const Message &message);
     void insert(Message &&message);
 
-    /// Sets the source file and line of the message under exactly that key. False when there is none.
+    /// Sets the source file and line of the message under exactly that key. Returns false if there is none.
     bool setPlace(const MessageKey &key, const QString &file, qint32 line);
 
-    /// True when there was a message under exactly that key.
+    /// Removes the message under exactly that key. Returns false if there is none.
     bool remove(const MessageKey &key);
 
-    /// Merges the messages of a message-table file (clt_message_table_xml.h) into the table. False when the
-    /// file cannot be opened, which changes nothing, or is no well-formed XML, of which the messages before
-    /// the error are taken.
+    /// Merges the messages of a message-table file (clt_message_table_xml.h) into the table. Returns false if
+    /// the file cannot be opened, or is not well-formed XML; the messages before the error are merged.
     bool load(const QString &fileName);
 
-    /// Replaces the file by one of this table, whole or not at all; a file that has these bytes already is
-    /// not touched. False when it cannot be written or a text has a character that XML cannot carry; the old
-    /// file is then as it was.
+    /// Replaces the file with one of this table, whole or not at all. A file that already has these bytes is
+    /// left alone. Returns false, and leaves the old file unchanged, if the file cannot be written or a text
+    /// has a character that XML cannot represent.
     bool save(const QString &fileName) const;
 
 private:
-    // The messages lie close together, for else the walk over a large table waits for memory at each of them.
+    // A pool places the messages next to each other: otherwise a walk over a large table waits for memory at
+    // each of them.
     struct Storage
     {
         std::pmr::unsynchronized_pool_resource memory;

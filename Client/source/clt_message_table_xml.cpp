@@ -10,6 +10,8 @@
 
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Clt {
 
 namespace {
@@ -19,11 +21,10 @@ constexpr int indentation = 3;
 
 void writeNameSpace(QXmlStreamWriter &xml)
 {
-    const QString nameSpace = QStringLiteral("http://www.velmora.example/nvx/messageTable");
-    xml.writeAttribute(QStringLiteral("xmlns"), nameSpace);
-    xml.writeAttribute(QStringLiteral("xmlns:xsi"),
-                       QStringLiteral("http://www.w3.org/2001/XMLSchema-instance"));
-    xml.writeAttribute(QStringLiteral("xsi:schemaLocation"), nameSpace + QStringLiteral(" ErrorTable.xsd"));
+    const QString nameSpace = u"http://www.velmora.example/nvx/messageTable"_s;
+    xml.writeAttribute(u"xmlns"_s, nameSpace);
+    xml.writeAttribute(u"xmlns:xsi"_s, u"http://www.w3.org/2001/XMLSchema-instance"_s);
+    xml.writeAttribute(u"xsi:schemaLocation"_s, nameSpace + u" ErrorTable.xsd"_s);
 }
 
 } // namespace
@@ -42,19 +43,21 @@ void readMessageTableBody(QXmlStreamReader &xml, MessageTable &table)
     }
 }
 
-bool readMessageTable(QIODevice &device, MessageTable &table)
+Nvx::Util::Outcome readMessageTable(QIODevice &device, MessageTable &table)
 {
     QXmlStreamReader xml(&device);
     return readMessageTable(xml, table);
 }
 
-bool readMessageTable(QXmlStreamReader &xml, MessageTable &table)
+Nvx::Util::Outcome readMessageTable(QXmlStreamReader &xml, MessageTable &table)
 {
     while (canRead(xml)) {
         if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"messageTable")
             readMessageTableBody(xml, table);
     }
-    return !xml.hasError();
+    if (xml.hasError())
+        return Nvx::Util::Failure{xml.errorString()};
+    return Nvx::Util::Done();
 }
 
 bool writeMessageTable(QIODevice &device, const MessageTable &table)
@@ -63,7 +66,7 @@ bool writeMessageTable(QIODevice &device, const MessageTable &table)
     xml.setAutoFormatting(true);
     xml.setAutoFormattingIndent(indentation);
     xml.writeStartDocument();
-    xml.writeStartElement(QStringLiteral("messageTable"));
+    xml.writeStartElement(u"messageTable"_s);
     writeNameSpace(xml);
     for (const auto &[key, message] : table)
         writeMessage(xml, message);

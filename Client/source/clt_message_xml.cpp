@@ -6,6 +6,8 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Clt {
 
 namespace {
@@ -52,10 +54,10 @@ bool hasAction(const Message &message)
 
 void writeMessageKey(QXmlStreamWriter &xml, const MessageKey &key)
 {
-    xml.writeStartElement(QStringLiteral("key"));
-    writeXmlTextElement(xml, QStringLiteral("process"), key.process);
-    writeXmlTextElement(xml, QStringLiteral("context"), key.context);
-    writeXmlTextElement(xml, QStringLiteral("tag"), key.tag);
+    xml.writeStartElement(u"key"_s);
+    writeXmlTextElement(xml, u"process"_s, key.process);
+    writeXmlTextElement(xml, u"context"_s, key.context);
+    writeXmlTextElement(xml, u"tag"_s, key.tag);
     xml.writeEndElement();
 }
 
@@ -65,7 +67,7 @@ std::optional<Message> readMessage(QXmlStreamReader &xml)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == u"message", unit);
     Message message;
-    message.setSeverity(textToSeverity(xml.attributes().value(QLatin1String("severity"))));
+    message.setSeverity(textToSeverity(xml.attributes().value("severity"_L1)));
     while (canRead(xml)) {
         switch (xml.readNext()) {
         case QXmlStreamReader::EndElement:
@@ -100,18 +102,18 @@ MessageKey readMessageKey(QXmlStreamReader &xml)
 
 void writeMessage(QXmlStreamWriter &xml, const Message &message)
 {
-    xml.writeStartElement(QStringLiteral("message"));
-    xml.writeAttribute(QStringLiteral("severity"), severityToText(message.severity()));
+    xml.writeStartElement(u"message"_s);
+    xml.writeAttribute(u"severity"_s, severityToText(message.severity()));
     writeMessageKey(xml, message.key());
     if (hasTitle(message))
-        writeXmlTextElement(xml, QStringLiteral("title"), message.title());
-    writeXmlTextElement(xml, QStringLiteral("text"), message.text());
+        writeXmlTextElement(xml, u"title"_s, message.title());
+    writeXmlTextElement(xml, u"text"_s, message.text());
     if (hasAction(message))
-        writeXmlTextElement(xml, QStringLiteral("action"), message.action());
+        writeXmlTextElement(xml, u"action"_s, message.action());
     if (message.state() != MessageState::InSync)
-        writeXmlTextElement(xml, QStringLiteral("state"), stateToText(message.state()));
+        writeXmlTextElement(xml, u"state"_s, stateToText(message.state()));
     if (message.solution() != 0)
-        writeXmlTextElement(xml, QStringLiteral("solution"), QString::number(message.solution()));
+        writeXmlTextElement(xml, u"solution"_s, QString::number(message.solution()));
     xml.writeEndElement();
 }
 

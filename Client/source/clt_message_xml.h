@@ -24,18 +24,19 @@ namespace Clt {
 //       <solution>7</solution>
 //    </message>
 //
-// Only a critical message is written with an action, only that and a question with a title; "state" is left
-// out for a message in sync, "solution" for 0. Read, the children may come in any order, though texts before
-// the key are translated without its context. Any other child ends the message with its own end tag.
+// An action is written only for a critical message, a title only for a critical message or a question,
+// "state" unless the message is in sync, and "solution" unless it is 0. When reading, the children may be in
+// any order, but texts before the key are translated without its context. The end tag of any other child ends
+// the message.
 
-/// Reads the message on whose start element the reader stands, to its end. Nothing when the document ends or
-/// breaks within it.
+/// Reads the message at whose start element the reader is, to its end; nullopt if the document ends or is
+/// malformed before that.
 std::optional<Message> readMessage(QXmlStreamReader &xml);
 
-/// Reads the key on whose start element the reader stands, to its end or that of the document.
+/// Reads the key at whose start element the reader is, to its end or that of the document.
 MessageKey readMessageKey(QXmlStreamReader &xml);
 
-/// Writes the message's element. After a text with a character that XML cannot carry the writer has an error.
+/// Writes the message's element. A character that XML cannot represent puts the writer into its error state.
 void writeMessage(QXmlStreamWriter &xml, const Message &message);
 
 } // namespace Clt

@@ -4,6 +4,8 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Clt {
 
 namespace {
@@ -41,7 +43,7 @@ void writeXmlCharacters(QXmlStreamWriter &xml, const QString &text)
     qsizetype begin = 0;
     for (qsizetype end = text.indexOf(u'\r'); end >= 0; end = text.indexOf(u'\r', begin)) {
         xml.writeCharacters(text.sliced(begin, end - begin));
-        xml.writeEntityReference(QStringLiteral("#13"));
+        xml.writeEntityReference(u"#13"_s);
         begin = end + 1;
     }
     xml.writeCharacters(begin == 0 ? text : text.sliced(begin));

@@ -8,20 +8,19 @@ class QXmlStreamWriter;
 
 namespace Clt {
 
-/// True while the reader has more to give: it is not at the end of its document, and neither that nor its
-/// device has failed. (To the reader itself a device that failed is not at its end; it would be asked again
-/// for ever.)
+/// True while the reader is before the end of its document, and neither the document nor its device has
+/// failed. (atEnd() alone is false after a device has failed, so a loop on it would never end.)
 bool canRead(const QXmlStreamReader &xml);
 
-/// True when an XML 1.0 document can carry every character of the text: no control character other than tab,
-/// line feed and carriage return, no half of a surrogate pair, not U+FFFE or U+FFFF.
+/// True when an XML 1.0 document can represent every character of the text: no control character other than
+/// tab, line feed and carriage return, no half of a surrogate pair, not U+FFFE or U+FFFF.
 bool isXmlText(QStringView text);
 
-/// Writes the text, its carriage returns as character references, since a reader takes bare ones for line
-/// feeds. After a character that XML cannot carry the writer has an error.
+/// Writes the text, with its carriage returns as character references, because a reader treats others as line
+/// feeds. A character that XML cannot represent puts the writer into its error state.
 void writeXmlCharacters(QXmlStreamWriter &xml, const QString &text);
 
-/// Writes an element that holds the text alone, in the same way.
+/// Writes an element that contains only the text, in the same way.
 void writeXmlTextElement(QXmlStreamWriter &xml, const QString &name, const QString &text);
 
 } // namespace Clt

@@ -1,6 +1,6 @@
 #include "localization/translatable_texts.h"
 
-#include "scanner/source_tokenizer.h"
+#include "scanner/tokenizer.h"
 
 #include <QXmlStreamReader>
 

@@ -4,7 +4,7 @@
 #include "message_table_utility/message_table_file.h"
 #include "message_table_utility/project_scan.h"
 #include "scanner/error_visual_studio_project.h"
-#include "synchronisation/message_table_update.h"
+#include "synchronisation/message_table_synchronisation.h"
 #include "translation/error_translation_table.h"
 #include "translation/translation_kept_file.h"
 #include "translation/translation_update.h"
@@ -109,7 +109,7 @@ void MessageTableUtility::synchronize()
         chooseFileToOpen(tr("Open Visual Studio Project"), QStringLiteral("*.vcxproj"));
     if (projectFile.isEmpty())
         return;
-    const std::optional<Scan::VisualStudioProject> project = Scan::readVisualStudioProject(projectFile);
+    const Nvx::Util::Result<Scan::VisualStudioProject> project = Scan::readVisualStudioProject(projectFile);
     if (!project) {
         dialogs().warn(this, tr("Visual Studio Project Error"), tr("Could not parse %1").arg(projectFile));
         return;
@@ -146,7 +146,7 @@ void MessageTableUtility::takeKeys(const Scan::FoundKeys &keys, qint64 milliseco
 {
     const Window::WaitCursor wait;
     const auto obsoleteBefore = obsoleteMessages(m_messages);
-    const Error::KeyCounts counts = Error::synchronizeKeys(m_messages, keys);
+    const Synchronisation::KeyCounts counts = Synchronisation::synchronizeKeys(m_messages, keys);
     if (counts.added > 0 || obsoleteMessages(m_messages) != obsoleteBefore)
         setUnsaved();
     showTable();

@@ -26,16 +26,15 @@ MessageTableReading readMessageTableFile(const QString &fileName, Window::Progre
         return reading;
     }
     QXmlStreamReader xml(&file);
-    const bool isWhole = Clt::readMessageTable(xml, reading.table);
+    const Nvx::Util::Outcome read = Clt::readMessageTable(xml, reading.table);
     // A device that fails looks like one at its end, so the reader may not know.
     if (progress.isCancelled())
         reading.loading = {Outcome::Cancelled, QString()};
     else if (file.error() != QFileDevice::NoError)
         reading.loading = {Outcome::Failed, file.errorString()};
-    else if (!isWhole)
-        reading.loading = {
-            Outcome::Failed,
-            Texts::tr("Line %1: %2").arg(QString::number(xml.lineNumber()), xml.errorString())};
+    else if (!read)
+        reading.loading = {Outcome::Failed,
+                           Texts::tr("Line %1: %2").arg(QString::number(xml.lineNumber()), read.error())};
     return reading;
 }
 

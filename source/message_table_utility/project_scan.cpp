@@ -1,7 +1,7 @@
 #include "message_table_utility/project_scan.h"
 
 #include "scanner/error_visual_studio_project.h"
-#include "scanner/source_scanner.h"
+#include "scanner/scan_files.h"
 
 #include <QCoreApplication>
 
@@ -29,7 +29,7 @@ ProjectScan scanProject(const QString &projectFile, const Scan::VisualStudioProj
             scan.errors.append(
                 QStringLiteral("%1: %2").arg(project.sourceFiles.at(index), scanner.errorText()));
         Scan::addKeys(scan.keys, scanner);
-        return receive(index + 1, scan.keys.size()) ? Scan::Continuation::GoOn : Scan::Continuation::Stop;
+        return receive(index + 1, scan.keys.size()) ? Scan::Continuation::Continue : Scan::Continuation::Stop;
     };
     Scan::scanFiles(project.process(), paths, take);
     return scan;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "scanner/source_scanner.h"
+#include "scanner/found_keys.h"
 
 #include <QString>
 #include <QStringList>

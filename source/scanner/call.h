@@ -1,6 +1,6 @@
 #pragma once
 
-#include "scanner/source_token.h"
+#include "scanner/token_kind.h"
 
 #include <QString>
 
@@ -9,7 +9,7 @@
 
 namespace Scan {
 
-/// The families of calls whose keys are collected apart.
+/// The families of calls. The keys of each family are collected separately.
 enum class CallFamily : std::uint8_t
 {
     Error,
@@ -29,7 +29,7 @@ struct Call
 {
     CallFamily family = CallFamily::Error;
     QString tag;
-    QString context; ///< the namespaces, classes and function around it; empty outside of functions
+    QString context; ///< the enclosing namespaces, classes and function; empty outside of functions
     int line = 0;
 };
 

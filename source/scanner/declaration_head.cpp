@@ -1,7 +1,7 @@
 #include "scanner/declaration_head.h"
 
 #include "scanner/declaration_keyword.h"
-#include "scanner/source_lexis.h"
+#include "scanner/lexis.h"
 
 #include <algorithm>
 
@@ -32,9 +32,9 @@ void QualifiedName::append(std::string_view part)
 
 void DeclarationHead::reset(std::string_view enclosingClass)
 {
-    begin(Kind::Unknown, Previous::Nothing);
+    begin(Kind::Unknown, Previous::None);
     m_enclosingClass = enclosingClass;
-    m_partBegin = nullptr;
+    m_partBegin.reset();
     m_stage = Stage::Names;
     m_requiresExpression = false;
     m_groupDepth = 0;
@@ -43,7 +43,7 @@ void DeclarationHead::reset(std::string_view enclosingClass)
 
 void DeclarationHead::blockClosed()
 {
-    // One among parameters or arguments, a value made there say, ends nothing.
+    // A block among parameters or arguments, such as a value with braces, does not affect the head.
     if (m_groupDepth > 0 || m_angleDepth > 0)
         return;
     m_previous = Previous::CloseBlock;
@@ -88,7 +88,7 @@ void DeclarationHead::take(const Tokenizer &token)
     case TokenKind::Namespace:
     case TokenKind::Using:
     case TokenKind::Identifier:
-        return takeWord(token.text());
+        return takeWord(token);
     case TokenKind::LeftParen:
         return openParenthesis();
     case TokenKind::DoubleColon:
@@ -96,7 +96,7 @@ void DeclarationHead::take(const Tokenizer &token)
     case TokenKind::Colon:
         return takeColon();
     case TokenKind::Other:
-        return Lexis::isWordByte(token.text().front()) ? takeWord(token.text()) : takeSymbol(token.text());
+        return Lexis::isWordByte(token.text().front()) ? takeWord(token) : takeSymbol(token);
     case TokenKind::String:
         if (m_previous == Previous::Extern)
             return begin(Kind::Linkage, Previous::Specifier);
@@ -107,8 +107,8 @@ void DeclarationHead::take(const Tokenizer &token)
     m_previous = Previous::Other;
 }
 
-// Only a group's depth counts, except that a parameter list does not begin with a declarator: what seemed
-// one is the parentheses around a function that returns a pointer to a function.
+// Within a group only its depth matters, with one exception: a parameter list does not begin with "*" or "&".
+// Parentheses that do are those around a function that returns a pointer to a function.
 void DeclarationHead::takeInGroup(const Tokenizer &token)
 {
     const bool isFirstParameter = m_previous == Previous::OpenParameters;
@@ -124,7 +124,7 @@ void DeclarationHead::takeInGroup(const Tokenizer &token)
     }
 }
 
-// A name remains the previous one behind its template arguments.
+// After its template arguments a name is still the previous token.
 void DeclarationHead::takeInAngle(const Tokenizer &token)
 {
     if (isOpening(token)) {
@@ -132,43 +132,41 @@ void DeclarationHead::takeInAngle(const Tokenizer &token)
     } else if (isClosing(token)) {
         m_angleGroupDepth -= m_angleGroupDepth > 0 ? 1 : 0;
     } else if (m_angleGroupDepth == 0 && token.text() == "<") {
-        // The second half of a shift takes back what the first half was taken for.
-        const bool shift = *(token.text().data() - 1) == '<';
-        m_angleDepth += shift ? -1U : 1U;
+        // The first half of a shift counted as an opening bracket; the second half undoes that.
+        m_angleDepth += token.follows('<') ? -1U : 1U;
     } else if (m_angleGroupDepth == 0 && token.text() == ">") {
         --m_angleDepth;
     }
 }
 
-// An operator's name reaches to its parameter list; that of the call operator holds parentheses itself.
+// An operator's name ends at its parameter list. The name of the call operator contains parentheses.
 void DeclarationHead::takeInOperator(const Tokenizer &token)
 {
     if (token.kind() == TokenKind::LeftParen && m_previous == Previous::Other) {
-        const char *const end = token.text().data();
         m_stage = Stage::Names;
-        takeName({m_partBegin, static_cast<std::size_t>(end - m_partBegin)});
+        appendName(token.between(*m_partBegin, token.begin()));
         openParenthesis();
     } else {
         m_previous = Previous::Other;
     }
 }
 
-void DeclarationHead::takeWord(std::string_view word)
+void DeclarationHead::takeWord(const Tokenizer &token)
 {
-    // What goes on behind a block does so with a sign; a word begins a declaration, whatever stood before.
+    // A head continues after a block with a sign; a word there begins a new declaration.
     if (m_previous == Previous::CloseBlock && m_stage != Stage::TrailingClause)
         reset(m_enclosingClass);
     if (m_stage == Stage::Bases || m_stage == Stage::Initialiser)
         return;
-    switch (keywordOf(word)) {
+    switch (keywordOf(token.text())) {
     case Keyword::None:
-        return takeName(word);
+        return takeName(token);
     case Keyword::Access:
         m_previous = Previous::AccessSpecifier;
         return;
     case Keyword::Catch:
         return m_kind == Kind::Unknown && m_names == 0 ? begin(Kind::CatchBlock, Previous::Specifier)
-                                                       : takeName(word);
+                                                       : takeName(token);
     case Keyword::ClassKey:
         return takeClassKey();
     case Keyword::Enum:
@@ -182,7 +180,7 @@ void DeclarationHead::takeWord(std::string_view word)
         return begin(m_previous == Previous::Using ? Kind::UsingNamespace : Kind::Namespace,
                      Previous::Specifier);
     case Keyword::Operator:
-        return takeOperator(word);
+        return takeOperator(token);
     case Keyword::Requires:
         return takeRequires();
     case Keyword::Specifier:
@@ -195,16 +193,16 @@ void DeclarationHead::takeWord(std::string_view word)
     }
 }
 
-void DeclarationHead::takeOperator(std::string_view word)
+void DeclarationHead::takeOperator(const Tokenizer &token)
 {
     if (m_stage != Stage::Names)
-        return takeName(word);
-    m_partBegin = word.data();
+        return takeName(token);
+    m_partBegin = token.begin();
     m_stage = Stage::Operator;
     m_previous = Previous::OperatorWord;
 }
 
-// A new declaration seems to begin, whatever stood before: a macro without a semicolon, say.
+// Begins a declaration. The tokens before it may be, for example, a macro without a semicolon.
 void DeclarationHead::begin(Kind kind, Previous previous)
 {
     m_kind = kind;
@@ -237,13 +235,16 @@ void DeclarationHead::takeRequires()
     m_previous = Previous::Requires;
 }
 
-void DeclarationHead::takeName(std::string_view word)
+void DeclarationHead::takeName(const Tokenizer &token)
 {
-    if (m_partBegin)
-        word = {m_partBegin, static_cast<std::size_t>(word.data() + word.size() - m_partBegin)};
-    m_partBegin = nullptr;
+    appendName(token.between(m_partBegin.value_or(token.begin()), token.end()));
+}
+
+void DeclarationHead::appendName(std::string_view name)
+{
+    m_partBegin.reset();
     m_previous = Previous::Name;
-    // Of several words behind "namespace" the first is its name, the others are macros.
+    // The first of several words after "namespace" is the name; the others are macros.
     if (m_kind == Kind::Namespace && m_name.count() > 0 && !m_joins)
         return;
     if (!m_joins) {
@@ -251,7 +252,7 @@ void DeclarationHead::takeName(std::string_view word)
         ++m_names;
     }
     m_joins = false;
-    m_name.append(word);
+    m_name.append(name);
 }
 
 void DeclarationHead::takeDoubleColon()
@@ -271,9 +272,9 @@ void DeclarationHead::takeColon()
     if (m_previous == Previous::AccessSpecifier)
         return reset(m_enclosingClass);
 
-    const bool behindFunction = m_stage == Stage::Names || m_stage == Stage::TrailingClause;
+    const bool afterParameters = m_stage == Stage::Names || m_stage == Stage::TrailingClause;
     m_previous = Previous::Other;
-    if (m_kind == Kind::Function && behindFunction)
+    if (m_kind == Kind::Function && afterParameters)
         m_stage = Stage::MemberList;
     else if (m_kind == Kind::Class)
         m_stage = Stage::Bases;
@@ -281,19 +282,20 @@ void DeclarationHead::takeColon()
         reset(m_enclosingClass);
 }
 
-void DeclarationHead::takeSymbol(std::string_view symbol)
+void DeclarationHead::takeSymbol(const Tokenizer &token)
 {
-    const bool behindName = m_previous == Previous::Name || m_previous == Previous::Template;
+    const std::string_view symbol = token.text();
+    const bool afterName = m_previous == Previous::Name || m_previous == Previous::Template;
     if (symbol == "~" && m_stage == Stage::Names) {
-        m_partBegin = symbol.data();
+        m_partBegin = token.begin();
         return;
     }
-    if (symbol == "<" && behindName && m_stage != Stage::Initialiser && m_stage != Stage::Bases) {
+    if (symbol == "<" && afterName && m_stage != Stage::Initialiser && m_stage != Stage::Bases) {
         m_angleDepth = 1;
         m_angleGroupDepth = 0;
         return;
     }
-    // Brackets, those of an attribute say, may stand between a function's name and its parameters.
+    // There may be brackets, for example of an attribute, between a function's name and its parameters.
     if (symbol == "[") {
         m_groupDepth = 1;
         return;
@@ -319,8 +321,8 @@ void DeclarationHead::openParenthesis()
     m_groupDepth = 1;
 }
 
-// Whether the parentheses behind the name are a parameter list. They may as well be those of a macro before
-// or behind the name that counts.
+// True when the parentheses after the name are a parameter list, not those of a macro before or after the
+// declared name.
 bool DeclarationHead::namesFunction() const
 {
     switch (m_kind) {
@@ -332,7 +334,7 @@ bool DeclarationHead::namesFunction() const
         return m_names >= 2;
     case Kind::Function: {
         const std::string_view last = m_name.last();
-        const bool special = last.front() == '~' || last.substr(0, 8) == "operator";
+        const bool special = last.starts_with('~') || last.starts_with("operator");
         return m_names >= 2 || m_name.count() >= 2 || special || last == m_enclosingClass;
     }
     case Kind::Namespace:

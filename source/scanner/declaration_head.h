@@ -1,14 +1,15 @@
 #pragma once
 
-#include "scanner/source_tokenizer.h"
+#include "scanner/tokenizer.h"
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace Scan {
 
-/// Names joined by "::", as they stand in a source text. Of more than eight the last eight are kept.
+/// Names joined by "::", as written in a source text. Holds the last eight of them.
 class QualifiedName
 {
 public:
@@ -24,33 +25,34 @@ private:
     std::uint8_t m_count = 0;
 };
 
-/// What the brace behind a declaration's head opens.
+/// What the brace after a declaration's head opens.
 enum class BraceMeaning
 {
     Namespace,
     Class,
-    Transparent, ///< linkage such as extern "C", or a macro's name alone: declarations, no scope of their own
+    Transparent, ///< linkage such as extern "C", or only a macro's name: declarations without a scope of
+                 ///< their own
     Function,
     CatchBlock, ///< of a function whose body is a try block
-    Block       ///< an enumeration, an initialiser: no declarations; the head goes on behind it
+    Block       ///< an enumeration, an initialiser: no declarations; the head continues after it
 };
 
 /// Reads the tokens of a declaration up to the brace that opens its body or the semicolon that ends it, and
-/// says what the brace means. Decides by the tokens alone, as no types are known; what it cannot make out is
+/// determines what the brace means. It has only the tokens, not the types; a brace that it cannot identify is
 /// a Block.
 class DeclarationHead
 {
 public:
-    /// Begins a new declaration, in the class of that name or, if empty, in none.
+    /// Begins a new declaration, in the class of that name, or outside of classes if the name is empty.
     void reset(std::string_view enclosingClass);
 
-    /// Reads the tokenizer's token, any but a brace, a semicolon outside of parentheses or a directive.
+    /// Reads the current token, which is not a brace, a semicolon outside of parentheses or a directive.
     void take(const Tokenizer &token);
 
-    /// What a left brace means here.
+    /// What a left brace at this point opens.
     BraceMeaning braceMeaning() const;
 
-    /// A Block that stands in the head has ended.
+    /// A Block within the head has ended.
     void blockClosed();
 
     /// The name of the namespace, class or function, or of the namespace of a using-directive.
@@ -71,20 +73,20 @@ private:
         CatchBlock
     };
 
-    // Where the head is.
+    // The part of the head that is being read.
     enum class Stage : std::uint8_t
     {
         Names,
-        Operator,       // in an operator's name
-        Bases,          // behind the colon of a class
-        Initialiser,    // behind an equals sign
-        MemberList,     // in a constructor's list of initialised members
-        TrailingClause, // behind the arrow or a requires-clause of a function
+        Operator,       // an operator's name
+        Bases,          // after the colon of a class
+        Initialiser,    // after an equals sign
+        MemberList,     // a constructor's member initialisers
+        TrailingClause, // after the arrow or requires-clause of a function
     };
 
     enum class Previous : std::uint8_t
     {
-        Nothing,
+        None,
         Name,
         DoubleColon,
         Specifier,
@@ -103,29 +105,30 @@ private:
     void takeInGroup(const Tokenizer &token);
     void takeInAngle(const Tokenizer &token);
     void takeInOperator(const Tokenizer &token);
-    void takeWord(std::string_view word);
-    void takeOperator(std::string_view word);
+    void takeWord(const Tokenizer &token);
+    void takeOperator(const Tokenizer &token);
     void takeClassKey();
     void takeTemplate();
     void takeRequires();
     void begin(Kind kind, Previous previous);
-    void takeName(std::string_view word);
+    void takeName(const Tokenizer &token);
+    void appendName(std::string_view name);
     void takeDoubleColon();
     void takeColon();
-    void takeSymbol(std::string_view symbol);
+    void takeSymbol(const Tokenizer &token);
     void openParenthesis();
     bool namesFunction() const;
 
-    QualifiedName m_name;     // being read, or read last
+    QualifiedName m_name;     // the current or last one
     QualifiedName m_function; // of Kind::Function
     std::string_view m_enclosingClass;
-    const char *m_partBegin = nullptr; // of a destructor's or operator's name
-    bool m_joins = false;              // the next name is part of the one before
+    std::optional<std::size_t> m_partBegin; // the position of a destructor's or operator's name
+    bool m_joins = false;                   // the next name continues the previous one
     Kind m_kind = Kind::Unknown;
     Stage m_stage = Stage::Names;
-    Previous m_previous = Previous::Nothing;
+    Previous m_previous = Previous::None;
     bool m_requiresExpression = false;
-    std::uint32_t m_names = 0; // separate ones, since the beginning, a class-key or a group
+    std::uint32_t m_names = 0; // separate ones since the beginning, a class-key or a group
     std::uint32_t m_groupDepth = 0;
     std::uint32_t m_angleDepth = 0;
     std::uint32_t m_angleGroupDepth = 0;

@@ -6,7 +6,7 @@ namespace Scan {
 
 namespace {
 
-// Words that control statements do not stand in declarations that are understood.
+// Keywords of statements are listed only if they occur in declarations.
 constexpr WordTable keywords(std::array<std::pair<std::string_view, Keyword>, 45>{{
     {"Q_SIGNALS", Keyword::Access},
     {"Q_SLOTS", Keyword::Access},

@@ -5,11 +5,11 @@
 
 namespace Scan {
 
-/// What a word that is no name does in a declaration.
+/// The meaning of a word that is not a name in a declaration.
 enum class Keyword : std::uint8_t
 {
     None,
-    Access, ///< with a colon behind it, ends what stands before
+    Access, ///< with a colon after it, ends the declaration before it
     Catch,
     ClassKey,
     Enum,
@@ -17,12 +17,12 @@ enum class Keyword : std::uint8_t
     Namespace,
     Operator,
     Requires,
-    Specifier, ///< stands before or behind names, with parentheses of its own or without
+    Specifier, ///< comes before or after names, with or without parentheses of its own
     Template,
     Using
 };
 
-/// What the word does; None for a name.
+/// The meaning of the word; None for a name.
 Keyword keywordOf(std::string_view word);
 
 } // namespace Scan

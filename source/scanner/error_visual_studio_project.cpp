@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Scan {
 
 namespace {
@@ -16,17 +18,16 @@ constexpr char unit[] = "error_visual_studio_project";
 
 bool isScanned(const QString &sourceFile)
 {
-    return !sourceFile.isEmpty() &&
-           !sourceFile.contains(QLatin1String("GeneratedFiles"), Qt::CaseInsensitive) &&
-           !sourceFile.contains(QLatin1String("Libraries"), Qt::CaseInsensitive);
+    return !sourceFile.isEmpty() && !sourceFile.contains("GeneratedFiles"_L1, Qt::CaseInsensitive) &&
+           !sourceFile.contains("Libraries"_L1, Qt::CaseInsensitive);
 }
 
 void readPropertyGroup(QXmlStreamReader &xml, VisualStudioProject &project)
 {
-    NVX_ASSERT(xml.isStartElement() && xml.name() == QLatin1String("PropertyGroup"), unit);
-    const bool isGlobals = xml.attributes().value(QLatin1String("Label")) == QLatin1String("Globals");
+    NVX_ASSERT(xml.isStartElement() && xml.name() == "PropertyGroup"_L1, unit);
+    const bool isGlobals = xml.attributes().value("Label"_L1) == "Globals"_L1;
     while (xml.readNextStartElement()) {
-        if (isGlobals && xml.name() == QLatin1String("RootNamespace"))
+        if (isGlobals && xml.name() == "RootNamespace"_L1)
             project.rootNamespace = xml.readElementText(QXmlStreamReader::SkipChildElements);
         else
             xml.skipCurrentElement();
@@ -35,10 +36,10 @@ void readPropertyGroup(QXmlStreamReader &xml, VisualStudioProject &project)
 
 void readItemGroup(QXmlStreamReader &xml, VisualStudioProject &project)
 {
-    NVX_ASSERT(xml.isStartElement() && xml.name() == QLatin1String("ItemGroup"), unit);
+    NVX_ASSERT(xml.isStartElement() && xml.name() == "ItemGroup"_L1, unit);
     while (xml.readNextStartElement()) {
-        const QString sourceFile = xml.attributes().value(QLatin1String("Include")).toString();
-        if (xml.name() == QLatin1String("ClCompile") && isScanned(sourceFile))
+        const QString sourceFile = xml.attributes().value("Include"_L1).toString();
+        if (xml.name() == "ClCompile"_L1 && isScanned(sourceFile))
             project.sourceFiles.append(sourceFile);
         xml.skipCurrentElement();
     }
@@ -46,11 +47,11 @@ void readItemGroup(QXmlStreamReader &xml, VisualStudioProject &project)
 
 void readProject(QXmlStreamReader &xml, VisualStudioProject &project)
 {
-    NVX_ASSERT(xml.isStartElement() && xml.name() == QLatin1String("Project"), unit);
+    NVX_ASSERT(xml.isStartElement() && xml.name() == "Project"_L1, unit);
     while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("PropertyGroup"))
+        if (xml.name() == "PropertyGroup"_L1)
             readPropertyGroup(xml, project);
-        else if (xml.name() == QLatin1String("ItemGroup"))
+        else if (xml.name() == "ItemGroup"_L1)
             readItemGroup(xml, project);
         else
             xml.skipCurrentElement();
@@ -61,29 +62,31 @@ void readProject(QXmlStreamReader &xml, VisualStudioProject &project)
 
 QString VisualStudioProject::process() const
 {
-    return rootNamespace == QLatin1String("new_client") ? QStringLiteral("client") : rootNamespace;
+    return rootNamespace == "new_client"_L1 ? u"client"_s : rootNamespace;
 }
 
-std::optional<VisualStudioProject> readVisualStudioProject(QIODevice &device)
+Nvx::Util::Result<VisualStudioProject> readVisualStudioProject(QIODevice &device)
 {
     QXmlStreamReader xml(&device);
     VisualStudioProject project;
     if (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("Project"))
+        if (xml.name() == "Project"_L1)
             readProject(xml, project);
         else
-            xml.raiseError(QStringLiteral("Not a project"));
+            xml.raiseError(u"Not a project"_s);
     }
     while (Clt::canRead(xml))
         xml.readNext();
-    return xml.hasError() ? std::nullopt : std::optional(project);
+    if (xml.hasError())
+        return Nvx::Util::Failure{xml.errorString()};
+    return project;
 }
 
-std::optional<VisualStudioProject> readVisualStudioProject(const QString &fileName)
+Nvx::Util::Result<VisualStudioProject> readVisualStudioProject(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
+        return Nvx::Util::Failure{file.errorString()};
     return readVisualStudioProject(file);
 }
 

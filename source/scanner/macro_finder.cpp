@@ -1,6 +1,6 @@
 #include "scanner/macro_finder.h"
 
-#include "scanner/source_lexis.h"
+#include "scanner/lexis.h"
 #include "scanner/wide_scan.h"
 
 #include <algorithm>
@@ -9,18 +9,18 @@ namespace Scan {
 
 namespace {
 
-// What a hint must be the end of, less the underscore behind it.
+// The texts of which a hint must be the last byte, without the underscore after it.
 constexpr std::string_view beginnings[] = {"REPORT", "ASK"};
 
 bool endsBeginning(std::string_view text, std::size_t hint)
 {
-    return std::any_of(std::begin(beginnings), std::end(beginnings), [&](std::string_view beginning) {
-        return hint + 1 >= beginning.size() &&
-               text.substr(hint + 1 - beginning.size(), beginning.size()) == beginning;
-    });
+    return std::ranges::any_of(beginnings,
+                               [beforeUnderscore = text.substr(0, hint + 1)](std::string_view beginning) {
+                                   return beforeUnderscore.ends_with(beginning);
+                               });
 }
 
-// A macro name may be broken by a line continuation, so that no part of it can be searched for.
+// A macro name may be split by a line continuation anywhere, so that no part of it can be searched for.
 bool continuesWord(std::string_view text, std::size_t backslash)
 {
     return backslash > 0 && Lexis::isWordByte(text[backslash - 1]) &&

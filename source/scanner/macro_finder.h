@@ -1,29 +1,29 @@
 #pragma once
 
-#include "scanner/source_token.h"
+#include "scanner/token_kind.h"
 
 #include <cstddef>
 #include <string_view>
 
 namespace Scan {
 
-/// Finds the names of the reporting macros in a text, wherever they stand, comments and literals included:
-/// what tells a file without any at the speed of reading it, and how far the tokenizer need not look.
+/// Finds the names of the reporting macros anywhere in a text, also in comments and literals. This identifies
+/// a file without calls as fast as it can be read, and tells the tokenizer how far it can skip.
 class MacroFinder
 {
 public:
     struct Macro
     {
         TokenKind kind = TokenKind::EndOfFile;
-        std::size_t begin = 0; ///< the text's size when there is no macro name
+        std::size_t begin = 0; ///< the text's size if there is no macro name
         std::size_t end = 0;
     };
 
-    /// The text stays where it is while the finder lives.
+    /// The text must outlive the finder.
     explicit MacroFinder(std::string_view text);
 
-    /// The first macro name that begins at or after from. Calls with rising positions cost one pass over the
-    /// text together.
+    /// The first macro name that begins at or after from. A series of calls with increasing positions reads
+    /// the text once.
     const Macro &next(std::size_t from)
     {
         if (m_macro.begin < from)
@@ -37,10 +37,10 @@ private:
 
     std::string_view m_text;
     Macro m_macro;
-    std::size_t m_examined = 0; ///< the end of the last word looked at, so that none is looked at twice
+    std::size_t m_examined = 0; ///< the end of the last word examined, so that no word is examined twice
 };
 
-/// True when the text names a reporting macro anywhere.
+/// True when the text contains the name of a reporting macro.
 bool namesMacro(std::string_view text);
 
 } // namespace Scan

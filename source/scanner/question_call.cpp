@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Scan {
 
 namespace {
@@ -18,17 +20,16 @@ QString joined(std::string_view source)
 
 bool isAnswerName(const QString &name)
 {
-    static const QStringList names = {
-        QStringLiteral("NoAnswer"), QStringLiteral("Ok"),     QStringLiteral("Yes"),    QStringLiteral("No"),
-        QStringLiteral("Abort"),    QStringLiteral("Cancel"), QStringLiteral("Discard")};
+    static const QStringList names = {u"NoAnswer"_s, u"Ok"_s,     u"Yes"_s,    u"No"_s,
+                                      u"Abort"_s,    u"Cancel"_s, u"Discard"_s};
     return names.contains(name);
 }
 
 bool namesAnswers(std::string_view expression)
 {
     const QString answers = Clt::answerExpressionToText(joined(expression));
-    const QStringList names = answers.split(QStringLiteral(", "));
-    return std::all_of(names.begin(), names.end(), isAnswerName);
+    const QStringList names = answers.split(u", "_s);
+    return std::ranges::all_of(names, isAnswerName);
 }
 
 } // namespace
@@ -41,7 +42,7 @@ QuestionCall::QuestionCall(CallFamily family, int line, const Tokenizer &token)
 {
 }
 
-QuestionCall::Outcome QuestionCall::take(const Tokenizer &token)
+QuestionCall::Progress QuestionCall::take(const Tokenizer &token)
 {
     switch (token.kind()) {
     case TokenKind::LeftParen:
@@ -51,13 +52,13 @@ QuestionCall::Outcome QuestionCall::take(const Tokenizer &token)
         if (--m_parentheses > 0)
             break;
         endArgument(token);
-        return Outcome::Ends;
+        return Progress::Ends;
     case TokenKind::LeftBrace:
         ++m_braces;
         break;
     case TokenKind::RightBrace:
         if (m_braces == 0)
-            return Outcome::Breaks;
+            return Progress::Breaks;
         --m_braces;
         break;
     case TokenKind::Other:
@@ -67,7 +68,7 @@ QuestionCall::Outcome QuestionCall::take(const Tokenizer &token)
     default:
         break;
     }
-    return Outcome::GoesOn;
+    return Progress::Continues;
 }
 
 void QuestionCall::endArgument(const Tokenizer &token)
@@ -80,15 +81,16 @@ void QuestionCall::endArgument(const Tokenizer &token)
     m_argumentBegin = token.end();
 }
 
-// The answers follow the question, and what fills its placeholders follows them; or the answers stand last.
+// The answers follow the question, and the values of its placeholders follow the answers; or the answers are
+// last.
 std::optional<QString> QuestionCall::tag() const
 {
-    constexpr std::uint32_t fewest = 3;
-    if (m_arguments < fewest)
+    constexpr std::uint32_t minimum = 3;
+    if (m_arguments < minimum)
         return std::nullopt;
-    const bool answersStandLast =
+    const bool answersAreLast =
         m_family == CallFamily::QuestionWithArguments && !namesAnswers(m_first[0]) && namesAnswers(m_last[0]);
-    const auto &answers = answersStandLast ? m_last : m_first;
+    const auto &answers = answersAreLast ? m_last : m_first;
     return Clt::questionDisplayText(decodeLiterals(m_question), joined(answers[0]), joined(answers[1]));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "scanner/call.h"
-#include "scanner/source_tokenizer.h"
+#include "scanner/tokenizer.h"
 
 #include <QString>
 
@@ -16,24 +16,24 @@ namespace Scan {
 class QuestionCall
 {
 public:
-    enum class Outcome
+    enum class Progress
     {
-        GoesOn,
-        Ends,  ///< with the token, a closing parenthesis
-        Breaks ///< the block around the call ends, with the token, before the call does
+        Continues,
+        Ends,  ///< the token is the call's closing parenthesis
+        Breaks ///< the token ends the block around the call, which is not closed
     };
 
-    /// The tokenizer stands on the question's text; line is the call's.
+    /// The token is the question's string; line is the line of the call.
     QuestionCall(CallFamily family, int line, const Tokenizer &token);
 
     CallFamily family() const { return m_family; }
     int line() const { return m_line; }
 
-    /// Reads the token behind those read before.
-    Outcome take(const Tokenizer &token);
+    /// Reads the next token.
+    Progress take(const Tokenizer &token);
 
     /// The tag of a call that has ended: the question as it is displayed, with its answers and the default
-    /// answer. Nothing when these are missing.
+    /// answer; nullopt if these are missing.
     std::optional<QString> tag() const;
 
 private:
@@ -41,13 +41,13 @@ private:
 
     CallFamily m_family;
     int m_line;
-    std::string_view m_question; // its literals
-    std::size_t m_argumentBegin; // of the argument being read
+    std::string_view m_question; // its string literals
+    std::size_t m_argumentBegin; // of the current argument
     std::uint32_t m_parentheses = 1;
     std::uint32_t m_braces = 0;
-    std::uint32_t m_arguments = 0;           // those that have ended
+    std::uint32_t m_arguments = 0;           // that have ended
     std::array<std::string_view, 2> m_first; // the second and third argument
-    std::array<std::string_view, 2> m_last;  // the last but one and the last
+    std::array<std::string_view, 2> m_last;  // the last two arguments
 };
 
 } // namespace Scan

@@ -1,4 +1,4 @@
-#include "scanner/source_scanner.h"
+#include "scanner/scan_files.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -11,7 +11,7 @@ namespace Scan {
 
 namespace {
 
-// The files of one run, scanned by several threads and taken in order by one.
+// The files of one run: several threads scan them, and one takes the results in order.
 class FileQueue
 {
 public:
@@ -22,7 +22,7 @@ public:
     {
     }
 
-    // A thread's work: batches of files, in list order, until there are none left.
+    // The work of a thread: scans batches of files in list order, to the end of the list.
     void work()
     {
         while (const std::optional<Batch> batch = claim()) {
@@ -57,16 +57,16 @@ private:
         std::size_t end = 0;
     };
 
-    // Batches are small at the end, so that no thread is waited for long, and few enough before to cost
-    // nothing in themselves.
+    // Batches become smaller towards the end, so that all threads finish together; before that they are few
+    // enough to cost nothing.
     std::optional<Batch> claim()
     {
-        constexpr std::size_t most = 16;
+        constexpr std::size_t maximum = 16;
         const std::lock_guard lock(m_mutex);
         if (m_next >= m_finished.size())
             return std::nullopt;
         const std::size_t left = m_finished.size() - m_next;
-        const Batch batch{m_next, m_next + std::clamp<std::size_t>(left / most, 1, most)};
+        const Batch batch{m_next, m_next + std::clamp<std::size_t>(left / maximum, 1, maximum)};
         m_next = batch.end;
         return batch;
     }

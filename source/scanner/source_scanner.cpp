@@ -1,15 +1,20 @@
 #include "scanner/source_scanner.h"
 
+#include "scanner/parser.h"
 #include "scanner/source_text.h"
 
 #include <QFile>
 #include <QLoggingCategory>
 
-#include <algorithm>
+using namespace Qt::Literals::StringLiterals;
 
 namespace Scan {
 
 namespace {
+
+using Nvx::Util::Done;
+using Nvx::Util::Failure;
+using Nvx::Util::Outcome;
 
 Q_LOGGING_CATEGORY(scannerLog, "nvx.scanner", QtWarningMsg)
 
@@ -27,70 +32,54 @@ std::string_view viewOf(const QByteArray &bytes)
 
 } // namespace
 
-QSet<Clt::MessageKey> KeySets::keys(CallFamily family) const
-{
-    const Lines &lines = m_lines[static_cast<std::size_t>(family)];
-    return {lines.keyBegin(), lines.keyEnd()};
-}
-
-// The calls come in the order of the text.
-void KeySets::insert(CallFamily family, const Clt::MessageKey &key, int line)
-{
-    int &first = m_lines[static_cast<std::size_t>(family)][key];
-    if (first == 0)
-        first = line;
-}
-
 SourceScanner::SourceScanner(const QString &process, const QString &fileName)
     : m_process(process)
     , m_fileName(fileName)
 {
 }
 
-bool SourceScanner::scan()
+const Outcome &SourceScanner::scan()
 {
-    m_keys = KeySets();
-    m_errorText.clear();
-    QFile file(m_fileName);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        m_errorText = QStringLiteral("Cannot open file");
-        return false;
-    }
-    const QByteArray contents = file.readAll();
-    // The messages of the part that is missing would count as obsolete, and nobody would be told.
-    if (file.error() != QFileDevice::NoError) {
-        m_errorText = QStringLiteral("Cannot read file");
-        return false;
-    }
-    // All encodings that are read write a macro's name in the same bytes.
-    if (namesMacro(viewOf(contents)))
-        scanText(toSourceText(contents));
-    return !hasError();
+    m_keys.clear();
+    m_outcome = scanFile();
+    return m_outcome;
 }
 
-void SourceScanner::scanText(const QByteArray &text)
+Outcome SourceScanner::scanFile()
+{
+    QFile file(m_fileName);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return Failure{u"Cannot open file"_s};
+    const QByteArray contents = file.readAll();
+    // The messages of the unread part would silently become obsolete.
+    if (file.error() != QFileDevice::NoError)
+        return Failure{u"Cannot read file"_s};
+    // Every supported encoding writes a macro's name in the same bytes.
+    if (!namesMacro(viewOf(contents)))
+        return Done();
+    return scanText(toSourceText(contents));
+}
+
+Outcome SourceScanner::scanText(const QByteArray &text)
 {
     Parser parser(viewOf(text), traceToLog());
-    if (const std::optional<SourceError> error = parser.parse()) {
-        m_errorText = error->text();
-        return;
+    if (Outcome parsed = parser.parse(); !parsed)
+        return parsed;
+    // The calls are in the order of the text, so the first call of a key sets its line.
+    for (const Call &call : parser.calls()) {
+        int &line = m_keys[call.family][{call.tag, call.context, m_process}];
+        if (line == 0)
+            line = call.line;
     }
-    for (const Call &call : parser.calls())
-        m_keys.insert(call.family, {call.tag, call.context, m_process}, call.line);
+    return Done();
 }
 
-// Two families may have one key: an error and a message with the same tag.
-void addKeys(FoundKeys &found, const SourceScanner &scanner)
+QSet<Clt::MessageKey> SourceScanner::keys(CallFamily family) const
 {
-    for (const KeySets::Lines &lines : scanner.keys().lines()) {
-        for (auto key = lines.keyValueBegin(); key != lines.keyValueEnd(); ++key) {
-            SourcePlace &place = found[key->first];
-            if (place.line == 0)
-                place = {scanner.fileName(), key->second};
-            else if (place.file == scanner.fileName())
-                place.line = std::min(place.line, key->second);
-        }
-    }
+    const auto found = m_keys.find(family);
+    if (found == m_keys.end())
+        return {};
+    return {found->second.keyBegin(), found->second.keyEnd()};
 }
 
 } // namespace Scan

@@ -1,6 +1,6 @@
 #include "scanner/string_literal.h"
 
-#include "scanner/source_lexis.h"
+#include "scanner/lexis.h"
 #include "scanner/source_text.h"
 
 #include <QByteArray>
@@ -14,8 +14,8 @@ namespace Scan {
 
 namespace {
 
-// Collects a literal's text: bytes, which are read together since several escapes may write one character,
-// and code units.
+// Collects a literal's text from bytes and code units. Consecutive bytes are decoded together, because
+// several escape sequences may write one character.
 class LiteralText
 {
 public:
@@ -64,22 +64,22 @@ int digitValue(char byte)
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : 16;
 }
 
-// Digits of a base from a position on, taken as a number that stays at its greatest when it overflows.
+// The digits of a base from a position on, and their value, which is the maximum if it overflows.
 struct Digits
 {
     char32_t value = 0;
     std::size_t end = 0;
 };
 
-Digits readDigits(std::string_view content, std::size_t from, std::size_t most, int base)
+Digits readDigits(std::string_view content, std::size_t from, std::size_t maximum, int base)
 {
-    constexpr char32_t greatest = 0x7FFFFFFF;
+    constexpr char32_t maximumValue = 0x7FFFFFFF;
     Digits digits{0, from};
-    while (digits.end < content.size() && digits.end - from < most &&
+    while (digits.end < content.size() && digits.end - from < maximum &&
            digitValue(content[digits.end]) < base) {
         const auto value = static_cast<char32_t>(digitValue(content[digits.end]));
-        const bool fits = digits.value <= greatest >> 4;
-        digits.value = fits ? digits.value * static_cast<char32_t>(base) + value : greatest;
+        const bool fits = digits.value <= maximumValue >> 4;
+        digits.value = fits ? digits.value * static_cast<char32_t>(base) + value : maximumValue;
         ++digits.end;
     }
     return digits;
@@ -93,7 +93,7 @@ std::optional<char> simpleEscape(char letter)
     return found == std::string_view::npos ? std::nullopt : std::optional(values[found]);
 }
 
-// One literal that is not raw.
+// A literal that is not raw.
 class EscapedContent
 {
 public:
@@ -144,8 +144,8 @@ private:
         }
     }
 
-    // The number behind the escape's letter: in braces with any number of digits, or else at most so many.
-    Digits number(std::size_t from, std::size_t most, int base) const
+    // The number after the escape's letter: any number of digits in braces, or at most this number without.
+    Digits number(std::size_t from, std::size_t maximum, int base) const
     {
         if (from < m_content.size() && m_content[from] == '{') {
             Digits digits = readDigits(m_content, from + 1, m_content.size(), base);
@@ -154,13 +154,13 @@ private:
                 return digits;
             }
         }
-        return readDigits(m_content, from, most, base);
+        return readDigits(m_content, from, maximum, base);
     }
 
-    // A number of a byte or code unit. An escape without digits stands for its letter.
-    void decodeNumber(std::size_t from, std::size_t most, int base)
+    // The number of a byte or code unit. An escape without digits is its letter.
+    void decodeNumber(std::size_t from, std::size_t maximum, int base)
     {
-        const Digits digits = number(from, most, base);
+        const Digits digits = number(from, maximum, base);
         m_at = digits.end;
         if (digits.end == from)
             m_text.appendByte(m_content[from - 1]);
@@ -170,10 +170,10 @@ private:
             m_text.appendUnit(digits.value);
     }
 
-    // A number of a Unicode character.
-    void decodeCharacter(std::size_t from, std::size_t most)
+    // The number of a Unicode character.
+    void decodeCharacter(std::size_t from, std::size_t maximum)
     {
-        const Digits digits = number(from, most, 16);
+        const Digits digits = number(from, maximum, 16);
         m_at = digits.end;
         if (digits.end == from)
             m_text.appendByte(m_content[from - 1]);

@@ -51,7 +51,7 @@ std::size_t countEqual(Lane lane, char byte)
 
 #else
 
-// One byte at a time, by the same expressions.
+// One byte at a time, with the same expressions.
 constexpr std::size_t width = 1;
 
 using Lane = unsigned char;
@@ -93,8 +93,8 @@ unsigned lowestBit(unsigned mask)
     return static_cast<unsigned>(__builtin_ctz(mask));
 }
 
-// The first position from `from` to before `limit` at which matchWide gives a bit or matchOne is true. Both
-// may look `reach` bytes ahead, which lie within the text.
+// The first position from `from` to before `limit` for which matchWide sets a bit or matchOne is true. Both
+// may read `reach` bytes ahead, within the text.
 template<typename MatchWide, typename MatchOne>
 std::size_t find(std::string_view text, std::size_t from, std::size_t limit, std::size_t reach,
                  MatchWide matchWide, MatchOne matchOne)

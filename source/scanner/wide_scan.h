@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-/// Searches that look at sixteen bytes at a time where the processor can. Each takes the whole text and a
-/// position in it, reads nothing outside the text, and answers the text's size when nothing is found.
+/// Searches that examine sixteen bytes at a time on processors that can. Each takes the whole text and a
+/// position in it, reads only within the text, and returns the text's size if nothing is found.
 namespace Scan::Wide {
 
 /// The position of the first line feed at or after from.
@@ -12,12 +12,11 @@ std::size_t findLineFeed(std::string_view text, std::size_t from);
 /// The number of line feeds in the text.
 std::size_t countLineFeeds(std::string_view text);
 
-/// The position just behind the first "*/" that begins at or after from.
+/// The position after the first "*/" that begins at or after from.
 std::size_t findCommentEnd(std::string_view text, std::size_t from);
 
-/// The position of the first byte at or after from, and before limit, that can mean something inside a
-/// function's body: a brace, a quote, a slash or a number sign; limit when there is none. The limit lies
-/// within the text.
+/// The position of the first byte from the position to before limit that can matter in a function's body: a
+/// brace, a quote, a slash or a number sign; limit if there is none. The limit is at most the text's size.
 std::size_t findBodyByte(std::string_view text, std::size_t from, std::size_t limit);
 
 /// The position of the first byte at or after from that is followed by "_" and is a "K" or a "T" (so that

@@ -8,8 +8,8 @@
 
 namespace Scan {
 
-/// A fixed set of words, each with a value. The words stand in the order of their first bytes, so that a
-/// look-up compares with those of one first byte only.
+/// A fixed set of words, each with a value. The words are sorted by their first bytes, so that a look-up
+/// compares only with those that have the same first byte.
 template<typename Value, std::size_t Size>
 class WordTable
 {
@@ -26,7 +26,7 @@ public:
         }
     }
 
-    /// The word's value, or the other one when it is not in the table.
+    /// The word's value, or the other value if it is not in the table.
     constexpr Value find(std::string_view word, Value otherwise) const
     {
         if (word.empty())

@@ -2,7 +2,7 @@
 
 #include <QTextStream>
 
-namespace Error {
+namespace Synchronisation {
 
 ProgressLog::ProgressLog(QTextStream &stream, Progress progress)
     : m_stream(stream)
@@ -40,7 +40,7 @@ QTextStream &ProgressLog::stream()
     return m_stream;
 }
 
-// Blanks rather than a control sequence, which not every terminal of Windows knows.
+// Overwrites with blanks, because not every Windows terminal supports control sequences.
 void ProgressLog::clearProgress()
 {
     if (m_shownLength == 0)
@@ -49,4 +49,4 @@ void ProgressLog::clearProgress()
     m_shownLength = 0;
 }
 
-} // namespace Error
+} // namespace Synchronisation

@@ -5,7 +5,7 @@
 
 class QTextStream;
 
-namespace Error {
+namespace Synchronisation {
 
 /// Writes lines to a stream and, on a terminal, a progress line below them that is updated in place.
 class ProgressLog
@@ -13,25 +13,25 @@ class ProgressLog
 public:
     enum class Progress
     {
-        Hidden, ///< the stream is a file or a pipe
-        Shown   ///< it is a terminal
+        Hidden, ///< for a file or a pipe
+        Shown   ///< for a terminal
     };
 
-    /// The stream lives longer than the log.
+    /// The stream must outlive the log.
     ProgressLog(QTextStream &stream, Progress progress);
     ProgressLog(const ProgressLog &) = delete;
     ProgressLog &operator=(const ProgressLog &) = delete;
 
-    /// Takes the progress line away.
+    /// Erases the progress line.
     ~ProgressLog();
 
-    /// Writes a line, in place of the progress line if there is one.
+    /// Writes a line, which replaces the progress line if there is one.
     void writeLine(const QString &line);
 
-    /// Shows the text as the progress line, though not more often than the eye can follow.
+    /// Shows the text as the progress line, at most ten times a second.
     void showProgress(const QString &text);
 
-    /// The stream, with no progress line on it.
+    /// The stream, after erasing the progress line.
     QTextStream &stream();
 
 private:
@@ -43,4 +43,4 @@ private:
     QElapsedTimer m_sinceShown;
 };
 
-} // namespace Error
+} // namespace Synchronisation

@@ -12,7 +12,8 @@ int main(int argc, char *argv[])
     QTextStream output(stdout);
     QTextStream errors(stderr);
     const bool onTerminal = Nvx::Util::isStandardOutputTerminal();
-    const auto device = onTerminal ? Error::OutputDevice::Terminal : Error::OutputDevice::FileOrPipe;
+    const auto device =
+        onTerminal ? UpdateTable::OutputDevice::Terminal : UpdateTable::OutputDevice::FileOrPipe;
     return static_cast<int>(
-        Error::runUpdateErrorTable(QCoreApplication::arguments().mid(1), output, errors, device));
+        UpdateTable::runUpdateErrorTable(QCoreApplication::arguments().mid(1), output, errors, device));
 }

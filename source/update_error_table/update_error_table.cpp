@@ -1,35 +1,48 @@
 #include "update_error_table/update_error_table.h"
 
-#include "synchronisation/message_table_update.h"
+#include "synchronisation/message_table_synchronisation.h"
 #include "synchronisation/progress_log.h"
 #include "translation/translation_update.h"
-#include "update_error_table/command_line.h"
+#include "update_error_table/arguments.h"
 
 #include <QTextStream>
 
-namespace Error {
+using Synchronisation::ProgressLog;
+
+namespace UpdateTable {
 
 namespace {
 
-TableUpdate run(const Operation &operation, ProgressLog &log, QTextStream &errors)
+// How the operations ended.
+struct Completion
+{
+    bool succeeded = true;
+    int skippedFiles = 0; ///< source files that could not be scanned
+};
+
+Completion run(const Operation &operation, ProgressLog &log, QTextStream &errors)
 {
     switch (operation.kind) {
-    case Operation::Kind::SynchronizeMessageTable:
-        return synchronizeMessageTable(operation.messageTable, operation.other, log);
+    case Operation::Kind::SynchronizeMessageTable: {
+        const auto synchronisation =
+            Synchronisation::synchronizeMessageTable(operation.messageTable, operation.other, log);
+        return {.succeeded = bool(synchronisation.outcome), .skippedFiles = synchronisation.skippedFiles};
+    }
     case Operation::Kind::SynchronizeTranslationTable:
         break;
     }
-    return {synchronizeTranslationTable(operation.messageTable, operation.other, log.stream(), errors), 0};
+    return {.succeeded = bool(Error::synchronizeTranslationTable(operation.messageTable, operation.other,
+                                                                 log.stream(), errors))};
 }
 
-// An operation that follows a failed one may need what that one did not make.
-TableUpdate runAll(const std::vector<Operation> &operations, ProgressLog &log, QTextStream &errors)
+// Stops at the first failure, because a later operation may need the earlier one's file.
+Completion runAll(const std::vector<Operation> &operations, ProgressLog &log, QTextStream &errors)
 {
-    TableUpdate all{true, 0};
+    Completion all;
     for (const Operation &operation : operations) {
-        const TableUpdate update = run(operation, log, errors);
-        all.skippedFiles += update.skippedFiles;
-        if (!update.succeeded) {
+        const Completion one = run(operation, log, errors);
+        all.skippedFiles += one.skippedFiles;
+        if (!one.succeeded) {
             all.succeeded = false;
             break;
         }
@@ -51,26 +64,26 @@ void writeSkipped(int files, QTextStream &errors)
 ExitCode runUpdateErrorTable(const QStringList &arguments, QTextStream &output, QTextStream &errors,
                              OutputDevice outputDevice)
 {
-    const std::optional<CommandLine> commandLine = readCommandLine(arguments);
-    if (!commandLine) {
-        errors << usageText();
+    const Nvx::Util::Result<Arguments> read = readArguments(arguments);
+    if (!read) {
+        errors << read.error();
         errors.flush();
         return ExitCode::WrongArguments;
     }
-    if (commandLine->help) {
-        output << usageText();
+    if (read->help) {
+        output << usage();
         output.flush();
         return ExitCode::Done;
     }
 
     const bool onTerminal = outputDevice == OutputDevice::Terminal;
-    TableUpdate update;
+    Completion completion;
     {
         ProgressLog log(output, onTerminal ? ProgressLog::Progress::Shown : ProgressLog::Progress::Hidden);
-        update = runAll(commandLine->operations, log, errors);
+        completion = runAll(read->operations, log, errors);
     }
-    writeSkipped(update.skippedFiles, errors);
-    return update.succeeded ? ExitCode::Done : ExitCode::Failed;
+    writeSkipped(completion.skippedFiles, errors);
+    return completion.succeeded ? ExitCode::Done : ExitCode::Failed;
 }
 
-} // namespace Error
+} // namespace UpdateTable

@@ -4,14 +4,14 @@
 
 class QTextStream;
 
-namespace Error {
+namespace UpdateTable {
 
 /// The process's exit codes.
 enum class ExitCode
 {
     Done = 0,
-    Failed = 1,        ///< an operation failed; those after it were not begun
-    WrongArguments = 2 ///< nothing was done
+    Failed = 1,        ///< an operation failed; the following ones were not started
+    WrongArguments = 2 ///< no operation was started
 };
 
 enum class OutputDevice
@@ -20,10 +20,10 @@ enum class OutputDevice
     Terminal
 };
 
-/// Runs the program with the arguments, without its own name. Lines about the work and the usage that was
-/// asked for go to output; the usage upon wrong arguments, and at the very end how many source files were
-/// skipped if any were, to errors.
+/// Runs the program with the arguments, without its own name. Writes the progress of the work, or the usage
+/// if requested, to output; and to errors the usage if the arguments are wrong, and last the number of source
+/// files skipped, if any.
 ExitCode runUpdateErrorTable(const QStringList &arguments, QTextStream &output, QTextStream &errors,
                              OutputDevice outputDevice);
 
-} // namespace Error
+} // namespace UpdateTable

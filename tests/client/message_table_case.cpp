@@ -7,15 +7,17 @@
 #include <QFile>
 #include <QStringList>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-/// The text in quotation marks, its line ends and tabs made visible.
+// The text in quotation marks, with its line ends and tabs visible.
 QString quoted(QString text)
 {
-    text.replace(u'\\', QStringLiteral("\\\\"));
-    text.replace(u'\n', QStringLiteral("\\n"));
-    text.replace(u'\r', QStringLiteral("\\r"));
-    text.replace(u'\t', QStringLiteral("\\t"));
+    text.replace(u'\\', u"\\\\"_s);
+    text.replace(u'\n', u"\\n"_s);
+    text.replace(u'\r', u"\\r"_s);
+    text.replace(u'\t', u"\\t"_s);
     return u'"' + text + u'"';
 }
 
@@ -24,11 +26,11 @@ QStringList linesOf(const Clt::Message &message)
     QStringList lines{message.key().displayText() + u' ' + Clt::severityToText(message.severity()) + u' ' +
                       Clt::stateToText(message.state()) + u' ' + QString::number(message.solution())};
     if (!message.sourceTitle().isEmpty())
-        lines += QStringLiteral("  title ") + quoted(message.sourceTitle());
+        lines += u"  title "_s + quoted(message.sourceTitle());
     if (!message.sourceText().isEmpty())
-        lines += QStringLiteral("  text ") + quoted(message.sourceText());
+        lines += u"  text "_s + quoted(message.sourceText());
     if (!message.sourceAction().isEmpty())
-        lines += QStringLiteral("  action ") + quoted(message.sourceAction());
+        lines += u"  action "_s + quoted(message.sourceAction());
     return lines;
 }
 
@@ -36,9 +38,9 @@ QStringList loadInto(Clt::MessageTable &table, const QString &fileName)
 {
     const RecordedAssertions failed;
     const bool loaded = table.load(fileName);
-    QStringList lines{loaded ? QStringLiteral("loaded") : QStringLiteral("not loaded")};
+    QStringList lines{loaded ? u"loaded"_s : u"not loaded"_s};
     for (const QString &assertion : failed.list())
-        lines += QStringLiteral("assertion: ") + assertion;
+        lines += u"assertion: "_s + assertion;
     return lines;
 }
 
@@ -55,8 +57,8 @@ MessageTableCase runMessageTableCase(const QString &caseFolder, const QString &w
     }
     for (const auto &[key, message] : table)
         lines += linesOf(message);
-    const QString saved = workFolder + QStringLiteral("/saved.xml");
+    const QString saved = workFolder + u"/saved.xml"_s;
     if (!table.save(saved))
-        lines += QStringLiteral("not saved");
+        lines += u"not saved"_s;
     return {lines.join(u'\n').toUtf8() + '\n', fileLines(saved).value_or(QByteArray())};
 }

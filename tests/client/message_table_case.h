@@ -3,13 +3,13 @@
 #include <QByteArray>
 #include <QString>
 
-/// What became of one case of a message table's reading and writing.
+/// The results of reading and writing a message table.
 struct MessageTableCase
 {
-    QByteArray told;  ///< results, failed assertions and messages, a line each
+    QByteArray lines; ///< results, failed assertions and messages, one per line
     QByteArray saved; ///< the file that the table was saved to
 };
 
-/// Loads "input.xml" of the case's folder, and "input2.xml" if it has one, into one table and saves that into
+/// Loads "input.xml" and, if it exists, "input2.xml" of the case's folder into one table, and saves that in
 /// the other folder.
 MessageTableCase runMessageTableCase(const QString &caseFolder, const QString &workFolder);

@@ -5,12 +5,14 @@
 #include <QTest>
 #include <QTranslator>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Clt::Message;
 using Clt::MessageKey;
 
 namespace {
 
-/// Translates one text in one context, as the application asks for them.
+/// Translates one text in one context, for the application's look-ups.
 class OneText : public QTranslator
 {
 public:
@@ -39,7 +41,7 @@ private:
 Message messageIn(const QString &context)
 {
     Message message;
-    message.setKey({QStringLiteral("TAG"), context, QStringLiteral("client")});
+    message.setKey({u"TAG"_s, context, u"client"_s});
     return message;
 }
 
@@ -67,13 +69,13 @@ private slots:
 
     void everyFieldIsSetAndCopied()
     {
-        Message message = messageIn(QStringLiteral("Clt"));
+        Message message = messageIn(u"Clt"_s);
         message.setSeverity(Clt::Severity::Question);
         message.setState(Clt::MessageState::Obsolete);
-        message.setTitle(QStringLiteral("title"));
-        message.setText(QStringLiteral("text"));
-        message.setAction(QStringLiteral("action"));
-        message.setFile(QStringLiteral("a.cpp"));
+        message.setTitle(u"title"_s);
+        message.setText(u"text"_s);
+        message.setAction(u"action"_s);
+        message.setFile(u"a.cpp"_s);
         message.setLine(-7);
         message.setAnswers(Clt::Answer::Yes | Clt::Answer::No);
         message.setDefaultAnswer(Clt::Answer::No);
@@ -83,10 +85,10 @@ private slots:
         QCOMPARE(copy.severity(), Clt::Severity::Question);
         QCOMPARE(copy.state(), Clt::MessageState::Obsolete);
         QVERIFY(copy.key() == message.key());
-        QCOMPARE(copy.title(), QStringLiteral("title"));
-        QCOMPARE(copy.text(), QStringLiteral("text"));
-        QCOMPARE(copy.action(), QStringLiteral("action"));
-        QCOMPARE(copy.file(), QStringLiteral("a.cpp"));
+        QCOMPARE(copy.title(), u"title"_s);
+        QCOMPARE(copy.text(), u"text"_s);
+        QCOMPARE(copy.action(), u"action"_s);
+        QCOMPARE(copy.file(), u"a.cpp"_s);
         QCOMPARE(copy.line(), -7);
         QCOMPARE(copy.answers(), Clt::Answer::Yes | Clt::Answer::No);
         QCOMPARE(copy.defaultAnswer(), Clt::Answer::No);
@@ -96,21 +98,21 @@ private slots:
     void bothFormsOfATextAreEqualWithoutATranslation_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("plain") << QStringLiteral("No server");
+        QTest::newRow("plain") << u"No server"_s;
         QTest::newRow("empty") << QString();
-        QTest::newRow("umlauts") << QStringLiteral("Kein Gerät für „%1“");
-        QTest::newRow("beyond Latin-1") << QStringLiteral("サーバーがありません");
-        QTest::newRow("beyond the basic plane") << QStringLiteral("clef 𝄞");
-        QTest::newRow("question marks") << QStringLiteral("?ä?");
-        QTest::newRow("a NUL") << QStringLiteral("a%1b").arg(QChar(u'\0'));
+        QTest::newRow("umlauts") << u"Kein Gerät für „%1“"_s;
+        QTest::newRow("beyond Latin-1") << u"サーバーがありません"_s;
+        QTest::newRow("beyond the basic plane") << u"clef 𝄞"_s;
+        QTest::newRow("question marks") << u"?ä?"_s;
+        QTest::newRow("a NUL") << u"a%1b"_s.arg(QChar(u'\0'));
         QTest::newRow("only a NUL") << QString(QChar(u'\0'));
-        QTest::newRow("%n") << QStringLiteral("%n files");
+        QTest::newRow("%n") << u"%n files"_s;
     }
 
     void bothFormsOfATextAreEqualWithoutATranslation()
     {
         QFETCH(const QString, text);
-        Message message = messageIn(QStringLiteral("Clt"));
+        Message message = messageIn(u"Clt"_s);
         message.setTitle(text);
         message.setText(text);
         message.setAction(text);
@@ -121,102 +123,102 @@ private slots:
 
     void textsAreTranslatedInTheKeysContext()
     {
-        const OneText translator("Clt::Session", "No server", QStringLiteral("Kein Server"));
-        Message message = messageIn(QStringLiteral("Clt::Session"));
-        message.setTitle(QStringLiteral("No server"));
-        message.setText(QStringLiteral("No server"));
-        message.setAction(QStringLiteral("No server"));
+        const OneText translator("Clt::Session", "No server", u"Kein Server"_s);
+        Message message = messageIn(u"Clt::Session"_s);
+        message.setTitle(u"No server"_s);
+        message.setText(u"No server"_s);
+        message.setAction(u"No server"_s);
         for (const QString &translated : {message.title(), message.text(), message.action()})
-            QCOMPARE(translated, QStringLiteral("Kein Server"));
+            QCOMPARE(translated, u"Kein Server"_s);
         for (const QString &source : {message.sourceTitle(), message.sourceText(), message.sourceAction()})
-            QCOMPARE(source, QStringLiteral("No server"));
+            QCOMPARE(source, u"No server"_s);
     }
 
-    void anotherContextTranslatesNothing()
+    void otherContextsAreNotTranslated()
     {
-        const OneText translator("Clt::Session", "No server", QStringLiteral("Kein Server"));
-        Message message = messageIn(QStringLiteral("Session"));
-        message.setText(QStringLiteral("No server"));
-        QCOMPARE(message.text(), QStringLiteral("No server"));
+        const OneText translator("Clt::Session", "No server", u"Kein Server"_s);
+        Message message = messageIn(u"Session"_s);
+        message.setText(u"No server"_s);
+        QCOMPARE(message.text(), u"No server"_s);
     }
 
-    void aLaterKeyTranslatesNothingAnew()
+    void settingTheKeyLaterDoesNotTranslateAgain()
     {
-        const OneText translator("Old", "No server", QStringLiteral("Kein Server"));
-        Message message = messageIn(QStringLiteral("Old"));
-        message.setText(QStringLiteral("No server"));
-        message.setKey({QString(), QStringLiteral("New"), QString()});
-        QCOMPARE(message.text(), QStringLiteral("Kein Server"));
+        const OneText translator("Old", "No server", u"Kein Server"_s);
+        Message message = messageIn(u"Old"_s);
+        message.setText(u"No server"_s);
+        message.setKey({QString(), u"New"_s, QString()});
+        QCOMPARE(message.text(), u"Kein Server"_s);
     }
 
-    void lookUpIsMadeInAscii_data()
+    void lookUpUsesAscii_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QByteArray>("source");
-        QTest::newRow("Latin-1") << QStringLiteral("Gerät") << QByteArray("Ger?t");
-        QTest::newRow("Japanese") << QStringLiteral("保存 A") << QByteArray("?? A");
-        QTest::newRow("two code units") << QStringLiteral("𝄞") << QByteArray("??");
+        QTest::newRow("Latin-1") << u"Gerät"_s << QByteArray("Ger?t");
+        QTest::newRow("Japanese") << u"保存 A"_s << QByteArray("?? A");
+        QTest::newRow("two code units") << u"𝄞"_s << QByteArray("??");
         QTest::newRow("0x7f is ASCII, 0x80 is not")
             << QString(QChar(0x7f)) + QChar(0x80) << QByteArray("\x7f?");
     }
 
-    void lookUpIsMadeInAscii()
+    void lookUpUsesAscii()
     {
         QFETCH(const QString, text);
         QFETCH(const QByteArray, source);
-        const OneText translator("Ger?t", source, QStringLiteral("found: ü"));
-        Message message = messageIn(QStringLiteral("Gerät"));
+        const OneText translator("Ger?t", source, u"found: ü"_s);
+        Message message = messageIn(u"Gerät"_s);
         message.setText(text);
-        QCOMPARE(message.text(), QStringLiteral("found: ü"));
+        QCOMPARE(message.text(), u"found: ü"_s);
         QCOMPARE(message.sourceText(), text);
     }
 
     void argumentsFillBothFormsOfTextAndAction()
     {
-        const OneText translator("Clt", "Port %1", QStringLiteral("Anschluss %1"));
-        Message message = messageIn(QStringLiteral("Clt"));
-        message.setText(QStringLiteral("Port %1"));
-        message.setAction(QStringLiteral("Free %1"));
-        message.applyArguments({QStringLiteral("80")});
-        QCOMPARE(message.text(), QStringLiteral("Anschluss 80"));
-        QCOMPARE(message.sourceText(), QStringLiteral("Port 80"));
-        QCOMPARE(message.action(), QStringLiteral("Free 80"));
-        QCOMPARE(message.sourceAction(), QStringLiteral("Free 80"));
+        const OneText translator("Clt", "Port %1", u"Anschluss %1"_s);
+        Message message = messageIn(u"Clt"_s);
+        message.setText(u"Port %1"_s);
+        message.setAction(u"Free %1"_s);
+        message.applyArguments({u"80"_s});
+        QCOMPARE(message.text(), u"Anschluss 80"_s);
+        QCOMPARE(message.sourceText(), u"Port 80"_s);
+        QCOMPARE(message.action(), u"Free 80"_s);
+        QCOMPARE(message.sourceAction(), u"Free 80"_s);
     }
 
-    void titlesAreNeverFilled()
+    void titlesAreNotFilled()
     {
         Message message;
-        message.setTitle(QStringLiteral("Port %1"));
-        message.applyArguments({QStringLiteral("80")});
-        QCOMPARE(message.title(), QStringLiteral("Port %1"));
-        QCOMPARE(message.sourceTitle(), QStringLiteral("Port %1"));
+        message.setTitle(u"Port %1"_s);
+        message.applyArguments({u"80"_s});
+        QCOMPARE(message.title(), u"Port %1"_s);
+        QCOMPARE(message.sourceTitle(), u"Port %1"_s);
     }
 
     void logTextNamesSeverityFileAndLine()
     {
         Message message;
         message.setSeverity(Clt::Severity::Critical);
-        message.setFile(QStringLiteral("session.cpp"));
+        message.setFile(u"session.cpp"_s);
         message.setLine(1234567);
-        message.setText(QStringLiteral("No server"));
-        QCOMPARE(message.logText(), QStringLiteral("### Critical: session.cpp 1234567\nNo server\n"));
+        message.setText(u"No server"_s);
+        QCOMPARE(message.logText(), u"### Critical: session.cpp 1234567\nNo server\n"_s);
     }
 
     void logTextAddsTheSourceTextWhenItDiffers()
     {
-        const OneText translator("Clt", "No server", QStringLiteral("Kein Server"));
-        Message message = messageIn(QStringLiteral("Clt"));
-        message.setText(QStringLiteral("No server"));
-        QCOMPARE(message.logText(), QStringLiteral("### Information:  0\nKein Server\n(No server)\n"));
+        const OneText translator("Clt", "No server", u"Kein Server"_s);
+        Message message = messageIn(u"Clt"_s);
+        message.setText(u"No server"_s);
+        QCOMPARE(message.logText(), u"### Information:  0\nKein Server\n(No server)\n"_s);
     }
 
-    void logTextTakesPercentSignsAsTheyAre()
+    void logTextLeavesPercentSignsUnchanged()
     {
         Message message;
-        message.setFile(QStringLiteral("%3%2"));
-        message.setText(QStringLiteral("%1"));
-        QCOMPARE(message.logText(), QStringLiteral("### Information: %3%2 0\n%1\n"));
+        message.setFile(u"%3%2"_s);
+        message.setText(u"%1"_s);
+        QCOMPARE(message.logText(), u"### Information: %3%2 0\n%1\n"_s);
     }
 };
 

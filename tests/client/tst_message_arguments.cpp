@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_message_arguments : public QObject
 {
     Q_OBJECT
@@ -13,21 +15,21 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("count");
         QTest::newRow("empty text") << QString() << 0;
-        QTest::newRow("none") << QStringLiteral("No server") << 0;
-        QTest::newRow("one") << QStringLiteral("Server %1") << 1;
-        QTest::newRow("one of them twice") << QStringLiteral("%1 and %2 and %1") << 2;
-        QTest::newRow("the same twice") << QStringLiteral("%1%1") << 1;
-        QTest::newRow("ten is one of its own") << QStringLiteral("%10") << 1;
-        QTest::newRow("nine") << QStringLiteral("%9") << 1;
-        QTest::newRow("ten and one") << QStringLiteral("%10 %1") << 2;
-        QTest::newRow("zero counts") << QStringLiteral("%0") << 1;
-        QTest::newRow("leading zero is another text") << QStringLiteral("%01 %1") << 2;
-        QTest::newRow("any number of digits") << QStringLiteral("%12345678901234567890") << 1;
-        QTest::newRow("percent alone") << QStringLiteral("100 %") << 0;
-        QTest::newRow("percent and letter") << QStringLiteral("%n %L1") << 0;
-        QTest::newRow("two percents before the digit") << QStringLiteral("%%1") << 1;
-        QTest::newRow("percent between digits") << QStringLiteral("%1%2%") << 2;
-        QTest::newRow("other scripts' digits are none") << QStringLiteral("%١") << 0;
+        QTest::newRow("no placeholder") << u"No server"_s << 0;
+        QTest::newRow("one") << u"Server %1"_s << 1;
+        QTest::newRow("two, one of them twice") << u"%1 and %2 and %1"_s << 2;
+        QTest::newRow("the same twice") << u"%1%1"_s << 1;
+        QTest::newRow("ten is one placeholder") << u"%10"_s << 1;
+        QTest::newRow("nine") << u"%9"_s << 1;
+        QTest::newRow("ten and one") << u"%10 %1"_s << 2;
+        QTest::newRow("zero counts") << u"%0"_s << 1;
+        QTest::newRow("a leading zero is a different placeholder") << u"%01 %1"_s << 2;
+        QTest::newRow("any number of digits") << u"%12345678901234567890"_s << 1;
+        QTest::newRow("only a percent sign") << u"100 %"_s << 0;
+        QTest::newRow("percent and letter") << u"%n %L1"_s << 0;
+        QTest::newRow("two percents before the digit") << u"%%1"_s << 1;
+        QTest::newRow("percent between digits") << u"%1%2%"_s << 2;
+        QTest::newRow("digits of other scripts do not count") << u"%١"_s << 0;
     }
 
     void distinctPlaceholdersAreCounted()
@@ -42,28 +44,22 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("filled");
-        const QStringList one{QStringLiteral("a")};
-        const QStringList two{QStringLiteral("a"), QStringLiteral("b")};
-        QTest::newRow("no arguments") << QStringLiteral("x %1") << QStringList() << QStringLiteral("x %1");
-        QTest::newRow("too few arguments fill nothing")
-            << QStringLiteral("%1 %2") << one << QStringLiteral("%1 %2");
-        QTest::newRow("in order") << QStringLiteral("%1 %2") << two << QStringLiteral("a b");
-        QTest::newRow("reversed") << QStringLiteral("%2 %1") << two << QStringLiteral("b a");
-        QTest::newRow("repeated") << QStringLiteral("%1 %1") << one << QStringLiteral("a a");
-        QTest::newRow("more arguments than placeholders")
-            << QStringLiteral("x %1") << two << QStringLiteral("x a");
-        QTest::newRow("the second argument alone") << QStringLiteral("x %2") << two << QStringLiteral("x b");
-        QTest::newRow("the second placeholder with one argument")
-            << QStringLiteral("x %2") << one << QStringLiteral("x %2");
-        QTest::newRow("no placeholder") << QStringLiteral("x") << two << QStringLiteral("x");
-        QTest::newRow("one stands in ten") << QStringLiteral("%10") << one << QStringLiteral("a");
-        QTest::newRow("an argument's own placeholder is filled in its turn")
-            << QStringLiteral("%1") << QStringList{QStringLiteral("<%2>"), QStringLiteral("b")}
-            << QStringLiteral("<b>");
-        QTest::newRow("an empty argument")
-            << QStringLiteral("[%1]") << QStringList{QString()} << QStringLiteral("[]");
-        QTest::newRow("a zero is the lowest and takes the first argument")
-            << QStringLiteral("%0 %1") << two << QStringLiteral("a %1");
+        const QStringList one{u"a"_s};
+        const QStringList two{u"a"_s, u"b"_s};
+        QTest::newRow("no arguments") << u"x %1"_s << QStringList() << u"x %1"_s;
+        QTest::newRow("too few arguments") << u"%1 %2"_s << one << u"%1 %2"_s;
+        QTest::newRow("in order") << u"%1 %2"_s << two << u"a b"_s;
+        QTest::newRow("reversed") << u"%2 %1"_s << two << u"b a"_s;
+        QTest::newRow("repeated") << u"%1 %1"_s << one << u"a a"_s;
+        QTest::newRow("more arguments than placeholders") << u"x %1"_s << two << u"x a"_s;
+        QTest::newRow("only the second placeholder") << u"x %2"_s << two << u"x b"_s;
+        QTest::newRow("the second placeholder with one argument") << u"x %2"_s << one << u"x %2"_s;
+        QTest::newRow("no placeholder") << u"x"_s << two << u"x"_s;
+        QTest::newRow("ten contains one") << u"%10"_s << one << u"a"_s;
+        QTest::newRow("a placeholder in an argument is filled by a later one")
+            << u"%1"_s << QStringList{u"<%2>"_s, u"b"_s} << u"<b>"_s;
+        QTest::newRow("an empty argument") << u"[%1]"_s << QStringList{QString()} << u"[]"_s;
+        QTest::newRow("zero is the lowest and gets the first argument") << u"%0 %1"_s << two << u"a %1"_s;
     }
 
     void placeholdersAreFilled()
@@ -79,8 +75,7 @@ private slots:
         QStringList arguments;
         for (char16_t letter = u'a'; letter <= u'j'; ++letter)
             arguments += QString(QChar(letter));
-        QCOMPARE(Clt::applyArguments(QStringLiteral("%1%2%3%4%5%6%7%8%9%10"), arguments),
-                 QStringLiteral("abcdefghij"));
+        QCOMPARE(Clt::applyArguments(u"%1%2%3%4%5%6%7%8%9%10"_s, arguments), u"abcdefghij"_s);
     }
 };
 

@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Clt::Answer;
 using Clt::Answers;
 using Clt::MessageState;
@@ -11,7 +13,7 @@ using Clt::Severity;
 
 namespace {
 
-const QStringList oneFailure{QStringLiteral("false in clt_message")};
+const QStringList oneFailure{u"false in clt_message"_s};
 
 QStringList failures(int count)
 {
@@ -29,11 +31,11 @@ private slots:
     {
         QTest::addColumn<int>("value");
         QTest::addColumn<QString>("name");
-        QTest::newRow("0") << 0 << QStringLiteral("Information");
-        QTest::newRow("1") << 1 << QStringLiteral("Warning");
-        QTest::newRow("2") << 2 << QStringLiteral("Critical");
-        QTest::newRow("3") << 3 << QStringLiteral("Status");
-        QTest::newRow("4") << 4 << QStringLiteral("Question");
+        QTest::newRow("0") << 0 << u"Information"_s;
+        QTest::newRow("1") << 1 << u"Warning"_s;
+        QTest::newRow("2") << 2 << u"Critical"_s;
+        QTest::newRow("3") << 3 << u"Status"_s;
+        QTest::newRow("4") << 4 << u"Question"_s;
     }
 
     void severitiesHaveNames()
@@ -58,7 +60,7 @@ private slots:
     {
         QFETCH(const int, value);
         const RecordedAssertions failed;
-        QCOMPARE(Clt::severityToText(static_cast<Severity>(value)), QStringLiteral("Unknown"));
+        QCOMPARE(Clt::severityToText(static_cast<Severity>(value)), u"Unknown"_s);
         QCOMPARE(failed.list(), oneFailure);
     }
 
@@ -76,9 +78,9 @@ private slots:
     {
         QTest::addColumn<int>("value");
         QTest::addColumn<QString>("name");
-        QTest::newRow("0") << 0 << QStringLiteral("InSync");
-        QTest::newRow("1") << 1 << QStringLiteral("New");
-        QTest::newRow("2") << 2 << QStringLiteral("Obsolete");
+        QTest::newRow("0") << 0 << u"InSync"_s;
+        QTest::newRow("1") << 1 << u"New"_s;
+        QTest::newRow("2") << 2 << u"Obsolete"_s;
     }
 
     void statesHaveNames()
@@ -94,8 +96,8 @@ private slots:
     void otherStatesAreUnknown()
     {
         const RecordedAssertions failed;
-        QCOMPARE(Clt::stateToText(static_cast<MessageState>(3)), QStringLiteral("Unknown"));
-        QCOMPARE(Clt::stateToText(static_cast<MessageState>(-1)), QStringLiteral("Unknown"));
+        QCOMPARE(Clt::stateToText(static_cast<MessageState>(3)), u"Unknown"_s);
+        QCOMPARE(Clt::stateToText(static_cast<MessageState>(-1)), u"Unknown"_s);
         QCOMPARE(failed.list(), failures(2));
     }
 
@@ -113,13 +115,13 @@ private slots:
     {
         QTest::addColumn<quint32>("value");
         QTest::addColumn<QString>("name");
-        QTest::newRow("NoAnswer") << 0u << QStringLiteral("NoAnswer");
-        QTest::newRow("Ok") << 0x400u << QStringLiteral("Ok");
-        QTest::newRow("Yes") << 0x4000u << QStringLiteral("Yes");
-        QTest::newRow("No") << 0x10000u << QStringLiteral("No");
-        QTest::newRow("Abort") << 0x40000u << QStringLiteral("Abort");
-        QTest::newRow("Cancel") << 0x400000u << QStringLiteral("Cancel");
-        QTest::newRow("Discard") << 0x800000u << QStringLiteral("Discard");
+        QTest::newRow("NoAnswer") << 0u << u"NoAnswer"_s;
+        QTest::newRow("Ok") << 0x400u << u"Ok"_s;
+        QTest::newRow("Yes") << 0x4000u << u"Yes"_s;
+        QTest::newRow("No") << 0x10000u << u"No"_s;
+        QTest::newRow("Abort") << 0x40000u << u"Abort"_s;
+        QTest::newRow("Cancel") << 0x400000u << u"Cancel"_s;
+        QTest::newRow("Discard") << 0x800000u << u"Discard"_s;
     }
 
     void answersHaveNamesAndMessageBoxValues()
@@ -144,7 +146,7 @@ private slots:
     {
         QFETCH(const quint32, value);
         const RecordedAssertions failed;
-        QCOMPARE(Clt::answerToText(static_cast<Answer>(value)), QStringLiteral("Unknown"));
+        QCOMPARE(Clt::answerToText(static_cast<Answer>(value)), u"Unknown"_s);
         QCOMPARE(failed.list(), oneFailure);
     }
 
@@ -163,10 +165,10 @@ private slots:
         QTest::addColumn<quint32>("set");
         QTest::addColumn<QString>("text");
         QTest::newRow("none") << 0u << QString();
-        QTest::newRow("Ok and No") << (0x400u | 0x10000u) << QStringLiteral("Ok, No");
-        QTest::newRow("all") << 0xC54400u << QStringLiteral("Ok, Yes, No, Abort, Cancel, Discard");
-        QTest::newRow("Discard and Abort") << 0x840000u << QStringLiteral("Abort, Discard");
-        QTest::newRow("flags that are no answers are passed over") << 0x401u << QStringLiteral("Ok");
+        QTest::newRow("Ok and No") << (0x400u | 0x10000u) << u"Ok, No"_s;
+        QTest::newRow("all") << 0xC54400u << u"Ok, Yes, No, Abort, Cancel, Discard"_s;
+        QTest::newRow("Discard and Abort") << 0x840000u << u"Abort, Discard"_s;
+        QTest::newRow("flags that are not answers are skipped") << 0x401u << u"Ok"_s;
         QTest::newRow("only such flags") << 0x1u << QString();
     }
 
@@ -179,24 +181,24 @@ private slots:
         QCOMPARE(failed.list(), QStringList());
     }
 
-    void namesReadAsASet_data()
+    void namesAreReadAsASet_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<quint32>("set");
         QTest::addColumn<int>("failed");
-        QTest::newRow("one") << QStringLiteral("Ok") << 0x400u << 0;
-        QTest::newRow("Yes and No") << QStringLiteral("Yes, No") << 0x14000u << 0;
-        QTest::newRow("any order") << QStringLiteral("No, Yes") << 0x14000u << 0;
-        QTest::newRow("twice the same") << QStringLiteral("No, No") << 0x10000u << 0;
-        QTest::newRow("NoAnswer adds nothing") << QStringLiteral("NoAnswer, Ok") << 0x400u << 0;
+        QTest::newRow("one") << u"Ok"_s << 0x400u << 0;
+        QTest::newRow("Yes and No") << u"Yes, No"_s << 0x14000u << 0;
+        QTest::newRow("any order") << u"No, Yes"_s << 0x14000u << 0;
+        QTest::newRow("twice the same") << u"No, No"_s << 0x10000u << 0;
+        QTest::newRow("NoAnswer has no effect") << u"NoAnswer, Ok"_s << 0x400u << 0;
         QTest::newRow("the empty text is one unknown name") << QString() << 0u << 1;
-        QTest::newRow("an unknown name adds nothing") << QStringLiteral("Yes, Maybe, No") << 0x14000u << 1;
-        QTest::newRow("an empty part is an unknown name") << QStringLiteral("Yes, , No") << 0x14000u << 1;
-        QTest::newRow("a comma alone separates nothing") << QStringLiteral("Yes,No") << 0u << 1;
-        QTest::newRow("Unknown is no name") << QStringLiteral("Unknown") << 0u << 1;
+        QTest::newRow("an unknown name is skipped") << u"Yes, Maybe, No"_s << 0x14000u << 1;
+        QTest::newRow("an empty part is an unknown name") << u"Yes, , No"_s << 0x14000u << 1;
+        QTest::newRow("a comma without a blank is not a separator") << u"Yes,No"_s << 0u << 1;
+        QTest::newRow("Unknown is not a name") << u"Unknown"_s << 0u << 1;
     }
 
-    void namesReadAsASet()
+    void namesAreReadAsASet()
     {
         QFETCH(const QString, text);
         QFETCH(const quint32, set);
@@ -206,24 +208,23 @@ private slots:
         QCOMPARE(recorded.list(), failures(failed));
     }
 
-    void answerExpressionsLoseTheirPrefixes_data()
+    void prefixesInAnswerExpressionsAreDropped_data()
     {
         QTest::addColumn<QString>("expression");
         QTest::addColumn<QString>("text");
-        QTest::newRow("with a class")
-            << QStringLiteral("QMessageBox::Yes|QMessageBox::No") << QStringLiteral("Yes, No");
-        QTest::newRow("blanks around the bar") << QStringLiteral("Yes | No") << QStringLiteral("Yes, No");
-        QTest::newRow("tab and line feed") << QStringLiteral("\tYes\n|\nNo ") << QStringLiteral("Yes, No");
-        QTest::newRow("two prefixes") << QStringLiteral("Clt::Answer::Yes") << QStringLiteral("Yes");
-        QTest::newRow("a prefix without a name") << QStringLiteral("::Yes") << QStringLiteral("Yes");
-        QTest::newRow("nothing after the prefix") << QStringLiteral("Clt::") << QString();
-        QTest::newRow("blanks inside stay") << QStringLiteral("Clt:: Yes") << QStringLiteral(" Yes");
+        QTest::newRow("with a class") << u"QMessageBox::Yes|QMessageBox::No"_s << u"Yes, No"_s;
+        QTest::newRow("blanks around the bar") << u"Yes | No"_s << u"Yes, No"_s;
+        QTest::newRow("tab and line feed") << u"\tYes\n|\nNo "_s << u"Yes, No"_s;
+        QTest::newRow("two prefixes") << u"Clt::Answer::Yes"_s << u"Yes"_s;
+        QTest::newRow("an empty prefix") << u"::Yes"_s << u"Yes"_s;
+        QTest::newRow("a prefix and no name") << u"Clt::"_s << QString();
+        QTest::newRow("blanks inside are preserved") << u"Clt:: Yes"_s << u" Yes"_s;
         QTest::newRow("empty") << QString() << QString();
-        QTest::newRow("an empty part") << QStringLiteral("Yes||No") << QStringLiteral("Yes, , No");
-        QTest::newRow("unknown names pass") << QStringLiteral("X::Maybe|No") << QStringLiteral("Maybe, No");
+        QTest::newRow("an empty part") << u"Yes||No"_s << u"Yes, , No"_s;
+        QTest::newRow("unknown names are accepted") << u"X::Maybe|No"_s << u"Maybe, No"_s;
     }
 
-    void answerExpressionsLoseTheirPrefixes()
+    void prefixesInAnswerExpressionsAreDropped()
     {
         QFETCH(const QString, expression);
         QFETCH(const QString, text);
@@ -234,15 +235,12 @@ private slots:
     {
         QTest::addColumn<QString>("question");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("with its mark") << QStringLiteral("Save?") << QStringLiteral("Save? Yes, No; No");
-        QTest::newRow("without") << QStringLiteral("Save") << QStringLiteral("Save? Yes, No; No");
-        QTest::newRow("a blank after the mark")
-            << QStringLiteral("Save? ") << QStringLiteral("Save? ? Yes, No; No");
-        QTest::newRow("another script's mark")
-            << QStringLiteral("保存？") << QStringLiteral("保存？? Yes, No; No");
-        QTest::newRow("no text") << QString() << QStringLiteral("? Yes, No; No");
-        QTest::newRow("a placeholder stays")
-            << QStringLiteral("Save %1?") << QStringLiteral("Save %1? Yes, No; No");
+        QTest::newRow("with a question mark") << u"Save?"_s << u"Save? Yes, No; No"_s;
+        QTest::newRow("without a question mark") << u"Save"_s << u"Save? Yes, No; No"_s;
+        QTest::newRow("a blank after the mark") << u"Save? "_s << u"Save? ? Yes, No; No"_s;
+        QTest::newRow("a question mark of another script") << u"保存？"_s << u"保存？? Yes, No; No"_s;
+        QTest::newRow("no text") << QString() << u"? Yes, No; No"_s;
+        QTest::newRow("with a placeholder") << u"Save %1?"_s << u"Save %1? Yes, No; No"_s;
     }
 
     void questionsShowTheirAnswers()
@@ -257,10 +255,8 @@ private slots:
 
     void questionWithoutAnswersKeepsItsSeparators()
     {
-        QCOMPARE(Clt::questionDisplayText(QStringLiteral("Save?"), Answers(), Answer::NoAnswer),
-                 QStringLiteral("Save? ; NoAnswer"));
-        QCOMPARE(Clt::questionDisplayText(QStringLiteral("Save?"), u"", u"NoAnswer"),
-                 QStringLiteral("Save? ; NoAnswer"));
+        QCOMPARE(Clt::questionDisplayText(u"Save?"_s, Answers(), Answer::NoAnswer), u"Save? ; NoAnswer"_s);
+        QCOMPARE(Clt::questionDisplayText(u"Save?"_s, u"", u"NoAnswer"), u"Save? ; NoAnswer"_s);
     }
 
 private:
@@ -268,10 +264,10 @@ private:
     {
         QTest::addColumn<QString>("text");
         QTest::newRow("empty") << QString();
-        QTest::newRow("Unknown") << QStringLiteral("Unknown");
-        QTest::newRow("small letters") << QStringLiteral("warning");
-        QTest::newRow("blanks around") << QStringLiteral(" New ");
-        QTest::newRow("a number") << QStringLiteral("1");
+        QTest::newRow("Unknown") << u"Unknown"_s;
+        QTest::newRow("small letters") << u"warning"_s;
+        QTest::newRow("blanks around") << u" New "_s;
+        QTest::newRow("a number") << u"1"_s;
     }
 };
 

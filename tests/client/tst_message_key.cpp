@@ -4,11 +4,13 @@
 #include <QHash>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Clt::MessageKey;
 
 namespace {
 
-/// A key as it is shown: process, context, tag.
+/// A key from its parts in the order in which they are shown.
 MessageKey keyOf(const char *process, const char *context, const char *tag)
 {
     return {QString::fromUtf8(tag), QString::fromUtf8(context), QString::fromUtf8(process)};
@@ -23,25 +25,22 @@ class tst_message_key : public QObject
 private slots:
     void fieldsAreDeclaredTagFirst()
     {
-        const MessageKey key{QStringLiteral("t"), QStringLiteral("c"), QStringLiteral("p")};
-        QCOMPARE(key.tag, QStringLiteral("t"));
-        QCOMPARE(key.context, QStringLiteral("c"));
-        QCOMPARE(key.process, QStringLiteral("p"));
+        const MessageKey key{u"t"_s, u"c"_s, u"p"_s};
+        QCOMPARE(key.tag, u"t"_s);
+        QCOMPARE(key.context, u"c"_s);
+        QCOMPARE(key.process, u"p"_s);
     }
 
     void displayTextShowsProcessContextTag()
     {
-        QCOMPARE(keyOf("client", "A::B::c", "TAG").displayText(), QStringLiteral("(client, A::B::c, TAG)"));
+        QCOMPARE(keyOf("client", "A::B::c", "TAG").displayText(), u"(client, A::B::c, TAG)"_s);
     }
 
-    void displayTextOfAnEmptyKeyKeepsTheCommas()
-    {
-        QCOMPARE(MessageKey().displayText(), QStringLiteral("(, , )"));
-    }
+    void displayTextOfAnEmptyKeyKeepsTheCommas() { QCOMPARE(MessageKey().displayText(), u"(, , )"_s); }
 
-    void displayTextTakesPercentSignsAsTheyAre()
+    void displayTextLeavesPercentSignsUnchanged()
     {
-        QCOMPARE(keyOf("%2", "%3", "%1").displayText(), QStringLiteral("(%2, %3, %1)"));
+        QCOMPARE(keyOf("%2", "%3", "%1").displayText(), u"(%2, %3, %1)"_s);
     }
 
     void keysAreEqualWhenAllFieldsAre_data()
@@ -52,7 +51,7 @@ private slots:
         QTest::newRow("another process") << keyOf("q", "c", "t") << false;
         QTest::newRow("another context") << keyOf("p", "d", "t") << false;
         QTest::newRow("another tag") << keyOf("p", "c", "u") << false;
-        QTest::newRow("another case") << keyOf("P", "c", "t") << false;
+        QTest::newRow("other capitals") << keyOf("P", "c", "t") << false;
         QTest::newRow("fields exchanged") << keyOf("t", "c", "p") << false;
     }
 
@@ -74,7 +73,8 @@ private slots:
         QTest::newRow("capitals first") << keyOf("p", "c", "Z") << keyOf("p", "c", "a");
         QTest::newRow("a prefix first") << keyOf("p", "c", "a") << keyOf("p", "c", "aa");
         QTest::newRow("empty first") << keyOf("p", "c", "") << keyOf("p", "c", "a");
-        QTest::newRow("no locale: z before a-umlaut") << keyOf("p", "c", "z") << keyOf("p", "c", "ä");
+        QTest::newRow("independent of the locale: z before a-umlaut")
+            << keyOf("p", "c", "z") << keyOf("p", "c", "ä");
         // U+1D11E starts with the code unit D834, below FF21.
         QTest::newRow("code units, not code points") << keyOf("p", "c", "𝄞") << keyOf("p", "c", "Ａ");
     }
@@ -109,15 +109,15 @@ private slots:
         QTest::addColumn<QString>("context");
         QTest::addColumn<bool>("full");
         QTest::newRow("empty") << QString() << false;
-        QTest::newRow("one part") << QStringLiteral("A") << false;
-        QTest::newRow("two parts") << QStringLiteral("A::B") << false;
-        QTest::newRow("three parts") << QStringLiteral("A::B::C") << true;
-        QTest::newRow("four parts") << QStringLiteral("A::B::C::D") << false;
-        QTest::newRow("three empty parts") << QStringLiteral("::::") << true;
-        QTest::newRow("empty last part") << QStringLiteral("A::B::") << true;
-        QTest::newRow("empty first part") << QStringLiteral("::A::B") << true;
-        QTest::newRow("single colons part nothing") << QStringLiteral("A:B:C") << false;
-        QTest::newRow("three colons are a separator and a colon") << QStringLiteral("A:::B::C") << true;
+        QTest::newRow("one part") << u"A"_s << false;
+        QTest::newRow("two parts") << u"A::B"_s << false;
+        QTest::newRow("three parts") << u"A::B::C"_s << true;
+        QTest::newRow("four parts") << u"A::B::C::D"_s << false;
+        QTest::newRow("three empty parts") << u"::::"_s << true;
+        QTest::newRow("empty last part") << u"A::B::"_s << true;
+        QTest::newRow("empty first part") << u"::A::B"_s << true;
+        QTest::newRow("single colons are not separators") << u"A:B:C"_s << false;
+        QTest::newRow("three colons are a separator and a colon") << u"A:::B::C"_s << true;
     }
 
     void contextIsFullWithThreeParts()
@@ -131,26 +131,24 @@ private slots:
     {
         QTest::addColumn<QString>("context");
         QTest::addColumn<QString>("shortened");
-        QTest::newRow("three parts") << QStringLiteral("A::B::C") << QStringLiteral("B::C");
-        QTest::newRow("four parts") << QStringLiteral("A::B::C::D") << QStringLiteral("B::C::D");
-        QTest::newRow("two parts stay") << QStringLiteral("Y::Z") << QStringLiteral("Y::Z");
-        QTest::newRow("one part stays") << QStringLiteral("Z") << QStringLiteral("Z");
-        QTest::newRow("empty stays") << QString() << QString();
-        QTest::newRow("empty first part") << QStringLiteral("::B::C") << QStringLiteral("B::C");
-        QTest::newRow("empty other parts") << QStringLiteral("A::::") << QStringLiteral("::");
-        QTest::newRow("third colon goes with the rest")
-            << QStringLiteral("A:::B::C") << QStringLiteral(":B::C");
+        QTest::newRow("three parts") << u"A::B::C"_s << u"B::C"_s;
+        QTest::newRow("four parts") << u"A::B::C::D"_s << u"B::C::D"_s;
+        QTest::newRow("two parts are not shortened") << u"Y::Z"_s << u"Y::Z"_s;
+        QTest::newRow("one part is not shortened") << u"Z"_s << u"Z"_s;
+        QTest::newRow("empty") << QString() << QString();
+        QTest::newRow("empty first part") << u"::B::C"_s << u"B::C"_s;
+        QTest::newRow("empty other parts") << u"A::::"_s << u"::"_s;
+        QTest::newRow("a third colon belongs to the rest") << u"A:::B::C"_s << u":B::C"_s;
     }
 
     void shorteningDropsTheFirstOfThreeOrMoreParts()
     {
         QFETCH(const QString, context);
         QFETCH(const QString, shortened);
-        const MessageKey key =
-            MessageKey{QStringLiteral("t"), context, QStringLiteral("p")}.withShortenedContext();
+        const MessageKey key = MessageKey{u"t"_s, context, u"p"_s}.withShortenedContext();
         QCOMPARE(key.context, shortened);
-        QCOMPARE(key.tag, QStringLiteral("t"));
-        QCOMPARE(key.process, QStringLiteral("p"));
+        QCOMPARE(key.tag, u"t"_s);
+        QCOMPARE(key.process, u"p"_s);
     }
 };
 

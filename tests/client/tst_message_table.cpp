@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Clt::Message;
 using Clt::MessageKey;
 using Clt::MessageTable;
@@ -39,10 +41,10 @@ QStringList shownKeys(const MessageTable &table)
     return shown;
 }
 
-const QString p = QStringLiteral("p");
+const QString p = u"p"_s;
 
-/// A reader that stands on the start element of a document.
-void standOnRoot(QXmlStreamReader &xml, const QString &document)
+/// Moves the reader to the start element of the document.
+void readToRoot(QXmlStreamReader &xml, const QString &document)
 {
     xml.addData(document);
     xml.readNextStartElement();
@@ -65,13 +67,12 @@ private slots:
     }
 
     // A table of 100,000 messages has few processes and contexts.
-    void neighboursHaveTheTextsOfTheirKeysInCommon()
+    void neighboursShareTheTextsOfTheirKeys()
     {
         MessageTable table;
-        const QStringList tags{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+        const QStringList tags{u"a"_s, u"b"_s, u"c"_s};
         for (const QString &tag : tags)
-            table.insert(
-                messageOf(QStringLiteral("process").repeated(2), QStringLiteral("context").repeated(2), tag));
+            table.insert(messageOf(u"process"_s.repeated(2), u"context"_s.repeated(2), tag));
         const MessageKey &first = table.begin()->first;
         for (const auto &[key, message] : table) {
             QCOMPARE(key.process.constData(), first.process.constData());
@@ -79,80 +80,79 @@ private slots:
         }
     }
 
-    void aKeyThatIsMissingHasAnEmptyMessage()
+    void missingKeyHasAnEmptyMessage()
     {
         MessageTable table;
-        table.insert(messageOf(p, QStringLiteral("A::B"), QStringLiteral("t"), QStringLiteral("text")));
-        const Message missing = table.message(keyOf(p, QStringLiteral("B"), QStringLiteral("t")));
+        table.insert(messageOf(p, u"A::B"_s, u"t"_s, u"text"_s));
+        const Message missing = table.message(keyOf(p, u"B"_s, u"t"_s));
         QVERIFY(missing.text().isEmpty());
         QCOMPARE(missing.key(), MessageKey());
     }
 
-    void messagesStandInKeyOrder()
+    void messagesAreInKeyOrder()
     {
         MessageTable table;
-        table.insert(messageOf(QStringLiteral("B"), QStringLiteral("a"), QStringLiteral("a")));
-        table.insert(messageOf(QStringLiteral("A"), QStringLiteral("z"), QStringLiteral("z")));
-        table.insert(messageOf(QStringLiteral("A"), QStringLiteral("z"), QStringLiteral("a")));
-        table.insert(messageOf(QStringLiteral("A"), QStringLiteral("b"), QStringLiteral("z")));
-        QCOMPARE(shownKeys(table), QStringList({QStringLiteral("(A, b, z)"), QStringLiteral("(A, z, a)"),
-                                                QStringLiteral("(A, z, z)"), QStringLiteral("(B, a, a)")}));
+        table.insert(messageOf(u"B"_s, u"a"_s, u"a"_s));
+        table.insert(messageOf(u"A"_s, u"z"_s, u"z"_s));
+        table.insert(messageOf(u"A"_s, u"z"_s, u"a"_s));
+        table.insert(messageOf(u"A"_s, u"b"_s, u"z"_s));
+        QCOMPARE(shownKeys(table),
+                 QStringList({u"(A, b, z)"_s, u"(A, z, a)"_s, u"(A, z, z)"_s, u"(B, a, a)"_s}));
     }
 
-    void messagesWithDifferentTagsAreBothKept()
+    void messagesWithDifferentTagsAreBothStored()
     {
         MessageTable table;
-        table.insert(messageOf(p, p, QStringLiteral("a")));
-        table.insert(messageOf(p, p, QStringLiteral("b")));
+        table.insert(messageOf(p, p, u"a"_s));
+        table.insert(messageOf(p, p, u"b"_s));
         QCOMPARE(table.size(), std::size_t(2));
     }
 
-    void insertingReplacesTheMessageOfThatKey()
+    void insertingReplacesTheMessageOfTheKey()
     {
         MessageTable table;
-        table.insert(messageOf(p, p, p, QStringLiteral("old")));
-        table.insert(messageOf(p, QStringLiteral("q"), p));
-        table.insert(messageOf(p, p, p, QStringLiteral("new")));
+        table.insert(messageOf(p, p, p, u"old"_s));
+        table.insert(messageOf(p, u"q"_s, p));
+        table.insert(messageOf(p, p, p, u"new"_s));
         QCOMPARE(table.size(), std::size_t(2));
-        QCOMPARE(table.message(keyOf(p, p, p)).text(), QStringLiteral("new"));
+        QCOMPARE(table.message(keyOf(p, p, p)).text(), u"new"_s);
     }
 
-    void placeIsThatOfTheMessageUnderExactlyThatKey()
+    void placeIsSetOnlyForExactlyTheKey()
     {
         MessageTable table;
-        table.insert(messageOf(p, QStringLiteral("B::C"), p));
-        QVERIFY(!table.setPlace(keyOf(p, QStringLiteral("A::B::C"), p), QStringLiteral("a.cpp"), 1));
-        QVERIFY(table.setPlace(keyOf(p, QStringLiteral("B::C"), p), QStringLiteral("b.cpp"), 2));
+        table.insert(messageOf(p, u"B::C"_s, p));
+        QVERIFY(!table.setPlace(keyOf(p, u"A::B::C"_s, p), u"a.cpp"_s, 1));
+        QVERIFY(table.setPlace(keyOf(p, u"B::C"_s, p), u"b.cpp"_s, 2));
         QCOMPARE(table.size(), std::size_t(1));
-        QCOMPARE(table.message(keyOf(p, QStringLiteral("B::C"), p)).file(), QStringLiteral("b.cpp"));
-        QCOMPARE(table.message(keyOf(p, QStringLiteral("B::C"), p)).line(), 2);
+        QCOMPARE(table.message(keyOf(p, u"B::C"_s, p)).file(), u"b.cpp"_s);
+        QCOMPARE(table.message(keyOf(p, u"B::C"_s, p)).line(), 2);
     }
 
-    void removingTellsWhetherThereWasOne()
+    void removingReturnsWhetherThereWasAMessage()
     {
         MessageTable table;
-        table.insert(messageOf(p, QStringLiteral("B::C"), p));
-        QVERIFY(!table.remove(keyOf(p, QStringLiteral("A::B::C"), p)));
-        QVERIFY(table.remove(keyOf(p, QStringLiteral("B::C"), p)));
-        QVERIFY(!table.remove(keyOf(p, QStringLiteral("B::C"), p)));
+        table.insert(messageOf(p, u"B::C"_s, p));
+        QVERIFY(!table.remove(keyOf(p, u"A::B::C"_s, p)));
+        QVERIFY(table.remove(keyOf(p, u"B::C"_s, p)));
+        QVERIFY(!table.remove(keyOf(p, u"B::C"_s, p)));
         QVERIFY(table.isEmpty());
     }
 
     void keysAreAllKeys()
     {
         MessageTable table;
-        table.insert(messageOf(p, p, QStringLiteral("a")));
-        table.insert(messageOf(p, p, QStringLiteral("b")));
-        QCOMPARE(table.keys(),
-                 QSet<MessageKey>({keyOf(p, p, QStringLiteral("a")), keyOf(p, p, QStringLiteral("b"))}));
+        table.insert(messageOf(p, p, u"a"_s));
+        table.insert(messageOf(p, p, u"b"_s));
+        QCOMPARE(table.keys(), QSet<MessageKey>({keyOf(p, p, u"a"_s), keyOf(p, p, u"b"_s)}));
     }
 
     void copiesAreIndependent()
     {
         MessageTable table;
-        table.insert(messageOf(p, p, QStringLiteral("a")));
+        table.insert(messageOf(p, p, u"a"_s));
         MessageTable copy = table;
-        copy.insert(messageOf(p, p, QStringLiteral("b")));
+        copy.insert(messageOf(p, p, u"b"_s));
         table = MessageTable();
         QCOMPARE(copy.size(), std::size_t(2));
         QVERIFY(table.isEmpty());
@@ -160,59 +160,54 @@ private slots:
         QCOMPARE(shownKeys(table), shownKeys(copy));
     }
 
-    void lookUpFallsBackOnTheShortenedContext_data()
+    void lookUpFallsBackToTheShortenedContext_data()
     {
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("asked");
         QTest::addColumn<bool>("found");
-        QTest::newRow("the same") << QStringLiteral("X::Y::Z") << QStringLiteral("X::Y::Z") << true;
-        QTest::newRow("filed without the name space")
-            << QStringLiteral("Y::Z") << QStringLiteral("X::Y::Z") << true;
-        QTest::newRow("four parts lose one")
-            << QStringLiteral("X::Y::Z") << QStringLiteral("W::X::Y::Z") << true;
-        QTest::newRow("only one part is lost")
-            << QStringLiteral("Y::Z") << QStringLiteral("W::X::Y::Z") << false;
-        QTest::newRow("two parts are not shortened")
-            << QStringLiteral("Z") << QStringLiteral("Y::Z") << false;
-        QTest::newRow("nothing is added") << QStringLiteral("X::Y::Z") << QStringLiteral("Y::Z") << false;
+        QTest::newRow("the same") << u"X::Y::Z"_s << u"X::Y::Z"_s << true;
+        QTest::newRow("stored without the namespace") << u"Y::Z"_s << u"X::Y::Z"_s << true;
+        QTest::newRow("one of four parts is dropped") << u"X::Y::Z"_s << u"W::X::Y::Z"_s << true;
+        QTest::newRow("only one part is dropped") << u"Y::Z"_s << u"W::X::Y::Z"_s << false;
+        QTest::newRow("two parts are not shortened") << u"Z"_s << u"Y::Z"_s << false;
+        QTest::newRow("no part is added") << u"X::Y::Z"_s << u"Y::Z"_s << false;
     }
 
-    void lookUpFallsBackOnTheShortenedContext()
+    void lookUpFallsBackToTheShortenedContext()
     {
         QFETCH(const QString, stored);
         QFETCH(const QString, asked);
         QFETCH(const bool, found);
         MessageTable table;
-        table.insert(messageOf(p, stored, QStringLiteral("t"), QStringLiteral("text")));
-        const Message message = table.message(keyOf(p, asked, QStringLiteral("t")));
-        QCOMPARE(message.text(), found ? QStringLiteral("text") : QString());
+        table.insert(messageOf(p, stored, u"t"_s, u"text"_s));
+        const Message message = table.message(keyOf(p, asked, u"t"_s));
+        QCOMPARE(message.text(), found ? u"text"_s : QString());
         QCOMPARE(message.key().context, found ? stored : QString());
-        QCOMPARE(table.contains(keyOf(p, asked, QStringLiteral("t"))), stored == asked);
+        QCOMPARE(table.contains(keyOf(p, asked, u"t"_s)), stored == asked);
     }
 
-    void theWholeContextWinsOverTheShortened()
+    void fullContextIsPreferredToTheShortened()
     {
         MessageTable table;
-        table.insert(messageOf(p, QStringLiteral("Y::Z"), p, QStringLiteral("short")));
-        table.insert(messageOf(p, QStringLiteral("X::Y::Z"), p, QStringLiteral("whole")));
-        QCOMPARE(table.message(keyOf(p, QStringLiteral("X::Y::Z"), p)).text(), QStringLiteral("whole"));
+        table.insert(messageOf(p, u"Y::Z"_s, p, u"short"_s));
+        table.insert(messageOf(p, u"X::Y::Z"_s, p, u"whole"_s));
+        QCOMPARE(table.message(keyOf(p, u"X::Y::Z"_s, p)).text(), u"whole"_s);
     }
 
     void fallbackKeepsProcessAndTag()
     {
         MessageTable table;
-        table.insert(
-            messageOf(QStringLiteral("q"), QStringLiteral("Y::Z"), p, QStringLiteral("other process")));
-        table.insert(messageOf(p, QStringLiteral("Y::Z"), QStringLiteral("q"), QStringLiteral("other tag")));
-        QCOMPARE(table.message(keyOf(p, QStringLiteral("X::Y::Z"), p)).text(), QString());
+        table.insert(messageOf(u"q"_s, u"Y::Z"_s, p, u"other process"_s));
+        table.insert(messageOf(p, u"Y::Z"_s, u"q"_s, u"other tag"_s));
+        QCOMPARE(table.message(keyOf(p, u"X::Y::Z"_s, p)).text(), QString());
     }
 
-    void fileThatCannotBeOpenedLeavesTheTable()
+    void fileThatCannotBeOpenedLeavesTheTableUnchanged()
     {
         const TestFolder folder;
         MessageTable table;
         table.insert(messageOf(p, p, p));
-        QVERIFY(!table.load(folder.path(QStringLiteral("missing.xml"))));
+        QVERIFY(!table.load(folder.path(u"missing.xml"_s)));
         QVERIFY(!table.load(folder.path()));
         QCOMPARE(table.size(), std::size_t(1));
     }
@@ -220,7 +215,7 @@ private slots:
     void savingIntoAMissingFolderFails()
     {
         const TestFolder folder;
-        QVERIFY(!MessageTable().save(folder.path(QStringLiteral("missing/table.xml"))));
+        QVERIFY(!MessageTable().save(folder.path(u"missing/table.xml"_s)));
     }
 
     void savingOverAFolderFails()
@@ -232,9 +227,9 @@ private slots:
     void savingAnUnchangedTableLeavesTheTimeStamp()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.xml"));
+        const QString fileName = folder.path(u"table.xml"_s);
         MessageTable table;
-        table.insert(messageOf(p, p, p, QStringLiteral("ä")));
+        table.insert(messageOf(p, p, p, u"ä"_s));
         QVERIFY(table.save(fileName));
         const QDateTime old = QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6));
         {
@@ -244,12 +239,12 @@ private slots:
         }
         QVERIFY(table.save(fileName));
         QCOMPARE(QFileInfo(fileName).lastModified(), old);
-        table.insert(messageOf(p, p, p, QStringLiteral("ö")));
+        table.insert(messageOf(p, p, p, u"ö"_s));
         QVERIFY(table.save(fileName));
         QVERIFY(QFileInfo(fileName).lastModified() > old);
     }
 
-    void textThatXmlCannotCarryIsNotSaved_data()
+    void textThatXmlCannotRepresentIsNotSaved_data()
     {
         QTest::addColumn<QString>("text");
         QTest::newRow("escape") << QString(QChar(0x1b));
@@ -262,11 +257,11 @@ private slots:
         QTest::newRow("low surrogate") << QString(QChar(0xdd1e));
     }
 
-    void textThatXmlCannotCarryIsNotSaved()
+    void textThatXmlCannotRepresentIsNotSaved()
     {
         QFETCH(const QString, text);
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.xml"));
+        const QString fileName = folder.path(u"table.xml"_s);
         QVERIFY(writeBytes(fileName, "old"));
         MessageTable asText;
         asText.insert(messageOf(p, p, p, text));
@@ -290,7 +285,7 @@ private slots:
         QVERIFY(Clt::writeMessageTable(written, table));
         QVERIFY(written.data().contains("<message severity=\"Unknown\">"));
         QVERIFY(written.data().contains("<state>Unknown</state>"));
-        const QString failure = QStringLiteral("false in clt_message");
+        const QString failure = u"false in clt_message"_s;
         QCOMPARE(failed.list(), QStringList({failure, failure}));
     }
 
@@ -299,47 +294,47 @@ private slots:
         QBuffer closed;
         MessageTable table;
         table.insert(messageOf(p, p, p));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("device not open")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"device not open"_s));
         QVERIFY(!Clt::writeMessageTable(closed, table));
     }
 
     void messageReaderAssertsItsElement()
     {
         QXmlStreamReader xml;
-        standOnRoot(xml, QStringLiteral("<note severity=\"Warning\"/>"));
+        readToRoot(xml, u"<note severity=\"Warning\"/>"_s);
         const RecordedAssertions failed;
         QVERIFY(Clt::readMessage(xml));
-        QCOMPARE(failed.list(), QStringList(QStringLiteral(
-                                    "xml.isStartElement() && xml.name() == u\"message\" in clt_message")));
+        QCOMPARE(failed.list(),
+                 QStringList(u"xml.isStartElement() && xml.name() == u\"message\" in clt_message"_s));
     }
 
     void keyReaderAssertsItsElement()
     {
         QXmlStreamReader xml;
-        standOnRoot(xml, QStringLiteral("<note><tag>T</tag></note>"));
+        readToRoot(xml, u"<note><tag>T</tag></note>"_s);
         const RecordedAssertions failed;
-        QCOMPARE(Clt::readMessageKey(xml).tag, QStringLiteral("T"));
-        QCOMPARE(failed.list(), QStringList(QStringLiteral(
-                                    "xml.isStartElement() && xml.name() == u\"key\" in clt_message")));
+        QCOMPARE(Clt::readMessageKey(xml).tag, u"T"_s);
+        QCOMPARE(failed.list(),
+                 QStringList(u"xml.isStartElement() && xml.name() == u\"key\" in clt_message"_s));
     }
 
     void tableBodyReaderAssertsItsElement()
     {
         QXmlStreamReader xml;
-        standOnRoot(xml, QStringLiteral("<note><message severity=\"Status\"/></note>"));
+        readToRoot(xml, u"<note><message severity=\"Status\"/></note>"_s);
         MessageTable table;
         const RecordedAssertions failed;
         Clt::readMessageTableBody(xml, table);
         QCOMPARE(table.size(), std::size_t(1));
-        QCOMPARE(failed.list(),
-                 QStringList(QStringLiteral(
-                     "xml.isStartElement() && xml.name() == u\"messageTable\" in clt_message_table")));
+        QCOMPARE(
+            failed.list(),
+            QStringList(u"xml.isStartElement() && xml.name() == u\"messageTable\" in clt_message_table"_s));
     }
 
-    void deviceThatBreaksIsReadToThere_data()
+    void readingFromADeviceThatBreaksFails_data()
     {
         QTest::addColumn<QByteArray>("read");
-        QTest::newRow("at once") << QByteArray();
+        QTest::newRow("at the start") << QByteArray();
         QTest::newRow("within the root") << QByteArray("<messageTable>");
         QTest::newRow("within a message")
             << QByteArray("<messageTable><message severity=\"Status\"><text>T</text>");
@@ -348,7 +343,7 @@ private slots:
         QTest::newRow("within a text") << QByteArray("<messageTable><message severity=\"Status\"><text>T");
     }
 
-    void deviceThatBreaksIsReadToThere()
+    void readingFromADeviceThatBreaksFails()
     {
         QFETCH(const QByteArray, read);
         BrokenDevice device(read);

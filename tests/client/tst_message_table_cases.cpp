@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_message_table_cases : public QObject
 {
     Q_OBJECT
@@ -18,13 +20,13 @@ private slots:
         QFETCH(const QString, folder);
         const TestFolder work;
         const MessageTableCase result = runMessageTableCase(folder, work.path());
-        QCOMPARE(QString::fromUtf8(result.told),
-                 QString::fromUtf8(fileLines(folder + QStringLiteral("/expected.txt")).value_or("missing")));
+        QCOMPARE(QString::fromUtf8(result.lines),
+                 QString::fromUtf8(fileLines(folder + u"/expected.txt"_s).value_or("missing")));
         QCOMPARE(QString::fromUtf8(result.saved),
-                 QString::fromUtf8(fileLines(folder + QStringLiteral("/expected.xml")).value_or("missing")));
+                 QString::fromUtf8(fileLines(folder + u"/expected.xml"_s).value_or("missing")));
     }
 
-    // A folder of cases that is not found must not pass as no cases at all.
+    // A missing folder of cases must not pass as an empty one.
     void thereAreCases()
     {
         const QDir cases(QStringLiteral(CASES_FOLDER));

@@ -1,4 +1,4 @@
-// The bytes of a saved table. Lines end as the operating system ends them: LINE_END.
+// The bytes of a saved table, with the operating system's line ends (LINE_END).
 
 #include "clt_message_table.h"
 #include "support/file_bytes.h"
@@ -6,6 +6,8 @@
 #include "support/test_folder.h"
 
 #include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
 
 class tst_message_table_line_ends : public QObject
 {
@@ -15,13 +17,13 @@ private slots:
     void savedTableHasTheLineEndsOfTheSystem()
     {
         Clt::Message message;
-        message.setKey({QStringLiteral("Tag"), QStringLiteral("A::f"), QStringLiteral("client")});
+        message.setKey({u"Tag"_s, u"A::f"_s, u"client"_s});
         message.setSeverity(Clt::Severity::Warning);
-        message.setText(QStringLiteral("two\nlines\rand more"));
+        message.setText(u"two\nlines\rand more"_s);
         Clt::MessageTable table;
         table.insert(message);
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("errors.xml"));
+        const QString fileName = folder.path(u"errors.xml"_s);
         QVERIFY(table.save(fileName));
 
         const QByteArray expected =

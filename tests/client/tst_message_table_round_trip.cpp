@@ -56,20 +56,20 @@ std::optional<MessageTable> readBack(const QByteArray &bytes)
     return table;
 }
 
-bool keepsTitle(const Message &message)
+bool writesTitle(const Message &message)
 {
     return message.severity() == Severity::Critical || message.severity() == Severity::Question;
 }
 
-/// What the file keeps of a message, in one text.
-QStringList kept(const Message &message)
+/// The texts of a message that are written to the file.
+QStringList writtenTexts(const Message &message)
 {
     return {message.key().displayText(),
             Clt::severityToText(message.severity()),
             Clt::stateToText(message.state()),
             QString::number(message.solution()),
             message.text(),
-            keepsTitle(message) ? message.title() : QString(),
+            writesTitle(message) ? message.title() : QString(),
             message.severity() == Severity::Critical ? message.action() : QString()};
 }
 
@@ -87,9 +87,9 @@ class tst_message_table_round_trip : public QObject
     Q_OBJECT
 
 private slots:
-    void writtenTablesReadBackAsTheyWere_data() { seedRows(); }
+    void writtenTablesReadBackUnchanged_data() { seedRows(); }
 
-    void writtenTablesReadBackAsTheyWere()
+    void writtenTablesReadBackUnchanged()
     {
         QFETCH(const quint32, seed);
         const MessageTable table = randomTable(seed);
@@ -100,7 +100,7 @@ private slots:
         QCOMPARE(again->size(), table.size());
         for (const auto &[key, message] : table) {
             QVERIFY(again->contains(key));
-            QCOMPARE(kept(again->message(key)), kept(message));
+            QCOMPARE(writtenTexts(again->message(key)), writtenTexts(message));
         }
     }
 
@@ -116,14 +116,14 @@ private slots:
         QVERIFY(again);
         QCOMPARE(again->size(), table.size());
         for (const auto &[key, message] : *again) {
-            QVERIFY(keepsTitle(message) || message.title().isEmpty());
+            QVERIFY(writesTitle(message) || message.title().isEmpty());
             QVERIFY(message.severity() == Severity::Critical || message.action().isEmpty());
         }
     }
 
-    void whatWasReadIsWrittenAsItWas_data() { seedRows(); }
+    void tablesThatWereReadAreWrittenUnchanged_data() { seedRows(); }
 
-    void whatWasReadIsWrittenAsItWas()
+    void tablesThatWereReadAreWrittenUnchanged()
     {
         QFETCH(const quint32, seed);
         const std::optional<QByteArray> bytes = written(randomTable(seed));
@@ -133,9 +133,9 @@ private slots:
         QCOMPARE(written(*again), bytes);
     }
 
-    void oneUnspeakableCharacterAnywhereFailsTheWriting_data() { seedRows(); }
+    void writingFailsForACharacterThatXmlCannotRepresent_data() { seedRows(); }
 
-    void oneUnspeakableCharacterAnywhereFailsTheWriting()
+    void writingFailsForACharacterThatXmlCannotRepresent()
     {
         QFETCH(const quint32, seed);
         MessageTable table = randomTable(seed);

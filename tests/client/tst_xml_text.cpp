@@ -4,51 +4,53 @@
 #include <QTest>
 #include <QXmlStreamWriter>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_xml_text : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void xmlCarriesMostCharacters_data()
+    void xmlRepresentsMostCharacters_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("carried");
-        const auto row = [](const char *name, const QString &text, bool carried) {
-            QTest::newRow(name) << text << carried;
+        QTest::addColumn<bool>("representable");
+        const auto row = [](const char *name, const QString &text, bool representable) {
+            QTest::newRow(name) << text << representable;
         };
-        row("no text", QString(), true);
-        row("white space", QStringLiteral("\t\n\r "), true);
+        row("empty", QString(), true);
+        row("white space", u"\t\n\r "_s, true);
         row("the zero character", QString(QChar(0)), false);
-        row("before the tab", QStringLiteral("\x08"), false);
-        row("vertical tab", QStringLiteral("\v"), false);
-        row("form feed", QStringLiteral("\f"), false);
-        row("behind the carriage return", QStringLiteral("\x0e"), false);
-        row("before the blank", QStringLiteral("\x1f"), false);
-        row("delete", QStringLiteral("\x7f"), true);
+        row("before the tab", u"\x08"_s, false);
+        row("vertical tab", u"\v"_s, false);
+        row("form feed", u"\f"_s, false);
+        row("after the carriage return", u"\x0e"_s, false);
+        row("before the blank", u"\x1f"_s, false);
+        row("delete", u"\x7f"_s, true);
         row("before the surrogates", QString(QChar(0xD7FF)), true);
-        row("a pair", QStringLiteral("a\U0001F600b"), true);
-        row("the last pair", QStringLiteral("\U0010FFFD"), true);
-        row("behind the surrogates", QString(QChar(0xE000)), true);
-        row("a first half at the end", QStringLiteral("a") + QChar(0xD83D), false);
-        row("a first half before a letter", QString(QChar(0xD83D)) + QLatin1Char('a'), false);
-        row("two first halves", QString(2, QChar(0xD83D)), false);
-        row("a second half", QString(QChar(0xDE00)), false);
-        row("two second halves", QString(2, QChar(0xDE00)), false);
-        row("the last that counts", QString(QChar(0xFFFD)), true);
+        row("a pair", u"a\U0001F600b"_s, true);
+        row("the last pair", u"\U0010FFFD"_s, true);
+        row("after the surrogates", QString(QChar(0xE000)), true);
+        row("a high surrogate at the end", u"a"_s + QChar(0xD83D), false);
+        row("a high surrogate before a letter", QString(QChar(0xD83D)) + u'a', false);
+        row("two high surrogates", QString(2, QChar(0xD83D)), false);
+        row("a low surrogate", QString(QChar(0xDE00)), false);
+        row("two low surrogates", QString(2, QChar(0xDE00)), false);
+        row("the last one of 16 bits", QString(QChar(0xFFFD)), true);
         row("U+FFFE", QString(QChar(0xFFFE)), false);
         row("U+FFFF", QString(QChar(0xFFFF)), false);
-        row("the first character alone is wrong", QStringLiteral("\x01 text"), false);
+        row("only the first character is invalid", u"\x01 text"_s, false);
     }
 
-    void xmlCarriesMostCharacters()
+    void xmlRepresentsMostCharacters()
     {
         QFETCH(const QString, text);
-        QTEST(Clt::isXmlText(text), "carried");
+        QTEST(Clt::isXmlText(text), "representable");
     }
 
-    void aPairThatIsCutIsNotCarried()
+    void halfASurrogatePairIsNotRepresentable()
     {
-        const QString pair = QStringLiteral("\U0001F600");
+        const QString pair = u"\U0001F600"_s;
         QVERIFY(Clt::isXmlText(pair));
         QVERIFY(!Clt::isXmlText(QStringView(pair).first(1)));
     }
@@ -57,14 +59,12 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QByteArray>("written");
-        QTest::newRow("no text") << QString() << QByteArray("<a></a>");
-        QTest::newRow("none") << QStringLiteral("x\ny") << QByteArray("<a>x\ny</a>");
-        QTest::newRow("at the start") << QStringLiteral("\rx") << QByteArray("<a>&#13;x</a>");
-        QTest::newRow("at the end") << QStringLiteral("x\r") << QByteArray("<a>x&#13;</a>");
-        QTest::newRow("several") << QStringLiteral("x\r\ny\r\rz")
-                                 << QByteArray("<a>x&#13;\ny&#13;&#13;z</a>");
-        QTest::newRow("characters of XML")
-            << QStringLiteral("<&>\r") << QByteArray("<a>&lt;&amp;&gt;&#13;</a>");
+        QTest::newRow("empty") << QString() << QByteArray("<a></a>");
+        QTest::newRow("none") << u"x\ny"_s << QByteArray("<a>x\ny</a>");
+        QTest::newRow("at the start") << u"\rx"_s << QByteArray("<a>&#13;x</a>");
+        QTest::newRow("at the end") << u"x\r"_s << QByteArray("<a>x&#13;</a>");
+        QTest::newRow("several") << u"x\r\ny\r\rz"_s << QByteArray("<a>x&#13;\ny&#13;&#13;z</a>");
+        QTest::newRow("markup characters") << u"<&>\r"_s << QByteArray("<a>&lt;&amp;&gt;&#13;</a>");
     }
 
     void carriageReturnsAreWrittenAsReferences()
@@ -72,7 +72,7 @@ private slots:
         QFETCH(const QString, text);
         QByteArray written;
         QXmlStreamWriter xml(&written);
-        Clt::writeXmlTextElement(xml, QStringLiteral("a"), text);
+        Clt::writeXmlTextElement(xml, u"a"_s, text);
         QTEST(written, "written");
     }
 };

@@ -1,22 +1,23 @@
-#include "scanner/source_parser.h"
+#include "scanner/parser.h"
 #include "support/test_class.h"
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using namespace Scan;
 
 namespace {
 
-// The contexts of the calls in a text in which CALL stands for a call; none is written "none".
+// The contexts of the calls in a text in which CALL is replaced by a call; an empty context is "none".
 QStringList contextsOf(QByteArray text)
 {
     text.replace("CALL", "REPORT_ERROR(\"Tag\");");
     Parser parser({text.constData(), static_cast<std::size_t>(text.size())});
     QStringList contexts;
-    if (parser.parse())
-        return {QStringLiteral("an error")};
+    if (!parser.parse())
+        return {u"an error"_s};
     for (const Call &call : parser.calls())
-        contexts.append(call.context.isEmpty() ? QStringLiteral("none") : call.context);
+        contexts.append(call.context.isEmpty() ? u"none"_s : call.context);
     return contexts;
 }
 
@@ -40,7 +41,7 @@ void verifyContexts()
 
 } // namespace
 
-/// What the braces behind a declaration's head open, told by the contexts of the calls within them.
+/// What the brace after a declaration's head opens, as seen in the contexts of the calls in it.
 class tst_declaration_head : public QObject
 {
     Q_OBJECT
@@ -53,18 +54,18 @@ private slots:
         addRow("returning a reference to an array", "int (&f(int a))[3] { CALL }", "f");
         addRow("returning a reference to a function", "void (&C::f(int a))(int) { CALL }", "C::f");
         addRow("qualified as global", "int *::f() { CALL }", "f");
-        addRow("qualified as global behind a macro", "Q_DECLARE(A) int *::f() { CALL }", "f");
-        addRow("returning a pointer behind a macro", "Q_DECLARE(A)\nint *f() { CALL }", "f");
+        addRow("qualified as global after a macro", "Q_DECLARE(A) int *::f() { CALL }", "f");
+        addRow("returning a pointer after a macro", "Q_DECLARE(A)\nint *f() { CALL }", "f");
         addRow("returning a class", "auto f() -> struct S { CALL }", "f");
         addRow("returning an enumeration", "auto f() -> enum E { CALL }", "f");
-        addRow("call operator behind a sign", "struct S { int &operator()(int a) { CALL } };",
+        addRow("call operator after a sign", "struct S { int &operator()(int a) { CALL } };",
                "S::operator()");
-        addRow("conversion behind a macro", "struct S { Q_DISABLE(S) operator bool() { CALL } };",
+        addRow("conversion after a macro", "struct S { Q_DISABLE(S) operator bool() { CALL } };",
                "S::operator bool");
         addRow("destructor before a macro", "C::~C() EXCEPT(true) { CALL }", "C::~C");
-        addRow("of C, named by a word of C++", "void catch(int a) { CALL }", "catch");
+        addRow("named with a keyword of C++, in C", "void catch(int a) { CALL }", "catch");
         addRow("with a default argument that calls", "void f(int a = [] { CALL }()) { CALL }", "none f");
-        addRow("without a type, behind macros", "TAGS REPORT_ERROR_NOOP(\"A\") main() { CALL }", "none main");
+        addRow("without a type, after macros", "TAGS REPORT_ERROR_NOOP(\"A\") main() { CALL }", "none main");
         addRow("in a namespace of many names", "namespace a::b::c::d::e::f::g::h::i::j { void k() { CALL } }",
                "c::d::e::f::g::h::i::j::k");
     }
@@ -72,15 +73,16 @@ private slots:
     void functionsAreNamed() { verifyContexts(); }
 
     // A block among the parameters does not end the head.
-    void blocksMayStandAmongParametersAndArguments_data()
+    void blocksAmongParametersDoNotEndTheHead_data()
     {
         addColumns();
-        addRow("default of a method", "struct S { void f(A a = {}) const { CALL } };", "S::f");
-        addRow("default before a macro", "void f(A a = {}) NOEXCEPT { CALL }", "f");
-        addRow("default before a macro with arguments", "void f(A a = A{}) EXCEPT(true) { CALL }", "f");
-        addRow("default before a trailing type", "auto f(A a = {}) -> decltype(a) { CALL }", "f");
-        addRow("default of a constructor", "C::C(A a = {}) noexcept : m(1), ::B{} { CALL }", "C::C");
-        addRow("lambda by default", "void f(A a = [] { }) noexcept { CALL }", "f");
+        addRow("default argument of a method", "struct S { void f(A a = {}) const { CALL } };", "S::f");
+        addRow("default argument before a macro", "void f(A a = {}) NOEXCEPT { CALL }", "f");
+        addRow("default argument before a macro with arguments", "void f(A a = A{}) EXCEPT(true) { CALL }",
+               "f");
+        addRow("default argument before a trailing type", "auto f(A a = {}) -> decltype(a) { CALL }", "f");
+        addRow("default argument of a constructor", "C::C(A a = {}) noexcept : m(1), ::B{} { CALL }", "C::C");
+        addRow("lambda as a default argument", "void f(A a = [] { }) noexcept { CALL }", "f");
         addRow("exception specification", "struct S { void f() noexcept(noexcept(T{})) override { CALL } };",
                "S::f");
         addRow("alignment of a class", "struct alignas(T{}) S { void f() { CALL } };", "S::f");
@@ -90,9 +92,9 @@ private slots:
                "template <class T> void f() requires requires(decltype(T{}) t) { t.x; } { CALL }", "f");
     }
 
-    void blocksMayStandAmongParametersAndArguments() { verifyContexts(); }
+    void blocksAmongParametersDoNotEndTheHead() { verifyContexts(); }
 
-    void templatesAreReadToTheirEnd_data()
+    void templateArgumentsAreSkipped_data()
     {
         addColumns();
         addRow("comparison in parentheses", "template <> void f<(3 > 2)>() { CALL }", "f");
@@ -100,7 +102,7 @@ private slots:
         addRow("shift of a template's member", "template <> void f<A<int>::x << 3>() { CALL }", "f");
         addRow("stray parenthesis", "template <class T)> void f() { CALL }", "f");
         addRow("member template", "void A<T>::template f<int>() { CALL }", "A::f");
-        addRow("requires-expression behind the parameters",
+        addRow("requires-expression after the parameters",
                "template <class T> void f(T t) requires requires { t.x; } { CALL }", "f");
         addRow("requires-expression before another requirement",
                "template <class T> requires requires(T t) { t.x; } && A<T> void f(T) { CALL }", "f");
@@ -109,7 +111,7 @@ private slots:
                "C::C(T t) requires requires { t.x; } : m(1) { CALL }", "C::C");
     }
 
-    void templatesAreReadToTheirEnd() { verifyContexts(); }
+    void templateArgumentsAreSkipped() { verifyContexts(); }
 
     void classesAreNamed_data()
     {
@@ -119,47 +121,48 @@ private slots:
         addRow("with a second base qualified as global", "struct S : A, ::N::B { void f() { CALL } };",
                "S::f");
         addRow("with a base of a template of a global", "struct S : A<::B> { void f() { CALL } };", "S::f");
-        addRow("behind a macro", "Q_MACRO struct EXPORT(x) S { void f() { CALL } };", "S::f");
-        addRow("behind a macro and alignment", "struct Q_A EXPORT alignas(8) S { void f() { CALL } };",
+        addRow("after a macro", "Q_MACRO struct EXPORT(x) S { void f() { CALL } };", "S::f");
+        addRow("after a macro and alignment", "struct Q_A EXPORT alignas(8) S { void f() { CALL } };",
                "S::f");
     }
 
     void classesAreNamed() { verifyContexts(); }
 
-    // What one declaration leaves open must not change what the next one is called.
-    void declarationsDoNotTouchTheNext_data()
+    // An incomplete declaration must not affect the name of the next one.
+    void declarationsDoNotAffectTheNext_data()
     {
         addColumns();
-        addRow("operator that is taken over", "struct S : B { using B::operator=; S() { CALL } };", "S::S");
-        addRow("operator taken over before a macro's block",
+        addRow("operator in a using-declaration", "struct S : B { using B::operator=; S() { CALL } };",
+               "S::S");
+        addRow("operator in a using-declaration before a macro's block",
                "using B::operator=; BEGIN_GROUP { void f() { CALL } }", "f");
-        addRow("bit-field as wide as a comparison says",
+        addRow("bit-field whose width is a comparison",
                "struct S { int a : N < 4 ? 1 : 2; void f() { CALL } };", "S::f");
-        addRow("parenthesis that is not closed", "void f(int a; void g() { CALL }", "g");
-        addRow("parenthesis that is not closed in a comparison",
-               "int a : b < (c; template <class T> void f() { CALL }", "f");
-        addRow("requires-expression that breaks off",
-               "template <class T> requires requires; void f() { CALL }", "f");
+        addRow("unclosed parenthesis", "void f(int a; void g() { CALL }", "g");
+        addRow("unclosed parenthesis in a comparison", "int a : b < (c; template <class T> void f() { CALL }",
+               "f");
+        addRow("incomplete requires-expression", "template <class T> requires requires; void f() { CALL }",
+               "f");
         addRow("label of a macro before a macro's block",
                "struct S { MY_SLOTS: BEGIN_GROUP { void f() { CALL } } };", "S::f");
     }
 
-    void declarationsDoNotTouchTheNext() { verifyContexts(); }
+    void declarationsDoNotAffectTheNext() { verifyContexts(); }
 
-    void initialisersAreNoFunctions_data()
+    void initialisersAreNotFunctions_data()
     {
         addColumns();
-        addRow("of a table that a macro names", "static Tag TABLE(errors)[] = { CALL };", "none");
+        addRow("of a table named by a macro", "static Tag TABLE(errors)[] = { CALL };", "none");
         addRow("lambda", "Foo foo{[] { foreach (a, b) { CALL } }};", "none");
-        addRow("lambda behind a name", "Foo foo{a, [] { foreach (b, c) { CALL } }};", "none");
-        addRow("lambda in the second branch of a choice",
+        addRow("lambda after a name", "Foo foo{a, [] { foreach (b, c) { CALL } }};", "none");
+        addRow("lambda in the second branch of a conditional expression",
                "Foo foo = a ? B{} : C{d, [] { foreach (e, f) { CALL } }};", "none");
         addRow("of a variable with an assembler name", "Tag tag asm(\"tag\"){CALL};", "none");
     }
 
-    void initialisersAreNoFunctions() { verifyContexts(); }
+    void initialisersAreNotFunctions() { verifyContexts(); }
 
-    void accessSpecifierEndsAMacro_data()
+    void accessSpecifiersEndAMacro_data()
     {
         addColumns();
         for (const char *specifier :
@@ -168,18 +171,18 @@ private slots:
                    "S::f");
     }
 
-    void accessSpecifierEndsAMacro() { verifyContexts(); }
+    void accessSpecifiersEndAMacro() { verifyContexts(); }
 
-    void attributeBehindATypeIsNotTheFunction_data()
+    void attributesAfterATypeAreNotTheFunction_data()
     {
         addColumns();
         for (const char *attribute : {"__attribute__((cold))", "__declspec(noinline)", "alignas(8)"})
             addRow(attribute, QByteArray("int ") + attribute + " f() { CALL }", "f");
     }
 
-    void attributeBehindATypeIsNotTheFunction() { verifyContexts(); }
+    void attributesAfterATypeAreNotTheFunction() { verifyContexts(); }
 
-    void macroBehindASpecifierIsNotTheFunction_data()
+    void macrosAfterASpecifierAreNotTheFunction_data()
     {
         addColumns();
         for (const char *specifier : {"const", "volatile", "noexcept", "override", "final"})
@@ -187,23 +190,23 @@ private slots:
                    "S::f");
     }
 
-    void macroBehindASpecifierIsNotTheFunction() { verifyContexts(); }
+    void macrosAfterASpecifierAreNotTheFunction() { verifyContexts(); }
 
-    // A macro's name alone opens a group of declarations, and a specifier is no name.
-    void macroBehindASpecifierOpensAGroup_data()
+    // A macro's name without parameters opens a group of declarations. A specifier is not a name.
+    void macrosAfterASpecifierOpenAGroup_data()
     {
         addColumns();
         for (const char *specifier : {"constexpr", "constinit", "explicit", "friend", "inline", "mutable",
                                       "static", "typedef", "virtual"})
             addRow(specifier, QByteArray(specifier) + " BEGIN_GROUP { void f() { CALL } }", "f");
-        addRow("linkage behind a macro", "Q_MACRO extern \"C\" { void f() { CALL } }", "f");
+        addRow("linkage after a macro", "Q_MACRO extern \"C\" { void f() { CALL } }", "f");
         addRow("constructor with a condition", "BEGIN_S { explicit(true) S(int a) { CALL } }", "S");
     }
 
-    void macroBehindASpecifierOpensAGroup() { verifyContexts(); }
+    void macrosAfterASpecifierOpenAGroup() { verifyContexts(); }
 
-    // As behind a brace too many.
-    void statementsAmongDeclarationsAreNoFunctions_data()
+    // They occur after a surplus closing brace.
+    void statementsAmongDeclarationsAreNotFunctions_data()
     {
         addColumns();
         for (const char *statement : {"if (a)", "for (int a : b)", "while (a)", "switch (a)"})
@@ -212,7 +215,7 @@ private slots:
         addRow("assertion without semicolon", "static_assert(sizeof(int) == 4) main() { CALL }", "main");
     }
 
-    void statementsAmongDeclarationsAreNoFunctions() { verifyContexts(); }
+    void statementsAmongDeclarationsAreNotFunctions() { verifyContexts(); }
 };
 
 NVX_GUILESS_TEST(tst_declaration_head)

@@ -1,4 +1,4 @@
-#include "scanner/source_lexis.h"
+#include "scanner/lexis.h"
 #include "support/test_class.h"
 
 #include <QTest>
@@ -7,7 +7,7 @@ using namespace Scan;
 
 namespace {
 
-// What may stand in memory behind a text; none of it may change what is made of the text.
+// Bytes in memory after the text, which must not affect the result.
 constexpr std::string_view tails[] = {"",  "a", "0",   "_", "\n", "\\\n",    "\"",  "\"\"",
                                       "(", ")", ")\"", " ", "a(", "a(b)a\"", "R\"("};
 
@@ -16,29 +16,29 @@ struct Expected
     const char *name;
     const char *prefix;
     const char *quoted; ///< the literal from its quote on, with its suffix
-    const char *behind;
+    const char *after;
     const char *content;
 };
 
 constexpr Expected ordinaryLiterals[] = {
     {"empty", "", "\"\"", "", ""},
-    {"with something behind", "", "\"a\"", "; \"b\"", "a"},
+    {"with text after it", "", "\"a\"", "; \"b\"", "a"},
     {"with a suffix", "", "\"a\"_b", ";", "a"},
     {"with a suffix at the end of the text", "", "\"a\"b1", "", "a"},
-    {"with a digit behind", "", "\"a\"", "1", "a"},
-    {"with a quote behind a backslash", "", "\"a\\\"b\"", "\"", "a\\\"b"},
+    {"with a digit after it", "", "\"a\"", "1", "a"},
+    {"with a quote after a backslash", "", "\"a\\\"b\"", "\"", "a\\\"b"},
     {"with two backslashes at the end", "", "\"a\\\\\"", "\"", "a\\\\"},
     {"with a continuation", "", "\"a\\\nb\"", "\"", "a\\\nb"},
     {"with a continuation with a carriage return", "", "\"a\\\r\nb\"", "\"", "a\\\r\nb"},
     {"with a single quote", "", "\"a'b\"", "'", "a'b"},
-    {"not closed on its line", "", "\"a", "\nb\"", "a"},
-    {"not closed", "", "\"a", "", "a"},
-    {"not closed behind a backslash", "", "\"a\\", "", "a\\"},
-    {"not closed at all", "", "\"", "", ""},
+    {"unclosed on its line", "", "\"a", "\nb\"", "a"},
+    {"unclosed", "", "\"a", "", "a"},
+    {"unclosed after a backslash", "", "\"a\\", "", "a\\"},
+    {"unclosed and empty", "", "\"", "", ""},
     {"of wide characters", "L", "\"(a)\"", "", "(a)"},
-    {"behind a word that is no prefix", "xR", "\"(\"", ")\"", "("},
-    {"raw prefix, and no parenthesis", "R", "\"a\"", "(\"", "a"},
-    {"raw prefix, and nothing behind", "R", "\"", "", ""},
+    {"after a word that is not a prefix", "xR", "\"(\"", ")\"", "("},
+    {"raw prefix without a parenthesis", "R", "\"a\"", "(\"", "a"},
+    {"raw prefix at the end of the text", "R", "\"", "", ""},
     {"raw prefix, and a text that ends before a parenthesis", "R", "\"a", "", "a"},
     {"raw prefix, and a blank before the parenthesis", "R", "\" (a) \"", ")\"", " (a) "},
     {"raw prefix, and a line feed before the parenthesis", "R", "\"", "\n(a)\"", ""},
@@ -60,31 +60,31 @@ constexpr Expected rawLiterals[] = {
     {"with a delimiter of signs", "R", "\"*/(a)*)*/\"", "", "a)*"},
     {"with another delimiter of that length", "R", "\"xy(a)xz\")xy\"", "", "a)xz\""},
     {"with the delimiter and no quote", "R", "\"x(a)xb)x\"", "", "a)xb"},
-    {"with parentheses one behind the other", "R", "\"(a))\"", "", "a)"},
-    {"not closed", "R", "\"x(a)y\"\n", "", "a)y\"\n"},
-    {"not closed and empty", "R", "\"x(", "", ""},
-    {"not closed for want of the quote", "R", "\"x(a)x", "", "a)x"},
-    {"not closed for want of the delimiter", "R", "\"x(a)", "", "a)"},
+    {"with adjacent parentheses", "R", "\"(a))\"", "", "a)"},
+    {"unclosed", "R", "\"x(a)y\"\n", "", "a)y\"\n"},
+    {"unclosed and empty", "R", "\"x(", "", ""},
+    {"unclosed without the quote", "R", "\"x(a)x", "", "a)x"},
+    {"unclosed without the delimiter", "R", "\"x(a)", "", "a)"},
 };
 
 void addRows(const Expected *begin, const Expected *end)
 {
     QTest::addColumn<QByteArray>("prefix");
     QTest::addColumn<QByteArray>("quoted");
-    QTest::addColumn<QByteArray>("behind");
+    QTest::addColumn<QByteArray>("after");
     QTest::addColumn<QByteArray>("content");
     for (const Expected *row = begin; row != end; ++row)
         QTest::newRow(row->name) << QByteArray(row->prefix) << QByteArray(row->quoted)
-                                 << QByteArray(row->behind) << QByteArray(row->content);
+                                 << QByteArray(row->after) << QByteArray(row->content);
 }
 
 void checkRow(Lexis::Literal::Form form)
 {
     QFETCH(const QByteArray, prefix);
     QFETCH(const QByteArray, quoted);
-    QFETCH(const QByteArray, behind);
+    QFETCH(const QByteArray, after);
     QFETCH(const QByteArray, content);
-    const std::string text = "f(" + (prefix + quoted + behind).toStdString();
+    const std::string text = "f(" + (prefix + quoted + after).toStdString();
     const auto quote = static_cast<std::size_t>(2 + prefix.size());
     for (const std::string_view tail : tails) {
         const std::string longer = text + std::string(tail);
@@ -98,24 +98,24 @@ void checkRow(Lexis::Literal::Form form)
 
 } // namespace
 
-/// String literals and their prefixes. A text never goes on behind its end, whatever stands there in memory.
+/// String literals and their prefixes. The bytes in memory after a text never affect the result.
 class tst_lexis_literals : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void ordinaryLiteralsAreTakenWhole_data()
+    void ordinaryLiteralsAreReadToTheirEnd_data()
     {
         addRows(std::begin(ordinaryLiterals), std::end(ordinaryLiterals));
     }
 
-    void ordinaryLiteralsAreTakenWhole() { checkRow(Lexis::Literal::Form::Ordinary); }
+    void ordinaryLiteralsAreReadToTheirEnd() { checkRow(Lexis::Literal::Form::Ordinary); }
 
-    void rawLiteralsAreTakenWhole_data() { addRows(std::begin(rawLiterals), std::end(rawLiterals)); }
+    void rawLiteralsAreReadToTheirEnd_data() { addRows(std::begin(rawLiterals), std::end(rawLiterals)); }
 
-    void rawLiteralsAreTakenWhole() { checkRow(Lexis::Literal::Form::Raw); }
+    void rawLiteralsAreReadToTheirEnd() { checkRow(Lexis::Literal::Form::Raw); }
 
-    void prefixesTellTheUnits_data()
+    void prefixesDetermineTheUnits_data()
     {
         QTest::addColumn<QByteArray>("prefix");
         QTest::addColumn<bool>("isPrefix");
@@ -129,7 +129,7 @@ private slots:
             QTest::newRow(word) << QByteArray(word) << false << false;
     }
 
-    void prefixesTellTheUnits()
+    void prefixesDetermineTheUnits()
     {
         QFETCH(const QByteArray, prefix);
         QFETCH(const bool, wide);
@@ -142,12 +142,12 @@ private slots:
     void literalsBeginWithAQuoteOrAPrefix_data()
     {
         QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("length"); // of the prefix; less than zero when no literal begins
+        QTest::addColumn<int>("length"); // of the prefix; negative if there is no literal
         QTest::newRow("a quote") << QByteArray("\"a\"") << 0;
         QTest::newRow("a prefix of one letter") << QByteArray("L\"a\"") << 1;
         QTest::newRow("a prefix of two") << QByteArray("u8\"a\"") << 2;
         QTest::newRow("a prefix of three") << QByteArray("u8R\"(a)\"") << 3;
-        QTest::newRow("a word that is no prefix") << QByteArray("x\"a\"") << -1;
+        QTest::newRow("a word that is not a prefix") << QByteArray("x\"a\"") << -1;
         QTest::newRow("a longer word") << QByteArray("u8RL\"a\"") << -1;
         QTest::newRow("a word") << QByteArray("abc") << -1;
         QTest::newRow("a prefix at the end of the text") << QByteArray("u8") << -1;

@@ -1,4 +1,5 @@
-#include "scanner/source_scanner.h"
+#include "scanner/found_keys.h"
+#include "scanner/scan_files.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -6,6 +7,7 @@
 #include <QLoggingCategory>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using namespace Scan;
 
 class tst_scan_files : public QObject
@@ -16,7 +18,7 @@ private slots:
     void initTestCase()
     {
         for (int i = 0; i < fileCount; ++i) {
-            const QString fileName = m_folder.path(QStringLiteral("%1.cpp").arg(i));
+            const QString fileName = m_folder.path(u"%1.cpp"_s.arg(i));
             const QByteArray filler(i % 7 == 0 ? 200'000 : 10, ' ');
             QVERIFY(writeBytes(fileName,
                                filler + "void f() { REPORT_ERROR(\"" + QByteArray::number(i) + "\"); }\n"));
@@ -30,7 +32,7 @@ private slots:
         QTest::newRow("one thread") << 1;
         QTest::newRow("two threads") << 2;
         QTest::newRow("nine threads") << 9;
-        QTest::newRow("as many threads as processors") << 0;
+        QTest::newRow("one thread for each processor") << 0;
     }
 
     void resultsComeInListOrder()
@@ -40,11 +42,11 @@ private slots:
         QList<qsizetype> indices;
         const auto receive = [&](qsizetype index, const SourceScanner &scanner) {
             indices.append(index);
-            for (const Clt::MessageKey &key : scanner.keys().keys(CallFamily::Error))
+            for (const Clt::MessageKey &key : scanner.keys(CallFamily::Error))
                 tags.append(key.tag);
-            return Continuation::GoOn;
+            return Continuation::Continue;
         };
-        scanFiles(QStringLiteral("client"), m_fileNames, receive, threads);
+        scanFiles(u"client"_s, m_fileNames, receive, threads);
         QCOMPARE(tags.size(), fileCount);
         for (int i = 0; i < fileCount; ++i) {
             QCOMPARE(indices.at(i), i);
@@ -52,118 +54,114 @@ private slots:
         }
     }
 
-    void stopsWhenTheReceiverSaysSo()
+    void receiverStopsTheScan()
     {
         int received = 0;
         const auto receive = [&](qsizetype, const SourceScanner &) {
-            return ++received == 3 ? Continuation::Stop : Continuation::GoOn;
+            return ++received == 3 ? Continuation::Stop : Continuation::Continue;
         };
-        scanFiles(QStringLiteral("client"), m_fileNames, receive, 2);
+        scanFiles(u"client"_s, m_fileNames, receive, 2);
         QCOMPARE(received, 3);
     }
 
-    void noFilesGiveNothing()
+    void noFilesAreNotReceived()
     {
         const auto receive = [](qsizetype, const SourceScanner &) {
-            qFatal("nothing was to be received");
-            return Continuation::GoOn;
+            qFatal("received a file of an empty list");
+            return Continuation::Continue;
         };
-        scanFiles(QStringLiteral("client"), {}, receive);
+        scanFiles(u"client"_s, {}, receive);
     }
 
     void keysAreCollectedByFamily()
     {
-        const QString fileName = m_folder.path(QStringLiteral("families.txt"));
+        const QString fileName = m_folder.path(u"families.txt"_s);
         QVERIFY(writeBytes(
             fileName,
             "void f() { REPORT_ERROR(\"A\"); REPORT_ERROR_WITH_ARGS(\"B\", 1); REPORT_MESSAGE(\"C\");"
             "REPORT_MESSAGE_WITH_ARG(\"D\", 1); ASK_QUESTION(\"E\", Ok, Ok);"
             "ASK_QUESTION_WITH_ARG(\"F\", Ok, Ok, 1); }"));
-        SourceScanner scanner(QStringLiteral("client"), fileName);
+        SourceScanner scanner(u"client"_s, fileName);
         QVERIFY(scanner.scan());
         QVERIFY(!scanner.hasError());
-        const QStringList tags = {QStringLiteral("A"),         QStringLiteral("B"),
-                                  QStringLiteral("C"),         QStringLiteral("D"),
-                                  QStringLiteral("E? Ok; Ok"), QStringLiteral("F? Ok; Ok")};
+        const QStringList tags = {u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E? Ok; Ok"_s, u"F? Ok; Ok"_s};
         for (int family = 0; family < tags.size(); ++family) {
-            const QSet<Clt::MessageKey> expected = {
-                {tags.at(family), QStringLiteral("f"), QStringLiteral("client")}};
-            QCOMPARE(scanner.keys().keys(static_cast<CallFamily>(family)), expected);
+            const QSet<Clt::MessageKey> expected = {{tags.at(family), u"f"_s, u"client"_s}};
+            QCOMPARE(scanner.keys(static_cast<CallFamily>(family)), expected);
         }
     }
 
-    void aKeyHasThePlaceOfItsFirstCall()
+    void keyHasThePlaceOfItsFirstCall()
     {
-        const QString first = m_folder.path(QStringLiteral("first.txt"));
-        const QString second = m_folder.path(QStringLiteral("second.txt"));
+        const QString first = m_folder.path(u"first.txt"_s);
+        const QString second = m_folder.path(u"second.txt"_s);
         QVERIFY(writeBytes(first, "void f() {\n  REPORT_MESSAGE(\"A\");\n  REPORT_ERROR(\n\"B\");\n"
                                   "  REPORT_MESSAGE(\"A\");\n  REPORT_ERROR(\"A\"); }"));
         QVERIFY(writeBytes(second, "void f() {\nREPORT_ERROR(\"A\");\nASK_QUESTION(\"C\", Yes, Yes); }"));
         FoundKeys found;
         const auto receive = [&found](qsizetype, const SourceScanner &scanner) {
             addKeys(found, scanner);
-            return Continuation::GoOn;
+            return Continuation::Continue;
         };
-        scanFiles(QStringLiteral("client"), {first, second}, receive);
-        QCOMPARE(placeOf(found, "A"), first + QStringLiteral(":2"));
-        QCOMPARE(placeOf(found, "B"), first + QStringLiteral(":3"));
-        QCOMPARE(placeOf(found, "C? Yes; Yes"), second + QStringLiteral(":3"));
+        scanFiles(u"client"_s, {first, second}, receive);
+        QCOMPARE(placeOf(found, "A"), first + u":2"_s);
+        QCOMPARE(placeOf(found, "B"), first + u":3"_s);
+        QCOMPARE(placeOf(found, "C? Yes; Yes"), second + u":3"_s);
         QCOMPARE(found.size(), 3);
     }
 
     void fileThatCannotBeOpenedIsAnError()
     {
-        SourceScanner scanner(QStringLiteral("client"), m_folder.path(QStringLiteral("no.cpp")));
+        SourceScanner scanner(u"client"_s, m_folder.path(u"no.cpp"_s));
         QVERIFY(!scanner.scan());
         QVERIFY(scanner.hasError());
-        QCOMPARE(scanner.errorText(), QStringLiteral("Cannot open file"));
+        QCOMPARE(scanner.errorText(), u"Cannot open file"_s);
     }
 
-    // Opens and does not read, where there is such a file.
-    void aFileThatFailsIsAnError()
+    // On Linux this file can be opened, but not read.
+    void fileThatCannotBeReadIsAnError()
     {
-        SourceScanner scanner(QStringLiteral("client"), QStringLiteral("/proc/self/mem"));
+        SourceScanner scanner(u"client"_s, u"/proc/self/mem"_s);
         QVERIFY(!scanner.scan());
-        QVERIFY2(scanner.errorText().startsWith(QStringLiteral("Cannot ")), qPrintable(scanner.errorText()));
+        QVERIFY2(scanner.errorText().startsWith(u"Cannot "_s), qPrintable(scanner.errorText()));
     }
 
-    void keysOfAFileWithAnErrorAreNotKept()
+    void fileWithAnErrorHasNoKeys()
     {
-        const QString fileName = m_folder.path(QStringLiteral("error.txt"));
+        const QString fileName = m_folder.path(u"error.txt"_s);
         QVERIFY(writeBytes(fileName, "void f() { REPORT_ERROR(\"A\");\nREPORT_ERROR(\"\\1\"); }"));
-        SourceScanner scanner(QStringLiteral("client"), fileName);
+        SourceScanner scanner(u"client"_s, fileName);
         QVERIFY(!scanner.scan());
-        QCOMPARE(scanner.errorText(), QStringLiteral("Tag with a character that XML cannot carry (line 2)"));
-        QVERIFY(scanner.keys().keys(CallFamily::Error).isEmpty());
+        QCOMPARE(scanner.errorText(), u"Tag with a character that XML cannot carry (line 2)"_s);
+        QVERIFY(scanner.keys(CallFamily::Error).isEmpty());
     }
 
-    void aScanKnowsNothingOfTheOneBefore()
+    void scanForgetsThePreviousOne()
     {
-        const QString fileName = m_folder.path(QStringLiteral("again.txt"));
-        SourceScanner scanner(QStringLiteral("client"), fileName);
+        const QString fileName = m_folder.path(u"again.txt"_s);
+        SourceScanner scanner(u"client"_s, fileName);
         QVERIFY(writeBytes(fileName, "void f() { REPORT_ERROR(\"A\"); }"));
         QVERIFY(scanner.scan());
-        QCOMPARE(scanner.keys().keys(CallFamily::Error).size(), 1);
+        QCOMPARE(scanner.keys(CallFamily::Error).size(), 1);
 
         QVERIFY(writeBytes(fileName, "void f() { REPORT_ERROR(\"\\1\"); }"));
         QVERIFY(!scanner.scan());
-        QVERIFY(scanner.keys().keys(CallFamily::Error).isEmpty());
+        QVERIFY(scanner.keys(CallFamily::Error).isEmpty());
 
         QVERIFY(writeBytes(fileName, "void f() { REPORT_ERROR(\"B\"); }"));
         QVERIFY(scanner.scan());
         QCOMPARE(scanner.errorText(), QString());
-        const QSet<Clt::MessageKey> expected = {
-            {QStringLiteral("B"), QStringLiteral("f"), QStringLiteral("client")}};
-        QCOMPARE(scanner.keys().keys(CallFamily::Error), expected);
+        const QSet<Clt::MessageKey> expected = {{u"B"_s, u"f"_s, u"client"_s}};
+        QCOMPARE(scanner.keys(CallFamily::Error), expected);
     }
 
-    void debugLinesOfTheCategoryTellOfKeys()
+    void debugMessagesOfTheCategoryShowKeys()
     {
-        QLoggingCategory::setFilterRules(QStringLiteral("nvx.scanner.debug=true"));
+        QLoggingCategory::setFilterRules(u"nvx.scanner.debug=true"_s);
         QTest::ignoreMessage(QtDebugMsg, "LeftBrace f depth=1");
         QTest::ignoreMessage(QtDebugMsg, "Key f 1 1");
-        SourceScanner scanner(QStringLiteral("client"), m_fileNames.at(1));
-        const bool scanned = scanner.scan();
+        SourceScanner scanner(u"client"_s, m_fileNames.at(1));
+        const bool scanned = bool(scanner.scan());
         QLoggingCategory::setFilterRules(QString());
         QVERIFY(scanned);
     }
@@ -171,9 +169,8 @@ private slots:
 private:
     static QString placeOf(const FoundKeys &found, const char *tag)
     {
-        const SourcePlace place =
-            found.value({QString::fromLatin1(tag), QStringLiteral("f"), QStringLiteral("client")});
-        return QStringLiteral("%1:%2").arg(place.file, QString::number(place.line));
+        const SourcePlace place = found.value({QString::fromLatin1(tag), u"f"_s, u"client"_s});
+        return u"%1:%2"_s.arg(place.file, QString::number(place.line));
     }
 
     static constexpr int fileCount = 60;

@@ -3,12 +3,14 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_string_literal : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void escapesStandForCharacters_data()
+    void escapesAreDecoded_data()
     {
         QTest::addColumn<QByteArray>("source");
         QTest::addColumn<QString>("text");
@@ -19,7 +21,7 @@ private slots:
         row("\"\\\\\\\"\\'\\?\"", "\\\"'?");
         row("\"\\q\\w\\-\\8\\9\"", "qw-89");
 
-        // Octal: three digits at most.
+        // Octal: at most three digits.
         row("\"\\1\"", "\x01");
         row("\"\\7\\108\"", "\a\b8");
         row("\"\\1018\"", "A8");
@@ -28,7 +30,7 @@ private slots:
         row("\"\\o101\"", "o101");
         row("\"\\o{18}\"", "o{18}");
 
-        // Hexadecimal: as many digits as there are.
+        // Hexadecimal: any number of digits.
         row("\"\\x41\"", "A");
         row("\"\\x0000041\"", "A");
         row("\"\\x4a\\x4F\\x6f\\x49\"", "JOoI");
@@ -39,7 +41,7 @@ private slots:
         row("\"\\x{}\\x{4g}\\x{41\"", "x{}x{4g}x{41");
         row("\"\\x\"", "x");
 
-        // Characters of Unicode: four digits, eight, or any number in braces.
+        // Unicode characters: four or eight digits, or any number of them in braces.
         row("\"\\u0041\\u00412\\u41\"", "AA2A");
         row("\"\\U00000041\\U000000412\"", "AA2");
         row("\"\\u{41}\\u{1F600}\\U{41}\"", "A😀A");
@@ -49,49 +51,44 @@ private slots:
         row("\"\\U00110000\\UFFFFFFFF\"", "\uFFFD\uFFFD");
     }
 
-    void escapesStandForCharacters()
+    void escapesAreDecoded()
     {
         QFETCH(const QByteArray, source);
         QTEST(decoded(source), "text");
     }
 
-    void unitsBeyondAByteCountInWideLiterals_data()
+    void numbersInWideLiteralsAreCodeUnits_data()
     {
         QTest::addColumn<QByteArray>("source");
         QTest::addColumn<QString>("text");
-        QTest::newRow("a unit between bytes") << QByteArray("L\"ä\\x42ö\"") << QStringLiteral("äBö");
-        QTest::newRow("two units of one character")
-            << QByteArray("L\"\\xd83d\\xde00\"") << QStringLiteral("😀");
+        QTest::newRow("a unit between bytes") << QByteArray("L\"ä\\x42ö\"") << u"äBö"_s;
+        QTest::newRow("two units of one character") << QByteArray("L\"\\xd83d\\xde00\"") << u"😀"_s;
         QTest::newRow("the last unit of 16 bits")
             << QByteArray("L\"\\xffff\"") << QString(QChar(char16_t(0xFFFF)));
-        QTest::newRow("the last character") << QByteArray("U\"\\x10FFFF\"") << QStringLiteral("\U0010FFFF");
-        QTest::newRow("behind the last character")
-            << QByteArray("U\"\\x110000\"") << QStringLiteral("\uFFFD");
-        QTest::newRow("more than any number holds")
-            << QByteArray("L\"\\x100000041\"") << QStringLiteral("\uFFFD");
+        QTest::newRow("the last character") << QByteArray("U\"\\x10FFFF\"") << u"\U0010FFFF"_s;
+        QTest::newRow("after the last character") << QByteArray("U\"\\x110000\"") << u"\uFFFD"_s;
+        QTest::newRow("a number that overflows") << QByteArray("L\"\\x100000041\"") << u"\uFFFD"_s;
     }
 
-    void unitsBeyondAByteCountInWideLiterals()
+    void numbersInWideLiteralsAreCodeUnits()
     {
         QFETCH(const QByteArray, source);
         QTEST(decoded(source), "text");
     }
 
-    // A number that no number holds stays at the greatest, so its lowest byte is 0xFF; it does not start
-    // anew.
-    void ofABytesNumberTheLowestByteCounts_data()
+    // A number that overflows stays at its maximum, so its lowest byte is 0xFF.
+    void numbersOfBytesAreTruncatedToTheirLowestByte_data()
     {
         QTest::addColumn<QByteArray>("source");
         QTest::addColumn<QString>("text");
-        QTest::newRow("two bytes") << QByteArray("\"\\x141\"") << QStringLiteral("A");
-        QTest::newRow("the last digits that are held")
-            << QByteArray("\"\\x7FFFFF41\"") << QStringLiteral("A");
-        QTest::newRow("the last number") << QByteArray("\"\\x7FFFFFF1\"") << QStringLiteral("ñ");
-        QTest::newRow("behind the last number") << QByteArray("\"\\x80000001\"") << QStringLiteral("ÿ");
-        QTest::newRow("far behind it") << QByteArray("\"\\x100000041\"") << QStringLiteral("ÿ");
+        QTest::newRow("two bytes") << QByteArray("\"\\x141\"") << u"A"_s;
+        QTest::newRow("the last digits that fit") << QByteArray("\"\\x7FFFFF41\"") << u"A"_s;
+        QTest::newRow("the last number") << QByteArray("\"\\x7FFFFFF1\"") << u"ñ"_s;
+        QTest::newRow("after the last number") << QByteArray("\"\\x80000001\"") << u"ÿ"_s;
+        QTest::newRow("far after the last number") << QByteArray("\"\\x100000041\"") << u"ÿ"_s;
     }
 
-    void ofABytesNumberTheLowestByteCounts()
+    void numbersOfBytesAreTruncatedToTheirLowestByte()
     {
         QFETCH(const QByteArray, source);
         QTEST(decoded(source), "text");
@@ -103,22 +100,18 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::newRow("none") << QByteArray("x") << QString();
         QTest::newRow("empty") << QByteArray("\"\"") << QString();
-        QTest::newRow("neighbours") << QByteArray("\"a\" /* x */ \"b\"\n// y\n\"c\"")
-                                    << QStringLiteral("abc");
-        QTest::newRow("what follows is not read") << QByteArray("\"a\", \"b\"") << QStringLiteral("a");
-        QTest::newRow("the bytes of one character")
-            << QByteArray("\"\\xc3\" \"\\xb6\"") << QStringLiteral("ö");
-        QTest::newRow("raw beside escaped")
-            << QByteArray("R\"(\\n\")\" \"\\\"\"") << QStringLiteral("\\n\"\"");
+        QTest::newRow("neighbours") << QByteArray("\"a\" /* x */ \"b\"\n// y\n\"c\"") << u"abc"_s;
+        QTest::newRow("text after the literal") << QByteArray("\"a\", \"b\"") << u"a"_s;
+        QTest::newRow("the bytes of one character") << QByteArray("\"\\xc3\" \"\\xb6\"") << u"ö"_s;
+        QTest::newRow("raw next to escaped") << QByteArray("R\"(\\n\")\" \"\\\"\"") << u"\\n\"\""_s;
         QTest::newRow("line ends in a raw one")
-            << QByteArray("R\"(\r\na\r\nb\rc\n\r\n)\"") << QStringLiteral("\na\nb\rc\n\n");
-        QTest::newRow("a line end in a raw one's last place")
-            << QByteArray("R\"(a\r)\"") << QStringLiteral("a\r");
-        QTest::newRow("a line that goes on") << QByteArray("\"a\\\nb\\\r\nc\"") << QStringLiteral("abc");
-        QTest::newRow("a backslash at the end of the file") << QByteArray("\"a\\") << QStringLiteral("a");
-        QTest::newRow("an open one ends with its line") << QByteArray("\"a\nb \"c\"") << QStringLiteral("a");
-        QTest::newRow("a raw one that stays open") << QByteArray("R\"(a") << QStringLiteral("a");
-        QTest::newRow("open at the end of the file") << QByteArray("\"a") << QStringLiteral("a");
+            << QByteArray("R\"(\r\na\r\nb\rc\n\r\n)\"") << u"\na\nb\rc\n\n"_s;
+        QTest::newRow("a carriage return at the end of a raw one") << QByteArray("R\"(a\r)\"") << u"a\r"_s;
+        QTest::newRow("line continuations") << QByteArray("\"a\\\nb\\\r\nc\"") << u"abc"_s;
+        QTest::newRow("a backslash at the end of the file") << QByteArray("\"a\\") << u"a"_s;
+        QTest::newRow("unclosed on its line") << QByteArray("\"a\nb \"c\"") << u"a"_s;
+        QTest::newRow("an unclosed raw one") << QByteArray("R\"(a") << u"a"_s;
+        QTest::newRow("unclosed at the end of the file") << QByteArray("\"a") << u"a"_s;
     }
 
     void literalsAreJoined()

@@ -1,8 +1,9 @@
-#include "scanner/source_tokenizer.h"
+#include "scanner/tokenizer.h"
 #include "support/test_class.h"
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using namespace Scan;
 
 namespace {
@@ -12,17 +13,17 @@ QString asText(std::string_view bytes)
     return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
 
-// One line a token: its kind, what stands there, and the last string.
+// One line per token: its kind, text and position, and the last string.
 QString described(std::string_view text, void (Tokenizer::*next)())
 {
     QString lines;
     Tokenizer tokenizer(text);
     do {
         (tokenizer.*next)();
-        lines += QStringLiteral("%1 %2 at %3 line %4 directive %5 last string %6\n")
-                     .arg(QString::number(int(tokenizer.kind())), asText(tokenizer.text()),
-                          QString::number(tokenizer.begin()), QString::number(tokenizer.line()),
-                          QString::number(int(tokenizer.directive())), tokenizer.string());
+        lines += u"%1 %2 at %3 line %4 directive %5 last string %6\n"_s.arg(
+            QString::number(int(tokenizer.kind())), asText(tokenizer.text()),
+            QString::number(tokenizer.begin()), QString::number(tokenizer.line()),
+            QString::number(int(tokenizer.directive())), tokenizer.string());
     } while (tokenizer.kind() != TokenKind::EndOfFile);
     return lines;
 }
@@ -46,13 +47,13 @@ QStringList listOf(std::initializer_list<const char *> texts)
 
 } // namespace
 
-/// Where a token ends and the next one begins, and where the text ends.
+/// The boundaries between tokens, and the end of the text.
 class tst_token_edges : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void tokensThatTouchAreToldApart_data()
+    void adjacentTokensAreSeparated_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("tokens");
@@ -78,13 +79,13 @@ private slots:
         row("\"a\"\n#if b\n\"c\"", {"String \"a\"", "Other #if b", "String \"c\""});
     }
 
-    void tokensThatTouchAreToldApart()
+    void adjacentTokensAreSeparated()
     {
         QFETCH(const QByteArray, text);
         QTEST(textsOf(text, &Tokenizer::next), "tokens");
     }
 
-    void tokensThatTouchInBodiesAreToldApart_data()
+    void adjacentTokensInBodiesAreSeparated_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("tokens");
@@ -106,7 +107,7 @@ private slots:
         row("\"a\" R\"(\")\" {", {"LeftBrace {"});
     }
 
-    void tokensThatTouchInBodiesAreToldApart()
+    void adjacentTokensInBodiesAreSeparated()
     {
         QFETCH(const QByteArray, text);
         QTEST(textsOf(text, &Tokenizer::nextInBody), "tokens");
@@ -140,8 +141,8 @@ private slots:
         QTEST(tokenizer.string(), "string");
     }
 
-    // A text is a piece of a larger one when the arguments of a call are looked at once more.
-    void whatStandsBehindTheTextIsNotRead()
+    // The arguments of a call are tokenized a second time, as part of a larger text.
+    void bytesAfterTheTextAreNotRead()
     {
         const std::string_view samples[] = {
             "a :: b: -> c - 12'3 'c'd \"e\\\"f\"g L\"h\" R\"i(j)i\" \"k\" u8 R",
@@ -152,9 +153,9 @@ private slots:
         };
         for (const std::string_view sample : samples) {
             for (std::size_t size = 0; size <= sample.size(); ++size) {
-                for (const char behind : std::string_view("\"':/*\\\n\r #{}()>aR1_")) {
+                for (const char after : std::string_view("\"':/*\\\n\r #{}()>aR1_")) {
                     const std::string alone(sample.substr(0, size));
-                    const std::string larger = alone + std::string(3, behind);
+                    const std::string larger = alone + std::string(3, after);
                     const std::string_view text(larger.data(), size);
                     QCOMPARE(described(text, &Tokenizer::next), described(alone, &Tokenizer::next));
                     QCOMPARE(described(text, &Tokenizer::nextInBody),
@@ -164,7 +165,7 @@ private slots:
         }
     }
 
-    void joinedTokensAreSpelledWithoutContinuationsButInStrings()
+    void joinedTokensKeepContinuationsOnlyInStrings()
     {
         QCOMPARE(joinTokens("a\\\nb :\\\n: c"), std::string("ab::c"));
         QCOMPARE(joinTokens("\"a\\\nb\""), std::string("\"a\\\nb\""));

@@ -1,4 +1,4 @@
-#include "scanner/source_tokenizer.h"
+#include "scanner/tokenizer.h"
 #include "scanner/wide_scan.h"
 #include "support/test_class.h"
 
@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
 using namespace Scan;
 
 namespace {
@@ -132,14 +133,13 @@ private slots:
     void punctuationHasItsKinds()
     {
         QCOMPARE(kindsOf("{ } ( ) ; : :: ::: , -> 12 'c' a"),
-                 QStringLiteral(
-                     "LeftBrace RightBrace LeftParen RightParen Semicolon Colon DoubleColon DoubleColon "
-                     "Colon Other Other Other Other Identifier EOF"));
+                 u"LeftBrace RightBrace LeftParen RightParen Semicolon Colon DoubleColon DoubleColon "
+                 "Colon Other Other Other Other Identifier EOF"_s);
     }
 
-    void commentsAndPlainDirectivesGiveNoTokens()
+    void commentsAndOtherDirectivesAreNotTokens()
     {
-        QCOMPARE(kindsOf("/* a */ // b\n#define c d\n#include <e>\n\\\n"), QStringLiteral("EOF"));
+        QCOMPARE(kindsOf("/* a */ // b\n#define c d\n#include <e>\n\\\n"), u"EOF"_s);
     }
 
     void conditionalDirectivesAreTokens_data()
@@ -169,29 +169,26 @@ private slots:
         QCOMPARE(int(tokenizer.directive()), int(Directive::None));
     }
 
-    void textsThatEndInTheMiddleAreReadToTheirEnd_data()
+    void incompleteTextsAreReadToTheirEnd_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QString>("kinds");
-        QTest::newRow("a slash between words")
-            << QByteArray("a / b") << QStringLiteral("Identifier Other Identifier EOF");
-        QTest::newRow("a slash") << QByteArray("a /") << QStringLiteral("Identifier Other EOF");
-        QTest::newRow("a slash behind a string")
-            << QByteArray("\"a\" / b") << QStringLiteral("String Other Identifier EOF");
-        QTest::newRow("a word that is no prefix, with a string")
-            << QByteArray("\"a\" tr\"b\"") << QStringLiteral("String Identifier String EOF");
-        QTest::newRow("a number sign") << QByteArray("a\n#") << QStringLiteral("Identifier EOF");
-        QTest::newRow("a number sign and blanks")
-            << QByteArray("a\n# \t") << QStringLiteral("Identifier EOF");
-        QTest::newRow("a directive") << QByteArray("a\n#define B c") << QStringLiteral("Identifier EOF");
-        QTest::newRow("a directive with a slash")
-            << QByteArray("a\n#define B /") << QStringLiteral("Identifier EOF");
-        QTest::newRow("a directive that goes on nowhere")
-            << QByteArray("a\n#define B \\") << QStringLiteral("Identifier EOF");
-        QTest::newRow("a minus sign") << QByteArray("a -") << QStringLiteral("Identifier Other EOF");
+        QTest::newRow("a slash between words") << QByteArray("a / b") << u"Identifier Other Identifier EOF"_s;
+        QTest::newRow("a slash") << QByteArray("a /") << u"Identifier Other EOF"_s;
+        QTest::newRow("a slash after a string")
+            << QByteArray("\"a\" / b") << u"String Other Identifier EOF"_s;
+        QTest::newRow("a string after a word that is not a prefix")
+            << QByteArray("\"a\" tr\"b\"") << u"String Identifier String EOF"_s;
+        QTest::newRow("a number sign") << QByteArray("a\n#") << u"Identifier EOF"_s;
+        QTest::newRow("a number sign and blanks") << QByteArray("a\n# \t") << u"Identifier EOF"_s;
+        QTest::newRow("a directive") << QByteArray("a\n#define B c") << u"Identifier EOF"_s;
+        QTest::newRow("a directive with a slash") << QByteArray("a\n#define B /") << u"Identifier EOF"_s;
+        QTest::newRow("a directive with a final backslash")
+            << QByteArray("a\n#define B \\") << u"Identifier EOF"_s;
+        QTest::newRow("a minus sign") << QByteArray("a -") << u"Identifier Other EOF"_s;
     }
 
-    void textsThatEndInTheMiddleAreReadToTheirEnd()
+    void incompleteTextsAreReadToTheirEnd()
     {
         QFETCH(const QByteArray, text);
         QTEST(kindsOf({text.constData(), static_cast<std::size_t>(text.size())}), "kinds");
@@ -203,16 +200,16 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::newRow("a character beyond 16 bits")
             << QByteArray("\"\\U0001F600\"") << QString::fromUtf8("\xF0\x9F\x98\x80");
-        QTest::newRow("a number beyond all characters") << QByteArray("\"a\\U00110000b\"")
-                                                        << QString::fromUtf8("a\xEF\xBF\xBD"
-                                                                             "b");
-        QTest::newRow("a number of more digits than fit")
+        QTest::newRow("a number that is not a character") << QByteArray("\"a\\U00110000b\"")
+                                                          << QString::fromUtf8("a\xEF\xBF\xBD"
+                                                                               "b");
+        QTest::newRow("a number with too many digits")
             << QByteArray("L\"a\\x100000041\"") << QString::fromUtf8("a\xEF\xBF\xBD");
-        QTest::newRow("braces") << QByteArray("\"\\u{41}b\"") << QStringLiteral("Ab");
-        QTest::newRow("braces that are not closed") << QByteArray("\"\\u{41\"") << QStringLiteral("u{41");
-        QTest::newRow("braces around nothing") << QByteArray("\"\\u{}\"") << QStringLiteral("u{}");
-        QTest::newRow("braces around no number") << QByteArray("\"\\u{4g}\"") << QStringLiteral("u{4g}");
-        QTest::newRow("a backslash at the end of the text") << QByteArray("\"a\\") << QStringLiteral("a");
+        QTest::newRow("braces") << QByteArray("\"\\u{41}b\"") << u"Ab"_s;
+        QTest::newRow("unclosed braces") << QByteArray("\"\\u{41\"") << u"u{41"_s;
+        QTest::newRow("empty braces") << QByteArray("\"\\u{}\"") << u"u{}"_s;
+        QTest::newRow("braces around letters") << QByteArray("\"\\u{4g}\"") << u"u{4g}"_s;
+        QTest::newRow("a backslash at the end of the text") << QByteArray("\"a\\") << u"a"_s;
     }
 
     void literalsAreDecoded()
@@ -224,13 +221,13 @@ private slots:
         QTEST(tokenizer.string(), "text");
     }
 
-    void joinedTokensLeaveDirectivesAndCommentsOut()
+    void joinedTokensOmitDirectivesAndComments()
     {
         QCOMPARE(joinTokens("Clt :: Yes /* or */\n#if A\n| const No\n#endif\n"),
                  std::string("Clt::Yes|const No"));
     }
 
-    void lastIdentifierAndLastStringAreKeptApart()
+    void lastIdentifierAndLastStringAreSeparate()
     {
         Tokenizer tokenizer("name \"text\" ( other ) \"more\" ;");
         QCOMPARE(tokenizer.identifier(), std::string_view());
@@ -238,23 +235,23 @@ private slots:
         for (int i = 0; i < 3; ++i)
             tokenizer.next();
         QCOMPARE(tokenizer.identifier(), std::string_view("name"));
-        QCOMPARE(tokenizer.string(), QStringLiteral("text"));
+        QCOMPARE(tokenizer.string(), u"text"_s);
         for (int i = 0; i < 4; ++i)
             tokenizer.next();
         QCOMPARE(tokenizer.kind(), TokenKind::Semicolon);
         QCOMPARE(tokenizer.identifier(), std::string_view("other"));
-        QCOMPARE(tokenizer.string(), QStringLiteral("more"));
+        QCOMPARE(tokenizer.string(), u"more"_s);
     }
 
-    void lastStringIsKeptInBodiesToo()
+    void lastStringIsAlsoFoundInBodies()
     {
         Tokenizer tokenizer("log(\"text\" /* and */ u8R\"(raw)\"); REPORT_ERROR_WITH_ARG(x)");
         tokenizer.nextInBody();
         QCOMPARE(tokenizer.kind(), TokenKind::ReportErrorWithArg);
-        QCOMPARE(tokenizer.string(), QStringLiteral("textraw"));
+        QCOMPARE(tokenizer.string(), u"textraw"_s);
     }
 
-    void tokensKnowTheirLines()
+    void tokensHaveTheirLines()
     {
         const std::vector<Seen> seen = tokens("a\n/* \n */ b \\\n c\r\nR\"(\n)\" d\n\n#if X\n e");
         std::vector<int> lines;
@@ -272,10 +269,10 @@ private slots:
             tokenizer.nextInBody();
             names.append(displayName(tokenizer.kind()));
         } while (tokenizer.kind() != TokenKind::EndOfFile);
-        QCOMPARE(names.join(u' '), QStringLiteral("LeftBrace ReportError RightBrace Other RightBrace EOF"));
+        QCOMPARE(names.join(u' '), u"LeftBrace ReportError RightBrace Other RightBrace EOF"_s);
     }
 
-    void macrosAheadAreKnown()
+    void macroAheadUntilTheLastMacro()
     {
         Tokenizer tokenizer("a REPORT_ERROR b");
         QVERIFY(tokenizer.macroAhead());
@@ -285,13 +282,13 @@ private slots:
         QVERIFY(!tokenizer.macroAhead());
     }
 
-    void macroNamesAreFoundAnywhereInAText()
+    void macroNamesAreFoundAtEveryPosition()
     {
         const char *const names[] = {"REPORT_ERROR", "ASK_QUESTION_WITH_ARGS", "REPORT_MESSAGE_NOOP"};
         for (const char *name : names) {
             for (std::size_t before = 0; before < 70; ++before) {
-                for (const std::size_t behind : {0U, 1U, 15U, 16U, 17U, 40U}) {
-                    const std::string text = std::string(before, ' ') + name + std::string(behind, ';');
+                for (const std::size_t after : {0U, 1U, 15U, 16U, 17U, 40U}) {
+                    const std::string text = std::string(before, ' ') + name + std::string(after, ';');
                     QVERIFY2(namesMacro(text), text.c_str());
                     QVERIFY2(!namesMacro('x' + text.substr(before)), text.c_str());
                 }
@@ -299,14 +296,14 @@ private slots:
         }
     }
 
-    void textsWithoutMacroNamesAreKnown()
+    void textsWithoutMacroNamesAreRecognised()
     {
         for (const char *text : {"", "R", "_", "K_", "T_", "REPORT_", "ASK_", "REPORT_ERRO", "EPORT_ERROR",
                                  "SK_QUESTION", "QT_REPORT_ERROR", "\\", "A\\\nB"})
             QVERIFY2(!namesMacro(text), text);
     }
 
-    void macroNamesAreFoundWhereverTheyAreBroken()
+    void macroNamesAreFoundWithAContinuationAtEveryPosition()
     {
         const std::string name = "REPORT_ERROR";
         for (std::size_t at = 1; at < name.size(); ++at) {
@@ -316,8 +313,8 @@ private slots:
         }
     }
 
-    // Whatever stands in memory before the text.
-    void aContinuationBeforeAMacroNameIsNoPartOfIt()
+    // The byte in memory before the text does not change that.
+    void continuationBeforeAMacroNameIsNotPartOfIt()
     {
         const std::string text = "x\\\nREPORT_ERROR";
         const MacroFinder::Macro macro = MacroFinder(std::string_view(text).substr(1)).next(0);
@@ -326,7 +323,7 @@ private slots:
         QCOMPARE(macro.end, text.size() - 1);
     }
 
-    void wideSearchesAgreeWithPlainOnesAtEveryPosition()
+    void wideSearchesFindWhatPlainSearchesFind()
     {
         const std::string pattern = "a{*/\nT_x\"K_\\*/}'#/ Ta_K ";
         for (std::size_t length = 0; length < 80; ++length) {

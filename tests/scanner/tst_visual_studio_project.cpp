@@ -8,11 +8,12 @@
 #include <QDir>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using namespace Scan;
 
 namespace {
 
-std::optional<VisualStudioProject> read(const QByteArray &xml)
+Nvx::Util::Result<VisualStudioProject> read(const QByteArray &xml)
 {
     QBuffer buffer;
     buffer.setData(xml);
@@ -42,18 +43,18 @@ private slots:
         QTest::addColumn<QByteArray>("xml");
         QTest::addColumn<QString>("rootNamespace");
         const QByteArray element = "<RootNamespace>client</RootNamespace>";
-        QTest::newRow("named") << withGlobals(element) << QStringLiteral("client");
+        QTest::newRow("named") << withGlobals(element) << u"client"_s;
         QTest::newRow("among other properties")
-            << withGlobals("<ProjectGuid>x</ProjectGuid>" + element + "<Keyword/>")
-            << QStringLiteral("client");
+            << withGlobals("<ProjectGuid>x</ProjectGuid>" + element + "<Keyword/>") << u"client"_s;
         QTest::newRow("in another group")
             << QByteArray("<Project><PropertyGroup>" + element + "</PropertyGroup></Project>") << QString();
         QTest::newRow("deeper in the globals")
             << withGlobals("<Choose>" + element + "</Choose>") << QString();
         QTest::newRow("not named") << withGlobals("") << QString();
-        QTest::newRow("label in another case") << QByteArray("<Project><PropertyGroup Label=\"globals\">" +
-                                                             element + "</PropertyGroup></Project>")
-                                               << QString();
+        QTest::newRow("label with other capitals")
+            << QByteArray("<Project><PropertyGroup Label=\"globals\">" + element +
+                          "</PropertyGroup></Project>")
+            << QString();
     }
 
     void rootNamespaceComesFromTheGlobals()
@@ -68,11 +69,11 @@ private slots:
     {
         QTest::addColumn<QString>("rootNamespace");
         QTest::addColumn<QString>("process");
-        QTest::newRow("new_client") << QStringLiteral("new_client") << QStringLiteral("client");
-        QTest::newRow("client") << QStringLiteral("client") << QStringLiteral("client");
-        QTest::newRow("another case") << QStringLiteral("New_client") << QStringLiteral("New_client");
-        QTest::newRow("a part of it") << QStringLiteral("new_clients") << QStringLiteral("new_clients");
-        QTest::newRow("none") << QString() << QString();
+        QTest::newRow("new_client") << u"new_client"_s << u"client"_s;
+        QTest::newRow("client") << u"client"_s << u"client"_s;
+        QTest::newRow("other capitals") << u"New_client"_s << u"New_client"_s;
+        QTest::newRow("a longer name") << u"new_clients"_s << u"new_clients"_s;
+        QTest::newRow("empty") << QString() << QString();
     }
 
     void processIsTheRootNamespaceExceptForTheNewClient()
@@ -81,47 +82,47 @@ private slots:
         QTEST((VisualStudioProject{rootNamespace, {}}.process()), "process");
     }
 
-    void sourceFilesAreThoseCompiled_data()
+    void sourceFilesAreTheCompiledFiles_data()
     {
         QTest::addColumn<QByteArray>("xml");
         QTest::addColumn<QStringList>("files");
-        QTest::newRow("one") << withItems("<ClCompile Include=\"a.cpp\"/>")
-                             << QStringList{QStringLiteral("a.cpp")};
+        QTest::newRow("one") << withItems("<ClCompile Include=\"a.cpp\"/>") << QStringList{u"a.cpp"_s};
         QTest::newRow("with settings")
             << withItems("<ClCompile Include=\"a.cpp\"><Optimization>x</Optimization></ClCompile>"
                          "<ClCompile Include=\"b.cpp\"/>")
-            << QStringList{QStringLiteral("a.cpp"), QStringLiteral("b.cpp")};
-        QTest::newRow("path and entities as they stand")
+            << QStringList{u"a.cpp"_s, u"b.cpp"_s};
+        QTest::newRow("path and entities unchanged")
             << withItems("<ClCompile Include=\"..\\a &amp; b\\c.cpp\"/>")
-            << QStringList{QStringLiteral("..\\a & b\\c.cpp")};
+            << QStringList{u"..\\a & b\\c.cpp"_s};
         QTest::newRow("several groups in order")
             << QByteArray("<Project><ItemGroup><ClCompile Include=\"z.cpp\"/></ItemGroup><ItemGroup/>"
                           "<ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Project>")
-            << QStringList{QStringLiteral("z.cpp"), QStringLiteral("a.cpp")};
+            << QStringList{u"z.cpp"_s, u"a.cpp"_s};
         QTest::newRow("headers are not compiled")
             << withItems("<ClInclude Include=\"a.h\"/>") << QStringList();
-        QTest::newRow("no name") << withItems("<ClCompile Remove=\"a.cpp\"/><ClCompile Include=\"\"/>")
-                                 << QStringList();
-        QTest::newRow("definitions are no items")
+        QTest::newRow("without a name")
+            << withItems("<ClCompile Remove=\"a.cpp\"/><ClCompile Include=\"\"/>") << QStringList();
+        QTest::newRow("definitions are not items")
             << QByteArray("<Project><ItemDefinitionGroup><ClCompile "
                           "Include=\"a.cpp\"/></ItemDefinitionGroup></Project>")
             << QStringList();
-        QTest::newRow("groups of a choice or a target are none of the project")
+        QTest::newRow("groups in a choice or a target are skipped")
             << QByteArray("<Project><Choose><ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Choose>"
                           "<Target><ItemGroup><ClCompile Include=\"b.cpp\"/></ItemGroup></Target>"
                           "<ItemGroup><ClCompile Include=\"c.cpp\"/></ItemGroup></Project>")
-            << QStringList{QStringLiteral("c.cpp")};
+            << QStringList{u"c.cpp"_s};
         QTest::newRow("generated code")
             << withItems("<ClCompile Include=\"x\\generatedFILES\\a.cpp\"/>") << QStringList();
         QTest::newRow("libraries") << withItems("<ClCompile Include=\"..\\libRAries\\a.cpp\"/>")
                                    << QStringList();
-        QTest::newRow("a part of a name")
+        QTest::newRow("an excluded word within a name")
             << withItems("<ClCompile Include=\"OurLibrariesList.cpp\"/>") << QStringList();
-        QTest::newRow("nearly") << withItems("<ClCompile Include=\"Library\\Generated\\a.cpp\"/>")
-                                << QStringList{QStringLiteral("Library\\Generated\\a.cpp")};
+        QTest::newRow("parts of the excluded words")
+            << withItems("<ClCompile Include=\"Library\\Generated\\a.cpp\"/>")
+            << QStringList{u"Library\\Generated\\a.cpp"_s};
     }
 
-    void sourceFilesAreThoseCompiled()
+    void sourceFilesAreTheCompiledFiles()
     {
         QFETCH(const QByteArray, xml);
         const auto project = read(xml);
@@ -129,67 +130,71 @@ private slots:
         QTEST(project->sourceFiles, "files");
     }
 
-    void whatCannotBeParsedIsNoProject_data()
+    void filesThatAreNotProjectsFail_data()
     {
         QTest::addColumn<QByteArray>("xml");
-        QTest::newRow("no bytes") << QByteArray();
-        QTest::newRow("no XML") << QByteArray("Microsoft Visual Studio Solution File");
-        QTest::newRow("cut off") << withItems("<ClCompile Include=\"a.cpp\"/>").chopped(5);
+        QTest::newRow("empty file") << QByteArray();
+        QTest::newRow("not XML") << QByteArray("Microsoft Visual Studio Solution File");
+        QTest::newRow("truncated") << withItems("<ClCompile Include=\"a.cpp\"/>").chopped(5);
         QTest::newRow("another root") << QByteArray("<Solution><Project/></Solution>");
-        QTest::newRow("text behind the root") << QByteArray("<Project/>more");
+        QTest::newRow("text after the root") << QByteArray("<Project/>more");
     }
 
-    void whatCannotBeParsedIsNoProject()
+    void filesThatAreNotProjectsFail()
     {
         QFETCH(const QByteArray, xml);
         QVERIFY(!read(xml));
     }
 
+    void anotherRootIsNamedInTheError() { QCOMPARE(read("<Solution/>").error(), u"Not a project"_s); }
+
     void projectMayBeginWithAByteOrderMark()
     {
         const auto project = read("\xEF\xBB\xBF" + withGlobals("<RootNamespace>client</RootNamespace>"));
         QVERIFY(project);
-        QCOMPARE(project->rootNamespace, QStringLiteral("client"));
+        QCOMPARE(project->rootNamespace, u"client"_s);
     }
 
     void projectIsReadFromItsFile()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("größe.vcxproj"));
+        const QString fileName = folder.path(u"größe.vcxproj"_s);
         QVERIFY(writeBytes(fileName, withItems("<ClCompile Include=\"a.cpp\"/>")));
         const auto project = readVisualStudioProject(fileName);
         QVERIFY(project);
-        QCOMPARE(project->sourceFiles, QStringList{QStringLiteral("a.cpp")});
+        QCOMPARE(project->sourceFiles, QStringList{u"a.cpp"_s});
         QVERIFY(writeBytes(fileName, "<Project>"));
         QVERIFY(!readVisualStudioProject(fileName));
     }
 
-    void fileThatCannotBeOpenedIsNoProject()
+    void fileThatCannotBeOpenedFails()
     {
         const TestFolder folder;
-        QVERIFY(!readVisualStudioProject(folder.path(QStringLiteral("no.vcxproj"))));
+        const auto project = readVisualStudioProject(folder.path(u"no.vcxproj"_s));
+        QVERIFY(!project);
+        QVERIFY(!project.error().isEmpty());
     }
 
-    void sourceFilesLieRelativeToTheProject_data()
+    void sourceFilesAreRelativeToTheProject_data()
     {
         QTest::addColumn<QString>("sourceFile");
         QTest::addColumn<QString>("path");
-        QTest::newRow("beside it") << QStringLiteral("a.cpp") << QStringLiteral("p/q/a.cpp");
-        QTest::newRow("below") << QStringLiteral("r\\s\\a.cpp") << QStringLiteral("p/q/r/s/a.cpp");
-        QTest::newRow("above") << QStringLiteral("..\\..\\a b.cpp") << QStringLiteral("a b.cpp");
-        QTest::newRow("slashes") << QStringLiteral("../a.cpp") << QStringLiteral("p/a.cpp");
+        QTest::newRow("next to it") << u"a.cpp"_s << u"p/q/a.cpp"_s;
+        QTest::newRow("below") << u"r\\s\\a.cpp"_s << u"p/q/r/s/a.cpp"_s;
+        QTest::newRow("above") << u"..\\..\\a b.cpp"_s << u"a b.cpp"_s;
+        QTest::newRow("slashes") << u"../a.cpp"_s << u"p/a.cpp"_s;
     }
 
-    void sourceFilesLieRelativeToTheProject()
+    void sourceFilesAreRelativeToTheProject()
     {
         QFETCH(const QString, sourceFile);
         QFETCH(const QString, path);
-        QCOMPARE(sourceFilePath(QDir::current().filePath(QStringLiteral("p/q/x.vcxproj")), sourceFile),
+        QCOMPARE(sourceFilePath(QDir::current().filePath(u"p/q/x.vcxproj"_s), sourceFile),
                  QDir::current().filePath(path));
-        QCOMPARE(sourceFilePath(QStringLiteral("p/q/x.vcxproj"), sourceFile), QDir::current().filePath(path));
+        QCOMPARE(sourceFilePath(u"p/q/x.vcxproj"_s, sourceFile), QDir::current().filePath(path));
     }
 
-    void deviceThatBreaksGivesNoProject()
+    void deviceThatBreaksFails()
     {
         BrokenDevice device("<Project><PropertyGroup/>");
         QVERIFY(!Scan::readVisualStudioProject(device));

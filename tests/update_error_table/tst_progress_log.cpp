@@ -5,7 +5,9 @@
 #include <QTest>
 #include <QTextStream>
 
-using Error::ProgressLog;
+using namespace Qt::Literals::StringLiterals;
+
+using Synchronisation::ProgressLog;
 
 class tst_progress_log : public QObject
 {
@@ -18,66 +20,66 @@ private slots:
         m_stream.seek(0);
     }
 
-    void showsNoProgressInAFile()
+    void noProgressIsShownInAFile()
     {
         {
             ProgressLog log(m_stream, ProgressLog::Progress::Hidden);
-            log.writeLine(QStringLiteral("one"));
-            log.showProgress(QStringLiteral("half"));
-            log.writeLine(QStringLiteral("two"));
+            log.writeLine(u"one"_s);
+            log.showProgress(u"half"_s);
+            log.writeLine(u"two"_s);
         }
-        QCOMPARE(m_text, QStringLiteral("one\ntwo\n"));
+        QCOMPARE(m_text, u"one\ntwo\n"_s);
     }
 
-    void writesALineInPlaceOfTheProgress()
+    void lineReplacesTheProgress()
     {
         {
             ProgressLog log(m_stream, ProgressLog::Progress::Shown);
-            log.showProgress(QStringLiteral("half"));
-            log.writeLine(QStringLiteral("one"));
-            log.writeLine(QStringLiteral("two"));
+            log.showProgress(u"half"_s);
+            log.writeLine(u"one"_s);
+            log.writeLine(u"two"_s);
         }
-        QCOMPARE(m_text, QStringLiteral("half\r    \rone\ntwo\n"));
+        QCOMPARE(m_text, u"half\r    \rone\ntwo\n"_s);
     }
 
-    void takesTheProgressAwayAtTheEnd()
+    void progressIsErasedAtTheEnd()
     {
         {
             ProgressLog log(m_stream, ProgressLog::Progress::Shown);
-            log.showProgress(QStringLiteral("half"));
+            log.showProgress(u"half"_s);
         }
-        QCOMPARE(m_text, QStringLiteral("half\r    \r"));
+        QCOMPARE(m_text, u"half\r    \r"_s);
     }
 
-    void takesTheProgressAwayBeforeSomebodyElseWrites()
+    void progressIsErasedBeforeOtherOutput()
     {
         {
             ProgressLog log(m_stream, ProgressLog::Progress::Shown);
-            log.showProgress(QStringLiteral("half"));
+            log.showProgress(u"half"_s);
             log.stream() << "other\n";
         }
-        QCOMPARE(m_text, QStringLiteral("half\r    \rother\n"));
+        QCOMPARE(m_text, u"half\r    \rother\n"_s);
     }
 
-    void updatesProgressNoMoreOftenThanTheEyeFollows()
+    void progressIsUpdatedAtMostTenTimesASecond()
     {
         {
             ProgressLog log(m_stream, ProgressLog::Progress::Shown);
             for (int i = 0; i < 1000; ++i)
-                log.showProgress(QStringLiteral("p"));
+                log.showProgress(u"p"_s);
         }
         QVERIFY2(m_text.count(u'p') < 100, qPrintable(m_text));
     }
 
-    void updatesProgressInPlaceAfterAWhile()
+    void progressIsUpdatedInPlaceAfterAWhile()
     {
         {
             ProgressLog log(m_stream, ProgressLog::Progress::Shown);
-            log.showProgress(QStringLiteral("first"));
+            log.showProgress(u"first"_s);
             QTest::qSleep(150);
-            log.showProgress(QStringLiteral("next"));
+            log.showProgress(u"next"_s);
         }
-        QCOMPARE(m_text, QStringLiteral("first\r     \rnext\r    \r"));
+        QCOMPARE(m_text, u"first\r     \rnext\r    \r"_s);
     }
 
     void progressReachesTheTerminalAtOnce()
@@ -86,7 +88,7 @@ private slots:
         QVERIFY(terminal.open(QIODevice::WriteOnly));
         QTextStream stream(&terminal);
         ProgressLog log(stream, ProgressLog::Progress::Shown);
-        log.showProgress(QStringLiteral("half"));
+        log.showProgress(u"half"_s);
         QCOMPARE(terminal.data(), QByteArray("half"));
     }
 
@@ -97,8 +99,8 @@ private slots:
         QTextStream stream(&terminal);
         {
             ProgressLog log(stream, ProgressLog::Progress::Shown);
-            log.writeLine(QStringLiteral("one"));
-            log.showProgress(QStringLiteral("half"));
+            log.writeLine(u"one"_s);
+            log.showProgress(u"half"_s);
         }
         QCOMPARE(terminal.data(), QByteArray("one\nhalf\r    \r"));
     }

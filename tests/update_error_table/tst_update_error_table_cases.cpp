@@ -10,11 +10,12 @@
 #include <QTest>
 #include <QTextStream>
 
-using namespace Error;
+using namespace Qt::Literals::StringLiterals;
+using namespace UpdateTable;
 
 namespace {
 
-// The files below a folder, by their paths in it, with the line ends of every system as "\n".
+// The files below a folder by their relative paths, with all line ends as "\n".
 using Files = QMap<QString, QByteArray>;
 
 Files filesBelow(const QString &folder)
@@ -37,13 +38,13 @@ bool writeFiles(const Files &files, const QString &folder)
     return true;
 }
 
-// One file's text, with the line ends of every system as "\n".
+// A file's text, with all line ends as "\n".
 QString expectedText(const QString &fileName)
 {
     return QString::fromUtf8(fileLines(fileName).value_or(QByteArray()));
 }
 
-// Makes a folder the current one for a while: on Windows a current folder cannot be removed.
+// Changes the current folder and restores it afterwards: on Windows the current folder cannot be removed.
 class CurrentFolder
 {
 public:
@@ -75,20 +76,20 @@ Run run(const QStringList &arguments)
 
 QStringList argumentsOf(const QString &folder)
 {
-    return expectedText(folder + QStringLiteral("/arguments.txt")).split(u'\n', Qt::SkipEmptyParts);
+    return expectedText(folder + u"/arguments.txt"_s).split(u'\n', Qt::SkipEmptyParts);
 }
 
 } // namespace
 
-/// Each folder of cases holds arguments.txt, one argument a line, and files, the folder in which the program
-/// is run; then what is expected of it: output.txt and errors.txt, exit_code.txt (0 when there is none) and
-/// expected, the files that are new or changed. All other files must be there as they were, and no more.
+/// Each folder of cases contains arguments.txt, one argument per line, and "files", the folder in which the
+/// program runs; and the expected results: output.txt and errors.txt, exit_code.txt (0 if there is none) and
+/// "expected", the new and changed files. All other files must be unchanged, and there must be no more.
 class tst_update_error_table_cases : public QObject
 {
     Q_OBJECT
 
 private slots:
-    // A folder of cases that is not found must not pass as no cases at all.
+    // A missing folder of cases must not pass as an empty one.
     void thereAreCases()
     {
         const QDir cases(m_cases);
@@ -101,31 +102,31 @@ private slots:
     {
         QFETCH(const QString, folder);
         const TestFolder work;
-        const Files before = filesBelow(folder + QStringLiteral("/files"));
+        const Files before = filesBelow(folder + u"/files"_s);
         QVERIFY(writeFiles(before, work.path()));
         const CurrentFolder current(work.path());
 
         const Run result = run(argumentsOf(folder));
 
-        const QString exitCode = expectedText(folder + QStringLiteral("/exit_code.txt")).trimmed();
-        QCOMPARE(result.output, expectedText(folder + QStringLiteral("/output.txt")));
-        QCOMPARE(result.errors, expectedText(folder + QStringLiteral("/errors.txt")));
+        const QString exitCode = expectedText(folder + u"/exit_code.txt"_s).trimmed();
+        QCOMPARE(result.output, expectedText(folder + u"/output.txt"_s));
+        QCOMPARE(result.errors, expectedText(folder + u"/errors.txt"_s));
         QCOMPARE(result.exitCode, exitCode.toInt());
         Files expected = before;
-        expected.insert(filesBelow(folder + QStringLiteral("/expected")));
+        expected.insert(filesBelow(folder + u"/expected"_s));
         const Files after = filesBelow(work.path());
         QCOMPARE(after.keys(), expected.keys());
         for (auto file = expected.begin(); file != expected.end(); ++file)
             QCOMPARE(after.value(file.key()), file.value());
     }
 
-    void changesNothingWhenRunAgain_data() { addCaseRows(m_cases); }
+    void secondRunChangesNothing_data() { addCaseRows(m_cases); }
 
-    void changesNothingWhenRunAgain()
+    void secondRunChangesNothing()
     {
         QFETCH(const QString, folder);
         const TestFolder work;
-        QVERIFY(writeFiles(filesBelow(folder + QStringLiteral("/files")), work.path()));
+        QVERIFY(writeFiles(filesBelow(folder + u"/files"_s), work.path()));
         const CurrentFolder current(work.path());
 
         const Run first = run(argumentsOf(folder));
@@ -135,13 +136,13 @@ private slots:
         QCOMPARE(second.exitCode, first.exitCode);
         QCOMPARE(second.errors, first.errors);
         QVERIFY(filesBelow(work.path()) == between);
-        static const QRegularExpression foundAnew(QStringLiteral("\\([1-9][0-9]* new"));
+        static const QRegularExpression foundAnew(u"\\([1-9][0-9]* new"_s);
         if (first.exitCode == 0)
             QVERIFY2(!second.output.contains(foundAnew), qPrintable(second.output));
     }
 
 private:
-    // Absolute before the current folder, and with it the drive, changes.
+    // Absolute, because the current folder, and with it the drive, changes.
     const QString m_cases = QFileInfo(QStringLiteral(CASES)).absoluteFilePath();
 };
 

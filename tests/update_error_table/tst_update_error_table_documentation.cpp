@@ -1,7 +1,7 @@
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
-#include "update_error_table/command_line.h"
+#include "update_error_table/arguments.h"
 #include "update_error_table/update_error_table.h"
 
 #include <QDir>
@@ -9,9 +9,11 @@
 #include <QTest>
 #include <QTextStream>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-// A block of the document that a remark before it says something about.
+// A block of the document with the comment before it.
 struct Block
 {
     QString what; ///< "file" or "output"
@@ -21,8 +23,7 @@ struct Block
 
 QList<Block> blocksOf(const QString &document)
 {
-    static const QRegularExpression block(
-        QStringLiteral("<!-- (file|output): (.*) -->\n```[a-z]*\n((?:.*\n)*?)```\n"));
+    static const QRegularExpression block(u"<!-- (file|output): (.*) -->\n```[a-z]*\n((?:.*\n)*?)```\n"_s);
     QList<Block> blocks;
     for (auto found = block.globalMatch(document); found.hasNext();) {
         const QRegularExpressionMatch match = found.next();
@@ -37,13 +38,13 @@ QString outputOf(const QStringList &arguments)
     QString errors;
     QTextStream output(&text);
     QTextStream errorOutput(&errors);
-    runUpdateErrorTable(arguments, output, errorOutput, Error::OutputDevice::FileOrPipe);
+    runUpdateErrorTable(arguments, output, errorOutput, UpdateTable::OutputDevice::FileOrPipe);
     return text + errors;
 }
 
 } // namespace
 
-/// What docs/update-error-table.md shows is what the program does.
+/// The usage and the examples in docs/update-error-table.md.
 class tst_update_error_table_documentation : public QObject
 {
     Q_OBJECT
@@ -57,10 +58,9 @@ private slots:
 
     void showsTheUsage()
     {
-        QString usage = Error::usageText();
-        static const QRegularExpression lineBegin(QStringLiteral("^(?=.)"),
-                                                  QRegularExpression::MultilineOption);
-        QVERIFY(m_document.contains(usage.replace(lineBegin, QStringLiteral("    "))));
+        QString usage = UpdateTable::usage();
+        static const QRegularExpression lineBegin(u"^(?=.)"_s, QRegularExpression::MultilineOption);
+        QVERIFY(m_document.contains(usage.replace(lineBegin, u"    "_s)));
     }
 
     void examplesGiveTheOutputShown()
@@ -70,7 +70,7 @@ private slots:
         QVERIFY(QDir::setCurrent(folder.path()));
         int outputs = 0;
         for (const Block &block : blocksOf(m_document)) {
-            if (block.what == QLatin1String("file")) {
+            if (block.what == "file"_L1) {
                 QVERIFY(QDir().mkpath(QFileInfo(block.name).path()));
                 QVERIFY(writeBytes(block.name, block.text.toUtf8()));
                 continue;
@@ -78,7 +78,7 @@ private slots:
             ++outputs;
             QCOMPARE(outputOf(block.name.split(u' ')), block.text);
         }
-        const QByteArray table = fileBytes(QStringLiteral("errors.xml")).value_or("missing");
+        const QByteArray table = fileBytes(u"errors.xml"_s).value_or("missing");
         QDir::setCurrent(before);
         QCOMPARE(outputs, 3);
         QCOMPARE(table.count("<process>client</process>"), 3);

@@ -7,7 +7,9 @@
 
 #include <memory>
 
-/// The real program, started with its output in pipes.
+using namespace Qt::Literals::StringLiterals;
+
+/// The real program with its output in pipes.
 class tst_update_error_table_program : public QObject
 {
     Q_OBJECT
@@ -17,7 +19,7 @@ private slots:
     {
         m_folder = std::make_unique<TestFolder>();
         QVERIFY(
-            writeBytes(m_folder->path(QStringLiteral("p.vcxproj")),
+            writeBytes(m_folder->path(u"p.vcxproj"_s),
                        "<Project><PropertyGroup Label=\"Globals\"><RootNamespace>new_client</RootNamespace>"
                        "</PropertyGroup><ItemGroup><ClCompile Include=\"gr\xC3\xBC\xC3\x9F"
                        "e.cpp\"/><ClCompile Include=\"gone.cpp\"/></ItemGroup></Project>"));
@@ -26,11 +28,11 @@ private slots:
                            "void f() { REPORT_ERROR(\"Tag\"); }\n"));
     }
 
-    void tellsItsWorkOnTheStandardOutputAndSkippedFilesOnStandardError()
+    void writesProgressToStandardOutputAndSkippedFilesToStandardError()
     {
         const QString table = QString::fromUtf8("t\xC3\xA4"
                                                 "ble.xml");
-        run({QStringLiteral("-sync"), table, QStringLiteral("p.vcxproj")});
+        run({u"-sync"_s, table, u"p.vcxproj"_s});
 
         QCOMPARE(m_process.exitCode(), 0);
         QCOMPARE(output(), QString::fromUtf8("Scanning...\n"
@@ -41,60 +43,58 @@ private slots:
                                              "Found 1 keys (1 new, 0 existing, and 0 obsolete)\n"
                                              "Saving message table \"t\xC3\xA4"
                                              "ble.xml\"...\n"));
-        QCOMPARE(errors(), QStringLiteral("1 source file could not be scanned and was skipped\n"));
+        QCOMPARE(errors(), u"1 source file could not be scanned and was skipped\n"_s);
         const QByteArray written = fileBytes(m_folder->path(table)).value_or("missing");
         QVERIFY2(written.contains("<process>client</process>"), written.constData());
     }
 
-    void namesTheCopyOfAFileWithPluralFormsOnStandardError()
+    void writesTheNameOfTheCopyOfPluralFormsToStandardError()
     {
         const QByteArray plural = "<TS><context><name>A</name><message numerus=\"yes\"><source>%n</source>"
                                   "<translation><numerusform>%n</numerusform></translation></message>"
                                   "</context></TS>";
-        QVERIFY(writeBytes(m_folder->path(QStringLiteral("a.ts")), plural));
-        QVERIFY(writeBytes(m_folder->path(QStringLiteral("t.xml")), "<messageTable/>"));
-        run({QStringLiteral("-tr"), QStringLiteral("t.xml"), QStringLiteral("a.ts")});
+        QVERIFY(writeBytes(m_folder->path(u"a.ts"_s), plural));
+        QVERIFY(writeBytes(m_folder->path(u"t.xml"_s), "<messageTable/>"));
+        run({u"-tr"_s, u"t.xml"_s, u"a.ts"_s});
         QCOMPARE(m_process.exitCode(), 0);
-        QCOMPARE(errors(), QStringLiteral("Plural forms were dropped; the old file is a.ts.before\n"));
-        QVERIFY(!output().contains(QStringLiteral("before")));
-        QCOMPARE(fileBytes(m_folder->path(QStringLiteral("a.ts.before"))), plural);
+        QCOMPARE(errors(), u"Plural forms were dropped; the old file is a.ts.before\n"_s);
+        QVERIFY(!output().contains(u"before"_s));
+        QCOMPARE(fileBytes(m_folder->path(u"a.ts.before"_s)), plural);
     }
 
-    void writesNoProgressIntoAPipe()
+    void writesNoProgressLineToAPipe()
     {
-        run({QStringLiteral("-sync"), QStringLiteral("t.xml"), QStringLiteral("p.vcxproj")});
+        run({u"-sync"_s, u"t.xml"_s, u"p.vcxproj"_s});
         const QByteArray bytes = m_output;
-        QVERIFY(!QString::fromUtf8(bytes).contains(QStringLiteral("Scanned")));
+        QVERIFY(!QString::fromUtf8(bytes).contains(u"Scanned"_s));
         QVERIFY(!QByteArray(bytes).replace("\r\n", "\n").contains('\r'));
     }
 
-    void endsWithOneWhenTheOperationFails()
+    void exitCodeIsOneIfAnOperationFails()
     {
-        run({QStringLiteral("-sync"), QStringLiteral("t.xml"), QStringLiteral("no.vcxproj")});
+        run({u"-sync"_s, u"t.xml"_s, u"no.vcxproj"_s});
         QCOMPARE(m_process.exitCode(), 1);
-        QCOMPARE(output(), QStringLiteral("Could not find Visual Studio project file \"no.vcxproj\"\n"));
+        QCOMPARE(output(), u"Could not find Visual Studio project file \"no.vcxproj\"\n"_s);
     }
 
-    void endsWithTwoAndTheUsageOnStandardErrorForWrongArguments()
+    void wrongArgumentsWriteTheUsageToStandardErrorAndExitWithTwo()
     {
-        run({QStringLiteral("-sync")});
+        run({u"-sync"_s});
         QCOMPARE(m_process.exitCode(), 2);
         QCOMPARE(output(), QString());
-        QVERIFY(errors().startsWith(QStringLiteral("Usage: UpdateErrorTable [options]\n\noptions:\n")));
+        QVERIFY(errors().startsWith(u"Usage: UpdateErrorTable [options]\n\noptions:\n"_s));
     }
 
-    void tellsTheUsageOnTheStandardOutputWhenAsked()
+    void helpWritesTheUsageToStandardOutput()
     {
-        run({QStringLiteral("-h")});
+        run({u"-h"_s});
         QCOMPARE(m_process.exitCode(), 0);
-        QCOMPARE(
-            output(),
-            QStringLiteral("Usage: UpdateErrorTable [options]\n"
+        QCOMPARE(output(), u"Usage: UpdateErrorTable [options]\n"
                            "\n"
                            "options:\n"
                            "  -sync <error_table> <vcproj>   synchronize error table with source code\n"
                            "  -tr <error_table> <ts>         synchronize translation table with error table\n"
-                           "  -h                             show this message and exit\n"));
+                           "  -h                             show this message and exit\n"_s);
         QCOMPARE(errors(), QString());
     }
 
@@ -109,15 +109,9 @@ private:
         m_errors = m_process.readAllStandardError();
     }
 
-    // The texts with the line ends of every system as "\n".
-    QString output() const
-    {
-        return QString::fromUtf8(m_output).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    }
-    QString errors() const
-    {
-        return QString::fromUtf8(m_errors).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    }
+    // The texts with all line ends as "\n".
+    QString output() const { return QString::fromUtf8(m_output).replace(u"\r\n"_s, u"\n"_s); }
+    QString errors() const { return QString::fromUtf8(m_errors).replace(u"\r\n"_s, u"\n"_s); }
 
     std::unique_ptr<TestFolder> m_folder;
     QProcess m_process;

@@ -8,6 +8,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct TerminalRun
@@ -16,7 +18,7 @@ struct TerminalRun
     QByteArray screen; ///< all bytes that the terminal received
 };
 
-// Runs the program in the folder with its output on a terminal of its own.
+// Runs the program in the folder with its output on a new terminal.
 TerminalRun runOnTerminal(const QString &folder, const char *table, const char *project)
 {
     const QByteArray workingFolder = folder.toLocal8Bit();
@@ -47,11 +49,11 @@ class tst_update_error_table_terminal : public QObject
     Q_OBJECT
 
 private slots:
-    void showsAProgressLineThatIsTakenAwayAgain()
+    void progressLineIsShownAndErased()
     {
         const TestFolder folder;
-        QVERIFY(writeBytes(folder.path(QStringLiteral("a.cpp")), "void f() { REPORT_ERROR(\"Tag\"); }\n"));
-        QVERIFY(writeBytes(folder.path(QStringLiteral("p.vcxproj")),
+        QVERIFY(writeBytes(folder.path(u"a.cpp"_s), "void f() { REPORT_ERROR(\"Tag\"); }\n"));
+        QVERIFY(writeBytes(folder.path(u"p.vcxproj"_s),
                            "<Project><ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Project>"));
 
         const TerminalRun run = runOnTerminal(folder.path(), "t.xml", "p.vcxproj");

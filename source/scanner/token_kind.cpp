@@ -1,4 +1,4 @@
-#include "scanner/source_token.h"
+#include "scanner/token_kind.h"
 
 #include "scanner/word_table.h"
 
@@ -6,6 +6,8 @@
 
 #include <array>
 #include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace Scan {
 
@@ -39,39 +41,39 @@ QString displayName(TokenKind kind)
 {
     switch (kind) {
     case TokenKind::Other:
-        return QStringLiteral("Other");
+        return u"Other"_s;
     case TokenKind::EndOfFile:
-        return QStringLiteral("EOF");
+        return u"EOF"_s;
     case TokenKind::Namespace:
-        return QStringLiteral("namespace");
+        return u"namespace"_s;
     case TokenKind::Using:
-        return QStringLiteral("using");
+        return u"using"_s;
     case TokenKind::ReportError:
-        return QStringLiteral("ReportError");
+        return u"ReportError"_s;
     case TokenKind::ReportErrorWithArg:
-        return QStringLiteral("ReportErrorWithArg");
+        return u"ReportErrorWithArg"_s;
     case TokenKind::ReportErrorWithArgs:
-        return QStringLiteral("ReportErrorWithArgs");
+        return u"ReportErrorWithArgs"_s;
     case TokenKind::Identifier:
-        return QStringLiteral("Identifier");
+        return u"Identifier"_s;
     case TokenKind::String:
-        return QStringLiteral("String");
+        return u"String"_s;
     case TokenKind::LeftBrace:
-        return QStringLiteral("LeftBrace");
+        return u"LeftBrace"_s;
     case TokenKind::RightBrace:
-        return QStringLiteral("RightBrace");
+        return u"RightBrace"_s;
     case TokenKind::LeftParen:
-        return QStringLiteral("LeftParen");
+        return u"LeftParen"_s;
     case TokenKind::RightParen:
-        return QStringLiteral("RightParen");
+        return u"RightParen"_s;
     case TokenKind::Semicolon:
-        return QStringLiteral("Semicolon");
+        return u"Semicolon"_s;
     case TokenKind::Colon:
-        return QStringLiteral("Colon");
+        return u"Colon"_s;
     case TokenKind::DoubleColon:
-        return QStringLiteral("DoubleColon");
+        return u"DoubleColon"_s;
     default:
-        return QStringLiteral("UNKNOWN");
+        return u"UNKNOWN"_s;
     }
 }
 

@@ -7,8 +7,9 @@
 #include <string>
 #include <string_view>
 
-/// The lexical rules of C++ that the scanner needs, as functions of a text and a position in it. Positions
-/// answered lie within the text or at its end; something left open at the end of the text ends there.
+/// The lexical rules of C++ that the scanner needs, as functions of a text and a position in it. They return
+/// positions up to the text's size; a literal or comment that is still open at the end of the text ends
+/// there.
 namespace Scan::Lexis {
 
 enum ByteClass : unsigned char
@@ -52,19 +53,19 @@ constexpr bool isDigit(char byte)
     return hasClass(byte, Digit);
 }
 
-/// The length of the line continuation (a backslash and a line end) at the position; 0 when there is none.
+/// The length of the line continuation (a backslash and a line end) at the position; 0 if there is none.
 std::size_t continuationLength(std::string_view text, std::size_t at);
 
-/// The end of the word that begins at the position. A line continuation within a word belongs to it.
+/// The end of the word that begins at the position. A word may contain line continuations.
 std::size_t wordEnd(std::string_view text, std::size_t begin);
 
-/// True when there is a line continuation within the word.
+/// True when the word contains a line continuation.
 inline bool isBroken(std::string_view word)
 {
-    return std::find(word.begin(), word.end(), '\\') != word.end();
+    return word.find('\\') != std::string_view::npos;
 }
 
-/// The beginning of the word that ends at the position; floor is the least answer.
+/// The beginning of the word that ends at the position. Never returns less than floor.
 std::size_t wordBegin(std::string_view text, std::size_t end, std::size_t floor);
 
 /// A word's text without its line continuations.
@@ -78,16 +79,16 @@ std::size_t numberEnd(std::string_view text, std::size_t begin);
 /// continuation.
 std::size_t skipBlanksAndComments(std::string_view text, std::size_t from);
 
-/// The end of the comment that begins at the position; nothing when none does. The line feed behind a
-/// comment of one line is not part of it.
+/// The end of the comment that begins at the position; nullopt if there is none. The line feed after a
+/// one-line comment is not part of it.
 std::optional<std::size_t> commentEnd(std::string_view text, std::size_t begin);
 
-/// The end of the character literal whose quote is at the position, with its suffix. One that is not closed
+/// The end of the character literal, with its suffix, whose quote is at the position. An unclosed literal
 /// ends with its line.
 std::size_t characterLiteralEnd(std::string_view text, std::size_t quote);
 
-/// The end of what the single quote at the position belongs to: the number that it separates digits of, or a
-/// character literal. The word before it is looked for down to floor.
+/// The end of the token that contains the single quote at the position: a number whose digits it separates,
+/// or a character literal. The word before the quote begins at floor or later.
 std::size_t singleQuoteEnd(std::string_view text, std::size_t quote, std::size_t floor);
 
 /// A string literal in the text.
@@ -106,26 +107,27 @@ struct Literal
 
     Form form = Form::Ordinary;
     Units units = Units::Bytes;
-    std::string_view content; ///< between the quotes or parentheses, as it stands
-    std::size_t end = 0;      ///< behind the closing quote and the suffix
+    std::string_view content; ///< between the quotes or parentheses, as written
+    std::size_t end = 0;      ///< after the closing quote and the suffix
 };
 
-/// The string literal whose opening quote is at the position, with that prefix before it ("", "u8R", ...); a
-/// word that is no prefix counts as "". One that is not closed ends with its line, a raw one with the text.
+/// The string literal whose opening quote is at the position, with this prefix ("", "u8R", ...); any other
+/// word counts as "". An unclosed literal ends with its line, an unclosed raw one with the text.
 Literal literalAt(std::string_view text, std::string_view prefix, std::size_t quote);
 
-/// The position of the opening quote when a string literal, with its prefix if any, begins at the position.
+/// The position of the opening quote of the string literal, with or without a prefix, that begins at the
+/// position; nullopt if there is none.
 std::optional<std::size_t> literalQuote(std::string_view text, std::size_t begin);
 
 /// True when the word is the prefix of a string literal.
 bool isLiteralPrefix(std::string_view word);
 
-/// True when nothing but blanks or a comment stands before the position on its line, so that a "#" there
-/// begins a preprocessor directive.
+/// True when there are only blanks or a comment before the position on its line, so that a "#" there begins a
+/// preprocessor directive.
 bool beginsLine(std::string_view text, std::size_t at);
 
-/// The end of the directive whose text goes on at the position: the line feed that no continuation, comment
-/// or raw string takes in.
+/// The end of the directive that contains the position: the first line feed outside of continuations,
+/// comments and raw strings.
 std::size_t directiveEnd(std::string_view text, std::size_t from);
 
 } // namespace Scan::Lexis

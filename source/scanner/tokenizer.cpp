@@ -1,6 +1,6 @@
-#include "scanner/source_tokenizer.h"
+#include "scanner/tokenizer.h"
 
-#include "scanner/source_lexis.h"
+#include "scanner/lexis.h"
 #include "scanner/string_literal.h"
 #include "scanner/wide_scan.h"
 
@@ -10,16 +10,11 @@ namespace Scan {
 
 namespace {
 
-bool beginsWith(std::string_view word, std::string_view beginning)
-{
-    return word.substr(0, beginning.size()) == beginning;
-}
-
 Directive directiveOf(std::string_view word)
 {
-    if (beginsWith(word, "if"))
+    if (word.starts_with("if"))
         return Directive::If;
-    if (beginsWith(word, "el"))
+    if (word.starts_with("el"))
         return Directive::Else;
     return word == "endif" ? Directive::EndIf : Directive::None;
 }
@@ -63,7 +58,7 @@ void Tokenizer::nextInBody()
     }
 }
 
-// True when the byte begins a token; otherwise goes on behind what it belongs to.
+// True when the byte begins a token; otherwise skips the text to which it belongs.
 bool Tokenizer::takeInBody(std::size_t at, std::size_t segment)
 {
     switch (m_text[at]) {
@@ -122,8 +117,8 @@ void Tokenizer::takeLiterals(std::size_t begin)
     take(TokenKind::String, begin, literalsEnd(begin, quote));
 }
 
-// Makes the literal and those adjacent to it the last string and goes on behind them and the blanks that
-// follow. Returns the end of the last literal.
+// Makes the literal and those adjacent to it the last string, and skips them and the blanks after them.
+// Returns the end of the last literal.
 std::size_t Tokenizer::literalsEnd(std::size_t begin, std::size_t quote)
 {
     std::size_t prefix = begin;
@@ -140,7 +135,7 @@ std::size_t Tokenizer::literalsEnd(std::size_t begin, std::size_t quote)
     }
 }
 
-// True when the directive is a conditional, which is a token; otherwise goes on behind it.
+// True when the directive is a conditional, which is a token; otherwise skips it.
 bool Tokenizer::takeDirective(std::size_t numberSign)
 {
     std::size_t begin = numberSign + 1;
@@ -158,7 +153,7 @@ bool Tokenizer::takeDirective(std::size_t numberSign)
     return directive != Directive::None;
 }
 
-// True when the byte begins a token; otherwise goes on behind the directive that it begins.
+// True when the byte begins a token; otherwise skips the directive that it begins.
 bool Tokenizer::takePunctuation(std::size_t begin)
 {
     const char following = begin + 1 < m_text.size() ? m_text[begin + 1] : '\0';

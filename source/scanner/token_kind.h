@@ -7,14 +7,14 @@ class QString;
 
 namespace Scan {
 
-/// What the tokenizer tells apart in a C++ source file.
+/// The kinds of tokens in a C++ source file.
 enum class TokenKind : std::uint8_t
 {
-    Other = 0, ///< anything of no interest, the keywords class, enum, for, struct and while among it
+    Other = 0, ///< any token of no interest, and the keywords class, enum, for, struct and while
     EndOfFile = 1,
     Namespace = 2,
     Using = 3,
-    ReportError = 4, ///< also with the suffix _NOOP, as kinds 7 and 10
+    ReportError = 4, ///< also with the suffix _NOOP, like kinds 7 and 10
     ReportErrorWithArg = 5,
     ReportErrorWithArgs = 6,
     ReportMessage = 7,
@@ -37,8 +37,8 @@ enum class TokenKind : std::uint8_t
 /// The kind's name in diagnostics; "UNKNOWN" for kinds 7 to 12, which have none.
 QString displayName(TokenKind kind);
 
-/// The kind of a word (letters, digits, underscores), compared with case; Identifier for a word that is not
-/// listed.
+/// The kind of a word (letters, digits, underscores). The comparison is case-sensitive. A word that is not
+/// listed is an Identifier.
 TokenKind classifyWord(std::string_view word);
 
 /// True for kinds 4 to 12.

@@ -1,4 +1,4 @@
-#include "scanner/source_lexis.h"
+#include "scanner/lexis.h"
 
 #include "scanner/wide_scan.h"
 
@@ -21,11 +21,11 @@ std::size_t lineCommentEnd(std::string_view text, std::size_t from)
     }
 }
 
-// The end of a literal in quotes whose opening quote is at the position, and whether it is closed.
+// Where the content of a literal in quotes ends.
 struct QuotedEnd
 {
-    std::size_t end = 0; ///< of the content
-    bool closed = false;
+    std::size_t end = 0;
+    bool closed = false; // by a quote
 };
 
 QuotedEnd quotedEnd(std::string_view text, std::size_t quote)
@@ -58,7 +58,7 @@ bool isDelimiterByte(char byte)
     return byte != ')' && byte != '\\' && byte != '"' && !hasClass(byte, Blank);
 }
 
-// The length of the line continuation that ends at the position and begins behind the floor; 0 when there is
+// The length of the line continuation that ends at the position and begins after the floor; 0 if there is
 // none.
 std::size_t lengthOfContinuationBefore(std::string_view text, std::size_t end, std::size_t floor)
 {
@@ -69,14 +69,14 @@ std::size_t lengthOfContinuationBefore(std::string_view text, std::size_t end, s
     return 0;
 }
 
-// The raw string whose opening quote is at the position; nothing when its delimiter is none.
+// The raw string whose opening quote is at the position; nullopt if its delimiter is invalid.
 std::optional<Literal> rawLiteral(std::string_view text, std::size_t quote)
 {
-    constexpr std::size_t longestDelimiter = 16;
+    constexpr std::size_t maximumDelimiter = 16;
     std::size_t open = quote + 1;
     while (open < text.size() && text[open] != '(' && isDelimiterByte(text[open]))
         ++open;
-    if (open == text.size() || text[open] != '(' || open - quote - 1 > longestDelimiter)
+    if (open == text.size() || text[open] != '(' || open - quote - 1 > maximumDelimiter)
         return std::nullopt;
 
     const std::string_view delimiter = text.substr(quote + 1, open - quote - 1);
@@ -113,12 +113,12 @@ std::size_t wordEnd(std::string_view text, std::size_t begin)
     for (;;) {
         while (at < text.size() && hasClass(text[at], WordByte))
             ++at;
-        std::size_t behind = at;
-        while (const std::size_t length = continuationLength(text, behind))
-            behind += length;
-        if (behind == at || behind >= text.size() || !hasClass(text[behind], WordByte))
+        std::size_t next = at;
+        while (const std::size_t length = continuationLength(text, next))
+            next += length;
+        if (next == at || next >= text.size() || !hasClass(text[next], WordByte))
             return at;
-        at = behind;
+        at = next;
     }
 }
 
@@ -200,7 +200,7 @@ std::size_t characterLiteralEnd(std::string_view text, std::size_t quote)
 std::size_t singleQuoteEnd(std::string_view text, std::size_t quote, std::size_t floor)
 {
     const std::size_t begin = wordBegin(text, quote, floor);
-    // Where no word stands before the quote, it begins with the quote, which is no digit.
+    // Without a word before the quote, this byte is the quote itself, which is not a digit.
     if (isDigit(text[begin])) {
         const std::size_t end = numberEnd(text, quote - 1);
         if (end > quote)
@@ -212,29 +212,29 @@ std::size_t singleQuoteEnd(std::string_view text, std::size_t quote, std::size_t
 bool isLiteralPrefix(std::string_view word)
 {
     static constexpr std::string_view prefixes[] = {"R", "L", "u", "U", "u8", "LR", "uR", "UR", "u8R"};
-    return std::find(std::begin(prefixes), std::end(prefixes), word) != std::end(prefixes);
+    return std::ranges::find(prefixes, word) != std::end(prefixes);
 }
 
 Literal literalAt(std::string_view text, std::string_view prefix, std::size_t quote)
 {
     const bool prefixed = isLiteralPrefix(prefix);
     Literal literal;
-    if (prefixed && prefix.back() == 'R')
+    if (prefixed && prefix.ends_with('R'))
         literal = rawLiteral(text, quote).value_or(Literal());
     if (literal.form == Literal::Form::Ordinary) {
         const QuotedEnd end = quotedEnd(text, quote);
         literal.content = text.substr(quote + 1, end.end - quote - 1);
         literal.end = end.closed ? suffixEnd(text, end.end + 1) : end.end;
     }
-    const bool wide = prefixed && prefix.front() != 'R' && prefix.substr(0, 2) != "u8";
+    const bool wide = prefixed && !prefix.starts_with('R') && !prefix.starts_with("u8");
     literal.units = wide ? Literal::Units::Wide : Literal::Units::Bytes;
     return literal;
 }
 
 std::optional<std::size_t> literalQuote(std::string_view text, std::size_t begin)
 {
-    constexpr std::size_t longestPrefix = 3;
-    const std::size_t limit = std::min(text.size(), begin + longestPrefix);
+    constexpr std::size_t maximumPrefix = 3;
+    const std::size_t limit = std::min(text.size(), begin + maximumPrefix);
     std::size_t quote = begin;
     while (quote < limit && hasClass(text[quote], WordByte))
         ++quote;

@@ -2,7 +2,7 @@
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
-#include "synchronisation/message_table_update.h"
+#include "synchronisation/message_table_synchronisation.h"
 #include "synchronisation/progress_log.h"
 
 #include <QDateTime>
@@ -10,21 +10,22 @@
 #include <QTest>
 #include <QTextStream>
 
-using namespace Error;
+using namespace Qt::Literals::StringLiterals;
+using namespace Synchronisation;
 
 namespace {
 
 Clt::MessageKey key(const QString &tag)
 {
-    return {tag, QStringLiteral("N::C::f"), QStringLiteral("client")};
+    return {tag, u"N::C::f"_s, u"client"_s};
 }
 
-/// Keys with those tags, each found in a line of its own.
+/// Keys with these tags, each found on a different line.
 Scan::FoundKeys foundKeys(const QStringList &tags)
 {
     Scan::FoundKeys found;
     for (const QString &tag : tags)
-        found.insert(key(tag), {QStringLiteral("solver.cpp"), 10 + static_cast<int>(found.size())});
+        found.insert(key(tag), {u"solver.cpp"_s, 10 + static_cast<int>(found.size())});
     return found;
 }
 
@@ -32,14 +33,14 @@ Clt::Message message(const QString &tag, Clt::MessageState state)
 {
     Clt::Message made;
     made.setKey(key(tag));
-    made.setText(QStringLiteral("text of ") + tag);
+    made.setText(u"text of "_s + tag);
     made.setState(state);
     return made;
 }
 
 } // namespace
 
-class tst_message_table_update : public QObject
+class tst_message_table_synchronisation : public QObject
 {
     Q_OBJECT
 
@@ -47,15 +48,15 @@ private slots:
     void newKeyGetsAMessageWithItsInitialValuesAndStateNew()
     {
         Clt::MessageTable table;
-        const KeyCounts counts = synchronizeKeys(table, foundKeys({QStringLiteral("A")}));
+        const KeyCounts counts = synchronizeKeys(table, foundKeys({u"A"_s}));
         QCOMPARE(table.size(), std::size_t(1));
-        const Clt::Message made = table.message(key(QStringLiteral("A")));
-        QVERIFY(made.key() == key(QStringLiteral("A")));
+        const Clt::Message made = table.message(key(u"A"_s));
+        QVERIFY(made.key() == key(u"A"_s));
         QCOMPARE(made.state(), Clt::MessageState::New);
         QCOMPARE(made.severity(), Clt::Severity::Information);
         QCOMPARE(made.text(), QString());
         QCOMPARE(made.answers(), Clt::Answers(Clt::Answer::Ok));
-        QCOMPARE(counts.text(), QStringLiteral("Found 1 keys (1 new, 0 existing, and 0 obsolete)"));
+        QCOMPARE(counts.text(), u"Found 1 keys (1 new, 0 existing, and 0 obsolete)"_s);
     }
 
     void stateOfAKnownKey_data()
@@ -77,72 +78,70 @@ private slots:
         QFETCH(const Clt::MessageState, before);
         QFETCH(const bool, found);
         Clt::MessageTable table;
-        table.insert(message(QStringLiteral("A"), before));
-        synchronizeKeys(table, found ? foundKeys({QStringLiteral("A")}) : Scan::FoundKeys());
-        const Clt::Message after = table.message(key(QStringLiteral("A")));
+        table.insert(message(u"A"_s, before));
+        synchronizeKeys(table, found ? foundKeys({u"A"_s}) : Scan::FoundKeys());
+        const Clt::Message after = table.message(key(u"A"_s));
         QTEST(after.state(), "after");
-        QCOMPARE(after.text(), QStringLiteral("text of A"));
+        QCOMPARE(after.text(), u"text of A"_s);
     }
 
-    void foundMessagesKnowTheirFileAndLine()
+    void foundMessagesHaveTheirFileAndLine()
     {
         Clt::MessageTable table;
         for (const char *tag : {"A", "B", "C"})
             table.insert(message(QString::fromLatin1(tag), Clt::MessageState::InSync));
-        synchronizeKeys(table, foundKeys({QStringLiteral("B"), QStringLiteral("D"), QStringLiteral("C")}));
+        synchronizeKeys(table, foundKeys({u"B"_s, u"D"_s, u"C"_s}));
         QStringList places;
         for (const auto &[messageKey, found] : table)
-            places.append(
-                QStringLiteral("%1 %2:%3").arg(messageKey.tag, found.file(), QString::number(found.line())));
-        QCOMPARE(places, QStringList({QStringLiteral("A :0"), QStringLiteral("B solver.cpp:10"),
-                                      QStringLiteral("C solver.cpp:12"), QStringLiteral("D solver.cpp:11")}));
-        QCOMPARE(table.message(key(QStringLiteral("B"))).text(), QStringLiteral("text of B"));
+            places.append(u"%1 %2:%3"_s.arg(messageKey.tag, found.file(), QString::number(found.line())));
+        QCOMPARE(places,
+                 QStringList({u"A :0"_s, u"B solver.cpp:10"_s, u"C solver.cpp:12"_s, u"D solver.cpp:11"_s}));
+        QCOMPARE(table.message(key(u"B"_s)).text(), u"text of B"_s);
     }
 
-    void countsAreOfTheSets()
+    void countsAreTheSizesOfTheSets()
     {
         Clt::MessageTable table;
         for (const char *tag : {"A", "B", "C"})
             table.insert(message(QString::fromLatin1(tag), Clt::MessageState::InSync));
-        const KeyCounts counts =
-            synchronizeKeys(table, foundKeys({QStringLiteral("B"), QStringLiteral("D")}));
+        const KeyCounts counts = synchronizeKeys(table, foundKeys({u"B"_s, u"D"_s}));
         QCOMPARE(counts.found, 2);
         QCOMPARE(counts.added, 1);
         QCOMPARE(counts.existing, 3);
         QCOMPARE(counts.obsolete, 2);
-        QCOMPARE(counts.text(), QStringLiteral("Found 2 keys (1 new, 3 existing, and 2 obsolete)"));
+        QCOMPARE(counts.text(), u"Found 2 keys (1 new, 3 existing, and 2 obsolete)"_s);
     }
 
-    void nothingFoundHasALineOfItsOwn()
+    void noFoundKeysHaveTheirOwnText()
     {
         Clt::MessageTable table;
-        table.insert(message(QStringLiteral("A"), Clt::MessageState::InSync));
-        QCOMPARE(synchronizeKeys(table, {}).text(), QStringLiteral("Found 0 keys"));
+        table.insert(message(u"A"_s, Clt::MessageState::InSync));
+        QCOMPARE(synchronizeKeys(table, {}).text(), u"Found 0 keys"_s);
     }
 
     void tableThatStaysTheSameKeepsItsTimeStamp()
     {
         const TestFolder folder;
-        const QString table = folder.path(QStringLiteral("t.xml"));
-        const QString project = folder.path(QStringLiteral("p.vcxproj"));
+        const QString table = folder.path(u"t.xml"_s);
+        const QString project = folder.path(u"p.vcxproj"_s);
         QVERIFY(
             writeBytes(project, "<Project><ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Project>"));
-        QVERIFY(writeBytes(folder.path(QStringLiteral("a.cpp")), "void f() { REPORT_ERROR(\"A\"); }"));
+        QVERIFY(writeBytes(folder.path(u"a.cpp"_s), "void f() { REPORT_ERROR(\"A\"); }"));
         QString text;
         QTextStream stream(&text);
         ProgressLog log(stream, ProgressLog::Progress::Hidden);
-        QVERIFY(synchronizeMessageTable(table, project, log).succeeded);
+        QVERIFY(synchronizeMessageTable(table, project, log).outcome);
 
         const QDateTime longAgo = QDateTime::fromSecsSinceEpoch(1'000'000'000);
         QFile file(table);
         QVERIFY(file.open(QIODevice::ReadWrite));
         QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
         file.close();
-        QVERIFY(synchronizeMessageTable(table, project, log).succeeded);
+        QVERIFY(synchronizeMessageTable(table, project, log).outcome);
         QCOMPARE(QFileInfo(table).lastModified(), longAgo);
     }
 };
 
-NVX_GUILESS_TEST(tst_message_table_update)
+NVX_GUILESS_TEST(tst_message_table_synchronisation)
 
-#include "tst_message_table_update.moc"
+#include "tst_message_table_synchronisation.moc"

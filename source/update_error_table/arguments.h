@@ -1,12 +1,13 @@
 #pragma once
 
+#include "nvx_util/result.h"
+
 #include <QString>
 #include <QStringList>
 
-#include <optional>
 #include <vector>
 
-namespace Error {
+namespace UpdateTable {
 
 /// One of the program's operations with its two files.
 struct Operation
@@ -22,18 +23,19 @@ struct Operation
     QString other;
 };
 
-/// What the command line asks for.
-struct CommandLine
+/// What the program is asked to do.
+struct Arguments
 {
     bool help = false;
     std::vector<Operation> operations; ///< in the order given
 };
 
-/// Reads the arguments, without the program's name: any number of operations, or "-h" anywhere. Nothing when
-/// they do not match, as when there are none or the name of an option stands where a file should.
-std::optional<CommandLine> readCommandLine(const QStringList &arguments);
+/// Reads the arguments, without the program's name: any number of operations, and "-h" at any position. If
+/// they do not match, for example because there are none or an option's name is in the place of a file, the
+/// error is the usage.
+Nvx::Util::Result<Arguments> readArguments(const QStringList &arguments);
 
-/// The usage text, with its line ends.
-QString usageText();
+/// The program's usage, with its line ends.
+QString usage();
 
-} // namespace Error
+} // namespace UpdateTable

@@ -1,4 +1,4 @@
-#include "scanner/source_parser.h"
+#include "scanner/parser.h"
 
 #include "clt_xml_text.h"
 
@@ -6,12 +6,14 @@
 
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Scan {
 
 namespace {
 
-// Questions within the arguments of questions, deeper than anybody writes them.
-constexpr std::size_t deepestQuestion = 16;
+// The maximum nesting of questions within the arguments of questions.
+constexpr std::size_t maximumQuestions = 16;
 
 QString toText(std::string_view utf8)
 {
@@ -25,11 +27,6 @@ QString joined(std::string_view source)
 
 } // namespace
 
-QString SourceError::text() const
-{
-    return QStringLiteral("%1 (line %2)").arg(message, QString::number(line));
-}
-
 Parser::Parser(std::string_view text, Trace trace)
     : m_tokenizer(text)
     , m_trace(std::move(trace))
@@ -37,9 +34,9 @@ Parser::Parser(std::string_view text, Trace trace)
 {
 }
 
-std::optional<SourceError> Parser::parse()
+const Nvx::Util::Outcome &Parser::parse()
 {
-    while (!m_error) {
+    while (m_outcome) {
         const bool inCall = m_state.step != Step::None || !m_state.questions.empty();
         if (!inCall && !m_tokenizer.macroAhead())
             break;
@@ -51,7 +48,7 @@ std::optional<SourceError> Parser::parse()
             break;
         takeToken();
     }
-    return m_error;
+    return m_outcome;
 }
 
 void Parser::takeToken()
@@ -124,31 +121,30 @@ void Parser::takeFirstArgument()
         return;
     case CallFamily::ErrorWithArguments:
     case CallFamily::MessageWithArguments:
-        // Whatever the argument is, the last string is taken for the tag, also one that stands before the
-        // call.
+        // Whatever the argument is, the tag is the last string, even if that is before the call.
         addCall(family, m_tokenizer.string(), m_state.macroLine);
         return;
     case CallFamily::Question:
     case CallFamily::QuestionWithArguments:
-        if (!isString || m_state.questions.size() == deepestQuestion)
+        if (!isString || m_state.questions.size() == maximumQuestions)
             return;
         m_state.questions.emplace_back(family, m_state.macroLine, m_tokenizer);
         return;
     }
 }
 
-// A token that ends a question's call is one of the call around it as well.
+// A token that ends a question's call also belongs to the call around it.
 void Parser::takeQuestionToken()
 {
-    const QuestionCall::Outcome outcome = m_state.questions.back().take(m_tokenizer);
-    if (outcome == QuestionCall::Outcome::GoesOn)
+    const QuestionCall::Progress progress = m_state.questions.back().take(m_tokenizer);
+    if (progress == QuestionCall::Progress::Continues)
         return;
     const QuestionCall question = m_state.questions.back();
     m_state.questions.pop_back();
     if (!m_state.questions.empty())
         takeQuestionToken();
 
-    const bool ended = outcome == QuestionCall::Outcome::Ends;
+    const bool ended = progress == QuestionCall::Progress::Ends;
     if (const std::optional<QString> tag = ended ? question.tag() : std::nullopt)
         addCall(question.family(), *tag, question.line());
     else
@@ -243,25 +239,26 @@ void Parser::resetHead()
     m_state.head.reset(scope().kind == ScopeKind::Class ? scope().name.last() : std::string_view());
 }
 
-// A tag that the message table cannot hold must not be lost unseen.
+// A tag or context that the message table cannot hold is an error, so that its message is not lost silently.
 void Parser::addCall(CallFamily family, const QString &tag, int line)
 {
     const QString context = m_state.inFunction ? currentContext() : QString();
-    if (!Clt::isXmlText(tag)) {
-        m_error = SourceError{QStringLiteral("Tag with a character that XML cannot carry"), line};
-        return;
-    }
-    if (!m_contextIsXml) {
-        m_error = SourceError{QStringLiteral("Context with a character that XML cannot carry"), line};
-        return;
-    }
-    m_calls.push_back({family, tag, context, line});
+    if (!Clt::isXmlText(tag))
+        return fail(u"Tag with a character that XML cannot carry"_s, line);
+    if (!m_contextIsXml)
+        return fail(u"Context with a character that XML cannot carry"_s, line);
+    m_calls.push_back({.family = family, .tag = tag, .context = context, .line = line});
     if (m_trace)
-        m_trace(QStringLiteral("Key %1 %2 %3").arg(context, tag, QString::number(line)));
+        m_trace(u"Key %1 %2 %3"_s.arg(context, tag, QString::number(line)));
 }
 
-// Of a function's qualified name the last name is the function and the one before it the class; names before
-// those are left out.
+void Parser::fail(const QString &message, int line)
+{
+    m_outcome = Nvx::Util::Failure{u"%1 (line %2)"_s.arg(message, QString::number(line))};
+}
+
+// The last part of a function's qualified name is the function, the one before it the class; the parts before
+// these are omitted.
 QString Parser::contextOf(std::uint32_t scope) const
 {
     QStringList names;
@@ -272,10 +269,10 @@ QString Parser::contextOf(std::uint32_t scope) const
         for (std::size_t part = name.count(); part > first; --part)
             names.prepend(joined(name[part - 1]));
     }
-    return names.join(QStringLiteral("::"));
+    return names.join(u"::"_s);
 }
 
-// The calls of one function follow each other.
+// Cached, because the calls of one function follow each other.
 const QString &Parser::currentContext()
 {
     if (m_contextScope != m_state.scope) {
@@ -291,13 +288,13 @@ QString Parser::textOf(const QualifiedName &name)
     QStringList names;
     for (std::size_t part = 0; part < name.count(); ++part)
         names.append(joined(name[part]));
-    return names.join(QStringLiteral("::"));
+    return names.join(u"::"_s);
 }
 
 void Parser::traceName(TokenKind kind, const QString &name) const
 {
     if (m_trace)
-        m_trace(QStringLiteral("%1 %2").arg(displayName(kind), name));
+        m_trace(u"%1 %2"_s.arg(displayName(kind), name));
 }
 
 void Parser::traceBrace() const
@@ -307,16 +304,15 @@ void Parser::traceBrace() const
     std::uint32_t depth = m_state.blockDepth - (m_state.inFunction ? 1 : 0);
     for (std::uint32_t index = m_state.scope; index != 0; index = m_scopes[index].outer)
         ++depth;
-    m_trace(QStringLiteral("%1 %2 depth=%3")
-                .arg(displayName(m_tokenizer.kind()), contextOf(m_state.scope), QString::number(depth)));
+    m_trace(u"%1 %2 depth=%3"_s.arg(displayName(m_tokenizer.kind()), contextOf(m_state.scope),
+                                    QString::number(depth)));
 }
 
 void Parser::traceUnknown()
 {
     if (m_trace)
-        m_trace(QStringLiteral("%1 %2 %3")
-                    .arg(QStringLiteral("UNKNOWN TOKEN"), displayName(m_tokenizer.kind()),
-                         QString::number(m_tokenizer.line())));
+        m_trace(u"%1 %2 %3"_s.arg(u"UNKNOWN TOKEN"_s, displayName(m_tokenizer.kind()),
+                                  QString::number(m_tokenizer.line())));
 }
 
 } // namespace Scan

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "nvx_util/result.h"
 #include "scanner/call.h"
 #include "scanner/declaration_head.h"
 #include "scanner/question_call.h"
-#include "scanner/source_tokenizer.h"
+#include "scanner/tokenizer.h"
 
 #include <QString>
 
@@ -14,37 +15,26 @@
 
 namespace Scan {
 
-/// Why a source text cannot be scanned.
-struct SourceError
-{
-    QString message;
-    int line = 0;
-
-    /// "MESSAGE (line LINE)".
-    QString text() const;
-};
-
-/// Walks the tokens of one source text and finds the calls of the reporting macros.
+/// Walks over the tokens of one source text and finds the calls of the reporting macros.
 ///
-/// All branches of a conditional directive are read; each begins with the scopes that were open before the
-/// first, and behind the conditional the scopes are those at the end of the first.
+/// All branches of a conditional directive are read. Each branch starts with the scopes that were open before
+/// the first branch; the text after the conditional continues with the scopes at the end of the first branch.
 class Parser
 {
 public:
     /// Receives trace lines such as "namespace NAME" and "LeftBrace CONTEXT depth=2".
     using Trace = std::function<void(const QString &)>;
 
-    /// The text, UTF-8 without a byte order mark, stays where it is while the parser lives.
+    /// The text is UTF-8 without a byte order mark, and must outlive the parser.
     explicit Parser(std::string_view text, Trace trace = {});
 
-    /// Reads the text as far as there are macro names in it. Nothing when it succeeds; at the first error
-    /// it stops.
-    std::optional<SourceError> parse();
+    /// Reads the text to its last macro name. Stops at the first error, "MESSAGE (line LINE)".
+    const Nvx::Util::Outcome &parse();
 
-    /// The calls, in the order of the text.
+    /// The calls, in the order of the text; after an error those before it.
     const std::vector<Call> &calls() const { return m_calls; }
 
-    /// The namespaces named in using-directives outside of functions, as far as the text was read.
+    /// The namespaces of the using-directives outside of functions in the part of the text that was read.
     const std::vector<QString> &usedNamespaces() const { return m_usedNamespaces; }
 
 private:
@@ -57,7 +47,7 @@ private:
         Function
     };
 
-    // Scopes are kept in a tree, so that a branch of a conditional can go back to an earlier one.
+    // The scopes form a tree, so that a branch of a conditional can return to an earlier one.
     struct Scope
     {
         ScopeKind kind = ScopeKind::Global;
@@ -65,7 +55,7 @@ private:
         QualifiedName name;
     };
 
-    // Where the parser is in a macro call.
+    // The part of a macro call that was read last.
     enum class Step : std::uint8_t
     {
         None,
@@ -73,18 +63,18 @@ private:
         Parenthesis
     };
 
-    // All that a conditional directive's branches have a version of each.
+    // The state that each branch of a conditional directive has its own copy of.
     struct State
     {
         std::uint32_t scope = 0;
-        std::uint32_t blockDepth = 0; // braces within a function's body or a block; 0 among declarations
+        std::uint32_t blockDepth = 0; // of braces in a function's body or a block; 0 among declarations
         bool inFunction = false;
-        std::uint32_t lastFunction = 0; // the scope of the last one that ended
+        std::uint32_t lastFunction = 0; // the scope of the last function that ended
         DeclarationHead head;
         Step step = Step::None;
         TokenKind macro = TokenKind::Other;
         int macroLine = 0;
-        std::vector<QuestionCall> questions; // open ones, each within the arguments of the one before
+        std::vector<QuestionCall> questions; // open calls, each within the arguments of the previous one
     };
 
     struct Conditional
@@ -108,6 +98,7 @@ private:
     const Scope &scope() const { return m_scopes[m_state.scope]; }
 
     void addCall(CallFamily family, const QString &tag, int line);
+    void fail(const QString &message, int line);
     QString contextOf(std::uint32_t scope) const;
     const QString &currentContext();
     static QString textOf(const QualifiedName &name);
@@ -119,13 +110,13 @@ private:
     Trace m_trace;
     State m_state;
     std::vector<Scope> m_scopes;
-    std::uint32_t m_contextScope = 0; // the one whose context is m_context
+    std::uint32_t m_contextScope = 0; // the scope of m_context
     QString m_context;
     bool m_contextIsXml = true;
     std::vector<Conditional> m_conditionals;
     std::vector<Call> m_calls;
     std::vector<QString> m_usedNamespaces;
-    std::optional<SourceError> m_error;
+    Nvx::Util::Outcome m_outcome = Nvx::Util::Done();
 };
 
 } // namespace Scan
