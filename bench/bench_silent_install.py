@@ -1,11 +1,11 @@
-"""A silent install beside the same external programs started from one batch file, on one Windows machine with
-CAD systems and archives of real size.
+"""Measures a silent install, compared with the same external programs started from one batch file, on a
+Windows machine with CAD systems and archives of realistic size.
 
     bench_silent_install.py BUILD_FOLDER
 
-BUILD_FOLDER is the Windows build; its targets installed_configuration and sample_product have been built.
-Prints the medians of five runs each, in turn: of an install, of its programs alone, and of an install over a
-running server; then where the time of an install goes, as its log grows.
+BUILD_FOLDER is the Windows build, with its targets installed_configuration and sample_product built. Prints
+the medians of five alternating runs: of an install, of only its programs, and of an install over a running
+server; then the parts of an install, according to its log.
 """
 
 import re
@@ -41,8 +41,8 @@ RUNS = 5
 
 
 def batch_file() -> str:
-    """The commands of an installation in their order. The service control manager, which starts the server
-    too, is no program; the batch file goes without it."""
+    """The commands of an installation in their order. The service control manager, which also starts the
+    server, is not a program, so the batch file does not call it."""
 
     def remove(folder):
         return f'cmd.exe /C ""C:\\remove.bat" "{folder}""'
@@ -91,7 +91,7 @@ def make_machine(build: Path) -> Machine:
 
 
 class Watcher(threading.Thread):
-    """Looks at a file until it is told to stop, and keeps what `look` makes of it each time."""
+    """Calls `look` repeatedly until the end of its block."""
 
     def __init__(self, look: Callable[[], None]) -> None:
         super().__init__()
@@ -113,7 +113,7 @@ class Watcher(threading.Thread):
 
 
 class Scripts:
-    """The scripts that an install has the Registry Editor import, which are gone when it is."""
+    """The scripts that an install passes to the Registry Editor, which it deletes afterwards."""
 
     def __init__(self, machine: Machine) -> None:
         self._path = machine.path(SCRIPT)
@@ -131,7 +131,7 @@ class Scripts:
 
 
 class LogTimes:
-    """The lines of a growing log, each with the time at which it was seen."""
+    """The lines of a growing log, each with the time at which it was found."""
 
     def __init__(self, machine: Machine) -> None:
         self._path = machine.path(LOG)
@@ -151,15 +151,15 @@ class LogTimes:
 
 
 def install(machine: Machine) -> None:
-    answer = machine.run(INSTALL_DIR + "\\NVXConfig.exe", "-I", "-S", "-Len-US", folder=INSTALL_DIR)
-    if answer.returncode != 0 or COMPLETE not in machine.log().splitlines()[-1]:
-        raise RuntimeError(f"the install did not come to its end: {answer.stdout!r}")
+    result = machine.run(INSTALL_DIR + "\\NVXConfig.exe", "-I", "-S", "-Len-US", folder=INSTALL_DIR)
+    if result.returncode != 0 or COMPLETE not in machine.log().splitlines()[-1]:
+        raise RuntimeError(f"the install did not complete: {result.stdout!r}")
 
 
 def run_batch(machine: Machine) -> None:
-    answer = machine.run("cmd.exe", "/C", "C:\\install.bat", folder=INSTALL_DIR)
-    if answer.returncode != 0 or answer.stdout.count(b"Everything is Ok") != 3:
-        raise RuntimeError(f"the batch file failed: {answer.stdout[-2000:]!r}")
+    result = machine.run("cmd.exe", "/C", "C:\\install.bat", folder=INSTALL_DIR)
+    if result.returncode != 0 or result.stdout.count(b"Everything is Ok") != 3:
+        raise RuntimeError(f"the batch file failed: {result.stdout[-2000:]!r}")
 
 
 def remove_server(machine: Machine) -> None:
@@ -176,7 +176,7 @@ def seconds(work: Callable[[Machine], None], machine: Machine) -> float:
 
 
 class Split:
-    """Where the time of one install went, in seconds."""
+    """The parts of the time of one install, in seconds."""
 
     def __init__(self, start: float, lines: list[tuple[float, str]], end: float) -> None:
         commands = [i for i, (_, line) in enumerate(lines) if "   0 Command:" in line]
@@ -192,7 +192,7 @@ class Split:
 
 
 def timed_install(machine: Machine) -> tuple[float, Split]:
-    """The seconds of an install, and how they split."""
+    """The duration of an install in seconds, and its parts."""
     times = LogTimes(machine)
     start = time.monotonic()
     with Watcher(times.look):
@@ -206,7 +206,7 @@ def warm_up(machine: Machine) -> None:
     with Watcher(scripts.look):
         install(machine)
     if len(scripts.found) != 2:
-        raise RuntimeError(f"not two scripts for the Registry Editor but {len(scripts.found)}")
+        raise RuntimeError(f"expected two scripts for the Registry Editor, found {len(scripts.found)}")
     for number, script in enumerate(scripts.found):
         machine.path(f"C:\\script{number}.reg").write_bytes(script)
     remove_server(machine)

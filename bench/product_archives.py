@@ -1,9 +1,9 @@
-"""Archives of a real product's size for the sample product, the same bytes each time.
+"""Archives for the sample product with the size of a real product's, always with the same bytes.
 
-    make_archives(folder)    answers the folders "tutorials", "python" and "mertle" by their archives' names
+    make_archives(folder)    creates them in the folder and returns their paths by their names
 
-Together they hold some 2,000 files of 80 MB: studies and modules that read like text, and results that hardly
-can be packed.
+Together they contain some 2,000 files of 80 MB: studies and modules that are text, and results that can
+hardly be compressed.
 """
 
 import random
@@ -11,7 +11,7 @@ import shutil
 import subprocess
 from pathlib import Path
 
-# What a component holds: how many files of text and of how many bytes each, then the same of binary ones.
+# The contents of an archive: the number of text files and the bytes of each, and the same of binary files.
 _CONTENTS = {
     "Examples.7z": {"folder": "Study %02d", "text": (400, 30_000), "binary": (80, 400_000)},
     "python26_x64.7z": {"folder": "Lib/package_%02d", "text": (1200, 9_000), "binary": (60, 150_000)},
@@ -22,7 +22,7 @@ _STAMP = "made-of"
 
 
 def make_archives(folder: str | Path) -> dict[str, Path]:
-    """{archive name: its path}; they are made once in the folder."""
+    """{archive name: its path}. The archives are created once in the folder."""
     folder = Path(folder)
     archives = {name: folder / name for name in _CONTENTS}
     stamp = folder / _STAMP
@@ -57,13 +57,13 @@ def _write_files(top, contents, chance):
 
 
 def _text(words, size, chance):
-    # Ten bytes a word at most on the average: never too few.
+    # A word has at most ten bytes on average, so there are always enough.
     lines = " ".join(chance.choices(words, k=size // 4)).encode()
     return b"\r\n".join(lines[at : at + 90] for at in range(0, size, 90))[:size]
 
 
 def _binary(_words, size, chance):
-    # Numbers of a grid: their first bytes hardly change, their last ones hold nothing but noise.
+    # Like the numbers of a grid: their first bytes hardly change, their last ones are noise.
     noise = chance.randbytes(size // 2)
     mixed = bytearray(size)
     mixed[0::2] = noise + bytes(size - size // 2 - len(noise))

@@ -1,9 +1,9 @@
-"""Puts what tools/bench measured into the documentation, in place of the figures there.
+"""Replaces the figures in the documentation with those that tools/bench measured.
 
     write_figures.py FOLDER DOCUMENT
 
-FOLDER holds the files "rows", "tables", "scale", "install" and "load" of one run. What stands before
-and after the two marks in the document stays.
+FOLDER contains the files "rows", "tables", "scale", "install" and "load" of one run. Only the text between
+the two marks in the document is replaced.
 """
 
 import datetime
@@ -20,14 +20,14 @@ END = "<!-- end of the figures -->"
 
 
 def first_line(*command: str) -> str:
-    answer = subprocess.run(
+    result = subprocess.run(
         command,
         stdout=subprocess.PIPE,
         stderr=subprocess.DEVNULL,
         env={**os.environ, "WINEDEBUG": "-all"},
         check=True,
     )
-    return answer.stdout.decode().splitlines()[0]
+    return result.stdout.decode().splitlines()[0]
 
 
 def value_in(file: str | Path, pattern: str) -> str:
@@ -50,7 +50,7 @@ def machine_lines(folder: Path) -> list[str]:
     facts = (
         ("Date", datetime.date.today().isoformat()),
         ("Processor", value_in("/proc/cpuinfo", r"^model name\s*: (.*)")),
-        ("Processors for us", str(len(os.sched_getaffinity(0)))),
+        ("Processors used", str(len(os.sched_getaffinity(0)))),
         ("Memory", f"{gigabytes:.0f} GB"),
         ("System", f"{system}, Linux {platform.release().partition('-')[0]}"),
         ("Compiler", first_line("c++", "--version")),
@@ -68,7 +68,7 @@ def held_lines(folder: Path) -> list[str]:
         wanted = f"{limit} times as fast" if comparison == "faster" else f"within {limit} times"
         times = (f"{float(ours):.1f}", f"{float(peers):.1f}")
         rows.append((work, peer, *times, ratio, wanted, held))
-    titles = ("Work", "Beside", "Ours, ms", "Peer, ms", "Ratio", "Wanted", "")
+    titles = ("Work", "Compared with", "Ours, ms", "Peer, ms", "Ratio", "Target", "")
     return table(titles, rows)
 
 
@@ -77,7 +77,7 @@ def numbers(line: str) -> list[float]:
 
 
 def scale_lines(folder: Path) -> list[str]:
-    """Nanoseconds an item. The messages' own program prints milliseconds for loading and saving."""
+    """Nanoseconds per item. The message tables' program prints milliseconds for loading and saving."""
     tables = {}
     for line in (folder / "tables").read_text().splitlines():
         if re.match(r"^ *\d+ ", line):
@@ -93,14 +93,14 @@ def scale_lines(folder: Path) -> list[str]:
         "Items",
         "load a message table",
         "save it",
-        "feed a translation table",
+        "update a translation table",
         "again",
         "file to file",
         "again",
         "scan macros, one thread",
-        "enter their keys into a table",
+        "add their keys to a table",
         "read material names",
-        "enter them into a table",
+        "add them to a table",
         "again",
     )
     return table(titles, rows)
@@ -119,7 +119,7 @@ def main(folder: Path, document: Path) -> None:
     figures = [
         *machine_lines(folder),
         "",
-        "In the rows that say so the unit is ns a message, not ms.",
+        "The unit is ms, or ns per message in the rows that say so.",
         "",
         *held_lines(folder),
         "",
