@@ -1,5 +1,5 @@
-// Whatever the file that stands for the registry holds, it is read, and what is then written can be read
-// back.
+// The file that substitutes for the registry can be read whatever it contains, and a value written to it can
+// be read again.
 
 #include "nvx_util/registry_key.h"
 

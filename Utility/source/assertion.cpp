@@ -26,7 +26,8 @@ AssertionListener::~AssertionListener()
 void reportAssertionFailure(const char *condition, const char *unit, int line)
 {
     if (innermost) {
-        innermost->m_receive({QString::fromUtf8(condition), QString::fromUtf8(unit), line});
+        innermost->m_receive(
+            {.condition = QString::fromUtf8(condition), .unit = QString::fromUtf8(unit), .line = line});
         return;
     }
     qCritical("Assertion failed: %s, %s, line %d", condition, unit, line);

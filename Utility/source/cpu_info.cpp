@@ -5,15 +5,18 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util {
 
 ProcessorCounts countProcessors(qint32 packages, qint32 cores, bool hyperThreading)
 {
-    ProcessorCounts counts;
-    counts.processors = std::max(packages, 1);
-    counts.coresPerProcessor = std::max(cores / counts.processors, 1);
-    counts.hyperThreading = hyperThreading;
-    return counts;
+    const qint32 processors = std::max(packages, 1);
+    return {
+        .processors = processors,
+        .coresPerProcessor = std::max(cores / processors, 1),
+        .hyperThreading = hyperThreading,
+    };
 }
 
 CpuInfo::CpuInfo(Log &log, const QString & /*productFolder*/)
@@ -21,8 +24,7 @@ CpuInfo::CpuInfo(Log &log, const QString & /*productFolder*/)
     if (const auto probed = Platform::probeProcessors())
         m_counts = *probed;
     else
-        log.append(
-            QStringLiteral("The processors could not be probed, one processor of one core is assumed"));
+        log.append(u"The processors could not be probed, one processor of one core is assumed"_s);
 }
 
 CpuInfo::CpuInfo(const ProcessorCounts &counts)

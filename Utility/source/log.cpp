@@ -1,5 +1,7 @@
 #include "nvx_util/log.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util {
 
 Log::Log(const QString &path)
@@ -19,8 +21,8 @@ void Log::append(const QString &text)
         return;
     QString line = text;
     // On Windows the file puts a carriage return before each "\n".
-    line.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    m_file.write((line + QLatin1Char('\n')).toUtf8());
+    line.replace("\r\n"_L1, "\n"_L1);
+    m_file.write((line + u'\n').toUtf8());
     m_file.flush();
 }
 

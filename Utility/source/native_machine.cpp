@@ -12,8 +12,8 @@ namespace Nvx::Util {
 
 namespace {
 
-// Adds what the program has written by now, as far as it is wanted. Everything is read: a program whose pipe
-// is full would wait for us.
+// Appends what the program has written so far, up to the limit. Everything is read, because a program blocks
+// when its pipe is full.
 void takeOutput(QProcess &process, qsizetype limit, QByteArray &output)
 {
     const QByteArray written = process.readAll();
@@ -86,7 +86,7 @@ ProgramResult NativeMachine::run(const ProgramCall &call)
     QObject::connect(&process, &QProcess::readyRead, &process, take);
 
     process.start(QIODevice::ReadWrite);
-    process.closeWriteChannel(); // a program that asks a question gets no answer rather than our patience
+    process.closeWriteChannel(); // a program that waits for input reads the end of the file at once
     waitForEnd(process, call.timeoutMs, result);
     if (result.outcome != ProgramResult::Outcome::NotStarted)
         take();

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the folders windows and unix each implement for the rest of this library.
+// The functions that the folders windows and unix each implement for the rest of this library.
 
 #include "nvx_util/machine.h"
 #include "nvx_util/processor_counts.h"
@@ -19,32 +19,32 @@ class ServiceControl;
 
 namespace Nvx::Util::Platform {
 
-/// The folder above the per-user data folders of programs.
+/// The parent folder of the programs' per-user data folders.
 QString userDataRoot();
 
-/// The folder above the data folders that all users share.
+/// The parent folder of the data folders shared by all users.
 QString allUsersDataRoot();
 
-/// The folder of the documents that all users share.
+/// The folder of the documents shared by all users.
 QString publicDocumentsRoot();
 
-/// What the operating system says of the processors; nothing when it does not answer.
+/// The processors reported by the operating system; std::nullopt if it reports none.
 std::optional<ProcessorCounts> probeProcessors();
 
 /// The whole command line of this process.
 QString commandLine();
 
-/// The full path of a program of the operating system, such as "cmd.exe" or "regedit"; empty when there
-/// is none.
+/// The full path of a program of the operating system, such as "cmd.exe" or "regedit"; empty if it does not
+/// exist.
 QString systemProgram(const QString &fileName);
 
-/// Hands the arguments of the call to the process, quoted as the call says.
+/// Passes the arguments of the call to the process, quoted as the call requires.
 void setArguments(QProcess &process, const ProgramCall &call);
 
-/// Sets the outcome and the exit code of a program that ended by itself.
+/// Sets the outcome and the exit code of a program that was not terminated by us.
 void setEnd(const QProcess &process, ProgramResult &result);
 
-/// Waits at most timeoutMs until there is no such process. It need not be a child of ours.
+/// Waits up to timeoutMs for a process to end. It need not be a child process.
 void waitForEnd(qint64 process, int timeoutMs);
 
 /// The processes of the machine.
@@ -57,22 +57,22 @@ QString commonDesktopFolder();
 
 void notifyAssociationsChanged();
 
-/// Makes a shell link; see Machine::createShellLink.
+/// Creates a shell link; see Machine::createShellLink.
 qint32 createShellLink(const ShellLink &link);
 
-/// Waits until the disk has what was written through the open descriptor. False when it could not take it.
+/// Waits until everything written through the open descriptor is on the disk. False if it cannot be written.
 bool flushToDisk(int descriptor);
 
-/// Gives a file another name in its folder. False, and nothing changed, when the name is taken.
+/// Renames a file within its folder. False, with nothing changed, if the new name is in use.
 bool renameToFreeName(const QString &from, const QString &to);
 
-/// Gives a file another name in its folder, in place of the file that has it. False, and nothing changed,
-/// when that file cannot be replaced.
+/// Renames a file within its folder, replacing a file with the new name. False, with nothing changed, if that
+/// file cannot be replaced.
 bool renameOver(const QString &from, const QString &to);
 
-/// Makes this process the one that writes a file, for as long as the answer lives. Null when there is no such
-/// file, or another process has claimed it. Where the system keeps an open file from being removed, that is
-/// all that is needed, and the answer is never null.
+/// Reserves a file for writing by this process during the lifetime of the result. Null if the file does not
+/// exist or another process has reserved it. Never null on a system that does not remove open files: no lock
+/// is needed there.
 std::shared_ptr<void> claimFile(const QString &path);
 
 } // namespace Nvx::Util::Platform

@@ -9,16 +9,18 @@
 #include <QDir>
 #include <QLocale>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util {
 
 namespace {
 
-const auto localeValue = QStringLiteral("Locale");
+const auto localeValue = u"Locale"_s;
 
 RegistryKey userSettings()
 {
-    return RegistryKey(QStringLiteral("HKEY_CURRENT_USER\\Software\\%1\\%2\\%3")
-                           .arg(Product::maker, Product::name, Product::version));
+    return RegistryKey(
+        u"HKEY_CURRENT_USER\\Software\\%1\\%2\\%3"_s.arg(Product::maker, Product::name, Product::version));
 }
 
 } // namespace
@@ -54,7 +56,7 @@ QString System::getWorkingDirPath()
 QString System::getTutorialsDirPath()
 {
     return joinPath(Platform::publicDocumentsRoot(),
-                    QStringLiteral("%1/%2/Tutorials").arg(Product::maker, Product::fullName));
+                    u"%1/%2/Tutorials"_s.arg(Product::maker, Product::fullName));
 }
 
 QString System::getFlagsDirPath()
@@ -93,16 +95,14 @@ QString System::getEnv(const QString &name)
 
 QString System::getProgramFilesPathFromRegistry(bool thirtyTwoBit)
 {
-    const RegistryKey windows(
-        QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion"));
-    const auto value =
-        thirtyTwoBit ? QStringLiteral("ProgramFilesDir (x86)") : QStringLiteral("ProgramFilesDir");
+    const RegistryKey windows(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion"_s);
+    const auto value = thirtyTwoBit ? u"ProgramFilesDir (x86)"_s : u"ProgramFilesDir"_s;
     return windows.text(value).value_or(QString());
 }
 
 QString supportedLocale(QString systemName)
 {
-    systemName.replace(QLatin1Char('_'), QLatin1Char('-'));
+    systemName.replace(u'_', u'-');
     return languageOf(systemName) ? systemName : QString(sourceLanguage.locale);
 }
 

@@ -6,17 +6,19 @@
 #include <QFile>
 #include <QTranslator>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util {
 
 namespace {
 
-QString toolkitFile(const QString &folder, const QString &locale)
+QString qtFile(const QString &folder, const QString &locale)
 {
-    QString whole = joinPath(folder, QStringLiteral("qt.qm"));
+    QString whole = joinPath(folder, u"qt.qm"_s);
     if (QFile::exists(whole))
         return whole;
-    const QString language = QString(locale).replace(QLatin1Char('-'), QLatin1Char('_'));
-    return joinPath(folder, QStringLiteral("qt_%1.qm").arg(language));
+    const QString language = QString(locale).replace(u'-', u'_');
+    return joinPath(folder, u"qt_%1.qm"_s.arg(language));
 }
 
 } // namespace
@@ -25,8 +27,8 @@ Translators::Translators(const QString &folder, const QString &locale, const QSt
 {
     const QString localeFolder = joinPath(folder, locale);
     for (const QString &catalogue : catalogues)
-        install(joinPath(localeFolder, catalogue + QStringLiteral(".qm")));
-    install(toolkitFile(localeFolder, locale));
+        install(joinPath(localeFolder, catalogue + u".qm"_s));
+    install(qtFile(localeFolder, locale));
 }
 
 Translators::~Translators()
@@ -35,7 +37,7 @@ Translators::~Translators()
         QCoreApplication::removeTranslator(translator.get());
 }
 
-// Asked for a file that is missing, a translator would try shorter names, outside the folder too.
+// For a missing file, QTranslator would try shorter names, also outside the folder.
 void Translators::install(const QString &file)
 {
     auto translator = std::make_unique<QTranslator>();

@@ -7,16 +7,18 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util {
 
 namespace {
 
 constexpr qint64 chunk = qint64{64} * 1024;
 
-// Beside a file of somebody else's only a name that nobody else gives is ours to clear away.
+// The suffix is unique to this program, so a leftover next to another program's file is safe to delete.
 QString partOf(const QString &fileName)
 {
-    return fileName + QStringLiteral(".nvxpart");
+    return fileName + u".nvxpart"_s;
 }
 
 bool hasContents(const QString &fileName, const QByteArray &contents)
@@ -33,16 +35,16 @@ bool hasContents(const QString &fileName, const QByteArray &contents)
     return true;
 }
 
-// A part that another process is writing is none: on Unix that process has claimed it, on Windows a file that
-// is open cannot be removed.
-void removeLeftPart(const QString &part)
+// A part that another process is writing stays: on Unix that process has locked it, on Windows an open file
+// cannot be removed.
+void removeLeftover(const QString &part)
 {
     if (QFile::exists(part) && Platform::claimFile(part))
         QFile::remove(part);
 }
 
-/// The file that is written beside the one to come, and gets its name when it is whole. It goes when it was
-/// not renamed. Its name is always the same one, so that what a crash leaves is found again.
+/// The file that is written next to the real one, and renamed to it when it is complete. Otherwise it is
+/// removed. Its name is always the same, so that a leftover of a crash is found.
 class PartFile
 {
 public:
@@ -60,10 +62,10 @@ public:
             QFile::remove(m_name);
     }
 
-    /// False when it cannot be made, or another process is writing it.
+    /// False if it cannot be created or another process is writing it.
     bool create()
     {
-        removeLeftPart(m_name);
+        removeLeftover(m_name);
         if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
             m_claim = Platform::claimFile(m_name);
         return m_claim != nullptr;
@@ -71,7 +73,7 @@ public:
 
     bool write(QByteArrayView bytes) { return m_file.write(bytes.data(), bytes.size()) == bytes.size(); }
 
-    /// Puts all of it on the disk and gives it its name.
+    /// Flushes it to the disk and renames it.
     bool finish(bool (*rename)(const QString &, const QString &), const QString &fileName)
     {
         if (!m_file.flush() || !Platform::flushToDisk(m_file.handle()))
@@ -103,14 +105,14 @@ bool copyAll(QFile &source, PartFile &target)
     }
 }
 
-constexpr int mostLinks = 40;
+constexpr int maximumLinks = 40;
 
-// The file that a name stands for, which need not exist; links that lead in a circle stand for none.
-QString behindLinks(const QString &fileName)
+// The file that a name refers to through symbolic links; it need not exist. Empty if the links form a cycle.
+QString resolveLinks(const QString &fileName)
 {
     QFileInfo file(fileName);
     for (int link = 0; file.isSymLink(); ++link) {
-        if (link == mostLinks)
+        if (link == maximumLinks)
             return QString();
         file.setFile(file.symLinkTarget());
     }
@@ -132,11 +134,11 @@ std::optional<QByteArray> readWholeFile(const QString &fileName)
 
 bool replaceWholeFile(const QString &fileName, const QByteArray &contents)
 {
-    const QString name = behindLinks(fileName);
+    const QString name = resolveLinks(fileName);
     if (name.isEmpty())
         return false;
     if (hasContents(name, contents)) {
-        removeLeftPart(partOf(name));
+        removeLeftover(partOf(name));
         return true;
     }
     const QFileInfo old(name);
@@ -161,7 +163,7 @@ bool copyToFreeName(const QString &source, const QString &target)
 
 void removeUnfinished(const QString &fileName)
 {
-    removeLeftPart(partOf(fileName));
+    removeLeftover(partOf(fileName));
 }
 
 } // namespace Nvx::Util

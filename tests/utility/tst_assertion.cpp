@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::AssertionFailure;
 using Nvx::Util::AssertionListener;
 
@@ -19,31 +20,30 @@ private slots:
         QCOMPARE(reports, 0);
     }
 
-    void aFailureNamesConditionUnitAndLineAndExecutionGoesOn()
+    void aFailureIsReportedAndExecutionContinues()
     {
         AssertionFailure received;
         const AssertionListener listener([&](const AssertionFailure &failure) { received = failure; });
         const int line = __LINE__ + 1;
         NVX_ASSERT(1 + 1 == 3, "tst_assertion");
-        QCOMPARE(received.condition, QStringLiteral("1 + 1 == 3"));
-        QCOMPARE(received.unit, QStringLiteral("tst_assertion"));
+        QCOMPARE(received.condition, u"1 + 1 == 3"_s);
+        QCOMPARE(received.unit, u"tst_assertion"_s);
         QCOMPARE(received.line, line);
     }
 
-    void theInnermostListenerReceivesAndTheOuterOneAgainAfterIt()
+    void theInnermostListenerReceivesTheFailure()
     {
         QStringList received;
-        const AssertionListener outer([&](const AssertionFailure &) { received << QStringLiteral("outer"); });
+        const AssertionListener outer([&](const AssertionFailure &) { received << u"outer"_s; });
         {
-            const AssertionListener inner(
-                [&](const AssertionFailure &) { received << QStringLiteral("inner"); });
+            const AssertionListener inner([&](const AssertionFailure &) { received << u"inner"_s; });
             NVX_ASSERT(false, "tst_assertion");
         }
         NVX_ASSERT(false, "tst_assertion");
-        QCOMPARE(received, QStringList({QStringLiteral("inner"), QStringLiteral("outer")}));
+        QCOMPARE(received, QStringList({u"inner"_s, u"outer"_s}));
     }
 
-    void withoutAListenerTheFailureIsAMessageOfTheApplication()
+    void withoutAListenerTheFailureIsWrittenToTheMessageOutput()
     {
         QTest::ignoreMessage(QtCriticalMsg, "Assertion failed: a > b, here, line 7");
         Nvx::Util::reportAssertionFailure("a > b", "here", 7);

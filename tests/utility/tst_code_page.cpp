@@ -4,6 +4,7 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using namespace Nvx::Util;
 
 class tst_code_page : public QObject
@@ -13,42 +14,42 @@ class tst_code_page : public QObject
 private slots:
     void plainTextIsTheSameInEveryCodePage()
     {
-        const QString text = QStringLiteral("rmdir /s /q \"C:\\NVX 2017\"");
+        const QString text = u"rmdir /s /q \"C:\\NVX 2017\""_s;
         QCOMPARE(toAnsi(text).value(), text.toLatin1());
         QCOMPARE(toOem(text).value(), text.toLatin1());
         QCOMPARE(fromOem(text.toLatin1()), text);
     }
 
-    void anEmptyTextIsNoBytes()
+    void anEmptyStringHasNoBytes()
     {
         QCOMPARE(toAnsi(QString()).value(), QByteArray());
         QCOMPARE(toOem(QString()).value(), QByteArray());
         QCOMPARE(fromOem(QByteArray()), QString());
     }
 
-    void aGermanTextComesBackFromTheOemCodePage()
+    void aGermanStringSurvivesTheOemCodePage()
     {
-        const QString text = QStringLiteral("C:\\Größe");
+        const QString text = u"C:\\Größe"_s;
         QCOMPARE(fromOem(toOem(text).value()), text);
     }
 
-    void aCharacterThatNoCodePageHasIsRefusedRatherThanReplaced()
+    void aCharacterOutsideTheCodePageIsAnError()
     {
         const QString brokenSurrogate(QChar(0xD800));
         QVERIFY(!toAnsi(brokenSurrogate).has_value());
         QVERIFY(!toOem(brokenSurrogate).has_value());
     }
 
-    void bytesThatAreNoTextStillGiveText()
+    void invalidBytesBecomeReplacementCharacters()
     {
         const QString text = fromOem(QByteArray("a\xFF\xFE\x80z"));
-        QVERIFY(text.startsWith(QLatin1Char('a')));
-        QVERIFY(text.endsWith(QLatin1Char('z')));
+        QVERIFY(text.startsWith(u'a'));
+        QVERIFY(text.endsWith(u'z'));
     }
 
-    void standardStringsHoldTheAnsiCodePage()
+    void standardStringsAreInTheAnsiCodePage()
     {
-        const QString text = QStringLiteral("C:\\Größe");
+        const QString text = u"C:\\Größe"_s;
         QCOMPARE(QByteArray::fromStdString(toStdString(text)), toAnsi(text).value());
         QCOMPARE(toQString(toStdString(text)), text);
     }

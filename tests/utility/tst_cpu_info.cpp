@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QThread>
 
+using namespace Qt::Literals::StringLiterals;
 using namespace Nvx::Util;
 
 class tst_cpu_info : public QObject
@@ -38,19 +39,18 @@ private slots:
         QVERIFY(counts.hyperThreading);
     }
 
-    void thisMachineIsCountedWithinItsThreads()
+    void theCountsOfThisMachineFitItsThreads()
     {
         const TestFolder folder;
-        Log log(folder.path(QStringLiteral("a.log")));
+        Log log(folder.path(u"a.log"_s));
         QVERIFY(log.open(true));
         const CpuInfo info(log, folder.path());
         QVERIFY(info.processorCount() >= 1);
         QVERIFY(info.coresPerProcessor() >= 1);
         const int cores = info.processorCount() * info.coresPerProcessor();
         const int threads = QThread::idealThreadCount();
-        QVERIFY2(cores <= threads,
-                 qPrintable(QStringLiteral("%1 cores, %2 threads").arg(cores).arg(threads)));
-        QCOMPARE(readFile(folder.path(QStringLiteral("a.log"))), QByteArray());
+        QVERIFY2(cores <= threads, qPrintable(u"%1 cores, %2 threads"_s.arg(cores).arg(threads)));
+        QCOMPARE(readFile(folder.path(u"a.log"_s)), QByteArray());
     }
 };
 

@@ -32,7 +32,7 @@ private slots:
     }
 
 private:
-    // What the script prints; empty if it fails.
+    // The output of the script; empty if it fails.
     static QString printed(const QStringList &arguments)
     {
         QProcess script;

@@ -4,6 +4,7 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::Log;
 
 namespace {
@@ -20,34 +21,34 @@ class tst_log : public QObject
     Q_OBJECT
 
 private slots:
-    void aLineIsOnTheDiskAsSoonAsItIsAppended()
+    void aLineIsInTheFileWhenAppendReturns()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("a.log"));
+        const QString path = folder.path(u"a.log"_s);
         Log log(path);
         QVERIFY(log.open(true));
-        log.append(QStringLiteral("first"));
+        log.append(u"first"_s);
         QCOMPARE(withoutReturns(readFile(path)), QByteArray("first\n"));
     }
 
     void textIsWrittenInUtf8()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("a.log"));
+        const QString path = folder.path(u"a.log"_s);
         Log log(path);
         QVERIFY(log.open(true));
-        log.append(QStringLiteral("Größe 日本"));
+        log.append(u"Größe 日本"_s);
         QCOMPARE(withoutReturns(readFile(path)), QByteArray("Gr\xC3\xB6\xC3\x9F"
                                                             "e \xE6\x97\xA5\xE6\x9C\xAC\n"));
     }
 
-    void lineBreaksOfATextAreThoseOfTheMachineWhicheverItHas()
+    void lineBreaksBecomeThoseOfTheSystem()
     {
         const TestFolder folder;
-        const QString one = folder.path(QStringLiteral("one.log"));
-        const QString other = folder.path(QStringLiteral("other.log"));
-        for (const auto &[path, text] : {std::pair(one, QStringLiteral("first\nsecond\n\n")),
-                                         std::pair(other, QStringLiteral("first\r\nsecond\r\n\r\n"))}) {
+        const QString one = folder.path(u"one.log"_s);
+        const QString other = folder.path(u"other.log"_s);
+        for (const auto &[path, text] :
+             {std::pair(one, u"first\nsecond\n\n"_s), std::pair(other, u"first\r\nsecond\r\n\r\n"_s)}) {
             Log log(path);
             QVERIFY(log.open(true));
             log.append(text);
@@ -56,48 +57,48 @@ private slots:
         QCOMPARE(readFile(other), readFile(one));
     }
 
-    void openingToAppendKeepsWhatIsThere()
+    void openingToAppendPreservesTheContents()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("a.log"));
+        const QString path = folder.path(u"a.log"_s);
         writeFile(path, "old\n");
         Log log(path);
         QVERIFY(log.open(true));
-        log.append(QStringLiteral("new"));
+        log.append(u"new"_s);
         QCOMPARE(withoutReturns(readFile(path)), QByteArray("old\nnew\n"));
     }
 
-    void openingAnewDropsWhatIsThere()
+    void openingWithoutAppendDiscardsTheContents()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("a.log"));
+        const QString path = folder.path(u"a.log"_s);
         writeFile(path, "old\n");
         Log log(path);
         QVERIFY(log.open(false));
-        log.append(QStringLiteral("new"));
+        log.append(u"new"_s);
         QCOMPARE(withoutReturns(readFile(path)), QByteArray("new\n"));
     }
 
     void aLogThatCannotBeOpenedDropsItsLines()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("a.log"));
-        QVERIFY(QDir().mkdir(path)); // a folder of that name is in the way
+        const QString path = folder.path(u"a.log"_s);
+        QVERIFY(QDir().mkdir(path)); // a folder has the name of the log
         Log log(path);
         QVERIFY(!log.open(true));
-        log.append(QStringLiteral("dropped"));
+        log.append(u"dropped"_s);
         QVERIFY(QDir(path).isEmpty());
     }
 
     void aClosedLogDropsItsLines()
     {
         const TestFolder folder;
-        const QString path = folder.path(QStringLiteral("a.log"));
+        const QString path = folder.path(u"a.log"_s);
         Log log(path);
         QVERIFY(log.open(true));
-        log.append(QStringLiteral("kept"));
+        log.append(u"kept"_s);
         log.close();
-        log.append(QStringLiteral("dropped"));
+        log.append(u"dropped"_s);
         QCOMPARE(withoutReturns(readFile(path)), QByteArray("kept\n"));
     }
 };

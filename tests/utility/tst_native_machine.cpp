@@ -12,20 +12,20 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
 using namespace Nvx::Util;
 using Outcome = ProgramResult::Outcome;
 
 namespace {
 
-// A copy of the scripted tool with orders of its own.
-QString toolWith(const TestFolder &folder, const QByteArray &orders,
-                 const QString &name = QStringLiteral("tool.exe"))
+// A copy of the scripted tool with its own orders.
+QString toolWith(const TestFolder &folder, const QByteArray &orders, const QString &name = u"tool.exe"_s)
 {
     const QString tool = folder.path(name);
     QDir().mkpath(QFileInfo(tool).path());
     if (!QFile::copy(QStringLiteral(SCRIPTED_TOOL), tool))
         qFatal("cannot copy the scripted tool");
-    writeFile(tool + QStringLiteral(".script"), orders);
+    writeFile(tool + u".script"_s, orders);
     return tool;
 }
 
@@ -43,15 +43,15 @@ QByteArray withoutReturns(QByteArray bytes)
     return bytes.replace("\r\n", "\n");
 }
 
-// The path of a program, of that many characters.
+// The path of a program with the given number of characters.
 QString programOf(int length)
 {
-    const QString beginning = QStringLiteral("C:\\");
-    const QString end = QStringLiteral("\\NVX.exe");
-    return beginning + QString(length - beginning.size() - end.size(), QLatin1Char('x')) + end;
+    const QString beginning = u"C:\\"_s;
+    const QString end = u"\\NVX.exe"_s;
+    return beginning + QString(length - beginning.size() - end.size(), u'x') + end;
 }
 
-// Clicks a button of the box that comes up next.
+// Clicks a button of the next message box.
 void answerNextBox(QMessageBox::StandardButton button)
 {
     QTimer::singleShot(0, qApp, [button] {
@@ -75,7 +75,7 @@ private slots:
     void init() { m_folder = std::make_unique<TestFolder>(); }
     void cleanup() { m_folder.reset(); }
 
-    void anExitCodeIsAnsweredAsTheProgramGaveIt_data()
+    void theExitCodeIsThatOfTheProgram_data()
     {
         QTest::addColumn<QByteArray>("orders");
         QTest::addColumn<int>("exitCode");
@@ -84,7 +84,7 @@ private slots:
         QTest::newRow("255") << QByteArray("exit 255") << 255;
     }
 
-    void anExitCodeIsAnsweredAsTheProgramGaveIt()
+    void theExitCodeIsThatOfTheProgram()
     {
         QFETCH(QByteArray, orders);
         const ProgramResult result = m_machine.run(callOf(toolWith(*m_folder, orders)));
@@ -101,8 +101,7 @@ private slots:
 
     void anArgumentWithBlanksOrQuotesArrivesAsOne()
     {
-        const QStringList arguments{QStringLiteral("x"), QStringLiteral("C:\\a b\\"),
-                                    QStringLiteral("say \"so\""), QString()};
+        const QStringList arguments{u"x"_s, u"C:\\a b\\"_s, u"say \"so\""_s, QString()};
         const QString tool = toolWith(*m_folder, "arguments");
         const ProgramResult result = m_machine.run(callOf(tool, arguments));
         QCOMPARE(withoutReturns(result.output), QByteArray("x\nC:\\a b\\\nsay \"so\"\n\n"));
@@ -111,33 +110,33 @@ private slots:
     void theProgramRunsInItsWorkFolder()
     {
         ProgramCall call = callOf(toolWith(*m_folder, "mark here"));
-        call.workFolder = m_folder->path(QStringLiteral("work folder"));
+        call.workFolder = m_folder->path(u"work folder"_s);
         QVERIFY(QDir().mkdir(call.workFolder));
         m_machine.run(call);
-        QVERIFY(QFile::exists(m_folder->path(QStringLiteral("work folder/here"))));
+        QVERIFY(QFile::exists(m_folder->path(u"work folder/here"_s)));
     }
 
-    void aProgramInAFolderWithANameOfAnyAlphabetIsStarted()
+    void aProgramInAFolderWithANonLatinNameIsStarted()
     {
-        const QString tool = toolWith(*m_folder, "exit 7", QStringLiteral("Größe (x86) & more/tool.exe"));
+        const QString tool = toolWith(*m_folder, "exit 7", u"Größe (x86) & more/tool.exe"_s);
         QCOMPARE(m_machine.run(callOf(tool)).exitCode, 7);
     }
 
     void aProgramThatIsMissingIsNotStarted()
     {
-        const ProgramResult result = m_machine.run(callOf(m_folder->path(QStringLiteral("missing.exe"))));
+        const ProgramResult result = m_machine.run(callOf(m_folder->path(u"missing.exe"_s)));
         QVERIFY(result.outcome == Outcome::NotStarted);
         QCOMPARE(result.output, QByteArray());
     }
 
-    void aFileThatIsNoProgramIsNotStarted()
+    void aFileThatIsNotAProgramIsNotStarted()
     {
-        const QString path = m_folder->path(QStringLiteral("text.exe"));
+        const QString path = m_folder->path(u"text.exe"_s);
         writeFile(path, "no program");
         QVERIFY(m_machine.run(callOf(path)).outcome == Outcome::NotStarted);
     }
 
-    void aProgramThatHangsIsEndedAtTheTimeOut()
+    void aProgramThatHangsIsTerminatedAtTheTimeOut()
     {
         ProgramCall call = callOf(toolWith(*m_folder, "line before\nsleep 60000\nmark after"));
         call.timeoutMs = 1000;
@@ -148,10 +147,10 @@ private slots:
         QCOMPARE(withoutReturns(result.output), QByteArray("before\n"));
         QVERIFY(timer.elapsed() >= 900);
         QVERIFY(timer.elapsed() < 20000);
-        // It is really gone: its own copy on the disk can be removed, which a running program prevents on
-        // Windows, and nothing was marked.
+        // The process has ended: its executable can be removed, which Windows does not allow for a running
+        // program, and it has not written its mark.
         QTRY_VERIFY(!QFile::exists(call.program) || QFile::remove(call.program));
-        QVERIFY(!QFile::exists(m_folder->path(QStringLiteral("after"))));
+        QVERIFY(!QFile::exists(m_folder->path(u"after"_s)));
     }
 
     void aProgramThatCrashesHasAnExitCodeOtherThan0()
@@ -162,7 +161,7 @@ private slots:
         QVERIFY(result.output.startsWith("last words"));
     }
 
-    void aProgramThatAsksAQuestionReadsAnEndAtOnce()
+    void aProgramThatWaitsForInputReadsTheEndOfTheFile()
     {
         ProgramCall call = callOf(toolWith(*m_folder, "read"));
         call.timeoutMs = 20000;
@@ -171,7 +170,7 @@ private slots:
         QCOMPARE(withoutReturns(result.output), QByteArray("read 0\n"));
     }
 
-    void outputBeyondTheLimitIsReadAndDropped()
+    void outputBeyondTheLimitIsReadAndDiscarded()
     {
         ProgramCall call = callOf(toolWith(*m_folder, "bytes 3000000\nexit 3"));
         call.outputLimit = 100;
@@ -180,47 +179,47 @@ private slots:
         QCOMPARE(result.output, QByteArray(100, 'x'));
     }
 
-    void withoutALimitEveryByteIsKept()
+    void withoutALimitAllOutputIsReturned()
     {
         const ProgramResult result = m_machine.run(callOf(toolWith(*m_folder, "bytes 1000000")));
         QCOMPARE(withoutReturns(result.output).size(), 1000001);
     }
 
-    void aSystemProgramThatDoesNotExistIsNotStartedFromAnywhereElse_data()
+    void aMissingSystemProgramIsNotSearchedElsewhere_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("with its suffix") << QStringLiteral("tool.exe");
-        QTest::newRow("without its suffix") << QStringLiteral("tool");
+        QTest::newRow("with its suffix") << u"tool.exe"_s;
+        QTest::newRow("without its suffix") << u"tool"_s;
     }
 
-    void aSystemProgramThatDoesNotExistIsNotStartedFromAnywhereElse()
+    void aMissingSystemProgramIsNotSearchedElsewhere()
     {
         QFETCH(const QString, name);
-        // Its name fits a program that could be found in the work folder.
+        // A program with this name is in the work folder.
         toolWith(*m_folder, "mark started");
         ProgramCall call = callOf(name);
         call.place = ProgramCall::Place::SystemFolder;
         call.workFolder = m_folder->path();
         QVERIFY(m_machine.run(call).outcome == Outcome::NotStarted);
-        QVERIFY(!QFile::exists(m_folder->path(QStringLiteral("started"))));
+        QVERIFY(!QFile::exists(m_folder->path(u"started"_s)));
     }
 
-    void aDetachedProgramGetsItsArgumentsAndLivesOn()
+    void aDetachedProgramGetsItsArgumentsAndContinues()
     {
-        const QString lived = m_folder->path(QStringLiteral("lived"));
+        const QString lived = m_folder->path(u"lived"_s);
         const QString tool = toolWith(*m_folder, "record\nsleep 1500\nmark " + lived.toLocal8Bit());
-        const QStringList arguments{QStringLiteral("http://host/?a&b=%20^|'x'"), QStringLiteral("C:\\a b\\"),
-                                    QStringLiteral("say \"so\""), QString()};
+        const QStringList arguments{u"http://host/?a&b=%20^|'x'"_s, u"C:\\a b\\"_s, u"say \"so\""_s,
+                                    QString()};
         QVERIFY(m_machine.startDetached(tool, arguments, 0));
         QVERIFY(!QFile::exists(lived));
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(lived), 20000);
-        QCOMPARE(withoutReturns(readFile(tool + QStringLiteral(".arguments"))),
-                 arguments.join(QLatin1Char('\n')).toLocal8Bit() + '\n');
+        QCOMPARE(withoutReturns(readFile(tool + u".arguments"_s)),
+                 arguments.join(u'\n').toLocal8Bit() + '\n');
     }
 
     void theEndOfADetachedProgramIsWaitedFor()
     {
-        const QString lived = m_folder->path(QStringLiteral("lived"));
+        const QString lived = m_folder->path(u"lived"_s);
         const QString tool = toolWith(*m_folder, "sleep 500\nmark " + lived.toLocal8Bit());
         QElapsedTimer timer;
         timer.start();
@@ -231,7 +230,7 @@ private slots:
 
     void aDetachedProgramThatTakesTooLongIsLeftAlone()
     {
-        const QString lived = m_folder->path(QStringLiteral("lived"));
+        const QString lived = m_folder->path(u"lived"_s);
         const QString tool = toolWith(*m_folder, "sleep 2000\nmark " + lived.toLocal8Bit());
         QVERIFY(m_machine.startDetached(tool, {}, 200));
         QVERIFY(!QFile::exists(lived));
@@ -240,13 +239,13 @@ private slots:
 
     void aDetachedProgramThatIsMissingIsNotStarted()
     {
-        QVERIFY(!m_machine.startDetached(m_folder->path(QStringLiteral("missing.exe")), {}, 1000));
+        QVERIFY(!m_machine.startDetached(m_folder->path(u"missing.exe"_s), {}, 1000));
     }
 
-    void theCommandLineHoldsTheProgramAndItsArguments()
+    void theCommandLineContainsTheProgramAndItsArguments()
     {
         const QString commandLine = m_machine.commandLine();
-        QVERIFY2(commandLine.contains(QLatin1String("tst_native_machine")), qPrintable(commandLine));
+        QVERIFY2(commandLine.contains("tst_native_machine"_L1), qPrintable(commandLine));
     }
 
     void theExecutableFolderIsTheOneOfThisProgram()
@@ -255,7 +254,7 @@ private slots:
                  QDir::toNativeSeparators(QCoreApplication::applicationDirPath()));
     }
 
-    void timePassesAsLongAsItWasSaid()
+    void sleepWaitsForTheGivenTime()
     {
         QElapsedTimer timer;
         timer.start();
@@ -266,11 +265,11 @@ private slots:
     void aProcessVariableIsSetForThisProcess()
     {
         QVERIFY(m_machine.setProcessVariable("NVX_TEST_VARIABLE", "C:\\NVX 2017"));
-        QCOMPARE(qEnvironmentVariable("NVX_TEST_VARIABLE"), QStringLiteral("C:\\NVX 2017"));
+        QCOMPARE(qEnvironmentVariable("NVX_TEST_VARIABLE"), u"C:\\NVX 2017"_s);
         qunsetenv("NVX_TEST_VARIABLE");
     }
 
-    void theAnswerOfAQuestionIsTheButton_data()
+    void askReturnsTheButton_data()
     {
         QTest::addColumn<int>("button");
         QTest::addColumn<int>("expected");
@@ -279,16 +278,15 @@ private slots:
         QTest::newRow("closed") << int(QMessageBox::NoButton) << int(Answer::Dismissed);
     }
 
-    void theAnswerOfAQuestionIsTheButton()
+    void askReturnsTheButton()
     {
         QFETCH(int, button);
         answerNextBox(static_cast<QMessageBox::StandardButton>(button));
-        const Answer answer =
-            m_machine.ask(BoxKind::Warning, QStringLiteral("Title"), QStringLiteral("Text?"));
+        const Answer answer = m_machine.ask(BoxKind::Warning, u"Title"_s, u"Text?"_s);
         QTEST(static_cast<int>(answer), "expected");
     }
 
-    void aBoxShowsItsTextAndKindAndYesIsTheDefaultUnlessTheAnswerIsOpen_data()
+    void aMessageBoxShowsItsTextAndKindAndYesIsTheDefaultExceptInAQuestion_data()
     {
         QTest::addColumn<int>("kind");
         QTest::addColumn<int>("expectedIcon");
@@ -299,7 +297,7 @@ private slots:
         QTest::newRow("question") << int(BoxKind::Question) << int(QMessageBox::Question) << false;
     }
 
-    void aBoxShowsItsTextAndKindAndYesIsTheDefaultUnlessTheAnswerIsOpen()
+    void aMessageBoxShowsItsTextAndKindAndYesIsTheDefaultExceptInAQuestion()
     {
         QFETCH(int, kind);
         QFETCH(bool, yesIsExpected);
@@ -316,26 +314,26 @@ private slots:
             anyIsDefault = box->defaultButton() != nullptr;
             box->reject();
         });
-        m_machine.ask(static_cast<BoxKind>(kind), QStringLiteral("Title"), QStringLiteral("Text?"));
-        QCOMPARE(title, QStringLiteral("Title"));
-        QCOMPARE(text, QStringLiteral("Text?"));
+        m_machine.ask(static_cast<BoxKind>(kind), u"Title"_s, u"Text?"_s);
+        QCOMPARE(title, u"Title"_s);
+        QCOMPARE(text, u"Text?"_s);
         QTEST(static_cast<int>(icon), "expectedIcon");
         QCOMPARE(yesIsDefault, yesIsExpected);
         QCOMPARE(anyIsDefault, yesIsExpected);
     }
 
-    void aShellLinkIsThereExactlyWhenTheAnswerSaysSo_data()
+    void aShellLinkExistsIfTheResultIsSuccess_data()
     {
         QTest::addColumn<QString>("linkPath");
         QTest::addColumn<QString>("target");
-        const QString program = QStringLiteral("C:\\NVX\\NVX.exe");
-        QTest::newRow("usual") << QStringLiteral("a b.lnk") << program;
-        QTest::newRow("umlauts") << QStringLiteral("Größe.lnk") << QStringLiteral("C:\\Größe\\NVX.exe");
-        QTest::newRow("a folder that is missing") << QStringLiteral("missing/a.lnk") << program;
-        QTest::newRow("a target of 259 characters") << QStringLiteral("long.lnk") << programOf(259);
+        const QString program = u"C:\\NVX\\NVX.exe"_s;
+        QTest::newRow("usual") << u"a b.lnk"_s << program;
+        QTest::newRow("umlauts") << u"Größe.lnk"_s << u"C:\\Größe\\NVX.exe"_s;
+        QTest::newRow("a folder that is missing") << u"missing/a.lnk"_s << program;
+        QTest::newRow("a target of 259 characters") << u"long.lnk"_s << programOf(259);
     }
 
-    void aShellLinkIsThereExactlyWhenTheAnswerSaysSo()
+    void aShellLinkExistsIfTheResultIsSuccess()
     {
         QFETCH(QString, linkPath);
         QFETCH(QString, target);
@@ -346,17 +344,16 @@ private slots:
         QCOMPARE(namesIn(m_folder->path()), result == 0 ? QStringList(linkPath) : QStringList());
     }
 
-    void aShellLinkWithATextThatIsTooLongIsNotMade_data()
+    void aShellLinkWithATooLongStringIsNotCreated_data()
     {
         QTest::addColumn<QString>("linkPath");
         QTest::addColumn<QString>("target");
-        QTest::newRow("a target of 260 characters") << QStringLiteral("a.lnk") << programOf(260);
-        QTest::newRow("a target of 100,000 characters") << QStringLiteral("a.lnk") << programOf(100000);
-        QTest::newRow("a link path of more than 260")
-            << QString(260, QLatin1Char('x')) + QStringLiteral(".lnk") << programOf(20);
+        QTest::newRow("a target of 260 characters") << u"a.lnk"_s << programOf(260);
+        QTest::newRow("a target of 100,000 characters") << u"a.lnk"_s << programOf(100000);
+        QTest::newRow("a link path of more than 260") << QString(260, u'x') + u".lnk"_s << programOf(20);
     }
 
-    void aShellLinkWithATextThatIsTooLongIsNotMade()
+    void aShellLinkWithATooLongStringIsNotCreated()
     {
         QFETCH(QString, linkPath);
         QFETCH(QString, target);
@@ -376,7 +373,7 @@ private slots:
             if (box)
                 box->button(QMessageBox::Ok)->click();
         });
-        m_machine.tell(BoxKind::Information, QStringLiteral("Title"), QStringLiteral("Text"));
+        m_machine.tell(BoxKind::Information, u"Title"_s, u"Text"_s);
         QVERIFY(isModal);
     }
 

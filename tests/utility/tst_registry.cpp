@@ -8,14 +8,15 @@
 #include <array>
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::Registry;
 using Nvx::Util::RegistryKey;
 
 namespace {
 
-const QString scratch = QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\Test scratch");
-const QString translators = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Kelvane\\Translators");
-const QString folderValue = QStringLiteral("Folder");
+const QString scratch = u"HKEY_CURRENT_USER\\Software\\Velmora\\Test scratch"_s;
+const QString translators = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Kelvane\\Translators"_s;
+const QString folderValue = u"Folder"_s;
 
 } // namespace
 
@@ -32,103 +33,101 @@ private slots:
     }
     void cleanup() { m_machine.reset(); }
 
-    void aTextComesBackAsItWasWritten_data()
+    void aStringIsReadAsItWasWritten_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("plain") << QStringLiteral("de-DE");
+        QTest::newRow("plain") << u"de-DE"_s;
         QTest::newRow("empty") << QString::fromLatin1("");
-        QTest::newRow("blanks and quotes") << QStringLiteral(" \"a\" b ");
-        QTest::newRow("umlauts and Japanese") << QStringLiteral("C:\\Größe\\日本");
-        QTest::newRow("10,000 characters") << QString(10000, QLatin1Char('x'));
+        QTest::newRow("blanks and quotes") << u" \"a\" b "_s;
+        QTest::newRow("umlauts and Japanese") << u"C:\\Größe\\日本"_s;
+        QTest::newRow("10,000 characters") << QString(10000, u'x');
     }
 
-    void aTextComesBackAsItWasWritten()
+    void aStringIsReadAsItWasWritten()
     {
         QFETCH(QString, text);
-        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("a"), text));
-        QCOMPARE(RegistryKey(scratch).text(QStringLiteral("a")), std::optional<QString>(text));
+        QVERIFY(RegistryKey(scratch).setText(u"a"_s, text));
+        QCOMPARE(RegistryKey(scratch).text(u"a"_s), std::optional<QString>(text));
     }
 
     void keysAndValueNamesAreComparedWithoutCase()
     {
-        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("Locale"), QStringLiteral("de-DE")));
+        QVERIFY(RegistryKey(scratch).setText(u"Locale"_s, u"de-DE"_s));
         const RegistryKey shouted(scratch.toUpper());
-        QCOMPARE(shouted.text(QStringLiteral("LOCALE")), std::optional<QString>(QStringLiteral("de-DE")));
-        QVERIFY(RegistryKey(scratch.toUpper()).setText(QStringLiteral("LOCALE"), QStringLiteral("fr-FR")));
-        QCOMPARE(RegistryKey(scratch).valueNames(), QStringList(QStringLiteral("Locale")));
+        QCOMPARE(shouted.text(u"LOCALE"_s), std::optional<QString>(u"de-DE"_s));
+        QVERIFY(RegistryKey(scratch.toUpper()).setText(u"LOCALE"_s, u"fr-FR"_s));
+        QCOMPARE(RegistryKey(scratch).valueNames(), QStringList(u"Locale"_s));
     }
 
-    void aNameWithSlashesIsANameLikeAnyOther()
+    void slashesInANameDoNotSeparateKeys()
     {
-        const QString name = QStringLiteral("a/b\\c");
-        QVERIFY(RegistryKey(scratch).setText(name, QStringLiteral("x")));
+        const QString name = u"a/b\\c"_s;
+        QVERIFY(RegistryKey(scratch).setText(name, u"x"_s));
         QCOMPARE(RegistryKey(scratch).valueNames(), QStringList(name));
-        QCOMPARE(RegistryKey(scratch).text(name), std::optional<QString>(QStringLiteral("x")));
+        QCOMPARE(RegistryKey(scratch).text(name), std::optional<QString>(u"x"_s));
     }
 
-    void aTextOrNumberThatIsATextIsThatText()
+    void textOrNumberReturnsAString()
     {
-        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("a"), QStringLiteral("x")));
-        QCOMPARE(RegistryKey(scratch).textOrNumber(QStringLiteral("A")),
-                 std::optional<QString>(QStringLiteral("x")));
-        QVERIFY(!RegistryKey(scratch).textOrNumber(QStringLiteral("missing")));
-        QVERIFY(!RegistryKey(scratch + QStringLiteral("\\Missing")).textOrNumber(QStringLiteral("a")));
+        QVERIFY(RegistryKey(scratch).setText(u"a"_s, u"x"_s));
+        QCOMPARE(RegistryKey(scratch).textOrNumber(u"A"_s), std::optional<QString>(u"x"_s));
+        QVERIFY(!RegistryKey(scratch).textOrNumber(u"missing"_s));
+        QVERIFY(!RegistryKey(scratch + u"\\Missing"_s).textOrNumber(u"a"_s));
     }
 
-    void aTextOrNumberThatIsANumberIsItsSignedDigits_data()
+    void textOrNumberReturnsTheDigitsOfASignedNumber_data()
     {
         QTest::addColumn<quint32>("number");
         QTest::addColumn<QString>("digits");
-        QTest::newRow("zero") << quint32{0} << QStringLiteral("0");
-        QTest::newRow("the largest signed one") << quint32{0x7fffffff} << QStringLiteral("2147483647");
-        QTest::newRow("the smallest signed one") << quint32{0x80000000} << QStringLiteral("-2147483648");
-        QTest::newRow("all bits") << quint32{0xffffffff} << QStringLiteral("-1");
+        QTest::newRow("zero") << quint32{0} << u"0"_s;
+        QTest::newRow("the largest signed one") << quint32{0x7fffffff} << u"2147483647"_s;
+        QTest::newRow("the smallest signed one") << quint32{0x80000000} << u"-2147483648"_s;
+        QTest::newRow("all bits") << quint32{0xffffffff} << u"-1"_s;
     }
 
-    void aTextOrNumberThatIsANumberIsItsSignedDigits()
+    void textOrNumberReturnsTheDigitsOfASignedNumber()
     {
         QFETCH(const quint32, number);
-        QVERIFY(RegistryKey(scratch).setNumber(QStringLiteral("a"), number));
-        QTEST(RegistryKey(scratch).textOrNumber(QStringLiteral("A")).value_or(QString()), "digits");
+        QVERIFY(RegistryKey(scratch).setNumber(u"a"_s, number));
+        QTEST(RegistryKey(scratch).textOrNumber(u"A"_s).value_or(QString()), "digits");
     }
 
     void theEmptyNameIsTheDefaultValue()
     {
-        QVERIFY(RegistryKey(scratch).setText(QString(), QStringLiteral("default")));
-        QCOMPARE(RegistryKey(scratch).text(QString()), std::optional<QString>(QStringLiteral("default")));
+        QVERIFY(RegistryKey(scratch).setText(QString(), u"default"_s));
+        QCOMPARE(RegistryKey(scratch).text(QString()), std::optional<QString>(u"default"_s));
     }
 
     void listingAMissingKeyDoesNotCreateIt()
     {
-        const QString missing = scratch + QStringLiteral("\\Missing");
+        const QString missing = scratch + u"\\Missing"_s;
         const RegistryKey key(missing);
         QVERIFY(!key.hasEntries());
         QVERIFY(key.valueNames().isEmpty());
         QVERIFY(key.subKeyNames().isEmpty());
-        QVERIFY(!key.text(QStringLiteral("a")));
-        QVERIFY(!RegistryKey(scratch).subKeyNames().contains(QStringLiteral("Missing")));
+        QVERIFY(!key.text(u"a"_s));
+        QVERIFY(!RegistryKey(scratch).subKeyNames().contains(u"Missing"_s));
     }
 
     void aKeyWithOnlyASubKeyHasEntries()
     {
-        const QString above = scratch + QStringLiteral("\\Above");
-        QVERIFY(
-            RegistryKey(above + QStringLiteral("\\Below")).setText(QStringLiteral("a"), QStringLiteral("b")));
+        const QString above = scratch + u"\\Above"_s;
+        QVERIFY(RegistryKey(above + u"\\Below"_s).setText(u"a"_s, u"b"_s));
         QVERIFY(RegistryKey(above).valueNames().isEmpty());
-        QCOMPARE(RegistryKey(above).subKeyNames(), QStringList(QStringLiteral("Below")));
+        QCOMPARE(RegistryKey(above).subKeyNames(), QStringList(u"Below"_s));
         QVERIFY(RegistryKey(above).hasEntries());
     }
 
     void aRemovedValueIsGoneAndItsNeighbourStays()
     {
-        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("a"), QStringLiteral("1")));
-        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("b"), QStringLiteral("2")));
-        QVERIFY(RegistryKey(scratch).removeValue(QStringLiteral("A")));
-        QCOMPARE(RegistryKey(scratch).valueNames(), QStringList(QStringLiteral("b")));
-        QVERIFY(RegistryKey(scratch).removeValue(QStringLiteral("a")));
+        QVERIFY(RegistryKey(scratch).setText(u"a"_s, u"1"_s));
+        QVERIFY(RegistryKey(scratch).setText(u"b"_s, u"2"_s));
+        QVERIFY(RegistryKey(scratch).removeValue(u"A"_s));
+        QCOMPARE(RegistryKey(scratch).valueNames(), QStringList(u"b"_s));
+        QVERIFY(RegistryKey(scratch).removeValue(u"a"_s));
     }
 
-    void aNumberComesBackAsItWasWritten_data()
+    void aNumberIsReadAsItWasWritten_data()
     {
         QTest::addColumn<quint32>("number");
         QTest::newRow("zero") << quint32(0);
@@ -137,62 +136,62 @@ private slots:
         QTest::newRow("minus one") << static_cast<quint32>(-1);
     }
 
-    void aNumberComesBackAsItWasWritten()
+    void aNumberIsReadAsItWasWritten()
     {
         QFETCH(quint32, number);
-        QVERIFY(RegistryKey(scratch).setNumber(QStringLiteral("a"), number));
-        QCOMPARE(RegistryKey(scratch).number(QStringLiteral("a")), std::optional<quint32>(number));
+        QVERIFY(RegistryKey(scratch).setNumber(u"a"_s, number));
+        QCOMPARE(RegistryKey(scratch).number(u"a"_s), std::optional<quint32>(number));
     }
 
-    void aTextIsNoNumberAndANumberNoText()
+    void aStringIsNotANumberNorANumberAString()
     {
-        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("text"), QStringLiteral("3")));
-        QVERIFY(RegistryKey(scratch).setNumber(QStringLiteral("number"), 3));
-        QVERIFY(!RegistryKey(scratch).number(QStringLiteral("text")));
-        QVERIFY(!RegistryKey(scratch).text(QStringLiteral("number")));
-        QVERIFY(!RegistryKey(scratch).number(QStringLiteral("missing")));
+        QVERIFY(RegistryKey(scratch).setText(u"text"_s, u"3"_s));
+        QVERIFY(RegistryKey(scratch).setNumber(u"number"_s, 3));
+        QVERIFY(!RegistryKey(scratch).number(u"text"_s));
+        QVERIFY(!RegistryKey(scratch).text(u"number"_s));
+        QVERIFY(!RegistryKey(scratch).number(u"missing"_s));
     }
 
-    void aKeyIsRemovedWithAllBelowItAndNothingBesideIt()
+    void aKeyIsRemovedWithItsSubKeysOnly()
     {
-        const QStringList removed = {QStringLiteral("\\Group"), QStringLiteral("\\Group\\Deep\\Deeper")};
-        const QString neighbour = scratch + QStringLiteral("\\Group 2");
-        for (const QString &key : removed + QStringList{QStringLiteral("\\Group 2")})
-            QVERIFY(RegistryKey(scratch + key).setText(QStringLiteral("a"), QStringLiteral("b")));
-        QVERIFY(RegistryKey(scratch + QStringLiteral("\\GROUP")).removeWhole());
+        const QStringList removed = {u"\\Group"_s, u"\\Group\\Deep\\Deeper"_s};
+        const QString neighbour = scratch + u"\\Group 2"_s;
+        for (const QString &key : removed + QStringList{u"\\Group 2"_s})
+            QVERIFY(RegistryKey(scratch + key).setText(u"a"_s, u"b"_s));
+        QVERIFY(RegistryKey(scratch + u"\\GROUP"_s).removeWhole());
         for (const QString &key : removed)
             QVERIFY(!RegistryKey(scratch + key).hasEntries());
-        QVERIFY(!RegistryKey(scratch).subKeyNames().contains(QStringLiteral("Group")));
-        QCOMPARE(RegistryKey(neighbour).text(QStringLiteral("a")), std::optional(QStringLiteral("b")));
+        QVERIFY(!RegistryKey(scratch).subKeyNames().contains(u"Group"_s));
+        QCOMPARE(RegistryKey(neighbour).text(u"a"_s), std::optional(u"b"_s));
     }
 
     void aMissingKeyCountsAsRemoved_data()
     {
         QTest::addColumn<QString>("below");
-        QTest::newRow("missing itself") << QStringLiteral("\\Missing");
-        QTest::newRow("missing with the key above it") << QStringLiteral("\\Missing\\Too");
+        QTest::newRow("missing itself") << u"\\Missing"_s;
+        QTest::newRow("missing with the key above it") << u"\\Missing\\Too"_s;
     }
 
     void aMissingKeyCountsAsRemoved()
     {
         QFETCH(QString, below);
         QVERIFY(RegistryKey(scratch + below).removeWhole());
-        QVERIFY(!RegistryKey(scratch).subKeyNames().contains(QStringLiteral("Missing")));
+        QVERIFY(!RegistryKey(scratch).subKeyNames().contains(u"Missing"_s));
     }
 
-    void aRootIsNeverRemoved() { QVERIFY(!RegistryKey(QStringLiteral("HKEY_CURRENT_USER")).removeWhole()); }
+    void aRootIsNeverRemoved() { QVERIFY(!RegistryKey(u"HKEY_CURRENT_USER"_s).removeWhole()); }
 
-    void aRootThatDoesNotExistRefusesEverything()
+    void anUnknownRootRefusesEveryChange()
     {
-        RegistryKey nowhere(QStringLiteral("HKEY_NOWHERE\\Software"));
-        QVERIFY(!nowhere.text(QStringLiteral("a")));
+        RegistryKey nowhere(u"HKEY_NOWHERE\\Software"_s);
+        QVERIFY(!nowhere.text(u"a"_s));
         QVERIFY(!nowhere.hasEntries());
-        QVERIFY(!nowhere.removeValue(QStringLiteral("a")));
+        QVERIFY(!nowhere.removeValue(u"a"_s));
     }
 
-    void theTranslatorsFolderIsReadWhole()
+    void theTranslatorsFolderIsRead()
     {
-        const QString folder = QStringLiteral("C:\\Übersetzer\\日本 (x64)");
+        const QString folder = u"C:\\Übersetzer\\日本 (x64)"_s;
         QVERIFY(RegistryKey(translators).setText(folderValue, folder));
         std::array<wchar_t, 100> buffer;
         Registry::readKelvaneTranslatorsFolder(buffer.data(), buffer.size());
@@ -207,7 +206,7 @@ private slots:
         QCOMPARE(QString::fromWCharArray(buffer.data()), QString());
     }
 
-    void aFolderThatDoesNotFitIsNotCutShort_data()
+    void aFolderThatDoesNotFitIsReplacedByAnEmptyString_data()
     {
         QTest::addColumn<int>("length");
         QTest::addColumn<int>("expectedLength");
@@ -216,15 +215,15 @@ private slots:
         QTest::newRow("far too long") << 10000 << 0;
     }
 
-    void aFolderThatDoesNotFitIsNotCutShort()
+    void aFolderThatDoesNotFitIsReplacedByAnEmptyString()
     {
         QFETCH(int, length);
         QFETCH(int, expectedLength);
-        QVERIFY(RegistryKey(translators).setText(folderValue, QString(length, QLatin1Char('x'))));
+        QVERIFY(RegistryKey(translators).setText(folderValue, QString(length, u'x')));
         std::array<wchar_t, 12> buffer;
         buffer.fill(L'?');
         Registry::readKelvaneTranslatorsFolder(buffer.data(), 10);
-        QCOMPARE(QString::fromWCharArray(buffer.data()), QString(expectedLength, QLatin1Char('x')));
+        QCOMPARE(QString::fromWCharArray(buffer.data()), QString(expectedLength, u'x'));
         QVERIFY(buffer[10] == L'?' && buffer[11] == L'?');
     }
 

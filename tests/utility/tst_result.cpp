@@ -1,9 +1,9 @@
 #include "nvx_util/result.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::Done;
 using Nvx::Util::Failure;
 using Nvx::Util::Outcome;
@@ -22,18 +22,18 @@ private slots:
         QCOMPARE(result.error(), QString());
     }
 
-    void aFailureIsFalseEvenWithoutAText()
+    void aFailureIsFalseEvenWithAnEmptyText()
     {
-        const Result<int> named = Failure{text("cannot be read")};
+        const Result<int> named = Failure{u"cannot be read"_s};
         QVERIFY(!named);
-        QCOMPARE(named.error(), text("cannot be read"));
+        QCOMPARE(named.error(), u"cannot be read"_s);
         const Result<int> unnamed = Failure{};
         QVERIFY(!unnamed);
     }
 
-    void aTextIsAValueAndNoError()
+    void aStringValueIsNotAnError()
     {
-        const Result<QString> result = text("a name");
+        const Result<QString> result = u"a name"_s;
         QVERIFY(result);
         QCOMPARE(result->size(), 6);
     }
@@ -49,9 +49,9 @@ private slots:
     {
         const Outcome done = Done();
         QVERIFY(done);
-        const Outcome failed = Failure{text("disk full")};
+        const Outcome failed = Failure{u"disk full"_s};
         QVERIFY(!failed);
-        QCOMPARE(failed.error(), text("disk full"));
+        QCOMPARE(failed.error(), u"disk full"_s);
     }
 };
 

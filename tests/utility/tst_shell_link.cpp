@@ -1,4 +1,4 @@
-// Links of the shell and its notice of changed associations, as the shell gets them.
+// Shell links and the notification of changed associations, as the shell receives them.
 
 #include "nvx_util/native_machine.h"
 #include "support/test_class.h"
@@ -12,11 +12,12 @@
 
 #include <objbase.h>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::NativeMachine;
-using Link = Nvx::Util::ShellLink; // windows.h has a ShellLink of its own
+using Link = Nvx::Util::ShellLink; // windows.h has its own ShellLink
 using Nvx::Util::Platform::saveShellLink;
 
-// Where this program keeps the address of the shell's function, which every call of it goes through.
+// The import pointer of this program through which every call of the shell's function goes.
 extern "C" decltype(&SHChangeNotify) __imp_SHChangeNotify; // NOLINT(bugprone-reserved-identifier)
 
 namespace {
@@ -24,12 +25,12 @@ namespace {
 Link completeLink()
 {
     Link link;
-    link.target = QStringLiteral("C:\\NVX\\NVX.exe");
-    link.linkPath = QStringLiteral("C:\\a b.lnk");
-    link.description = QStringLiteral("Größe 日本");
-    link.workFolder = QStringLiteral("C:\\NVX");
-    link.iconPath = QStringLiteral("C:\\NVX\\nvz.ico");
-    link.arguments = QStringLiteral("-project \"a b\"");
+    link.target = u"C:\\NVX\\NVX.exe"_s;
+    link.linkPath = u"C:\\a b.lnk"_s;
+    link.description = u"Größe 日本"_s;
+    link.workFolder = u"C:\\NVX"_s;
+    link.iconPath = u"C:\\NVX\\nvz.ico"_s;
+    link.arguments = u"-project \"a b\""_s;
     return link;
 }
 
@@ -37,18 +38,18 @@ Link completeLink()
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-// A shell object that records the calls and refuses those that the test names.
+// A shell object that records the calls and rejects one of them.
 class RecordingLink final : public IShellLinkW, public IPersistFile
 {
 public:
     QStringList told;
-    QString refused; ///< the name of the call that is refused
+    QString refused; ///< the name of the call to reject
     HRESULT saved = S_OK;
 
     STDMETHODIMP QueryInterface(REFIID id, void **object) override
     {
         *object = nullptr;
-        if (id != IID_IPersistFile || refused == QLatin1String("query"))
+        if (id != IID_IPersistFile || refused == "query"_L1)
             return E_NOINTERFACE;
         *object = static_cast<IPersistFile *>(this);
         return S_OK;
@@ -62,7 +63,7 @@ public:
     STDMETHODIMP SetArguments(LPCWSTR text) override { return take("arguments", text); }
     STDMETHODIMP SetIconLocation(LPCWSTR text, int index) override
     {
-        return take(qPrintable(QStringLiteral("icon %1").arg(index)), text);
+        return take(qPrintable(u"icon %1"_s.arg(index)), text);
     }
     STDMETHODIMP Save(LPCOLESTR path, BOOL remembers) override
     {
@@ -70,7 +71,7 @@ public:
         return saved;
     }
 
-    // What is not called.
+    // Never called.
     STDMETHODIMP GetPath(LPWSTR, int, WIN32_FIND_DATAW *, DWORD) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDList(LPITEMIDLIST *) override { return E_NOTIMPL; }
     STDMETHODIMP SetIDList(LPCITEMIDLIST) override { return E_NOTIMPL; }
@@ -94,14 +95,14 @@ private:
     HRESULT take(const char *name, const wchar_t *text)
     {
         const QString call = QString::fromLatin1(name);
-        told << call + QLatin1Char('=') + QString::fromWCharArray(text);
+        told << call + u'=' + QString::fromWCharArray(text);
         return call == refused ? E_INVALIDARG : S_OK;
     }
 };
 
 #pragma GCC diagnostic pop
 
-// What the shell reads in a link file; the icon with its index before it.
+// What the shell reads from a link file; the icon's index precedes its path.
 QStringList readLink(const QString &path)
 {
     std::array<wchar_t, MAX_PATH> buffer{};
@@ -125,7 +126,7 @@ QStringList readLink(const QString &path)
         texts << text();
         int index = -1;
         link->GetIconLocation(buffer.data(), size, &index);
-        texts << QString::number(index) + QLatin1Char(' ') + text();
+        texts << QString::number(index) + u' ' + text();
     }
     if (file)
         file->Release();
@@ -150,7 +151,7 @@ void WINAPI recordNotice(LONG event, UINT flags, LPCVOID first, LPCVOID second)
     notices.append({event, flags, first, second});
 }
 
-// While this lives, the shell's function is replaced in this program.
+// Replaces the shell's function in this program during its lifetime.
 class RecordedNotices
 {
 public:
@@ -183,34 +184,32 @@ class tst_shell_link : public QObject
     Q_OBJECT
 
 private slots:
-    void aLinkIsWrittenWholeAndThenSaved()
+    void everyStringOfALinkIsWrittenBeforeItIsSaved()
     {
         RecordingLink object;
         QCOMPARE(saveShellLink(object, completeLink()), S_OK);
-        QCOMPARE(
-            object.told,
-            QStringList({QStringLiteral("path=C:\\NVX\\NVX.exe"), QStringLiteral("description=Größe 日本"),
-                         QStringLiteral("folder=C:\\NVX"), QStringLiteral("arguments=-project \"a b\""),
-                         QStringLiteral("icon 0=C:\\NVX\\nvz.ico"), QStringLiteral("save=C:\\a b.lnk")}));
+        QCOMPARE(object.told, QStringList({u"path=C:\\NVX\\NVX.exe"_s, u"description=Größe 日本"_s,
+                                           u"folder=C:\\NVX"_s, u"arguments=-project \"a b\""_s,
+                                           u"icon 0=C:\\NVX\\nvz.ico"_s, u"save=C:\\a b.lnk"_s}));
     }
 
-    void withoutAnIconTheTargetsOwnIsLeft()
+    void withoutAnIconTheTargetsIconIsUsed()
     {
         Link link = completeLink();
         link.iconPath.clear();
         RecordingLink object;
         saveShellLink(object, link);
-        QVERIFY(object.told.filter(QStringLiteral("icon")).isEmpty());
+        QVERIFY(object.told.filter(u"icon"_s).isEmpty());
     }
 
-    void aTextThatIsRefusedDoesNotKeepTheLinkFromBeingSaved_data()
+    void aLinkIsSavedEvenIfAStringIsRejected_data()
     {
         QTest::addColumn<QString>("call");
         for (const char *call : {"path", "description", "folder", "arguments", "icon 0"})
             QTest::newRow(call) << QString::fromLatin1(call);
     }
 
-    void aTextThatIsRefusedDoesNotKeepTheLinkFromBeingSaved()
+    void aLinkIsSavedEvenIfAStringIsRejected()
     {
         RecordingLink whole;
         saveShellLink(whole, completeLink());
@@ -224,37 +223,36 @@ private slots:
     void theResultIsThatOfTheLastCall()
     {
         RecordingLink object;
-        object.refused = QStringLiteral("path");
+        object.refused = u"path"_s;
         object.saved = STG_E_ACCESSDENIED;
         QCOMPARE(saveShellLink(object, completeLink()), STG_E_ACCESSDENIED);
-        object.refused = QStringLiteral("query");
+        object.refused = u"query"_s;
         QCOMPARE(saveShellLink(object, completeLink()), E_NOINTERFACE);
-        QCOMPARE(object.told.filter(QStringLiteral("save")).size(), 1);
+        QCOMPARE(object.told.filter(u"save"_s).size(), 1);
     }
 
-    void theShellReadsEveryTextOfALinkThatWasMade()
+    void theShellReadsEveryStringOfACreatedLink()
     {
         const TestFolder folder;
         Link link = completeLink();
-        link.linkPath = folder.path(QStringLiteral("a b.lnk"));
+        link.linkPath = folder.path(u"a b.lnk"_s);
         QCOMPARE(NativeMachine().createShellLink(link), 0);
-        QCOMPARE(readLink(link.linkPath),
-                 QStringList({link.target, link.description, link.workFolder, link.arguments,
-                              QStringLiteral("0 ") + link.iconPath}));
+        QCOMPARE(readLink(link.linkPath), QStringList({link.target, link.description, link.workFolder,
+                                                       link.arguments, u"0 "_s + link.iconPath}));
     }
 
     void aLinkWithoutArgumentsAndIconHasNone()
     {
         const TestFolder folder;
         Link link = completeLink();
-        link.linkPath = folder.path(QStringLiteral("a.lnk"));
+        link.linkPath = folder.path(u"a.lnk"_s);
         link.arguments.clear();
         link.iconPath.clear();
         QCOMPARE(NativeMachine().createShellLink(link), 0);
-        QCOMPARE(readLink(link.linkPath).mid(3), QStringList({QString(), QStringLiteral("0 ")}));
+        QCOMPARE(readLink(link.linkPath).mid(3), QStringList({QString(), u"0 "_s}));
     }
 
-    void theNoticeIsThatAssociationsChangedWithoutAnItem()
+    void theShellIsNotifiedOfChangedAssociationsWithoutAnItem()
     {
         const RecordedNotices recorded;
         NativeMachine().notifyAssociationsChanged();

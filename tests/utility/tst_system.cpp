@@ -8,6 +8,7 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::joinPath;
 using Nvx::Util::RegistryKey;
 using Nvx::Util::System;
@@ -34,12 +35,11 @@ private slots:
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("relative");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("a folder and a file")
-            << native("/NVX") << QStringLiteral("a.txt") << native("/NVX/a.txt");
+        QTest::newRow("a folder and a file") << native("/NVX") << u"a.txt"_s << native("/NVX/a.txt");
         QTest::newRow("slashes become native")
-            << native("/NVX") << QStringLiteral("en-US/Examples.7z") << native("/NVX/en-US/Examples.7z");
-        QTest::newRow("a root keeps its one separator") << native("/") << QStringLiteral("a") << native("/a");
-        QTest::newRow("no folder") << QString() << QStringLiteral("a") << native("/a");
+            << native("/NVX") << u"en-US/Examples.7z"_s << native("/NVX/en-US/Examples.7z");
+        QTest::newRow("a root keeps its one separator") << native("/") << u"a"_s << native("/a");
+        QTest::newRow("no folder") << QString() << u"a"_s << native("/a");
     }
 
     void pathsAreJoinedByOneSeparator()
@@ -49,15 +49,14 @@ private slots:
         QTEST(joinPath(folder, relative), "expected");
     }
 
-    void theProductsFoldersLieWhereTheProductLooksForThem()
+    void theProductsFoldersAreBelowThoseOfTheMachine()
     {
         const QString release = native("Velmora/NVX 2017");
-        QCOMPARE(System::getUserDataPath(), m_machine->path(QStringLiteral("AppData/")) + release);
-        QCOMPARE(System::getProgramDataPath(QStringLiteral("NVX 2017")),
-                 m_machine->path(QStringLiteral("ProgramData/")) + release);
-        QCOMPARE(System::getFlagsDirPath(), System::getProgramDataPath(QStringLiteral("NVX 2017")));
+        QCOMPARE(System::getUserDataPath(), m_machine->path(u"AppData/"_s) + release);
+        QCOMPARE(System::getProgramDataPath(u"NVX 2017"_s), m_machine->path(u"ProgramData/"_s) + release);
+        QCOMPARE(System::getFlagsDirPath(), System::getProgramDataPath(u"NVX 2017"_s));
         QCOMPARE(System::getTutorialsDirPath(),
-                 m_machine->path(QStringLiteral("Public/Documents/")) + release + native("/Tutorials"));
+                 m_machine->path(u"Public/Documents/"_s) + release + native("/Tutorials"));
     }
 
     void askingForAFolderDoesNotCreateIt()
@@ -82,18 +81,18 @@ private slots:
         QCOMPARE(QDir(working).canonicalPath(), QDir(m_machine->installDir()).canonicalPath());
     }
 
-    void aPathIsMadeWithItsParents()
+    void aPathIsCreatedWithItsParents()
     {
-        const QString path = m_machine->path(QStringLiteral("a/ü/日本"));
+        const QString path = m_machine->path(u"a/ü/日本"_s);
         QVERIFY(System::makePath(path));
         QVERIFY(QDir(path).exists());
         QVERIFY(System::makePath(path));
     }
 
-    void aPathThroughAFileCannotBeMade()
+    void aPathThroughAFileCannotBeCreated()
     {
-        writeFile(m_machine->path(QStringLiteral("file")));
-        QVERIFY(!System::makePath(m_machine->path(QStringLiteral("file/below"))));
+        writeFile(m_machine->path(u"file"_s));
+        QVERIFY(!System::makePath(m_machine->path(u"file/below"_s)));
     }
 
     void validLocalesAreThoseOfTheTableInItsOrder()
@@ -104,34 +103,33 @@ private slots:
         QCOMPARE(System::validLocales(), expected);
     }
 
-    void theLanguageIsRememberedForTheProduct()
+    void theLanguageIsStoredForTheProduct()
     {
-        System::setLocale(QStringLiteral("ja-JP"));
-        QCOMPARE(System::getLocale(), QStringLiteral("ja-JP"));
-        QCOMPARE(RegistryKey(QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"))
-                     .text(QStringLiteral("Locale")),
-                 std::optional<QString>(QStringLiteral("ja-JP")));
+        System::setLocale(u"ja-JP"_s);
+        QCOMPARE(System::getLocale(), u"ja-JP"_s);
+        QCOMPARE(RegistryKey(u"HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"_s).text(u"Locale"_s),
+                 std::optional<QString>(u"ja-JP"_s));
     }
 
-    void withoutARememberedLanguageTheSystemsIsTaken()
+    void withoutAStoredLanguageTheSystemsIsUsed()
     {
         QCOMPARE(System::getLocale(), Nvx::Util::supportedSystemLocale());
         QVERIFY(System::validLocales().contains(System::getLocale()));
     }
 
-    void theSystemsLocaleIsTakenWhenTheProductSpeaksIt_data()
+    void theSystemsLocaleIsUsedIfItIsSupported_data()
     {
         QTest::addColumn<QString>("systemName");
         QTest::addColumn<QString>("locale");
-        QTest::newRow("German") << QStringLiteral("de_DE") << QStringLiteral("de-DE");
-        QTest::newRow("Chinese of Taiwan") << QStringLiteral("zh_TW") << QStringLiteral("zh-TW");
-        QTest::newRow("written with a hyphen already") << QStringLiteral("ja-JP") << QStringLiteral("ja-JP");
-        QTest::newRow("another country's German") << QStringLiteral("de_AT") << QStringLiteral("en-US");
-        QTest::newRow("a language that is not spoken") << QStringLiteral("sv_SE") << QStringLiteral("en-US");
-        QTest::newRow("none") << QStringLiteral("C") << QStringLiteral("en-US");
+        QTest::newRow("German") << u"de_DE"_s << u"de-DE"_s;
+        QTest::newRow("Chinese of Taiwan") << u"zh_TW"_s << u"zh-TW"_s;
+        QTest::newRow("written with a hyphen already") << u"ja-JP"_s << u"ja-JP"_s;
+        QTest::newRow("another country's German") << u"de_AT"_s << u"en-US"_s;
+        QTest::newRow("a language that is not spoken") << u"sv_SE"_s << u"en-US"_s;
+        QTest::newRow("none") << u"C"_s << u"en-US"_s;
     }
 
-    void theSystemsLocaleIsTakenWhenTheProductSpeaksIt()
+    void theSystemsLocaleIsUsedIfItIsSupported()
     {
         QFETCH(QString, systemName);
         QTEST(Nvx::Util::supportedLocale(systemName), "locale");
@@ -139,22 +137,21 @@ private slots:
 
     void variablesOfTheEnvironmentAreReadAndMissingOnesAreEmpty()
     {
-        m_machine->setVariable("NVX_TEST_VARIABLE", QStringLiteral("a b"));
-        QCOMPARE(System::getEnv(QStringLiteral("NVX_TEST_VARIABLE")), QStringLiteral("a b"));
+        m_machine->setVariable("NVX_TEST_VARIABLE", u"a b"_s);
+        QCOMPARE(System::getEnv(u"NVX_TEST_VARIABLE"_s), u"a b"_s);
         m_machine->unsetVariable("NVX_TEST_VARIABLE");
-        QCOMPARE(System::getEnv(QStringLiteral("NVX_TEST_VARIABLE")), QString());
+        QCOMPARE(System::getEnv(u"NVX_TEST_VARIABLE"_s), QString());
     }
 
     void theProgramFilesFoldersAreReadFromTheRegistry()
     {
-        RegistryKey windows(
-            QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion"));
-        const auto own = QStringLiteral("ProgramFilesDir");
-        const auto thirtyTwoBit = QStringLiteral("ProgramFilesDir (x86)");
-        QVERIFY(windows.setText(own, QStringLiteral("C:\\Program Files")));
-        QVERIFY(windows.setText(thirtyTwoBit, QStringLiteral("C:\\Program Files (x86)")));
-        QCOMPARE(System::getProgramFilesPathFromRegistry(false), QStringLiteral("C:\\Program Files"));
-        QCOMPARE(System::getProgramFilesPathFromRegistry(true), QStringLiteral("C:\\Program Files (x86)"));
+        RegistryKey windows(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion"_s);
+        const auto own = u"ProgramFilesDir"_s;
+        const auto thirtyTwoBit = u"ProgramFilesDir (x86)"_s;
+        QVERIFY(windows.setText(own, u"C:\\Program Files"_s));
+        QVERIFY(windows.setText(thirtyTwoBit, u"C:\\Program Files (x86)"_s));
+        QCOMPARE(System::getProgramFilesPathFromRegistry(false), u"C:\\Program Files"_s);
+        QCOMPARE(System::getProgramFilesPathFromRegistry(true), u"C:\\Program Files (x86)"_s);
     }
 
 private:

@@ -4,6 +4,8 @@
 #include <QProcess>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_test_program : public QObject
 {
     Q_OBJECT
@@ -13,8 +15,8 @@ private slots:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::newRow("no name") << QStringList();
-        QTest::newRow("another program's class") << QStringList(QStringLiteral("tst_creo_names"));
-        QTest::newRow("a part of a name") << QStringList(QStringLiteral("tst_test"));
+        QTest::newRow("another program's class") << QStringList(u"tst_creo_names"_s);
+        QTest::newRow("a part of a name") << QStringList(u"tst_test"_s);
     }
 
     void withoutAKnownNameTheClassesAreListed()
@@ -28,12 +30,12 @@ private slots:
         QCOMPARE(m_output, QByteArray());
     }
 
-    void theRemainingArgumentsAreThoseOfTheClass()
+    void theClassGetsTheRemainingArguments()
     {
-        run({QStringLiteral("tst_test_program"), QStringLiteral("-functions")});
+        run({u"tst_test_program"_s, u"-functions"_s});
         QCOMPARE(m_exitCode, 0);
-        QVERIFY(m_output.contains("theRemainingArgumentsAreThoseOfTheClass()"));
-        run({QStringLiteral("tst_test_program"), QStringLiteral("noSuchFunction")});
+        QVERIFY(m_output.contains("theClassGetsTheRemainingArguments()"));
+        run({u"tst_test_program"_s, u"noSuchFunction"_s});
         QCOMPARE(m_exitCode, 1);
     }
 

@@ -6,6 +6,7 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::countProcessors;
 using Nvx::Util::CpuInfo;
 using Nvx::Util::Log;
@@ -22,10 +23,9 @@ struct LogicalProcessor
 void describe(const TestFolder &folder, const QList<LogicalProcessor> &processors)
 {
     for (qsizetype i = 0; i < processors.size(); ++i) {
-        const QString topology = folder.path(QStringLiteral("cpu%1/topology/").arg(i));
-        writeFile(topology + QStringLiteral("physical_package_id"),
-                  QByteArray::number(processors[i].package) + '\n');
-        writeFile(topology + QStringLiteral("core_id"), QByteArray::number(processors[i].core) + '\n');
+        const QString topology = folder.path(u"cpu%1/topology/"_s.arg(i));
+        writeFile(topology + u"physical_package_id"_s, QByteArray::number(processors[i].package) + '\n');
+        writeFile(topology + u"core_id"_s, QByteArray::number(processors[i].core) + '\n');
     }
 }
 
@@ -36,7 +36,7 @@ class tst_topology : public QObject
     Q_OBJECT
 
 private slots:
-    void coresAndThreadsAreToldApart()
+    void coresAndThreadsAreDistinguished()
     {
         const TestFolder folder;
         describe(folder, {{0, 0}, {0, 1}, {0, 0}, {0, 1}});
@@ -47,13 +47,12 @@ private slots:
         QVERIFY(counts->hyperThreading);
     }
 
-    void theTopologyOfThisMachineIsWhatTheProbeTells()
+    void theProbeReadsTheTopologyOfThisMachine()
     {
         const TestFolder folder;
-        Log log(folder.path(QStringLiteral("a.log")));
+        Log log(folder.path(u"a.log"_s));
         const CpuInfo probed(log, folder.path());
-        const auto counts =
-            readTopology(QStringLiteral("/sys/devices/system/cpu")).value_or(countProcessors(0, 0, false));
+        const auto counts = readTopology(u"/sys/devices/system/cpu"_s).value_or(countProcessors(0, 0, false));
         QCOMPARE(probed.processorCount(), counts.processors);
         QCOMPARE(probed.coresPerProcessor(), counts.coresPerProcessor);
     }
@@ -73,21 +72,21 @@ private slots:
     {
         const TestFolder folder;
         describe(folder, {{0, 0}, {0, 1}});
-        QVERIFY(QDir().mkpath(folder.path(QStringLiteral("cpu2"))));
-        writeFile(folder.path(QStringLiteral("cpu3/topology/physical_package_id")), "0\n");
-        QVERIFY(QDir().mkpath(folder.path(QStringLiteral("cpufreq/topology"))));
+        QVERIFY(QDir().mkpath(folder.path(u"cpu2"_s)));
+        writeFile(folder.path(u"cpu3/topology/physical_package_id"_s), "0\n");
+        QVERIFY(QDir().mkpath(folder.path(u"cpufreq/topology"_s)));
         const auto counts = readTopology(folder.path());
         QVERIFY(counts);
         QCOMPARE(counts->coresPerProcessor, 2);
     }
 
-    void aFolderThatDescribesNothingGivesNoAnswer()
+    void aFolderWithoutProcessorsHasNoResult()
     {
         const TestFolder folder;
-        writeFile(folder.path(QStringLiteral("cpu0/topology/physical_package_id")), "many\n");
-        writeFile(folder.path(QStringLiteral("cpu0/topology/core_id")), "0\n");
+        writeFile(folder.path(u"cpu0/topology/physical_package_id"_s), "many\n");
+        writeFile(folder.path(u"cpu0/topology/core_id"_s), "0\n");
         QVERIFY(!readTopology(folder.path()));
-        QVERIFY(!readTopology(folder.path(QStringLiteral("missing"))));
+        QVERIFY(!readTopology(folder.path(u"missing"_s)));
     }
 };
 

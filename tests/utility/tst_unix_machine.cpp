@@ -1,4 +1,4 @@
-// What stands for a Windows machine where there is none.
+// The substitute for a Windows machine on other systems.
 
 #include "nvx_util/cpu_info.h"
 #include "nvx_util/log.h"
@@ -21,17 +21,18 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::RegistryKey;
 using Nvx::Util::System;
 
 namespace {
 
-const QString scratch = QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\Test scratch");
+const QString scratch = u"HKEY_CURRENT_USER\\Software\\Velmora\\Test scratch"_s;
 
-// With this option the program tells the system's language instead of testing.
+// With this option the program prints the system's language instead of testing.
 constexpr char localeOption[] = "--locale";
 
-// A child process that does what it is told and ends.
+// A child process that runs a function and ends.
 template<typename Act>
 pid_t childThat(Act act)
 {
@@ -53,50 +54,49 @@ private slots:
     void init() { m_test = std::make_unique<TestMachine>(); }
     void cleanup() { m_test.reset(); }
 
-    void withoutAFolderForTheMachineTheProductsFoldersLieAmongTheUsersData()
+    void withoutAMachineFolderTheProductsFoldersAreInTheUsersData()
     {
         m_test->unsetVariable("NVX_MACHINE");
-        m_test->setVariable("XDG_DATA_HOME", m_test->path(QStringLiteral("data")));
-        const QString root = m_test->path(QStringLiteral("data/velmora/"));
-        QCOMPARE(System::getUserDataPath(), root + QStringLiteral("AppData/Velmora/NVX 2017"));
-        QCOMPARE(System::getFlagsDirPath(), root + QStringLiteral("ProgramData/Velmora/NVX 2017"));
-        QCOMPARE(System::getTutorialsDirPath(),
-                 root + QStringLiteral("Public/Documents/Velmora/NVX 2017/Tutorials"));
+        m_test->setVariable("XDG_DATA_HOME", m_test->path(u"data"_s));
+        const QString root = m_test->path(u"data/velmora/"_s);
+        QCOMPARE(System::getUserDataPath(), root + u"AppData/Velmora/NVX 2017"_s);
+        QCOMPARE(System::getFlagsDirPath(), root + u"ProgramData/Velmora/NVX 2017"_s);
+        QCOMPARE(System::getTutorialsDirPath(), root + u"Public/Documents/Velmora/NVX 2017/Tutorials"_s);
     }
 
-    void theSystemsLanguageIsTakenWhenThereAreTranslations_data()
+    void theSystemsLanguageIsUsedIfItIsSupported_data()
     {
         QTest::addColumn<QString>("system");
         QTest::addColumn<QByteArray>("locale");
-        QTest::newRow("Japanese") << QStringLiteral("ja_JP.UTF-8") << QByteArray("ja-JP");
-        QTest::newRow("German of Germany") << QStringLiteral("de_DE.UTF-8") << QByteArray("de-DE");
-        QTest::newRow("German of Switzerland") << QStringLiteral("de_CH.UTF-8") << QByteArray("en-US");
-        QTest::newRow("none") << QStringLiteral("C") << QByteArray("en-US");
+        QTest::newRow("Japanese") << u"ja_JP.UTF-8"_s << QByteArray("ja-JP");
+        QTest::newRow("German of Germany") << u"de_DE.UTF-8"_s << QByteArray("de-DE");
+        QTest::newRow("German of Switzerland") << u"de_CH.UTF-8"_s << QByteArray("en-US");
+        QTest::newRow("none") << u"C"_s << QByteArray("en-US");
     }
 
-    // The toolkit looks at the system's language once in a process, so another one has to look.
-    void theSystemsLanguageIsTakenWhenThereAreTranslations()
+    // Qt reads the system's language once per process, so a new process is needed for each row.
+    void theSystemsLanguageIsUsedIfItIsSupported()
     {
         QFETCH(const QString, system);
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("LC_ALL"), system);
+        environment.insert(u"LC_ALL"_s, system);
         process.setProcessEnvironment(environment);
         process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(localeOption)});
         QVERIFY(process.waitForFinished());
         QTEST(process.readAllStandardOutput(), "locale");
     }
 
-    void withoutAFolderForTheMachineTheRegistryIsEmptyAndRefusesEveryChange()
+    void withoutAMachineFolderTheRegistryIsEmptyAndReadOnly()
     {
-        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("a"), QStringLiteral("x")));
+        QVERIFY(RegistryKey(scratch).setText(u"a"_s, u"x"_s));
         m_test->unsetVariable("NVX_MACHINE");
         RegistryKey key(scratch);
         QVERIFY(!key.hasEntries());
-        QVERIFY(!key.text(QStringLiteral("a")));
-        QVERIFY(!key.setText(QStringLiteral("a"), QStringLiteral("y")));
-        QVERIFY(!key.setNumber(QStringLiteral("b"), 1));
-        QVERIFY(!key.removeValue(QStringLiteral("a")));
+        QVERIFY(!key.text(u"a"_s));
+        QVERIFY(!key.setText(u"a"_s, u"y"_s));
+        QVERIFY(!key.setNumber(u"b"_s, 1));
+        QVERIFY(!key.removeValue(u"a"_s));
     }
 
     void aNumberThatDoesNotFitInto32BitsIsNone_data()
@@ -112,18 +112,18 @@ private slots:
     void aNumberThatDoesNotFitInto32BitsIsNone()
     {
         QFETCH(const QByteArray, written);
-        writeFile(m_test->path(QStringLiteral("registry.json")),
+        writeFile(m_test->path(u"registry.json"_s),
                   "{\"HKEY_CURRENT_USER\\\\Numbers\": {\"a\": " + written + "}}");
-        const RegistryKey key(QStringLiteral("HKEY_CURRENT_USER\\Numbers"));
-        QTEST(key.number(QStringLiteral("a")).has_value(), "isNumber");
+        const RegistryKey key(u"HKEY_CURRENT_USER\\Numbers"_s);
+        QTEST(key.number(u"a"_s).has_value(), "isNumber");
     }
 
-    void aKeyThatCannotBeRemovedOnTheDiskStays()
+    void aKeyThatCannotBeRemovedFromTheFileStays()
     {
-        const QString large(2 * FullDisk::mostBytes, QLatin1Char('x'));
-        QVERIFY(RegistryKey(scratch).setText(QStringLiteral("large"), large));
-        RegistryKey key(scratch + QStringLiteral("\\Group"));
-        QVERIFY(key.setText(QStringLiteral("a"), QStringLiteral("x")));
+        const QString large(2 * FullDisk::mostBytes, u'x');
+        QVERIFY(RegistryKey(scratch).setText(u"large"_s, large));
+        RegistryKey key(scratch + u"\\Group"_s);
+        QVERIFY(key.setText(u"a"_s, u"x"_s));
         {
             const FullDisk disk;
             QVERIFY(!key.removeWhole());
@@ -133,23 +133,20 @@ private slots:
         QVERIFY(!key.hasEntries());
     }
 
-    void noProgramThatRunsHereIsTakenForOneOfWindows()
+    void noProcessIsListed()
     {
         Nvx::Util::NativeMachine machine;
         QVERIFY(machine.processes().ids(1024).isEmpty());
         QVERIFY(!machine.processes().open(static_cast<Nvx::Util::ProcessId>(getpid())));
     }
 
-    void thereIsNoDesktopOfAllUsers()
-    {
-        QCOMPARE(Nvx::Util::NativeMachine().commonDesktopFolder(), QString());
-    }
+    void thereIsNoSharedDesktop() { QCOMPARE(Nvx::Util::NativeMachine().commonDesktopFolder(), QString()); }
 
-    void aProgramThatASignalEndsHasTheExitCodeThatAShellGivesIt()
+    void aProgramEndedByASignalHasTheExitCodeOfAShell()
     {
         Nvx::Util::ProgramCall call;
-        call.program = QStringLiteral("/bin/sh");
-        call.arguments = QStringList{QStringLiteral("-c"), QStringLiteral("kill -SEGV $$")};
+        call.program = u"/bin/sh"_s;
+        call.arguments = QStringList{u"-c"_s, u"kill -SEGV $$"_s};
         const Nvx::Util::ProgramResult result = Nvx::Util::NativeMachine().run(call);
         QVERIFY(result.outcome == Nvx::Util::ProgramResult::Outcome::Crashed);
         QCOMPARE(result.exitCode, 128 + SIGSEGV);
@@ -177,7 +174,7 @@ private slots:
             QCOMPARE(waitpid(child, nullptr, 0), child);
     }
 
-    void aProcessThatGoesOnIsWaitedForAsLongAsItWasSaid()
+    void aRunningProcessIsWaitedForUntilTheTimeOut()
     {
         const pid_t child = childThat([] { pause(); });
         QVERIFY(child > 0);
@@ -196,9 +193,9 @@ private slots:
         QCOMPARE(Nvx::Util::Platform::commandLine(), QString());
     }
 
-    void processorsThatCannotBeProbedCountAsOneOfOneCoreAndTheLogSaysSo()
+    void processorsThatCannotBeProbedCountAsOneWithOneCoreAndAreLogged()
     {
-        const QString path = m_test->path(QStringLiteral("a.log"));
+        const QString path = m_test->path(u"a.log"_s);
         Nvx::Util::Log log(path);
         QVERIFY(log.open(true));
         {

@@ -6,6 +6,7 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::copyToFreeName;
 
 namespace {
@@ -25,8 +26,8 @@ private slots:
     void init()
     {
         m_folder = std::make_unique<TestFolder>();
-        m_source = m_folder->path(QStringLiteral("Werkstoffe 材料.mdb"));
-        m_target = m_folder->path(QStringLiteral("größe 材料.nvxmdb"));
+        m_source = m_folder->path(u"Werkstoffe 材料.mdb"_s);
+        m_target = m_folder->path(u"größe 材料.nvxmdb"_s);
     }
 
     void copyHasTheBytes_data()
@@ -57,7 +58,7 @@ private slots:
         QVERIFY(QFile::permissions(m_target).testFlag(QFile::WriteOwner));
     }
 
-    void whatHasTheNameStays()
+    void existingFileStays()
     {
         QVERIFY(writeBytes(m_source, "new"));
         QVERIFY(writeBytes(m_target, "mine"));
@@ -66,7 +67,7 @@ private slots:
         QCOMPARE(namesIn(*m_folder).size(), 2);
     }
 
-    void whatComesToTheNameMeanwhileStays()
+    void fileCreatedDuringTheCopyStays()
     {
         QVERIFY(writeBytes(m_source, "new"));
         QVERIFY(writeBytes(m_target, "mine"));
@@ -75,7 +76,7 @@ private slots:
         QCOMPARE(fileBytes(m_target), QByteArray("mine"));
     }
 
-    void folderOfThatNameStays()
+    void existingFolderStays()
     {
         QVERIFY(writeBytes(m_source, "new"));
         QVERIFY(QDir().mkdir(m_target));
@@ -100,14 +101,14 @@ private slots:
     void missingFolderFails()
     {
         QVERIFY(writeBytes(m_source, "new"));
-        QVERIFY(!copyToFreeName(m_source, m_folder->path(QStringLiteral("missing/file"))));
-        QVERIFY(!QFile::exists(m_folder->path(QStringLiteral("missing"))));
+        QVERIFY(!copyToFreeName(m_source, m_folder->path(u"missing/file"_s)));
+        QVERIFY(!QFile::exists(m_folder->path(u"missing"_s)));
     }
 
-    void whatAnEarlierCopyHasLeftIsNoObstacle()
+    void leftoverOfAnEarlierCopyIsReplaced()
     {
         QVERIFY(writeBytes(m_source, "new"));
-        QVERIFY(writeBytes(m_target + QStringLiteral(".nvxpart"), "longer than what is to be copied"));
+        QVERIFY(writeBytes(m_target + u".nvxpart"_s, "longer than what is to be copied"));
         QVERIFY(copyToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_target), QByteArray("new"));
         QCOMPARE(namesIn(*m_folder).size(), 2);
@@ -117,11 +118,11 @@ private slots:
     {
         QString folder = m_folder->path();
         for (int i = 0; i < 6; ++i)
-            folder += QDir::separator() + QString(45, QLatin1Char('d'));
+            folder += QDir::separator() + QString(45, u'd');
         QVERIFY(QDir().mkpath(folder));
         QVERIFY(writeBytes(m_source, "new"));
-        QVERIFY(copyToFreeName(m_source, folder + QDir::separator() + QStringLiteral("file")));
-        QCOMPARE(fileBytes(folder + QDir::separator() + QStringLiteral("file")), QByteArray("new"));
+        QVERIFY(copyToFreeName(m_source, folder + QDir::separator() + u"file"_s));
+        QCOMPARE(fileBytes(folder + QDir::separator() + u"file"_s), QByteArray("new"));
     }
 
 private:

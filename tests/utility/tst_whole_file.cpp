@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::readWholeFile;
 using Nvx::Util::replaceWholeFile;
 
@@ -25,7 +26,7 @@ class tst_whole_file : public QObject
     Q_OBJECT
 
 private slots:
-    void allOfAFileIsRead_data()
+    void wholeFileIsRead_data()
     {
         QTest::addColumn<QByteArray>("contents");
         QTest::newRow("none") << QByteArray();
@@ -34,25 +35,25 @@ private slots:
         QTest::newRow("megabytes") << QByteArray(3 << 20, 'x') + 'a';
     }
 
-    void allOfAFileIsRead()
+    void wholeFileIsRead()
     {
         QFETCH(const QByteArray, contents);
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("Größe 保存.txt"));
+        const QString fileName = folder.path(u"Größe 保存.txt"_s);
         QVERIFY(writeBytes(fileName, contents));
         QCOMPARE(readWholeFile(fileName), std::optional(contents));
     }
 
-    void whatCannotBeReadGivesNothing_data()
+    void unreadableFileHasNoContents_data()
     {
         QTest::addColumn<QString>("fileName");
-        QTest::newRow("a missing file") << QStringLiteral("missing/file");
+        QTest::newRow("a missing file") << u"missing/file"_s;
         QTest::newRow("a folder") << QDir::tempPath();
-        // Opens and does not read, where there is such a file.
-        QTest::newRow("a file that fails") << QStringLiteral("/proc/self/mem");
+        // This file, where it exists, can be opened but not read.
+        QTest::newRow("a file that fails") << u"/proc/self/mem"_s;
     }
 
-    void whatCannotBeReadGivesNothing()
+    void unreadableFileHasNoContents()
     {
         QFETCH(const QString, fileName);
         QVERIFY(!readWholeFile(fileName));
@@ -78,17 +79,17 @@ private slots:
         QFETCH(const QByteArray, old);
         QFETCH(const QByteArray, contents);
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("Größe 保存.txt"));
+        const QString fileName = folder.path(u"Größe 保存.txt"_s);
         QVERIFY(writeBytes(fileName, old));
         QVERIFY(replaceWholeFile(fileName, contents));
         QCOMPARE(fileBytes(fileName), contents);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     }
 
-    void missingFileIsMade()
+    void missingFileIsCreated()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("new"));
+        const QString fileName = folder.path(u"new"_s);
         QVERIFY(replaceWholeFile(fileName, "x"));
         QCOMPARE(fileBytes(fileName), QByteArray("x"));
     }
@@ -105,7 +106,7 @@ private slots:
     {
         QFETCH(const QByteArray, contents);
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("file"));
+        const QString fileName = folder.path(u"file"_s);
         QVERIFY(writeBytes(fileName, contents));
         const QDateTime old(QDate(2001, 2, 3), QTime(4, 5, 6));
         {
@@ -120,11 +121,11 @@ private slots:
     void missingFolderFails()
     {
         const TestFolder folder;
-        QVERIFY(!replaceWholeFile(folder.path(QStringLiteral("missing/file")), "x"));
-        QVERIFY(!QFile::exists(folder.path(QStringLiteral("missing"))));
+        QVERIFY(!replaceWholeFile(folder.path(u"missing/file"_s), "x"));
+        QVERIFY(!QFile::exists(folder.path(u"missing"_s)));
     }
 
-    void folderOfThatNameFails()
+    void folderCannotBeReplaced()
     {
         const TestFolder folder;
         QVERIFY(!replaceWholeFile(folder.path(), "x"));
@@ -133,10 +134,10 @@ private slots:
 
     void emptyNameFails() { QVERIFY(!replaceWholeFile(QString(), "x")); }
 
-    void permissionsAreKept()
+    void permissionsArePreserved()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("file"));
+        const QString fileName = folder.path(u"file"_s);
         QVERIFY(writeBytes(fileName, "old"));
         QVERIFY(QFile::setPermissions(fileName, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
         const QFile::Permissions before = QFile::permissions(fileName);
@@ -144,42 +145,41 @@ private slots:
         QCOMPARE(QFile::permissions(fileName), before);
     }
 
-    void whatACrashHasLeftGoes_data()
+    void leftoverOfACrashIsRemoved_data()
     {
         QTest::addColumn<QByteArray>("contents");
         QTest::newRow("the file is replaced") << QByteArray("new");
         QTest::newRow("the file has these bytes already") << QByteArray("old");
     }
 
-    void whatACrashHasLeftGoes()
+    void leftoverOfACrashIsRemoved()
     {
         QFETCH(const QByteArray, contents);
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("file"));
+        const QString fileName = folder.path(u"file"_s);
         QVERIFY(writeBytes(fileName, "old"));
-        QVERIFY(writeBytes(fileName + QStringLiteral(".nvxpart"), "longer than what is to be written"));
+        QVERIFY(writeBytes(fileName + u".nvxpart"_s, "longer than what is to be written"));
         QVERIFY(replaceWholeFile(fileName, contents));
         QCOMPARE(fileBytes(fileName), contents);
-        QCOMPARE(namesIn(folder), QStringList(QStringLiteral("file")));
+        QCOMPARE(namesIn(folder), QStringList(u"file"_s));
     }
 
-    void filesOfOthersWithSuchNamesStay()
+    void otherProgramsTemporaryFilesStay()
     {
         const TestFolder folder;
-        const QStringList names{QStringLiteral("file.aBcDeF"), QStringLiteral("file.backup"),
-                                QStringLiteral("file.part"), QStringLiteral("other.nvxpart")};
+        const QStringList names{u"file.aBcDeF"_s, u"file.backup"_s, u"file.part"_s, u"other.nvxpart"_s};
         for (const QString &name : names)
             QVERIFY(writeBytes(folder.path(name), "mine"));
-        QVERIFY(replaceWholeFile(folder.path(QStringLiteral("file")), "new"));
-        QCOMPARE(namesIn(folder), QStringList(QStringLiteral("file")) + names);
+        QVERIFY(replaceWholeFile(folder.path(u"file"_s), "new"));
+        QCOMPARE(namesIn(folder), QStringList(u"file"_s) + names);
     }
 
-    void whatAnotherProcessIsWritingStays()
+    void fileThatAnotherProcessIsWritingStays()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("file"));
+        const QString fileName = folder.path(u"file"_s);
         QVERIFY(writeBytes(fileName, "old"));
-        QFile part(fileName + QStringLiteral(".nvxpart"));
+        QFile part(fileName + u".nvxpart"_s);
         QVERIFY(part.open(QIODevice::WriteOnly));
         const auto claim = Nvx::Util::Platform::claimFile(part.fileName());
         QVERIFY(!replaceWholeFile(fileName, "new"));
@@ -188,14 +188,13 @@ private slots:
         QVERIFY(QFile::exists(part.fileName()));
     }
 
-    void whatIsUnfinishedIsRemovedAndNothingElse()
+    void onlyTheLeftoverIsRemoved()
     {
         const TestFolder folder;
-        const QStringList others{QStringLiteral("fil.nvxpart"), QStringLiteral("file"),
-                                 QStringLiteral("file.nvxparts"), QStringLiteral("file.part")};
-        for (const QString &name : others + QStringList(QStringLiteral("file.nvxpart")))
+        const QStringList others{u"fil.nvxpart"_s, u"file"_s, u"file.nvxparts"_s, u"file.part"_s};
+        for (const QString &name : others + QStringList(u"file.nvxpart"_s))
             QVERIFY(writeBytes(folder.path(name), "x"));
-        Nvx::Util::removeUnfinished(folder.path(QStringLiteral("file")));
+        Nvx::Util::removeUnfinished(folder.path(u"file"_s));
         QCOMPARE(namesIn(folder), others);
     }
 };

@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QTextStream>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qint64 mostBytes = FullDisk::mostBytes;
@@ -20,8 +22,8 @@ Clt::MessageTable largeTable()
     Clt::MessageTable table;
     for (int number = 0; number < 2000; ++number) {
         Clt::Message message;
-        message.setKey({QString::number(number), QStringLiteral("Clt"), QStringLiteral("client")});
-        message.setText(QStringLiteral("Text of message %1").arg(number));
+        message.setKey({QString::number(number), u"Clt"_s, u"client"_s});
+        message.setText(u"Text of message %1"_s.arg(number));
         table.insert(message);
     }
     return table;
@@ -39,26 +41,25 @@ class tst_whole_file_full_disk : public QObject
     Q_OBJECT
 
 private slots:
-    void fileOnAFullDiskStaysAsItWas()
+    void fileOnAFullDiskIsUnchanged()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("file"));
+        const QString fileName = folder.path(u"file"_s);
         QVERIFY(writeBytes(fileName, "old"));
         {
             const FullDisk disk;
             QVERIFY(!Nvx::Util::replaceWholeFile(fileName, QByteArray(2 * mostBytes, 'x')));
         }
         QCOMPARE(fileBytes(fileName), QByteArray("old"));
-        QCOMPARE(filesIn(folder), QStringList(QStringLiteral("file")));
+        QCOMPARE(filesIn(folder), QStringList(u"file"_s));
     }
 
-    void fileThatWasNotThereIsNotThere()
+    void newFileOnAFullDiskIsNotCreated()
     {
         const TestFolder folder;
         {
             const FullDisk disk;
-            QVERIFY(!Nvx::Util::replaceWholeFile(folder.path(QStringLiteral("file")),
-                                                 QByteArray(2 * mostBytes, 'x')));
+            QVERIFY(!Nvx::Util::replaceWholeFile(folder.path(u"file"_s), QByteArray(2 * mostBytes, 'x')));
         }
         QCOMPARE(filesIn(folder), QStringList());
     }
@@ -66,7 +67,7 @@ private slots:
     void fileThatJustFitsIsWritten()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("file"));
+        const QString fileName = folder.path(u"file"_s);
         {
             const FullDisk disk;
             QVERIFY(Nvx::Util::replaceWholeFile(fileName, QByteArray(mostBytes, 'x')));
@@ -77,19 +78,19 @@ private slots:
     void copyThatDoesNotFitLeavesNothing()
     {
         const TestFolder folder;
-        const QString source = folder.path(QStringLiteral("source"));
+        const QString source = folder.path(u"source"_s);
         QVERIFY(writeBytes(source, QByteArray(2 * mostBytes, 'x')));
         {
             const FullDisk disk;
-            QVERIFY(!Nvx::Util::copyToFreeName(source, folder.path(QStringLiteral("copy"))));
+            QVERIFY(!Nvx::Util::copyToFreeName(source, folder.path(u"copy"_s)));
         }
-        QCOMPARE(filesIn(folder), QStringList(QStringLiteral("source")));
+        QCOMPARE(filesIn(folder), QStringList(u"source"_s));
     }
 
     void messageTableIsNotSaved()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.xml"));
+        const QString fileName = folder.path(u"table.xml"_s);
         QVERIFY(Clt::MessageTable().save(fileName));
         const std::optional<QByteArray> before = fileBytes(fileName);
         {
@@ -99,11 +100,11 @@ private slots:
         QCOMPARE(fileBytes(fileName), before);
     }
 
-    void translationUpdateTellsThatItCouldNotSave()
+    void translationUpdateReportsThatItCouldNotSave()
     {
         const TestFolder folder;
-        const QString messages = folder.path(QStringLiteral("table.xml"));
-        const QString translation = folder.path(QStringLiteral("table.ts"));
+        const QString messages = folder.path(u"table.xml"_s);
+        const QString translation = folder.path(u"table.ts"_s);
         QVERIFY(largeTable().save(messages));
         QVERIFY(Error::TranslationTable().save(translation));
         const std::optional<QByteArray> before = fileBytes(translation);
@@ -113,14 +114,14 @@ private slots:
             const FullDisk disk;
             QVERIFY(!Error::synchronizeTranslationTable(messages, translation, stream, stream));
         }
-        QVERIFY(log.endsWith(QStringLiteral("\nCould not save translation table\n")));
+        QVERIFY(log.endsWith(u"\nCould not save translation table\n"_s));
         QCOMPARE(fileBytes(translation), before);
     }
 
-    void damagedFileThatDoesNotFitTwiceIsLeft()
+    void damagedFileIsUnchangedIfItsCopyDoesNotFit()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QString fileName = folder.path(u"table.ts"_s);
         const QByteArray damaged = "<TS>" + QByteArray(2 * mostBytes, ' ');
         QVERIFY(writeBytes(fileName, damaged));
         Error::TranslationTable table;
@@ -130,7 +131,7 @@ private slots:
             QVERIFY(!table.save(fileName));
         }
         QCOMPARE(fileBytes(fileName), damaged);
-        QCOMPARE(filesIn(folder), QStringList(QStringLiteral("table.ts")));
+        QCOMPARE(filesIn(folder), QStringList(u"table.ts"_s));
     }
 };
 

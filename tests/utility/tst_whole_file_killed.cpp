@@ -11,13 +11,15 @@
 
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int size = 4 * 1024 * 1024;
 constexpr int kills = 40;
-const QString replaceOption = QStringLiteral("--replace");
-const QString contendOption = QStringLiteral("--contend");
-const QString copyOption = QStringLiteral("--copy");
+const QString replaceOption = u"--replace"_s;
+const QString contendOption = u"--contend"_s;
+const QString copyOption = u"--copy"_s;
 
 QByteArray contents(char letter)
 {
@@ -33,7 +35,7 @@ QStringList namesBeside(const QString &fileName)
     return names;
 }
 
-/// Replaces the file again and again until somebody kills this program.
+/// Replaces the file repeatedly until this program is killed.
 int replaceForever(const QString &fileName)
 {
     const QByteArray first = contents('a');
@@ -43,14 +45,14 @@ int replaceForever(const QString &fileName)
     return 1;
 }
 
-/// The same, and goes on where another one was at it.
+/// The same, but continues if another process was replacing the file.
 int contendForever(const QString &fileName)
 {
     for (char letter = 'a';; letter = letter == 'a' ? 'b' : 'a')
         static_cast<void>(Nvx::Util::replaceWholeFile(fileName, contents(letter)));
 }
 
-/// Copies the file and removes the copy, again and again until somebody kills this program.
+/// Copies the file and removes the copy repeatedly until this program is killed.
 int copyForever(const QString &source, const QString &target)
 {
     while (Nvx::Util::copyToFreeName(source, target) && QFile::remove(target))
@@ -65,17 +67,17 @@ class tst_whole_file_killed : public QObject
     Q_OBJECT
 
 private slots:
-    void killedWriterLeavesTheOldFileOrTheNew()
+    void killedWriterLeavesTheOldFileOrTheNewOne()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("file"));
+        const QString fileName = folder.path(u"file"_s);
         QVERIFY(Nvx::Util::replaceWholeFile(fileName, contents('a')));
         for (int kill = 0; kill < kills; ++kill) {
             const QDateTime before = QFileInfo(fileName).lastModified();
             QProcess writer;
             writer.start(QCoreApplication::applicationFilePath(), {replaceOption, fileName});
             QVERIFY2(writer.waitForStarted(), qPrintable(writer.errorString()));
-            // The writer must be at it when it is killed, at another point each time.
+            // The writer must be killed while it writes, each time at another point.
             QVERIFY(QTest::qWaitFor([&] { return QFileInfo(fileName).lastModified() != before; }, 20'000));
             QVERIFY(!writer.waitForFinished(7 * kill % 50));
             writer.kill();
@@ -83,15 +85,15 @@ private slots:
             const std::optional<QByteArray> left = fileBytes(fileName);
             QVERIFY(left == contents('a') || left == contents('b'));
         }
-        // What the last one was writing goes with the next call.
+        // The next call removes the leftover of the last writer.
         QVERIFY(Nvx::Util::replaceWholeFile(fileName, "whole"));
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("file")));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(u"file"_s));
     }
 
-    void writersAtOnceLeaveAWholeFile()
+    void concurrentWritersLeaveACompleteFile()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("file"));
+        const QString fileName = folder.path(u"file"_s);
         QVERIFY(Nvx::Util::replaceWholeFile(fileName, contents('a')));
         std::array<QProcess, 3> writers;
         for (QProcess &writer : writers) {
@@ -103,7 +105,7 @@ private slots:
         int looks = 0;
         while (clock.elapsed() < 2000) {
             const std::optional<QByteArray> found = fileBytes(fileName);
-            // On Windows the file cannot be opened while it is given its name.
+            // On Windows the file cannot be opened while it is being renamed.
             QVERIFY(!found || found == contents('a') || found == contents('b'));
             looks += found ? 1 : 0;
         }
@@ -115,23 +117,23 @@ private slots:
         QVERIFY(looks > 0);
     }
 
-    void killedCopierLeavesAWholeCopyOrNone()
+    void killedCopierLeavesACompleteCopyOrNone()
     {
         const TestFolder folder;
-        const QString source = folder.path(QStringLiteral("source"));
-        const QString target = folder.path(QStringLiteral("copy"));
+        const QString source = folder.path(u"source"_s);
+        const QString target = folder.path(u"copy"_s);
         QVERIFY(writeBytes(source, contents('a')));
         for (int kill = 0; kill < kills; ++kill) {
             QProcess copier;
             copier.start(QCoreApplication::applicationFilePath(), {copyOption, source, target});
             QVERIFY2(copier.waitForStarted(), qPrintable(copier.errorString()));
-            // The copy itself is there for moments only, what is being written nearly always.
+            // The copy exists only for moments, the unfinished file nearly always.
             QVERIFY(QTest::qWaitFor([&] { return namesBeside(source).size() > 0; }, 20'000));
             QVERIFY(!copier.waitForFinished(7 * kill % 50));
             copier.kill();
             QVERIFY(copier.waitForFinished());
             QVERIFY(!QFile::exists(target) || fileBytes(target) == contents('a'));
-            // What was being written may stay; it must not be taken for the next one's.
+            // The unfinished file may stay, but must not be used for the next copy.
             const QStringList left = namesBeside(source);
             for (const QString &name : left)
                 QVERIFY(QFile::remove(folder.path(name)));

@@ -1,4 +1,4 @@
-// Files that do not answer as ordinary ones do.
+// Files that do not behave like ordinary ones.
 
 #include "nvx_util/whole_file.h"
 #include "support/file_bytes.h"
@@ -9,41 +9,43 @@
 #include <QFileInfo>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_whole_file_odd : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void copyOfWhatCannotBeReadWholeLeavesNothing_data()
+    void copyOfAnUnreadableFileLeavesNothing_data()
     {
         QTest::addColumn<QString>("source");
         QTest::newRow("it breaks when it is read") << breakingFile();
         QTest::newRow("it is shorter than it says") << boastingFile();
     }
 
-    void copyOfWhatCannotBeReadWholeLeavesNothing()
+    void copyOfAnUnreadableFileLeavesNothing()
     {
         QFETCH(const QString, source);
         const TestFolder folder;
         QVERIFY(QFileInfo::exists(source));
-        QVERIFY(!Nvx::Util::copyToFreeName(source, folder.path(QStringLiteral("copy"))));
+        QVERIFY(!Nvx::Util::copyToFreeName(source, folder.path(u"copy"_s)));
         QVERIFY(QDir(folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     }
 
-    void linkThatLeadsNowhereIsNotCopiedOver()
+    void danglingLinkIsNotReplacedByACopy()
     {
         const TestFolder folder;
-        const QString source = folder.path(QStringLiteral("source"));
-        const QString target = folder.path(QStringLiteral("target"));
+        const QString source = folder.path(u"source"_s);
+        const QString target = folder.path(u"target"_s);
         QVERIFY(writeBytes(source, "new"));
-        QVERIFY(QFile::link(folder.path(QStringLiteral("nowhere")), target));
+        QVERIFY(QFile::link(folder.path(u"nowhere"_s), target));
         QVERIFY(!Nvx::Util::copyToFreeName(source, target));
         QVERIFY(QFileInfo(target).isSymLink());
-        QVERIFY(!QFile::exists(target + QStringLiteral(".nvxpart")));
-        QVERIFY(!QFile::exists(folder.path(QStringLiteral("nowhere"))));
+        QVERIFY(!QFile::exists(target + u".nvxpart"_s));
+        QVERIFY(!QFile::exists(folder.path(u"nowhere"_s)));
     }
 
-    void linkStaysOneWhenItsFileIsReplaced_data()
+    void linkStaysALinkWhenItsFileIsReplaced_data()
     {
         QTest::addColumn<int>("links");
         QTest::addColumn<QByteArray>("old");
@@ -52,17 +54,17 @@ private slots:
         QTest::newRow("a link to a file that is to come") << 2 << QByteArray();
     }
 
-    void linkStaysOneWhenItsFileIsReplaced()
+    void linkStaysALinkWhenItsFileIsReplaced()
     {
         QFETCH(const int, links);
         QFETCH(const QByteArray, old);
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("file"));
+        const QString fileName = folder.path(u"file"_s);
         QVERIFY(old.isEmpty() || writeBytes(fileName, old));
         QString link = fileName;
         for (int number = 0; number < links; ++number) {
-            QVERIFY(QFile::link(link, link + QStringLiteral("+")));
-            link += QLatin1Char('+');
+            QVERIFY(QFile::link(link, link + u"+"_s));
+            link += u'+';
         }
         QVERIFY(Nvx::Util::replaceWholeFile(link, "new"));
         QCOMPARE(fileBytes(fileName), QByteArray("new"));
@@ -71,11 +73,11 @@ private slots:
             QVERIFY(QFileInfo(link).isSymLink());
     }
 
-    void linksInACircleAreNotReplaced()
+    void cyclicLinksAreNotReplaced()
     {
         const TestFolder folder;
-        const QString first = folder.path(QStringLiteral("first"));
-        const QString second = folder.path(QStringLiteral("second"));
+        const QString first = folder.path(u"first"_s);
+        const QString second = folder.path(u"second"_s);
         QVERIFY(QFile::link(second, first));
         QVERIFY(QFile::link(first, second));
         QVERIFY(!Nvx::Util::replaceWholeFile(first, "new"));
@@ -83,12 +85,12 @@ private slots:
         QVERIFY(QFileInfo(second).isSymLink());
     }
 
-    void fileThatIsShorterThanItSaysDoesNotHoldWhatBeginsLikeIt()
+    void fileShorterThanItsReportedSizeDoesNotCountAsEqual()
     {
         const std::optional<QByteArray> line = fileBytes(boastingFile());
         const qint64 claimed = QFileInfo(boastingFile()).size();
         QVERIFY(line && line->size() < claimed);
-        // Were it taken for the same, this would count as done; it is not ours to write.
+        // If the contents counted as equal this would succeed; the file cannot be written.
         QVERIFY(!Nvx::Util::replaceWholeFile(boastingFile(), line->leftJustified(claimed, 'x')));
         QCOMPARE(fileBytes(boastingFile()), line);
     }

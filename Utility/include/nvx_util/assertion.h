@@ -14,12 +14,11 @@ struct AssertionFailure
     int line = 0;
 };
 
-/// Reports a failed assertion: to the innermost AssertionListener of this thread, or to the application's
-/// message output when there is none. Returns, so that the caller goes on with its stated fallback.
+/// Reports a failed assertion to the innermost AssertionListener of this thread, or, without one, to the
+/// application's message output. Returns, so that the caller can continue with its fallback.
 void reportAssertionFailure(const char *condition, const char *unit, int line);
 
-/// Receives the failed assertions of its thread while it lives. Tests check with it for exactly the
-/// assertions that they expect.
+/// Receives the failed assertions of its thread during its lifetime. Tests use it to expect an assertion.
 class AssertionListener
 {
 public:
@@ -37,8 +36,7 @@ private:
 
 } // namespace Nvx::Util
 
-/// Reports a failure naming the condition, the source unit and the line when the condition does not hold.
-/// Execution goes on.
+/// Reports the condition, the source unit and the line if the condition is false. Execution continues.
 #define NVX_ASSERT(condition, unit)                                                                          \
     do {                                                                                                     \
         if (!(condition))                                                                                    \

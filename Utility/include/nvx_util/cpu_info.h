@@ -8,15 +8,15 @@ namespace Nvx::Util {
 
 class Log;
 
-/// The machine's processors, as the operating system describes their topology.
+/// The machine's processors, from the operating system's description of their topology.
 class CpuInfo
 {
 public:
-    /// Probes the machine. A probe that fails says so in the log and counts one processor of one core. The
-    /// folder is that of the product; the operating system is asked, so nothing in it is needed.
+    /// Probes the machine. If that fails, logs it and counts one processor with one core. The product folder
+    /// is not used: the operating system knows the processors.
     CpuInfo(Log &log, const QString &productFolder);
 
-    /// For counts that are known.
+    /// Uses known counts.
     explicit CpuInfo(const ProcessorCounts &counts);
 
     qint32 processorCount() const { return m_counts.processors; }

@@ -5,19 +5,19 @@
 
 namespace Nvx::Util {
 
-/// A log file of UTF-8 lines. Each line is on its way to the disk when append returns, so that a run that is
-/// killed leaves what it did. A log that is not open drops its lines.
+/// A log file of UTF-8 lines. Each line has been passed to the operating system when append returns, so it is
+/// not lost if the run is killed. A log that is not open drops its lines.
 class Log
 {
 public:
-    /// A log on the file of that path; nothing is opened yet.
+    /// A log in the file with this path. The file is not opened yet.
     explicit Log(const QString &path);
 
-    /// Opens the file for writing, behind what it holds when append is true, else in its place. False, and
-    /// the log stays closed, when the file cannot be opened.
+    /// Opens the file for writing. If append is true, lines are added at its end; otherwise its contents are
+    /// discarded. False if the file cannot be opened; the log then stays closed.
     bool open(bool append);
 
-    /// Writes the text as one line. Line breaks in it, "\n" or "\r\n", become those of the machine.
+    /// Writes the text as one line. Line breaks in it, "\n" or "\r\n", become the operating system's.
     void append(const QString &text);
 
     void close();

@@ -4,7 +4,8 @@
 
 namespace Nvx::Util {
 
-/// The machine that this process runs on. Needs an application object with a user interface for the boxes.
+/// The machine that this process runs on; most operations only call the functions of Platform. The message
+/// boxes need an application object with a user interface.
 class NativeMachine : public Machine
 {
 public:

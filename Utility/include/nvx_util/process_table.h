@@ -9,7 +9,7 @@ namespace Nvx::Util {
 
 using ProcessId = quint32;
 
-/// A process that is held open: it stays the same one even when it ends meanwhile.
+/// A process with an open handle. Its id is not reused, even after the process has ended.
 class OpenedProcess
 {
 public:
@@ -18,18 +18,17 @@ public:
     OpenedProcess &operator=(const OpenedProcess &) = delete;
     virtual ~OpenedProcess() = default;
 
-    /// The file name of its executable, "<unknown>" when the machine does not tell. At most 259 characters of
-    /// it, as of the path.
+    /// The file name of its executable, cut to 259 characters; "<unknown>" if the system does not return it.
     virtual QString baseName() const = 0;
 
-    /// The full path of its executable.
+    /// The full path of its executable, likewise.
     virtual QString path() const = 0;
 
-    /// Ends it at once, with the exit code -1. False when that was refused or it has ended by itself.
+    /// Terminates it with the exit code -1. False if that is denied or it has already ended.
     virtual bool terminate() = 0;
 };
 
-/// The processes that run on the machine.
+/// The running processes of the machine.
 class ProcessTable
 {
 public:
@@ -38,11 +37,12 @@ public:
     ProcessTable &operator=(const ProcessTable &) = delete;
     virtual ~ProcessTable() = default;
 
-    /// The first processes in the machine's order, as many as fit; none when the machine does not tell.
+    /// The ids of the processes in the system's order, at most atMost of them; empty if the system does not
+    /// return them.
     virtual QList<ProcessId> ids(int atMost) = 0;
 
-    /// Opens a process to look at it and to end it; null when that is not allowed, when it has ended, or when
-    /// it runs no executable that one could read about.
+    /// Opens a process for queries and termination. Null if that is not allowed, if it has ended, or if its
+    /// executable cannot be determined.
     virtual std::unique_ptr<OpenedProcess> open(ProcessId id) = 0;
 };
 

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The product's names as its texts, paths, services and registry keys use them. A new release changes them
-/// here and the version in the top CMakeLists.txt, which is compared with this file.
+/// The product's names, as used in texts, paths, services and registry keys. For a new release, change them
+/// here and the version in the top CMakeLists.txt; the build checks that they match.
 namespace Nvx::Product {
 
 inline const QString maker = QStringLiteral("Velmora");
@@ -21,7 +21,7 @@ inline const QString serverProgram = QStringLiteral("NVXServer.exe");
 inline const QString monitorProgram = QStringLiteral("NVXMonitor.exe");
 inline const QString runLog = QStringLiteral("NVXConfig.log");
 
-// Files in the all-users data folder, and in the folders of the languages.
+// Files in the all-users data folder and in the folders of the languages.
 inline const QString flagsFile = QStringLiteral("NVX_flags.txt");
 inline const QString materialNames = QStringLiteral("matprop.mdb");
 

@@ -4,13 +4,12 @@
 
 namespace Nvx::Util {
 
-/// What the maker's products record about each other in the registry.
+/// What the maker's products store in the registry for each other.
 class Registry
 {
 public:
-    /// Fills the buffer of capacity characters with the folder of the product's translators, a text ended by
-    /// a zero character. The text is empty when no folder is recorded, and also when it does not fit: a
-    /// folder is never cut short.
+    /// Writes the folder of the product's translators into the buffer of capacity characters, with a
+    /// terminating zero. The string is empty if no folder is stored or if it does not fit.
     static void readKelvaneTranslatorsFolder(wchar_t *buffer, std::size_t capacity);
 };
 

@@ -7,13 +7,13 @@
 
 namespace Nvx::Util {
 
-/// Why there is no value. The text is for the user who asked for it.
+/// Why there is no value, as text for the user.
 struct Failure
 {
     QString text;
 };
 
-/// What an operation returns that can fail: its value, or the text of the error.
+/// The result of an operation that can fail: its value, or the text of the error.
 ///
 ///     const Result<Project> project = readProject(path);
 ///     if (!project)
@@ -34,12 +34,12 @@ public:
 
     explicit operator bool() const { return m_value.has_value(); }
 
-    /// The value. Only for a result that is true.
+    /// The value. The result must be true.
     const Value &operator*() const & { return *m_value; }
     Value &&operator*() && { return *std::move(m_value); }
     const Value *operator->() const { return &*m_value; }
 
-    /// The text of the error; empty for a result that is true.
+    /// The text of the error; empty if the result is true.
     const QString &error() const { return m_error; }
 
 private:

@@ -6,24 +6,24 @@
 
 namespace Nvx::Util {
 
-/// What the service control manager says of a service.
+/// The state of a service, from the service control manager.
 enum class ServiceState
 {
-    NotInstalled, ///< it knows no service of that name
-    Stopped,      ///< also when its process has ended without a word
-    Active        ///< running, on its way there or back, or its state is closed to us
+    NotInstalled, ///< there is no service with this name
+    Stopped,      ///< or its process has ended without reporting that it stopped
+    Active        ///< running, starting or stopping, or access to its state is denied
 };
 
-/// What became of the request to stop a service.
+/// The result of asking a service to stop.
 enum class ServiceStop
 {
-    Refused,  ///< not installed, not running, or it takes no such request now
+    Refused,  ///< not installed, not running, or not accepting the request now
     Stopped,  ///< it has stopped, and its process has ended
-    NotInTime ///< it took the request, and was still at it when the time was over
+    NotInTime ///< it accepted the request and was still stopping at the time-out
 };
 
-/// The services of a machine. A service is named by the name that it is registered under. Where there is no
-/// service control manager no service is installed and every request fails.
+/// The services of a machine. A service is given by the name under which it is registered. Without a service
+/// control manager no service is installed and every request fails.
 class ServiceControl
 {
 public:
@@ -34,18 +34,18 @@ public:
 
     virtual ServiceState state(const QString &name) const = 0;
 
-    /// The description that is registered for people; empty when there is none.
+    /// The registered description; empty if there is none.
     virtual QString description(const QString &name) const = 0;
 
-    /// Starts a service without arguments. True when its program has been started; the service itself may
-    /// need some more time.
+    /// Starts a service without arguments. True if its program has been started; the service itself may still
+    /// be starting.
     virtual bool start(const QString &name) = 0;
 
-    /// Asks a service to stop, and waits for it for no more than the time given.
-    virtual ServiceStop stop(const QString &name, std::chrono::milliseconds patience) = 0;
+    /// Asks a service to stop, and waits up to the time-out for its process to end.
+    virtual ServiceStop stop(const QString &name, std::chrono::milliseconds timeout) = 0;
 
-    /// Deletes a service, or marks it for deletion: it goes once it has stopped and nobody looks at it any
-    /// more, and until then its name is taken. True also when it was marked already.
+    /// Deletes a service, or marks it for deletion: it is deleted once it has stopped and no program has it
+    /// open. Until then its name cannot be registered again. True also if it was already marked.
     virtual bool remove(const QString &name) = 0;
 };
 

@@ -4,28 +4,28 @@
 
 namespace Nvx::Util {
 
-/// A link file of the shell: what a shortcut on the desktop is.
+/// A link file of the shell, such as a shortcut on the desktop.
 struct ShellLink
 {
-    QString target;   ///< the program that it starts
+    QString target;   ///< the program to start
     QString linkPath; ///< the link file, ending in ".lnk"
     QString description;
     QString workFolder;
-    QString iconPath; ///< file whose first icon is shown; empty for the target's own
+    QString iconPath; ///< file whose first icon is shown; if empty, the target
     QString arguments;
 };
 
-/// The size of the buffers in which a link's texts are handed to the shell, in 16-bit characters. The last
-/// one ends the text, so a text that fits has at least one less.
+/// The size of the buffers in which a link's strings are passed to the shell, in 16-bit characters, including
+/// the terminating zero.
 constexpr qsizetype shellLinkTextCapacity = 260;
 
-/// The result for a text that does not fit: the number of the system's error "file name too long".
+/// The result for a string that does not fit: the system's error "file name too long".
 constexpr auto shellLinkTextTooLong = static_cast<qint32>(0x800700CEU);
 
-/// The result on a machine that has no shell links: the number of the system's error E_NOTIMPL.
+/// The result on a machine without shell links: the system's error E_NOTIMPL.
 constexpr auto shellLinksMissing = static_cast<qint32>(0x80004001U);
 
-/// The first text of the link that does not fit, the link file's own path among them; empty when all do.
+/// The first string of the link that does not fit, including the link file's path; empty if all fit.
 QString tooLongTextOf(const ShellLink &link);
 
 } // namespace Nvx::Util

@@ -2,7 +2,7 @@
 
 namespace Nvx::Util {
 
-/// True when the process's standard output is a terminal, where a line can be written over.
+/// True if the process's standard output is a terminal, where a line can be overwritten.
 bool isStandardOutputTerminal();
 
 } // namespace Nvx::Util

@@ -10,13 +10,13 @@ class QTranslator;
 
 namespace Nvx::Util {
 
-/// The translations of a program's interface into one language, in force while this object lives. A file that
-/// is missing is passed over: what it would translate stays in English.
+/// The translations of a program's interface into one language, installed for the lifetime of this object.
+/// Missing files are skipped; their texts stay in English.
 class Translators
 {
 public:
-    /// Loads the catalogues of those names, "NAME.qm", and the toolkit's own, "qt.qm" or else the file named
-    /// after the locale ("qt_de_DE.qm"), from the sub-folder of the folder that is named by the locale.
+    /// Loads from the sub-folder named after the locale: the given catalogues ("NAME.qm"), and Qt's own,
+    /// "qt.qm" or else the file named after the locale ("qt_de_DE.qm").
     Translators(const QString &folder, const QString &locale, const QStringList &catalogues);
     Translators(const Translators &) = delete;
     Translators &operator=(const Translators &) = delete;

@@ -7,27 +7,30 @@
 
 namespace Nvx::Util {
 
-/// All the bytes of a file; nothing when it cannot be opened or not all of it can be read, as when another
-/// process has locked a part.
+/// All bytes of a file; std::nullopt if it cannot be opened or not all of it can be read, for example because
+/// another process has locked a part of it.
 [[nodiscard]] std::optional<QByteArray> readWholeFile(const QString &fileName);
 
-/// Makes the bytes the contents of the file, whole or not at all: they are written beside it, under the name
-/// with ".nvxpart" behind it, flushed to the disk, and renamed over the old file. Whoever looks, also after a
-/// crash or on a full disk, finds the old file or the new one; a part that a crash has left goes with the
-/// next call. A file that has these very bytes already is left alone, with its time stamp. The old file's
-/// permissions are kept, and a symbolic link stays one. The folder must exist. False when the file is not
-/// writable, another process is replacing it, or the bytes could not be put on the disk; the old file is then
-/// as it was.
+/// Replaces the contents of a file, completely or not at all: the bytes are written to a new file next to it,
+/// with
+/// ".nvxpart" appended to its name, flushed to the disk, and renamed over the old file. At any time, also
+/// after a crash or on a full disk, the name refers to the old file or to the new one. A file with the same
+/// bytes is left alone and keeps its time stamp. The old file's permissions are preserved, and a symbolic
+/// link stays a link. The folder must exist. False if the file is not writable, another process is replacing
+/// it, or the bytes cannot be written to the disk; the old file is then unchanged.
+///
+/// This is not QSaveFile, because that one gives its temporary file a random name, so what a killed run
+/// leaves could not be found and removed by the next one.
 [[nodiscard]] bool replaceWholeFile(const QString &fileName, const QByteArray &contents);
 
-/// Copies a file to a name that is free, whole or not at all, by way of a part as above. Nothing that has the
-/// name is ever replaced, not even what comes there meanwhile. The copy has the permissions of a new file.
-/// False when the name is taken, the source cannot be read or the disk does not take the copy; no part of it
-/// is left then.
+/// Copies a file to an unused name, completely or not at all, through a ".nvxpart" file as above. An existing
+/// file is never replaced, not even one created during the copy. The copy has the permissions of a new file.
+/// False if the name is in use, or the source cannot be read or the copy cannot be written; nothing is left
+/// of it then.
 [[nodiscard]] bool copyToFreeName(const QString &source, const QString &target);
 
-/// Removes the part that a crash has left of a replacement of the file, or of a copy to its name. The file
-/// itself, and what another process is writing at this moment, stay.
+/// Removes the ".nvxpart" file that a crash has left next to this file. The file itself stays, and so does a
+/// ".nvxpart" file that another process is writing.
 void removeUnfinished(const QString &fileName);
 
 } // namespace Nvx::Util

@@ -12,7 +12,7 @@ namespace Nvx::Util::Platform {
 
 namespace {
 
-/// A descriptor with a lock on it, which the system takes away when the process ends, however it does.
+/// A locked descriptor. The system releases the lock when the process ends in any way.
 class Lock
 {
 public:
@@ -30,11 +30,11 @@ public:
 
     bool take() const
     {
-        // Where the file system has no locks, two processes at once are nothing that could be told.
+        // Without file locks, a second process cannot be detected.
         return m_descriptor >= 0 && (flock(m_descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK);
     }
 
-    /// Another process may have removed the file, and made one of that name, before the lock was ours.
+    /// Another process may have removed the file and created a new one with its name before we got the lock.
     bool isOn(const QByteArray &path) const
     {
         struct stat held = {};

@@ -4,7 +4,7 @@
 
 namespace Nvx::Util {
 
-// 8-bit text is UTF-8 here; only broken surrogates cannot be written.
+// 8-bit text is UTF-8 here; only unpaired surrogates cannot be encoded.
 std::optional<QByteArray> toAnsi(const QString &text)
 {
     QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);

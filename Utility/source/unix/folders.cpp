@@ -4,6 +4,8 @@
 
 #include <QStandardPaths>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util::Platform {
 
 QString machineFolder()
@@ -19,24 +21,24 @@ QString below(const QString &name)
     if (!machine.isEmpty())
         return joinPath(machine, name);
     const QString userData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return joinPath(userData, QStringLiteral("velmora/") + name);
+    return joinPath(userData, u"velmora/"_s + name);
 }
 
 } // namespace
 
 QString userDataRoot()
 {
-    return below(QStringLiteral("AppData"));
+    return below(u"AppData"_s);
 }
 
 QString allUsersDataRoot()
 {
-    return below(QStringLiteral("ProgramData"));
+    return below(u"ProgramData"_s);
 }
 
 QString publicDocumentsRoot()
 {
-    return below(QStringLiteral("Public/Documents"));
+    return below(u"Public/Documents"_s);
 }
 
 } // namespace Nvx::Util::Platform

@@ -4,8 +4,8 @@
 
 namespace Nvx::Util::Platform {
 
-/// The folder that stands for a Windows machine, as the environment variable NVX_MACHINE names it; empty when
-/// it is unset.
+/// The folder that substitutes for a Windows machine, from the environment variable NVX_MACHINE; empty if
+/// unset.
 QString machineFolder();
 
 } // namespace Nvx::Util::Platform

@@ -5,14 +5,16 @@
 #include <QProcess>
 #include <QThread>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util::Platform {
 
 namespace {
 
-// One that has ended yet still has to be taken note of by its parent is not running.
+// A zombie, which has ended but whose parent has not waited for it, is not running.
 bool isRunning(qint64 process)
 {
-    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    QFile file(u"/proc/%1/stat"_s.arg(process));
     if (!file.open(QIODevice::ReadOnly))
         return false;
     const QByteArray line = file.readAll(); // "NUMBER (NAME) STATE ..."
@@ -23,7 +25,7 @@ bool isRunning(qint64 process)
 
 QString commandLine()
 {
-    QFile file(QStringLiteral("/proc/self/cmdline"));
+    QFile file(u"/proc/self/cmdline"_s);
     if (!file.open(QIODevice::ReadOnly))
         return QString();
     QByteArray arguments = file.readAll();
@@ -43,7 +45,7 @@ void setArguments(QProcess &process, const ProgramCall &call)
 
 void setEnd(const QProcess &process, ProgramResult &result)
 {
-    // Of a program that crashed Qt reports the number of the signal.
+    // For a program that crashed, Qt returns the number of the signal.
     const bool crashed = process.exitStatus() == QProcess::CrashExit;
     result.outcome = crashed ? ProgramResult::Outcome::Crashed : ProgramResult::Outcome::Exited;
     result.exitCode = crashed ? 128 + process.exitCode() : process.exitCode();

@@ -6,7 +6,7 @@ namespace Nvx::Util::Platform {
 
 namespace {
 
-// The programs that are looked for do not run here, and nothing that does may be taken for one of them.
+// The programs that the product looks for are Windows programs; no process here may be mistaken for one.
 class NoProcesses final : public ProcessTable
 {
 public:

@@ -7,6 +7,8 @@
 
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util::Platform {
 
 namespace {
@@ -29,11 +31,11 @@ std::optional<ProcessorCounts> readTopology(const QString &folder)
     QSet<std::pair<int, int>> cores;
     qsizetype threads = 0;
     const QDir processors(folder);
-    const auto names = processors.entryList({QStringLiteral("cpu[0-9]*")}, QDir::Dirs);
+    const auto names = processors.entryList({u"cpu[0-9]*"_s}, QDir::Dirs);
     for (const QString &name : names) {
-        const QString topology = processors.filePath(name) + QStringLiteral("/topology/");
-        const auto package = readNumber(topology + QStringLiteral("physical_package_id"));
-        const auto core = readNumber(topology + QStringLiteral("core_id"));
+        const QString topology = processors.filePath(name) + u"/topology/"_s;
+        const auto package = readNumber(topology + u"physical_package_id"_s);
+        const auto core = readNumber(topology + u"core_id"_s);
         if (!package || !core)
             continue;
         packages.insert(*package);
@@ -48,7 +50,7 @@ std::optional<ProcessorCounts> readTopology(const QString &folder)
 
 std::optional<ProcessorCounts> probeProcessors()
 {
-    return readTopology(QStringLiteral("/sys/devices/system/cpu"));
+    return readTopology(u"/sys/devices/system/cpu"_s);
 }
 
 } // namespace Nvx::Util::Platform

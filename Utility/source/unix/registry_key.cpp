@@ -12,31 +12,30 @@
 #include <sys/stat.h>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util {
 
-// The file is one object: the path of each key with an object of its values, texts and numbers.
+// The file is one JSON object. It maps the path of each key to an object of its values, strings and numbers.
 
 namespace {
 
 QString registryFile()
 {
     const QString machine = Platform::machineFolder();
-    return machine.isEmpty() ? QString() : joinPath(machine, QStringLiteral("registry.json"));
+    return machine.isEmpty() ? QString() : joinPath(machine, u"registry.json"_s);
 }
 
-// What tells a version of a file from every other: it is replaced whole, so a new one is a new file.
+// Identifies a version of a file. Since the file is always replaced whole, a new version is a new file.
 struct FileVersion
 {
     dev_t device = 0;
     ino_t number = 0;
     off_t size = -1;
-    timespec changed = {};
+    time_t seconds = 0;
+    long nanoseconds = 0;
 
-    bool operator==(const FileVersion &other) const
-    {
-        return device == other.device && number == other.number && size == other.size &&
-               changed.tv_sec == other.changed.tv_sec && changed.tv_nsec == other.changed.tv_nsec;
-    }
+    bool operator==(const FileVersion &) const = default;
 };
 
 FileVersion versionOf(const QString &path)
@@ -44,10 +43,16 @@ FileVersion versionOf(const QString &path)
     struct stat status = {};
     if (::stat(QFile::encodeName(path).constData(), &status) != 0)
         return {};
-    return {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
+    return {
+        .device = status.st_dev,
+        .number = status.st_ino,
+        .size = status.st_size,
+        .seconds = status.st_mtim.tv_sec,
+        .nanoseconds = status.st_mtim.tv_nsec,
+    };
 }
 
-// A run asks for a hundred keys, so the file is read again only when it is another one.
+// A run reads a hundred keys, so the file is only read again when it has changed.
 QJsonObject readRegistry()
 {
     thread_local FileVersion lastVersion;
@@ -70,7 +75,7 @@ bool writeRegistry(const QJsonObject &registry)
     return replaceWholeFile(registryFile(), QJsonDocument(registry).toJson());
 }
 
-// The name under which the object holds the key or value that is called name in any case; else name itself.
+// The spelling of name in the object, ignoring case; name itself if the object does not have it.
 QString nameIn(const QJsonObject &object, const QString &name)
 {
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
@@ -116,14 +121,14 @@ QStringList RegistryKey::valueNames() const
 
 QStringList RegistryKey::subKeyNames() const
 {
-    const QString above = m_path + QLatin1Char('\\');
+    const QString above = m_path + u'\\';
     QStringList names;
     const QStringList paths = readRegistry().keys();
     for (const QString &path : paths) {
         if (!path.startsWith(above, Qt::CaseInsensitive))
             continue;
-        const QString name = path.mid(above.size()).section(QLatin1Char('\\'), 0, 0);
-        // Keys come sorted, so those below one sub-key follow each other.
+        const QString name = path.mid(above.size()).section(u'\\', 0, 0);
+        // The paths are sorted, so those below one sub-key are consecutive.
         if (names.isEmpty() || names.last().compare(name, Qt::CaseInsensitive) != 0)
             names.append(name);
     }
@@ -181,12 +186,12 @@ bool RegistryKey::removeValue(const QString &valueName)
 
 bool RegistryKey::removeWhole()
 {
-    if (!m_path.contains(QLatin1Char('\\')))
+    if (!m_path.contains(u'\\'))
         return false;
     QJsonObject registry = readRegistry();
     const QStringList paths = registry.keys();
     for (const QString &path : paths) {
-        if ((path + QLatin1Char('\\')).startsWith(m_path + QLatin1Char('\\'), Qt::CaseInsensitive))
+        if ((path + u'\\').startsWith(m_path + u'\\', Qt::CaseInsensitive))
             registry.remove(path);
     }
     return registry.size() == paths.size() || writeRegistry(registry);

@@ -7,7 +7,7 @@
 
 namespace Nvx::Util::Platform {
 
-// A link is never made over a name that is taken, a renamed file would be.
+// link() fails if the new name is in use; rename() would replace the file.
 bool renameToFreeName(const QString &from, const QString &to)
 {
     if (link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)

@@ -13,7 +13,7 @@ public:
     ServiceState state(const QString & /*name*/) const override { return ServiceState::NotInstalled; }
     QString description(const QString & /*name*/) const override { return QString(); }
     bool start(const QString & /*name*/) override { return false; }
-    ServiceStop stop(const QString & /*name*/, std::chrono::milliseconds /*patience*/) override
+    ServiceStop stop(const QString & /*name*/, std::chrono::milliseconds /*timeout*/) override
     {
         return ServiceStop::Refused;
     }

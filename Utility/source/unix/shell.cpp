@@ -2,7 +2,7 @@
 
 namespace Nvx::Util::Platform {
 
-// There is no shell to ask or to tell.
+// There is no Windows shell.
 
 QString commonDesktopFolder()
 {

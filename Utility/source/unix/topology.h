@@ -8,9 +8,9 @@
 
 namespace Nvx::Util::Platform {
 
-/// Counts the processors described below a folder like /sys/devices/system/cpu: in each sub-folder "cpu" +
-/// number the files topology/physical_package_id and topology/core_id. Processors without them (switched off)
-/// do not count; nothing is answered when none has them.
+/// Counts the processors described in a folder like /sys/devices/system/cpu, which contains the files
+/// cpuN/topology/physical_package_id and cpuN/topology/core_id. Processors without these files are switched
+/// off and do not count. std::nullopt if no processor has them.
 std::optional<ProcessorCounts> readTopology(const QString &folder);
 
 } // namespace Nvx::Util::Platform

@@ -11,8 +11,8 @@ std::optional<QByteArray> toCodePage(UINT codePage, const QString &text)
     if (text.isEmpty())
         return QByteArray();
 
-    // UTF-8, which a machine may have chosen as its code page, takes neither the "no best fit" flag nor the
-    // report of a default character; there only broken surrogates cannot be written.
+    // The machine's code page may be UTF-8, which accepts neither the "no best fit" flag nor the report of a
+    // default character; only unpaired surrogates cannot be encoded in it.
     const bool isUtf8 = codePage == CP_UTF8;
     const DWORD flags = isUtf8 ? WC_ERR_INVALID_CHARS : WC_NO_BEST_FIT_CHARS;
     BOOL usedDefault = FALSE;

@@ -9,12 +9,13 @@
 #include <objbase.h>
 #include <shlobj.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util::Platform {
 
 namespace {
 
-// The folder as the process's environment has it, which installers and tests redirect; without it, as the
-// shell knows it.
+// The folder from the process's environment, which installers and tests redirect, else from the shell.
 QString folder(const char *variable, const KNOWNFOLDERID &id)
 {
     QString path = qEnvironmentVariable(variable);
@@ -41,7 +42,7 @@ QString allUsersDataRoot()
 
 QString publicDocumentsRoot()
 {
-    return joinPath(folder("PUBLIC", FOLDERID_Public), QStringLiteral("Documents"));
+    return joinPath(folder("PUBLIC", FOLDERID_Public), u"Documents"_s);
 }
 
 } // namespace Nvx::Util::Platform

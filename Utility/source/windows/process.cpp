@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util::Platform {
 
 namespace {
@@ -26,9 +28,8 @@ QString commandLine()
 
 QString systemProgram(const QString &fileName)
 {
-    const QString exeName =
-        fileName.contains(QLatin1Char('.')) ? fileName : fileName + QStringLiteral(".exe");
-    // Most programs lie in the System32 folder, the Registry Editor in the Windows folder.
+    const QString exeName = fileName.contains(u'.') ? fileName : fileName + u".exe"_s;
+    // Most programs are in the System32 folder; the Registry Editor is in the Windows folder.
     for (const QString &folder : {folderOf(GetSystemDirectoryW), folderOf(GetSystemWindowsDirectoryW)}) {
         const QString program = joinPath(folder, exeName);
         if (!folder.isEmpty() && QFileInfo(program).isFile())
@@ -43,13 +44,13 @@ void setArguments(QProcess &process, const ProgramCall &call)
         process.setArguments(call.arguments);
         return;
     }
-    // The interpreter takes away the outermost quotes when the text between them holds "(", "&" and the like,
-    // as "C:\Program Files (x86)" does; a second pair keeps the path whole in every case.
-    process.setNativeArguments(
-        QStringLiteral("%1 \"\"%2\"\"").arg(call.arguments.first(), call.arguments.last()));
+    // The interpreter drops the outer quotes if the text between them contains "(", "&" or similar
+    // characters, as "C:\Program Files (x86)" does. A second pair protects the path.
+    process.setNativeArguments(u"%1 \"\"%2\"\""_s.arg(call.arguments.first(), call.arguments.last()));
 }
 
-// Qt takes every code with the highest bit for a crash, results of COM included. The code says what happened.
+// Qt treats every code with the highest bit set as a crash, including COM results. The code itself names the
+// cause.
 void setEnd(const QProcess &process, ProgramResult &result)
 {
     result.outcome = ProgramResult::Outcome::Exited;

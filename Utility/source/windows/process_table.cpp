@@ -25,7 +25,7 @@ public:
     }
     ~WindowsProcess() override { CloseHandle(m_process); }
 
-    // False when the process has no module that can be read: the first is its executable.
+    // Its executable is the first module. False if no module can be read.
     bool findExecutable()
     {
         DWORD needed = 0;

@@ -8,7 +8,7 @@ namespace Nvx::Util::Platform {
 
 namespace {
 
-// The records of one relation, one behind the other; empty when the system does not answer.
+// The consecutive records of one relation; empty if the system does not return them.
 QByteArray topologyRecords(LOGICAL_PROCESSOR_RELATIONSHIP relation)
 {
     DWORD size = 0;

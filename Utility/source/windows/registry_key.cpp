@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util {
 
 namespace {
@@ -17,10 +19,10 @@ const wchar_t *wide(const QString &text)
 HKEY rootOf(QStringView name)
 {
     static const std::pair<QLatin1String, HKEY> roots[] = {
-        {QLatin1String("HKEY_LOCAL_MACHINE"), HKEY_LOCAL_MACHINE},
-        {QLatin1String("HKEY_CURRENT_USER"), HKEY_CURRENT_USER},
-        {QLatin1String("HKEY_CLASSES_ROOT"), HKEY_CLASSES_ROOT},
-        {QLatin1String("HKEY_USERS"), HKEY_USERS},
+        {"HKEY_LOCAL_MACHINE"_L1, HKEY_LOCAL_MACHINE},
+        {"HKEY_CURRENT_USER"_L1, HKEY_CURRENT_USER},
+        {"HKEY_CLASSES_ROOT"_L1, HKEY_CLASSES_ROOT},
+        {"HKEY_USERS"_L1, HKEY_USERS},
     };
     for (const auto &[rootName, root] : roots) {
         if (name.compare(rootName, Qt::CaseInsensitive) == 0)
@@ -29,7 +31,7 @@ HKEY rootOf(QStringView name)
     return nullptr;
 }
 
-// An open key, closed at the end of its scope; null when it could not be opened.
+// An open key, closed at the end of its scope; null if it cannot be opened.
 class OpenKey
 {
 public:
@@ -41,7 +43,7 @@ public:
 
     OpenKey(const QString &path, REGSAM rights, Missing missing = Missing::Leave)
     {
-        const qsizetype separator = path.indexOf(QLatin1Char('\\'));
+        const qsizetype separator = path.indexOf(u'\\');
         const HKEY root = rootOf(QStringView(path).left(separator));
         if (!root)
             return;
@@ -67,7 +69,7 @@ public:
     explicit operator bool() const { return m_key != nullptr; }
     HKEY handle() const { return m_key; }
 
-    // True when the registry has no such key, and not when it refuses to open it.
+    // True if the key does not exist; false if access to it is denied.
     bool isMissing() const { return m_isMissing; }
 
 private:
@@ -75,14 +77,14 @@ private:
     bool m_isMissing = false;
 };
 
-// The names that one of the two listing calls answers for the indices from 0 on.
+// The names returned by one of the two listing calls for the indices from 0.
 template<typename ListCall>
 QStringList listNames(const OpenKey &key, ListCall listCall)
 {
     QStringList names;
     if (!key)
         return names;
-    std::vector<wchar_t> buffer(16384); // the longest name that a registry holds, and its end
+    std::vector<wchar_t> buffer(16384); // the longest name in a registry and a terminating zero
     for (DWORD index = 0;; ++index) {
         auto length = static_cast<DWORD>(buffer.size());
         if (listCall(key.handle(), index, buffer.data(), &length) != ERROR_SUCCESS)
@@ -138,10 +140,10 @@ std::optional<QString> RegistryKey::text(const QString &valueName) const
         const LSTATUS status =
             RegGetValueW(key.handle(), nullptr, wide(valueName), kinds, nullptr, buffer.data(), &size);
         if (status == ERROR_SUCCESS)
-            return QString::fromWCharArray(buffer.data()); // RegGetValueW has ended it with a zero
+            return QString::fromWCharArray(buffer.data()); // RegGetValueW adds a terminating zero
         if (status != ERROR_MORE_DATA)
             return std::nullopt;
-        // Somebody may write a longer text before we ask again, so the answer is not trusted to fit.
+        // Another program may write a longer string before the next call, so leave some room.
         buffer.resize(size / sizeof(wchar_t) + 256);
     }
 }
@@ -208,7 +210,7 @@ bool RegistryKey::removeValue(const QString &valueName)
 
 bool RegistryKey::removeWhole()
 {
-    const qsizetype separator = m_path.lastIndexOf(QLatin1Char('\\'));
+    const qsizetype separator = m_path.lastIndexOf(u'\\');
     if (separator < 0)
         return false;
     const OpenKey above(m_path.left(separator), KEY_READ | KEY_SET_VALUE | DELETE);

@@ -4,16 +4,18 @@
 
 #include <windows.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Util::Platform {
 
 namespace {
 
-// The form in which the system takes paths of more than 260 characters.
+// The form in which the system accepts paths of more than 260 characters.
 std::wstring longPath(const QString &path)
 {
     const QString native = QDir::toNativeSeparators(QDir::cleanPath(path));
-    const bool isLong = native.size() >= MAX_PATH && !native.startsWith(QLatin1String("\\\\"));
-    return (isLong ? QStringLiteral("\\\\?\\") + native : native).toStdWString();
+    const bool isLong = native.size() >= MAX_PATH && !native.startsWith("\\\\"_L1);
+    return (isLong ? u"\\\\?\\"_s + native : native).toStdWString();
 }
 
 } // namespace

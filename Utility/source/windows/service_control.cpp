@@ -36,10 +36,10 @@ using ProcessHandle = std::unique_ptr<void, CloseObject>;
 struct OpenedService
 {
     ServiceHandle handle;
-    bool isClosedToUs = false;
+    bool isDenied = false;
 };
 
-/// A service opened with certain rights. The handle is null when there is none, or it is closed to us.
+/// Opens a service with certain rights. The handle is null if the service does not exist or access is denied.
 OpenedService tryToOpen(const QString &name, DWORD rights)
 {
     OpenedService service;
@@ -47,7 +47,7 @@ OpenedService tryToOpen(const QString &name, DWORD rights)
     if (!control)
         return service;
     service.handle.reset(OpenServiceW(control.get(), name.toStdWString().c_str(), rights));
-    service.isClosedToUs = !service.handle && GetLastError() == ERROR_ACCESS_DENIED;
+    service.isDenied = !service.handle && GetLastError() == ERROR_ACCESS_DENIED;
     return service;
 }
 
@@ -66,7 +66,7 @@ std::optional<SERVICE_STATUS_PROCESS> statusOf(const ServiceHandle &service)
     return status;
 }
 
-/// The process that the service runs in, to be waited for; null when there is none.
+/// The process of the service, opened for waiting; null if there is none.
 ProcessHandle processOf(const ServiceHandle &service)
 {
     const auto status = statusOf(service);
@@ -75,18 +75,18 @@ ProcessHandle processOf(const ServiceHandle &service)
     return ProcessHandle(OpenProcess(SYNCHRONIZE, FALSE, status->dwProcessId));
 }
 
-/// Whether the process of a service has ended, of which the control manager may learn late or never.
+/// Whether the process of a service has ended. The control manager may notice that late or never.
 bool isWithoutProcess(const SERVICE_STATUS_PROCESS &status)
 {
     if (status.dwProcessId == 0)
-        return status.dwCurrentState == SERVICE_RUNNING; // else it may have none yet
+        return status.dwCurrentState == SERVICE_RUNNING; // when starting, it may not have one yet
     const ProcessHandle process(OpenProcess(SYNCHRONIZE, FALSE, status.dwProcessId));
     if (!process)
-        return GetLastError() == ERROR_INVALID_PARAMETER; // there is none of that id
+        return GetLastError() == ERROR_INVALID_PARAMETER; // no process has this id
     return WaitForSingleObject(process.get(), 0) == WAIT_OBJECT_0;
 }
 
-/// Waits until the service has stopped. What cannot be asked any more counts as stopped.
+/// Waits until the service has stopped. A service whose state can no longer be queried counts as stopped.
 bool waitUntilStopped(const ServiceHandle &service, Clock::time_point deadline)
 {
     for (;;) {
@@ -99,8 +99,8 @@ bool waitUntilStopped(const ServiceHandle &service, Clock::time_point deadline)
     }
 }
 
-/// Waits for the end of a process. It comes after the service has said that it stopped, and only then are
-/// its files free.
+/// Waits for the end of a process. A service reports that it stopped before its process ends, and its files
+/// are in use until then.
 bool waitForEnd(const ProcessHandle &process, Clock::time_point deadline)
 {
     if (!process)
@@ -116,7 +116,7 @@ public:
     ServiceState state(const QString &name) const override;
     QString description(const QString &name) const override;
     bool start(const QString &name) override;
-    ServiceStop stop(const QString &name, milliseconds patience) override;
+    ServiceStop stop(const QString &name, milliseconds timeout) override;
     bool remove(const QString &name) override;
 };
 
@@ -124,7 +124,7 @@ ServiceState NativeServices::state(const QString &name) const
 {
     const OpenedService service = tryToOpen(name, SERVICE_QUERY_STATUS);
     if (!service.handle)
-        return service.isClosedToUs ? ServiceState::Active : ServiceState::NotInstalled;
+        return service.isDenied ? ServiceState::Active : ServiceState::NotInstalled;
     const auto status = statusOf(service.handle);
     if (!status)
         return ServiceState::Active;
@@ -154,13 +154,13 @@ bool NativeServices::start(const QString &name)
     return service && StartServiceW(service.get(), 0, nullptr);
 }
 
-ServiceStop NativeServices::stop(const QString &name, milliseconds patience)
+ServiceStop NativeServices::stop(const QString &name, milliseconds timeout)
 {
     const ServiceHandle service = open(name, SERVICE_STOP | SERVICE_QUERY_STATUS);
     if (!service)
         return ServiceStop::Refused;
     const ProcessHandle process = processOf(service);
-    const auto deadline = Clock::now() + patience;
+    const auto deadline = Clock::now() + timeout;
     SERVICE_STATUS ignored = {};
     if (!ControlService(service.get(), SERVICE_CONTROL_STOP, &ignored))
         return ServiceStop::Refused;

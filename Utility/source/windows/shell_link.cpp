@@ -9,7 +9,8 @@ namespace Nvx::Util::Platform {
 
 namespace {
 
-// Leaves COM as it was found. A thread that already uses it in another way can make links all the same.
+// Initialises COM and restores its state. If the thread already uses COM in another mode, links can be
+// created all the same.
 class ComSession
 {
 public:
@@ -51,7 +52,7 @@ private:
     Interface *m_interface = nullptr;
 };
 
-// A text as the shell takes it, followed by zeros. One that is too long is refused before it comes here.
+// A string for the shell, padded with zeros. Strings that are too long have been rejected before.
 class WideText
 {
 public:

@@ -8,8 +8,8 @@
 
 namespace Nvx::Util::Platform {
 
-/// Writes the link through the shell's object and saves it. A text that the object refuses does not keep the
-/// others from being written. Returns the result of the last call, which is the one that saves.
+/// Writes the link through the shell's object and saves it. If the object rejects a string, the others are
+/// still written. Returns the result of the last call, which saves the link.
 HRESULT saveShellLink(IShellLinkW &shellLink, const ShellLink &link);
 
 } // namespace Nvx::Util::Platform

@@ -4,7 +4,7 @@
 
 namespace Nvx::Util {
 
-// Only a console has a mode; the null device, which the run-time library takes for a terminal, has none.
+// Only a console has a mode; the null device, which the run-time library treats as a terminal, does not.
 bool isStandardOutputTerminal()
 {
     DWORD mode = 0;
