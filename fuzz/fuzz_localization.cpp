@@ -1,4 +1,4 @@
-// What reaches the localisation tool from outside: its settings, sources, forms and the translators' files.
+// The external input of the localisation tool: its settings, sources, forms and the translators' files.
 
 #include "localization/job_file.h"
 #include "localization/localization_settings.h"
@@ -11,11 +11,11 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
     const QByteArray input(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
-    const auto settings = util::readLocalizationSettings(input);
-    const bool whole = util::isWholeTranslationFile(input);
-    const int calls = util::countTranslatableCalls(input);
-    const int strings = util::countTranslatableStrings(input);
-    // No document is both, and no call or text is shorter than its mark.
+    const auto settings = Localization::readLocalizationSettings(input);
+    const bool whole = Localization::isWholeTranslationFile(input);
+    const int calls = Localization::countTranslatableCalls(input);
+    const int strings = Localization::countTranslatableStrings(input);
+    // No document is both, and every call or string is at least as long as its marker.
     if ((settings && whole) || calls < 0 || strings < 0 || calls * 3 > input.size() ||
         strings * 9 > input.size())
         std::abort();

@@ -4,26 +4,27 @@
 
 #include <QXmlStreamReader>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::sourceLanguage;
 
-namespace util {
+namespace Localization {
 
 QByteArray jobFile(const QStringList &sourceNames)
 {
     QString text;
     for (const QString &name : sourceNames)
-        text += sourceLanguage.translatorsCode + QLatin1Char('\\') + name + QLatin1Char('\n');
+        text += sourceLanguage.translatorsCode + u'\\' + name + u'\n';
     return text.toUtf8();
 }
 
 bool isWholeTranslationFile(const QByteArray &bytes)
 {
     QXmlStreamReader reader(bytes);
-    if (!reader.readNextStartElement() || reader.name() != QLatin1String("TS"))
+    if (!reader.readNextStartElement() || reader.name() != "TS"_L1)
         return false;
     while (!reader.atEnd())
         reader.readNext();
     return !reader.hasError();
 }
 
-} // namespace util
+} // namespace Localization

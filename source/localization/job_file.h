@@ -3,14 +3,13 @@
 #include <QByteArray>
 #include <QStringList>
 
-namespace util {
+namespace Localization {
 
-/// The file that asks the translators for their work: UTF-8, one line per source, "enu\" and its name, each
+/// The contents of the job file for the translators: UTF-8, one line per source, "enu\" and its name, each
 /// ended by a line feed.
 QByteArray jobFile(const QStringList &sourceNames);
 
-/// True for the bytes of a translation file that can be taken over: well-formed XML whose document element is
-/// "TS".
+/// True for a complete translation file: well-formed XML with the document element "TS".
 bool isWholeTranslationFile(const QByteArray &bytes);
 
-} // namespace util
+} // namespace Localization

@@ -9,16 +9,17 @@
 #include <QFile>
 #include <QSet>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::joinPath;
 using Nvx::Util::Language;
 using Nvx::Util::sourceLanguage;
 using Nvx::Util::targetLanguages;
 
-namespace util {
+namespace Localization {
 
 namespace {
 
-const QStringList compiledFiles = {QStringLiteral("*.qm")};
+const QStringList compiledFiles = {u"*.qm"_s};
 
 // The language of the sources, then the others in their order.
 QList<Language> allLanguages()
@@ -30,10 +31,9 @@ QList<Language> allLanguages()
 
 } // namespace
 
-QStringList filesHandedOn()
+QStringList collectedFiles()
 {
-    return {QStringLiteral("*.ts"), QStringLiteral("*.qm"), QStringLiteral("*.xaml"),
-            QStringLiteral("*.csv")};
+    return {u"*.ts"_s, u"*.qm"_s, u"*.xaml"_s, u"*.csv"_s};
 }
 
 QStringList matchingFiles(const QString &folder, const QStringList &patterns)
@@ -60,7 +60,7 @@ bool copyWhole(const QString &source, const QString &target)
 
 LocaleFolders::LocaleFolders(const QString &root, Reporter &reporter)
     : m_hasRoot(!root.isEmpty())
-    , m_folder(joinPath(root, QStringLiteral("Locale")))
+    , m_folder(joinPath(root, u"Locale"_s))
     , m_reporter(reporter)
 {
 }
@@ -72,7 +72,7 @@ QString LocaleFolders::folder(const QString &locale) const
 
 QString LocaleFolders::collected(const QString &code) const
 {
-    return joinPath(m_folder, QStringLiteral("collect/") + code);
+    return joinPath(m_folder, u"collect/"_s + code);
 }
 
 void LocaleFolders::prepare()
@@ -84,7 +84,7 @@ void LocaleFolders::prepare()
         const QStringList names = matchingFiles(path, compiledFiles);
         for (const QString &name : names)
             if (!makeWritable(joinPath(path, name)))
-                m_reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + joinPath(path, name));
+                m_reporter.log(LogLevel::failure, u"Permission fails:"_s + joinPath(path, name));
     }
 }
 
@@ -92,7 +92,7 @@ bool LocaleFolders::make(const QString &folder)
 {
     if (m_hasRoot && QDir().mkpath(folder))
         return true;
-    m_reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + folder);
+    m_reporter.log(LogLevel::failure, u"Permission fails:"_s + folder);
     return false;
 }
 
@@ -106,17 +106,17 @@ void LocaleFolders::collect(const QString &source, const QString &target)
 {
     if (!make(target))
         return;
-    const QStringList names = matchingFiles(source, filesHandedOn());
-    const QSet<QString> kept(names.begin(), names.end());
-    const QStringList earlier = matchingFiles(target, filesHandedOn());
+    const QStringList names = matchingFiles(source, collectedFiles());
+    const QSet<QString> current(names.begin(), names.end());
+    const QStringList earlier = matchingFiles(target, collectedFiles());
     for (const QString &name : earlier) {
         const QString path = joinPath(target, name);
-        if (!kept.contains(name) && !(makeWritable(path) && QFile::remove(path)))
-            m_reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + path);
+        if (!current.contains(name) && !(makeWritable(path) && QFile::remove(path)))
+            m_reporter.log(LogLevel::failure, u"Permission fails:"_s + path);
     }
     for (const QString &name : names)
         if (!copyWhole(joinPath(source, name), joinPath(target, name)))
-            m_reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + joinPath(target, name));
+            m_reporter.log(LogLevel::failure, u"Permission fails:"_s + joinPath(target, name));
 }
 
-} // namespace util
+} // namespace Localization

@@ -5,15 +5,15 @@
 #include <QString>
 #include <QStringList>
 
-namespace util {
+namespace Localization {
 
-/// The folder "Locale" below the root: one folder per locale, and "collect" with what is handed to the
-/// translators, one folder per code of three letters.
+/// The folder "Locale" below the root: a folder for each locale, and "collect" with the copies for the
+/// translators, in a folder for each of their codes.
 class LocaleFolders
 {
 public:
-    /// Without a root every operation fails and touches nothing: a path without one would start at the top of
-    /// the current drive.
+    /// If root is empty, every operation fails and touches nothing: a path without a root would start at the
+    /// top of the current drive.
     LocaleFolders(const QString &root, Reporter &reporter);
 
     bool hasRoot() const { return m_hasRoot; }
@@ -21,15 +21,15 @@ public:
     /// The folder of a locale.
     QString folder(const QString &locale) const;
 
-    /// The folder of what is handed to the translators in the language of a code.
+    /// The folder with the translators' copies of a language, given by its code.
     QString collected(const QString &code) const;
 
-    /// Makes the folder of every language when it is missing, and lets its compiled files be replaced. Logs
-    /// each folder that cannot be made and each file that stays protected.
+    /// Creates the missing folders of the languages, and removes the write protection of the compiled files
+    /// in them. Logs each folder that cannot be created and each file that stays protected.
     void prepare();
 
-    /// Puts a copy of every file of every language that is to be handed on into its folder below "collect",
-    /// and takes out those that are gone. Logs what cannot be changed.
+    /// Copies the files of every language that are for the translators into its folder below "collect", and
+    /// deletes copies of files that no longer exist. Logs what cannot be changed.
     void collect();
 
 private:
@@ -41,17 +41,17 @@ private:
     Reporter &m_reporter;
 };
 
-/// The patterns of the files that are handed to the translators.
-QStringList filesHandedOn();
+/// The patterns of the files for the translators.
+QStringList collectedFiles();
 
-/// The names of the files in a folder that match one of the patterns, in order.
+/// The sorted names of the files in a folder that match one of the patterns.
 QStringList matchingFiles(const QString &folder, const QStringList &patterns);
 
-/// Takes the write protection from a file. True when the file may be written to, or is not there.
+/// Removes the write protection of a file. True if the file can be written to or does not exist.
 bool makeWritable(const QString &path);
 
-/// Replaces a file, write-protected or not, by a copy of another, whole. The folder must exist. False when
-/// that failed; the target is then as it was.
+/// Replaces a file, even a write-protected one, with a copy of another. The folder must exist. False if that
+/// fails; the target is then unchanged.
 bool copyWhole(const QString &source, const QString &target);
 
-} // namespace util
+} // namespace Localization

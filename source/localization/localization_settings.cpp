@@ -2,21 +2,23 @@
 
 #include <QXmlStreamReader>
 
-namespace util {
+using namespace Qt::Literals::StringLiterals;
 
-std::optional<LocalizationSettings> readLocalizationSettings(const QByteArray &xml)
+namespace Localization {
+
+Nvx::Util::Result<LocalizationSettings> readLocalizationSettings(const QByteArray &xml)
 {
     LocalizationSettings settings;
     QXmlStreamReader reader(xml);
-    if (!reader.readNextStartElement() || reader.name() != QLatin1String("localization"))
-        return std::nullopt;
+    if (!reader.readNextStartElement() || reader.name() != "localization"_L1)
+        reader.raiseError(u"no document element \"localization\""_s);
     while (reader.readNextStartElement()) {
         QString *text = nullptr;
-        if (reader.name() == QLatin1String("root"))
+        if (reader.name() == "root"_L1)
             text = &settings.root;
-        else if (reader.name() == QLatin1String("share"))
+        else if (reader.name() == "share"_L1)
             text = &settings.share;
-        else if (reader.name() == QLatin1String("qtTools"))
+        else if (reader.name() == "qtTools"_L1)
             text = &settings.qtTools;
         if (text)
             *text = reader.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
@@ -26,7 +28,7 @@ std::optional<LocalizationSettings> readLocalizationSettings(const QByteArray &x
     while (!reader.atEnd())
         reader.readNext();
     if (reader.hasError())
-        return std::nullopt;
+        return Nvx::Util::Failure{reader.errorString()};
     return settings;
 }
 
@@ -40,4 +42,4 @@ QString firstExisting(const QStringList &candidates, const std::function<bool(co
     return {};
 }
 
-} // namespace util
+} // namespace Localization

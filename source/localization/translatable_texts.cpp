@@ -8,7 +8,9 @@
 #include <array>
 #include <string_view>
 
-namespace util {
+using namespace Qt::Literals::StringLiterals;
+
+namespace Localization {
 
 namespace {
 
@@ -26,7 +28,7 @@ constexpr std::array<std::string_view, 8> markers = {
 bool isMarker(const Scan::Tokenizer &tokens)
 {
     return tokens.kind() == Scan::TokenKind::Identifier &&
-           std::find(markers.begin(), markers.end(), tokens.text()) != markers.end();
+           std::ranges::find(markers, tokens.text()) != markers.end();
 }
 
 } // namespace
@@ -53,9 +55,9 @@ int countTranslatableStrings(const QByteArray &form)
     int count = 0;
     while (!reader.atEnd()) {
         reader.readNext();
-        if (!reader.isStartElement() || reader.name() != QLatin1String("string"))
+        if (!reader.isStartElement() || reader.name() != "string"_L1)
             continue;
-        const bool excluded = reader.attributes().value(QLatin1String("notr")) == QLatin1String("true");
+        const bool excluded = reader.attributes().value("notr"_L1) == "true"_L1;
         const QString text = reader.readElementText(QXmlStreamReader::SkipChildElements);
         if (!excluded && !text.isEmpty() && !reader.hasError())
             ++count;
@@ -63,4 +65,4 @@ int countTranslatableStrings(const QByteArray &form)
     return count;
 }
 
-} // namespace util
+} // namespace Localization

@@ -10,17 +10,17 @@
 #include <chrono>
 #include <functional>
 
-namespace util {
+namespace Localization {
 
-/// Lets time pass.
+/// Waits for a time.
 using Pause = std::function<void(std::chrono::milliseconds)>;
 
-/// A piece of work for the translators, handed over on a share that both sides reach:
+/// A job for the translators, on a share that both sides can access. SHARE is the share's folder "pTrans":
 ///
-///     SHARE\NVX360\CODE\       the files of a language, both ways
-///     SHARE\~cBuild\job\       "NVX360.job" asks for the work, "NVX360.done" says that it is done
+///     SHARE\NVX360\CODE\       the files of a language, in both directions
+///     SHARE\~cBuild\job\       "NVX360.job" is the request, "NVX360.done" means that the job is done
 ///
-/// where SHARE is the share's folder "pTrans". Nothing here fails for the caller; what goes wrong is logged.
+/// Failures are logged and not returned.
 class TranslationJob : public QObject
 {
     Q_OBJECT
@@ -29,23 +29,23 @@ public:
     static constexpr std::chrono::milliseconds pollInterval = std::chrono::seconds(10);
     static constexpr int maxPolls = 200;
 
-    /// shareFolder is the folder of the files, SHARE\NVX360\, and jobFolder the one of the job file; both are
-    /// empty when there is no share. filePatterns name the files that come back.
+    /// shareFolder is SHARE\NVX360\ and jobFolder is SHARE\~cBuild\job\; both are empty without a share.
+    /// filePatterns match the files to download.
     TranslationJob(const LocaleFolders &folders, const QString &shareFolder, const QString &jobFolder,
                    const QStringList &filePatterns, Reporter &reporter, Pause pause);
 
-    /// Asks for the work. An answer to an earlier request is removed first.
+    /// Writes the request, and first removes the ".done" file of an earlier one.
     void writeJobFile();
 
-    /// Puts the collected files of every language on the share, each replaced whole, and takes out those that
-    /// are gone. A language whose collected files have no folder stays there as it is.
+    /// Copies the collected files of every language to the share, and deletes those there that are no longer
+    /// collected. The files of a language without a folder of collected files stay as they are.
     void upload();
 
-    /// Looks for the answer every pollInterval, and gives up after more than maxPolls looks.
+    /// Looks for the ".done" file every pollInterval, and gives up after more than maxPolls attempts.
     void waitUntilDone();
 
-    /// Takes the translators' files of every language over, each replaced whole. A translation file that is
-    /// not whole stays where it is.
+    /// Copies the translators' files of every language into its locale folder, except incomplete translation
+    /// files.
     void download();
 
 private:
@@ -53,7 +53,7 @@ private:
     void remove(const QString &path);
     void upload(const QString &source, const QString &target);
     void download(const QString &source, const QString &target);
-    bool takeOver(const QString &source, const QString &target);
+    bool downloadFile(const QString &source, const QString &target);
 
     LocaleFolders m_folders;
     QString m_shareFolder;
@@ -63,4 +63,4 @@ private:
     Pause m_pause;
 };
 
-} // namespace util
+} // namespace Localization

@@ -10,16 +10,18 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-namespace util {
+using namespace Qt::Literals::StringLiterals;
+
+namespace Localization {
 
 namespace {
 
-// Beside the file, for the tool writes paths that are relative to it; with its suffix, for that tells the
-// tool the format.
-QString besideIt(const QString &path)
+// The file is next to the real one, because the tool writes paths relative to it. It has the same suffix,
+// because the tool derives the format from it.
+QString draftOf(const QString &path)
 {
     const QFileInfo file(path);
-    const QString name = file.completeBaseName() + QStringLiteral(".new.") + file.suffix();
+    const QString name = file.completeBaseName() + u".new."_s + file.suffix();
     return QDir::toNativeSeparators(file.dir().filePath(name));
 }
 
@@ -38,7 +40,7 @@ QString TranslationTools::find(const QString &name) const
     QString tool = QStandardPaths::findExecutable(name, {folder});
     if (tool.isEmpty() && m_toolsFolder.isEmpty())
         tool = QStandardPaths::findExecutable(name);
-    // A tool that is not there is run all the same, for the log to say so.
+    // A missing tool is run all the same, so that the failure is in the log.
     return tool.isEmpty() ? Nvx::Util::joinPath(folder, name) : QDir::toNativeSeparators(tool);
 }
 
@@ -46,7 +48,7 @@ bool TranslationTools::copy(const QString &source, const QString &target)
 {
     const bool copied = copyWhole(source, target);
     if (!copied)
-        m_context.reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + target);
+        m_context.reporter.log(LogLevel::failure, u"Permission fails:"_s + target);
     return copied;
 }
 
@@ -57,28 +59,26 @@ bool TranslationTools::run(const QString &tool, const QStringList &arguments, co
 
 bool TranslationTools::update(const QString &project, const QString &translations)
 {
-    const QString draft = besideIt(translations);
+    const QString draft = draftOf(translations);
     QFile::remove(draft);
     if (QFile::exists(translations) && !copy(translations, draft))
         return false;
     const QString projectFolder = QDir::toNativeSeparators(QFileInfo(project).path());
     const bool updated =
-        run(QStringLiteral("lupdate"), {project, QStringLiteral("-ts"), draft}, projectFolder) &&
-        copy(draft, translations);
+        run(u"lupdate"_s, {project, u"-ts"_s, draft}, projectFolder) && copy(draft, translations);
     QFile::remove(draft);
     return updated;
 }
 
 bool TranslationTools::release(const QString &translations, const QString &compiled)
 {
-    const QString draft = besideIt(compiled);
+    const QString draft = draftOf(compiled);
     QFile::remove(draft);
     const QString folder = QDir::toNativeSeparators(QFileInfo(translations).path());
     const bool released =
-        run(QStringLiteral("lrelease"), {translations, QStringLiteral("-qm"), draft}, folder) &&
-        copy(draft, compiled);
+        run(u"lrelease"_s, {translations, u"-qm"_s, draft}, folder) && copy(draft, compiled);
     QFile::remove(draft);
     return released;
 }
 
-} // namespace util
+} // namespace Localization

@@ -5,23 +5,23 @@
 
 #include <QString>
 
-namespace util {
+namespace Localization {
 
-/// The toolkit's translation tools lupdate and lrelease. Each run is a process of its own and is ended after
-/// timeLimitMs; its command and output are logged. The file it makes is replaced whole, and stays as it was
-/// when the tool fails. What fails is logged.
+/// Qt's translation tools lupdate and lrelease. Each run is a separate process and is terminated after
+/// timeLimitMs; its command and output are logged. The file that it writes is replaced whole, and unchanged
+/// if the tool fails. Failures are logged.
 class TranslationTools
 {
 public:
     static constexpr int timeLimitMs = 30000;
 
-    /// The tools are those of the folder; without one, those beside the executable, then those in the PATH.
+    /// Uses the tools in the folder; if it is empty, those next to the executable, then those in the PATH.
     TranslationTools(const StepContext &context, const QString &toolsFolder);
 
-    /// Brings the translation file in step with the sources of a qmake project. True when it is.
+    /// Updates the translation file from the sources of a qmake project. True on success.
     bool update(const QString &project, const QString &translations);
 
-    /// Compiles a translation file. True when the compiled file is there.
+    /// Compiles a translation file. True on success.
     bool release(const QString &translations, const QString &compiled);
 
 private:
@@ -34,4 +34,4 @@ private:
     QString m_toolsFolder;
 };
 
-} // namespace util
+} // namespace Localization

@@ -14,6 +14,10 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::Literals::StringLiterals;
+using Localization::LocaleFolders;
+using Localization::LocalizationSettings;
+using Localization::TranslationTools;
 using Nvx::Util::joinPath;
 using Nvx::Util::Language;
 using Nvx::Util::sourceLanguage;
@@ -24,7 +28,7 @@ namespace util {
 
 namespace {
 
-const QString buildOutputFolder = QStringLiteral("C:\\build\\NVX2017");
+const QString buildOutputFolder = u"C:\\build\\NVX2017"_s;
 constexpr auto settlingTime = std::chrono::milliseconds(1000);
 
 bool isFolder(const QString &path)
@@ -41,8 +45,7 @@ QString onShare(const QString &share, const QString &relativePath)
 QStringList sourcesIn(const QString &folder)
 {
     QStringList paths;
-    QDirIterator files(folder, {QStringLiteral("*.cpp"), QStringLiteral("*.ui")}, QDir::Files,
-                       QDirIterator::Subdirectories);
+    QDirIterator files(folder, {u"*.cpp"_s, u"*.ui"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext())
         paths.append(QDir::toNativeSeparators(files.next()));
     paths.sort();
@@ -59,16 +62,16 @@ QByteArray bytesOf(const QString &path)
 
 util_localization_tool::util_localization_tool(const StepContext &context, QObject *parent)
     : QObject(parent)
-    , m_filePatterns{QStringLiteral("*.ts"), QStringLiteral("*.xaml"), QStringLiteral("*.csv")}
+    , m_filePatterns{u"*.ts"_s, u"*.xaml"_s, u"*.csv"_s}
     , m_context(context)
 {
     const LocalizationSettings settings = readSettings();
     m_rootFolder = QDir::toNativeSeparators(settings.root);
-    m_shareFolder = onShare(settings.share, QStringLiteral("pTrans/NVX360/"));
+    m_shareFolder = onShare(settings.share, u"pTrans/NVX360/"_s);
     m_toolsFolder = settings.qtTools;
-    m_job = std::make_unique<TranslationJob>(
+    m_job = std::make_unique<Localization::TranslationJob>(
         LocaleFolders(m_rootFolder, m_context.reporter), m_shareFolder,
-        onShare(settings.share, QStringLiteral("pTrans/~cBuild/job")), m_filePatterns, m_context.reporter,
+        onShare(settings.share, u"pTrans/~cBuild/job"_s), m_filePatterns, m_context.reporter,
         [&machine = context.machine](std::chrono::milliseconds time) { machine.sleep(time); });
 }
 
@@ -76,21 +79,20 @@ util_localization_tool::~util_localization_tool() = default;
 
 LocalizationSettings util_localization_tool::readSettings() const
 {
-    const QString path = joinPath(m_context.machine.executableFolder(), QStringLiteral("localization.xml"));
+    const QString path = joinPath(m_context.machine.executableFolder(), u"localization.xml"_s);
     if (!QFile::exists(path)) {
-        LocalizationSettings settings;
-        settings.root =
-            firstExisting({buildOutputFolder, System::getProgramFilesPathFromRegistry(false)}, isFolder);
-        return settings;
+        return {.root = Localization::firstExisting(
+                    {buildOutputFolder, System::getProgramFilesPathFromRegistry(false)}, isFolder)};
     }
-    std::optional<LocalizationSettings> settings = readLocalizationSettings(bytesOf(path));
+    const auto settings = Localization::readLocalizationSettings(bytesOf(path));
     if (!settings) {
         // Guessing another folder could rewrite the wrong sources.
         m_context.reporter.log(LogLevel::failure, tr("%1 is damaged").arg(path));
         return {};
     }
-    settings->root = firstExisting({settings->root}, isFolder);
-    return *settings;
+    return {.root = Localization::firstExisting({settings->root}, isFolder),
+            .share = settings->share,
+            .qtTools = settings->qtTools};
 }
 
 QString util_localization_tool::inRoot(const QString &relativePath) const
@@ -100,7 +102,7 @@ QString util_localization_tool::inRoot(const QString &relativePath) const
 
 QString util_localization_tool::inLocale(QLatin1StringView locale, const QString &name) const
 {
-    return inRoot(QStringLiteral("Locale/%1/%2").arg(locale, name));
+    return inRoot(u"Locale/%1/%2"_s.arg(locale, name));
 }
 
 void util_localization_tool::runScript()
@@ -126,12 +128,13 @@ void util_localization_tool::runScript()
 
 void util_localization_tool::scanSources()
 {
-    const QStringList paths = hasRoot() ? sourcesIn(inRoot(QStringLiteral("Projects"))) : QStringList();
+    const QStringList paths = hasRoot() ? sourcesIn(inRoot(u"Projects"_s)) : QStringList();
     qint64 total = 0;
     for (const QString &path : paths) {
         const QByteArray bytes = bytesOf(path);
-        const bool form = path.endsWith(QLatin1String(".ui"), Qt::CaseInsensitive);
-        const int count = form ? countTranslatableStrings(bytes) : countTranslatableCalls(bytes);
+        const bool form = path.endsWith(".ui"_L1, Qt::CaseInsensitive);
+        const int count = form ? Localization::countTranslatableStrings(bytes)
+                               : Localization::countTranslatableCalls(bytes);
         total += count;
         m_context.reporter.log(LogLevel::step,
                                tr("%1: %2 texts to translate").arg(path, QString::number(count)));
@@ -140,13 +143,14 @@ void util_localization_tool::scanSources()
                            tr("%1 texts to translate in %2 files").arg(total).arg(paths.size()));
 }
 
-// The lines that end in "cool" tell how far the run is. What went wrong before them has lines of its own.
+// The lines that end in "cool" report the progress of the run, also after a failure, which has lines of its
+// own.
 void util_localization_tool::updateEnglishSources()
 {
-    update(QStringLiteral("Projects/Client/client.pro"), QStringLiteral("client.ts"));
-    m_context.reporter.log(LogLevel::step, QStringLiteral("tr1 finishes cool"));
-    update(QStringLiteral("Projects/Config/Config.pro"), QStringLiteral("nvxconfig.ts"));
-    m_context.reporter.log(LogLevel::step, QStringLiteral("tr2 finishes cool"));
+    update(u"Projects/Client/client.pro"_s, u"client.ts"_s);
+    m_context.reporter.log(LogLevel::step, u"tr1 finishes cool"_s);
+    update(u"Projects/Config/Config.pro"_s, u"nvxconfig.ts"_s);
+    m_context.reporter.log(LogLevel::step, u"tr2 finishes cool"_s);
 }
 
 void util_localization_tool::update(const QString &project, const QString &name)
@@ -159,18 +163,18 @@ void util_localization_tool::update(const QString &project, const QString &name)
 
 void util_localization_tool::updateMaterialNames()
 {
-    const QString translations = inLocale(sourceLanguage.locale, QStringLiteral("matprop.ts"));
-    if (hasRoot() && makeWritable(translations)) {
-        const mat::TableUpdate update = mat::updateTranslationFile(
-            inRoot(QStringLiteral("Projects/Client/runtime/matprop.mdb")), translations);
+    const QString translations = inLocale(sourceLanguage.locale, u"matprop.ts"_s);
+    if (hasRoot() && Localization::makeWritable(translations)) {
+        const mat::TableUpdate update =
+            mat::updateTranslationFile(inRoot(u"Projects/Client/runtime/matprop.mdb"_s), translations);
         if (update.outcome != mat::TableUpdate::Outcome::Updated)
             m_context.reporter.log(LogLevel::failure, update.error);
         else if (!update.note.isEmpty())
             m_context.reporter.log(LogLevel::failure, update.note);
     } else {
-        m_context.reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + translations);
+        m_context.reporter.log(LogLevel::failure, u"Permission fails:"_s + translations);
     }
-    m_context.reporter.log(LogLevel::step, QStringLiteral("mat finishes cool"));
+    m_context.reporter.log(LogLevel::step, u"mat finishes cool"_s);
 }
 
 void util_localization_tool::runTranslationJob()
@@ -178,20 +182,20 @@ void util_localization_tool::runTranslationJob()
     m_job->writeJobFile();
     m_job->upload();
     m_job->waitUntilDone();
-    m_context.reporter.log(LogLevel::step, QStringLiteral("job done"));
+    m_context.reporter.log(LogLevel::step, u"job done"_s);
     m_job->download();
-    m_context.reporter.log(LogLevel::step, QStringLiteral("cbuild finishes cool"));
+    m_context.reporter.log(LogLevel::step, u"cbuild finishes cool"_s);
 }
 
 void util_localization_tool::compile()
 {
     for (const Language &language : targetLanguages) {
-        m_context.reporter.log(LogLevel::step, QStringLiteral("release client ") + language.locale);
-        release(language.locale, QStringLiteral("client.ts"), QStringLiteral("client.qm"));
-        m_context.reporter.log(LogLevel::step, QStringLiteral("release config ") + language.locale);
-        release(language.locale, QStringLiteral("nvxconfig.ts"), QStringLiteral("nvxconfig.qm"));
+        m_context.reporter.log(LogLevel::step, u"release client "_s + language.locale);
+        release(language.locale, u"client.ts"_s, u"client.qm"_s);
+        m_context.reporter.log(LogLevel::step, u"release config "_s + language.locale);
+        release(language.locale, u"nvxconfig.ts"_s, u"nvxconfig.qm"_s);
     }
-    m_context.reporter.log(LogLevel::step, QStringLiteral("release finishes cool"));
+    m_context.reporter.log(LogLevel::step, u"release finishes cool"_s);
 }
 
 void util_localization_tool::release(QLatin1StringView locale, const QString &translations,
@@ -205,16 +209,16 @@ void util_localization_tool::release(QLatin1StringView locale, const QString &tr
 
 void util_localization_tool::copyRibbon()
 {
-    const auto name = QStringLiteral("Ribbon2D.xmal");
+    const auto name = u"Ribbon2D.xmal"_s;
     const QString source = inLocale(sourceLanguage.locale, name);
     for (const Language &language : targetLanguages) {
         const QString target = inLocale(language.locale, name);
-        if (hasRoot() && !makeWritable(target))
-            m_context.reporter.log(LogLevel::failure, QStringLiteral("Permission fails:") + target);
-        else if (!hasRoot() || !copyWhole(source, target))
-            m_context.reporter.log(LogLevel::failure, QStringLiteral("Copy fails:") + target);
+        if (hasRoot() && !Localization::makeWritable(target))
+            m_context.reporter.log(LogLevel::failure, u"Permission fails:"_s + target);
+        else if (!hasRoot() || !Localization::copyWhole(source, target))
+            m_context.reporter.log(LogLevel::failure, u"Copy fails:"_s + target);
     }
-    m_context.reporter.log(LogLevel::step, QStringLiteral("Ribbon2D copied cool"));
+    m_context.reporter.log(LogLevel::step, u"Ribbon2D copied cool"_s);
 }
 
 } // namespace util

@@ -12,10 +12,9 @@
 
 namespace util {
 
-/// Renews the product's translations: brings the English translation files in step with the sources, hands
-/// them to the translators on a share, waits for the answer and compiles what comes back. It blocks while it
-/// runs, for more than half an hour when the translators do not answer. docs/localization.md tells how to set
-/// it up.
+/// Updates the product's translations: updates the English translation files from the sources, puts them on a
+/// share for the translators, waits until they are done and compiles the result. It blocks, for more than
+/// half an hour if the translators do not finish. docs/localization.md describes how to set it up.
 class util_localization_tool : public QObject
 {
     Q_OBJECT
@@ -25,12 +24,12 @@ public:
     explicit util_localization_tool(const StepContext &context, QObject *parent = nullptr);
     ~util_localization_tool() override;
 
-    /// Does all of it, in order. Each step logs what it does and what fails; none stops the others. Without a
-    /// root folder every step fails and touches nothing.
+    /// Runs all steps in order. Each step logs what it does and what fails; no failure stops the run. Without
+    /// a root folder every step fails and touches nothing.
     void runScript();
 
 private:
-    LocalizationSettings readSettings() const;
+    Localization::LocalizationSettings readSettings() const;
     bool hasRoot() const { return !m_rootFolder.isEmpty(); }
     QString inRoot(const QString &relativePath) const;
     QString inLocale(QLatin1StringView locale, const QString &name) const;
@@ -44,9 +43,9 @@ private:
     void release(QLatin1StringView locale, const QString &translations, const QString &compiled);
     void copyRibbon();
 
-    QString m_rootFolder;  ///< of sources and locale folders, an existing one; empty when there is none
-    QString m_shareFolder; ///< of the files on the share; empty when no share is named
-    std::unique_ptr<TranslationJob> m_job;
+    QString m_rootFolder;  ///< existing folder of sources and locale folders, or empty
+    QString m_shareFolder; ///< folder of the files on the share; empty without a share
+    std::unique_ptr<Localization::TranslationJob> m_job;
     QStringList m_filePatterns;
 
     StepContext m_context;

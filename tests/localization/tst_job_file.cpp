@@ -3,24 +3,25 @@
 
 #include <QTest>
 
-using util::isWholeTranslationFile;
-using util::jobFile;
+using namespace Qt::Literals::StringLiterals;
+using Localization::isWholeTranslationFile;
+using Localization::jobFile;
 
 class tst_job_file : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void eachSourceIsALineOfTheJobFile()
+    void theJobFileHasALineForEachSource()
     {
-        QCOMPARE(jobFile({QStringLiteral("client.ts"), QString::fromUtf8("prüfung.ts")}),
+        QCOMPARE(jobFile({u"client.ts"_s, QString::fromUtf8("prüfung.ts")}),
                  QByteArray("enu\\client.ts\nenu\\pr\xc3\xbc"
                             "fung.ts\n"));
     }
 
     void aJobFileOfNoSourcesIsEmpty() { QCOMPARE(jobFile({}), QByteArray()); }
 
-    void aTranslationFileIsTakenOverWhenItIsWhole_data()
+    void aTranslationFileIsCompleteIfItIsWellFormed_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<bool>("whole");
@@ -35,7 +36,7 @@ private slots:
         QTest::newRow("bytes of no encoding") << QByteArray("<TS>\xff\xfe</TS>") << false;
     }
 
-    void aTranslationFileIsTakenOverWhenItIsWhole()
+    void aTranslationFileIsCompleteIfItIsWellFormed()
     {
         QFETCH(const QByteArray, bytes);
         QTEST(isWholeTranslationFile(bytes), "whole");

@@ -1,5 +1,5 @@
-// Where the tool works when nobody has set it up. The folders of a Windows machine are names below the test's
-// own folder here.
+// The folders of the tool without a settings file. The folders of a Windows machine are simulated by relative
+// names in the test's folder.
 
 #include "localization/util_localization_tool.h"
 #include "nvx_util/registry_key.h"
@@ -8,12 +8,13 @@
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
-#include "support/text.h"
 
 #include <QDir>
 #include <QTest>
 
 #include <memory>
+
+using namespace Qt::Literals::StringLiterals;
 
 class tst_localization_defaults : public QObject
 {
@@ -23,12 +24,11 @@ private slots:
     void init()
     {
         m_test = std::make_unique<TestMachine>();
-        QVERIFY(QDir().mkpath(m_test->path(text("work"))));
-        QVERIFY(QDir().mkpath(m_test->path(text("programs"))));
-        QVERIFY(QDir::setCurrent(m_test->path(text("work"))));
-        Nvx::Util::RegistryKey windows(
-            text("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion"));
-        QVERIFY(windows.setText(text("ProgramFilesDir"), m_test->path(text("programs"))));
+        QVERIFY(QDir().mkpath(m_test->path(u"work"_s)));
+        QVERIFY(QDir().mkpath(m_test->path(u"programs"_s)));
+        QVERIFY(QDir::setCurrent(m_test->path(u"work"_s)));
+        Nvx::Util::RegistryKey windows(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion"_s);
+        QVERIFY(windows.setText(u"ProgramFilesDir"_s, m_test->path(u"programs"_s)));
     }
 
     void cleanup()
@@ -39,24 +39,24 @@ private slots:
 
     void withoutSettingsTheRootIsTheProgramFilesFolderAndThereIsNoShare()
     {
-        QCOMPARE(foldersOfARun(), QStringList({text("0 ") + m_test->path(text("programs")), text("0 ")}));
+        QCOMPARE(foldersOfARun(), QStringList({u"0 "_s + m_test->path(u"programs"_s), u"0 "_s}));
     }
 
     void theFolderOfTheBuildMachineComesFirst()
     {
-        const QString build = text("C:\\build\\NVX2017");
+        const QString build = u"C:\\build\\NVX2017"_s;
         QVERIFY(QDir().mkdir(build));
-        QCOMPARE(foldersOfARun().first(), text("0 ") + build);
+        QCOMPARE(foldersOfARun().first(), u"0 "_s + build);
     }
 
-    void settingsWithoutARootNameNone()
+    void settingsWithoutARootHaveNoRoot()
     {
-        writeFile(m_test->path(text("NVX/localization.xml")), "<localization/>");
-        QCOMPARE(foldersOfARun(), QStringList({text("0 "), text("0 ")}));
+        writeFile(m_test->path(u"NVX/localization.xml"_s), "<localization/>");
+        QCOMPARE(foldersOfARun(), QStringList({u"0 "_s, u"0 "_s}));
     }
 
 private:
-    /// The first two lines of a run, which end with a folder each.
+    /// The first two lines of a run, each of which ends with a folder.
     QStringList foldersOfARun()
     {
         RecordingMachine machine;

@@ -1,4 +1,4 @@
-// Files that cannot be read whole, and files whose write protection stays.
+// Files that cannot be read completely, and files whose write protection cannot be removed.
 
 #include "localization/locale_folders.h"
 #include "localization/translation_job.h"
@@ -15,7 +15,8 @@
 
 #include <memory>
 
-using util::LocaleFolders;
+using namespace Qt::Literals::StringLiterals;
+using Localization::LocaleFolders;
 
 namespace {
 
@@ -50,22 +51,22 @@ private slots:
         QVERIFY(QDir().mkpath(path("share/job")));
     }
 
-    void whatCannotBeReadIsNotCopied_data() { addUnreadableFiles(); }
+    void anUnreadableFileIsNotCopied_data() { addUnreadableFiles(); }
 
-    void whatCannotBeReadIsNotCopied()
+    void anUnreadableFileIsNotCopied()
     {
         QFETCH(const QString, file);
         writeFile(path("target"), "old");
-        QVERIFY(!util::copyWhole(file, path("target")));
+        QVERIFY(!Localization::copyWhole(file, path("target")));
         QCOMPARE(readFile(path("target")), QByteArray("old"));
     }
 
-    void nothingIsCopiedOverAFileWhoseProtectionStays()
+    void aFileWhoseProtectionStaysIsNotReplaced()
     {
         writeFile(path("source"), "new");
         QVERIFY(linkTo(protectedFile(), path("target")));
-        QVERIFY(!util::makeWritable(path("target")));
-        QVERIFY(!util::copyWhole(path("source"), path("target")));
+        QVERIFY(!Localization::makeWritable(path("target")));
+        QVERIFY(!Localization::copyWhole(path("source"), path("target")));
     }
 
     void aCompiledFileWhoseProtectionStaysIsLogged()
@@ -73,26 +74,26 @@ private slots:
         const QString compiled = path("root/Locale/de-DE/client.qm");
         QVERIFY(linkTo(protectedFile(), compiled));
         LocaleFolders(path("root"), *m_reporter).prepare();
-        QCOMPARE(m_reporter->lines, QStringList(text("1 Permission fails:") + compiled));
+        QCOMPARE(m_reporter->lines, QStringList(u"1 Permission fails:"_s + compiled));
     }
 
-    void anEarlierFileThatStaysAmongTheCollectedOnesIsLogged()
+    void anObsoleteCopyThatCannotBeDeletedIsLogged()
     {
         const QString earlier = path("root/Locale/collect/deu/gone.ts");
         QVERIFY(QDir().mkpath(QFileInfo(earlier).path()));
         QVERIFY(linkTo(protectedFile(), earlier));
         LocaleFolders(path("root"), *m_reporter).collect();
-        QCOMPARE(m_reporter->lines, QStringList(text("1 Permission fails:") + earlier));
+        QCOMPARE(m_reporter->lines, QStringList(u"1 Permission fails:"_s + earlier));
         QVERIFY(QFile::exists(earlier));
     }
 
-    void anAnswerWhoseProtectionStaysIsLogged()
+    void aDoneFileWhoseProtectionStaysIsLogged()
     {
         const QString done = path("share/job/NVX360.done");
         QVERIFY(linkTo(protectedFile(), done));
         job().writeJobFile();
         QCOMPARE(m_reporter->lines.mid(0, 2),
-                 QStringList({text("1 can't remove") + done, text("1 ") + done + text(" still exist")}));
+                 QStringList({u"1 can't remove"_s + done, u"1 "_s + done + u" still exist"_s}));
     }
 
     void aLanguageWithoutAFolderOnTheShareIsLoggedAndTheOthersAreUploaded()
@@ -101,13 +102,13 @@ private slots:
         writeFile(path("root/Locale/collect/deu/client.ts"), whole);
         writeFile(path("root/Locale/collect/fra/client.ts"), whole);
         job().upload();
-        QVERIFY(m_reporter->lines.contains(text("1 %1 not available").arg(path("share/NVX360/deu"))));
+        QVERIFY(m_reporter->lines.contains(u"1 %1 not available"_s.arg(path("share/NVX360/deu"))));
         QCOMPARE(readFile(path("share/NVX360/fra/client.ts")), whole);
     }
 
-    void aTranslationThatCannotBeReadIsNotTakenOver_data() { addUnreadableFiles(); }
+    void anUnreadableTranslationIsNotDownloaded_data() { addUnreadableFiles(); }
 
-    void aTranslationThatCannotBeReadIsNotTakenOver()
+    void anUnreadableTranslationIsNotDownloaded()
     {
         QFETCH(const QString, file);
         writeFile(path("root/Locale/de-DE/words.csv"), "old");
@@ -115,16 +116,16 @@ private slots:
         QVERIFY(QDir().mkpath(QFileInfo(answered).path()));
         QVERIFY(linkTo(file, answered));
         job().download();
-        QVERIFY(m_reporter->lines.contains(text("1 download fails ") + answered));
+        QVERIFY(m_reporter->lines.contains(u"1 download fails "_s + answered));
         QCOMPARE(readFile(path("root/Locale/de-DE/words.csv")), QByteArray("old"));
     }
 
-    void aTranslationIsNotTakenOverIntoAFileWhoseProtectionStays()
+    void aTranslationIsNotDownloadedToAFileWhoseProtectionStays()
     {
         writeFile(path("share/NVX360/deu/client.ts"), whole);
         QVERIFY(linkTo(protectedFile(), path("root/Locale/de-DE/client.ts")));
         job().download();
-        QVERIFY(m_reporter->lines.contains(text("1 download fails ") + path("share/NVX360/deu/client.ts")));
+        QVERIFY(m_reporter->lines.contains(u"1 download fails "_s + path("share/NVX360/deu/client.ts")));
     }
 
     void translationsThatCannotBeReadAreNotUpdated()
@@ -132,7 +133,7 @@ private slots:
         QVERIFY(linkTo(breakingFile(), path("client.ts")));
         QVERIFY(!tools().update(path("client.pro"), path("client.ts")));
         QVERIFY(m_machine->calls.isEmpty());
-        QCOMPARE(m_reporter->lines, QStringList(text("1 Permission fails:") + path("client.new.ts")));
+        QCOMPARE(m_reporter->lines, QStringList(u"1 Permission fails:"_s + path("client.new.ts")));
     }
 
     void whatAToolMadeIsNotPutIntoAFileWhoseProtectionStays()
@@ -148,9 +149,9 @@ private slots:
         QVERIFY(!tools().update(path("client.pro"), path("client.ts")));
         QVERIFY(!QFile::exists(path("client.new.ts")));
         QCOMPARE(m_machine->calls.size(), 2);
-        QCOMPARE(m_reporter->lines.filter(text("1 ")),
-                 QStringList({text("1 Permission fails:") + path("client.qm"),
-                              text("1 Permission fails:") + path("client.ts")}));
+        QCOMPARE(m_reporter->lines.filter(u"1 "_s),
+                 QStringList({u"1 Permission fails:"_s + path("client.qm"),
+                              u"1 Permission fails:"_s + path("client.ts")}));
     }
 
     void aRibbonThatCannotBeCopiedIsLoggedForEachLanguage()
@@ -163,23 +164,23 @@ private slots:
         const QString french = path("root/Locale/fr-FR/Ribbon2D.xmal");
         QVERIFY(linkTo(protectedFile(), german));
         util::util_localization_tool(context()).runScript();
-        QVERIFY(m_reporter->lines.contains(text("1 Permission fails:") + german));
-        QVERIFY(m_reporter->lines.contains(text("1 Copy fails:") + french));
+        QVERIFY(m_reporter->lines.contains(u"1 Permission fails:"_s + german));
+        QVERIFY(m_reporter->lines.contains(u"1 Copy fails:"_s + french));
         QVERIFY(m_reporter->lines.contains(
-            text("0 %1: 0 texts to translate").arg(path("root/Projects/closed.cpp"))));
+            u"0 %1: 0 texts to translate"_s.arg(path("root/Projects/closed.cpp"))));
     }
 
 private:
     QString path(const char *name) const { return m_test->path(text(name)); }
     StepContext context() { return {*m_machine, *m_reporter, m_state}; }
-    util::TranslationTools tools() { return {context(), QString()}; }
+    Localization::TranslationTools tools() { return {context(), QString()}; }
 
-    util::TranslationJob job()
+    Localization::TranslationJob job()
     {
         return {LocaleFolders(path("root"), *m_reporter),
                 path("share/NVX360"),
                 path("share/job"),
-                {text("*.ts"), text("*.csv")},
+                {u"*.ts"_s, u"*.csv"_s},
                 *m_reporter,
                 [](std::chrono::milliseconds) {}};
     }

@@ -1,11 +1,11 @@
 #include "localization/localization_settings.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
-using util::firstExisting;
-using util::readLocalizationSettings;
+using namespace Qt::Literals::StringLiterals;
+using Localization::firstExisting;
+using Localization::readLocalizationSettings;
 
 class tst_localization_settings : public QObject
 {
@@ -18,9 +18,9 @@ private slots:
                                                        "<share>\\\\host\\a b</share><qtTools>C:\\Qt\\bin"
                                                        "</qtTools></localization>");
         QVERIFY(settings);
-        QCOMPARE(settings->root, text("C:\\Übung\\nvx"));
-        QCOMPARE(settings->share, text("\\\\host\\a b"));
-        QCOMPARE(settings->qtTools, text("C:\\Qt\\bin"));
+        QCOMPARE(settings->root, u"C:\\Übung\\nvx"_s);
+        QCOMPARE(settings->share, u"\\\\host\\a b"_s);
+        QCOMPARE(settings->qtTools, u"C:\\Qt\\bin"_s);
     }
 
     void whatIsNotNamedIsEmpty()
@@ -36,7 +36,7 @@ private slots:
         const auto settings = readLocalizationSettings(
             "<localization><note><root>C:\\other</root></note><root>C:\\nvx</root></localization>");
         QVERIFY(settings);
-        QCOMPARE(settings->root, text("C:\\nvx"));
+        QCOMPARE(settings->root, u"C:\\nvx"_s);
     }
 
     void aDamagedFileGivesNothing_data()
@@ -61,12 +61,12 @@ private slots:
         QTest::addColumn<QStringList>("candidates");
         QTest::addColumn<QString>("taken");
         QTest::newRow("none") << QStringList() << QString();
-        QTest::newRow("none exists") << QStringList{text("x"), text("y")} << QString();
-        QTest::newRow("the first") << QStringList{text("here"), text("there")} << text("here");
-        QTest::newRow("the second") << QStringList{text("x"), text("there")} << text("there");
-        QTest::newRow("with blanks around it") << QStringList{text(" here\r\n")} << text("here");
+        QTest::newRow("none exists") << QStringList{u"x"_s, u"y"_s} << QString();
+        QTest::newRow("the first") << QStringList{u"here"_s, u"there"_s} << u"here"_s;
+        QTest::newRow("the second") << QStringList{u"x"_s, u"there"_s} << u"there"_s;
+        QTest::newRow("with blanks around it") << QStringList{u" here\r\n"_s} << u"here"_s;
         QTest::newRow("empty ones are passed over")
-            << QStringList{text("  "), QString(), text("here")} << text("here");
+            << QStringList{u"  "_s, QString(), u"here"_s} << u"here"_s;
     }
 
     void theFirstFolderThatExistsIsTaken()
@@ -74,7 +74,7 @@ private slots:
         QFETCH(const QStringList, candidates);
         QFETCH(const QString, taken);
         const auto exists = [](const QString &path) {
-            return path.isEmpty() || path == QLatin1String("here") || path == QLatin1String("there");
+            return path.isEmpty() || path == "here"_L1 || path == "there"_L1;
         };
         QCOMPARE(firstExisting(candidates, exists), taken);
     }

@@ -1,4 +1,4 @@
-// The steps of a whole run, in their order: on a machine where no program runs and time passes at once.
+// The steps of a whole run in order, on a machine where programs only are recorded and sleep returns at once.
 
 #include "localization/util_localization_tool.h"
 #include "nvx_util/languages.h"
@@ -14,6 +14,8 @@
 #include <QTest>
 
 #include <memory>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -63,8 +65,8 @@ private slots:
     void theShareFolderEndsWithASeparator()
     {
         run();
-        QCOMPARE(m_reporter->lines.at(0), text("0 ") + path("root"));
-        QCOMPARE(m_reporter->lines.at(1), text("0 ") + path("share/pTrans/NVX360") + QDir::separator());
+        QCOMPARE(m_reporter->lines.at(0), u"0 "_s + path("root"));
+        QCOMPARE(m_reporter->lines.at(1), u"0 "_s + path("share/pTrans/NVX360") + QDir::separator());
     }
 
     void compiledFilesAreMadeWritableAgainAfterTheCollection()
@@ -124,14 +126,13 @@ private slots:
         run();
         QStringList expected;
         for (const Nvx::Util::Language &language : Nvx::Util::targetLanguages)
-            expected << text("0 release client ") + language.locale
-                     << text("0 release config ") + language.locale;
-        expected << text("0 release finishes cool");
-        QCOMPARE(m_reporter->lines.filter(text("0 release ")), expected);
+            expected << u"0 release client "_s + language.locale << u"0 release config "_s + language.locale;
+        expected << u"0 release finishes cool"_s;
+        QCOMPARE(m_reporter->lines.filter(u"0 release "_s), expected);
 
-        const qsizetype config = m_reporter->lines.indexOf(text("0 release config fr-FR"));
+        const qsizetype config = m_reporter->lines.indexOf(u"0 release config fr-FR"_s);
         const QString command = m_reporter->lines.at(config + 1);
-        QVERIFY2(command.startsWith(text("0 Command:")), qPrintable(command));
+        QVERIFY2(command.startsWith(u"0 Command:"_s), qPrintable(command));
         QVERIFY2(command.contains(path("root/Locale/fr-FR/nvxconfig.ts")), qPrintable(command));
     }
 
@@ -139,11 +140,11 @@ private slots:
     {
         run();
         const QStringList lines = m_reporter->lines;
-        const qsizetype timeout = lines.indexOf(text("1 timeout"));
+        const qsizetype timeout = lines.indexOf(u"1 timeout"_s);
         QVERIFY(timeout > 0);
-        QCOMPARE(lines.at(timeout + 1), text("0 job done"));
-        QVERIFY(lines.at(timeout + 2).startsWith(text("0 download")));
-        QCOMPARE(lines.last(), text("0 Ribbon2D copied cool"));
+        QCOMPARE(lines.at(timeout + 1), u"0 job done"_s);
+        QVERIFY(lines.at(timeout + 2).startsWith(u"0 download"_s));
+        QCOMPARE(lines.last(), u"0 Ribbon2D copied cool"_s);
     }
 
     void aStepThatFailsHasItsLineAllTheSame()
@@ -153,16 +154,15 @@ private slots:
         run();
         QStringList cool;
         for (const QString &line : std::as_const(m_reporter->lines))
-            if (line.endsWith(text(" cool")))
+            if (line.endsWith(u" cool"_s))
                 cool.append(line);
-        QCOMPARE(cool, QStringList({text("0 tr1 finishes cool"), text("0 tr2 finishes cool"),
-                                    text("0 mat finishes cool"), text("0 job file cool"),
-                                    text("0 cbuild finishes cool"), text("0 release finishes cool"),
-                                    text("0 Ribbon2D copied cool")}));
-        QCOMPARE(m_reporter->lines.count(text("3 Output:")), 18);
-        QCOMPARE(
-            m_reporter->lines.filter(text("1 ") + path("root/Projects/Client/runtime/matprop.mdb")).size(),
-            1);
+        QCOMPARE(cool,
+                 QStringList({u"0 tr1 finishes cool"_s, u"0 tr2 finishes cool"_s, u"0 mat finishes cool"_s,
+                              u"0 job file cool"_s, u"0 cbuild finishes cool"_s, u"0 release finishes cool"_s,
+                              u"0 Ribbon2D copied cool"_s}));
+        QCOMPARE(m_reporter->lines.count(u"3 Output:"_s), 18);
+        QCOMPARE(m_reporter->lines.filter(u"1 "_s + path("root/Projects/Client/runtime/matprop.mdb")).size(),
+                 1);
     }
 
     void materialNamesWithPluralFormsAreKeptAndTheLogNamesTheCopy()
@@ -172,10 +172,10 @@ private slots:
         const QString names = path("root/Locale/en-US/matprop.ts");
         writeFile(names, plural);
         run();
-        const qsizetype done = m_reporter->lines.indexOf(text("0 mat finishes cool"));
+        const qsizetype done = m_reporter->lines.indexOf(u"0 mat finishes cool"_s);
         QCOMPARE(m_reporter->lines.value(done - 1),
-                 text("1 Plural forms were dropped; the old file is %1.before").arg(names));
-        QCOMPARE(readFile(names + text(".before")), plural);
+                 u"1 Plural forms were dropped; the old file is %1.before"_s.arg(names));
+        QCOMPARE(readFile(names + u".before"_s), plural);
     }
 
     void withoutARootFolderEveryStepFailsAndTheNextFollows()
@@ -190,7 +190,7 @@ private slots:
         QVERIFY(!QFile::exists(path("no root")));
         QVERIFY(!QFile::exists(native("/Locale")));
         QCOMPARE(namesIn(path("share/pTrans/~cBuild/job")), QStringList());
-        QCOMPARE(namesIn(path("share/pTrans/NVX360")), QStringList(text("deu")));
+        QCOMPARE(namesIn(path("share/pTrans/NVX360")), QStringList(u"deu"_s));
     }
 
 private:
@@ -199,8 +199,7 @@ private:
     void writeSettings(const QString &root)
     {
         writeFile(path("NVX/localization.xml"),
-                  text("<localization><root>%1</root><share>%2</share></localization>")
-                      .arg(root, path("share"))
+                  u"<localization><root>%1</root><share>%2</share></localization>"_s.arg(root, path("share"))
                       .toUtf8());
     }
 
@@ -212,45 +211,43 @@ private:
         util::util_localization_tool({*m_machine, *m_reporter, state}).runScript();
     }
 
-    /// What a run without a root folder logs. Paths below the root start with a separator then.
+    /// The log of a run without a root folder. Paths below the root then start with a separator.
     QStringList linesWithoutARoot() const
     {
-        const QString locale = QDir::toNativeSeparators(text("/Locale/"));
+        const QString locale = QDir::toNativeSeparators(u"/Locale/"_s);
         const QString share = path("share/pTrans/NVX360") + QDir::separator();
-        QStringList prepared = {text("1 Permission fails:") + locale + text("en-US")};
-        QStringList collected = {text("1 Permission fails:") + locale + native("collect/enu")};
+        QStringList prepared = {u"1 Permission fails:"_s + locale + u"en-US"_s};
+        QStringList collected = {u"1 Permission fails:"_s + locale + native("collect/enu")};
         QStringList uploaded;
         QStringList downloaded;
         QStringList released;
         QStringList copied;
         for (const Nvx::Util::Language &language : Nvx::Util::targetLanguages) {
             const QString there = share + language.translatorsCode;
-            prepared << text("1 Permission fails:") + locale + language.locale;
-            collected << text("1 Permission fails:") + locale + native("collect/") + language.translatorsCode;
-            uploaded << text("0 upload ") + there << text("1 upload fails ") + there;
-            downloaded << text("0 download") + there << text("1 download fails ") + there;
-            released << text("0 release client ") + language.locale
-                     << text("0 release config ") + language.locale;
-            copied << text("1 Copy fails:") + locale + language.locale + native("/Ribbon2D.xmal");
+            prepared << u"1 Permission fails:"_s + locale + language.locale;
+            collected << u"1 Permission fails:"_s + locale + native("collect/") + language.translatorsCode;
+            uploaded << u"0 upload "_s + there << u"1 upload fails "_s + there;
+            downloaded << u"0 download"_s + there << u"1 download fails "_s + there;
+            released << u"0 release client "_s + language.locale << u"0 release config "_s + language.locale;
+            copied << u"1 Copy fails:"_s + locale + language.locale + native("/Ribbon2D.xmal");
         }
-        uploaded << text("0 upload ") + share + text("enu") << text("1 upload fails ") + share + text("enu");
-        QStringList lines = {text("0 "), text("0 ") + share,
-                             text("1 There is no folder of sources, nothing is translated")};
+        uploaded << u"0 upload "_s + share + u"enu"_s << u"1 upload fails "_s + share + u"enu"_s;
+        QStringList lines = {u"0 "_s, u"0 "_s + share,
+                             u"1 There is no folder of sources, nothing is translated"_s};
         lines += prepared;
-        lines << text("0 0 texts to translate in 0 files") << text("0 tr1 finishes cool")
-              << text("0 tr2 finishes cool")
-              << text("1 Permission fails:") + locale + native("en-US/matprop.ts")
-              << text("0 mat finishes cool");
+        lines << u"0 0 texts to translate in 0 files"_s << u"0 tr1 finishes cool"_s
+              << u"0 tr2 finishes cool"_s << u"1 Permission fails:"_s + locale + native("en-US/matprop.ts")
+              << u"0 mat finishes cool"_s;
         lines += collected + prepared;
-        lines << text("1 can't write ") + path("share/pTrans/~cBuild/job/NVX360.job");
+        lines << u"1 can't write "_s + path("share/pTrans/~cBuild/job/NVX360.job");
         lines += uploaded;
-        lines << text("1 timeout") << text("0 job done");
+        lines << u"1 timeout"_s << u"0 job done"_s;
         lines += downloaded;
-        lines << text("0 cbuild finishes cool");
+        lines << u"0 cbuild finishes cool"_s;
         lines += prepared + released;
-        lines << text("0 release finishes cool");
+        lines << u"0 release finishes cool"_s;
         lines += copied;
-        lines << text("0 Ribbon2D copied cool");
+        lines << u"0 Ribbon2D copied cool"_s;
         return lines;
     }
 

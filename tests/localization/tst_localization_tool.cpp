@@ -1,4 +1,4 @@
-// The whole road on this machine: the real lupdate and lrelease, and a worker at the other end of the share.
+// A whole run on this machine, with the real lupdate and lrelease and a worker at the other end of the share.
 
 #include "localization/util_localization_tool.h"
 #include "nvx_util/languages.h"
@@ -16,11 +16,12 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
 using util::util_localization_tool;
 
 namespace {
 
-/// This machine, but the executable lies in a folder of the test, and time passes at once.
+/// This machine, except that the executable is in a folder of the test and sleep returns at once.
 class QuickMachine : public Nvx::Util::NativeMachine
 {
 public:
@@ -40,7 +41,7 @@ void copyFolder(const QString &from, const QString &to)
     QVERIFY(QDir().mkpath(to));
     const QFileInfoList entries = QDir(from).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot);
     for (const QFileInfo &entry : entries) {
-        const QString target = to + QLatin1Char('/') + entry.fileName();
+        const QString target = to + u'/' + entry.fileName();
         if (entry.isDir())
             copyFolder(entry.filePath(), target);
         else
@@ -69,7 +70,7 @@ private slots:
         writeSettings(text(TOOLS_FOLDER));
     }
 
-    void sourcesGoInAndEveryLanguageComesOut()
+    void everyLanguageIsTranslatedAndCompiled()
     {
         m_machine->whileSleeping = [this] { work({}); };
         tool()->runScript();
@@ -77,21 +78,20 @@ private slots:
             const QString locale = language.locale;
             const QString code = language.translatorsCode;
             QTranslator client;
-            QVERIFY(client.load(root("Locale/") + locale + text("/client.qm")));
-            QCOMPARE(client.translate("StudyWindow", "Solve"), text("[%1] Solve").arg(code));
-            QCOMPARE(client.translate("StudyWindow", "Study %1"),
-                     text("[%2] Study %1").arg(text("%1"), code));
+            QVERIFY(client.load(root("Locale/") + locale + u"/client.qm"_s));
+            QCOMPARE(client.translate("StudyWindow", "Solve"), u"[%1] Solve"_s.arg(code));
+            QCOMPARE(client.translate("StudyWindow", "Study %1"), u"[%2] Study %1"_s.arg(u"%1"_s, code));
             QTranslator config;
-            QVERIFY(config.load(root("Locale/") + locale + text("/nvxconfig.qm")));
+            QVERIFY(config.load(root("Locale/") + locale + u"/nvxconfig.qm"_s));
             QCOMPARE(config.translate("SetUp", "The product has been set up"),
-                     text("[%1] The product has been set up").arg(code));
-            QCOMPARE(readFile(root("Locale/") + locale + text("/Ribbon2D.xmal")),
+                     u"[%1] The product has been set up"_s.arg(code));
+            QCOMPARE(readFile(root("Locale/") + locale + u"/Ribbon2D.xmal"_s),
                      readFile(root("Locale/en-US/Ribbon2D.xmal")));
         }
         QCOMPARE(mileStones(),
-                 QStringList({text("tr1 finishes cool"), text("tr2 finishes cool"), text("mat finishes cool"),
-                              text("job file cool"), text("job done"), text("cbuild finishes cool"),
-                              text("release finishes cool"), text("Ribbon2D copied cool")}));
+                 QStringList({u"tr1 finishes cool"_s, u"tr2 finishes cool"_s, u"mat finishes cool"_s,
+                              u"job file cool"_s, u"job done"_s, u"cbuild finishes cool"_s,
+                              u"release finishes cool"_s, u"Ribbon2D copied cool"_s}));
         QCOMPARE(levels(), QString());
     }
 
@@ -100,12 +100,11 @@ private slots:
         m_machine->whileSleeping = [this] { work({}); };
         tool()->runScript();
         const QStringList lines = m_reporter->lines.mid(0, 6);
-        QCOMPARE(lines,
-                 QStringList({text("0 ") + root(""), text("0 ") + share("NVX360") + QDir::separator(),
-                              text("0 ") + root("Projects/Client/study_window.cpp: 3 texts to translate"),
-                              text("0 ") + root("Projects/Client/study_window.ui: 2 texts to translate"),
-                              text("0 ") + root("Projects/Config/set_up.cpp: 1 texts to translate"),
-                              text("0 6 texts to translate in 3 files")}));
+        QCOMPARE(lines, QStringList({u"0 "_s + root(""), u"0 "_s + share("NVX360") + QDir::separator(),
+                                     u"0 "_s + root("Projects/Client/study_window.cpp: 3 texts to translate"),
+                                     u"0 "_s + root("Projects/Client/study_window.ui: 2 texts to translate"),
+                                     u"0 "_s + root("Projects/Config/set_up.cpp: 1 texts to translate"),
+                                     u"0 6 texts to translate in 3 files"_s}));
     }
 
     void aSecondRunGivesTheSameFiles()
@@ -121,23 +120,23 @@ private slots:
             QVERIFY2(second.value(name) == first.value(name), qPrintable(name));
     }
 
-    void aDamagedFileFromTheShareIsLeftOutAndTheGoodOneIsCompiled()
+    void aDamagedFileFromTheShareIsSkippedAndTheExistingOneIsCompiled()
     {
         writeFile(root("Locale/deu-good.txt"));
         const QByteArray good = "<TS version=\"2.1\" language=\"de_DE\"><context><name>StudyWindow</name>"
                                 "<message><source>Solve</source><translation>Berechnen</translation>"
                                 "</message></context></TS>";
         writeFile(root("Locale/de-DE/client.ts"), good);
-        m_machine->whileSleeping = [this] { work({text("--damage"), text("deu/client.ts")}); };
+        m_machine->whileSleeping = [this] { work({u"--damage"_s, u"deu/client.ts"_s}); };
         tool()->runScript();
         QCOMPARE(readFile(root("Locale/de-DE/client.ts")), good);
-        QVERIFY(m_reporter->lines.contains(text("1 download fails ") + share("NVX360/deu/client.ts")));
+        QVERIFY(m_reporter->lines.contains(u"1 download fails "_s + share("NVX360/deu/client.ts")));
         QTranslator client;
         QVERIFY(client.load(root("Locale/de-DE/client.qm")));
-        QCOMPARE(client.translate("StudyWindow", "Solve"), text("Berechnen"));
+        QCOMPARE(client.translate("StudyWindow", "Solve"), u"Berechnen"_s);
     }
 
-    void materialsThatAreNoXmlLeaveTheirTranslationsAlone()
+    void aMalformedMaterialDatabaseLeavesItsTranslationsUnchanged()
     {
         const QByteArray earlier = "<TS version=\"2.1\"></TS>";
         writeFile(root("Locale/en-US/matprop.ts"), earlier);
@@ -145,51 +144,51 @@ private slots:
         m_machine->whileSleeping = [this] { work({}); };
         tool()->runScript();
         QCOMPARE(readFile(root("Locale/en-US/matprop.ts")), earlier);
-        const qsizetype done = m_reporter->lines.indexOf(text("0 mat finishes cool"));
-        QVERIFY(m_reporter->lines.value(done - 1).startsWith(text("1 ") +
+        const qsizetype done = m_reporter->lines.indexOf(u"0 mat finishes cool"_s);
+        QVERIFY(m_reporter->lines.value(done - 1).startsWith(u"1 "_s +
                                                              root("Projects/Client/runtime/matprop.mdb")));
-        QVERIFY(mileStones().contains(text("Ribbon2D copied cool")));
+        QVERIFY(mileStones().contains(u"Ribbon2D copied cool"_s));
     }
 
-    void aShareThatGoesAwayInTheMiddleCostsTheWaitAndNothingElse()
+    void aShareThatDisappearsOnlyCostsTheWaitingTime()
     {
         m_machine->whileSleeping = [this] { QDir(share("")).removeRecursively(); };
         writeFile(root("Locale/de-DE/client.ts"), "<TS version=\"2.1\" language=\"de_DE\"></TS>");
         tool()->runScript();
-        QVERIFY(m_reporter->lines.contains(text("1 timeout")));
-        QVERIFY(mileStones().contains(text("Ribbon2D copied cool")));
+        QVERIFY(m_reporter->lines.contains(u"1 timeout"_s));
+        QVERIFY(mileStones().contains(u"Ribbon2D copied cool"_s));
         QVERIFY(QFile::exists(root("Locale/de-DE/client.qm")));
     }
 
-    void missingToolsAreLoggedAndTheRunGoesOn()
+    void missingToolsAreLoggedAndTheRunContinues()
     {
-        writeSettings(m_test->path(text("no tools")));
+        writeSettings(m_test->path(u"no tools"_s));
         m_machine->whileSleeping = [this] { work({}); };
         tool()->runScript();
-        QVERIFY(m_reporter->lines.filter(text("The program could not be started.")).size() >= 2);
-        QVERIFY(mileStones().contains(text("tr1 finishes cool")));
-        QVERIFY(mileStones().contains(text("Ribbon2D copied cool")));
+        QVERIFY(m_reporter->lines.filter(u"The program could not be started."_s).size() >= 2);
+        QVERIFY(mileStones().contains(u"tr1 finishes cool"_s));
+        QVERIFY(mileStones().contains(u"Ribbon2D copied cool"_s));
     }
 
     void damagedSettingsTouchNothing()
     {
-        writeFile(m_test->installDir() + text("/localization.xml"), "<localization><root>");
+        writeFile(m_test->installDir() + u"/localization.xml"_s, "<localization><root>");
         const QMap<QString, QByteArray> before = localeFiles();
         tool()->runScript();
         QCOMPARE(localeFiles(), before);
         QCOMPARE(m_reporter->lines.first(),
-                 text("1 %1 is damaged").arg(m_test->path(text("NVX/localization.xml"))));
-        QVERIFY(m_reporter->lines.contains(text("1 There is no folder of sources, nothing is translated")));
-        QCOMPARE(m_reporter->lines.last(), text("0 Ribbon2D copied cool"));
+                 u"1 %1 is damaged"_s.arg(m_test->path(u"NVX/localization.xml"_s)));
+        QVERIFY(m_reporter->lines.contains(u"1 There is no folder of sources, nothing is translated"_s));
+        QCOMPARE(m_reporter->lines.last(), u"0 Ribbon2D copied cool"_s);
     }
 
-    void aRootFolderThatIsNotThereTouchesNothing()
+    void aMissingRootFolderTouchesNothing()
     {
         QVERIFY(QDir(root("")).removeRecursively());
         tool()->runScript();
         QVERIFY(!QFile::exists(root("")));
-        QVERIFY(m_reporter->lines.contains(text("1 There is no folder of sources, nothing is translated")));
-        QCOMPARE(m_reporter->lines.last(), text("0 Ribbon2D copied cool"));
+        QVERIFY(m_reporter->lines.contains(u"1 There is no folder of sources, nothing is translated"_s));
+        QCOMPARE(m_reporter->lines.last(), u"0 Ribbon2D copied cool"_s);
     }
 
 private:
@@ -199,15 +198,14 @@ private:
     QString inFolder(const char *folder, const char *name) const
     {
         const QString path = m_test->path(text(folder));
-        return *name ? path + QDir::toNativeSeparators(text("/") + text(name)) : path;
+        return *name ? path + QDir::toNativeSeparators(u"/"_s + text(name)) : path;
     }
 
     void writeSettings(const QString &tools)
     {
-        const QString xml = text("<localization><root>%1</root><share>%2</share><qtTools>%3</qtTools>"
-                                 "</localization>")
-                                .arg(root(""), m_test->path(text("share")), tools);
-        writeFile(m_test->installDir() + text("/localization.xml"), xml.toUtf8());
+        const QString xml = u"<localization><root>%1</root><share>%2</share><qtTools>%3</qtTools>"
+                            "</localization>"_s.arg(root(""), m_test->path(u"share"_s), tools);
+        writeFile(m_test->installDir() + u"/localization.xml"_s, xml.toUtf8());
     }
 
     std::unique_ptr<util_localization_tool> tool()
@@ -215,16 +213,16 @@ private:
         return std::make_unique<util_localization_tool>(StepContext{*m_machine, *m_reporter, m_state});
     }
 
-    /// The worker does the job that is waiting, if there is one.
+    /// Lets the worker do the waiting job, if there is one.
     void work(const QStringList &options)
     {
         if (!QFile::exists(share("~cBuild/job/NVX360.job")))
             return;
         const QStringList arguments =
-            QStringList{text(SAMPLE_FOLDER "/translation_worker.py"), m_test->path(text("share")),
-                        text("--once"), text("--settle"), text("0")} +
+            QStringList{text(SAMPLE_FOLDER "/translation_worker.py"), m_test->path(u"share"_s), u"--once"_s,
+                        u"--settle"_s, u"0"_s} +
             options;
-        QCOMPARE(QProcess::execute(text("python3"), arguments), 0);
+        QCOMPARE(QProcess::execute(u"python3"_s, arguments), 0);
     }
 
     /// The lines that end in "cool", and the end of the job.
@@ -232,29 +230,29 @@ private:
     {
         QStringList found;
         for (const QString &line : m_reporter->lines)
-            if (line.endsWith(text(" cool")) || line == text("0 job done"))
+            if (line.endsWith(u" cool"_s) || line == u"0 job done"_s)
                 found.append(line.mid(2));
         return found;
     }
 
-    /// The lines that are not of level 0.
+    /// The lines whose level is not 0.
     QString levels() const
     {
         QStringList found;
         for (const QString &line : m_reporter->lines)
-            if (!line.startsWith(text("0 ")))
+            if (!line.startsWith(u"0 "_s))
                 found.append(line);
-        return found.join(QLatin1Char('\n'));
+        return found.join(u'\n');
     }
 
-    /// The files of the languages; what is collected of them for the next job is another matter.
+    /// The files of the languages, without the copies collected for the next job.
     QMap<QString, QByteArray> localeFiles() const
     {
         QMap<QString, QByteArray> files;
         QDirIterator all(root("Locale"), QDir::Files, QDirIterator::Subdirectories);
         while (all.hasNext()) {
             const QString path = all.next();
-            if (!path.contains(text("/collect/")))
+            if (!path.contains(u"/collect/"_s))
                 files.insert(path, readFile(path));
         }
         return files;

@@ -3,8 +3,8 @@
 
 #include <QTest>
 
-using util::countTranslatableCalls;
-using util::countTranslatableStrings;
+using Localization::countTranslatableCalls;
+using Localization::countTranslatableStrings;
 
 class tst_translatable_texts : public QObject
 {
@@ -39,7 +39,7 @@ private slots:
         QTEST(countTranslatableCalls(source), "count");
     }
 
-    void textsOfAFormAreCounted_data()
+    void stringsOfAFormAreCounted_data()
     {
         QTest::addColumn<QByteArray>("form");
         QTest::addColumn<int>("count");
@@ -53,7 +53,7 @@ private slots:
         QTest::newRow("no XML") << QByteArray("string") << 0;
     }
 
-    void textsOfAFormAreCounted()
+    void stringsOfAFormAreCounted()
     {
         QFETCH(const QByteArray, form);
         QTEST(countTranslatableStrings(form), "count");

@@ -9,8 +9,9 @@
 
 #include <memory>
 
-using util::LocaleFolders;
-using util::TranslationJob;
+using namespace Qt::Literals::StringLiterals;
+using Localization::LocaleFolders;
+using Localization::TranslationJob;
 
 namespace {
 
@@ -41,15 +42,15 @@ private slots:
             QVERIFY(QDir().mkpath(path("root/Locale/") + text(locale)));
     }
 
-    void theJobFileNamesTheEnglishSourcesThatThereAre()
+    void theJobFileListsTheExistingEnglishSources()
     {
         job()->writeJobFile();
         QCOMPARE(readFile(path("share/pTrans/~cBuild/job/NVX360.job")),
                  QByteArray("enu\\client.ts\nenu\\nvxconfig.ts\n"));
-        QCOMPARE(m_reporter->lines, QStringList{text("0 job file cool")});
+        QCOMPARE(m_reporter->lines, QStringList{u"0 job file cool"_s});
     }
 
-    void aNewRequestTakesTheEarlierAnswerAway()
+    void aNewRequestRemovesTheEarlierDoneFile()
     {
         const QString done = path("share/pTrans/~cBuild/job/NVX360.done");
         writeFile(done);
@@ -57,14 +58,13 @@ private slots:
         QVERIFY(!QFile::exists(done));
     }
 
-    void anAnswerThatCannotBeTakenAwayIsLogged()
+    void aDoneFileThatCannotBeRemovedIsLogged()
     {
         const QString done = path("share/pTrans/~cBuild/job/NVX360.done");
-        QVERIFY(QDir().mkpath(done)); // a folder is not removed like a file
+        QVERIFY(QDir().mkpath(done)); // QFile::remove does not remove a folder
         job()->writeJobFile();
-        QCOMPARE(m_reporter->lines,
-                 QStringList({text("1 can't remove") + done, text("1 ") + done + text(" still exist"),
-                              text("0 job file cool")}));
+        QCOMPARE(m_reporter->lines, QStringList({u"1 can't remove"_s + done,
+                                                 u"1 "_s + done + u" still exist"_s, u"0 job file cool"_s}));
     }
 
     void withoutAJobFolderTheJobFileCannotBeOpened()
@@ -72,7 +72,7 @@ private slots:
         QVERIFY(QDir(path("share")).removeRecursively());
         job()->writeJobFile();
         QCOMPARE(m_reporter->lines,
-                 QStringList{text("1 can't open ") + path("share/pTrans/~cBuild/job/NVX360.job")});
+                 QStringList{u"1 can't open "_s + path("share/pTrans/~cBuild/job/NVX360.job")});
     }
 
     void aJobFileThatCannotBeOpenedIsLogged()
@@ -80,19 +80,19 @@ private slots:
         const QString blocked = path("share/pTrans/~cBuild/job/NVX360.job");
         QVERIFY(QDir().mkpath(blocked));
         job()->writeJobFile();
-        QCOMPARE(m_reporter->lines, QStringList{text("1 can't open ") + blocked});
+        QCOMPARE(m_reporter->lines, QStringList{u"1 can't open "_s + blocked});
     }
 
     void aJobFileThatCannotBeWrittenIsLogged()
     {
         const QString part = path("share/pTrans/~cBuild/job/NVX360.job.nvxpart");
-        QVERIFY(QDir().mkpath(part)); // in the place of what is written first
+        QVERIFY(QDir().mkpath(part)); // blocks the unfinished file
         job()->writeJobFile();
         QCOMPARE(m_reporter->lines,
-                 QStringList{text("1 can't write ") + path("share/pTrans/~cBuild/job/NVX360.job")});
+                 QStringList{u"1 can't write "_s + path("share/pTrans/~cBuild/job/NVX360.job")});
     }
 
-    void theCollectedFilesOfEveryLanguageGoOntoTheShareTheSourcesLast()
+    void theCollectedFilesOfEveryLanguageAreUploadedTheSourcesLast()
     {
         for (const Nvx::Util::Language &language : Nvx::Util::targetLanguages)
             QVERIFY(QDir().mkpath(path("root/Locale/collect/") + language.translatorsCode));
@@ -103,12 +103,12 @@ private slots:
         QCOMPARE(readFile(path("share/pTrans/NVX360/kor/client.ts")), QByteArray("korean"));
         QStringList expected;
         for (const Nvx::Util::Language &language : Nvx::Util::targetLanguages)
-            expected.append(text("0 upload ") + path("share/pTrans/NVX360/") + language.translatorsCode);
-        expected.append(text("0 upload ") + path("share/pTrans/NVX360/enu"));
+            expected.append(u"0 upload "_s + path("share/pTrans/NVX360/") + language.translatorsCode);
+        expected.append(u"0 upload "_s + path("share/pTrans/NVX360/enu"));
         QCOMPARE(m_reporter->lines, expected);
     }
 
-    void anUploadTakesOutWhatIsNoLongerCollectedAndNothingElse()
+    void anUploadDeletesOnlyFilesThatAreNoLongerCollected()
     {
         writeFile(path("root/Locale/collect/deu/client.ts"), "new");
         writeFile(path("share/pTrans/NVX360/deu/client.ts"), "old");
@@ -120,37 +120,37 @@ private slots:
         QVERIFY(QFile::exists(path("share/pTrans/NVX360/deu/notes.txt")));
     }
 
-    void aLanguageThatWasNotCollectedStaysOnTheShare()
+    void theFilesOfALanguageThatWasNotCollectedStayOnTheShare()
     {
         writeFile(path("root/Locale/collect/deu/client.ts"), "german");
         writeFile(path("share/pTrans/NVX360/fra/client.ts"), "french");
         job()->upload();
-        QVERIFY(m_reporter->lines.contains(text("1 upload fails ") + path("share/pTrans/NVX360/fra")));
-        QVERIFY(!m_reporter->lines.contains(text("1 upload fails ") + path("share/pTrans/NVX360/deu")));
+        QVERIFY(m_reporter->lines.contains(u"1 upload fails "_s + path("share/pTrans/NVX360/fra")));
+        QVERIFY(!m_reporter->lines.contains(u"1 upload fails "_s + path("share/pTrans/NVX360/deu")));
         QCOMPARE(readFile(path("share/pTrans/NVX360/fra/client.ts")), QByteArray("french"));
         QVERIFY(!QFile::exists(path("share/pTrans/NVX360/ita")));
     }
 
-    void anUploadThatFailsIsLoggedAndTheOthersGoOn()
+    void aFailedUploadIsLoggedAndTheOthersContinue()
     {
         writeFile(path("root/Locale/collect/deu/a.ts"), "a");
         writeFile(path("root/Locale/collect/deu/b.ts"), "b");
         QVERIFY(QDir().mkpath(path("share/pTrans/NVX360/deu/a.ts")));
         job()->upload();
-        QVERIFY(m_reporter->lines.contains(text("1 upload fails ") + path("share/pTrans/NVX360/deu/a.ts")));
+        QVERIFY(m_reporter->lines.contains(u"1 upload fails "_s + path("share/pTrans/NVX360/deu/a.ts")));
         QCOMPARE(readFile(path("share/pTrans/NVX360/deu/b.ts")), QByteArray("b"));
     }
 
-    void withoutAShareNothingIsUploadedAndNoShareIsMade()
+    void withoutAShareNothingIsUploadedOrCreated()
     {
         QVERIFY(QDir(path("share")).removeRecursively());
         writeFile(path("root/Locale/collect/deu/a.ts"), "a");
         job()->upload();
-        QCOMPARE(m_reporter->lines, QStringList{text("1 ") + path("share/pTrans/NVX360 not available")});
+        QCOMPARE(m_reporter->lines, QStringList{u"1 "_s + path("share/pTrans/NVX360 not available")});
         QVERIFY(!QFile::exists(path("share")));
     }
 
-    void anAnswerThatIsThereEndsTheWaitAtOnce()
+    void anExistingDoneFileEndsTheWaitAtOnce()
     {
         writeFile(path("share/pTrans/~cBuild/job/NVX360.done"));
         job()->waitUntilDone();
@@ -158,7 +158,7 @@ private slots:
         QCOMPARE(m_reporter->lines, QStringList());
     }
 
-    void theAnswerIsLookedForEveryTenSeconds()
+    void theDoneFileIsPolledEveryTenSeconds()
     {
         m_afterPause = [this](qsizetype count) {
             if (count == 3)
@@ -169,7 +169,7 @@ private slots:
         QCOMPARE(m_reporter->lines, QStringList());
     }
 
-    void theAnswerCountsAtTheLastLook()
+    void theDoneFileCountsInTheLastPoll()
     {
         m_afterPause = [this](qsizetype count) {
             if (count == 200)
@@ -180,7 +180,7 @@ private slots:
         QCOMPARE(m_reporter->lines, QStringList());
     }
 
-    void afterMoreThanTwoHundredLooksTheWaitIsGivenUp()
+    void afterMoreThanTwoHundredPollsTheWaitTimesOut()
     {
         job()->waitUntilDone();
         QCOMPARE(m_pauses.size(), 200);
@@ -188,10 +188,10 @@ private slots:
         for (const auto pause : std::as_const(m_pauses))
             waited += pause;
         QCOMPARE(waited.count(), 2'000'000); // 33 minutes and 20 seconds
-        QCOMPARE(m_reporter->lines, QStringList{text("1 timeout")});
+        QCOMPARE(m_reporter->lines, QStringList{u"1 timeout"_s});
     }
 
-    void aShareThatGoesAwayAndComesBackEndsTheWaitWithItsAnswer()
+    void aDoneFileOnAShareThatComesBackEndsTheWait()
     {
         m_afterPause = [this](qsizetype count) {
             if (count == 2)
@@ -203,7 +203,7 @@ private slots:
         QCOMPARE(m_pauses.size(), 5);
     }
 
-    void theFilesThatMatchComeBackIntoTheLocaleFolders()
+    void matchingFilesAreDownloadedToTheLocaleFolders()
     {
         writeFile(path("share/pTrans/NVX360/deu/client.ts"), whole);
         writeFile(path("share/pTrans/NVX360/deu/menu.xaml"), "menu");
@@ -235,8 +235,8 @@ private slots:
         job()->download();
         QCOMPARE(readFile(path("root/Locale/de-DE/client.ts")), whole);
         QCOMPARE(readFile(path("root/Locale/de-DE/matprop.ts")), whole);
-        QVERIFY(m_reporter->lines.contains(text("1 download fails ") +
-                                           path("share/pTrans/NVX360/deu/client.ts")));
+        QVERIFY(
+            m_reporter->lines.contains(u"1 download fails "_s + path("share/pTrans/NVX360/deu/client.ts")));
     }
 
     void aProtectedFileIsReplaced()
@@ -249,27 +249,27 @@ private slots:
         QCOMPARE(readFile(target), whole);
     }
 
-    void aLanguageThatIsNotOnTheShareIsLogged()
+    void aLanguageMissingOnTheShareIsLogged()
     {
         writeFile(path("share/pTrans/NVX360/deu/client.ts"), whole);
         job()->download();
-        QCOMPARE(m_reporter->lines.first(), text("0 download") + path("share/pTrans/NVX360/deu"));
+        QCOMPARE(m_reporter->lines.first(), u"0 download"_s + path("share/pTrans/NVX360/deu"));
         QCOMPARE(m_reporter->lines.size(), 1 + 7 * 2);
-        QCOMPARE(m_reporter->lines.at(2), text("1 download fails ") + path("share/pTrans/NVX360/fra"));
+        QCOMPARE(m_reporter->lines.at(2), u"1 download fails "_s + path("share/pTrans/NVX360/fra"));
     }
 
     void withoutANamedShareEveryStepFailsAndTouchesNothing()
     {
         const auto nowhere = std::make_unique<TranslationJob>(LocaleFolders(path("root"), *m_reporter),
-                                                              QString(), QString(), QStringList{text("*.ts")},
+                                                              QString(), QString(), QStringList{u"*.ts"_s},
                                                               *m_reporter, [](std::chrono::milliseconds) {});
         nowhere->writeJobFile();
         nowhere->upload();
         nowhere->waitUntilDone();
         nowhere->download();
-        QCOMPARE(m_reporter->lines.first(), text("1 can't open ") + native(text("/NVX360.job")));
-        QCOMPARE(m_reporter->lines.at(1), text("1  not available"));
-        QCOMPARE(m_reporter->lines.at(2), text("1 timeout"));
+        QCOMPARE(m_reporter->lines.first(), u"1 can't open "_s + native(u"/NVX360.job"_s));
+        QCOMPARE(m_reporter->lines.at(1), u"1  not available"_s);
+        QCOMPARE(m_reporter->lines.at(2), u"1 timeout"_s);
         QCOMPARE(readFile(path("root/Locale/en-US/client.ts")), whole);
     }
 
@@ -280,8 +280,8 @@ private:
     {
         return std::make_unique<TranslationJob>(LocaleFolders(path("root"), *m_reporter),
                                                 path("share/pTrans/NVX360"), path("share/pTrans/~cBuild/job"),
-                                                QStringList{text("*.ts"), text("*.xaml"), text("*.csv")},
-                                                *m_reporter, [this](std::chrono::milliseconds pause) {
+                                                QStringList{u"*.ts"_s, u"*.xaml"_s, u"*.csv"_s}, *m_reporter,
+                                                [this](std::chrono::milliseconds pause) {
                                                     m_pauses.append(pause);
                                                     if (m_afterPause)
                                                         m_afterPause(m_pauses.size());

@@ -1,4 +1,4 @@
-// The runs of lupdate and lrelease: which program is started, and what becomes of its file.
+// The runs of lupdate and lrelease: which program is started, and how its output file is used.
 
 #include "localization/translation_tools.h"
 #include "run/run_state.h"
@@ -12,14 +12,15 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::ProgramCall;
 using Nvx::Util::ProgramResult;
 using Outcome = ProgramResult::Outcome;
-using util::TranslationTools;
+using Localization::TranslationTools;
 
 namespace {
 
-/// What a tool that succeeds writes into the file that it is told.
+/// What a successful tool writes to its output file.
 void writeTarget(const ProgramCall &call)
 {
     writeFile(call.arguments.last(), "new");
@@ -42,7 +43,7 @@ private slots:
         writeFile(path("client.qm"), "old");
     }
 
-    void anUpdateRunsInTheProjectsFolderForHalfAMinuteAtMost()
+    void anUpdateRunsInTheProjectsFolderForUpToThirtySeconds()
     {
         m_machine->whileRunning = writeTarget;
         QVERIFY(tools().update(path("a b/client.pro"), path("client.ts")));
@@ -50,12 +51,12 @@ private slots:
         const ProgramCall call = m_machine->calls.first();
         QCOMPARE(call.workFolder, path("a b"));
         QCOMPARE(call.timeoutMs, 30000);
-        QCOMPARE(call.arguments, QStringList({path("a b/client.pro"), text("-ts"), path("client.new.ts")}));
+        QCOMPARE(call.arguments, QStringList({path("a b/client.pro"), u"-ts"_s, path("client.new.ts")}));
         QCOMPARE(readFile(path("client.ts")), QByteArray("new"));
         QVERIFY(!QFile::exists(path("client.new.ts")));
     }
 
-    void anUpdateStartsFromTheFileThatIsThere()
+    void anUpdateStartsFromTheExistingFile()
     {
         QByteArray before;
         m_machine->whileRunning = [&](const ProgramCall &call) { before = readFile(call.arguments.last()); };
@@ -63,19 +64,19 @@ private slots:
         QCOMPARE(before, QByteArray("old"));
     }
 
-    void aReleaseIsARunOfItsOwnForHalfAMinuteAtMost()
+    void aReleaseIsASeparateRunOfUpToThirtySeconds()
     {
         m_machine->whileRunning = writeTarget;
         QVERIFY(tools().release(path("client.ts"), path("client.qm")));
         QCOMPARE(m_machine->calls.size(), 1);
         QCOMPARE(m_machine->calls.first().timeoutMs, 30000);
         QCOMPARE(m_machine->calls.first().arguments,
-                 QStringList({path("client.ts"), text("-qm"), path("client.new.qm")}));
+                 QStringList({path("client.ts"), u"-qm"_s, path("client.new.qm")}));
         QCOMPARE(readFile(path("client.qm")), QByteArray("new"));
         QVERIFY(!QFile::exists(path("client.new.qm")));
     }
 
-    void aToolThatFailsLeavesTheFileAsItWas_data()
+    void aToolThatFailsLeavesTheFileUnchanged_data()
     {
         QTest::addColumn<Outcome>("outcome");
         QTest::addColumn<int>("exitCode");
@@ -86,7 +87,7 @@ private slots:
         QTest::newRow("crashes") << Outcome::Crashed << 139 << true;
     }
 
-    void aToolThatFailsLeavesTheFileAsItWas()
+    void aToolThatFailsLeavesTheFileUnchanged()
     {
         QFETCH(const Outcome, outcome);
         QFETCH(const int, exitCode);
@@ -117,14 +118,14 @@ private slots:
         QCOMPARE(readFile(path("client.qm")), QByteArray("new"));
     }
 
-    void theToolsAreThoseOfTheFolderThatIsNamed()
+    void theToolsInTheGivenFolderAreUsed()
     {
         TranslationTools(context(), path("tools")).release(path("client.ts"), path("client.qm"));
         QVERIFY2(m_machine->calls.first().program.startsWith(path("tools")),
                  qPrintable(m_machine->calls.first().program));
     }
 
-    void withoutAFolderTheToolBesideTheExecutableIsTaken()
+    void withoutAFolderTheToolNextToTheExecutableIsUsed()
     {
         const QString tool = path(LRELEASE_NAME);
         writeFile(tool, "#!/bin/sh\n");
@@ -133,7 +134,7 @@ private slots:
         QCOMPARE(m_machine->calls.first().program, tool);
     }
 
-    void thenTheToolOfThePathIsTaken()
+    void otherwiseTheToolInThePathIsUsed()
     {
         const QString tool = path("path/" LRELEASE_NAME);
         writeFile(tool, "#!/bin/sh\n");
