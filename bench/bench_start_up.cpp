@@ -59,7 +59,7 @@ int startWizard(const QString &folder)
 {
     BenchMachine machine(folder);
     cfg_utilitys engine(machine);
-    runProgram(engine);
+    Nvx::Wizard::runProgram(engine);
     return EXIT_FAILURE;
 }
 

@@ -360,7 +360,7 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     </message>
 </context>
 <context>
-    <name>ProgressList</name>
+    <name>Nvx::Wizard::ProgressList</name>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>

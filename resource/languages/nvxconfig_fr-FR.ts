@@ -360,7 +360,7 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     </message>
 </context>
 <context>
-    <name>ProgressList</name>
+    <name>Nvx::Wizard::ProgressList</name>
     <message>
         <source>&amp;Copy</source>
         <translation>Cop&amp;ier</translation>

@@ -360,7 +360,7 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
 </context>
 <context>
-    <name>ProgressList</name>
+    <name>Nvx::Wizard::ProgressList</name>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Copia</translation>

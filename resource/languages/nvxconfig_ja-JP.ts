@@ -360,7 +360,7 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
-    <name>ProgressList</name>
+    <name>Nvx::Wizard::ProgressList</name>
     <message>
         <source>&amp;Copy</source>
         <translation>コピー(&amp;C)</translation>

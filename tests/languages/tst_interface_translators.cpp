@@ -1,4 +1,4 @@
-// The compiled catalogues as the start-up loads them.
+// The compiled catalogues, loaded as at start-up.
 
 #include "cfg_utilities/command_line.h"
 #include "cfg_wizard/interface_translators.h"
@@ -12,9 +12,12 @@
 #include <QRegularExpression>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+using Nvx::Wizard::InterfaceTranslators;
+
 namespace {
 
-const QString german = QStringLiteral("de-DE");
+const QString german = u"de-DE"_s;
 
 QString languagesFolder()
 {
@@ -27,19 +30,19 @@ QString programText()
     return QCoreApplication::translate("cfg_utilitys", "Command line arguments");
 }
 
-// A text of the toolkit.
-QString toolkitText()
+// A text of Qt.
+QString qtText()
 {
     return QCoreApplication::translate("QPlatformTheme", "&Yes");
 }
 
-const QString englishProgramText = QStringLiteral("Command line arguments");
-const QString englishToolkitText = QStringLiteral("&Yes");
+const QString englishProgramText = u"Command line arguments"_s;
+const QString englishQtText = u"&Yes"_s;
 
 QStringList translatedLocales()
 {
     QStringList locales = Nvx::Util::System::validLocales();
-    locales.removeAll(QStringLiteral("en-US"));
+    locales.removeAll(u"en-US"_s);
     return locales;
 }
 
@@ -51,13 +54,14 @@ void addLocaleRows()
         QTest::newRow(qPrintable(locale)) << locale;
 }
 
-// What a button of the toolkit reads as: without the mark of its key, "Ab&schließen" or "完了(&F)".
+// The label of one of Qt's buttons without the marker of its access key, such as "Ab&schließen" or
+// "完了(&F)".
 QString withoutKeyMark(QString label)
 {
-    return label.remove(QRegularExpression(QStringLiteral("\\s*\\(&.\\)"))).remove(QLatin1Char('&'));
+    return label.remove(QRegularExpression(u"\\s*\\(&.\\)"_s)).remove(u'&');
 }
 
-// An install dir with a folder for German, to be filled with compiled catalogues.
+// An install dir with a folder for German compiled catalogues.
 class InstallDir
 {
 public:
@@ -65,7 +69,8 @@ public:
 
     QString path() const { return m_folder.path(); }
 
-    // Puts a catalogue of the build, named as "de-DE/nvxconfig.qm", there under a name; whether it did.
+    // Copies a catalogue of the build, such as "de-DE/nvxconfig.qm", to it under a name; returns whether that
+    // succeeded.
     bool add(const QString &catalogue, const QString &name) const
     {
         return QFile::copy(Nvx::Util::joinPath(languagesFolder(), catalogue), pathOf(name));
@@ -78,7 +83,7 @@ public:
     }
 
 private:
-    QString pathOf(const QString &name) const { return m_folder.path(german + QLatin1Char('/') + name); }
+    QString pathOf(const QString &name) const { return m_folder.path(german + u'/' + name); }
 
     TestFolder m_folder;
 };
@@ -93,25 +98,25 @@ private slots:
     void init();
     void aLocaleIsTranslated_data();
     void aLocaleIsTranslated();
-    void theLastTextNamesTheFinishButton_data() { addLocaleRows(); }
-    void theLastTextNamesTheFinishButton();
-    void aTextOfSeveralLinesIsTranslated();
-    void aNameInOtherCaseFindsItsFilesOnlyWhereFoldersIgnoreCase();
-    void theBuiltInLanguageNeedsNoFiles();
+    void theLastTextQuotesTheFinishButton_data() { addLocaleRows(); }
+    void theLastTextQuotesTheFinishButton();
+    void aTextWithSeveralLinesIsTranslated();
+    void aLocaleInAnotherCaseFindsItsFilesOnlyIfFolderNamesIgnoreCase();
+    void englishNeedsNoFiles();
     void anEmptyLocaleLeavesEnglish();
     void missingFilesLeaveEnglish();
-    void withoutTheProgramsFileOnlyTheToolkitIsTranslated();
-    void withoutTheToolkitsFileOnlyTheProgramIsTranslated();
-    void filesThatAreNoCataloguesLeaveEnglish();
-    void theWholeToolkitFileWins();
-    void theTranslatorsAreGoneAfterwards();
+    void withoutTheProgramsFileOnlyQtIsTranslated();
+    void withoutQtsFileOnlyTheProgramIsTranslated();
+    void invalidCataloguesLeaveEnglish();
+    void theFileQtTakesPrecedence();
+    void theTranslatorsAreRemovedAfterwards();
     void oneLanguageFollowsAnother();
 };
 
 void tst_interface_translators::init()
 {
     QCOMPARE(programText(), englishProgramText);
-    QCOMPARE(toolkitText(), englishToolkitText);
+    QCOMPARE(qtText(), englishQtText);
 }
 
 void tst_interface_translators::aLocaleIsTranslated_data()
@@ -119,19 +124,19 @@ void tst_interface_translators::aLocaleIsTranslated_data()
     // A language without expected texts must only differ from English.
     using Texts = std::pair<QString, QString>;
     const QHash<QString, Texts> texts{
-        {german, {QStringLiteral("Befehlszeilenargumente"), QStringLiteral("&Ja")}},
-        {QStringLiteral("fr-FR"), {QStringLiteral("Arguments de ligne de commande"), QStringLiteral("&Oui")}},
-        {QStringLiteral("it-IT"), {QStringLiteral("Argomenti della riga di comando"), QStringLiteral("&Sì")}},
-        {QStringLiteral("ja-JP"), {QStringLiteral("コマンド ライン引数"), QStringLiteral("はい(&Y)")}},
-        {QStringLiteral("ko-KR"), {QStringLiteral("명령줄 인수"), QStringLiteral("예(&Y)")}},
-        {QStringLiteral("ru-RU"), {QStringLiteral("Аргументы командной строки"), QStringLiteral("&Да")}},
-        {QStringLiteral("zh-CN"), {QStringLiteral("命令行参数"), QStringLiteral("是(&Y)")}},
-        {QStringLiteral("zh-TW"), {QStringLiteral("命令列引數"), QStringLiteral("是(&Y)")}},
+        {german, {u"Befehlszeilenargumente"_s, u"&Ja"_s}},
+        {u"fr-FR"_s, {u"Arguments de ligne de commande"_s, u"&Oui"_s}},
+        {u"it-IT"_s, {u"Argomenti della riga di comando"_s, u"&Sì"_s}},
+        {u"ja-JP"_s, {u"コマンド ライン引数"_s, u"はい(&Y)"_s}},
+        {u"ko-KR"_s, {u"명령줄 인수"_s, u"예(&Y)"_s}},
+        {u"ru-RU"_s, {u"Аргументы командной строки"_s, u"&Да"_s}},
+        {u"zh-CN"_s, {u"命令行参数"_s, u"是(&Y)"_s}},
+        {u"zh-TW"_s, {u"命令列引數"_s, u"是(&Y)"_s}},
     };
 
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("ofProgram");
-    QTest::addColumn<QString>("ofToolkit");
+    QTest::addColumn<QString>("ofQt");
     const QStringList locales = translatedLocales();
     for (const QString &locale : locales) {
         const Texts expected = texts.value(locale);
@@ -144,56 +149,55 @@ void tst_interface_translators::aLocaleIsTranslated()
     QFETCH(QString, locale);
     const InterfaceTranslators translators(languagesFolder(), locale);
     QVERIFY(programText() != englishProgramText);
-    QVERIFY(toolkitText() != englishToolkitText);
+    QVERIFY(qtText() != englishQtText);
     QFETCH(QString, ofProgram);
-    QFETCH(QString, ofToolkit);
+    QFETCH(QString, ofQt);
     if (!ofProgram.isEmpty()) {
         QCOMPARE(programText(), ofProgram);
-        QCOMPARE(toolkitText(), ofToolkit);
+        QCOMPARE(qtText(), ofQt);
     }
 }
 
-void tst_interface_translators::theLastTextNamesTheFinishButton()
+void tst_interface_translators::theLastTextQuotesTheFinishButton()
 {
     QFETCH(QString, locale);
     const InterfaceTranslators translators(languagesFolder(), locale);
     const QString button = QCoreApplication::translate("QWizard", "&Finish");
-    QVERIFY(button != QLatin1String("&Finish"));
+    QVERIFY(button != "&Finish"_L1);
     const QString text = QCoreApplication::translate(
         "cfg_utilitys", "The installation or update is complete. Click finish to continue.");
-    QVERIFY2(text.contains(withoutKeyMark(button)), qPrintable(text + QStringLiteral(": ") + button));
+    QVERIFY2(text.contains(withoutKeyMark(button)), qPrintable(text + u": "_s + button));
 }
 
-void tst_interface_translators::aTextOfSeveralLinesIsTranslated()
+void tst_interface_translators::aTextWithSeveralLinesIsTranslated()
 {
     const InterfaceTranslators translators(languagesFolder(), german);
-    QVERIFY2(Nvx::Engine::runOptionsUsage().startsWith(
-                 QStringLiteral("Gültige Befehlszeilenargumente für NVX:\n-I ")),
+    QVERIFY2(Nvx::Engine::runOptionsUsage().startsWith(u"Gültige Befehlszeilenargumente für NVX:\n-I "_s),
              qPrintable(Nvx::Engine::runOptionsUsage()));
 }
 
-// The name is used as it was typed; the file system decides.
-void tst_interface_translators::aNameInOtherCaseFindsItsFilesOnlyWhereFoldersIgnoreCase()
+// The locale is used as typed; the file system decides.
+void tst_interface_translators::aLocaleInAnotherCaseFindsItsFilesOnlyIfFolderNamesIgnoreCase()
 {
-    const auto typed = QStringLiteral("de-de");
+    const auto typed = u"de-de"_s;
     const bool ignoresCase = QFile::exists(Nvx::Util::joinPath(languagesFolder(), typed));
     const InterfaceTranslators translators(languagesFolder(), typed);
-    QCOMPARE(programText(), ignoresCase ? QStringLiteral("Befehlszeilenargumente") : englishProgramText);
-    QCOMPARE(toolkitText(), ignoresCase ? QStringLiteral("&Ja") : englishToolkitText);
+    QCOMPARE(programText(), ignoresCase ? u"Befehlszeilenargumente"_s : englishProgramText);
+    QCOMPARE(qtText(), ignoresCase ? u"&Ja"_s : englishQtText);
 }
 
-void tst_interface_translators::theBuiltInLanguageNeedsNoFiles()
+void tst_interface_translators::englishNeedsNoFiles()
 {
-    const InterfaceTranslators translators(languagesFolder(), QStringLiteral("en-US"));
+    const InterfaceTranslators translators(languagesFolder(), u"en-US"_s);
     QCOMPARE(programText(), englishProgramText);
-    QCOMPARE(toolkitText(), englishToolkitText);
+    QCOMPARE(qtText(), englishQtText);
 }
 
 void tst_interface_translators::anEmptyLocaleLeavesEnglish()
 {
     const InterfaceTranslators translators(languagesFolder(), QString());
     QCOMPARE(programText(), englishProgramText);
-    QCOMPARE(toolkitText(), englishToolkitText);
+    QCOMPARE(qtText(), englishQtText);
 }
 
 void tst_interface_translators::missingFilesLeaveEnglish()
@@ -201,63 +205,62 @@ void tst_interface_translators::missingFilesLeaveEnglish()
     const InstallDir installDir;
     const InterfaceTranslators translators(installDir.path(), german);
     QCOMPARE(programText(), englishProgramText);
-    QCOMPARE(toolkitText(), englishToolkitText);
+    QCOMPARE(qtText(), englishQtText);
 }
 
-void tst_interface_translators::withoutTheProgramsFileOnlyTheToolkitIsTranslated()
+void tst_interface_translators::withoutTheProgramsFileOnlyQtIsTranslated()
 {
     const InstallDir installDir;
-    QVERIFY(installDir.add(QStringLiteral("de-DE/qt_de_DE.qm"), QStringLiteral("qt_de_DE.qm")));
+    QVERIFY(installDir.add(u"de-DE/qt_de_DE.qm"_s, u"qt_de_DE.qm"_s));
     const InterfaceTranslators translators(installDir.path(), german);
     QCOMPARE(programText(), englishProgramText);
-    QCOMPARE(toolkitText(), QStringLiteral("&Ja"));
+    QCOMPARE(qtText(), u"&Ja"_s);
 }
 
-void tst_interface_translators::withoutTheToolkitsFileOnlyTheProgramIsTranslated()
+void tst_interface_translators::withoutQtsFileOnlyTheProgramIsTranslated()
 {
     const InstallDir installDir;
-    QVERIFY(installDir.add(QStringLiteral("de-DE/nvxconfig.qm"), QStringLiteral("nvxconfig.qm")));
+    QVERIFY(installDir.add(u"de-DE/nvxconfig.qm"_s, u"nvxconfig.qm"_s));
     const InterfaceTranslators translators(installDir.path(), german);
-    QCOMPARE(programText(), QStringLiteral("Befehlszeilenargumente"));
-    QCOMPARE(toolkitText(), englishToolkitText);
+    QCOMPARE(programText(), u"Befehlszeilenargumente"_s);
+    QCOMPARE(qtText(), englishQtText);
 }
 
-void tst_interface_translators::filesThatAreNoCataloguesLeaveEnglish()
+void tst_interface_translators::invalidCataloguesLeaveEnglish()
 {
     const InstallDir installDir;
-    QVERIFY(installDir.addText(QStringLiteral("nvxconfig.qm"), "no catalogue"));
-    QVERIFY(installDir.addText(QStringLiteral("qt_de_DE.qm"), ""));
+    QVERIFY(installDir.addText(u"nvxconfig.qm"_s, "no catalogue"));
+    QVERIFY(installDir.addText(u"qt_de_DE.qm"_s, ""));
     const InterfaceTranslators translators(installDir.path(), german);
     QCOMPARE(programText(), englishProgramText);
-    QCOMPARE(toolkitText(), englishToolkitText);
+    QCOMPARE(qtText(), englishQtText);
 }
 
-void tst_interface_translators::theWholeToolkitFileWins()
+void tst_interface_translators::theFileQtTakesPrecedence()
 {
     const InstallDir installDir;
-    QVERIFY(installDir.add(QStringLiteral("de-DE/qt_de_DE.qm"), QStringLiteral("qt_de_DE.qm")));
-    QVERIFY(installDir.add(QStringLiteral("fr-FR/qt_fr_FR.qm"), QStringLiteral("qt.qm")));
+    QVERIFY(installDir.add(u"de-DE/qt_de_DE.qm"_s, u"qt_de_DE.qm"_s));
+    QVERIFY(installDir.add(u"fr-FR/qt_fr_FR.qm"_s, u"qt.qm"_s));
     const InterfaceTranslators translators(installDir.path(), german);
-    QCOMPARE(toolkitText(), QStringLiteral("&Oui"));
+    QCOMPARE(qtText(), u"&Oui"_s);
 }
 
-void tst_interface_translators::theTranslatorsAreGoneAfterwards()
+void tst_interface_translators::theTranslatorsAreRemovedAfterwards()
 {
     {
         const InterfaceTranslators translators(languagesFolder(), german);
-        QCOMPARE(programText(), QStringLiteral("Befehlszeilenargumente"));
-        QCOMPARE(toolkitText(), QStringLiteral("&Ja"));
+        QCOMPARE(programText(), u"Befehlszeilenargumente"_s);
+        QCOMPARE(qtText(), u"&Ja"_s);
     }
     QCOMPARE(programText(), englishProgramText);
-    QCOMPARE(toolkitText(), englishToolkitText);
+    QCOMPARE(qtText(), englishQtText);
 }
 
 void tst_interface_translators::oneLanguageFollowsAnother()
 {
-    for (const auto &[locale, expected] : {std::pair{german, QStringLiteral("&Ja")},
-                                           std::pair{QStringLiteral("it-IT"), QStringLiteral("&Sì")}}) {
+    for (const auto &[locale, expected] : {std::pair{german, u"&Ja"_s}, std::pair{u"it-IT"_s, u"&Sì"_s}}) {
         const InterfaceTranslators translators(languagesFolder(), locale);
-        QCOMPARE(toolkitText(), expected);
+        QCOMPARE(qtText(), expected);
     }
 }
 

@@ -7,9 +7,12 @@
 #include <QComboBox>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+using Nvx::Wizard::WizardPlan;
+
 namespace {
 
-const QString allPages = text("Welcome|CAD Launchers |Conclusion ");
+const QString allPages = u"Welcome|CAD Launchers |Conclusion "_s;
 
 // A null image for a null picture.
 QImage pixelsOf(const QPixmap &picture)
@@ -17,7 +20,7 @@ QImage pixelsOf(const QPixmap &picture)
     return picture.isNull() ? QImage() : picture.toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
-// The widgets that the Tab key reaches on the current page, the wizard's own buttons last, by their names or
+// The widgets of the current page in the order of the Tab key, then the wizard's buttons, by their names or
 // texts.
 QStringList tabOrder(QWizard &wizard)
 {
@@ -48,10 +51,10 @@ private slots:
         QTest::addColumn<QString>("options");
         QTest::addColumn<QString>("titles");
         QTest::newRow("no mode") << QString() << allPages;
-        QTest::newRow("silent without a mode") << text("-S") << allPages;
-        QTest::newRow("a language without a mode") << text("-Lde-DE") << allPages;
-        QTest::newRow("install") << text("-I") << text("CAD Launchers |Conclusion ");
-        QTest::newRow("uninstall") << text("-U") << text("Conclusion ");
+        QTest::newRow("silent without a mode") << u"-S"_s << allPages;
+        QTest::newRow("a language without a mode") << u"-Lde-DE"_s << allPages;
+        QTest::newRow("install") << u"-I"_s << u"CAD Launchers |Conclusion "_s;
+        QTest::newRow("uninstall") << u"-U"_s << u"Conclusion "_s;
     }
 
     void everyModeShowsExactlyItsPages()
@@ -59,22 +62,22 @@ private slots:
         QFETCH(QString, options);
         const ClassWizard &wizard = m_fixture->show(options);
         QTEST(titlesOf(wizard), "titles");
-        QCOMPARE(wizard.currentPage()->title(), titlesOf(wizard).section(QLatin1Char('|'), 0, 0));
+        QCOMPARE(wizard.currentPage()->title(), titlesOf(wizard).section(u'|', 0, 0));
     }
 
-    void theSubtitlesAreOneBlank()
+    void everySubtitleIsOneBlank()
     {
         const ClassWizard &wizard = m_fixture->show(QString());
         const QList<int> ids = wizard.pageIds();
         QCOMPARE(ids.size(), 3);
         for (const int id : ids)
-            QCOMPARE(wizard.page(id)->subTitle(), text(" "));
+            QCOMPARE(wizard.page(id)->subTitle(), u" "_s);
     }
 
-    void theWindowIsDressedForTheProduct()
+    void theWindowHasTheProductsTitleAndStyle()
     {
         const ClassWizard &wizard = m_fixture->show(QString());
-        QCOMPARE(wizard.windowTitle(), text("NVX 2017 Configuration Wizard"));
+        QCOMPARE(wizard.windowTitle(), u"NVX 2017 Configuration Wizard"_s);
         QCOMPARE(wizard.wizardStyle(), QWizard::ModernStyle);
         QVERIFY(!wizard.testOption(QWizard::HaveHelpButton));
         QVERIFY(wizard.testOption(QWizard::NoCancelButton));
@@ -90,10 +93,10 @@ private slots:
     {
         const ClassWizard &wizard = m_fixture->show(QString());
         const QPixmap shown = wizard.pixmap(QWizard::BannerPixmap);
-        const QPixmap banner(text(":/image/banner.png"));
+        const QPixmap banner(u":/image/banner.png"_s);
         QVERIFY(!banner.isNull());
         QCOMPARE(shown.width(), banner.width());
-        // Large text takes a higher one.
+        // Large text needs a higher one.
         QCOMPARE(pixelsOf(shown),
                  pixelsOf(banner.scaled(shown.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
         const QList<int> ids = wizard.pageIds();
@@ -101,10 +104,10 @@ private slots:
             QCOMPARE(wizard.page(id)->pixmap(QWizard::BannerPixmap).cacheKey(), shown.cacheKey());
     }
 
-    void theLogoIsOnThePageOfTheLaunchersAlone()
+    void onlyTheLaunchersPageHasTheLogo()
     {
         const ClassWizard &wizard = m_fixture->show(QString());
-        const QPixmap logo(text(":/images/logo1.png"));
+        const QPixmap logo(u":/images/logo1.png"_s);
         QVERIFY(!logo.isNull());
         const QList<int> ids = wizard.pageIds();
         for (const int id : ids) {
@@ -123,8 +126,8 @@ private slots:
         const QList<int> ids = wizard.pageIds();
         for (const int id : ids)
             names << wizard.page(id)->objectName();
-        QCOMPARE(names, QStringList({text("ClassWizard"), text("WelcomePage"), text("FeaturePage"),
-                                     text("ConclusionPage")}));
+        QCOMPARE(names,
+                 QStringList({u"ClassWizard"_s, u"WelcomePage"_s, u"FeaturePage"_s, u"ConclusionPage"_s}));
     }
 
     void everyWidgetOfAPageHasItsName_data()
@@ -148,7 +151,7 @@ private slots:
         row(WizardPlan::Page::Feature, "Tamsel ARCH", "Tamsel Architecture");
         row(WizardPlan::Page::Feature, "Tamsel MEP", "Tamsel MEP");
         row(WizardPlan::Page::Feature, "m_cbSpaceclaim", "SpaceClaim");
-        row(WizardPlan::Page::Conclusion, "m_progress", "ProgressList");
+        row(WizardPlan::Page::Conclusion, "m_progress", "Nvx::Wizard::ProgressList");
     }
 
     void everyWidgetOfAPageHasItsName()
@@ -166,28 +169,28 @@ private slots:
     {
         ClassWizard &wizard = m_fixture->show(QString());
         wizard.next();
-        QCOMPARE(wizard.currentPage()->title(), text("CAD Launchers "));
+        QCOMPARE(wizard.currentPage()->title(), u"CAD Launchers "_s);
         wizard.next();
-        QCOMPARE(wizard.currentPage()->title(), text("Conclusion "));
+        QCOMPARE(wizard.currentPage()->title(), u"Conclusion "_s);
         QVERIFY(m_fixture->button(QWizard::FinishButton).isVisible());
         QVERIFY(!m_fixture->button(QWizard::NextButton).isVisible());
     }
 
     void finishIsLogged()
     {
-        ClassWizard &wizard = m_fixture->show(text("-U"));
+        ClassWizard &wizard = m_fixture->show(u"-U"_s);
         QTRY_VERIFY(m_fixture->button(QWizard::FinishButton).isEnabled());
         QTest::mouseClick(&m_fixture->button(QWizard::FinishButton), Qt::LeftButton);
         QVERIFY(!wizard.isVisible());
         QCOMPARE(wizard.result(), int(QDialog::Accepted));
-        QCOMPARE(m_fixture->lines().last(), text("   0 Program exiting"));
+        QCOMPARE(m_fixture->lines().last(), u"   0 Program exiting"_s);
     }
 
     void escapeClosesThePagesBeforeARun_data()
     {
         QTest::addColumn<QString>("options");
         QTest::newRow("welcome") << QString();
-        QTest::newRow("launchers") << text("-I");
+        QTest::newRow("launchers") << u"-I"_s;
     }
 
     void escapeClosesThePagesBeforeARun()
@@ -201,7 +204,7 @@ private slots:
 
     void escapeLeavesTheWindowOfARunAlone()
     {
-        ClassWizard &wizard = m_fixture->show(text("-U"));
+        ClassWizard &wizard = m_fixture->show(u"-U"_s);
         for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_F5})
             QTest::keyClick(&wizard, key);
         QVERIFY(wizard.isVisible());
@@ -215,7 +218,7 @@ private slots:
         ClassWizard &wizard = m_fixture->show(QString());
         wizard.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&wizard));
-        QCOMPARE(tabOrder(wizard), QStringList({text("m_languages"), text("&Next >")}));
+        QCOMPARE(tabOrder(wizard), QStringList({u"m_languages"_s, u"&Next >"_s}));
 
         wizard.next();
         const auto boxes = wizard.currentPage()->findChildren<QCheckBox *>();
@@ -224,15 +227,15 @@ private slots:
             box->setEnabled(true);
         boxes.first()->setFocus();
         QCOMPARE(tabOrder(wizard),
-                 QStringList({text("Pro/ENGINEER Creo"), text("SolidWorks"), text("Brevant"), text("UGS NX"),
-                              text("Tamsel"), text("Tamsel Architecture"), text("Tamsel MEP"),
-                              text("SpaceClaim"), text("< &Back"), text("&Next >")}));
+                 QStringList({u"Pro/ENGINEER Creo"_s, u"SolidWorks"_s, u"Brevant"_s, u"UGS NX"_s, u"Tamsel"_s,
+                              u"Tamsel Architecture"_s, u"Tamsel MEP"_s, u"SpaceClaim"_s, u"< &Back"_s,
+                              u"&Next >"_s}));
 
         wizard.next();
-        QCOMPARE(tabOrder(wizard), QStringList({text("m_progress"), text("< &Back")}));
+        QCOMPARE(tabOrder(wizard), QStringList({u"m_progress"_s, u"< &Back"_s}));
     }
 
-    void everyControlHasANameForTheReaders()
+    void everyControlHasAnAccessibleName()
     {
         const ClassWizard &wizard = m_fixture->show(QString());
         QStringList names;
@@ -247,9 +250,9 @@ private slots:
                      qPrintable(widget->objectName()));
             names << interface->text(QAccessible::Name) << widget->accessibleName();
         }
-        QVERIFY(names.contains(text("Change language")));
-        QVERIFY(names.contains(text("Progress")));
-        QVERIFY(names.contains(text("SolidWorks")));
+        QVERIFY(names.contains(u"Change language"_s));
+        QVERIFY(names.contains(u"Progress"_s));
+        QVERIFY(names.contains(u"SolidWorks"_s));
     }
 
 private:

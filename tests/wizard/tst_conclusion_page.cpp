@@ -1,6 +1,5 @@
 #include "cfg_wizard/conclusion_page.h"
 #include "support/test_class.h"
-#include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
 #include <QElapsedTimer>
@@ -8,9 +7,11 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString complete = text("The installation or update is complete. Click finish to continue.");
+const QString complete = u"The installation or update is complete. Click finish to continue."_s;
 
 } // namespace
 
@@ -26,16 +27,16 @@ private slots:
     {
         QElapsedTimer timer;
         timer.start();
-        m_fixture->show(text("-U"));
+        m_fixture->show(u"-U"_s);
         QTRY_COMPARE(m_fixture->runs(), 1);
         QVERIFY2(timer.elapsed() >= 1000, qPrintable(QString::number(timer.elapsed())));
     }
 
-    // Holds the settings of the timer and that the run begins when it expires, without waiting for it.
+    // Checks the settings of the timer and that the run begins when it expires, without waiting for it.
     void theRunStartsWhenATimerOfOneSecondExpires()
     {
-        const ClassWizard &wizard = m_fixture->show(text("-U"));
-        auto *timer = wizard.currentPage()->findChild<QTimer *>(text("m_start"));
+        const ClassWizard &wizard = m_fixture->show(u"-U"_s);
+        auto *timer = wizard.currentPage()->findChild<QTimer *>(u"m_start"_s);
         QVERIFY(timer);
         QVERIFY(timer->isActive());
         QVERIFY(timer->isSingleShot());
@@ -49,9 +50,9 @@ private slots:
         QVERIFY(!timer->isActive());
     }
 
-    void finishStaysGreyUntilTheLastRow()
+    void finishIsDisabledUntilTheLastRow()
     {
-        m_fixture->show(text("-U"));
+        m_fixture->show(u"-U"_s);
         const QAbstractButton &finish = m_fixture->button(QWizard::FinishButton);
         QVERIFY(finish.isVisible());
         QVERIFY(!finish.isEnabled());
@@ -61,12 +62,12 @@ private slots:
         QTRY_VERIFY(finish.isEnabled());
         QVERIFY(greyMeanwhile);
         QCOMPARE(m_fixture->rows().last(), complete);
-        QVERIFY(m_fixture->rows().contains(text("UnInstall Tutorials")));
+        QVERIFY(m_fixture->rows().contains(u"UnInstall Tutorials"_s));
     }
 
-    void aPageWithoutAWizardRunsToo()
+    void aPageWithoutAWizardPerformsTheRun()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-U"));
+        cfg_utilitys &engine = m_fixture->start(u"-U"_s);
         ConclusionPage page(engine);
         page.initializePage();
         QVERIFY(!page.isComplete());
@@ -76,31 +77,31 @@ private slots:
 
     void everyRowIsScrolledTo()
     {
-        ClassWizard &wizard = m_fixture->show(text("-U"));
+        ClassWizard &wizard = m_fixture->show(u"-U"_s);
         auto *page = qobject_cast<ConclusionPage *>(wizard.currentPage());
         for (int row = 0; row < 200; ++row) {
-            page->appendRow(text("row %1").arg(row));
+            page->appendRow(u"row %1"_s.arg(row));
             const QListWidget &list = m_fixture->progress();
             QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(row))));
         }
     }
 
-    void theRunWaitsForThePage()
+    void theRunStartsOnlyWhenThePageIsShown()
     {
-        ClassWizard &wizard = m_fixture->show(text("-I"));
+        ClassWizard &wizard = m_fixture->show(u"-I"_s);
         QTest::qWait(1200);
         QCOMPARE(m_fixture->runs(), 0);
         wizard.next();
         QTRY_COMPARE(m_fixture->runs(), 1);
     }
 
-    void goingBackInTimeStartsNoRun()
+    void goingBackBeforeTheRunPreventsIt()
     {
-        ClassWizard &wizard = m_fixture->show(text("-I"));
+        ClassWizard &wizard = m_fixture->show(u"-I"_s);
         wizard.next();
         QTest::qWait(300);
         m_fixture->button(QWizard::BackButton).click();
-        QCOMPARE(wizard.currentPage()->title(), text("CAD Launchers "));
+        QCOMPARE(wizard.currentPage()->title(), u"CAD Launchers "_s);
         QTest::qWait(1200);
         QCOMPARE(m_fixture->runs(), 0);
 
@@ -110,9 +111,9 @@ private slots:
         QCOMPARE(m_fixture->runs(), 1);
     }
 
-    void comingBackAfterARunStartsAnother()
+    void returningAfterARunStartsAnotherOne()
     {
-        ClassWizard &wizard = m_fixture->show(text("-I"));
+        ClassWizard &wizard = m_fixture->show(u"-I"_s);
         wizard.next();
         QTRY_VERIFY(m_fixture->button(QWizard::FinishButton).isEnabled());
         m_fixture->button(QWizard::BackButton).click();
@@ -125,7 +126,7 @@ private slots:
 
     void noSecondRunStartsDuringARun()
     {
-        ClassWizard &wizard = m_fixture->show(text("-I"));
+        ClassWizard &wizard = m_fixture->show(u"-I"_s);
         wizard.next();
         auto *page = qobject_cast<ConclusionPage *>(wizard.currentPage());
         bool backMeanwhile = true;
@@ -134,7 +135,7 @@ private slots:
             if (std::exchange(tried, true))
                 return;
             backMeanwhile = m_fixture->button(QWizard::BackButton).isEnabled();
-            wizard.back(); // as nobody can by the button
+            wizard.back(); // the button is disabled
             wizard.next();
             page->handleFinalize();
         };
@@ -148,18 +149,18 @@ private slots:
         QCOMPARE(m_fixture->rows().last(), complete);
     }
 
-    void aWindowClosedBeforeTheRunStartsNone()
+    void closingTheWindowBeforeTheRunPreventsIt()
     {
-        ClassWizard &wizard = m_fixture->show(text("-U"));
+        ClassWizard &wizard = m_fixture->show(u"-U"_s);
         QTimer::singleShot(300, &wizard, &QWidget::close);
         QCOMPARE(QApplication::exec(), 0);
         QTest::qWait(1200);
         QCOMPARE(m_fixture->runs(), 0);
     }
 
-    void aRunWhoseWindowIsClosedGoesOnToItsEnd()
+    void aRunContinuesAfterItsWindowIsClosed()
     {
-        ClassWizard &wizard = m_fixture->show(text("-I"));
+        ClassWizard &wizard = m_fixture->show(u"-I"_s);
         wizard.next();
         bool loopAlive = false;
         m_fixture->machine.whileRunning = [&](const auto &) {
@@ -172,13 +173,13 @@ private slots:
         QVERIFY(loopAlive);
         QVERIFY(m_fixture->engine->state().runComplete);
         QCOMPARE(m_fixture->runs(), 1);
-        QCOMPARE(m_fixture->lines().last(), text("   0 ") + complete);
+        QCOMPARE(m_fixture->lines().last(), u"   0 "_s + complete);
     }
 
-    // A box that the run shows after its window was closed must wait for the user as always.
-    void anEventLoopInARunWhoseWindowIsClosedStillWaits()
+    // A message box that the run shows after its window was closed must still wait for the user.
+    void anEventLoopStillWaitsAfterTheWindowIsClosed()
     {
-        ClassWizard &wizard = m_fixture->show(text("-U"));
+        ClassWizard &wizard = m_fixture->show(u"-U"_s);
         bool waited = false;
         m_fixture->machine.whileRunning = [&](const auto &) {
             if (!wizard.isVisible())
@@ -196,22 +197,22 @@ private slots:
         QVERIFY(waited);
     }
 
-    void aRunWhosePagesAreDeletedGoesOnToItsEnd()
+    void aRunContinuesAfterItsPagesAreDeleted()
     {
-        m_fixture->show(text("-I")).next();
+        m_fixture->show(u"-I"_s).next();
         m_fixture->machine.whileRunning = [&](const auto &) { m_fixture->wizard.reset(); };
         QTRY_VERIFY(m_fixture->engine->state().runComplete);
         QVERIFY(!m_fixture->wizard);
-        QCOMPARE(m_fixture->lines().last(), text("   0 ") + complete);
+        QCOMPARE(m_fixture->lines().last(), u"   0 "_s + complete);
     }
 
     void pendingNotesAreTheFirstRows()
     {
-        m_fixture->show(text("-U"));
-        m_fixture->engine->addPendingNote(text("a note"));
+        m_fixture->show(u"-U"_s);
+        m_fixture->engine->addPendingNote(u"a note"_s);
         QTRY_VERIFY(m_fixture->engine->state().runComplete);
-        QCOMPARE(m_fixture->rows().first(), text("a note"));
-        QVERIFY(m_fixture->rows().at(1).startsWith(text("Processors: ")));
+        QCOMPARE(m_fixture->rows().first(), u"a note"_s);
+        QVERIFY(m_fixture->rows().at(1).startsWith(u"Processors: "_s));
     }
 
 private:

@@ -1,5 +1,4 @@
-// The pages in the languages that are shipped: a change of language while the program runs, and whether every
-// text has its room.
+// A change of language while the program runs, with the real translations.
 
 #include "cfg_wizard/feature_page.h"
 #include "cfg_wizard/interface_translators.h"
@@ -18,14 +17,16 @@
 
 #include <functional>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::RegistryKey;
 using Nvx::Util::System;
+using Nvx::Wizard::runProgram;
 
 namespace {
 
 QString catalogue(const QString &locale, const QString &name)
 {
-    return text(NVX_LANGUAGES_FOLDER) + QLatin1Char('/') + locale + QLatin1Char('/') + name;
+    return text(NVX_LANGUAGES_FOLDER) + u'/' + locale + u'/' + name;
 }
 
 ClassWizard *shownWizard()
@@ -39,12 +40,12 @@ ClassWizard *shownWizard()
     return nullptr;
 }
 
-// What the pages of a wizard say: the titles, the button that leads on, and the selected language.
+// The texts of a wizard: the titles of its pages, its Next button and the selected language.
 QString textsOf(const ClassWizard &wizard)
 {
-    const auto *languages = wizard.findChild<QComboBox *>(text("m_languages"));
-    return titlesOf(wizard) + QLatin1Char('|') + wizard.button(QWizard::NextButton)->text() +
-           QLatin1Char('|') + languages->currentText();
+    const auto *languages = wizard.findChild<QComboBox *>(u"m_languages"_s);
+    return titlesOf(wizard) + u'|' + wizard.button(QWizard::NextButton)->text() + u'|' +
+           languages->currentText();
 }
 
 } // namespace
@@ -65,10 +66,9 @@ private slots:
         m_fixture = std::make_unique<WizardFixture>();
         for (const char *locale : {"de-DE", "ja-JP"}) {
             QVERIFY(QDir().mkpath(m_fixture->installed(locale)));
-            const QString toolkit =
-                text("qt_%1.qm").arg(text(locale).replace(QLatin1Char('-'), QLatin1Char('_')));
-            for (const QString &name : {text("nvxconfig.qm"), toolkit}) {
-                const QString target = m_fixture->test.path(text("NVX/%1/%2").arg(text(locale), name));
+            const QString toolkit = u"qt_%1.qm"_s.arg(text(locale).replace(u'-', u'_'));
+            for (const QString &name : {u"nvxconfig.qm"_s, toolkit}) {
+                const QString target = m_fixture->test.path(u"NVX/%1/%2"_s.arg(text(locale), name));
                 QVERIFY(QFile::copy(catalogue(text(locale), name), target));
             }
         }
@@ -89,35 +89,35 @@ private slots:
     {
         QTest::addColumn<QString>("options");
         QTest::newRow("no mode") << QString();
-        QTest::newRow("silent without a mode") << text("-S");
+        QTest::newRow("silent without a mode") << u"-S"_s;
     }
 
     void aChangeRebuildsThePagesInTheNewLanguage()
     {
         QFETCH(QString, options);
-        m_choices = {text("de-DE"), text("ja-JP"), text("en-US")};
+        m_choices = {u"de-DE"_s, u"ja-JP"_s, u"en-US"_s};
         cfg_utilitys &engine = m_fixture->start(options);
         m_poll.start();
         QCOMPARE(runProgram(engine), 0);
-        QCOMPARE(m_seen, QStringList({text("Welcome|CAD Launchers |Conclusion |&Next >|English"),
-                                      text("Willkommen|CAD-Startprogramme |Abschluss |&Weiter >|Deutsch"),
-                                      text("ようこそ|CAD ランチャー |最終ステップ |次へ(&N) >|日本語"),
-                                      text("Welcome|CAD Launchers |Conclusion |&Next >|English")}));
-        QCOMPARE(engine.state().locale, text("en-US"));
+        QCOMPARE(m_seen, QStringList({u"Welcome|CAD Launchers |Conclusion |&Next >|English"_s,
+                                      u"Willkommen|CAD-Startprogramme |Abschluss |&Weiter >|Deutsch"_s,
+                                      u"ようこそ|CAD ランチャー |最終ステップ |次へ(&N) >|日本語"_s,
+                                      u"Welcome|CAD Launchers |Conclusion |&Next >|English"_s}));
+        QCOMPARE(engine.state().locale, u"en-US"_s);
         QVERIFY(!engine.state().runComplete);
     }
 
     void everyRebuildLooksForRunningProgramsAndCadSystemsAgain()
     {
-        RegistryKey nx(text("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\10.0"));
+        RegistryKey nx(u"HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\10.0"_s);
         const auto tidy = qScopeGuard([&] { nx.removeWhole(); });
-        m_choices = {text("de-DE"), text("ja-JP")};
+        m_choices = {u"de-DE"_s, u"ja-JP"_s};
         m_afterChoice = [&] {
             // A CAD system is installed and started during the first wizard, and removed during the second.
             if (m_choices.size() == 1) {
-                nx.setText(text("UGII_BASE_DIR"), text("C:\\NX 10"));
-                m_fixture->machine.running.add(text("C:\\CAD\\xtop.exe"));
-                m_fixture->machine.running.add(text("C:\\NVX 2017\\NVXMonitor.exe"));
+                nx.setText(u"UGII_BASE_DIR"_s, u"C:\\NX 10"_s);
+                m_fixture->machine.running.add(u"C:\\CAD\\xtop.exe"_s);
+                m_fixture->machine.running.add(u"C:\\NVX 2017\\NVXMonitor.exe"_s);
             } else {
                 nx.removeWhole();
             }
@@ -126,46 +126,48 @@ private slots:
         m_poll.start();
         QCOMPARE(runProgram(engine), 0);
         QCOMPARE(m_foundNx, QList<bool>({false, true, false}));
-        QCOMPARE(m_questions, QList<qsizetype>({0, 2, 4})); // what was ended is still listed on this machine
+        QCOMPARE(m_questions,
+                 QList<qsizetype>({0, 2, 4})); // the recording machine still lists terminated processes
     }
 
-    void theLanguageOfTheCommandLineIsThatOfThePages()
+    void thePagesAreInTheLanguageOfTheCommandLine()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-Lde-DE"));
+        cfg_utilitys &engine = m_fixture->start(u"-Lde-DE"_s);
         m_poll.start();
         QCOMPARE(runProgram(engine), 0);
-        QCOMPARE(m_seen, QStringList(text("Willkommen|CAD-Startprogramme |Abschluss |&Weiter >|Deutsch")));
+        QCOMPARE(m_seen, QStringList(u"Willkommen|CAD-Startprogramme |Abschluss |&Weiter >|Deutsch"_s));
     }
 
-    void thePagesAreInTheRememberedLanguage_data()
+    void thePagesAreInTheStoredLanguage_data()
     {
         QTest::addColumn<QString>("options");
-        QTest::newRow("none named") << text("-L");
-        QTest::newRow("reading abandoned") << text("-Lde-DE -X");
+        QTest::newRow("none named") << u"-L"_s;
+        QTest::newRow("reading abandoned") << u"-Lde-DE -X"_s;
     }
 
-    // The run's own language counts only once it has been set up.
-    void thePagesAreInTheRememberedLanguage()
+    // The language of the command line applies only after it has been set up.
+    void thePagesAreInTheStoredLanguage()
     {
         QFETCH(QString, options);
-        System::setLocale(text("ja-JP"));
+        System::setLocale(u"ja-JP"_s);
         m_fixture->machine.answer = Nvx::Util::Answer::No;
         cfg_utilitys &engine = m_fixture->start(options);
-        QVERIFY(engine.state().locale != text("ja-JP"));
+        QVERIFY(engine.state().locale != u"ja-JP"_s);
         m_poll.start();
         QCOMPARE(runProgram(engine), 0);
-        QCOMPARE(m_seen, QStringList(text("ようこそ|CAD ランチャー |最終ステップ |次へ(&N) >|日本語")));
+        QCOMPARE(m_seen, QStringList(u"ようこそ|CAD ランチャー |最終ステップ |次へ(&N) >|日本語"_s));
     }
 
 private:
-    // On each new wizard: notes its texts, then chooses the next language and goes on, or closes the window.
+    // In each new wizard, records its texts and then either selects the next language and continues or closes
+    // the window.
     void act()
     {
         ClassWizard *wizard = shownWizard();
         if (!wizard)
             return;
         m_seen << textsOf(*wizard);
-        const QCheckBox *nx = wizard->findChild<QCheckBox *>(text("UGS NX"));
+        const QCheckBox *nx = wizard->findChild<QCheckBox *>(u"UGS NX"_s);
         m_foundNx << (nx->isEnabled() && nx->isChecked());
         m_questions << m_fixture->machine.boxes.size();
         QVERIFY(wizard->currentPage() == wizard->page(wizard->pageIds().first()));
@@ -173,7 +175,7 @@ private:
             wizard->close();
             return;
         }
-        auto *languages = wizard->findChild<QComboBox *>(text("m_languages"));
+        auto *languages = wizard->findChild<QComboBox *>(u"m_languages"_s);
         languages->setCurrentIndex(languages->findData(m_choices.takeFirst()));
         if (m_afterChoice)
             m_afterChoice();

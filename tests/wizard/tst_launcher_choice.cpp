@@ -1,22 +1,23 @@
-// From the CAD systems of a machine by way of the boxes on the page to what the run does.
+// From the CAD systems of a machine through the check boxes of the page to the steps of the run.
 
 #include "cfg_wizard/start_up.h"
 #include "nvx_util/registry_key.h"
 #include "support/test_class.h"
-#include "support/text.h"
 #include "wizard/wizard_fixture.h"
 
 #include <QCheckBox>
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::RegistryKey;
+using Nvx::Wizard::runProgram;
 
 namespace {
 
 RegistryKey spaceClaim()
 {
-    return RegistryKey(text("HKEY_LOCAL_MACHINE\\Software\\Classes\\SpaceClaim.Location"));
+    return RegistryKey(u"HKEY_LOCAL_MACHINE\\Software\\Classes\\SpaceClaim.Location"_s);
 }
 
 ClassWizard *shownWizard()
@@ -40,7 +41,7 @@ private slots:
     void init()
     {
         m_fixture = std::make_unique<WizardFixture>();
-        QVERIFY(spaceClaim().setText(text("Version"), text("2016")));
+        QVERIFY(spaceClaim().setText(u"Version"_s, u"2016"_s));
     }
 
     void cleanup()
@@ -49,17 +50,17 @@ private slots:
         m_fixture.reset();
     }
 
-    void aTickedBoxConfiguresItsLauncher_data()
+    void aCheckedBoxInstallsItsLauncher_data()
     {
         QTest::addColumn<QString>("options");
         QTest::addColumn<bool>("unticks");
         QTest::addColumn<bool>("configured");
-        QTest::newRow("left ticked") << text("-I") << false << true;
-        QTest::newRow("unticked") << text("-I") << true << false;
+        QTest::newRow("left ticked") << u"-I"_s << false << true;
+        QTest::newRow("unticked") << u"-I"_s << true << false;
         QTest::newRow("no mode, unticked") << QString() << true << false;
     }
 
-    void aTickedBoxConfiguresItsLauncher()
+    void aCheckedBoxInstallsItsLauncher()
     {
         QFETCH(QString, options);
         QFETCH(bool, unticks);
@@ -68,18 +69,18 @@ private slots:
         connect(&poll, &QTimer::timeout, this, [&] { act(unticks); });
         poll.start(50);
         QCOMPARE(runProgram(engine), 0);
-        QCOMPARE(m_boxes, QStringList({text("SpaceClaim ")}));
-        QTEST(m_fixture->lines().contains(text("   0 SpaceClaim")), "configured");
+        QCOMPARE(m_boxes, QStringList({u"SpaceClaim "_s}));
+        QTEST(m_fixture->lines().contains(u"   0 SpaceClaim"_s), "configured");
     }
 
-    void anUninstallTakesTheLaunchersOfAllThatWasFound()
+    void anUninstallRemovesTheLaunchersOfAllSystemsFound()
     {
-        cfg_utilitys &engine = start(text("-U"));
+        cfg_utilitys &engine = start(u"-U"_s);
         QTimer poll;
         connect(&poll, &QTimer::timeout, this, [&] { act(false); });
         poll.start(50);
         QCOMPARE(runProgram(engine), 0);
-        QVERIFY(m_fixture->lines().contains(text("   0 SpaceClaim")));
+        QVERIFY(m_fixture->lines().contains(u"   0 SpaceClaim"_s));
     }
 
 private:
@@ -87,12 +88,13 @@ private:
     {
         cfg_utilitys &engine = m_fixture->start(options);
         SharedFolders folders;
-        folders.spaceClaimAddin = m_fixture->test.path(text("Addins"));
+        folders.spaceClaimAddin = m_fixture->test.path(u"Addins"_s);
         engine.setSharedFolders(folders);
         return engine;
     }
 
-    // Goes through the pages: notes which boxes can be ticked and are, unticks them or not, and ends.
+    // Goes through the pages, records which check boxes are enabled and checked, and unchecks them if asked
+    // to.
     void act(bool unticks)
     {
         const ClassWizard *wizard = shownWizard();

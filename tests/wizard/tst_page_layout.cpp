@@ -1,5 +1,5 @@
-// Every text of the pages fits, in every language and with the text sizes that people set.
-// With the variable NVX_PICTURES the pages are saved as pictures into the folder that it names.
+// Every text on the pages fits, in every language and at the usual text sizes. If the variable NVX_PICTURES
+// is set, pictures of the pages are saved in the folder that it names.
 
 #include "cfg_wizard/feature_page.h"
 #include "cfg_wizard/interface_font.h"
@@ -16,6 +16,11 @@
 #include <QRawFont>
 #include <QTest>
 #include <QTextLayout>
+
+using namespace Qt::Literals::StringLiterals;
+using Nvx::Wizard::fontsOfLanguage;
+using Nvx::Wizard::InterfaceFont;
+using Nvx::Wizard::InterfaceTranslators;
 
 namespace {
 
@@ -41,7 +46,7 @@ bool isText(const QWidget &widget)
            qobject_cast<const QComboBox *>(&widget);
 }
 
-// The texts of the wizard's page that do not fit.
+// The texts of the current page that do not fit.
 QStringList crampedTexts(const QWizard &wizard)
 {
     QStringList cramped;
@@ -58,14 +63,14 @@ QStringList crampedTexts(const QWizard &wizard)
     return cramped;
 }
 
-// As a machine with many CAD systems has them.
+// The check boxes of a machine with many CAD systems.
 void labelBoxes(FeaturePage &page)
 {
     for (int i = 0; i < launcherCount; ++i)
         page.setFound(static_cast<Launcher>(i), i != static_cast<int>(Launcher::TamselMep));
-    page.setLabel(Launcher::Creo, text("Creo Parametric 1.0 2.0 3.0"));
-    page.setLabel(Launcher::Nx, text("UGS NX 8.5 8.5.0 9.0 9.5 9.5.0 10.0 10.5.0 11.0"));
-    page.setLabel(Launcher::TamselArchitecture, text("Tamsel Architecture 2015 2016 2017 2018"));
+    page.setLabel(Launcher::Creo, u"Creo Parametric 1.0 2.0 3.0"_s);
+    page.setLabel(Launcher::Nx, u"UGS NX 8.5 8.5.0 9.0 9.5 9.5.0 10.0 10.5.0 11.0"_s);
+    page.setLabel(Launcher::TamselArchitecture, u"Tamsel Architecture 2015 2016 2017 2018"_s);
 }
 
 } // namespace
@@ -104,22 +109,21 @@ private slots:
         const InterfaceFont interfaceFont(locale);
 
         WizardFixture fixture;
-        ClassWizard &wizard = fixture.build(text("-L") + locale);
+        ClassWizard &wizard = fixture.build(u"-L"_s + locale);
         labelBoxes(*wizard.findChild<FeaturePage *>());
         wizard.show();
         QVERIFY(QTest::qWaitForWindowExposed(&wizard));
-        checkPage(wizard, text("welcome"));
+        checkPage(wizard, u"welcome"_s);
         const QSize size = wizard.size();
         wizard.next();
         QCoreApplication::processEvents();
-        checkPage(wizard, text("launchers"));
+        checkPage(wizard, u"launchers"_s);
         wizard.next();
-        fixture.progress().addItem(text("C:\\Program Files\\") +
-                                   QString(text("a-long-folder\\")).repeated(9));
+        fixture.progress().addItem(u"C:\\Program Files\\"_s + QString(u"a-long-folder\\"_s).repeated(9));
         fixture.progress().addItem(QCoreApplication::translate(
             "cfg_utilitys", "The installation or update is complete. Click finish to continue."));
         QCoreApplication::processEvents();
-        checkPage(wizard, text("conclusion"));
+        checkPage(wizard, u"conclusion"_s);
         QCOMPARE(wizard.size(), size);
         const QRect area = fixture.progress().viewport()->rect();
         for (int row = 0; row < 2; ++row) {
@@ -128,7 +132,7 @@ private slots:
         }
     }
 
-    void aCharacterHasTheShapeOfItsLanguage_data()
+    void aCharacterHasItsShapeInTheLanguage_data()
     {
         QTest::addColumn<QString>("locale");
         for (const Nvx::Util::Language &language : Nvx::Util::languages) {
@@ -137,13 +141,13 @@ private slots:
         }
     }
 
-    void aCharacterHasTheShapeOfItsLanguage()
+    void aCharacterHasItsShapeInTheLanguage()
     {
         QFETCH(QString, locale);
         const QFont before = QApplication::font();
         {
             const InterfaceFont interfaceFont(locale);
-            QTextLayout layout(text("直"), QApplication::font());
+            QTextLayout layout(u"直"_s, QApplication::font());
             layout.beginLayout();
             layout.createLine();
             layout.endLayout();
@@ -161,10 +165,10 @@ private:
         if (!m_pictures.isEmpty()) {
             QFETCH(QString, locale);
             QFETCH(int, percent);
-            const QString file = text("%1/%2-%3-%4.png").arg(m_pictures, locale, page).arg(percent);
+            const QString file = u"%1/%2-%3-%4.png"_s.arg(m_pictures, locale, page).arg(percent);
             QVERIFY2(wizard.grab().save(file), qPrintable(file));
         }
-        QVERIFY2(cramped.isEmpty(), qPrintable(page + text(": ") + cramped.join(text(" | "))));
+        QVERIFY2(cramped.isEmpty(), qPrintable(page + u": "_s + cramped.join(u" | "_s)));
     }
 
     QFont m_font;

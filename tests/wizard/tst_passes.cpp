@@ -2,7 +2,6 @@
 #include "engine/engine_fixture.h"
 #include "nvx_util/system.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -11,18 +10,22 @@
 #include <QTimer>
 #include <QWizard>
 
+using namespace Qt::Literals::StringLiterals;
+using Nvx::Wizard::runPasses;
+using Nvx::Wizard::runProgram;
+
 namespace {
 
-// Lines of a log without those about the programs that the run starts.
+// The lines of a log except those about external programs.
 QStringList withoutPrograms(QStringList lines)
 {
     static const QRegularExpression ofPrograms(
-        text("^ +-?\\d+ (Command:|WorkDir:|Output:|  | output:|Removing:)"));
+        u"^ +-?\\d+ (Command:|WorkDir:|Output:|  | output:|Removing:)"_s);
     lines.removeIf([](const QString &line) { return ofPrograms.match(line).hasMatch(); });
     return lines;
 }
 
-// Notices every window that is shown while it lives.
+// Records every window that is shown during its lifetime.
 class ShownWindows : public QObject
 {
 public:
@@ -67,9 +70,9 @@ private slots:
         m_fixture.reset();
     }
 
-    void aChangedLanguageBringsAnotherPass()
+    void aChangedLanguageStartsAnotherPass()
     {
-        const cfg_utilitys &engine = m_fixture->start(text("-I"));
+        const cfg_utilitys &engine = m_fixture->start(u"-I"_s);
         QList<int> results{901, 901, 7, 0};
         const int result = runPasses(engine, [&] { return results.takeFirst(); });
         QCOMPARE(result, 7);
@@ -88,7 +91,7 @@ private slots:
     void anyOtherResultIsTheExitCode()
     {
         QFETCH(int, result);
-        const cfg_utilitys &engine = m_fixture->start(text("-I"));
+        const cfg_utilitys &engine = m_fixture->start(u"-I"_s);
         int passes = 0;
         QCOMPARE(runPasses(engine, [&] { return ++passes, result; }), result);
         QCOMPARE(passes, 1);
@@ -98,8 +101,8 @@ private slots:
     {
         QTest::addColumn<QString>("options");
         QTest::addColumn<QString>("line");
-        QTest::newRow("install") << text("-I -S") << text("   0 Beginning Install");
-        QTest::newRow("uninstall") << text("-U -S") << text("   0 Beginning UnInstall");
+        QTest::newRow("install") << u"-I -S"_s << u"   0 Beginning Install"_s;
+        QTest::newRow("uninstall") << u"-U -S"_s << u"   0 Beginning UnInstall"_s;
     }
 
     void aSilentRunIsPerformedAndEndsWithZero()
@@ -117,8 +120,8 @@ private slots:
     {
         QTest::addColumn<QString>("options");
         QTest::addColumn<bool>("stays");
-        QTest::newRow("install") << text("-I -S -Lde-DE") << true;
-        QTest::newRow("uninstall") << text("-U -S -Lde-DE") << false;
+        QTest::newRow("install") << u"-I -S -Lde-DE"_s << true;
+        QTest::newRow("uninstall") << u"-U -S -Lde-DE"_s << false;
     }
 
     void aSilentUninstallRemovesOldFilesAtItsEnd()
@@ -128,58 +131,56 @@ private slots:
         writeFile(m_fixture->installed("of an update.new"));
         QCOMPARE(runProgram(m_fixture->start(options)), 0);
         QCOMPARE(QFile::exists(m_fixture->installed("of an update.new")), stays);
-        const QString complete =
-            text("   0 The installation or update is complete. Click finish to continue.");
+        const QString complete = u"   0 The installation or update is complete. Click finish to continue."_s;
         QCOMPARE(m_fixture->lines().last() == complete, stays);
         QVERIFY(m_fixture->lines().contains(complete));
     }
 
     void theLogIsClosedAfterTheOldFiles()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-U -S"));
+        cfg_utilitys &engine = m_fixture->start(u"-U -S"_s);
         runProgram(engine);
         const QStringList lines = m_fixture->lines();
-        QCOMPARE(lines.last(), text("   0 Remove: Report .pyc files"));
-        engine.log(0, text("too late"));
+        QCOMPARE(lines.last(), u"   0 Remove: Report .pyc files"_s);
+        engine.log(0, u"too late"_s);
         QCOMPARE(m_fixture->lines(), lines);
     }
 
-    void oldFilesAreKeptWhenTheyShall()
+    void oldFilesStayIfTheyAreToBeKept()
     {
         writeFile(m_fixture->installed("of an update.new"));
-        cfg_utilitys &engine = m_fixture->start(text("-U -S"));
+        cfg_utilitys &engine = m_fixture->start(u"-U -S"_s);
         engine.removeOldFiles(Nvx::Engine::OldFiles::Keep);
         QVERIFY(QFile::exists(m_fixture->installed("of an update.new")));
-        engine.log(0, text("still open"));
-        QCOMPARE(m_fixture->lines().last(), text("   0 still open"));
+        engine.log(0, u"still open"_s);
+        QCOMPARE(m_fixture->lines().last(), u"   0 still open"_s);
     }
 
     void stopServicesRemovesTheServersService()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-ST"));
+        cfg_utilitys &engine = m_fixture->start(u"-ST"_s);
         m_fixture->machine.service.current = Nvx::Util::ServiceState::Active;
         const auto before = m_fixture->lines().size();
         QCOMPARE(runProgram(engine), 0);
         const QStringList lines = m_fixture->lines().mid(before);
-        QCOMPARE(lines.mid(0, 3),
-                 QStringList({text("   0 CheckForRunningOstrade: silent=off terminate=off"),
-                              text("   0 Stopping Services"), text("   0 uninstallServer ")}));
+        QCOMPARE(lines.mid(0, 3), QStringList({u"   0 CheckForRunningOstrade: silent=off terminate=off"_s,
+                                               u"   0 Stopping Services"_s, u"   0 uninstallServer "_s}));
         QCOMPARE(withoutPrograms(lines.mid(3)), QStringList());
         QVERIFY(m_fixture->machine.service.current == Nvx::Util::ServiceState::NotInstalled);
         QVERIFY(m_fixture->machine.boxes.isEmpty());
     }
 
-    void runningProgramsAreLookedForBeforeCadSystemsAndBothBeforeTheRun()
+    void runningProgramsAreSearchedBeforeCadSystemsAndBothBeforeTheRun()
     {
-        m_fixture->machine.running.add(text("C:\\CAD\\xtop.exe"));
-        m_fixture->machine.running.add(text("C:\\NVX 2017\\NVXMonitor.exe"));
-        runProgram(m_fixture->start(text("-I -S")));
-        const QStringList order{text("   0 Wildfire terminated"),
-                                text("   0 CheckForRunningOstrade: silent=on terminate=off"),
-                                text("   0 NVX 2017 Job Monitor terminated"),
-                                text("   0 Searching for CAD Packages"),
-                                text("   0 Finished searching for CAD Packages"),
-                                text("   0 Beginning Install")};
+        m_fixture->machine.running.add(u"C:\\CAD\\xtop.exe"_s);
+        m_fixture->machine.running.add(u"C:\\NVX 2017\\NVXMonitor.exe"_s);
+        runProgram(m_fixture->start(u"-I -S"_s));
+        const QStringList order{u"   0 Wildfire terminated"_s,
+                                u"   0 CheckForRunningOstrade: silent=on terminate=off"_s,
+                                u"   0 NVX 2017 Job Monitor terminated"_s,
+                                u"   0 Searching for CAD Packages"_s,
+                                u"   0 Finished searching for CAD Packages"_s,
+                                u"   0 Beginning Install"_s};
         QStringList found;
         const QStringList lines = m_fixture->lines();
         for (const QString &line : lines) {
@@ -187,39 +188,39 @@ private slots:
                 found << line;
         }
         QCOMPARE(found, order);
-        QCOMPARE(m_fixture->machine.boxes.size(), 1); // about the CAD system, though the run is silent
+        QCOMPARE(m_fixture->machine.boxes.size(), 1); // about the CAD system, although the run is silent
     }
 
-    void everyRunLooksForRunningProgramsAndOnlyThoseThatInstallOrRemoveForCadSystems_data()
+    void everyRunLooksForRunningProgramsButOnlyInstallAndRemovalForCadSystems_data()
     {
         QTest::addColumn<QString>("options");
-        QTest::addColumn<int>("listings"); // one more where the server is looked for
+        QTest::addColumn<int>("listings"); // one more if the server is looked for
         QTest::addColumn<int>("searches");
-        QTest::newRow("silent install") << text("-I -S") << 3 << 1;
-        QTest::newRow("silent uninstall") << text("-U -S") << 3 << 1;
-        QTest::newRow("install") << text("-I") << 2 << 1;
-        QTest::newRow("uninstall") << text("-U") << 2 << 1;
+        QTest::newRow("silent install") << u"-I -S"_s << 3 << 1;
+        QTest::newRow("silent uninstall") << u"-U -S"_s << 3 << 1;
+        QTest::newRow("install") << u"-I"_s << 2 << 1;
+        QTest::newRow("uninstall") << u"-U"_s << 2 << 1;
         QTest::newRow("no mode") << QString() << 2 << 1;
-        QTest::newRow("stop services") << text("-ST") << 3 << 0;
-        QTest::newRow("localisation") << text("-T") << 2 << 0;
+        QTest::newRow("stop services") << u"-ST"_s << 3 << 0;
+        QTest::newRow("localisation") << u"-T"_s << 2 << 0;
     }
 
-    void everyRunLooksForRunningProgramsAndOnlyThoseThatInstallOrRemoveForCadSystems()
+    void everyRunLooksForRunningProgramsButOnlyInstallAndRemovalForCadSystems()
     {
         QFETCH(QString, options);
         closeSoon();
         runProgram(m_fixture->start(options));
         const QStringList lines = m_fixture->lines();
         QTEST(int(m_fixture->machine.running.limits.size()), "listings");
-        QCOMPARE(lines.filter(text("CheckForRunningOstrade")).size(), 1);
-        QTEST(int(lines.count(text("   0 Searching for CAD Packages"))), "searches");
+        QCOMPARE(lines.filter(u"CheckForRunningOstrade"_s).size(), 1);
+        QTEST(int(lines.count(u"   0 Searching for CAD Packages"_s)), "searches");
     }
 
-    void whatTheUserAnswersAboutRunningProgramsStopsNothing()
+    void noAnswerAboutRunningProgramsStopsTheRun()
     {
-        m_fixture->machine.running.add(text("C:\\CAD\\xtop.exe"));
+        m_fixture->machine.running.add(u"C:\\CAD\\xtop.exe"_s);
         m_fixture->machine.answer = Nvx::Util::Answer::Dismissed;
-        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        cfg_utilitys &engine = m_fixture->start(u"-I -S"_s);
         QCOMPARE(runProgram(engine), 0);
         QVERIFY(engine.state().runComplete);
         QVERIFY(m_fixture->machine.running.ended.isEmpty());
@@ -227,19 +228,19 @@ private slots:
 
     void theLocalizationRunEndsWithZeroAndItsLine()
     {
-        writeFile(m_fixture->test.installDir() + text("/localization.xml"), "<localization/>");
-        QCOMPARE(runProgram(m_fixture->start(text("-T"))), 0);
+        writeFile(m_fixture->test.installDir() + u"/localization.xml"_s, "<localization/>");
+        QCOMPARE(runProgram(m_fixture->start(u"-T"_s)), 0);
         const QStringList lines = m_fixture->lines();
-        QCOMPARE(lines.last(), text("   0 Localization script finishes cool"));
-        QCOMPARE(lines.at(lines.size() - 2), text("   0 Ribbon2D copied cool"));
-        QVERIFY(lines.contains(text("   1 There is no folder of sources, nothing is translated")));
-        QVERIFY(!lines.contains(text("   0 Searching for CAD Packages")));
+        QCOMPARE(lines.last(), u"   0 Localization script finishes cool"_s);
+        QCOMPARE(lines.at(lines.size() - 2), u"   0 Ribbon2D copied cool"_s);
+        QVERIFY(lines.contains(u"   1 There is no folder of sources, nothing is translated"_s));
+        QVERIFY(!lines.contains(u"   0 Searching for CAD Packages"_s));
     }
 
-    void theLocalizationToolIsMadeOnce()
+    void theLocalizationToolIsCreatedOnce()
     {
-        writeFile(m_fixture->test.installDir() + text("/localization.xml"), "<localization/>");
-        cfg_utilitys &engine = m_fixture->start(text("-T"));
+        writeFile(m_fixture->test.installDir() + u"/localization.xml"_s, "<localization/>");
+        cfg_utilitys &engine = m_fixture->start(u"-T"_s);
         QVERIFY(!engine.getLtool());
         engine.initLocalizationTool();
         const auto *tool = engine.getLtool();
@@ -261,14 +262,14 @@ private slots:
     {
         QTest::addColumn<QString>("options");
         QTest::addColumn<bool>("shown");
-        QTest::newRow("silent install") << text("-I -S") << false;
-        QTest::newRow("silent uninstall") << text("-U -S") << false;
-        QTest::newRow("silent uninstall, the other way round") << text("-S -U") << false;
-        QTest::newRow("stop services") << text("-ST") << false;
-        QTest::newRow("localisation") << text("-T") << false;
-        QTest::newRow("install") << text("-I") << true;
-        QTest::newRow("uninstall") << text("-U") << true;
-        QTest::newRow("silent without a mode") << text("-S") << true;
+        QTest::newRow("silent install") << u"-I -S"_s << false;
+        QTest::newRow("silent uninstall") << u"-U -S"_s << false;
+        QTest::newRow("silent uninstall, the other way round") << u"-S -U"_s << false;
+        QTest::newRow("stop services") << u"-ST"_s << false;
+        QTest::newRow("localisation") << u"-T"_s << false;
+        QTest::newRow("install") << u"-I"_s << true;
+        QTest::newRow("uninstall") << u"-U"_s << true;
+        QTest::newRow("silent without a mode") << u"-S"_s << true;
         QTest::newRow("no mode") << QString() << true;
     }
 
@@ -282,22 +283,22 @@ private slots:
         QTEST(windows.any(), "shown");
     }
 
-    void afterNoAtTheUsageTheWizardIsShown_data()
+    void afterNoInTheUsageBoxTheWizardIsShown_data()
     {
         QTest::addColumn<QString>("options");
         QTest::addColumn<int>("answer");
         QTest::addColumn<bool>("shown");
         const int yes = int(Nvx::Util::Answer::Yes);
         const int no = int(Nvx::Util::Answer::No);
-        QTest::newRow("uninstall") << text("-U -X") << no << true;
-        QTest::newRow("silent uninstall") << text("-U -S -X") << no << true;
-        QTest::newRow("silent install") << text("-I -S -X") << no << true;
-        QTest::newRow("closed") << text("-U -S -X") << int(Nvx::Util::Answer::Dismissed) << true;
-        QTest::newRow("Yes stays silent") << text("-U -S -X") << yes << false;
-        QTest::newRow("stop services has no window") << text("-ST -X") << no << false;
+        QTest::newRow("uninstall") << u"-U -X"_s << no << true;
+        QTest::newRow("silent uninstall") << u"-U -S -X"_s << no << true;
+        QTest::newRow("silent install") << u"-I -S -X"_s << no << true;
+        QTest::newRow("closed") << u"-U -S -X"_s << int(Nvx::Util::Answer::Dismissed) << true;
+        QTest::newRow("Yes stays silent") << u"-U -S -X"_s << yes << false;
+        QTest::newRow("stop services has no window") << u"-ST -X"_s << no << false;
     }
 
-    void afterNoAtTheUsageTheWizardIsShown()
+    void afterNoInTheUsageBoxTheWizardIsShown()
     {
         QFETCH(QString, options);
         QFETCH(int, answer);
@@ -312,9 +313,9 @@ private slots:
         QVERIFY(!shown || !engine.state().runComplete);
     }
 
-    void aWindowThatIsClosedEndsTheProgramWithZero()
+    void closingTheWindowEndsTheProgramWithZero()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-I"));
+        cfg_utilitys &engine = m_fixture->start(u"-I"_s);
         m_fixture->machine.calls.clear();
         closeSoon();
         QCOMPARE(runProgram(engine), 0);
@@ -324,7 +325,7 @@ private slots:
 
     void finishEndsTheProgramWithZero()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-U"));
+        cfg_utilitys &engine = m_fixture->start(u"-U"_s);
         QTimer poll;
         connect(&poll, &QTimer::timeout, this, [&] {
             const QWizard *wizard = shownWizard();
@@ -333,7 +334,7 @@ private slots:
         });
         poll.start(50);
         QCOMPARE(runProgram(engine), 0);
-        QCOMPARE(m_fixture->lines().last(), text("   0 Program exiting"));
+        QCOMPARE(m_fixture->lines().last(), u"   0 Program exiting"_s);
     }
 
 private:

@@ -8,9 +8,12 @@
 #include <QScrollBar>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+using Nvx::Wizard::ProgressList;
+
 namespace {
 
-// How many lines of text a row takes.
+// The number of text lines of a row.
 int linesOf(const ProgressList &list, int row)
 {
     const QListWidgetItem *item = list.item(row);
@@ -31,7 +34,7 @@ private slots:
         m_list->show();
         m_list->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_list.get()));
-        QGuiApplication::clipboard()->setText(text("from elsewhere"));
+        QGuiApplication::clipboard()->setText(u"from elsewhere"_s);
     }
     void cleanup() { m_list.reset(); }
 
@@ -42,61 +45,61 @@ private slots:
         for (const int row : {3, 0, 2})
             m_list->item(row)->setSelected(true);
         QTest::keyClick(m_list.get(), Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QGuiApplication::clipboard()->text(), text("one\nthree\nfour"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"one\nthree\nfour"_s);
     }
 
-    void allRowsCanBeCopiedByKeys()
+    void allRowsCanBeCopiedWithTheKeyboard()
     {
         for (const char *row : {"one", "two"})
             m_list->appendRow(text(row));
         QTest::keyClick(m_list.get(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(m_list.get(), Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QGuiApplication::clipboard()->text(), text("one\ntwo"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"one\ntwo"_s);
     }
 
-    void aCopiedPathIsThePathItself()
+    void aCopiedPathHasNoBreakPlaces()
     {
-        const QString path = text("C:\\NVX/en-US\\Examples.7z");
+        const QString path = u"C:\\NVX/en-US\\Examples.7z"_s;
         m_list->appendRow(path);
         m_list->selectAll();
         m_list->copySelectedRows();
         QCOMPARE(QGuiApplication::clipboard()->text(), path);
     }
 
-    void withNothingSelectedTheClipboardStays()
+    void withoutASelectionTheClipboardIsUnchanged()
     {
-        m_list->appendRow(text("one"));
+        m_list->appendRow(u"one"_s);
         m_list->copySelectedRows();
-        QCOMPARE(QGuiApplication::clipboard()->text(), text("from elsewhere"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"from elsewhere"_s);
     }
 
-    void theSelectionStaysWhileRowsCome()
+    void newRowsDoNotChangeTheSelection()
     {
-        m_list->appendRow(text("one"));
+        m_list->appendRow(u"one"_s);
         m_list->item(0)->setSelected(true);
         for (int i = 0; i < 50; ++i)
-            m_list->appendRow(text("more"));
+            m_list->appendRow(u"more"_s);
         QVERIFY(m_list->item(0)->isSelected());
         QCOMPARE(m_list->selectedItems().size(), 1);
     }
 
-    void theMenuCopiesToo()
+    void theMenuCopiesTheSelectedRows()
     {
         QCOMPARE(m_list->contextMenuPolicy(), Qt::ActionsContextMenu);
         QCOMPARE(m_list->actions().size(), 2);
-        m_list->appendRow(text("one"));
+        m_list->appendRow(u"one"_s);
         m_list->actions().at(1)->trigger();
         m_list->actions().at(0)->trigger();
-        QCOMPARE(QGuiApplication::clipboard()->text(), text("one"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"one"_s);
     }
 
     void aLongRowIsWrapped_data()
     {
         QTest::addColumn<QString>("row");
         QTest::addColumn<bool>("wrapped");
-        QTest::newRow("short") << text("Install Tutorials") << false;
-        QTest::newRow("words") << QString(text("a word and ")).repeated(10) << true;
-        QTest::newRow("a path without blanks") << text("C:") + QString(text("\\folder")).repeated(15) << true;
+        QTest::newRow("short") << u"Install Tutorials"_s << false;
+        QTest::newRow("words") << QString(u"a word and "_s).repeated(10) << true;
+        QTest::newRow("a path without blanks") << u"C:"_s + QString(u"\\folder"_s).repeated(15) << true;
     }
 
     void aLongRowIsWrapped()
@@ -110,7 +113,7 @@ private slots:
 
     void aWiderListNeedsFewerLines()
     {
-        m_list->appendRow(QString(text("a word and ")).repeated(10));
+        m_list->appendRow(QString(u"a word and "_s).repeated(10));
         QVERIFY(linesOf(*m_list, 0) > 1);
         m_list->resize(2000, 200);
         QTRY_COMPARE(linesOf(*m_list, 0), 1);

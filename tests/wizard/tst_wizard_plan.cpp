@@ -3,6 +3,9 @@
 
 #include <QTest>
 
+using Nvx::Wizard::planFor;
+using Nvx::Wizard::WizardPlan;
+
 class tst_wizard_plan : public QObject
 {
     Q_OBJECT

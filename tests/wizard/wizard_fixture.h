@@ -23,13 +23,14 @@ public:
     {
         wizard.reset();
         start(options);
-        const WizardPlan plan = planFor(engine->state().runMode, engine->state().silent);
+        const Nvx::Wizard::WizardPlan plan =
+            Nvx::Wizard::planFor(engine->state().runMode, engine->state().silent);
         engine->setRunMode(plan.runMode);
         wizard = std::make_unique<ClassWizard>(*engine, plan.pages);
         return *wizard;
     }
 
-    /// The same, and shows them.
+    /// Builds and shows them.
     ClassWizard &show(const QString &options)
     {
         build(options).show();
@@ -49,7 +50,7 @@ public:
         return found;
     }
 
-    /// How many runs have begun.
+    /// The number of runs that have begun.
     qsizetype runs() const { return lines().filter(QStringLiteral("   0 Beginning ")).size(); }
 
     std::unique_ptr<ClassWizard> wizard;

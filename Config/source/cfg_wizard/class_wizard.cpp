@@ -11,14 +11,15 @@
 #include <QKeyEvent>
 #include <QPixmap>
 
-using Page = WizardPlan::Page;
+using namespace Qt::Literals::StringLiterals;
+using Page = Nvx::Wizard::WizardPlan::Page;
 
 namespace {
 
-// The pages' header is as high as its picture: large text takes a higher one.
+// The pages' header is as high as its picture, so large text needs a higher one.
 QPixmap bannerFor(const QFontMetrics &text)
 {
-    QPixmap banner(QStringLiteral(":/image/banner.png"));
+    QPixmap banner(u":/image/banner.png"_s);
     const int wanted = 3 * text.lineSpacing() + 16;
     if (banner.height() >= wanted)
         return banner;
@@ -30,12 +31,12 @@ QPixmap bannerFor(const QFontMetrics &text)
 ClassWizard::ClassWizard(cfg_utilitys &engine, const QList<Page> &pages)
     : m_engine(engine)
 {
-    setObjectName(QStringLiteral("ClassWizard"));
+    setObjectName(u"ClassWizard"_s);
     Nvx::Help::removeTitleBarHelpButton(*this);
     for (const Page page : pages)
         setPage(static_cast<int>(page), makePage(page));
-    dress();
-    levelPages();
+    setLook();
+    equalisePageHeights();
 }
 
 QWizardPage *ClassWizard::makePage(Page page)
@@ -51,7 +52,7 @@ QWizardPage *ClassWizard::makePage(Page page)
     return new ConclusionPage(m_engine, this);
 }
 
-void ClassWizard::dress()
+void ClassWizard::setLook()
 {
     setPixmap(QWizard::BannerPixmap, bannerFor(fontMetrics()));
     setWindowTitle(tr("%1 %2 Configuration Wizard").arg(Nvx::Product::name, Nvx::Product::release));
@@ -60,8 +61,8 @@ void ClassWizard::dress()
     setOption(QWizard::NoCancelButton, true);
 }
 
-// The window keeps its height from page to page.
-void ClassWizard::levelPages()
+// The window has the same height on every page.
+void ClassWizard::equalisePageHeights()
 {
     int tallest = 0;
     const QList<int> ids = pageIds();
@@ -77,7 +78,7 @@ void ClassWizard::accept()
     QWizard::accept();
 }
 
-// Escape would take the window away in the middle of a run, which goes on all the same.
+// Escape would close the window during a run, which would continue without it.
 void ClassWizard::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Cancel) && currentId() == static_cast<int>(Page::Conclusion) &&

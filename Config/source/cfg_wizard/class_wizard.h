@@ -6,24 +6,24 @@
 
 class cfg_utilitys;
 
-/// The program's window: the pages of a plan, in their order. Each page's id is its WizardPlan::Page.
+/// The program's window, with the pages of a plan. The id of a page is its WizardPlan::Page.
 class ClassWizard final : public QWizard
 {
     Q_OBJECT
 
 public:
-    ClassWizard(cfg_utilitys &engine, const QList<WizardPlan::Page> &pages);
+    ClassWizard(cfg_utilitys &engine, const QList<Nvx::Wizard::WizardPlan::Page> &pages);
 
-    /// Finish: logs that the program ends, and closes the window.
+    /// Logs the end of the program and closes the window; called by Finish.
     void accept() override;
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    QWizardPage *makePage(WizardPlan::Page page);
-    void dress();
-    void levelPages();
+    QWizardPage *makePage(Nvx::Wizard::WizardPlan::Page page);
+    void setLook();
+    void equalisePageHeights();
 
     cfg_utilitys &m_engine;
 };

@@ -9,21 +9,23 @@
 #include <QVBoxLayout>
 #include <QWizard>
 
+using namespace Qt::Literals::StringLiterals;
+
 ConclusionPage::ConclusionPage(cfg_utilitys &engine, QWidget *parent)
     : QWizardPage(parent)
     , m_engine(engine)
-    , m_progress(new ProgressList(this))
+    , m_progress(new Nvx::Wizard::ProgressList(this))
 {
-    setObjectName(QStringLiteral("ConclusionPage"));
+    setObjectName(u"ConclusionPage"_s);
     setTitle(tr("Conclusion "));
-    setSubTitle(QStringLiteral(" "));
-    m_progress->setObjectName(QStringLiteral("m_progress"));
+    setSubTitle(u" "_s);
+    m_progress->setObjectName(u"m_progress"_s);
     m_progress->setAccessibleName(tr("Progress"));
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_progress);
 
-    m_start.setObjectName(QStringLiteral("m_start"));
+    m_start.setObjectName(u"m_start"_s);
     m_start.setSingleShot(true);
     m_start.setTimerType(Qt::PreciseTimer); // a coarse one may be early
     m_start.setInterval(1000);
@@ -39,7 +41,7 @@ ConclusionPage::~ConclusionPage()
 void ConclusionPage::initializePage()
 {
     if (m_running)
-        return; // its end completes the page
+        return; // the page is complete when it ends
     m_engine.clearRunComplete();
     m_start.start();
 }
@@ -74,12 +76,12 @@ void ConclusionPage::handleFinalize()
     if (m_running)
         return;
     m_running = true;
-    // The launchers' boxes are read in the course of the run. Its end enables the button again.
+    // The launchers' check boxes are read during the run. Its end enables the button again.
     if (wizard())
         wizard()->button(QWizard::BackButton)->setEnabled(false);
 
     const QPointer<ConclusionPage> self(this);
-    const QEventLoopLocker untilTheEnd; // the window may be closed, which would end the event loop
+    const QEventLoopLocker eventLoop; // closing the window would end the event loop
     m_engine.ProcessInstallation();
     if (self)
         m_running = false;

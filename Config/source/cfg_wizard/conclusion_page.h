@@ -6,10 +6,13 @@
 #include <QWizardPage>
 
 class cfg_utilitys;
-class ProgressList;
 
-/// The last page. One second after it is shown it performs the installation run, whose progress it lists;
-/// when the run is complete, so is the page. While it lives, it is the engine's progress view.
+namespace Nvx::Wizard {
+class ProgressList;
+}
+
+/// The last page. One second after it is shown it performs the installation run and lists its progress; the
+/// page is complete when the run is. During its lifetime it is the engine's progress view.
 class ConclusionPage final : public QWizardPage, public ProgressView
 {
     Q_OBJECT
@@ -27,13 +30,13 @@ public:
     void runCompleteChanged() override;
 
 public slots:
-    /// Performs the run, unless one is under way. The run processes events: when it is over, the page may be
-    /// hidden or gone.
+    /// Performs the run, unless one is in progress. The run processes events, so the page may be hidden or
+    /// deleted when it ends.
     void handleFinalize();
 
 private:
     cfg_utilitys &m_engine;
-    ProgressList *m_progress;
+    Nvx::Wizard::ProgressList *m_progress;
     QTimer m_start{this};
     bool m_running = false;
 };

@@ -4,9 +4,11 @@
 
 #include <QApplication>
 
+namespace Nvx::Wizard {
+
 QStringList fontsOfLanguage(const QString &locale)
 {
-    const Nvx::Util::Language *language = Nvx::Util::languageOf(locale);
+    const Util::Language *language = Util::languageOf(locale);
     if (!language)
         return {};
     QStringList fonts;
@@ -33,3 +35,5 @@ InterfaceFont::~InterfaceFont()
     if (m_isChanged)
         QApplication::setFont(m_before);
 }
+
+} // namespace Nvx::Wizard

@@ -4,13 +4,14 @@
 #include <QString>
 #include <QStringList>
 
-/// The fonts whose Chinese characters have the shapes that readers of a language ("ja-JP") expect: the same
-/// character looks different in Japan, Korea, China and Taiwan. In the order of preference, whether the
-/// machine has them or not; none for a language without such characters.
+namespace Nvx::Wizard {
+
+/// The fonts of a language in the table of languages (nvx_util/languages.h), in order of preference, whether
+/// the machine has them or not. Empty for a language that needs none.
 QStringList fontsOfLanguage(const QString &locale);
 
-/// Lets the application take the characters that its own font lacks from the fonts of a language, while this
-/// object lives. It would take them from those of the system's language.
+/// During the lifetime of this object, the application uses the fonts of a language for characters that its
+/// own font lacks. Otherwise Qt would use those of the system's language.
 class InterfaceFont
 {
 public:
@@ -23,3 +24,5 @@ private:
     QFont m_before;
     bool m_isChanged;
 };
+
+} // namespace Nvx::Wizard

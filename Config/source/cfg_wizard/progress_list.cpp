@@ -5,12 +5,14 @@
 #include <QGuiApplication>
 #include <QStyledItemDelegate>
 
+namespace Nvx::Wizard {
+
 namespace {
 
-// A blank of no width, at which a line may be broken.
+// A zero-width space, at which a line may be broken.
 constexpr QChar breakPlace(0x200B);
 
-// Shows a row with places to break it behind the separators of a path; the row itself stays as it is.
+// Shows a row with break places after the separators of a path; the stored text does not change.
 class WrappingRows final : public QStyledItemDelegate
 {
 public:
@@ -19,7 +21,7 @@ public:
     QString displayText(const QVariant &value, const QLocale &) const override
     {
         QString shown = value.toString();
-        for (const QChar separator : {QLatin1Char('\\'), QLatin1Char('/')})
+        for (const QChar separator : {u'\\', u'/'})
             shown.replace(separator, QString(separator) + breakPlace);
         return shown;
     }
@@ -69,5 +71,7 @@ void ProgressList::copySelectedRows() const
             rows.append(item(row)->text());
     }
     if (!rows.isEmpty())
-        QGuiApplication::clipboard()->setText(rows.join(QLatin1Char('\n')));
+        QGuiApplication::clipboard()->setText(rows.join(u'\n'));
 }
+
+} // namespace Nvx::Wizard

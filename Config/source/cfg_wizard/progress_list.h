@@ -2,8 +2,10 @@
 
 #include <QListWidget>
 
-/// The rows of a run as they come. Long rows are wrapped rather than cut off, a path without blanks between
-/// its folders. Rows can be selected and copied, with the keys and with a menu.
+namespace Nvx::Wizard {
+
+/// The progress of a run, one row for each line. Long rows are wrapped, a path also between its folders. Rows
+/// can be selected and copied with the keyboard and through a context menu.
 class ProgressList final : public QListWidget
 {
     Q_OBJECT
@@ -14,10 +16,12 @@ public:
     /// Adds a row at the end and scrolls to it.
     void appendRow(const QString &text);
 
-    /// Puts the texts of the selected rows on the clipboard, one a line, in the order of the rows. Nothing
-    /// happens when none is selected.
+    /// Copies the selected rows to the clipboard, one per line, in the order of the list. Does nothing if no
+    /// row is selected.
     void copySelectedRows() const;
 
 private:
     void addMenu();
 };
+
+} // namespace Nvx::Wizard

@@ -10,6 +10,10 @@
 
 #include <QApplication>
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Wizard {
+
 namespace {
 
 struct Messages
@@ -20,7 +24,7 @@ struct Messages
 int showPages(cfg_utilitys &engine, const WizardPlan &plan)
 {
     ClassWizard wizard(engine, plan.pages);
-    engine.searchCADPackages(); // which sets the boxes of the pages
+    engine.searchCADPackages(); // sets the check boxes of the pages
     wizard.show();
     return QApplication::exec();
 }
@@ -29,7 +33,7 @@ void localize(cfg_utilitys &engine)
 {
     engine.initLocalizationTool();
     engine.getLtool()->runScript();
-    engine.log(LogLevel::step, QStringLiteral("Localization script finishes cool"));
+    engine.log(LogLevel::step, u"Localization script finishes cool"_s);
 }
 
 } // namespace
@@ -37,7 +41,7 @@ void localize(cfg_utilitys &engine)
 int runPasses(const cfg_utilitys &engine, const std::function<int()> &pass)
 {
     for (;;) {
-        const QString locale = Nvx::Util::System::getLocale();
+        const QString locale = Util::System::getLocale();
         const InterfaceTranslators translators(engine.state().installDir, locale);
         const InterfaceFont font(locale);
         const int result = pass();
@@ -77,3 +81,5 @@ int runProgram(cfg_utilitys &engine)
     const WizardPlan plan = planFor(engine.state().runMode, engine.state().silent);
     return runPasses(engine, [&] { return runPass(engine, plan); });
 }
+
+} // namespace Nvx::Wizard

@@ -3,19 +3,23 @@
 #include <functional>
 
 class cfg_utilitys;
+
+namespace Nvx::Wizard {
+
 struct WizardPlan;
 
-/// What a pass answers when the user has chosen another language: the interface is to be built anew.
+/// The result of a pass after the user has chosen another language: the interface is to be built again.
 constexpr int languageChanged = 901;
 
-/// Loads the translations and fonts of the remembered language and performs one pass, again and again as long
-/// as the pass answers languageChanged. Returns the answer of the last pass, the process's exit code.
+/// Loads the translations and fonts of the stored language and performs a pass, and repeats that while the
+/// pass returns languageChanged. Returns the result of the last pass, which is the process's exit code.
 int runPasses(const cfg_utilitys &engine, const std::function<int()> &pass);
 
-/// One pass: does what the plan says. Returns the exit code, or languageChanged; a pass without a window
-/// always answers 0.
+/// Performs one pass of the plan. Returns the exit code or languageChanged; without a window always 0.
 int runPass(cfg_utilitys &engine, const WizardPlan &plan);
 
-/// The whole program once the engine has started: passes of one plan, which is made from the command line's
-/// mode, so that the pages that a changed language builds anew are the same ones. Returns the exit code.
+/// Runs the whole program after the engine has started: passes of one plan. The plan is made once, from the
+/// mode of the command line, so the pages are the same after a change of language. Returns the exit code.
 int runProgram(cfg_utilitys &engine);
+
+} // namespace Nvx::Wizard

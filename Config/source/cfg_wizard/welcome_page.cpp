@@ -10,9 +10,11 @@
 #include <QGridLayout>
 #include <QLabel>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-// Codes are compared without case: a command line may have spelled its own in any.
+// Locales are compared without case, because the command line accepts any spelling.
 int positionOf(const QComboBox &languages, const QString &code)
 {
     return languages.findData(code, Qt::UserRole, Qt::MatchFixedString);
@@ -26,27 +28,27 @@ WelcomePage::WelcomePage(cfg_utilitys &engine, int followingPage, QWidget *paren
     , m_followingPage(followingPage)
     , m_languages(new QComboBox(this))
 {
-    setObjectName(QStringLiteral("WelcomePage"));
+    setObjectName(u"WelcomePage"_s);
     setTitle(tr("Welcome"));
-    setSubTitle(QStringLiteral(" "));
+    setSubTitle(u" "_s);
 
     auto *intro = new QLabel(tr("This wizard will configure Velmora %1 %2 for your system.")
                                  .arg(Nvx::Product::name, Nvx::Product::release),
                              this);
-    intro->setObjectName(QStringLiteral("m_intro"));
+    intro->setObjectName(u"m_intro"_s);
     intro->setWordWrap(true);
 
     auto *changeLanguage = new QLabel(tr("Change language"), this);
-    changeLanguage->setObjectName(QStringLiteral("m_changeLanguage"));
+    changeLanguage->setObjectName(u"m_changeLanguage"_s);
     changeLanguage->setBuddy(m_languages);
-    m_languages->setObjectName(QStringLiteral("m_languages"));
+    m_languages->setObjectName(u"m_languages"_s);
     m_languages->setAccessibleName(changeLanguage->text());
     offerLanguages();
 
     auto *layout = new QGridLayout(this);
     layout->addWidget(intro, 0, 0, 1, 3);
-    layout->addWidget(new QLabel(QStringLiteral(" "), this), 1, 0);
-    layout->addWidget(new QLabel(QStringLiteral(" "), this), 2, 0);
+    layout->addWidget(new QLabel(u" "_s, this), 1, 0);
+    layout->addWidget(new QLabel(u" "_s, this), 2, 0);
     layout->addWidget(changeLanguage, 3, 0);
     layout->addWidget(m_languages, 3, 1);
     layout->setColumnStretch(2, 1);
@@ -68,6 +70,6 @@ int WelcomePage::nextId() const
         return m_followingPage;
 
     m_engine.changeLanguage(m_languages->itemData(selection).toString());
-    QCoreApplication::exit(languageChanged);
+    QCoreApplication::exit(Nvx::Wizard::languageChanged);
     return -1;
 }

@@ -5,19 +5,18 @@
 class cfg_utilitys;
 class QComboBox;
 
-/// The first page of a run without a mode: greets, and offers the languages of the interface.
+/// The first page of a run without a mode, with the choice of the interface language.
 class WelcomePage final : public QWizardPage
 {
     Q_OBJECT
 
 public:
-    /// Selects the engine's current language; when it is none of those offered, nothing is selected. The page
-    /// that follows has the id followingPage.
+    /// Selects the engine's current language, or nothing if that is not in the list. followingPage is the id
+    /// of the next page.
     WelcomePage(cfg_utilitys &engine, int followingPage, QWidget *parent = nullptr);
 
-    /// The page that follows, as long as the language stays. When another one is selected, the engine is
-    /// switched to it, the event loop ends with languageChanged, and the answer is -1: the pages are to be
-    /// built anew.
+    /// The next page, if the language has not changed. If another one is selected, switches the engine to it,
+    /// ends the event loop with languageChanged and returns -1: the pages are to be built again.
     int nextId() const override;
 
 private:

@@ -1,5 +1,7 @@
 #include "cfg_wizard/wizard_plan.h"
 
+namespace Nvx::Wizard {
+
 WizardPlan planFor(RunMode mode, bool silent)
 {
     using Action = WizardPlan::Action;
@@ -7,19 +9,21 @@ WizardPlan planFor(RunMode mode, bool silent)
 
     switch (mode) {
     case RunMode::StopServices:
-        return {Action::StopServices, {}, mode};
+        return {.action = Action::StopServices, .runMode = mode};
     case RunMode::Localization:
-        return {Action::Localize, {}, mode};
+        return {.action = Action::Localize, .runMode = mode};
     case RunMode::Uninstall:
         if (silent)
-            return {Action::RunSilently, {}, mode};
-        return {Action::ShowPages, {Page::Conclusion}, mode};
+            return {.action = Action::RunSilently, .runMode = mode};
+        return {.pages = {Page::Conclusion}, .runMode = mode};
     case RunMode::Install:
         if (silent)
-            return {Action::RunSilently, {}, mode};
-        return {Action::ShowPages, {Page::Feature, Page::Conclusion}, mode};
+            return {.action = Action::RunSilently, .runMode = mode};
+        return {.pages = {Page::Feature, Page::Conclusion}, .runMode = mode};
     case RunMode::NotGiven:
         break;
     }
-    return {Action::ShowPages, {Page::Welcome, Page::Feature, Page::Conclusion}, RunMode::Install};
+    return {.pages = {Page::Welcome, Page::Feature, Page::Conclusion}};
 }
+
+} // namespace Nvx::Wizard

@@ -4,13 +4,15 @@
 
 #include <QList>
 
-/// What the program does once it has started, decided from the run mode and the silent flag alone.
+namespace Nvx::Wizard {
+
+/// What the program does after its start, decided from the run mode and the silent flag alone.
 struct WizardPlan
 {
     enum class Action
     {
-        ShowPages,    ///< show a wizard of these pages; the user starts the run
-        RunSilently,  ///< perform the installation run at once, without a window
+        ShowPages,    ///< show a wizard with these pages
+        RunSilently,  ///< perform the installation run without a window
         StopServices, ///< stop the product's services, without a window
         Localize      ///< run the localisation tool, without a window
     };
@@ -26,5 +28,7 @@ struct WizardPlan
     RunMode runMode = RunMode::Install; ///< the mode from here on
 };
 
-/// The plan for a run. The silent flag is not looked at when no mode was given.
+/// The plan for a run. The silent flag is ignored if no mode was given.
 WizardPlan planFor(RunMode mode, bool silent);
+
+} // namespace Nvx::Wizard

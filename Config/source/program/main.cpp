@@ -9,5 +9,5 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     Nvx::Util::NativeMachine machine;
     cfg_utilitys engine(machine);
-    return runProgram(engine);
+    return Nvx::Wizard::runProgram(engine);
 }
