@@ -4,9 +4,9 @@
 !define STARTUP_SIZE 104
 !define PROCESS_SIZE 24
 
-; $R0: the options. Sets the error flag when the program cannot be started. It reads its whole command line
-; word by word, and takes a part of the install dir that begins with "-" for an option: so the command line
-; names the program only, and its path is handed over apart.
+; $R0 contains the options. Sets the error flag if the program cannot be started. The program splits its whole
+; command line at blanks and would treat a part of the install dir that begins with "-" as an option. Therefore the
+; command line contains only the program's name, and its path is passed separately.
 !macro ConfigurationFunction UN
 Function ${UN}Configure
     StrCpy $R1 "$INSTDIR\NVXConfig.exe"

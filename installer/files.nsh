@@ -1,17 +1,16 @@
-; How the product's files come to the machine: all of them or none.
+; Installs the product's files, all or none.
 ;
-; They are unpacked beside their places first, in a folder of ours, so that a full disk or a broken set-up is
-; met before anything has changed. Then each one that is there moves into that folder, and the new one into
-; its place. Until the set-up is through, that can be taken back, also by the next set-up when this one was
-; killed.
+; They are first unpacked into a folder below their destination, so that a full disk or a damaged set-up program is
+; detected before anything has changed. Then each existing file is moved into that folder, and the new one to its
+; destination. Until the set-up is complete, this can be undone, also by the next set-up if this one is killed.
 
 !define WORK "\setup in progress"
 !define NEW "${WORK}\new"
 !define OLD "${WORK}\old"
-; There from the moment when everything is unpacked until all is settled.
+; Exists from the time when everything is unpacked until the set-up is complete.
 !define MARK "${WORK}\replacing"
 
-; Does something with each file of the product, with $Root set to the folder that it belongs in.
+; Does something with each file of the product, with $Root set to its destination folder.
 !macro EachFile ACTION
     StrCpy $Root $INSTDIR
     !insertmacro EachProductFile ${ACTION}
@@ -19,7 +18,7 @@
     !insertmacro EachTranslatorsFile ${ACTION}
 !macroend
 
-; The same with each folder, a folder after those in it.
+; The same for each folder, subfolders first.
 !macro EachFolder ACTION
     StrCpy $Root $Translators
     !insertmacro EachTranslatorsFolder ${ACTION}
@@ -55,13 +54,13 @@
     RMDir "$Root${FOLDER}"
 !macroend
 
-; Puts the unpacked file in its place and keeps the one that was there. What cannot be done is asked about,
-; and ends a silent set-up.
+; Moves the unpacked file to its destination and backs up the existing one. If that fails, asks the user; a silent
+; set-up ends.
 Function ReplaceFile
     StrCpy $0 "$Root$R1"
 again:
     ${If} ${FileExists} "$0\*.*"
-        ; A folder of somebody else's.
+        ; A folder that does not belong to the product.
         Goto failed
     ${ElseIf} ${FileExists} "$0"
         CreateDirectory "$Root${OLD}$R0"
@@ -80,7 +79,7 @@ failed:
     Abort "$(^CantWrite)$0"
 FunctionEnd
 
-; The other way round. May be done again, from wherever it was broken off.
+; Undoes ReplaceFile. May be repeated after an interruption.
 Function TakeFileBack
     ${IfNot} ${FileExists} "$Root${NEW}$R1"
         Rename "$Root$R1" "$Root${NEW}$R1"
@@ -90,7 +89,7 @@ Function TakeFileBack
     ${EndIf}
 FunctionEnd
 
-; A program that runs cannot be deleted; Windows does that when it starts next.
+; A running program cannot be deleted; Windows does that at its next start.
 Function DropWorkFile
     Delete "$Root${NEW}$R1"
     Delete /REBOOTOK "$Root${OLD}$R1"
@@ -98,7 +97,7 @@ FunctionEnd
 
 Function UnpackFiles
     !insertmacro EachFile Unpack
-    ; The folder that a program works in cannot be removed.
+    ; The working folder of a program cannot be removed.
     SetOutPath $TEMP
     StrCpy $0 "$INSTDIR${NEW}\uninstall.exe"
     ClearErrors
@@ -121,7 +120,7 @@ Function ReplaceFiles
     !insertmacro CallWith ReplaceFile "" "\uninstall.exe"
 FunctionEnd
 
-; From here on nothing is taken back.
+; After this, nothing is undone.
 Function SettleFiles
     Delete "$INSTDIR${MARK}"
     Call DropWorkFiles
@@ -136,7 +135,7 @@ Function DropWorkFiles
     RMDir "$INSTDIR${WORK}"
 FunctionEnd
 
-; Makes the folders what they were before a set-up that did not come to its end.
+; Restores the folders after a set-up that was not completed.
 Function TakeFilesBack
     SetOutPath $TEMP
     ${If} ${FileExists} "$INSTDIR${MARK}"
@@ -150,7 +149,7 @@ Function TakeFilesBack
     Call DropOuterFolders
 FunctionEnd
 
-; The folders around ours, as long as nobody else has something in them.
+; Removes the empty parent folders.
 !macro OuterFolders UN
 Function ${UN}DropOuterFolders
     RMDir "$PROGRAMFILES64\Velmora\Kelvane\Translators"
@@ -161,8 +160,8 @@ FunctionEnd
 !insertmacro OuterFolders ""
 !insertmacro OuterFolders "un."
 
-; A removal takes the files of the list away, and those that the product has made beside them: the libraries
-; of the chosen language and the viewer's note. $Left names a file that could not be deleted.
+; Removes the files of the list and those that the product has created next to them: the libraries of the selected
+; language and the viewer's note. Sets $Left to a file that could not be deleted.
 !macro Remove FOLDER FILE SOURCE
     StrCpy $R1 "$Root${FILE}"
     Call un.RemoveFile

@@ -1,10 +1,10 @@
-; The installer of NVX 2017: copies the product, runs its configuration, and takes both back.
+; The installer of NVX 2017: copies the product and runs its configuration, and removes both.
 ;
-;     /S            without a window; the exit status is 0 only when all is installed
+;     /S            without a window; the exit status is 0 only if everything is installed
 ;     /LANG=de-DE   the language of the installer and of the product
-;     /D=FOLDER     where to; the last option, without quotes
+;     /D=FOLDER     the install dir; must be the last option, without quotes
 ;
-; A product that is installed already is replaced where it is, in its language if no other is named.
+; An installed product is replaced in its folder, and in its language unless an option selects another one.
 ;
 ; Defined by the build: PRODUCT_VERSION, PRODUCT_KILOBYTES, LISTS (the lists of the files), ICON,
 ; SIDE_PICTURE and OUT_FILE.
@@ -27,15 +27,15 @@ ManifestSupportedOS all
 AllowSkipFiles off
 
 Var Locale
-; The folder that a file of the lists belongs in: the install dir or the translators' one.
+; The destination folder of a file: the install dir or the translators' folder.
 Var Root
 Var Translators
-; What the set-up has done that would have to be taken back: "", "stopped", "registered".
+; What would have to be undone: "", "stopped" or "registered".
 Var Done
-; Whether the product was there before.
+; Whether the product was installed before.
 Var Upgrade
 Var VersionBefore
-; A file that a removal could not delete.
+; A file that the removal could not delete.
 Var Left
 
 !define MUI_ICON "${ICON}"
@@ -78,14 +78,14 @@ Function .onInit
     ClearErrors
     ${GetOptions} $1 "/LANG=" $0
     ${If} ${Errors}
-        ; Asks nothing in a silent run.
+        ; Shows nothing in a silent run.
         !insertmacro MUI_LANGDLL_DISPLAY
         Call NameLocale
     ${EndIf}
     Call FindInstalled
 FunctionEnd
 
-; $Upgrade; a product that is installed stays in its folder.
+; Sets $Upgrade; an installed product stays in its folder.
 Function FindInstalled
     ReadRegStr $0 HKLM "${UNINSTALL_KEY}" "InstallLocation"
     StrCpy $Upgrade no
@@ -103,14 +103,14 @@ Function SkipWhenInstalled
 FunctionEnd
 
 Section
-    ; What the page of the folder says is needed.
+    ; The required space shown on the page of the folder.
     AddSize ${PRODUCT_KILOBYTES}
     StrCpy $Done ""
     Call FindTranslators
     ${If} ${FileExists} "$INSTDIR${MARK}"
         Call TakeFilesBack
     ${EndIf}
-    ; Also one that was not registered, or whose folder was chosen on the page.
+    ; Also a product that was not registered or whose folder was selected on the page.
     ${If} ${FileExists} "$INSTDIR\NVXConfig.exe"
         StrCpy $Upgrade yes
     ${EndIf}
@@ -118,7 +118,7 @@ Section
     ReadRegStr $VersionBefore HKLM "${UNINSTALL_KEY}" "DisplayVersion"
     Call UnpackFiles
     ${If} $Upgrade == yes
-        ; The server's program is free when its service is gone.
+        ; The server's program can be replaced when its service has been removed.
         StrCpy $Done stopped
         StrCpy $R0 "-ST -S -L$Locale"
         Call Configure
@@ -140,7 +140,7 @@ Function .onInstFailed
     Call TakeFilesBack
     ${If} $Upgrade == yes
     ${AndIf} $Done != ""
-        ; The product of before goes on, in its language.
+        ; The previous product is restored, in its language.
         ${If} $VersionBefore == ""
             Call ClearEntry
         ${Else}
@@ -177,7 +177,7 @@ Section un.Product
     StrCpy $Left ""
     Call un.RemoveFiles
     ${If} $Left != ""
-        ; The entry stays, and with it the way to try again.
+        ; The entry stays, so that the removal can be repeated.
         Abort "$(^CantWrite)$Left"
     ${EndIf}
     StrCpy $Root $Translators

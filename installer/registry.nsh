@@ -1,4 +1,4 @@
-; What stands of the installation on the machine besides its files.
+; The installation's registry values and environment variables.
 
 !define PRODUCT_KEY "Software\Velmora\NVX"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\NVX 2017"
@@ -11,7 +11,7 @@
     !insertmacro ${ACTION} OSTRADE2017TEMP
 !macroend
 
-; The configuration that we start finds them in our own environment.
+; The configuration program inherits them from this process.
 !macro SetVariable NAME
     WriteRegStr HKLM "${ENVIRONMENT_KEY}" "${NAME}" "$INSTDIR"
     StrCpy $0 "${NAME}"
@@ -19,7 +19,7 @@
     System::Call "kernel32::SetEnvironmentVariableW(w r0, w r1)"
 !macroend
 
-; One that points elsewhere is another installation's.
+; A variable with another folder belongs to another installation.
 !macro ClearVariable NAME
     ReadRegStr $0 HKLM "${ENVIRONMENT_KEY}" "${NAME}"
     ${If} $0 == $INSTDIR
@@ -36,7 +36,7 @@ Function SetVariables
     !insertmacro AnnounceVariables
 FunctionEnd
 
-; $Translators: where the translation server's programs lie, or are to lie.
+; Sets $Translators to the folder of the translation server's programs, which may not exist yet.
 Function FindTranslators
     ReadRegStr $Translators HKLM "${TRANSLATORS_KEY}" "Folder"
     ${If} $Translators == ""
@@ -44,8 +44,8 @@ Function FindTranslators
     ${EndIf}
 FunctionEnd
 
-; The product puts another locale behind /LANG= when its language is changed, and takes what follows away;
-; so the option is the last one of the command.
+; When the language is changed, the product replaces the locale after /LANG= and removes what follows it. So this
+; option is the last one of the command.
 Function WriteEntry
     StrCpy $0 '"$INSTDIR\uninstall.exe"'
     WriteRegStr HKLM "${UNINSTALL_KEY}" "UninstallPath" "$0 /LANG=$Locale"
@@ -63,14 +63,14 @@ Function WriteEntry
     WriteRegStr HKLM "${TRANSLATORS_KEY}" "Folder" "$Translators"
 FunctionEnd
 
-; The product's own key stays: the product leaves it, too.
+; The product's key stays, as after a removal by the product itself.
 !macro RegistryFunctions UN
 Function ${UN}ClearVariables
     !insertmacro EachVariable ClearVariable
     !insertmacro AnnounceVariables
 FunctionEnd
 
-; The translators' folder is told to others as long as there is one.
+; The translators' folder stays registered as long as it exists.
 Function ${UN}ClearEntry
     DeleteRegKey HKLM "${UNINSTALL_KEY}"
     ReadRegStr $0 HKLM "${TRANSLATORS_KEY}" "Folder"

@@ -1,14 +1,14 @@
 # shellcheck shell=bash
-# What the tests of this folder share. Sourced, not run. $folder is the test's own folder, $installed the
-# folder that the programs were laid out in.
+# Shared by the tests of this folder. Sourced, not run. $folder is the test's own folder, $installed the folder of the
+# installed programs.
 
 fail() {
     echo "FAIL: $*" >&2
     exit 1
 }
 
-# try_window PROGRAM FILE CATALOGUE...: starts a German window with a file. It remembers the file that it
-# opened, has its translations loaded from beside itself, and goes on until it is ended.
+# try_window PROGRAM FILE CATALOGUE...: starts a program in German with a file. It must store the file that it opened,
+# load its translations from its own folder, and run until it is ended.
 try_window() {
     : "${folder:?}" "${installed:?}"
     local program=$1 file=$2 settings=$folder/config/Velmora/$1.conf errors=$folder/$1.errors

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tst_tools_package.sh CPACK BUILD_FOLDER: packs the developers' tools, unpacks them into a folder where nothing
-# of the build is near, and runs them there.
+# tst_tools_package.sh CPACK BUILD_FOLDER: packs the developers' tools, unpacks them into a folder outside the build,
+# and runs them there.
 set -euo pipefail
 cpack=$1 build=$2
 . "$(dirname "${BASH_SOURCE[0]}")/installed.sh"
@@ -13,16 +13,16 @@ trap 'rm -rf "$folder"' EXIT
 unpacked="$folder/tools für größe"
 mkdir "$unpacked"
 tar -xzf "$folder"/packed/nvx-2017-tools-*.tar.gz -C "$unpacked"
-(cd "$folder/packed" && sha256sum --quiet -c ./*.sha256) || fail "the checksum is another one's"
+(cd "$folder/packed" && sha256sum --quiet -c ./*.sha256) || fail "the checksum is wrong"
 rm -rf "$folder/packed"
 installed=$(echo "$unpacked"/*)
 [ -d "$installed/bin" ] || fail "not one folder: $(ls "$unpacked")"
 
-# The tools and nothing of the configuration, stripped.
+# It contains the tools, stripped, and nothing of the configuration program.
 programs=$(cd "$installed/bin" && find . -maxdepth 1 -type f -perm -u+x | sort | tr '\n' ' ')
 [ "$programs" = "./MaterialNameUtility ./MessageTableUtility ./UpdateErrorTable " ] ||
     fail "programs: $programs"
-[ -z "$(find "$installed" -name 'nvxconfig.qm')" ] || fail "texts of a program that is not there"
+[ -z "$(find "$installed" -name 'nvxconfig.qm')" ] || fail "translations of a program that is not in the package"
 for program in $programs; do
     if readelf -S "$installed/bin/$program" | grep -qF .debug_info; then fail "$program is not stripped"; fi
     loaded=$(ldd "$installed/bin/$program")
@@ -39,9 +39,9 @@ packages=$(dpkg-query -S "${libraries[@]}" | cut -d: -f1 | sort -u) || fail "a l
 for package in $packages qt6-translations-l10n; do
     grep -qsi copyright "$installed/licences/$package.txt" || fail "no licence of $package"
 done
-grep -qF 'Version 3, 29 June 2007' "$installed/licences/general/LGPL-3.txt" || fail "no text of the LGPL"
+grep -qF 'Version 3, 29 June 2007' "$installed/licences/general/LGPL-3.txt" || fail "the text of the LGPL is missing"
 
-# The command line does its work: it takes the message of a project's source up.
+# The command line works: it adds the message of a project's source to the table.
 mkdir -p "$folder/project/source"
 cat >"$folder/project/client.vcxproj" <<'END'
 <Project xmlns="http://schemas.microsoft.com/developer/msbuild/2003">
@@ -51,14 +51,14 @@ cat >"$folder/project/client.vcxproj" <<'END'
 END
 echo 'void start() { REPORT_ERROR("MeshIsEmpty"); }' >"$folder/project/source/solver.cpp"
 cd "$folder/project"
-told=$(env -i LC_ALL=C.UTF-8 "$installed/bin/UpdateErrorTable" -sync errors.xml client.vcxproj) ||
+output=$(env -i LC_ALL=C.UTF-8 "$installed/bin/UpdateErrorTable" -sync errors.xml client.vcxproj) ||
     fail "UpdateErrorTable ended with exit status $?"
-grep -qF 'Found 1 keys (1 new, 0 existing, and 0 obsolete)' <<<"$told" || fail "UpdateErrorTable tells: $told"
+grep -qF 'Found 1 keys (1 new, 0 existing, and 0 obsolete)' <<<"$output" || fail "UpdateErrorTable printed: $output"
 grep -qF MeshIsEmpty "$folder/project/errors.xml" || fail "the message is not in the table"
 
-# The windows open their files, in the language of their user.
+# The programs with windows open their files, in the user's language.
 echo '<messageTable/>' >"$folder/table.xml"
 echo '<TS/>' >"$folder/matprop.ts"
 try_window MessageTableUtility "$folder/table.xml" messagetableutility nvxwindow qt_de_DE
 try_window MaterialNameUtility "$folder/matprop.ts" materialnameutility nvxwindow qt_de_DE
-echo "the unpacked tools run as they stand"
+echo "the unpacked tools run"

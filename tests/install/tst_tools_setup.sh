@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tst_tools_setup.sh SETUP: runs tools/setup with a cache folder of the test's own, on a machine on which everything
-# is missing. In place of the programs that install, fetch and build are scripts that only record their call.
+# tst_tools_setup.sh SETUP: runs tools/setup with the test's own cache folder on a machine where everything is missing.
+# Scripts that only record their calls replace the programs that install, download and build.
 set -euo pipefail
 setup=$1
 
@@ -16,7 +16,7 @@ fail() {
     exit 1
 }
 
-# stand_in PROGRAM: makes the script that runs in the program's place, from the input.
+# stand_in PROGRAM: creates the script that replaces the program, from standard input.
 stand_in() {
     {
         cat <<'BEGIN'
@@ -50,7 +50,7 @@ mkdir -p package/win/x64
 touch package/win/x64/7za.exe package/LICENSE.txt
 tar -czf 7zip-bin-5.2.0.tgz package
 END
-# The build lasts long enough for the other tools/setup to come upon it.
+# The build lasts long enough for the other tools/setup to find it running.
 stand_in cmake <<'END'
 case $1 in
     --build) sleep 3 ;;
@@ -60,7 +60,7 @@ END
 
 count() { grep -cE "$1" "$calls" || true; }
 
-# Two at the same time: both end well, and each piece of the work is done once.
+# Two at the same time: both succeed, and each part of the work is done once.
 "$setup" >"$folder/first.log" 2>&1 &
 first=$!
 "$setup" >"$folder/second.log" 2>&1 || fail "the second one ended with exit status $?"
@@ -68,17 +68,17 @@ wait $first || fail "the first one ended with exit status $?"
 for work in 'apt-get install' 'npm pack' 'apt-get .* source ' 'cmake -S' 'cmake --build' 'cmake --install'; do
     [ "$(count "^$work")" = 1 ] || fail "'$work' was called $(count "^$work") times"
 done
-grep -qhF 'waiting for the tools/setup' "$folder"/first.log "$folder"/second.log || fail "none has waited"
+grep -qhF 'waiting for the tools/setup' "$folder"/first.log "$folder"/second.log || fail "neither has waited"
 [ -f "$NVX_CACHE/qt-windows/built-from" ] || fail "Qt is not where the build looks for it"
 [ -f "$NVX_CACHE/7zip-windows/7za.exe" ] || fail "7-Zip is not where the build looks for it"
 
-# When all is there it only looks, and says nothing.
+# If everything exists, it only checks, and prints nothing.
 : >"$calls"
 "$setup" >"$folder/third.log" 2>&1 || fail "the third one ended with exit status $?"
-[ -s "$folder/third.log" ] && fail "it says something though there is nothing to do"
+[ -s "$folder/third.log" ] && fail "it prints something although there is nothing to do"
 [ "$(count '^dpkg-query')" = "$(count '')" ] || fail "it calls: $(cat "$calls")"
 
-# What is missing is made again, and only that.
+# Only what is missing is made again.
 rm "$NVX_CACHE/7zip-windows/7za.exe"
 "$setup" >"$folder/fourth.log" 2>&1 || fail "the fourth one ended with exit status $?"
 [ "$(count '^npm pack')" = 1 ] || fail "7-Zip is missing and was not fetched"

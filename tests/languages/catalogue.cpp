@@ -3,19 +3,21 @@
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 EntryState stateOf(const QXmlStreamReader &xml)
 {
     const QXmlStreamAttributes attributes = xml.attributes();
-    if (!attributes.hasAttribute(QLatin1String("type")))
+    if (!attributes.hasAttribute("type"_L1))
         return EntryState::Finished;
-    if (attributes.value(QLatin1String("type")) == QLatin1String("unfinished"))
+    if (attributes.value("type"_L1) == "unfinished"_L1)
         return EntryState::Unfinished;
     return EntryState::Obsolete;
 }
 
-// A text with plural forms has an element for each in place of plain text.
+// A text with plural forms has an element for each form instead of plain text.
 QStringList readTranslations(QXmlStreamReader &xml, bool hasPlurals)
 {
     if (!hasPlurals)
@@ -30,13 +32,13 @@ Entry readMessage(QXmlStreamReader &xml, const QString &context)
 {
     Entry entry;
     entry.context = context;
-    const bool hasPlurals = xml.attributes().value(QLatin1String("numerus")) == QLatin1String("yes");
+    const bool hasPlurals = xml.attributes().value("numerus"_L1) == "yes"_L1;
     while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("source")) {
+        if (xml.name() == "source"_L1) {
             entry.source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("comment")) {
+        } else if (xml.name() == "comment"_L1) {
             entry.comment = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
+        } else if (xml.name() == "translation"_L1) {
             entry.state = stateOf(xml);
             entry.translations = readTranslations(xml, hasPlurals);
         } else {
@@ -50,9 +52,9 @@ void readContext(QXmlStreamReader &xml, QList<Entry> &entries)
 {
     QString name;
     while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("name"))
+        if (xml.name() == "name"_L1)
             name = xml.readElementText();
-        else if (xml.name() == QLatin1String("message"))
+        else if (xml.name() == "message"_L1)
             entries.append(readMessage(xml, name));
         else
             xml.skipCurrentElement();
@@ -64,13 +66,13 @@ void readContext(QXmlStreamReader &xml, QList<Entry> &entries)
 std::optional<Catalogue> readCatalogue(QIODevice &device)
 {
     QXmlStreamReader xml(&device);
-    if (!xml.readNextStartElement() || xml.name() != QLatin1String("TS"))
+    if (!xml.readNextStartElement() || xml.name() != "TS"_L1)
         return std::nullopt;
 
     Catalogue catalogue;
-    catalogue.language = xml.attributes().value(QLatin1String("language")).toString();
+    catalogue.language = xml.attributes().value("language"_L1).toString();
     while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("context"))
+        if (xml.name() == "context"_L1)
             readContext(xml, catalogue.entries);
         else
             xml.skipCurrentElement();
@@ -84,9 +86,9 @@ QMap<QString, QStringList> readCatalogueList(QIODevice &list)
 {
     QMap<QString, QStringList> folders;
     while (!list.atEnd()) {
-        QStringList words = QString::fromUtf8(list.readLine())
-                                .split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
-        if (words.isEmpty() || words.first().startsWith(QLatin1Char('#')))
+        QStringList words =
+            QString::fromUtf8(list.readLine()).split(QRegularExpression(u"\\s+"_s), Qt::SkipEmptyParts);
+        if (words.isEmpty() || words.first().startsWith(u'#'))
             continue;
         const QString name = words.takeFirst();
         folders.insert(name, words);

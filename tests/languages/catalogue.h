@@ -11,7 +11,7 @@
 enum class EntryState
 {
     Finished,   ///< a translator has released it
-    Unfinished, ///< still to be translated or looked at
+    Unfinished, ///< to be translated or checked
     Obsolete,   ///< gone from the sources
 };
 
@@ -20,21 +20,21 @@ struct Entry
 {
     QString context;
     QString source;
-    QString comment;          ///< tells equal texts of one context apart; mostly empty
+    QString comment;          ///< distinguishes equal texts of one context; usually empty
     QStringList translations; ///< one, or as many as the language has plural forms
     EntryState state = EntryState::Unfinished;
 };
 
-/// What a TS file holds.
+/// The contents of a TS file.
 struct Catalogue
 {
-    QString language; ///< as "de_DE"
+    QString language; ///< such as "de_DE"
     QList<Entry> entries;
 };
 
-/// Reads a TS file; nothing when it is no well-formed TS file.
+/// Reads a TS file; std::nullopt if it is not a well-formed TS file.
 std::optional<Catalogue> readCatalogue(QIODevice &device);
 
-/// Reads the list "catalogues.txt": for the name of each catalogue the folders that its texts come from. A
-/// line holds the name and the folders, between blanks; "#" begins a comment line.
+/// Reads the list "catalogues.txt": for each catalogue, the folders that its texts come from. A line contains
+/// the name and the folders, separated by blanks; "#" begins a comment line.
 QMap<QString, QStringList> readCatalogueList(QIODevice &list);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 template<typename Property>
@@ -26,7 +28,7 @@ QSet<QString> matchesIn(const QString &text, const QRegularExpression &pattern)
 
 QSet<QString> placeholdersOf(const QString &text)
 {
-    static const QRegularExpression placeholder(QStringLiteral("%(?:L?[1-9][0-9]?|n)"));
+    static const QRegularExpression placeholder(u"%(?:L?[1-9][0-9]?|n)"_s);
     return matchesIn(text, placeholder);
 }
 
@@ -42,18 +44,18 @@ std::pair<QString, QString> outerBlanksOf(const QString &text)
 
 QSet<QString> productNamesIn(const QString &text)
 {
-    static const QRegularExpression name(QStringLiteral("NVX2|NVX|Velmora|Mertle Server|Python"));
+    static const QRegularExpression name(u"NVX2|NVX|Velmora|Mertle Server|Python"_s);
     return matchesIn(text, name);
 }
 
-// For each line the option that it begins with, or nothing.
+// For each line, the option that it begins with, or an empty string.
 QStringList optionsOf(const QString &text)
 {
     QStringList options;
-    const QStringList lines = text.split(QLatin1Char('\n'));
+    const QStringList lines = text.split(u'\n');
     for (const QString &line : lines) {
-        const bool isOption = line.startsWith(QLatin1Char('-'));
-        options.append(isOption ? line.section(QLatin1Char(' '), 0, 0) : QString());
+        const bool isOption = line.startsWith(u'-');
+        options.append(isOption ? line.section(u' ', 0, 0) : QString());
     }
     return options;
 }
@@ -87,7 +89,7 @@ bool keepsOuterBlanks(const Entry &entry)
 
 bool keepsLineFeeds(const Entry &entry)
 {
-    return everyFormKeeps(entry, [](const QString &text) { return text.count(QLatin1Char('\n')); });
+    return everyFormKeeps(entry, [](const QString &text) { return text.count(u'\n'); });
 }
 
 bool keepsProductNames(const Entry &entry)
@@ -102,8 +104,8 @@ bool keepsOptions(const Entry &entry)
 
 bool keepsEllipses(const Entry &entry)
 {
-    // Runs of dots in a row, full stops alone aside, and the characters for an ellipsis.
-    static const QRegularExpression ellipsis(QStringLiteral("[.。・]{2,}|…|⋯"));
+    // Two or more consecutive dots, and the characters for an ellipsis.
+    static const QRegularExpression ellipsis(u"[.。・]{2,}|…|⋯"_s);
     const auto ellipsesOf = [](const QString &text) {
         QStringList found;
         auto matches = ellipsis.globalMatch(text);
@@ -116,13 +118,13 @@ bool keepsEllipses(const Entry &entry)
 
 QString withoutAccessKeys(QString text)
 {
-    static const QRegularExpression accessKey(QStringLiteral("\\(&.\\)|&"));
+    static const QRegularExpression accessKey(u"\\(&.\\)|&"_s);
     return text.remove(accessKey);
 }
 
 QString nameOf(const Entry &entry)
 {
-    return entry.context + QStringLiteral(": ") + entry.source;
+    return entry.context + u": "_s + entry.source;
 }
 
 QStringList offenders(const QList<Entry> &entries, bool (*check)(const Entry &))

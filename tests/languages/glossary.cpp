@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QRegularExpression patternOf(const QString &text)
@@ -14,23 +16,23 @@ QRegularExpression patternOf(const QString &text)
 
 bool isLocale(const QString &text)
 {
-    static const QRegularExpression locale(QStringLiteral("^[a-z]{2}-[A-Z]{2}$"));
+    static const QRegularExpression locale(u"^[a-z]{2}-[A-Z]{2}$"_s);
     return locale.match(text).hasMatch();
 }
 
-// The lines of a glossary one by one; each is read into the last term, or says what is wrong with it.
+// Reads the lines of a glossary one by one into the last term; returns what is wrong with a line.
 class GlossaryReader
 {
 public:
     QString readLine(const QString &line)
     {
-        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+        if (line.isEmpty() || line.startsWith(u'#'))
             return {};
-        if (line.startsWith(QLatin1Char('[')) && line.endsWith(QLatin1Char(']')))
+        if (line.startsWith(u'[') && line.endsWith(u']'))
             return beginTerm(line.mid(1, line.size() - 2));
         if (m_terms.isEmpty())
-            return QStringLiteral("there is no term yet");
-        if (line.startsWith(QLatin1String("except ")))
+            return u"there is no term yet"_s;
+        if (line.startsWith("except "_L1))
             return addException(line.mid(7));
         return addTranslation(line);
     }
@@ -40,34 +42,34 @@ public:
 private:
     QString beginTerm(const QString &name)
     {
-        const QRegularExpression source = patternOf(QStringLiteral("\\b(?:%1)\\b").arg(name));
+        const QRegularExpression source = patternOf(u"\\b(?:%1)\\b"_s.arg(name));
         if (name.isEmpty() || !source.isValid())
-            return QStringLiteral("not a pattern");
+            return u"not a pattern"_s;
         m_terms.append({name, source, {}, {}});
         return {};
     }
 
     QString addTranslation(const QString &line)
     {
-        const QString locale = line.section(QLatin1String(" = "), 0, 0);
-        const QString text = line.section(QLatin1String(" = "), 1);
+        const QString locale = line.section(" = "_L1, 0, 0);
+        const QString text = line.section(" = "_L1, 1);
         if (!isLocale(locale) || m_terms.last().translations.contains(locale))
-            return QStringLiteral("not a new locale");
+            return u"not a new locale"_s;
         const QRegularExpression translation = patternOf(text);
         if (text.isEmpty() || !translation.isValid())
-            return QStringLiteral("not a pattern");
+            return u"not a pattern"_s;
         m_terms.last().translations.insert(locale, translation);
         return {};
     }
 
     QString addException(const QString &rest)
     {
-        const QString locale = rest.section(QLatin1String(": "), 0, 0);
-        const qsizetype end = rest.lastIndexOf(QLatin1String(" = "));
+        const QString locale = rest.section(": "_L1, 0, 0);
+        const qsizetype end = rest.lastIndexOf(" = "_L1);
         if (!isLocale(locale) || end < locale.size() + 2 || rest.mid(end + 3).trimmed().isEmpty())
-            return QStringLiteral("not a locale, a text and a reason");
+            return u"not a locale, a text and a reason"_s;
         QString text = rest.mid(locale.size() + 2, end - locale.size() - 2);
-        text.replace(QLatin1String("\\n"), QLatin1String("\n"));
+        text.replace("\\n"_L1, "\n"_L1);
         m_terms.last().exceptions[locale].append(text);
         return {};
     }
@@ -89,7 +91,7 @@ bool lacksTranslation(const Term &term, const Entry &entry, const QString &local
 
 QString inBrackets(const QString &text, const Term &term)
 {
-    return QStringLiteral("%1 [%2]").arg(text, term.name);
+    return u"%1 [%2]"_s.arg(text, term.name);
 }
 
 } // namespace
@@ -100,11 +102,11 @@ Glossary readGlossary(QIODevice &device)
     QStringList faults;
     for (int number = 1; !device.atEnd(); ++number) {
         QString line = QString::fromUtf8(device.readLine());
-        while (line.endsWith(QLatin1Char('\n')) || line.endsWith(QLatin1Char('\r')))
+        while (line.endsWith(u'\n') || line.endsWith(u'\r'))
             line.chop(1);
         const QString fault = reader.readLine(line);
         if (!fault.isEmpty())
-            faults.append(QStringLiteral("line %1: %2").arg(number).arg(fault));
+            faults.append(u"line %1: %2"_s.arg(number).arg(fault));
     }
     return {reader.terms(), faults};
 }

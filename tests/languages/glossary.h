@@ -4,34 +4,34 @@
 
 #include <QRegularExpression>
 
-/// One term of the texts, and how each language translates it.
+/// A term of the interface's texts, and its translation into each language.
 struct Term
 {
-    QString name;                                   ///< the pattern as it is written
-    QRegularExpression source;                      ///< whole words of the English text
-    QMap<QString, QRegularExpression> translations; ///< by locale, as "de-DE"
-    QMap<QString, QStringList> exceptions;          ///< texts that go without, by locale
+    QString name;                                   ///< the pattern as written
+    QRegularExpression source;                      ///< matches whole words of the English text
+    QMap<QString, QRegularExpression> translations; ///< by locale, such as "de-DE"
+    QMap<QString, QStringList> exceptions; ///< texts that need not contain the translation, by locale
 };
 
 struct Glossary
 {
     QList<Term> terms;
-    QStringList faults; ///< lines that could not be read, as "line 7: what is wrong"
+    QStringList faults; ///< invalid lines, as "line 7: what is wrong"
 };
 
 /// Reads a glossary; the file "glossary.txt" describes its lines.
 Glossary readGlossary(QIODevice &device);
 
-/// The texts that hold a term but not its translation, as "context: source [term]". Texts that are excepted,
-/// and terms without a translation into the locale, are passed over.
+/// The texts that contain a term but not its translation, as "context: source [term]". Skips exceptions, and
+/// terms without a translation into the locale.
 QStringList otherwiseTranslated(const Glossary &glossary, const QList<Entry> &entries, const QString &locale);
 
-/// The terms that no text holds.
+/// The terms that no text contains.
 QStringList unusedTerms(const Glossary &glossary, const QList<Entry> &entries);
 
 /// The terms that lack a translation into one of the locales, as "de-DE [term]".
 QStringList untranslatedTerms(const Glossary &glossary, const QStringList &locales);
 
-/// The exceptions of the locale whose text is gone, lacks the term, or has the translation after all, as
-/// "text [term]".
+/// The unneeded exceptions of the locale, as "text [term]": the text no longer exists, does not contain the
+/// term, or contains the translation.
 QStringList needlessExceptions(const Glossary &glossary, const QList<Entry> &entries, const QString &locale);

@@ -1,4 +1,4 @@
-// The checks of the catalogues, tried on entries that are good and on entries that are bad.
+// Tests the checks of the catalogues with correct and with faulty entries.
 
 #include "catalogue_checks.h"
 #include "support/test_class.h"
@@ -6,13 +6,15 @@
 #include <QBuffer>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Check = bool (*)(const Entry &);
 
 Entry entryOf(const QString &source, const QStringList &translations, EntryState state = EntryState::Finished)
 {
-    return {QStringLiteral("Context"), source, QString(), translations, state};
+    return {u"Context"_s, source, QString(), translations, state};
 }
 
 void addRow(const char *name, Check check, const char *source, const char *translation, bool holds)
@@ -129,51 +131,48 @@ void tst_catalogue_checks::aCheckTellsGoodFromBad()
 
 void tst_catalogue_checks::aTextIsTranslatedWhenItIsFinished()
 {
-    const QStringList translations{QStringLiteral("Ja")};
-    QVERIFY(isTranslated(entryOf(QStringLiteral("Yes"), translations, EntryState::Finished)));
-    QVERIFY(!isTranslated(entryOf(QStringLiteral("Yes"), translations, EntryState::Unfinished)));
-    QVERIFY(!isTranslated(entryOf(QStringLiteral("Yes"), translations, EntryState::Obsolete)));
+    const QStringList translations{u"Ja"_s};
+    QVERIFY(isTranslated(entryOf(u"Yes"_s, translations, EntryState::Finished)));
+    QVERIFY(!isTranslated(entryOf(u"Yes"_s, translations, EntryState::Unfinished)));
+    QVERIFY(!isTranslated(entryOf(u"Yes"_s, translations, EntryState::Obsolete)));
 }
 
 void tst_catalogue_checks::aTextWithoutAnyFormIsNotTranslated()
 {
-    QVERIFY(!isTranslated(entryOf(QStringLiteral("%n rows"), {})));
+    QVERIFY(!isTranslated(entryOf(u"%n rows"_s, {})));
 }
 
 void tst_catalogue_checks::oneBadPluralFormIsEnough()
 {
-    const Entry empty = entryOf(QStringLiteral("%n rows"), {QStringLiteral("%n Zeile"), QString()});
+    const Entry empty = entryOf(u"%n rows"_s, {u"%n Zeile"_s, QString()});
     QVERIFY(!isTranslated(empty));
     QVERIFY(!keepsPlaceholders(empty));
-    const Entry blank =
-        entryOf(QStringLiteral("%n rows"), {QStringLiteral("%n Zeile"), QStringLiteral("%n Zeilen ")});
+    const Entry blank = entryOf(u"%n rows"_s, {u"%n Zeile"_s, u"%n Zeilen "_s});
     QVERIFY(keepsPlaceholders(blank));
     QVERIFY(!keepsOuterBlanks(blank));
 }
 
 void tst_catalogue_checks::anOffenderIsNamedByContextAndSource()
 {
-    const QList<Entry> entries{entryOf(QStringLiteral("Yes"), {QStringLiteral("Ja")}),
-                               entryOf(QStringLiteral("No"), {QString()})};
-    QCOMPARE(offenders(entries, isTranslated), QStringList{QStringLiteral("Context: No")});
+    const QList<Entry> entries{entryOf(u"Yes"_s, {u"Ja"_s}), entryOf(u"No"_s, {QString()})};
+    QCOMPARE(offenders(entries, isTranslated), QStringList{u"Context: No"_s});
 }
 
 void tst_catalogue_checks::textsAreToldApartByContextSourceAndComment()
 {
-    const Entry entry = entryOf(QStringLiteral("Yes"), {QStringLiteral("Ja")});
+    const Entry entry = entryOf(u"Yes"_s, {u"Ja"_s});
     Entry otherContext = entry;
-    otherContext.context = QStringLiteral("Page");
+    otherContext.context = u"Page"_s;
     Entry otherSource = entry;
-    otherSource.source = QStringLiteral("No");
+    otherSource.source = u"No"_s;
     Entry otherComment = entry;
-    otherComment.comment = QStringLiteral("in a menu");
+    otherComment.comment = u"in a menu"_s;
     Entry otherTranslation = entry;
-    otherTranslation.translations = QStringList{QStringLiteral("Oui")};
+    otherTranslation.translations = QStringList{u"Oui"_s};
 
     const QStringList missing =
         missingFrom({entry}, {otherContext, otherSource, otherComment, otherTranslation});
-    QCOMPARE(missing, (QStringList{QStringLiteral("Page: Yes"), QStringLiteral("Context: No"),
-                                   QStringLiteral("Context: Yes")}));
+    QCOMPARE(missing, (QStringList{u"Page: Yes"_s, u"Context: No"_s, u"Context: Yes"_s}));
 }
 
 void tst_catalogue_checks::aMessageIsReadWhole()
@@ -183,13 +182,13 @@ void tst_catalogue_checks::aMessageIsReadWhole()
                          "<comment>in a menu</comment><translatorcomment>?"
                          "</translatorcomment><translation> B\n%1 </translation></message>"));
     QVERIFY(catalogue);
-    QCOMPARE(catalogue->language, QStringLiteral("de_DE"));
+    QCOMPARE(catalogue->language, u"de_DE"_s);
     QCOMPARE(catalogue->entries.size(), 1);
     const Entry &entry = catalogue->entries.first();
-    QCOMPARE(entry.context, QStringLiteral("Page"));
-    QCOMPARE(entry.source, QStringLiteral(" A &\n%1 "));
-    QCOMPARE(entry.comment, QStringLiteral("in a menu"));
-    QCOMPARE(entry.translations, QStringList{QStringLiteral(" B\n%1 ")});
+    QCOMPARE(entry.context, u"Page"_s);
+    QCOMPARE(entry.source, u" A &\n%1 "_s);
+    QCOMPARE(entry.comment, u"in a menu"_s);
+    QCOMPARE(entry.translations, QStringList{u" B\n%1 "_s});
 }
 
 void tst_catalogue_checks::pluralFormsAreReadOneByOne()
@@ -199,7 +198,7 @@ void tst_catalogue_checks::pluralFormsAreReadOneByOne()
         "<numerusform></numerusform></translation></message>"));
     QVERIFY(catalogue);
     QCOMPARE(catalogue->entries.size(), 1);
-    QCOMPARE(catalogue->entries.first().translations, (QStringList{QStringLiteral("%n Zeile"), QString()}));
+    QCOMPARE(catalogue->entries.first().translations, (QStringList{u"%n Zeile"_s, QString()}));
 }
 
 void tst_catalogue_checks::theStateIsRead_data()
@@ -242,9 +241,8 @@ void tst_catalogue_checks::theListNamesTheFoldersOfEachCatalogue()
     QBuffer list;
     list.setData("# tools Nowhere\n\n wizard\tConfig \r\ntools Client  source\n");
     list.open(QIODevice::ReadOnly);
-    const QMap<QString, QStringList> expected{
-        {QStringLiteral("wizard"), {QStringLiteral("Config")}},
-        {QStringLiteral("tools"), {QStringLiteral("Client"), QStringLiteral("source")}}};
+    const QMap<QString, QStringList> expected{{u"wizard"_s, {u"Config"_s}},
+                                              {u"tools"_s, {u"Client"_s, u"source"_s}}};
     QCOMPARE(readCatalogueList(list), expected);
 }
 

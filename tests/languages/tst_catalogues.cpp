@@ -1,4 +1,4 @@
-// The interface's catalogues as they are kept beside the sources: complete, sound, and in step.
+// The interface's catalogues in the source tree are complete and correct, and match the sources.
 
 #include "catalogue_checks.h"
 #include "glossary.h"
@@ -12,6 +12,8 @@
 #include <QProcess>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QDir sourceRoot()
@@ -21,30 +23,30 @@ QDir sourceRoot()
 
 QDir languagesFolder()
 {
-    return QDir(sourceRoot().filePath(QStringLiteral("resource/languages")));
+    return QDir(sourceRoot().filePath(u"resource/languages"_s));
 }
 
 QStringList catalogueFiles()
 {
-    return languagesFolder().entryList({QStringLiteral("*.ts")}, QDir::Files, QDir::Name);
+    return languagesFolder().entryList({u"*.ts"_s}, QDir::Files, QDir::Name);
 }
 
 // "nvxconfig" of "nvxconfig_de-DE.ts"
 QString nameOfFile(const QString &file)
 {
-    return file.section(QLatin1Char('_'), 0, 0);
+    return file.section(u'_', 0, 0);
 }
 
 // "de-DE" of "nvxconfig_de-DE.ts"
 QString localeOfFile(const QString &file)
 {
-    return file.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0);
+    return file.section(u'_', 1).section(u'.', 0, 0);
 }
 
 // "de_DE" of "nvxconfig_de-DE.ts"
 QString languageOfFile(const QString &file)
 {
-    return localeOfFile(file).replace(QLatin1Char('-'), QLatin1Char('_'));
+    return localeOfFile(file).replace(u'-', u'_');
 }
 
 std::optional<Catalogue> readFile(const QString &path)
@@ -57,7 +59,7 @@ std::optional<Catalogue> readFile(const QString &path)
 
 QMap<QString, QStringList> listedCatalogues()
 {
-    QFile list(languagesFolder().filePath(QStringLiteral("catalogues.txt")));
+    QFile list(languagesFolder().filePath(u"catalogues.txt"_s));
     if (!list.open(QIODevice::ReadOnly))
         return {};
     return readCatalogueList(list);
@@ -66,13 +68,13 @@ QMap<QString, QStringList> listedCatalogues()
 QStringList translatedLocales()
 {
     QStringList locales = Nvx::Util::System::validLocales();
-    locales.removeAll(QStringLiteral("en-US")); // the texts' own language
+    locales.removeAll(u"en-US"_s); // the texts' own language
     return locales;
 }
 
 Glossary readGlossaryFile()
 {
-    QFile file(sourceRoot().filePath(QStringLiteral("tests/languages/glossary.txt")));
+    QFile file(sourceRoot().filePath(u"tests/languages/glossary.txt"_s));
     if (!file.open(QIODevice::ReadOnly))
         return {{}, {file.errorString()}};
     return readGlossary(file);
@@ -96,30 +98,26 @@ QList<Entry> entriesOf(const QString &locale)
     return entries;
 }
 
-// Lets lupdate bring a catalogue in step with the sources below the folders; whether it did.
+// Updates a catalogue from the sources in the folders with lupdate; returns whether that succeeded.
 bool update(const QString &catalogue, const QStringList &folders)
 {
     QProcess lupdate;
     lupdate.setWorkingDirectory(sourceRoot().path());
     lupdate.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     lupdate.start(QStringLiteral(NVX_LUPDATE),
-                  QStringList{QStringLiteral("-silent"), QStringLiteral("-I"),
-                              QStringLiteral("Config/source"), QStringLiteral("-I"),
-                              QStringLiteral("Utility/include"), QStringLiteral("-I"),
-                              QStringLiteral("source")} +
+                  QStringList{u"-silent"_s, u"-I"_s, u"Config/source"_s, u"-I"_s, u"Utility/include"_s,
+                              u"-I"_s, u"source"_s} +
                       folders +
-                      QStringList{QStringLiteral("-locations"), QStringLiteral("none"),
-                                  QStringLiteral("-no-obsolete"), QStringLiteral("-ts"), catalogue});
+                      QStringList{u"-locations"_s, u"none"_s, u"-no-obsolete"_s, u"-ts"_s, catalogue});
     return lupdate.waitForFinished(60'000) && lupdate.exitStatus() == QProcess::NormalExit &&
            lupdate.exitCode() == 0;
 }
 
-// Fails with the texts' names unless there are none. The message names the row's file by "%1".
+// Fails with the names of the texts if there are any. "%1" in the message is the row's file.
 void expectNone(const QStringList &texts, const char *message)
 {
     const QString file = QString::fromLatin1(QTest::currentDataTag());
-    const QString whole =
-        QString::fromLatin1(message).arg(file) + QStringLiteral(": ") + texts.join(QStringLiteral(" | "));
+    const QString whole = QString::fromLatin1(message).arg(file) + u": "_s + texts.join(u" | "_s);
     QVERIFY2(texts.isEmpty(), qPrintable(whole));
 }
 
@@ -131,14 +129,14 @@ void addFileRows()
         QTest::newRow(qPrintable(file)) << file;
 }
 
-// Reads the row's file and expects a check to hold for all of it.
+// Reads the row's file and expects all its texts to pass a check.
 void expectEveryEntryToPass(bool (*check)(const Entry &))
 {
     QFETCH(QString, file);
     const auto catalogue = readFile(languagesFolder().filePath(file));
     QVERIFY(catalogue);
     QVERIFY(!catalogue->entries.isEmpty());
-    expectNone(offenders(catalogue->entries, check), "to be looked at in %1");
+    expectNone(offenders(catalogue->entries, check), "to be corrected in %1");
 }
 
 // The same for a check of the file's typography.
@@ -147,7 +145,7 @@ void expectTypographyToPass(TypographyCheck check)
     QFETCH(QString, file);
     const auto catalogue = readFile(languagesFolder().filePath(file));
     QVERIFY(catalogue);
-    expectNone(offenders(catalogue->entries, localeOfFile(file), check), "to be looked at in %1");
+    expectNone(offenders(catalogue->entries, localeOfFile(file), check), "to be corrected in %1");
 }
 
 } // namespace
@@ -161,8 +159,8 @@ private slots:
 
     void thereIsOneForEachLocale_data();
     void thereIsOneForEachLocale();
-    void itIsMarkedWithItsLanguage_data() { addFileRows(); }
-    void itIsMarkedWithItsLanguage();
+    void catalogueNamesItsLanguage_data() { addFileRows(); }
+    void catalogueNamesItsLanguage();
     void everyTextIsTranslated_data() { addFileRows(); }
     void everyTextIsTranslated() { expectEveryEntryToPass(isTranslated); }
     void placeholdersAreKept_data() { addFileRows(); }
@@ -187,9 +185,9 @@ private slots:
     void dashesAreTheLanguages() { expectTypographyToPass(usesOwnDash); }
     void aTermHasOneTranslation_data() { addFileRows(); }
     void aTermHasOneTranslation();
-    void theGlossaryIsWholeAndNeeded();
-    void itIsInStepWithTheSources_data() { addFileRows(); }
-    void itIsInStepWithTheSources();
+    void theGlossaryIsCompleteAndHasNoUnusedEntries();
+    void catalogueMatchesTheSources_data() { addFileRows(); }
+    void catalogueMatchesTheSources();
 };
 
 void tst_catalogues::initTestCase()
@@ -214,11 +212,11 @@ void tst_catalogues::thereIsOneForEachLocale()
 {
     QFETCH(QString, name);
     QFETCH(QString, locale);
-    const QString file = QStringLiteral("%1_%2.ts").arg(name, locale);
+    const QString file = u"%1_%2.ts"_s.arg(name, locale);
     QVERIFY2(catalogueFiles().contains(file), qPrintable(file));
 }
 
-void tst_catalogues::itIsMarkedWithItsLanguage()
+void tst_catalogues::catalogueNamesItsLanguage()
 {
     QFETCH(QString, file);
     const auto catalogue = readFile(languagesFolder().filePath(file));
@@ -235,7 +233,7 @@ void tst_catalogues::aTermHasOneTranslation()
                "against tests/languages/glossary.txt in %1");
 }
 
-void tst_catalogues::theGlossaryIsWholeAndNeeded()
+void tst_catalogues::theGlossaryIsCompleteAndHasNoUnusedEntries()
 {
     const Glossary &terms = glossary();
     QCOMPARE(terms.faults, QStringList());
@@ -249,7 +247,7 @@ void tst_catalogues::theGlossaryIsWholeAndNeeded()
     }
 }
 
-void tst_catalogues::itIsInStepWithTheSources()
+void tst_catalogues::catalogueMatchesTheSources()
 {
     QFETCH(QString, file);
     const QString kept = languagesFolder().filePath(file);

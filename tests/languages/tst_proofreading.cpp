@@ -1,4 +1,4 @@
-// The checks of typography and terms, tried on texts that are good and on texts that are bad.
+// Tests the checks of typography and terms with correct and with faulty texts.
 
 #include "glossary.h"
 #include "support/test_class.h"
@@ -7,11 +7,13 @@
 #include <QBuffer>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 Entry entryOf(const QString &source, const QStringList &translations)
 {
-    return {QStringLiteral("Context"), source, QString(), translations, EntryState::Finished};
+    return {u"Context"_s, source, QString(), translations, EntryState::Finished};
 }
 
 void addLanguageRow(const char *name, TypographyCheck check, const char *locale, const char *translation,
@@ -76,7 +78,7 @@ void tst_proofreading::aTypographyCheckTellsGoodFromBad()
     QFETCH(TypographyCheck, check);
     QFETCH(QString, locale);
     QFETCH(QString, translation);
-    QTEST(check(entryOf(QStringLiteral("source"), {translation}), locale), "holds");
+    QTEST(check(entryOf(u"source"_s, {translation}), locale), "holds");
 }
 
 void tst_proofreading::quotesAreTheLanguages_data()
@@ -175,32 +177,29 @@ void tst_proofreading::punctuationAndDashesAreTheLanguages_data()
 
 void tst_proofreading::aDashThatSeparatesPartsOfALineStays()
 {
-    const QString line = QStringLiteral("Program startup - empty");
-    QVERIFY(usesOwnDash(entryOf(line, {QString::fromUtf8("Programmstart - leer")}), QStringLiteral("de-DE")));
-    QVERIFY(
-        !usesOwnDash(entryOf(line, {QString::fromUtf8("Programmstart – leer")}), QStringLiteral("de-DE")));
+    const QString line = u"Program startup - empty"_s;
+    QVERIFY(usesOwnDash(entryOf(line, {QString::fromUtf8("Programmstart - leer")}), u"de-DE"_s));
+    QVERIFY(!usesOwnDash(entryOf(line, {QString::fromUtf8("Programmstart – leer")}), u"de-DE"_s));
 }
 
 void tst_proofreading::theSourcesOwnTextIsNotJudged()
 {
-    const QString code = QStringLiteral("zorv :");
-    QVERIFY(spacesAsItsLanguage(entryOf(code, {code}), QStringLiteral("de-DE")));
-    QVERIFY(!spacesAsItsLanguage(entryOf(QStringLiteral("zorv:"), {code}), QStringLiteral("de-DE")));
+    const QString code = u"zorv :"_s;
+    QVERIFY(spacesAsItsLanguage(entryOf(code, {code}), u"de-DE"_s));
+    QVERIFY(!spacesAsItsLanguage(entryOf(u"zorv:"_s, {code}), u"de-DE"_s));
 }
 
 void tst_proofreading::noTypographyIsNotAGoodOne()
 {
-    const Entry entry = entryOf(QStringLiteral("Yes"), {QStringLiteral("Sim")});
+    const Entry entry = entryOf(u"Yes"_s, {u"Sim"_s});
     for (const TypographyCheck check : {usesOwnQuotes, spacesAsItsLanguage, usesOwnPunctuation, usesOwnDash})
-        QVERIFY(!check(entry, QStringLiteral("pt-PT")));
+        QVERIFY(!check(entry, u"pt-PT"_s));
 }
 
 void tst_proofreading::everyFormIsJudged()
 {
-    const Entry entry =
-        entryOf(QStringLiteral("%n rows"), {QStringLiteral("%n Zeile"), QStringLiteral("%n \"Zeilen\"")});
-    QCOMPARE(offenders({entry}, QStringLiteral("de-DE"), usesOwnQuotes),
-             QStringList{QStringLiteral("Context: %n rows")});
+    const Entry entry = entryOf(u"%n rows"_s, {u"%n Zeile"_s, u"%n \"Zeilen\""_s});
+    QCOMPARE(offenders({entry}, u"de-DE"_s, usesOwnQuotes), QStringList{u"Context: %n rows"_s});
 }
 
 void tst_proofreading::aTermIsTranslatedAlike_data()
@@ -227,9 +226,9 @@ void tst_proofreading::aTermIsTranslatedAlike()
     const Glossary glossary = glossaryOf("# terms\n\n[folders?]\nde-DE = ordner|mappe\r\n");
     QCOMPARE(glossary.faults, QStringList());
     const Entry entry = entryOf(source, {translation});
-    const QStringList offending = otherwiseTranslated(glossary, {entry}, QStringLiteral("de-DE"));
+    const QStringList offending = otherwiseTranslated(glossary, {entry}, u"de-DE"_s);
     QTEST(offending.isEmpty(), "holds");
-    QVERIFY(offending.isEmpty() || offending.first() == QStringLiteral("Context: %1 [folders?]").arg(source));
+    QVERIFY(offending.isEmpty() || offending.first() == u"Context: %1 [folders?]"_s.arg(source));
 }
 
 void tst_proofreading::anExceptionHoldsForItsTextAndLanguageOnly()
@@ -237,25 +236,23 @@ void tst_proofreading::anExceptionHoldsForItsTextAndLanguageOnly()
     const Glossary glossary = glossaryOf("[folder]\nde-DE = Ordner\nfr-FR = dossier\n"
                                          "except de-DE: folder\\n= 1 = it is a word of its own\n");
     QCOMPARE(glossary.faults, QStringList());
-    const Entry excepted = entryOf(QStringLiteral("folder\n= 1"), {QStringLiteral("x")});
-    const Entry other = entryOf(QStringLiteral("folder"), {QStringLiteral("x")});
-    QCOMPARE(otherwiseTranslated(glossary, {excepted, other}, QStringLiteral("de-DE")),
-             QStringList{QStringLiteral("Context: folder [folder]")});
-    QCOMPARE(otherwiseTranslated(glossary, {excepted}, QStringLiteral("fr-FR")).size(), 1);
+    const Entry excepted = entryOf(u"folder\n= 1"_s, {u"x"_s});
+    const Entry other = entryOf(u"folder"_s, {u"x"_s});
+    QCOMPARE(otherwiseTranslated(glossary, {excepted, other}, u"de-DE"_s),
+             QStringList{u"Context: folder [folder]"_s});
+    QCOMPARE(otherwiseTranslated(glossary, {excepted}, u"fr-FR"_s).size(), 1);
 }
 
 void tst_proofreading::aTermThatNoTextHoldsIsNamed()
 {
     const Glossary glossary = glossaryOf("[folder]\n[file]\n");
-    QCOMPARE(unusedTerms(glossary, {entryOf(QStringLiteral("A folder"), {})}),
-             QStringList{QStringLiteral("file")});
+    QCOMPARE(unusedTerms(glossary, {entryOf(u"A folder"_s, {})}), QStringList{u"file"_s});
 }
 
 void tst_proofreading::aTermWithoutATranslationIsNamed()
 {
     const Glossary glossary = glossaryOf("[folder]\nde-DE = Ordner\n");
-    QCOMPARE(untranslatedTerms(glossary, {QStringLiteral("de-DE"), QStringLiteral("fr-FR")}),
-             QStringList{QStringLiteral("fr-FR [folder]")});
+    QCOMPARE(untranslatedTerms(glossary, {u"de-DE"_s, u"fr-FR"_s}), QStringList{u"fr-FR [folder]"_s});
 }
 
 void tst_proofreading::anExceptionThatIsNotNeededIsNamed_data()
@@ -276,10 +273,9 @@ void tst_proofreading::anExceptionThatIsNotNeededIsNamed()
     QFETCH(QString, source);
     QFETCH(QString, translation);
     const Glossary glossary = glossaryOf("[folder]\nde-DE = Ordner\nexcept de-DE: Open folder = why\n");
-    const QStringList needless =
-        needlessExceptions(glossary, {entryOf(source, {translation})}, QStringLiteral("de-DE"));
+    const QStringList needless = needlessExceptions(glossary, {entryOf(source, {translation})}, u"de-DE"_s);
     QTEST(needless.isEmpty(), "needed");
-    QVERIFY(needless.isEmpty() || needless.first() == QLatin1String("Open folder [folder]"));
+    QVERIFY(needless.isEmpty() || needless.first() == "Open folder [folder]"_L1);
 }
 
 void tst_proofreading::aLineThatIsNoneOfAGlossaryIsNamed_data()
@@ -302,7 +298,7 @@ void tst_proofreading::aLineThatIsNoneOfAGlossaryIsNamed()
     QFETCH(QByteArray, line);
     const QStringList faults = glossaryOf("[folder]\nfr-FR = dossier\n" + line + "\n").faults;
     QCOMPARE(faults.size(), 1);
-    QVERIFY2(faults.first().startsWith(QLatin1String("line 3: ")), qPrintable(faults.first()));
+    QVERIFY2(faults.first().startsWith("line 3: "_L1), qPrintable(faults.first()));
     QCOMPARE(glossaryOf("de-DE = Ordner\n").faults.size(), 1);
 }
 

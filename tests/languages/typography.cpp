@@ -8,16 +8,18 @@
 #include <iterator>
 #include <string_view>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct Marks
 {
     const char *locale;
-    const char *quotes; ///< opening and closing marks in turn
+    const char *quotes; ///< opening and closing marks alternately
     const char *dash;
 };
 
-// The brackets name buttons.
+// The brackets enclose names of buttons.
 const Marks marks[] = {
     {"de-DE", "„“", "–"},   {"fr-FR", "«»", "-"}, {"it-IT", "“”", "-"}, {"ja-JP", "「」[]", "-"},
     {"ko-KR", "“”[]", "-"}, {"ru-RU", "«»", "—"}, {"zh-CN", "“”", "-"}, {"zh-TW", "「」[]", "-"},
@@ -31,20 +33,20 @@ struct Fault
     const char *pattern;
 };
 
-// Kana and Chinese characters; \p{Han} would hold their punctuation too.
+// Kana and Chinese characters; \p{Han} would also include their punctuation.
 const char *const ideographs = "[\\x{3041}-\\x{30FA}\\x{30FC}-\\x{30FF}\\x{3400}-\\x{9FFF}々]";
 
 const Fault spacingFaults[] = {
     // No blank after punctuation, a blank inside parentheses, two blanks.
     {"not ", "[:;!?,][^\\s»“”」)]|[(\\[]\\h|\\S\\h\\h+\\S"},
-    // A blank before punctuation; a blank that does not break.
+    // A blank before punctuation; a no-break space.
     {"not fr-FR", "\\h[:;!?,)\\]]|[\\x{A0}\\x{202F}]"},
-    // Double punctuation and guillemets without the blank that does not break, or with a narrow one.
+    // Double punctuation and guillemets without a no-break space, or with a narrow one.
     {"fr-FR", "(?<!\\x{A0})[:;!?»]|«(?!\\x{A0})|\\h[,)]|\\x{202F}"},
-    // No blank in front of a parenthesis, and in Korean one.
+    // No blank before a parenthesis; in Korean, a blank.
     {"not ko-KR zh-CN zh-TW", "[^\\s„«“]\\("},
     {"ko-KR", "\\h\\("},
-    // Blanks beside full-width punctuation.
+    // Blanks next to full-width punctuation.
     {"ja-JP zh-CN zh-TW", "\\h[，。：；？！）、]|[，。：；？！（、]\\h+\\S"},
     // No blank between the two scripts.
     {"ja-JP zh-CN zh-TW", "IDEOGRAPHS[A-Za-z0-9%]|[A-Za-z0-9]IDEOGRAPHS"},
@@ -86,7 +88,7 @@ QMap<QString, QList<QRegularExpression>> patternsByLocale(const Fault (&faults)[
     QMap<QString, QList<QRegularExpression>> patterns;
     for (const Fault &fault : faults) {
         QString pattern = QString::fromUtf8(fault.pattern);
-        pattern.replace(QLatin1String("IDEOGRAPHS"), QString::fromUtf8(ideographs));
+        pattern.replace("IDEOGRAPHS"_L1, QString::fromUtf8(ideographs));
         for (const Marks &language : marks) {
             if (appliesTo(fault, language.locale))
                 patterns[QString::fromLatin1(language.locale)].append(QRegularExpression(pattern));
@@ -104,17 +106,18 @@ bool matchesNone(const QList<QRegularExpression> &patterns, const QString &text)
 bool isApostrophe(const QString &text, qsizetype at)
 {
     return at > 0 && at + 1 < text.size() && text[at - 1].isLetter() &&
-           (text[at + 1].isLetter() || text[at + 1] == QLatin1Char('%'));
+           (text[at + 1].isLetter() || text[at + 1] == u'%');
 }
 
-// Takes the marks of a line in turn: each is the own opening mark, or closes the one before.
+// Checks the marks of a line in order: each is one of the language's opening marks or closes the previous
+// one.
 bool pairsQuotes(const QString &line, const QString &own)
 {
-    static const QString all = QStringLiteral("\"'`´„“”‟‚‘’‛«»‹›「」『』《》〝〞＂＇[]");
+    static const QString all = u"\"'`´„“”‟‚‘’‛«»‹›「」『』《》〝〞＂＇[]"_s;
     QChar awaited;
     for (qsizetype at = 0; at < line.size(); ++at) {
         const QChar mark = line[at];
-        if (!all.contains(mark) || (mark == QLatin1Char('\'') && isApostrophe(line, at)))
+        if (!all.contains(mark) || (mark == u'\'' && isApostrophe(line, at)))
             continue;
         const qsizetype place = own.indexOf(mark);
         if (awaited.isNull() ? (place < 0 || place % 2 != 0) : mark != awaited)
@@ -129,7 +132,7 @@ bool pairsQuotes(const QString &line, const QString &own)
 bool usesOwnQuotes(const Entry &entry, const QString &locale)
 {
     return everyFormKeeps(entry, locale, [](const QString &text, const Marks &own) {
-        const QStringList lines = text.split(QLatin1Char('\n'));
+        const QStringList lines = text.split(u'\n');
         return std::all_of(lines.cbegin(), lines.cend(), [&](const QString &line) {
             return pairsQuotes(line, QString::fromUtf8(own.quotes));
         });
@@ -154,10 +157,10 @@ bool usesOwnPunctuation(const Entry &entry, const QString &locale)
 
 bool usesOwnDash(const Entry &entry, const QString &locale)
 {
-    static const QRegularExpression dash(QStringLiteral("(?<=\\h)[-–—](?=\\h)"));
-    const bool separatesParts = entry.source.contains(QLatin1String(" - "));
+    static const QRegularExpression dash(u"(?<=\\h)[-–—](?=\\h)"_s);
+    const bool separatesParts = entry.source.contains(" - "_L1);
     return everyFormKeeps(entry, locale, [&](const QString &text, const Marks &own) {
-        const QString expected = separatesParts ? QStringLiteral("-") : QString::fromUtf8(own.dash);
+        const QString expected = separatesParts ? u"-"_s : QString::fromUtf8(own.dash);
         auto dashes = dash.globalMatch(text);
         while (dashes.hasNext()) {
             if (dashes.next().captured() != expected)
