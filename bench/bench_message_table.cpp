@@ -35,8 +35,8 @@ Message messageOf(int number)
     message.setSeverity(static_cast<Clt::Severity>(number % 5));
     message.setState(static_cast<Clt::MessageState>(number % 3));
     const int context = number / messagesPerContext;
-    message.setKey({u"MESSAGE_TAG_%1"_s.arg(number, 7, 10, u'0'),
-                    u"Clt::Component%1::handleRequest"_s.arg(context, 6, 10, u'0'), u"client"_s});
+    message.setKey({u"MESSAGE_TAG_%1"_s.arg(number, 7, 10, QLatin1Char('0')),
+                    u"Clt::Component%1::handleRequest"_s.arg(context, 6, 10, QLatin1Char('0')), u"client"_s});
     message.setTitle(u"Title of message %1"_s.arg(number));
     message.setText(u"The value %1 of the boundary condition number %2 lies outside the range that "
                     "the turbulence model allows."_s.arg(u"%1"_s)

@@ -33,9 +33,10 @@ Clt::Message messageOf(int number)
     Clt::Message message;
     message.setSeverity(Clt::Severity::Warning);
     message.setState(static_cast<Clt::MessageState>(number % 3));
-    message.setKey({u"MESSAGE_TAG_%1"_s.arg(number, 7, 10, u'0'),
-                    u"Clt::Component%1::handleRequest"_s.arg(number / messagesPerContext, 6, 10, u'0'),
-                    u"client"_s});
+    message.setKey(
+        {u"MESSAGE_TAG_%1"_s.arg(number, 7, 10, QLatin1Char('0')),
+         u"Clt::Component%1::handleRequest"_s.arg(number / messagesPerContext, 6, 10, QLatin1Char('0')),
+         u"client"_s});
     message.setText(u"The value %1 lies outside the range of model %2."_s.arg(u"%1"_s).arg(number));
     return message;
 }
