@@ -1,9 +1,8 @@
-// Under Wine, stands for a program of the host: runs the program whose path on the host the file
-// "<own path>.tool" holds, with its own arguments, waits for it, writes its output and ends with its exit
-// code. An argument that is a path of a Windows drive reaches the program as the same file's path on the
-// host.
+// Under Wine, runs a program of the host: the program whose path is in the file "<own path>.tool", with the
+// same arguments. Waits for it, writes its output and returns its exit code. A path on a Windows drive among
+// the arguments is converted to the path on the host.
 //
-// Wine does not let a Windows program wait for one of the host, so a shell leaves the answer in files.
+// Under Wine a Windows program cannot wait for a program of the host, so a shell writes the result to files.
 
 #include <cstdio>
 #include <cstdlib>
@@ -41,9 +40,9 @@ std::string hostPath(const std::wstring &path)
     char *converted = convert ? convert(path.c_str()) : nullptr;
     if (!converted)
         return utf8(path);
-    const std::string answer = converted;
+    const std::string onHost = converted;
     HeapFree(GetProcessHeap(), 0, converted);
-    return answer;
+    return onHost;
 }
 
 std::string argument(const std::wstring &text)
@@ -54,10 +53,10 @@ std::string argument(const std::wstring &text)
 
 std::string quoted(const std::string &text)
 {
-    std::string answer = "'";
+    std::string result = "'";
     for (const char c : text)
-        answer += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return answer + "'";
+        result += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return result + "'";
 }
 
 std::wstring ownPath()
@@ -111,23 +110,23 @@ int wmain(int argc, wchar_t **argv)
     const std::wstring run = base + L"." + std::to_wstring(GetCurrentProcessId());
     const std::wstring script = run + L".sh";
     const std::wstring output = run + L".out";
-    const std::wstring answer = run + L".answer";
+    const std::wstring exitCodeFile = run + L".exit";
     std::string command = "PATH=/usr/bin:/bin\n" + quoted(tool);
     for (int i = 1; i < argc; ++i)
         command += ' ' + quoted(argument(argv[i]));
-    const std::string answerOnHost = hostPath(answer);
+    const std::string exitCodeOnHost = hostPath(exitCodeFile);
     command += " >" + quoted(hostPath(output)) + " 2>&1 </dev/null\necho $? >" +
-               quoted(answerOnHost + ".new") + "\nmv " + quoted(answerOnHost + ".new") + ' ' +
-               quoted(answerOnHost) + '\n';
+               quoted(exitCodeOnHost + ".new") + "\nmv " + quoted(exitCodeOnHost + ".new") + ' ' +
+               quoted(exitCodeOnHost) + '\n';
     if (!write(script, command) || !startShell(script))
         return 126;
 
-    while (GetFileAttributesW(answer.c_str()) == INVALID_FILE_ATTRIBUTES)
+    while (GetFileAttributesW(exitCodeFile.c_str()) == INVALID_FILE_ATTRIBUTES)
         Sleep(20);
     const std::string text = contents(output);
     std::fwrite(text.data(), 1, text.size(), stdout);
-    const int exitCode = std::atoi(contents(answer).c_str());
-    for (const std::wstring &file : {script, output, answer})
+    const int exitCode = std::atoi(contents(exitCodeFile).c_str());
+    for (const std::wstring &file : {script, output, exitCodeFile})
         DeleteFileW(file.c_str());
     return exitCode;
 }

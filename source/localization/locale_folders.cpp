@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QSet>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::joinPath;
 using Nvx::Util::Language;

@@ -14,7 +14,7 @@ class LocaleFolders
 public:
     /// If root is empty, every operation fails and touches nothing: a path without a root would start at the
     /// top of the current drive.
-    LocaleFolders(const QString &root, Reporter &reporter);
+    LocaleFolders(const QString &root, Nvx::Run::Reporter &reporter);
 
     bool hasRoot() const { return m_hasRoot; }
 
@@ -38,7 +38,7 @@ private:
 
     bool m_hasRoot;
     QString m_folder;
-    Reporter &m_reporter;
+    Nvx::Run::Reporter &m_reporter;
 };
 
 /// The patterns of the files for the translators.

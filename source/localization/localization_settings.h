@@ -13,9 +13,9 @@ namespace Localization {
 /// The settings in "localization.xml"; those that it does not contain are empty.
 struct LocalizationSettings
 {
-    QString root;    ///< folder of the product's sources and locale folders
-    QString share;   ///< folder that contains the translators' "pTrans"
-    QString qtTools; ///< folder of lupdate and lrelease
+    QString root = {};    ///< folder of the product's sources and locale folders
+    QString share = {};   ///< folder that contains the translators' "pTrans"
+    QString qtTools = {}; ///< folder of lupdate and lrelease
 };
 
 /// Reads the settings from an XML document "localization" with the elements "root", "share" and "qtTools",

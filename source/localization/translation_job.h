@@ -32,7 +32,7 @@ public:
     /// shareFolder is SHARE\NVX360\ and jobFolder is SHARE\~cBuild\job\; both are empty without a share.
     /// filePatterns match the files to download.
     TranslationJob(const LocaleFolders &folders, const QString &shareFolder, const QString &jobFolder,
-                   const QStringList &filePatterns, Reporter &reporter, Pause pause);
+                   const QStringList &filePatterns, Nvx::Run::Reporter &reporter, Pause pause);
 
     /// Writes the request, and first removes the ".done" file of an earlier one.
     void writeJobFile();
@@ -59,7 +59,7 @@ private:
     QString m_shareFolder;
     QString m_jobFolder;
     QStringList m_filePatterns;
-    Reporter &m_reporter;
+    Nvx::Run::Reporter &m_reporter;
     Pause m_pause;
 };
 

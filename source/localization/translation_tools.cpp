@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 
 namespace Localization {

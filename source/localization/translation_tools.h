@@ -16,7 +16,7 @@ public:
     static constexpr int timeLimitMs = 30000;
 
     /// Uses the tools in the folder; if it is empty, those next to the executable, then those in the PATH.
-    TranslationTools(const StepContext &context, const QString &toolsFolder);
+    TranslationTools(const Nvx::Run::StepContext &context, const QString &toolsFolder);
 
     /// Updates the translation file from the sources of a qmake project. True on success.
     bool update(const QString &project, const QString &translations);
@@ -29,8 +29,8 @@ private:
     bool copy(const QString &source, const QString &target);
     bool run(const QString &tool, const QStringList &arguments, const QString &workFolder);
 
-    StepContext m_context;
-    CommandRunner m_runner;
+    Nvx::Run::StepContext m_context;
+    Nvx::Run::CommandRunner m_runner;
     QString m_toolsFolder;
 };
 

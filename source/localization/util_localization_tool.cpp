@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 using Localization::LocaleFolders;
 using Localization::LocalizationSettings;

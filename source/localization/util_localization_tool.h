@@ -21,7 +21,7 @@ class util_localization_tool : public QObject
 
 public:
     /// Reads "localization.xml" in the executable's folder.
-    explicit util_localization_tool(const StepContext &context, QObject *parent = nullptr);
+    explicit util_localization_tool(const Nvx::Run::StepContext &context, QObject *parent = nullptr);
     ~util_localization_tool() override;
 
     /// Runs all steps in order. Each step logs what it does and what fails; no failure stops the run. Without
@@ -48,7 +48,7 @@ private:
     std::unique_ptr<Localization::TranslationJob> m_job;
     QStringList m_filePatterns;
 
-    StepContext m_context;
+    Nvx::Run::StepContext m_context;
     QString m_toolsFolder;
 };
 

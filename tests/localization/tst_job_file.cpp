@@ -33,7 +33,7 @@ private slots:
         QTest::newRow("another document") << QByteArray("<html></html>") << false;
         QTest::newRow("elements crossed") << QByteArray("<TS><a><b></a></b></TS>") << false;
         QTest::newRow("text after the end") << QByteArray("<TS></TS>\nmore") << false;
-        QTest::newRow("bytes of no encoding") << QByteArray("<TS>\xff\xfe</TS>") << false;
+        QTest::newRow("invalid UTF-8") << QByteArray("<TS>\xff\xfe</TS>") << false;
     }
 
     void aTranslationFileIsCompleteIfItIsWellFormed()

@@ -14,6 +14,7 @@
 
 #include <memory>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 
 class tst_localization_defaults : public QObject

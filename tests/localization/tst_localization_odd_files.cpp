@@ -15,6 +15,7 @@
 
 #include <memory>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 using Localization::LocaleFolders;
 
@@ -30,8 +31,8 @@ QString text(const char *utf8)
 void addUnreadableFiles()
 {
     QTest::addColumn<QString>("file");
-    QTest::newRow("it cannot be opened") << closedFile();
-    QTest::newRow("it breaks when it is read") << breakingFile();
+    QTest::newRow("cannot be opened") << closedFile();
+    QTest::newRow("reading fails") << breakingFile();
 }
 
 } // namespace

@@ -43,7 +43,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("xml");
         QTest::newRow("no bytes") << QByteArray();
-        QTest::newRow("no XML") << QByteArray("root=C:\\nvx");
+        QTest::newRow("not XML") << QByteArray("root=C:\\nvx");
         QTest::newRow("another document element") << QByteArray("<settings><root>C:\\a</root></settings>");
         QTest::newRow("cut off") << QByteArray("<localization><root>C:\\a</root>");
         QTest::newRow("cut off in a text") << QByteArray("<localization><root>C:\\a");
@@ -64,9 +64,8 @@ private slots:
         QTest::newRow("none exists") << QStringList{u"x"_s, u"y"_s} << QString();
         QTest::newRow("the first") << QStringList{u"here"_s, u"there"_s} << u"here"_s;
         QTest::newRow("the second") << QStringList{u"x"_s, u"there"_s} << u"there"_s;
-        QTest::newRow("with blanks around it") << QStringList{u" here\r\n"_s} << u"here"_s;
-        QTest::newRow("empty ones are passed over")
-            << QStringList{u"  "_s, QString(), u"here"_s} << u"here"_s;
+        QTest::newRow("surrounded by blanks") << QStringList{u" here\r\n"_s} << u"here"_s;
+        QTest::newRow("empty ones are skipped") << QStringList{u"  "_s, QString(), u"here"_s} << u"here"_s;
     }
 
     void theFirstFolderThatExistsIsTaken()

@@ -16,6 +16,7 @@
 
 #include <memory>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 using util::util_localization_tool;
 

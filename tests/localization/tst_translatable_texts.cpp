@@ -30,7 +30,7 @@ private slots:
         QTest::newRow("in a literal") << QByteArray("\"tr(\\\"a\\\")\"") << 0;
         QTest::newRow("part of a word") << QByteArray("str(\"a\"); tr_(\"b\"); matr(\"c\")") << 0;
         QTest::newRow("not closed") << QByteArray("tr(\"a") << 1;
-        QTest::newRow("bytes of no text") << QByteArray("\xff\0tr(\"a\")\xfe", 10) << 1;
+        QTest::newRow("invalid bytes") << QByteArray("\xff\0tr(\"a\")\xfe", 10) << 1;
     }
 
     void callsOfASourceAreCounted()
@@ -45,12 +45,12 @@ private slots:
         QTest::addColumn<int>("count");
         QTest::newRow("nothing") << QByteArray() << 0;
         QTest::newRow("two") << QByteArray("<ui><a><string>A</string></a><string>B</string></ui>") << 2;
-        QTest::newRow("marked as not to be translated")
+        QTest::newRow("marked as not translatable")
             << QByteArray("<ui><string notr=\"true\">A</string><string notr=\"false\">B</string></ui>") << 1;
         QTest::newRow("empty") << QByteArray("<ui><string/><string></string></ui>") << 0;
         QTest::newRow("before an error") << QByteArray("<ui><string>A</string><b") << 1;
-        QTest::newRow("cut off within a text") << QByteArray("<ui><string>A") << 0;
-        QTest::newRow("no XML") << QByteArray("string") << 0;
+        QTest::newRow("cut off within a string") << QByteArray("<ui><string>A") << 0;
+        QTest::newRow("not XML") << QByteArray("string") << 0;
     }
 
     void stringsOfAFormAreCounted()

@@ -12,6 +12,7 @@
 
 #include <memory>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::ProgramCall;
 using Nvx::Util::ProgramResult;
@@ -82,8 +83,8 @@ private slots:
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<bool>("writes");
         QTest::newRow("missing") << Outcome::NotStarted << 0 << false;
-        QTest::newRow("answers 1") << Outcome::Exited << 1 << true;
-        QTest::newRow("ended at the time limit") << Outcome::TimedOut << 0 << true;
+        QTest::newRow("exit code 1") << Outcome::Exited << 1 << true;
+        QTest::newRow("terminated at the time-out") << Outcome::TimedOut << 0 << true;
         QTest::newRow("crashes") << Outcome::Crashed << 139 << true;
     }
 

@@ -168,8 +168,8 @@ private slots:
     void aMissingKeyCountsAsRemoved_data()
     {
         QTest::addColumn<QString>("below");
-        QTest::newRow("missing itself") << u"\\Missing"_s;
-        QTest::newRow("missing with the key above it") << u"\\Missing\\Too"_s;
+        QTest::newRow("missing") << u"\\Missing"_s;
+        QTest::newRow("parent key missing") << u"\\Missing\\Too"_s;
     }
 
     void aMissingKeyCountsAsRemoved()
@@ -210,8 +210,8 @@ private slots:
     {
         QTest::addColumn<int>("length");
         QTest::addColumn<int>("expectedLength");
-        QTest::newRow("as long as fits") << 9 << 9;
-        QTest::newRow("one too many") << 10 << 0;
+        QTest::newRow("exactly fits") << 9 << 9;
+        QTest::newRow("one character too long") << 10 << 0;
         QTest::newRow("far too long") << 10000 << 0;
     }
 

@@ -38,7 +38,7 @@ private slots:
         QTest::newRow("a folder and a file") << native("/NVX") << u"a.txt"_s << native("/NVX/a.txt");
         QTest::newRow("slashes become native")
             << native("/NVX") << u"en-US/Examples.7z"_s << native("/NVX/en-US/Examples.7z");
-        QTest::newRow("a root keeps its one separator") << native("/") << u"a"_s << native("/a");
+        QTest::newRow("a root already ends with a separator") << native("/") << u"a"_s << native("/a");
         QTest::newRow("no folder") << QString() << u"a"_s << native("/a");
     }
 
@@ -122,10 +122,10 @@ private slots:
         QTest::addColumn<QString>("systemName");
         QTest::addColumn<QString>("locale");
         QTest::newRow("German") << u"de_DE"_s << u"de-DE"_s;
-        QTest::newRow("Chinese of Taiwan") << u"zh_TW"_s << u"zh-TW"_s;
-        QTest::newRow("written with a hyphen already") << u"ja-JP"_s << u"ja-JP"_s;
-        QTest::newRow("another country's German") << u"de_AT"_s << u"en-US"_s;
-        QTest::newRow("a language that is not spoken") << u"sv_SE"_s << u"en-US"_s;
+        QTest::newRow("Chinese in Taiwan") << u"zh_TW"_s << u"zh-TW"_s;
+        QTest::newRow("already with a hyphen") << u"ja-JP"_s << u"ja-JP"_s;
+        QTest::newRow("German of another country") << u"de_AT"_s << u"en-US"_s;
+        QTest::newRow("an unsupported language") << u"sv_SE"_s << u"en-US"_s;
         QTest::newRow("none") << u"C"_s << u"en-US"_s;
     }
 

@@ -106,7 +106,7 @@ private slots:
         QTest::newRow("the largest") << QByteArray("4294967295") << true;
         QTest::newRow("one more") << QByteArray("4294967296") << false;
         QTest::newRow("negative") << QByteArray("-1") << false;
-        QTest::newRow("no whole number") << QByteArray("1.5") << false;
+        QTest::newRow("a fraction") << QByteArray("1.5") << false;
     }
 
     void aNumberThatDoesNotFitInto32BitsIsNone()
@@ -155,8 +155,8 @@ private slots:
     void aProcessThatHasEndedIsNotWaitedFor_data()
     {
         QTest::addColumn<bool>("isTakenNoteOf");
-        QTest::newRow("its parent has taken note of it") << true;
-        QTest::newRow("its parent has yet to take note of it") << false;
+        QTest::newRow("waited for by its parent") << true;
+        QTest::newRow("a zombie") << false;
     }
 
     void aProcessThatHasEndedIsNotWaitedFor()

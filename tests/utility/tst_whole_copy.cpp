@@ -35,8 +35,8 @@ private slots:
         QTest::addColumn<QByteArray>("contents");
         QTest::newRow("none") << QByteArray();
         QTest::newRow("a few") << QByteArray("a\r\n\0b", 5);
-        QTest::newRow("as many as are read at once") << QByteArray(64 * 1024, 'x');
-        QTest::newRow("one more") << QByteArray(64 * 1024, 'x') + 'y';
+        QTest::newRow("one chunk") << QByteArray(64 * 1024, 'x');
+        QTest::newRow("one chunk and a byte") << QByteArray(64 * 1024, 'x') + 'y';
         QTest::newRow("many") << QByteArray(300 * 1000, 'x') + 'y';
     }
 

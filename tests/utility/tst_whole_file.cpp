@@ -65,10 +65,10 @@ private slots:
         QTest::addColumn<QByteArray>("contents");
         QTest::newRow("longer") << QByteArray("old") << QByteArray("longer than that");
         QTest::newRow("shorter") << QByteArray("longer than that") << QByteArray("new");
-        QTest::newRow("as long") << QByteArray("old") << QByteArray("new");
+        QTest::newRow("equally long") << QByteArray("old") << QByteArray("new");
         QTest::newRow("empty") << QByteArray("old") << QByteArray();
         QTest::newRow("was empty") << QByteArray() << QByteArray("new");
-        QTest::newRow("line ends stay") << QByteArray("old") << QByteArray("a\nb\r\nc\r");
+        QTest::newRow("line ends are preserved") << QByteArray("old") << QByteArray("a\nb\r\nc\r");
         QTest::newRow("a NUL") << QByteArray("old") << QByteArray("a\0b", 3);
         QTest::newRow("differs after a megabyte")
             << QByteArray(1 << 20, 'x') + 'a' << QByteArray(1 << 20, 'x') + 'b';
@@ -149,7 +149,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("contents");
         QTest::newRow("the file is replaced") << QByteArray("new");
-        QTest::newRow("the file has these bytes already") << QByteArray("old");
+        QTest::newRow("the file already has these bytes") << QByteArray("old");
     }
 
     void leftoverOfACrashIsRemoved()

@@ -19,8 +19,8 @@ private slots:
     void copyOfAnUnreadableFileLeavesNothing_data()
     {
         QTest::addColumn<QString>("source");
-        QTest::newRow("it breaks when it is read") << breakingFile();
-        QTest::newRow("it is shorter than it says") << boastingFile();
+        QTest::newRow("reading fails") << breakingFile();
+        QTest::newRow("shorter than its size") << boastingFile();
     }
 
     void copyOfAnUnreadableFileLeavesNothing()
@@ -51,7 +51,7 @@ private slots:
         QTest::addColumn<QByteArray>("old");
         QTest::newRow("a link") << 1 << QByteArray("old");
         QTest::newRow("a link to a link to a link") << 3 << QByteArray("old");
-        QTest::newRow("a link to a file that is to come") << 2 << QByteArray();
+        QTest::newRow("a link to a missing file") << 2 << QByteArray();
     }
 
     void linkStaysALinkWhenItsFileIsReplaced()

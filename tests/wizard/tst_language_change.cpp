@@ -141,7 +141,7 @@ private slots:
     void thePagesAreInTheStoredLanguage_data()
     {
         QTest::addColumn<QString>("options");
-        QTest::newRow("none named") << u"-L"_s;
+        QTest::newRow("no locale") << u"-L"_s;
         QTest::newRow("reading abandoned") << u"-Lde-DE -X"_s;
     }
 

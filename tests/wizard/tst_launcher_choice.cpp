@@ -55,9 +55,9 @@ private slots:
         QTest::addColumn<QString>("options");
         QTest::addColumn<bool>("unticks");
         QTest::addColumn<bool>("configured");
-        QTest::newRow("left ticked") << u"-I"_s << false << true;
-        QTest::newRow("unticked") << u"-I"_s << true << false;
-        QTest::newRow("no mode, unticked") << QString() << true << false;
+        QTest::newRow("left checked") << u"-I"_s << false << true;
+        QTest::newRow("unchecked") << u"-I"_s << true << false;
+        QTest::newRow("no mode, unchecked") << QString() << true << false;
     }
 
     void aCheckedBoxInstallsItsLauncher()

@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTextLayout>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 using Nvx::Wizard::fontsOfLanguage;
 using Nvx::Wizard::InterfaceFont;

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QWizard>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 using Nvx::Wizard::runPasses;
 using Nvx::Wizard::runProgram;
@@ -264,7 +265,7 @@ private slots:
         QTest::addColumn<bool>("shown");
         QTest::newRow("silent install") << u"-I -S"_s << false;
         QTest::newRow("silent uninstall") << u"-U -S"_s << false;
-        QTest::newRow("silent uninstall, the other way round") << u"-S -U"_s << false;
+        QTest::newRow("silent uninstall, options swapped") << u"-S -U"_s << false;
         QTest::newRow("stop services") << u"-ST"_s << false;
         QTest::newRow("localisation") << u"-T"_s << false;
         QTest::newRow("install") << u"-I"_s << true;

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::System;
 
@@ -52,7 +53,7 @@ private slots:
         QTest::newRow("of the command line") << u"-Lja-JP"_s << u"Japanese"_s;
         QTest::newRow("spelled in capitals") << u"-LIT-IT"_s << u"Italian"_s;
         QTest::newRow("not offered") << u"-Lde"_s << QString();
-        QTest::newRow("none named") << u"-L"_s << u"Korean"_s;
+        QTest::newRow("no locale") << u"-L"_s << u"Korean"_s;
     }
 
     void theRunsLanguageIsSelected()

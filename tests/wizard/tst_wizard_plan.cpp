@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Nvx::Run;
 using Nvx::Wizard::planFor;
 using Nvx::Wizard::WizardPlan;
 

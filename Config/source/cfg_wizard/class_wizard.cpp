@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QPixmap>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 using Page = Nvx::Wizard::WizardPlan::Page;
 

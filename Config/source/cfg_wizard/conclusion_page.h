@@ -13,7 +13,7 @@ class ProgressList;
 
 /// The last page. One second after it is shown it performs the installation run and lists its progress; the
 /// page is complete when the run is. During its lifetime it is the engine's progress view.
-class ConclusionPage final : public QWizardPage, public ProgressView
+class ConclusionPage final : public QWizardPage, public Nvx::Run::ProgressView
 {
     Q_OBJECT
 

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 
 namespace Nvx::Wizard {

@@ -1,5 +1,7 @@
 #include "cfg_wizard/wizard_plan.h"
 
+using namespace Nvx::Run;
+
 namespace Nvx::Wizard {
 
 WizardPlan planFor(RunMode mode, bool silent)

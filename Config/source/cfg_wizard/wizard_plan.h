@@ -24,11 +24,11 @@ struct WizardPlan
     };
 
     Action action = Action::ShowPages;
-    QList<Page> pages;                  ///< for ShowPages, in order
-    RunMode runMode = RunMode::Install; ///< the mode from here on
+    QList<Page> pages = {};                       ///< for ShowPages, in order
+    Run::RunMode runMode = Run::RunMode::Install; ///< the mode from here on
 };
 
 /// The plan for a run. The silent flag is ignored if no mode was given.
-WizardPlan planFor(RunMode mode, bool silent);
+WizardPlan planFor(Run::RunMode mode, bool silent);
 
 } // namespace Nvx::Wizard
