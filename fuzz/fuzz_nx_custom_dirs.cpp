@@ -1,15 +1,18 @@
-// Whatever a custom_dirs.dat holds: a removal keeps exactly the lines of others, byte for byte, removing
-// twice is the same as once, and so is installing. After an install a removal leaves what it would have left
-// without, and at most the empty line that came with ours.
+// For any custom_dirs.dat: a removal preserves exactly the lines of other programs, byte for byte; removing
+// or installing twice has the same result as once. A removal after an install has the same result as without
+// the install, except for the empty line that may be added with ours.
 
 #include "cad/nx/nx_custom_dirs.h"
 
 #include <cstdlib>
 
+using namespace Nvx::Cad;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString installDir = QStringLiteral("C:\\NVX");
-const QString line = customDirsLine(installDir, QStringLiteral("NX\\10.0"));
+const QString installDir = u"C:\\NVX"_s;
+const QString line = customDirsLine(installDir, u"NX\\10.0"_s);
 
 void require(bool condition)
 {
@@ -19,15 +22,15 @@ void require(bool condition)
 
 QByteArray expectedRemoval(QByteArray rest)
 {
-    QByteArray kept;
+    QByteArray preserved;
     while (!rest.isEmpty()) {
         const qsizetype newLine = rest.indexOf('\n');
         const QByteArray first = newLine < 0 ? rest : rest.left(newLine + 1);
         rest.remove(0, first.size());
         if (!first.toLower().contains("c:\\nvx"))
-            kept += first;
+            preserved += first;
     }
-    return kept;
+    return preserved;
 }
 
 QByteArray installed(const QByteArray &contents)

@@ -1,5 +1,5 @@
-// Whatever a protk.dat holds: a removal keeps exactly the pieces of others, byte for byte, an install puts
-// the entry in front or leaves the file, and doing either twice is the same as once.
+// For any protk.dat: a removal preserves exactly the pieces of other programs, byte for byte; an install
+// prepends the entry or does not change the file; doing either twice has the same result as once.
 
 #include "cad/creo/creo_names.h"
 #include "cad/creo/protk_file.h"
@@ -8,9 +8,12 @@
 
 #include <cstdlib>
 
+using namespace Nvx::Cad;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QByteArray entry = creoEntry(QStringLiteral("C:\\NVX"), QStringLiteral("C:\\NVX"), 2).toLatin1();
+const QByteArray entry = creoEntry(u"C:\\NVX"_s, u"C:\\NVX"_s, 2).toLatin1();
 
 void require(bool condition)
 {
@@ -18,19 +21,18 @@ void require(bool condition)
         std::abort();
 }
 
-// The plain way: split as text with one character for each byte, measured as text of the code page.
+// The simple way: pieces are split as Latin-1, and measured in the code page.
 QByteArray expectedRemoval(const QByteArray &contents)
 {
-    QByteArray kept;
-    const QStringList pieces =
-        QString::fromLatin1(contents).split(QStringLiteral("end\r\n"), Qt::SkipEmptyParts);
+    QByteArray preserved;
+    const QStringList pieces = QString::fromLatin1(contents).split(u"end\r\n"_s, Qt::SkipEmptyParts);
     for (const QString &piece : pieces) {
         const QByteArray bytes = piece.toLatin1();
         const qsizetype length = QString::fromLocal8Bit(bytes).trimmed().size();
         if (length >= 5 && !bytes.toLower().contains("nvx_2017_creo"))
-            kept += bytes + "end\r\n";
+            preserved += bytes + "end\r\n";
     }
-    return kept;
+    return preserved;
 }
 
 QByteArray installed(const QByteArray &contents)

@@ -33,18 +33,10 @@
     </message>
 </context>
 <context>
-    <name>CadSearch</name>
+    <name>BrevantLauncher</name>
     <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>Installationsordner von %1: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>Verwendet wird %1, Installationsordner: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>Produktcode von %1 =%2</translation>
+        <source>Configure Brevant</source>
+        <translation>Brevant wird konfiguriert</translation>
     </message>
 </context>
 <context>
@@ -56,13 +48,6 @@
     <message>
         <source>Program exiting</source>
         <translation>Das Programm wird beendet</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Brevant wird konfiguriert</translation>
     </message>
 </context>
 <context>
@@ -154,6 +139,21 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1 ist bereits vorhanden, keine Änderung</translation>
+    </message>
+</context>
+<context>
+    <name>Detection</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>Installationsordner von %1: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Verwendet wird %1, Installationsordner: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>Produktcode von %1 =%2</translation>
     </message>
 </context>
 <context>

@@ -33,18 +33,10 @@
     </message>
 </context>
 <context>
-    <name>CadSearch</name>
+    <name>BrevantLauncher</name>
     <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>Dossier d&apos;installation de %1&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>Utilisation de %1, dossier d&apos;installation&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>Code de produit de %1 =%2</translation>
+        <source>Configure Brevant</source>
+        <translation>Configuration de Brevant</translation>
     </message>
 </context>
 <context>
@@ -56,13 +48,6 @@
     <message>
         <source>Program exiting</source>
         <translation>Fermeture du programme</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Configuration de Brevant</translation>
     </message>
 </context>
 <context>
@@ -154,6 +139,21 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1 existe déjà, aucune modification</translation>
+    </message>
+</context>
+<context>
+    <name>Detection</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>Dossier d&apos;installation de %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Utilisation de %1, dossier d&apos;installation&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>Code de produit de %1 =%2</translation>
     </message>
 </context>
 <context>

@@ -33,18 +33,10 @@
     </message>
 </context>
 <context>
-    <name>CadSearch</name>
+    <name>BrevantLauncher</name>
     <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 のインストール フォルダー: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>%1 を使用します。インストール フォルダー: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 の製品コード =%2</translation>
+        <source>Configure Brevant</source>
+        <translation>Brevant を構成しています</translation>
     </message>
 </context>
 <context>
@@ -56,13 +48,6 @@
     <message>
         <source>Program exiting</source>
         <translation>プログラムを終了しています</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Brevant を構成しています</translation>
     </message>
 </context>
 <context>
@@ -154,6 +139,21 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1 は既に存在するため、何も行いません</translation>
+    </message>
+</context>
+<context>
+    <name>Detection</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 のインストール フォルダー: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>%1 を使用します。インストール フォルダー: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 の製品コード =%2</translation>
     </message>
 </context>
 <context>

@@ -33,18 +33,10 @@
     </message>
 </context>
 <context>
-    <name>CadSearch</name>
+    <name>BrevantLauncher</name>
     <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>%1 설치 폴더: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>%1 사용, 설치 폴더: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>%1 제품 코드 =%2</translation>
+        <source>Configure Brevant</source>
+        <translation>Brevant 구성 중</translation>
     </message>
 </context>
 <context>
@@ -56,13 +48,6 @@
     <message>
         <source>Program exiting</source>
         <translation>프로그램을 종료하는 중</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Brevant 구성 중</translation>
     </message>
 </context>
 <context>
@@ -154,6 +139,21 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1이(가) 이미 있으므로 아무 작업도 하지 않습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Detection</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>%1 설치 폴더: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>%1 사용, 설치 폴더: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>%1 제품 코드 =%2</translation>
     </message>
 </context>
 <context>

@@ -33,18 +33,10 @@
     </message>
 </context>
 <context>
-    <name>CadSearch</name>
+    <name>BrevantLauncher</name>
     <message>
-        <source>%1 Install Dir:%2</source>
-        <translation>Папка установки %1: %2</translation>
-    </message>
-    <message>
-        <source>Using %1 Install Dir:%2</source>
-        <translation>Используется %1, папка установки: %2</translation>
-    </message>
-    <message>
-        <source>%1 Product Code =%2</source>
-        <translation>Код продукта %1 =%2</translation>
+        <source>Configure Brevant</source>
+        <translation>Настройка Brevant</translation>
     </message>
 </context>
 <context>
@@ -56,13 +48,6 @@
     <message>
         <source>Program exiting</source>
         <translation>Завершение работы программы</translation>
-    </message>
-</context>
-<context>
-    <name>ComLaunchers</name>
-    <message>
-        <source>Configure Brevant</source>
-        <translation>Настройка Brevant</translation>
     </message>
 </context>
 <context>
@@ -154,6 +139,21 @@
     <message>
         <source>Ostrade %1 already exists, do nothing</source>
         <translation>Ostrade %1 уже существует, изменения не требуются</translation>
+    </message>
+</context>
+<context>
+    <name>Detection</name>
+    <message>
+        <source>%1 Install Dir:%2</source>
+        <translation>Папка установки %1: %2</translation>
+    </message>
+    <message>
+        <source>Using %1 Install Dir:%2</source>
+        <translation>Используется %1, папка установки: %2</translation>
+    </message>
+    <message>
+        <source>%1 Product Code =%2</source>
+        <translation>Код продукта %1 =%2</translation>
     </message>
 </context>
 <context>

@@ -1,78 +1,86 @@
 #include "cad_case.h"
 
+#include "cad/cad_systems.h"
 #include "support/file_bytes.h"
 #include "support/table_registry.h"
+
+using namespace Nvx::Cad;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 QString contents(const QString &file)
 {
     QString text = QString::fromUtf8(fileLines(file).value_or(QByteArray()));
-    return text.replace(QLatin1String("@LONG@"), QString(10000, QLatin1Char('x')));
+    return text.replace("@LONG@"_L1, QString(10000, u'x'));
 }
 
 QString quoted(const QString &text)
 {
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    return u'"' + text + u'"';
 }
 
-// One line for each place of a table that is in use.
-template<typename Table>
-QString tableLines(const QString &name, const Table &table)
+QString numberLine(const QString &name, int number, int notFound)
 {
-    QString lines;
-    for (size_t place = 0; place < table.size(); ++place) {
-        if (!table[place].isEmpty())
-            lines += QStringLiteral("%1 %2 %3\n").arg(name, QString::number(place), quoted(table[place]));
-    }
-    return lines;
-}
-
-QString numberLine(const QString &name, int number, int none)
-{
-    return number == none ? QString() : QStringLiteral("%1 %2\n").arg(name, QString::number(number));
+    return number == notFound ? QString() : u"%1 %2\n"_s.arg(name, QString::number(number));
 }
 
 QString textLine(const QString &name, const QString &text)
 {
-    return text.isEmpty() ? QString() : QStringLiteral("%1 %2\n").arg(name, quoted(text));
+    return text.isEmpty() ? QString() : u"%1 %2\n"_s.arg(name, quoted(text));
 }
 
-QString results(const CadPackages &packages)
+QString creoLines(const CadPackages &packages)
 {
-    QString lines = numberLine(QStringLiteral("brevant version"), packages.brevantVersion, 0) +
-                    textLine(QStringLiteral("brevant versions"), packages.brevantVersions) +
-                    numberLine(QStringLiteral("creo version"), packages.creoVersion, 0) +
-                    tableLines(QStringLiteral("creo dir"), packages.creoInstallDirs) +
-                    tableLines(QStringLiteral("creo ship code"), packages.creoShipCodes) +
-                    numberLine(QStringLiteral("solidworks version"), packages.solidWorksVersion, 0) +
-                    textLine(QStringLiteral("solidworks dir"), packages.solidWorksInstallDir) +
-                    numberLine(QStringLiteral("nx index"), packages.nxIndex, -1) +
-                    tableLines(QStringLiteral("nx dir"), packages.nxInstallDirs) +
-                    tableLines(QStringLiteral("nx key"), packages.nxKeys);
-    const QStringList editions{QStringLiteral("tamsel"), QStringLiteral("tamsel architecture"),
-                               QStringLiteral("tamsel mep")};
-    for (size_t edition = 0; edition < tamselEditionCount; ++edition) {
-        const QString &name = editions.at(static_cast<qsizetype>(edition));
-        lines += textLine(name + QStringLiteral(" versions"), packages.tamselVersions[edition]) +
-                 tableLines(name + QStringLiteral(" dir"), packages.tamselInstallDirs[edition]);
+    QString dirs;
+    QString shipCodes;
+    for (const CreoInstall &install : packages.creoInstalls) {
+        dirs += textLine(u"creo dir %1"_s.arg(install.release), install.installDir);
+        shipCodes += textLine(u"creo ship code %1"_s.arg(install.release), install.shipCode);
     }
-    return lines + (packages.spaceClaimFound ? QStringLiteral("spaceclaim found\n") : QString());
+    return numberLine(u"creo version"_s, packages.creoVersion, 0) + dirs + shipCodes;
 }
 
-QString boxes(const CadSearch &search)
+QString nxLines(const CadPackages &packages)
 {
-    const QStringList names{QStringLiteral("Creo"),      QStringLiteral("SolidWorks"),
-                            QStringLiteral("Brevant"),   QStringLiteral("Nx"),
-                            QStringLiteral("Tamsel"),    QStringLiteral("TamselArchitecture"),
-                            QStringLiteral("TamselMep"), QStringLiteral("SpaceClaim")};
+    QString dirs;
+    QString keys;
+    for (const NxInstall &install : packages.nxInstalls) {
+        dirs += textLine(u"nx dir %1"_s.arg(install.index), install.installDir);
+        keys += textLine(u"nx key %1"_s.arg(install.index), install.registryKey);
+    }
+    return numberLine(u"nx index"_s, packages.nxIndex, -1) + dirs + keys;
+}
+
+QString tamselLines(const CadPackages &packages, TamselEdition edition, const QString &name)
+{
+    QString lines = textLine(name + u" versions"_s, packages.tamselVersions(edition));
+    for (const TamselInstall &install : packages.tamselInstalls) {
+        if (install.edition == edition)
+            lines += textLine(u"%1 dir %2"_s.arg(name, QString::number(install.year)), install.installDir);
+    }
+    return lines;
+}
+
+QString packageLines(const CadPackages &packages)
+{
+    return numberLine(u"brevant version"_s, packages.brevantVersion, 0) +
+           textLine(u"brevant versions"_s, packages.brevantVersions) + creoLines(packages) +
+           numberLine(u"solidworks version"_s, packages.solidWorksVersion, 0) +
+           textLine(u"solidworks dir"_s, packages.solidWorksInstallDir) + nxLines(packages) +
+           tamselLines(packages, TamselEdition::Plain, u"tamsel"_s) +
+           tamselLines(packages, TamselEdition::Architecture, u"tamsel architecture"_s) +
+           tamselLines(packages, TamselEdition::Mep, u"tamsel mep"_s) +
+           (packages.spaceClaimFound ? u"spaceclaim found\n"_s : QString());
+}
+
+QString checkBoxLines(const CadSearch &search)
+{
     QString lines;
-    for (const LauncherBox &box : search.boxes) {
-        const QString &name = names.at(static_cast<int>(box.launcher));
-        if (box.found)
-            lines += QStringLiteral("box %1 %2\n").arg(name, quoted(box.label));
-        else if (!box.label.isEmpty())
-            lines += QStringLiteral("unticked box %1 %2\n").arg(name, quoted(box.label));
+    for (const CheckBoxState &state : search.checkBoxes) {
+        const QString before = QString::fromLatin1(cadSystem(state.launcher).label);
+        if (state.label)
+            lines += u"check box %1 %2\n"_s.arg(quoted(before), quoted(*state.label));
     }
     return lines;
 }
@@ -81,23 +89,22 @@ QString boxes(const CadSearch &search)
 
 CadCase CadCase::read(const QString &folder)
 {
-    return {contents(folder + QStringLiteral("/machine.reg")),
-            contents(folder + QStringLiteral("/expected.txt")),
-            contents(folder + QStringLiteral("/log.txt"))};
+    return {contents(folder + u"/machine.reg"_s), contents(folder + u"/expected.txt"_s),
+            contents(folder + u"/log.txt"_s)};
 }
 
 QString described(const CadSearch &search)
 {
-    const QStringList usual = searchCadPackages(TableRegistry(), QStringLiteral("Found ")).lines;
-    QString text = results(search.packages) + boxes(search);
+    const QStringList usual = searchCadPackages(TableRegistry(), u"Found "_s).lines;
+    QString text = packageLines(search.packages) + checkBoxLines(search);
     for (const QString &line : search.lines) {
         if (!usual.contains(line))
-            text += QStringLiteral("log ") + line + QLatin1Char('\n');
+            text += u"log "_s + line + u'\n';
     }
     return text;
 }
 
 QString wholeLog(const CadSearch &search)
 {
-    return search.lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+    return search.lines.join(u'\n') + u'\n';
 }

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "cad/cad_packages.h"
+#include "cad/launcher_step.h"
 #include "cad/shared_folders.h"
 #include "nvx_util/system.h"
-#include "run/launcher_boxes.h"
-#include "run/run_state.h"
-#include "run/step_context.h"
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
 #include "support/test_machine.h"
@@ -15,8 +13,8 @@
 #include <array>
 #include <utility>
 
-/// What a launcher step is handed, on a machine whose folders lie in a fresh test folder. No CAD system is
-/// found and no box ticked until the test says so.
+/// What a launcher's step works with, on a machine whose folders are in a fresh test folder. At first no CAD
+/// system is found and no check box is checked.
 class LauncherFixture
 {
 public:
@@ -25,44 +23,47 @@ public:
         state.installDir = test.installDir();
         state.modeWords = QStringList{QStringLiteral("Install"), QStringLiteral("UnInstall")};
         machine.ownFolder = state.installDir;
-        folders.applicationDataOfOld = test.path(QStringLiteral("of old"));
-        folders.applicationData = test.path(QStringLiteral("of today"));
+        folders.formerApplicationData = test.path(QStringLiteral("former"));
+        folders.applicationData = test.path(QStringLiteral("present"));
         folders.spaceClaimAddin = test.path(QStringLiteral("Addins/NVX_2017_SpaceClaim"));
     }
 
-    StepContext context() { return {machine, reporter, state}; }
+    Nvx::Cad::LauncherStep step(Nvx::Run::RunMode mode)
+    {
+        return {{machine, reporter, state}, packages, checkBoxes, folders, mode};
+    }
 
-    void tick(Launcher launcher) { boxes.setFound(launcher, true); }
+    void check(Nvx::Cad::Launcher launcher) { checkBoxes.setFound(launcher, true); }
 
-    /// A path below the install dir, named with "/".
+    /// A path below the install dir, with "/".
     QString installed(const char *name) const
     {
         return Nvx::Util::joinPath(state.installDir, QString::fromUtf8(name));
     }
 
-    /// What was reported since the last call.
+    /// The lines reported since the last call.
     QStringList takeLines() { return std::exchange(reporter.lines, {}); }
 
     TestMachine test;
     RecordingMachine machine;
     RecordingReporter reporter;
-    RunState state;
-    CadPackages packages;
-    SharedFolders folders;
-    UnshownLauncherBoxes boxes;
+    Nvx::Run::RunState state;
+    Nvx::Cad::CadPackages packages;
+    Nvx::Cad::SharedFolders folders;
+    Nvx::Cad::UnshownCheckBoxes checkBoxes;
 };
 
-/// The modes in which a launcher step removes: every one but install.
-inline const std::array<std::pair<const char *, RunMode>, 4> removingModes{
-    {{"uninstall", RunMode::Uninstall},
-     {"stop services", RunMode::StopServices},
-     {"localization", RunMode::Localization},
-     {"not given", RunMode::NotGiven}}};
+/// The modes in which a launcher's step removes: all but install.
+inline const std::array<std::pair<const char *, Nvx::Run::RunMode>, 4> removingModes{
+    {{"uninstall", Nvx::Run::RunMode::Uninstall},
+     {"stop services", Nvx::Run::RunMode::StopServices},
+     {"localization", Nvx::Run::RunMode::Localization},
+     {"not given", Nvx::Run::RunMode::NotGiven}}};
 
-/// A row of test data, with the column "mode", for each of these modes.
+/// Adds a row of test data for each of these modes, with the column "mode".
 inline void addRemovingModes()
 {
-    QTest::addColumn<RunMode>("mode");
+    QTest::addColumn<Nvx::Run::RunMode>("mode");
     for (const auto &[name, mode] : removingModes)
         QTest::newRow(name) << mode;
 }

@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QList>
 
-/// Up to 23 of the pieces, in any order and as often as it comes.
+/// Up to 23 random pieces from the list, one after the other.
 inline QByteArray randomBytes(RandomText &random, const QList<QByteArray> &pieces)
 {
     QByteArray bytes;

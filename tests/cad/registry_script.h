@@ -2,6 +2,6 @@
 
 #include "support/table_registry.h"
 
-/// Puts into the registry what a script of the Registry Editor holds. Reads what the cases need: texts,
-/// numbers, and values of other kinds, which count as neither.
+/// Puts the contents of a Registry Editor script into the registry. Reads what the cases need: strings,
+/// numbers, and values of other types, which are read as empty.
 void importScript(const QString &script, TableRegistry &registry);

@@ -1,3 +1,4 @@
+#include "cad/cad_systems.h"
 #include "cad_case.h"
 #include "registry_script.h"
 #include "support/case_folders.h"
@@ -5,59 +6,59 @@
 
 #include <QTest>
 
-#include <algorithm>
+using namespace Nvx::Cad;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_cad_search : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void everyCaseComesToWhatIsExpected_data() { addCaseRows(QStringLiteral(CASES)); }
+    void everyCaseHasTheExpectedResult_data() { addCaseRows(QStringLiteral(CASES)); }
 
-    void everyCaseComesToWhatIsExpected()
+    void everyCaseHasTheExpectedResult()
     {
         QFETCH(QString, folder);
         const CadCase expected = CadCase::read(folder);
         TableRegistry registry;
         importScript(expected.script, registry);
-        const CadSearch search = searchCadPackages(registry, QStringLiteral("Found "));
+        const CadSearch search = searchCadPackages(registry, u"Found "_s);
         QCOMPARE(described(search), expected.expected);
         if (!expected.log.isEmpty())
             QCOMPARE(wholeLog(search), expected.log);
     }
 
-    void everyBoxIsSetOnceInTheOrderOfTheSearch()
+    void everyCheckBoxIsSetOnceInTheOrderOfTheTable()
     {
         const CadSearch search = searchCadPackages(TableRegistry(), QString());
-        QList<Launcher> launchers;
-        for (const LauncherBox &box : search.boxes)
-            launchers << box.launcher;
-        QCOMPARE(launchers, QList<Launcher>({Launcher::Brevant, Launcher::Creo, Launcher::SolidWorks,
-                                             Launcher::Nx, Launcher::Tamsel, Launcher::TamselArchitecture,
-                                             Launcher::TamselMep, Launcher::SpaceClaim}));
+        QList<Launcher> set;
+        for (const CheckBoxState &state : search.checkBoxes)
+            set << state.launcher;
+        QList<Launcher> all;
+        for (const CadSystem &system : cadSystems())
+            all << system.launcher;
+        QCOMPARE(set, all);
     }
 
-    void theFoundWordIsThatOfTheLanguage()
+    void theFoundWordIsInTheInterfaceLanguage()
     {
-        const CadSearch search = searchCadPackages(TableRegistry(), QStringLiteral("Gefunden: "));
-        QVERIFY(search.lines.contains(QStringLiteral("Gefunden: UGNX=-1")));
-        QVERIFY(search.lines.filter(QStringLiteral("Found")).isEmpty());
+        const CadSearch search = searchCadPackages(TableRegistry(), u"Gefunden: "_s);
+        QVERIFY(search.lines.contains(u"Gefunden: UGNX=-1"_s));
+        QVERIFY(search.lines.filter(u"Found"_s).isEmpty());
     }
 
     void theProductCodeIsTheFirstInTheRegistrysOrder()
     {
-        // Within a key the registry's order is the one in which values were added; those of sub-keys come
-        // last.
-        const auto components =
-            QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Tamsel\\Velmora Tamsel 2016\\Components");
+        // Values of one key are listed in the order in which they were added, those of sub-keys last.
+        const QString components =
+            u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Tamsel\\Velmora Tamsel 2016\\Components"_s;
         TableRegistry registry;
-        registry.put(components + QStringLiteral("\\A"), QStringLiteral("ProductCode"), QStringLiteral("no"));
-        registry.put(components + QStringLiteral("\\ProductCode"), QStringLiteral("a"),
-                     QStringLiteral("late"));
-        registry.put(components, QStringLiteral("z"), QStringLiteral("no"));
-        registry.put(components, QStringLiteral("productcode"), QStringLiteral("first"));
+        registry.put(components + u"\\A"_s, u"ProductCode"_s, u"no"_s);
+        registry.put(components + u"\\ProductCode"_s, u"a"_s, u"late"_s);
+        registry.put(components, u"z"_s, u"no"_s);
+        registry.put(components, u"productcode"_s, u"first"_s);
         const CadSearch search = searchCadPackages(registry, QString());
-        QVERIFY(search.lines.contains(QStringLiteral("Tamsel Product Code =first")));
+        QVERIFY(search.lines.contains(u"Tamsel Product Code =first"_s));
     }
 };
 

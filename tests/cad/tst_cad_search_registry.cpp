@@ -1,4 +1,4 @@
-// The cases again, on the registry of the machine, into which the Registry Editor has imported them.
+// The same cases on the registry of the machine, imported by the Registry Editor.
 
 #include "cad/machine_registry_listing.h"
 #include "cad_case.h"
@@ -12,24 +12,27 @@
 
 #include <QTest>
 
+using namespace Nvx::Cad;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString header = QStringLiteral("Windows Registry Editor Version 5.00\r\n\r\n");
+const QString header = u"Windows Registry Editor Version 5.00\r\n\r\n"_s;
 
-// Everything that the search looks at but the keys that product codes name.
-const QStringList searchedKeys{QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora\\Brevant"),
-                               QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\PTC"),
-                               QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\PTC"),
-                               QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\SolidWorks"),
-                               QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions"),
-                               QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora\\Tamsel"),
-                               QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Classes\\SpaceClaim.Location")};
+// All keys that the search reads, except the uninstall keys of product codes.
+const QStringList searchedKeys{u"HKEY_LOCAL_MACHINE\\Software\\Velmora\\Brevant"_s,
+                               u"HKEY_LOCAL_MACHINE\\Software\\PTC"_s,
+                               u"HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\PTC"_s,
+                               u"HKEY_LOCAL_MACHINE\\Software\\SolidWorks"_s,
+                               u"HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions"_s,
+                               u"HKEY_LOCAL_MACHINE\\Software\\Velmora\\Tamsel"_s,
+                               u"HKEY_LOCAL_MACHINE\\Software\\Classes\\SpaceClaim.Location"_s};
 
 QString removalOf(const QStringList &keys)
 {
     QString script;
     for (const QString &key : keys)
-        script += QStringLiteral("[-%1]\r\n").arg(key);
+        script += u"[-%1]\r\n"_s.arg(key);
     return script;
 }
 
@@ -48,43 +51,42 @@ private slots:
         m_caseKeys.clear();
     }
 
-    void everyCaseComesToWhatIsExpected_data() { addCaseRows(QStringLiteral(CASES)); }
+    void everyCaseHasTheExpectedResult_data() { addCaseRows(QStringLiteral(CASES)); }
 
-    void everyCaseComesToWhatIsExpected()
+    void everyCaseHasTheExpectedResult()
     {
         QFETCH(QString, folder);
         const CadCase expected = CadCase::read(folder);
         TableRegistry table;
         importScript(expected.script, table);
         m_caseKeys = table.keyPaths();
-        import(expected.script.section(QLatin1Char('\n'), 1)
-                   .replace(QLatin1String("\n"), QLatin1String("\r\n")));
-        const CadSearch search = searchCadPackages(MachineRegistryListing(), QStringLiteral("Found "));
+        import(expected.script.section(u'\n', 1).replace("\n"_L1, "\r\n"_L1));
+        const CadSearch search = searchCadPackages(MachineRegistryListing(), u"Found "_s);
         QCOMPARE(described(search), expected.expected);
         if (!expected.log.isEmpty())
             QCOMPARE(wholeLog(search), expected.log);
     }
 
-    void theSearchMakesNoKeys()
+    void theSearchCreatesNoKeys()
     {
         searchCadPackages(MachineRegistryListing(), QString());
         for (const QString &key : searchedKeys) {
-            const QString above = key.section(QLatin1Char('\\'), 0, -2);
-            const QString name = key.section(QLatin1Char('\\'), -1);
-            QVERIFY(!Nvx::Util::RegistryKey(above).subKeyNames().contains(name, Qt::CaseInsensitive));
+            const QString parent = key.section(u'\\', 0, -2);
+            const QString name = key.section(u'\\', -1);
+            QVERIFY(!Nvx::Util::RegistryKey(parent).subKeyNames().contains(name, Qt::CaseInsensitive));
         }
     }
 
 private:
     void import(const QString &body)
     {
-        const QString file = m_folder.path(QStringLiteral("case.reg"));
+        const QString file = m_folder.path(u"case.reg"_s);
         const QString script = QChar(0xFEFF) + header + body;
         QVERIFY(writeBytes(file, QByteArray(reinterpret_cast<const char *>(script.utf16()),
                                             script.size() * qsizetype(sizeof(char16_t)))));
         Nvx::Util::ProgramCall call;
-        call.program = QStringLiteral("regedit.exe");
-        call.arguments = {QStringLiteral("/S"), file};
+        call.program = u"regedit.exe"_s;
+        call.arguments = {u"/S"_s, file};
         call.place = Nvx::Util::ProgramCall::Place::SystemFolder;
         const Nvx::Util::ProgramResult result = m_machine.run(call);
         QVERIFY(result.outcome == Nvx::Util::ProgramResult::Outcome::Exited);

@@ -4,35 +4,38 @@
 
 #include <QTest>
 
+using namespace Nvx::Cad;
+using namespace Qt::Literals::StringLiterals;
+
 class tst_caseless_search : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void aTextIsFoundWithoutCase_data()
+    void aStringIsFoundInAnyCase_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("found");
-        const QString path = QStringLiteral("C:\\Prog\\NVX");
-        QTest::newRow("the text alone") << QByteArray("C:\\Prog\\NVX") << path << true;
+        const QString path = u"C:\\Prog\\NVX"_s;
+        QTest::newRow("the string alone") << QByteArray("C:\\Prog\\NVX") << path << true;
         QTest::newRow("other case") << QByteArray("in c:\\pROG\\nvx\\other") << path << true;
         QTest::newRow("at the end") << QByteArray("xC:\\PROG\\NVX") << path << true;
-        QTest::newRow("the first letter") << QByteArray("in A") << QStringLiteral("a") << true;
-        QTest::newRow("the last letter") << QByteArray("in Z") << QStringLiteral("z") << true;
-        QTest::newRow("cut off") << QByteArray("C:\\Prog\\NV") << path << false;
-        QTest::newRow("in two parts") << QByteArray("C:\\Prog\nC:\\NVX") << path << false;
-        QTest::newRow("no bytes") << QByteArray() << path << false;
-        QTest::newRow("behind a NUL") << QByteArray("\0\0C:\\prog\\nvx", 13) << path << true;
-        QTest::newRow("behind a byte that begins a character")
+        QTest::newRow("the first letter") << QByteArray("in A") << u"a"_s << true;
+        QTest::newRow("the last letter") << QByteArray("in Z") << u"z"_s << true;
+        QTest::newRow("truncated") << QByteArray("C:\\Prog\\NV") << path << false;
+        QTest::newRow("split in two") << QByteArray("C:\\Prog\nC:\\NVX") << path << false;
+        QTest::newRow("no bytes to search") << QByteArray() << path << false;
+        QTest::newRow("after a null byte") << QByteArray("\0\0C:\\prog\\nvx", 13) << path << true;
+        QTest::newRow("after the first byte of an incomplete character")
             << QByteArray("\203C:\\prog\\nvx") << path << true;
         QTest::newRow("characters that differ in one bit from letters")
-            << QByteArray("C:\\P[") << QStringLiteral("c:\\p{") << false;
-        QTest::newRow("the empty text") << QByteArray("x") << QString() << true;
-        QTest::newRow("the empty text in nothing") << QByteArray() << QString() << true;
+            << QByteArray("C:\\P[") << u"c:\\p{"_s << false;
+        QTest::newRow("an empty string") << QByteArray("x") << QString() << true;
+        QTest::newRow("an empty string in no bytes") << QByteArray() << QString() << true;
     }
 
-    void aTextIsFoundWithoutCase()
+    void aStringIsFoundInAnyCase()
     {
         QFETCH(const QByteArray, bytes);
         QFETCH(const QString, text);
@@ -40,16 +43,16 @@ private slots:
         QCOMPARE(CaselessSearch(text).isFoundIn(bytes), found);
     }
 
-    void lettersOutsideAsciiAreComparedInTheCodePage()
+    void lettersOutsideAsciiAreFoundInTheCodePage()
     {
-        const CaselessSearch search(QStringLiteral("C:\\Größe"));
-        QVERIFY(search.isFoundIn(Nvx::Util::toAnsi(QStringLiteral("C:\\Größe")).value()));
-        QVERIFY(search.isFoundIn(Nvx::Util::toAnsi(QStringLiteral("in c:\\grÖße\\x")).value()));
-        QVERIFY(!search.isFoundIn(Nvx::Util::toAnsi(QStringLiteral("C:\\Große")).value()));
+        const CaselessSearch search(u"C:\\Größe"_s);
+        QVERIFY(search.isFoundIn(Nvx::Util::toAnsi(u"C:\\Größe"_s).value()));
+        QVERIFY(search.isFoundIn(Nvx::Util::toAnsi(u"in c:\\grÖße\\x"_s).value()));
+        QVERIFY(!search.isFoundIn(Nvx::Util::toAnsi(u"C:\\Große"_s).value()));
         QVERIFY(!search.isFoundIn("C:\\Gr\xff\xfe"));
     }
 
-    void aTextThatTheCodePageCannotWriteIsFoundNowhere()
+    void aStringThatTheCodePageCannotEncodeIsNeverFound()
     {
         const QString brokenSurrogate(QChar(0xD800));
         QVERIFY(!CaselessSearch(brokenSurrogate).isFoundIn("?"));

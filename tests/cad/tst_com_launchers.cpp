@@ -1,26 +1,28 @@
-#include "cad/com_launchers.h"
+#include "cad/cad_systems.h"
 #include "launcher_fixture.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
 
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct ComLauncher
 {
-    void (*step)(const StepContext &, const LauncherBoxes &, RunMode);
     Launcher launcher;
-    const char *title;
-    const char *dll;
+    QLatin1String title;
+    const char *library;
 };
 
-const ComLauncher brevant{installBrevantLauncher, Launcher::Brevant, "Configure Brevant",
-                          "Launchers/Brevant/NVX_2017_Brevant.dll"};
-const ComLauncher solidWorks{installSolidWorksLauncher, Launcher::SolidWorks, "SolidWorks",
-                             "Launchers/SolidWorks/NVX_2017_SolidWorks.dll"};
+constexpr ComLauncher brevant{Launcher::Brevant, "Configure Brevant"_L1,
+                              "Launchers/Brevant/NVX_2017_Brevant.dll"};
+constexpr ComLauncher solidWorks{Launcher::SolidWorks, "SolidWorks"_L1,
+                                 "Launchers/SolidWorks/NVX_2017_SolidWorks.dll"};
 
 } // namespace
 
@@ -37,19 +39,19 @@ private slots:
     void anInstallUnregistersAndRegistersTheLibrary_data() { both(); }
     void anInstallUnregistersAndRegistersTheLibrary()
     {
-        QFETCH(const ComLauncher, of);
-        m_fixture->tick(of.launcher);
-        of.step(m_fixture->context(), m_fixture->boxes, RunMode::Install);
-        const QString library = m_fixture->installed(of.dll);
-        QCOMPARE(arguments(), QList<QStringList>({{text("-u"), text("-s"), library}, {text("-s"), library}}));
-        QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 ") + text(of.title)} +
-                                             runLines(text("regsvr32 -u -s ") + library) +
-                                             runLines(text("regsvr32 -s ") + library));
+        QFETCH(const ComLauncher, tested);
+        m_fixture->check(tested.launcher);
+        install(tested, RunMode::Install);
+        const QString library = m_fixture->installed(tested.library);
+        QCOMPARE(arguments(), QList<QStringList>({{u"-u"_s, u"-s"_s, library}, {u"-s"_s, library}}));
+        QCOMPARE(m_fixture->takeLines(), QStringList{u"progress 0 "_s + tested.title} +
+                                             runLines(u"regsvr32 -u -s "_s + library) +
+                                             runLines(u"regsvr32 -s "_s + library));
     }
 
     void aRemovalOnlyUnregistersIt_data()
     {
-        QTest::addColumn<ComLauncher>("of");
+        QTest::addColumn<ComLauncher>("tested");
         QTest::addColumn<RunMode>("mode");
         for (const auto &[name, mode] : removingModes) {
             QTest::addRow("Brevant, %s", name) << brevant << mode;
@@ -59,54 +61,47 @@ private slots:
 
     void aRemovalOnlyUnregistersIt()
     {
-        QFETCH(const ComLauncher, of);
+        QFETCH(const ComLauncher, tested);
         QFETCH(const RunMode, mode);
-        m_fixture->tick(of.launcher);
-        of.step(m_fixture->context(), m_fixture->boxes, mode);
-        const QString library = m_fixture->installed(of.dll);
-        QCOMPARE(arguments(), QList<QStringList>({{text("-u"), text("-s"), library}}));
-        QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 ") + text(of.title)} +
-                                             runLines(text("regsvr32 -u -s ") + library));
+        m_fixture->check(tested.launcher);
+        install(tested, mode);
+        const QString library = m_fixture->installed(tested.library);
+        QCOMPARE(arguments(), QList<QStringList>({{u"-u"_s, u"-s"_s, library}}));
+        QCOMPARE(m_fixture->takeLines(),
+                 QStringList{u"progress 0 "_s + tested.title} + runLines(u"regsvr32 -u -s "_s + library));
     }
 
-    void theSystemsOwnProgramIsRunInTheInstallDir_data() { both(); }
-    void theSystemsOwnProgramIsRunInTheInstallDir()
+    void theSystemsProgramRunsInTheInstallDir_data() { both(); }
+    void theSystemsProgramRunsInTheInstallDir()
     {
-        QFETCH(const ComLauncher, of);
-        m_fixture->tick(of.launcher);
-        of.step(m_fixture->context(), m_fixture->boxes, RunMode::Uninstall);
+        QFETCH(const ComLauncher, tested);
+        m_fixture->check(tested.launcher);
+        install(tested, RunMode::Uninstall);
         const Nvx::Util::ProgramCall call = m_fixture->machine.calls.first();
         QVERIFY(call.place == Nvx::Util::ProgramCall::Place::SystemFolder);
-        QCOMPARE(call.program, text("regsvr32"));
+        QCOMPARE(call.program, u"regsvr32"_s);
         QCOMPARE(call.workFolder, m_fixture->state.installDir);
         QCOMPARE(call.timeoutMs, 30000);
     }
 
-    void withoutItsBoxNothingHappens_data() { both(); }
-    void withoutItsBoxNothingHappens()
+    void aFailedRegistrationIsOnlyLogged()
     {
-        QFETCH(const ComLauncher, of);
-        for (int launcher = 0; launcher < launcherCount; ++launcher)
-            m_fixture->boxes.setFound(static_cast<Launcher>(launcher), true);
-        m_fixture->boxes.setFound(of.launcher, false);
-        of.step(m_fixture->context(), m_fixture->boxes, RunMode::Install);
-        QVERIFY(m_fixture->machine.calls.isEmpty());
-        QVERIFY(m_fixture->takeLines().isEmpty());
-    }
-
-    void aRefusalIsOnlyLogged()
-    {
-        m_fixture->tick(Launcher::Brevant);
+        m_fixture->check(Launcher::Brevant);
         m_fixture->machine.programResult = {Nvx::Util::ProgramResult::Outcome::Exited, 3, "no such entry"};
-        installBrevantLauncher(m_fixture->context(), m_fixture->boxes, RunMode::Install);
+        install(brevant, RunMode::Install);
         QCOMPARE(m_fixture->machine.calls.size(), 2);
-        QCOMPARE(m_fixture->takeLines().filter(text("3 Output:")).size(), 2);
+        QCOMPARE(m_fixture->takeLines().filter(u"3 Output:"_s).size(), 2);
     }
 
 private:
+    void install(const ComLauncher &tested, RunMode mode)
+    {
+        cadSystem(tested.launcher).install(m_fixture->step(mode));
+    }
+
     static void both()
     {
-        QTest::addColumn<ComLauncher>("of");
+        QTest::addColumn<ComLauncher>("tested");
         QTest::newRow("Brevant") << brevant;
         QTest::newRow("SolidWorks") << solidWorks;
     }
@@ -121,8 +116,7 @@ private:
 
     QStringList runLines(const QString &command) const
     {
-        return {text("0 Command:") + command, text("0 WorkDir:") + m_fixture->state.installDir,
-                text("0 Output:")};
+        return {u"0 Command:"_s + command, u"0 WorkDir:"_s + m_fixture->state.installDir, u"0 Output:"_s};
     }
 
     std::unique_ptr<LauncherFixture> m_fixture;

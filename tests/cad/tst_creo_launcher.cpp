@@ -1,14 +1,17 @@
-#include "cad/creo/creo_launcher.h"
+#include "cad/creo/creo.h"
 #include "cad/creo/creo_names.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
 #include "support/recorded_diagnostics.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
+
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -25,23 +28,23 @@ private slots:
     void init()
     {
         m_fixture = std::make_unique<LauncherFixture>();
-        m_fixture->tick(Launcher::Creo);
+        m_fixture->check(Launcher::Creo);
     }
     void cleanup() { m_fixture.reset(); }
 
-    void oldCopiesAreSweptInEveryMode_data()
+    void oldCopiesAreRemovedInEveryMode_data()
     {
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("word");
-        QTest::newRow("install") << int(RunMode::Install) << text("Install");
-        QTest::newRow("uninstall") << int(RunMode::Uninstall) << text("UnInstall");
+        QTest::newRow("install") << int(RunMode::Install) << u"Install"_s;
+        QTest::newRow("uninstall") << int(RunMode::Uninstall) << u"UnInstall"_s;
     }
 
-    void oldCopiesAreSweptInEveryMode()
+    void oldCopiesAreRemovedInEveryMode()
     {
         QFETCH(const int, mode);
         QFETCH(const QString, word);
-        m_fixture->boxes.setFound(Launcher::Creo, false);
+        m_fixture->checkBoxes.setFound(Launcher::Creo, false);
         writeFile(m_fixture->installed("NVX_2017_Creo10.dll"));
         writeFile(m_fixture->installed("NVX_2017_Creo30.dll"));
         QFile::setPermissions(m_fixture->installed("NVX_2017_Creo30.dll"), QFile::ReadOwner);
@@ -56,15 +59,15 @@ private slots:
         QCOMPARE(readFile(protk(2)), foreign);
     }
 
-    void anInstallEntersTheLauncherBeforeTheOthers()
+    void anInstallAddsTheEntryBeforeTheOthers()
     {
         find(2, foreign);
         step(RunMode::Install);
         QCOMPARE(readFile(protk(2)), entry(2) + foreign);
         QCOMPARE(m_fixture->takeLines(),
-                 sweepLines(text("Install")) +
-                     QStringList({text("progress 0 ProE Creo"), text("0 Removing Ostrade from:") + protk(2),
-                                  text("0 Writing ") + protk(2), text("0 Writing ") + protk(2)}));
+                 sweepLines(u"Install"_s) +
+                     QStringList({u"progress 0 ProE Creo"_s, u"0 Removing Ostrade from:"_s + protk(2),
+                                  u"0 Writing "_s + protk(2), u"0 Writing "_s + protk(2)}));
     }
 
     void everyReleaseIsClearedBeforeAnyIsWritten()
@@ -73,63 +76,60 @@ private slots:
             find(release, foreign);
         step(RunMode::Install);
         const QStringList lines = m_fixture->takeLines().mid(4);
-        QCOMPARE(lines,
-                 QStringList({text("0 Removing Ostrade from:") + protk(1), text("0 Writing ") + protk(1),
-                              text("0 Removing Ostrade from:") + protk(2), text("0 Writing ") + protk(2),
-                              text("0 Removing Ostrade from:") + protk(3), text("0 Writing ") + protk(3),
-                              text("0 Writing ") + protk(1), text("0 Writing ") + protk(2),
-                              text("0 Writing ") + protk(3)}));
+        QCOMPARE(lines, QStringList({u"0 Removing Ostrade from:"_s + protk(1), u"0 Writing "_s + protk(1),
+                                     u"0 Removing Ostrade from:"_s + protk(2), u"0 Writing "_s + protk(2),
+                                     u"0 Removing Ostrade from:"_s + protk(3), u"0 Writing "_s + protk(3),
+                                     u"0 Writing "_s + protk(1), u"0 Writing "_s + protk(2),
+                                     u"0 Writing "_s + protk(3)}));
         for (int release = 1; release <= 3; ++release)
             QCOMPARE(readFile(protk(release)), entry(release) + foreign);
     }
 
-    void creo3AloneHasItsFileWithoutAShipCode()
+    void thePathForCreo3HasNoShipCode()
     {
         find(3, foreign);
-        QVERIFY(protk(3).endsWith(QDir::toNativeSeparators(text("Common Files/text/protk.dat"))));
+        QVERIFY(protk(3).endsWith(QDir::toNativeSeparators(u"Common Files/text/protk.dat"_s)));
         step(RunMode::Install);
         QVERIFY(readFile(protk(3)).contains("Creo3\\NVX_2017_Creo30.dll\r\n"));
     }
 
-    void aMissingFileIsMadeOnInstall()
+    void anInstallCreatesAMissingFile()
     {
         find(2, foreign);
         QVERIFY(QFile::remove(protk(2)));
         step(RunMode::Install);
         QCOMPARE(readFile(protk(2)), entry(2));
         QCOMPARE(m_fixture->takeLines().mid(3),
-                 QStringList({text("progress 0 ProE Creo"), text("0 Creating  ") + protk(2),
-                              text("0 Writing ") + protk(2)}));
+                 QStringList(
+                     {u"progress 0 ProE Creo"_s, u"0 Creating  "_s + protk(2), u"0 Writing "_s + protk(2)}));
     }
 
-    void aMissingFileIsNotMadeOnRemoval()
+    void aRemovalCreatesNoFile()
     {
         find(2, foreign);
         QVERIFY(QFile::remove(protk(2)));
         step(RunMode::Uninstall);
         QVERIFY(!QFile::exists(protk(2)));
-        QCOMPARE(m_fixture->takeLines().mid(3), QStringList{text("progress 0 ProE Creo")});
+        QCOMPARE(m_fixture->takeLines().mid(3), QStringList{u"progress 0 ProE Creo"_s});
     }
 
-    void aMissingFolderIsPassedOver()
+    void aMissingFolderIsSkipped()
     {
-        m_fixture->packages.creoInstallDirs[2] = m_fixture->test.path(text("nowhere/Parametric"));
-        m_fixture->packages.creoShipCodes[2] = text("M010");
+        m_fixture->packages.creoInstalls = {{2, m_fixture->test.path(u"nowhere/Parametric"_s), u"M010"_s}};
         const RecordedDiagnostics diagnostics;
         step(RunMode::Install);
-        QVERIFY(!QFile::exists(m_fixture->test.path(text("nowhere"))));
+        QVERIFY(!QFile::exists(m_fixture->test.path(u"nowhere"_s)));
         QCOMPARE(m_fixture->takeLines().mid(3),
-                 QStringList({text("progress 0 ProE Creo"), text("0 Creating  ") + protk(2),
-                              text("0 Writing ") + protk(2)}));
-        QCOMPARE(diagnostics.list(), QStringList{text("Unable to write ") + protk(2)});
+                 QStringList(
+                     {u"progress 0 ProE Creo"_s, u"0 Creating  "_s + protk(2), u"0 Writing "_s + protk(2)}));
+        QCOMPARE(diagnostics.list(), QStringList{u"Unable to write "_s + protk(2)});
     }
 
-    void aReleaseThatWasNotFoundIsNotLookedFor()
+    void aReleaseThatWasNotFoundIsSkipped()
     {
-        m_fixture->packages.creoShipCodes[2] = text("M010");
+        m_fixture->packages.creoInstalls = {{2, QString(), u"M010"_s}};
         step(RunMode::Install);
-        QCOMPARE(m_fixture->takeLines(),
-                 sweepLines(text("Install")) + QStringList{text("progress 0 ProE Creo")});
+        QCOMPARE(m_fixture->takeLines(), sweepLines(u"Install"_s) + QStringList{u"progress 0 ProE Creo"_s});
     }
 
     void aSecondInstallChangesNothing()
@@ -142,14 +142,14 @@ private slots:
 
     void anEarlierInstallFromAnotherFolderIsReplaced()
     {
-        find(2, foreign + ansi(creoEntry(text("D:\\old"), text("D:\\old"), 2)) + foreign);
+        find(2, foreign + ansi(creoEntry(u"D:\\old"_s, u"D:\\old"_s, 2)) + foreign);
         step(RunMode::Install);
         QCOMPARE(readFile(protk(2)), entry(2) + foreign + foreign);
     }
 
-    void aRemovalTakesTheEntryAndLeavesTheOthers_data() { addRemovingModes(); }
+    void aRemovalDropsTheEntryAndPreservesTheOthers_data() { addRemovingModes(); }
 
-    void aRemovalTakesTheEntryAndLeavesTheOthers()
+    void aRemovalDropsTheEntryAndPreservesTheOthers()
     {
         QFETCH(const RunMode, mode);
         find(2, foreign);
@@ -158,8 +158,8 @@ private slots:
         step(mode);
         QCOMPARE(readFile(protk(2)), foreign);
         QCOMPARE(m_fixture->takeLines().mid(3),
-                 QStringList({text("progress 0 ProE Creo"), text("0 Removing Ostrade from:") + protk(2),
-                              text("0 Writing ") + protk(2)}));
+                 QStringList({u"progress 0 ProE Creo"_s, u"0 Removing Ostrade from:"_s + protk(2),
+                              u"0 Writing "_s + protk(2)}));
     }
 
     void aMarkerAtTheVeryStartCountsAsMissing()
@@ -169,38 +169,38 @@ private slots:
         QCOMPARE(readFile(protk(2)), entry(2) + "$OSTRADE2017\r\n" + foreign);
     }
 
-    void aMarkerFurtherInKeepsTheFileAsItIs()
+    void aMarkerInsideTheFilePreventsAnyChange()
     {
         const QByteArray contents = foreign + "text_dir $OSTRADE2017\\Text\r\nend\r\n";
         find(2, contents);
         step(RunMode::Install);
         QCOMPARE(readFile(protk(2)), contents);
-        QCOMPARE(m_fixture->takeLines().last(), text("0 Ostrade 2017 already exists, do nothing"));
+        QCOMPARE(m_fixture->takeLines().last(), u"0 Ostrade 2017 already exists, do nothing"_s);
     }
 
-    void anInstallFolderWithAnUmlautIsWrittenInTheCodePage()
+    void anInstallDirWithAnUmlautIsWrittenInTheCodePage()
     {
-        m_fixture->state.installDir = text("C:\\Größe");
+        m_fixture->state.installDir = u"C:\\Größe"_s;
         find(2, foreign);
         step(RunMode::Install);
-        QVERIFY(readFile(protk(2)).contains("text_dir " + ansi(text("C:\\Größe")) + "\\Text\r\n"));
+        QVERIFY(readFile(protk(2)).contains("text_dir " + ansi(u"C:\\Größe"_s) + "\\Text\r\n"));
         step(RunMode::Uninstall);
         QCOMPARE(readFile(protk(2)), foreign);
     }
 
-    void anInstallFolderThatTheCodePageCannotWriteIsLogged()
+    void anInstallDirThatTheCodePageCannotEncodeIsLogged()
     {
-        m_fixture->state.installDir = text("C:\\") + QChar(0xD800);
+        m_fixture->state.installDir = u"C:\\"_s + QChar(0xD800);
         find(2, foreign + entry(2));
         step(RunMode::Install);
         QCOMPARE(readFile(protk(2)), foreign);
         QCOMPARE(m_fixture->takeLines().last(),
-                 text("1 The system's code page cannot write the name of the install folder, the launcher is "
-                      "not entered into ") +
+                 u"1 The system's code page cannot write the name of the install folder, the launcher is "
+                 "not entered into "_s +
                      protk(2));
     }
 
-    void aFolderInTheFilesPlaceIsPassedOver()
+    void aFolderWithTheNameOfTheFileIsSkipped()
     {
         find(2, foreign);
         QVERIFY(QFile::remove(protk(2)));
@@ -209,51 +209,46 @@ private slots:
         step(RunMode::Install);
         QVERIFY(QFileInfo(protk(2)).isDir());
         QCOMPARE(m_fixture->takeLines().mid(3),
-                 QStringList({text("progress 0 ProE Creo"), text("0 Removing Ostrade from:") + protk(2)}));
-        QCOMPARE(diagnostics.list(), QStringList(2, text("Unable to read ") + protk(2)));
+                 QStringList({u"progress 0 ProE Creo"_s, u"0 Removing Ostrade from:"_s + protk(2)}));
+        QCOMPARE(diagnostics.list(), QStringList(2, u"Unable to read "_s + protk(2)));
     }
 
-    void whatACrashHasLeftGoes()
+    void leftoversOfACrashAreRemoved()
     {
         find(2, foreign);
-        writeFile(protk(2) + text(".nvxpart"), "half");
+        writeFile(protk(2) + u".nvxpart"_s, "half");
         step(RunMode::Uninstall);
-        QCOMPARE(namesIn(QFileInfo(protk(2)).path()), QStringList{text("protk.dat")});
-        QVERIFY(QFile::rename(protk(2), protk(2) + text(".nvxpart"))); // it was to be made
+        QCOMPARE(namesIn(QFileInfo(protk(2)).path()), QStringList{u"protk.dat"_s});
+        QVERIFY(
+            QFile::rename(protk(2), protk(2) + u".nvxpart"_s)); // as after a crash while the file was created
         step(RunMode::Uninstall);
         QCOMPARE(namesIn(QFileInfo(protk(2)).path()), QStringList());
     }
 
-    void noOtherFileIsLeftBesideIt()
+    void noOtherFileIsLeftNextToIt()
     {
         find(2, foreign);
         step(RunMode::Install);
         step(RunMode::Uninstall);
         QCOMPARE(QFileInfo(protk(2)).dir().entryList(QDir::Files | QDir::Hidden),
-                 QStringList{text("protk.dat")});
+                 QStringList{u"protk.dat"_s});
     }
 
 private:
-    void step(RunMode mode)
-    {
-        installCreoLauncher(m_fixture->context(), m_fixture->packages, m_fixture->boxes, mode);
-    }
+    void step(RunMode mode) { installCreoLauncher(m_fixture->step(mode)); }
 
-    // Lets a release of Creo be found, with this protk.dat.
+    // Adds a release of Creo with this protk.dat to those found.
     void find(int release, const QByteArray &contents)
     {
-        const auto place = static_cast<size_t>(release);
-        m_fixture->packages.creoInstallDirs.at(place) =
-            m_fixture->test.path(text("Creo %1.0/Parametric").arg(release));
-        m_fixture->packages.creoShipCodes.at(place) = text("M010");
+        m_fixture->packages.creoInstalls.append(
+            {release, m_fixture->test.path(u"Creo %1.0/Parametric"_s.arg(release)), u"M010"_s});
         writeFile(protk(release), contents);
     }
 
     QString protk(int release) const
     {
-        const auto place = static_cast<size_t>(release);
-        return protkPath(m_fixture->packages.creoInstallDirs.at(place),
-                         m_fixture->packages.creoShipCodes.at(place), release);
+        const CreoInstall install = m_fixture->packages.creoInstall(release);
+        return protkPath(install.installDir, install.shipCode, release);
     }
 
     static QByteArray ansi(const QString &string) { return Nvx::Util::toAnsi(string).value(); }
@@ -267,7 +262,7 @@ private:
     {
         QStringList lines;
         for (const char *name : {"NVX_2017_Creo10.dll", "NVX_2017_Creo20.dll", "NVX_2017_Creo30.dll"})
-            lines << text("0 %1 Creo Remove:%2").arg(word, m_fixture->installed(name));
+            lines << u"0 %1 Creo Remove:%2"_s.arg(word, m_fixture->installed(name));
         return lines;
     }
 

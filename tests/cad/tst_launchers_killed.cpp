@@ -1,9 +1,9 @@
-// The steps that rewrite files of CAD systems, killed while they do so.
+// Steps that are killed while they rewrite files of CAD systems.
 
-#include "cad/creo/creo_launcher.h"
+#include "cad/creo/creo.h"
 #include "cad/creo/creo_names.h"
+#include "cad/nx/nx.h"
 #include "cad/nx/nx_custom_dirs.h"
-#include "cad/nx/nx_launcher.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
 
@@ -13,24 +13,27 @@
 #include <QProcess>
 #include <QTest>
 
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int kills = 25;
-const QString creoOption = QStringLiteral("--creo");
-const QString nxOption = QStringLiteral("--nx");
-const QString installDir = QStringLiteral("C:\\NVX");
-const QString key = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\11.0");
+const QString creoOption = u"--creo"_s;
+const QString nxOption = u"--nx"_s;
+const QString installDir = u"C:\\NVX"_s;
+const QString key = u"HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\11.0"_s;
 
-// The CAD systems of a folder that are at work in this test.
+// One folder that serves as the install dir of both CAD systems.
 struct Places
 {
     explicit Places(const QString &folder)
     {
-        packages.creoInstallDirs[3] = folder;
-        packages.nxInstallDirs[7] = folder;
-        packages.nxKeys[7] = key;
+        packages.creoInstalls = {{3, folder, QString()}};
+        packages.nxInstalls = {{7, folder, key}};
         protk = protkPath(folder, QString(), 3);
-        menu = QDir(folder).filePath(QStringLiteral("UGII/MENUS/custom_dirs.dat"));
+        menu = QDir(folder).filePath(u"UGII/MENUS/custom_dirs.dat"_s);
     }
 
     CadPackages packages;
@@ -38,7 +41,7 @@ struct Places
     QString menu;
 };
 
-/// Installs and removes again and again until somebody kills this program.
+/// Installs and removes in a loop until this program is killed.
 int configureForever(const QString &option, const QString &folder)
 {
     const Places places(folder);
@@ -47,22 +50,24 @@ int configureForever(const QString &option, const QString &folder)
     RecordingReporter reporter;
     RunState state;
     state.installDir = installDir;
-    UnshownLauncherBoxes boxes;
-    boxes.setFound(Launcher::Creo, true);
-    boxes.setFound(Launcher::Nx, true);
+    UnshownCheckBoxes checkBoxes;
+    const SharedFolders folders;
+    checkBoxes.setFound(Launcher::Creo, true);
+    checkBoxes.setFound(Launcher::Nx, true);
     for (;;) {
         for (const RunMode mode : {RunMode::Install, RunMode::Uninstall}) {
+            const LauncherStep step{{machine, reporter, state}, places.packages, checkBoxes, folders, mode};
             if (option == creoOption)
-                installCreoLauncher({machine, reporter, state}, places.packages, boxes, mode);
+                installCreoLauncher(step);
             else
-                installNXLauncher({machine, reporter, state}, places.packages, boxes, mode);
+                installNxLauncher(step);
             reporter.lines.clear();
         }
     }
 }
 
-// Starts such a program, kills it a while after it has rewritten the file, another one each time, and does so
-// often.
+// Starts this program with the option, kills it some time after it has rewritten the file, and checks what is
+// left. The time is different in each round.
 template<typename Check>
 void killOften(const QString &option, const QString &folder, const QString &file, Check check)
 {
@@ -104,7 +109,7 @@ private slots:
         });
     }
 
-    void customDirsIsTheOldFileOrTheNewAndItsBackupTheFirst()
+    void customDirsIsTheOldFileOrTheNewAndItsBackupTheOriginal()
     {
         const TestFolder folder;
         const Places places(folder.path());
@@ -118,7 +123,7 @@ private slots:
             const QByteArray emptyLines = withoutCustomDirsLines(rest, installDir);
             QCOMPARE(emptyLines, QByteArray("\r\n").repeated(static_cast<int>(emptyLines.size()) / 2));
             QVERIFY(rest == emptyLines || rest == emptyLines.chopped(2) + line.toLatin1());
-            const QString backup = places.menu + QStringLiteral(".bak");
+            const QString backup = places.menu + u".bak"_s;
             QVERIFY(!QFile::exists(backup) || readFile(backup) == foreign);
         });
     }

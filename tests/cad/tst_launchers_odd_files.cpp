@@ -1,7 +1,7 @@
-// Files of CAD systems that cannot be read whole, and add-ins on a disk that is full.
+// Files of CAD systems that cannot be read completely, and add-ins on a full disk.
 
 #include "cad/foreign_file.h"
-#include "cad/tamsel/tamsel_launcher.h"
+#include "cad/tamsel/tamsel.h"
 #include "launcher_fixture.h"
 #include "support/full_disk.h"
 #include "support/odd_files.h"
@@ -10,44 +10,39 @@
 
 #include <QTest>
 
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 class tst_launchers_odd_files : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void whatCannotBeReadWholeIsNotTakenForTheFile_data()
+    void aFileThatCannotBeReadCompletelyIsNotRead_data()
     {
         QTest::addColumn<QString>("path");
-        QTest::newRow("it breaks when it is read") << breakingFile();
-        QTest::newRow("it is shorter than it says") << boastingFile();
+        QTest::newRow("reading fails") << breakingFile();
+        QTest::newRow("shorter than its reported size") << boastingFile();
     }
 
-    void whatCannotBeReadWholeIsNotTakenForTheFile()
+    void aFileThatCannotBeReadCompletelyIsNotRead()
     {
         QFETCH(const QString, path);
         QVERIFY(QFile::exists(path));
         const RecordedDiagnostics diagnostics;
         QVERIFY(!readForeignFile(path));
-        QCOMPARE(diagnostics.list(), QStringList(text("Unable to read ") + path));
+        QCOMPARE(diagnostics.list(), QStringList(u"Unable to read "_s + path));
     }
 
-    void aManifestThatIsNotWholeIsNotInTheLog_data()
+    void anIncompleteManifestIsADiagnosticWarning_data()
     {
         QTest::addColumn<qint64>("freeBytes");
-        QTest::newRow("nothing is free") << qint64(0);
-        QTest::newRow("room for its beginning") << qint64(20);
+        QTest::newRow("no free space") << qint64(0);
+        QTest::newRow("space for its beginning") << qint64(20);
     }
 
-    void aManifestThatIsNotWholeIsNotInTheLog()
+    void anIncompleteManifestIsADiagnosticWarning()
     {
         QFETCH(const qint64, freeBytes);
         LauncherFixture fixture;
@@ -55,11 +50,11 @@ private slots:
         const RecordedDiagnostics diagnostics;
         {
             const FullDisk disk(freeBytes);
-            installTamselAddin(fixture.context(), fixture.folders, RunMode::Install, 2017);
+            installTamselAddin(fixture.step(RunMode::Install), 2017);
         }
-        QVERIFY(fixture.takeLines().filter(QRegularExpression(text("^[^0]"))).isEmpty());
+        QVERIFY(fixture.takeLines().filter(QRegularExpression(u"^[^0]"_s)).isEmpty());
         QCOMPARE(diagnostics.list().size(), 1);
-        QVERIFY2(diagnostics.list().first().startsWith(text("Unable to write ") +
+        QVERIFY2(diagnostics.list().first().startsWith(u"Unable to write "_s +
                                                        fixture.installed("Launchers/Tamsel/")),
                  qPrintable(diagnostics.list().first()));
     }

@@ -2,15 +2,17 @@
 #include "nvx_util/code_page.h"
 #include "random_bytes.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QElapsedTimer>
 #include <QTest>
 
+using namespace Nvx::Cad;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString installDir = QStringLiteral("C:\\Prog\\NVX");
-const QString key = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\9.5");
+const QString installDir = u"C:\\Prog\\NVX"_s;
+const QString key = u"HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\9.5"_s;
 
 QByteArray ourLine()
 {
@@ -22,8 +24,8 @@ QByteArray installed(const QByteArray &contents)
     return holdsCustomDirsLine(contents, customDirsLine(installDir, key)) ? contents : contents + ourLine();
 }
 
-// An install adds an empty line that no removal knows as ours. It stays, unless the last line of the file had
-// no end and named the install dir, so that the two make one line.
+// An install adds an empty line, which a removal does not recognise as ours. It is left over, unless the last
+// line of the file had no end and contained the install dir: then the two are one line, which is removed.
 QByteArray expectedAfterBoth(const QByteArray &contents)
 {
     const QByteArray removed = withoutCustomDirsLines(contents, installDir);
@@ -36,16 +38,16 @@ QByteArray expectedAfterBoth(const QByteArray &contents)
 
 QByteArray expectedRemoval(const QByteArray &contents)
 {
-    QByteArray kept;
+    QByteArray preserved;
     QByteArray rest = contents;
     while (!rest.isEmpty()) {
         const qsizetype newLine = rest.indexOf('\n');
         const QByteArray line = newLine < 0 ? rest : rest.left(newLine + 1);
         rest.remove(0, line.size());
         if (!line.toLower().contains("c:\\prog\\nvx"))
-            kept += line;
+            preserved += line;
     }
-    return kept;
+    return preserved;
 }
 
 const QList<QByteArray> pieces{
@@ -81,17 +83,17 @@ private slots:
     {
         QTest::addColumn<QString>("version");
         QTest::addColumn<QString>("subFolder");
-        QTest::newRow("8.0") << text("8.0") << text("\\NX8");
-        QTest::newRow("8.5") << text("8.5") << text("\\NX8");
-        QTest::newRow("8.5.0") << text("8.5.0") << text("\\NX8");
-        QTest::newRow("9.0") << text("9.0") << text("\\NX9");
-        QTest::newRow("9.5") << text("9.5") << text("\\NX9");
-        QTest::newRow("9.5.0") << text("9.5.0") << text("\\NX9");
-        QTest::newRow("10.0") << text("10.0") << text("\\NX10");
-        QTest::newRow("10.5") << text("10.5") << text("\\NX10");
-        QTest::newRow("10.5.0") << text("10.5.0") << text("\\NX10");
-        QTest::newRow("11.0") << text("11.0") << QString();
-        QTest::newRow("a later one overrides an earlier") << text("10.0\\8.5") << text("\\NX10");
+        QTest::newRow("8.0") << u"8.0"_s << u"\\NX8"_s;
+        QTest::newRow("8.5") << u"8.5"_s << u"\\NX8"_s;
+        QTest::newRow("8.5.0") << u"8.5.0"_s << u"\\NX8"_s;
+        QTest::newRow("9.0") << u"9.0"_s << u"\\NX9"_s;
+        QTest::newRow("9.5") << u"9.5"_s << u"\\NX9"_s;
+        QTest::newRow("9.5.0") << u"9.5.0"_s << u"\\NX9"_s;
+        QTest::newRow("10.0") << u"10.0"_s << u"\\NX10"_s;
+        QTest::newRow("10.5") << u"10.5"_s << u"\\NX10"_s;
+        QTest::newRow("10.5.0") << u"10.5.0"_s << u"\\NX10"_s;
+        QTest::newRow("11.0") << u"11.0"_s << QString();
+        QTest::newRow("a later one overrides an earlier") << u"10.0\\8.5"_s << u"\\NX10"_s;
         QTest::newRow("none") << QString() << QString();
     }
 
@@ -99,61 +101,59 @@ private slots:
     {
         QFETCH(const QString, version);
         QFETCH(const QString, subFolder);
-        const QString registryKey =
-            text("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\") + version;
+        const QString registryKey = u"HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\"_s + version;
         QCOMPARE(nxSubFolder(registryKey), subFolder);
         QCOMPARE(customDirsLine(installDir, registryKey),
-                 text("\r\nC:\\Prog\\NVX\\Launchers\\UGNX") + subFolder + text("\r\n"));
+                 u"\r\nC:\\Prog\\NVX\\Launchers\\UGNX"_s + subFolder + u"\r\n"_s);
     }
 
-    void theLineIsFoundWithItsEnds_data()
+    void theLineIsFoundOnlyWithItsEnds_data()
     {
         QTest::addColumn<QByteArray>("contents");
         QTest::addColumn<bool>("found");
         QTest::newRow("an empty file") << QByteArray() << false;
         QTest::newRow("the line alone") << ourLine() << true;
-        QTest::newRow("behind others") << "x\r\n" + ourLine() + "y" << true;
+        QTest::newRow("after others") << "x\r\n" + ourLine() + "y" << true;
         QTest::newRow("in another case") << "x" + ourLine().toLower() << true;
         QTest::newRow("the first line of the file has no end before it") << ourLine().mid(2) << false;
         QTest::newRow("without an end") << ourLine().chopped(2) << false;
-        QTest::newRow("with ends of Unix") << ourLine().replace('\r', QByteArray()) << false;
+        QTest::newRow("with the line ends of Unix") << ourLine().replace('\r', QByteArray()) << false;
         QTest::newRow("of another version") << ourLine().replace("NX9", "NX10") << false;
     }
 
-    void theLineIsFoundWithItsEnds()
+    void theLineIsFoundOnlyWithItsEnds()
     {
         QFETCH(const QByteArray, contents);
         QFETCH(const bool, found);
         QCOMPARE(holdsCustomDirsLine(contents, customDirsLine(installDir, key)), found);
     }
 
-    void removalTakesTheLinesThatNameTheInstallDir_data()
+    void removalDropsTheLinesThatContainTheInstallDir_data()
     {
         QTest::addColumn<QByteArray>("contents");
         QTest::addColumn<QByteArray>("left");
         QTest::newRow("an empty file") << QByteArray() << QByteArray();
-        QTest::newRow("our line: the empty one before it stays") << ourLine() << QByteArray("\r\n");
+        QTest::newRow("our line: the empty line before it is preserved") << ourLine() << QByteArray("\r\n");
         QTest::newRow("between others") << "a\r\n" + ourLine() + "b\r\n" << QByteArray("a\r\n\r\nb\r\n");
         QTest::newRow("another line below the install dir in another case")
             << QByteArray("a\r\nc:\\prog\\nvx\\other\r\nb\r\n") << QByteArray("a\r\nb\r\n");
-        QTest::newRow("a folder whose name goes on")
-            << QByteArray("C:\\Prog\\NVX2\r\nb\n") << QByteArray("b\n");
-        QTest::newRow("a folder above it") << QByteArray("C:\\Prog\r\n") << QByteArray("C:\\Prog\r\n");
+        QTest::newRow("a longer folder name") << QByteArray("C:\\Prog\\NVX2\r\nb\n") << QByteArray("b\n");
+        QTest::newRow("its parent folder") << QByteArray("C:\\Prog\r\n") << QByteArray("C:\\Prog\r\n");
         QTest::newRow("within a line") << QByteArray("# C:\\Prog\\NVX\\x is ours\nb") << QByteArray("b");
         QTest::newRow("the last line without an end")
             << QByteArray("a\r\nC:\\Prog\\NVX") << QByteArray("a\r\n");
-        QTest::newRow("no line end at all") << QByteArray("a") << QByteArray("a");
+        QTest::newRow("no line end") << QByteArray("a") << QByteArray("a");
         QTest::newRow("only line ends") << QByteArray("\r\n\n\r\r\n") << QByteArray("\r\n\n\r\r\n");
     }
 
-    void removalTakesTheLinesThatNameTheInstallDir()
+    void removalDropsTheLinesThatContainTheInstallDir()
     {
         QFETCH(const QByteArray, contents);
         QFETCH(const QByteArray, left);
         QCOMPARE(withoutCustomDirsLines(contents, installDir), left);
     }
 
-    void linesOfOthersPassByteForByte_data()
+    void linesOfOthersArePreservedByteForByte_data()
     {
         QTest::addColumn<QByteArray>("line");
         QTest::newRow("UTF-8") << QByteArray("C:\\Gr\xc3\xb6\xc3\x9f"
@@ -161,11 +161,11 @@ private slots:
         QTest::newRow("Latin-1") << QByteArray("C:\\Gr\xf6\xdf"
                                                "e\r\n");
         QTest::newRow("Shift-JIS with a backslash inside") << QByteArray("C:\\\x95\x5c\x8e\xa6\r\n");
-        QTest::newRow("bytes that are no text") << QByteArray("\xff\xfe\x80\xc0\x00\x01\x1a\x7f\n", 9);
+        QTest::newRow("bytes that are not valid text") << QByteArray("\xff\xfe\x80\xc0\x00\x01\x1a\x7f\n", 9);
         QTest::newRow("no line end") << QByteArray("C:\\\xe4");
     }
 
-    void linesOfOthersPassByteForByte()
+    void linesOfOthersArePreservedByteForByte()
     {
         QFETCH(const QByteArray, line);
         QCOMPARE(withoutCustomDirsLines(line, installDir), line);
@@ -175,17 +175,17 @@ private slots:
 
     void anInstallDirWithAnUmlautIsFoundInTheCodePage()
     {
-        const QString folder = text("C:\\Größe");
+        const QString folder = u"C:\\Größe"_s;
         const QByteArray line = Nvx::Util::toAnsi(customDirsLine(folder, key)).value();
-        QVERIFY(holdsCustomDirsLine("a" + line, customDirsLine(text("C:\\GRÖße"), key)));
-        QCOMPARE(withoutCustomDirsLines("a\r\n" + line.mid(2), text("c:\\grÖSSe")), "a\r\n" + line.mid(2));
-        QCOMPARE(withoutCustomDirsLines("a\r\n" + line.mid(2), text("c:\\grÖße")), QByteArray("a\r\n"));
+        QVERIFY(holdsCustomDirsLine("a" + line, customDirsLine(u"C:\\GRÖße"_s, key)));
+        QCOMPARE(withoutCustomDirsLines("a\r\n" + line.mid(2), u"c:\\grÖSSe"_s), "a\r\n" + line.mid(2));
+        QCOMPARE(withoutCustomDirsLines("a\r\n" + line.mid(2), u"c:\\grÖße"_s), QByteArray("a\r\n"));
     }
 
-    void anInstallDirThatTheCodePageCannotWriteIsInNoLine()
+    void anInstallDirThatTheCodePageCannotEncodeIsInNoLine()
     {
         const QByteArray contents("a\r\nC:\\?\r\nC:\\\xef\xbf\xbd\r\n");
-        QCOMPARE(withoutCustomDirsLines(contents, text("C:\\") + QChar(0xD800)), contents);
+        QCOMPARE(withoutCustomDirsLines(contents, u"C:\\"_s + QChar(0xD800)), contents);
     }
 
     void forAnyBytes_data()
@@ -210,7 +210,7 @@ private slots:
         }
     }
 
-    void fiftyMegabytesAreDoneWithinAMinute()
+    void fiftyMegabytesTakeLessThanAMinute()
     {
         const QByteArray line("C:\\Siemens\\addins\r\n");
         const QByteArray contents = line.repeated(50 * 1024 * 1024 / static_cast<int>(line.size()));

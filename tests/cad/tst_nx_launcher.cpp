@@ -1,21 +1,25 @@
+#include "cad/nx/nx.h"
 #include "cad/nx/nx_custom_dirs.h"
-#include "cad/nx/nx_launcher.h"
+#include "cad/nx/nx_versions.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
 #include "support/recorded_diagnostics.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
 
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
 using Nvx::Util::joinPath;
 
 namespace {
 
-// The places of the versions among those that the search looks for.
-enum Version : size_t
+// Indexes in nxVersions.
+enum Version : int
 {
     V9_5 = 3,
     V9_5_0 = 4,
@@ -36,39 +40,39 @@ private slots:
     void init()
     {
         m_fixture = std::make_unique<LauncherFixture>();
-        m_fixture->tick(Launcher::Nx);
+        m_fixture->check(Launcher::Nx);
     }
     void cleanup() { m_fixture.reset(); }
 
-    void anInstallAddsTheLineAndKeepsABackup()
+    void anInstallAddsTheLineAndMakesABackup()
     {
         find(V10_0, "NX 10", foreign);
         step(RunMode::Install);
         QCOMPARE(readFile(menu("NX 10")), foreign + line("\\NX10"));
         QCOMPARE(readFile(backup("NX 10")), foreign);
-        QCOMPARE(m_fixture->takeLines(),
-                 QStringList({text("progress 0 UGNX"),
-                              text("0 Copying %1 to %2").arg(menu("NX 10"), backup("NX 10")),
-                              text("0 Checking") + menu("NX 10"), text("0 Creating") + menu("NX 10")}));
+        QCOMPARE(
+            m_fixture->takeLines(),
+            QStringList({u"progress 0 UGNX"_s, u"0 Copying %1 to %2"_s.arg(menu("NX 10"), backup("NX 10")),
+                         u"0 Checking"_s + menu("NX 10"), u"0 Creating"_s + menu("NX 10")}));
     }
 
-    void whatACrashHasLeftGoes_data()
+    void leftoversOfACrashAreRemoved_data()
     {
         QTest::addColumn<RunMode>("mode");
         QTest::newRow("at an install") << RunMode::Install;
         QTest::newRow("at a removal") << RunMode::Uninstall;
     }
 
-    void whatACrashHasLeftGoes()
+    void leftoversOfACrashAreRemoved()
     {
         QFETCH(RunMode, mode);
         find(V10_0, "NX 10", foreign + line("\\NX10"));
         writeFile(backup("NX 10"), foreign);
         for (const QString &file : {menu("NX 10"), backup("NX 10")})
-            writeFile(file + text(".nvxpart"), "half");
+            writeFile(file + u".nvxpart"_s, "half");
         step(mode);
         QCOMPARE(namesIn(QFileInfo(menu("NX 10")).path()),
-                 QStringList({text("custom_dirs.dat"), text("custom_dirs.dat.bak")}));
+                 QStringList({u"custom_dirs.dat"_s, u"custom_dirs.dat.bak"_s}));
     }
 
     void nx11HasNoSubFolder()
@@ -78,7 +82,7 @@ private slots:
         QCOMPARE(readFile(menu("NX 11")), foreign + line(""));
     }
 
-    void aSecondInstallFindsTheLineAndKeepsTheFirstBackup()
+    void aSecondInstallFindsTheLineAndPreservesTheBackup()
     {
         find(V10_0, "NX 10", foreign);
         step(RunMode::Install);
@@ -87,7 +91,7 @@ private slots:
         QCOMPARE(readFile(menu("NX 10")), foreign + line("\\NX10"));
         QCOMPARE(readFile(backup("NX 10")), foreign);
         QCOMPARE(m_fixture->takeLines(),
-                 QStringList({text("progress 0 UGNX"), text("0 Checking") + menu("NX 10")}));
+                 QStringList({u"progress 0 UGNX"_s, u"0 Checking"_s + menu("NX 10")}));
     }
 
     void oneInstallDirUnderTwoVersionsGetsTheLineOnce()
@@ -96,35 +100,35 @@ private slots:
         find(V9_5_0, "NX 9", foreign);
         step(RunMode::Install);
         QCOMPARE(readFile(menu("NX 9")), foreign + line("\\NX9"));
-        QCOMPARE(m_fixture->takeLines().last(), text("0 Checking") + menu("NX 9"));
+        QCOMPARE(m_fixture->takeLines().last(), u"0 Checking"_s + menu("NX 9"));
     }
 
-    void aMissingFileIsMade()
+    void anInstallCreatesAMissingFile()
     {
         find(V11_0, "NX 11", foreign);
         QVERIFY(QFile::remove(menu("NX 11")));
         step(RunMode::Install);
         QCOMPARE(readFile(menu("NX 11")), line(""));
         QVERIFY(!QFile::exists(backup("NX 11")));
-        QCOMPARE(m_fixture->takeLines(),
-                 QStringList({text("progress 0 UGNX"),
-                              text("0 Copying %1 to %2").arg(menu("NX 11"), backup("NX 11")),
-                              text("0 Creating") + menu("NX 11")}));
+        QCOMPARE(
+            m_fixture->takeLines(),
+            QStringList({u"progress 0 UGNX"_s, u"0 Copying %1 to %2"_s.arg(menu("NX 11"), backup("NX 11")),
+                         u"0 Creating"_s + menu("NX 11")}));
     }
 
-    void aMissingFolderIsPassedOver()
+    void aMissingFolderIsSkipped()
     {
-        m_fixture->packages.nxInstallDirs[V11_0] = m_fixture->test.path(text("nowhere"));
+        m_fixture->packages.nxInstalls = {{V11_0, m_fixture->test.path(u"nowhere"_s), keyOf(V11_0)}};
         const RecordedDiagnostics diagnostics;
         step(RunMode::Install);
-        QVERIFY(!QFile::exists(m_fixture->test.path(text("nowhere"))));
+        QVERIFY(!QFile::exists(m_fixture->test.path(u"nowhere"_s)));
         QCOMPARE(m_fixture->takeLines(),
-                 QStringList({text("progress 0 UGNX"),
-                              text("0 Copying %1 to %2").arg(menu("nowhere"), backup("nowhere")),
-                              text("0 Creating") + menu("nowhere")}));
-        QCOMPARE(diagnostics.list(), QStringList{text("Unable to write ") + menu("nowhere")});
+                 QStringList({u"progress 0 UGNX"_s,
+                              u"0 Copying %1 to %2"_s.arg(menu("nowhere"), backup("nowhere")),
+                              u"0 Creating"_s + menu("nowhere")}));
+        QCOMPARE(diagnostics.list(), QStringList{u"Unable to write "_s + menu("nowhere")});
         step(RunMode::Uninstall);
-        QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 UGNX")});
+        QCOMPARE(m_fixture->takeLines(), QStringList{u"progress 0 UGNX"_s});
     }
 
     void anEmptyFileHasAnEmptyBackup()
@@ -136,9 +140,9 @@ private slots:
         QCOMPARE(readFile(backup("NX 11")), QByteArray());
     }
 
-    void aRemovalTakesTheLinesAndLeavesTheBackup_data() { addRemovingModes(); }
+    void aRemovalDropsTheLineAndPreservesTheBackup_data() { addRemovingModes(); }
 
-    void aRemovalTakesTheLinesAndLeavesTheBackup()
+    void aRemovalDropsTheLineAndPreservesTheBackup()
     {
         QFETCH(const RunMode, mode);
         find(V10_0, "NX 10", foreign);
@@ -146,22 +150,22 @@ private slots:
         step(RunMode::Install);
         m_fixture->takeLines();
         step(mode);
-        QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 UGNX")});
+        QCOMPARE(m_fixture->takeLines(), QStringList{u"progress 0 UGNX"_s});
         for (const char *nx : {"NX 10", "NX 11"}) {
             QCOMPARE(readFile(menu(nx)), foreign + "\r\n");
             QCOMPARE(readFile(backup(nx)), foreign);
         }
     }
 
-    void aRemovalTakesEveryLineBelowTheInstallDirInAnyCase()
+    void aRemovalDropsEveryLineBelowTheInstallDirInAnyCase()
     {
-        m_fixture->state.installDir = text("C:\\Prog\\NVX");
+        m_fixture->state.installDir = u"C:\\Prog\\NVX"_s;
         find(V10_0, "NX 10", foreign + "c:\\prog\\nvx\\other\r\n" + foreign);
         step(RunMode::Uninstall);
         QCOMPARE(readFile(menu("NX 10")), foreign + foreign);
     }
 
-    void aRemovalMakesNoFile()
+    void aRemovalCreatesNoFile()
     {
         find(V10_0, "NX 10", foreign);
         QVERIFY(QFile::remove(menu("NX 10")));
@@ -171,7 +175,7 @@ private slots:
 
     void anInstallDirWithAnUmlautIsWrittenInTheCodePage()
     {
-        m_fixture->state.installDir = text("C:\\Größe");
+        m_fixture->state.installDir = u"C:\\Größe"_s;
         find(V10_0, "NX 10", foreign);
         step(RunMode::Install);
         step(RunMode::Install);
@@ -180,19 +184,19 @@ private slots:
         QCOMPARE(readFile(menu("NX 10")), foreign + "\r\n");
     }
 
-    void anInstallFolderThatTheCodePageCannotWriteIsLogged()
+    void anInstallDirThatTheCodePageCannotEncodeIsLogged()
     {
-        m_fixture->state.installDir = text("C:\\") + QChar(0xD800);
+        m_fixture->state.installDir = u"C:\\"_s + QChar(0xD800);
         find(V10_0, "NX 10", foreign);
         step(RunMode::Install);
         QCOMPARE(readFile(menu("NX 10")), foreign);
         QCOMPARE(m_fixture->takeLines().last(),
-                 text("1 The system's code page cannot write the name of the install folder, the launcher is "
-                      "not entered into ") +
+                 u"1 The system's code page cannot write the name of the install folder, the launcher is "
+                 "not entered into "_s +
                      menu("NX 10"));
     }
 
-    void aFolderInTheFilesPlaceIsPassedOver()
+    void aFolderWithTheNameOfTheFileIsSkipped()
     {
         find(V10_0, "NX 10", foreign);
         QVERIFY(QFile::remove(menu("NX 10")));
@@ -202,48 +206,39 @@ private slots:
         step(RunMode::Uninstall);
         QVERIFY(QFileInfo(menu("NX 10")).isDir());
         QVERIFY(!QFile::exists(backup("NX 10")));
-        QVERIFY(m_fixture->takeLines().filter(QRegularExpression(text("^1 "))).isEmpty());
-        // For its backup, for the line, and at the removal.
-        QCOMPARE(diagnostics.list(), QStringList(3, text("Unable to read ") + menu("NX 10")));
-    }
-
-    void withoutItsBoxNothingHappens()
-    {
-        find(V10_0, "NX 10", foreign);
-        m_fixture->boxes.setFound(Launcher::Nx, false);
-        step(RunMode::Install);
-        QCOMPARE(readFile(menu("NX 10")), foreign);
-        QVERIFY(m_fixture->takeLines().isEmpty());
+        QVERIFY(m_fixture->takeLines().filter(QRegularExpression(u"^1 "_s)).isEmpty());
+        // For the backup, for the line, and for the removal.
+        QCOMPARE(diagnostics.list(), QStringList(3, u"Unable to read "_s + menu("NX 10")));
     }
 
 private:
-    void step(RunMode mode)
-    {
-        installNXLauncher(m_fixture->context(), m_fixture->packages, m_fixture->boxes, mode);
-    }
+    void step(RunMode mode) { installNxLauncher(m_fixture->step(mode)); }
 
-    // Lets a version of NX be found in the folder, with this custom_dirs.dat.
+    // Adds a version of NX in the folder, with this custom_dirs.dat, to those found.
     void find(Version version, const char *folder, const QByteArray &contents)
     {
-        static const QMap<Version, QString> names{
-            {V9_5, text("9.5")}, {V9_5_0, text("9.5.0")}, {V10_0, text("10.0")}, {V11_0, text("11.0")}};
-        m_fixture->packages.nxInstallDirs.at(version) = m_fixture->test.path(text(folder));
-        m_fixture->packages.nxKeys.at(version) =
-            text("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\") + names.value(version);
+        m_fixture->packages.nxInstalls.append(
+            {version, m_fixture->test.path(QString::fromUtf8(folder)), keyOf(version)});
         writeFile(menu(folder), contents);
+    }
+
+    static QString keyOf(Version version)
+    {
+        return u"HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\"_s +
+               nxVersions[static_cast<size_t>(version)];
     }
 
     QString menu(const char *folder) const
     {
-        return joinPath(m_fixture->test.path(text(folder)), text("UGII/MENUS/custom_dirs.dat"));
+        return joinPath(m_fixture->test.path(QString::fromUtf8(folder)), u"UGII/MENUS/custom_dirs.dat"_s);
     }
 
-    QString backup(const char *folder) const { return menu(folder) + text(".bak"); }
+    QString backup(const char *folder) const { return menu(folder) + u".bak"_s; }
 
     QByteArray line(const char *subFolder) const
     {
-        return Nvx::Util::toAnsi(text("\r\n") + m_fixture->state.installDir + text("\\Launchers\\UGNX") +
-                                 text(subFolder) + text("\r\n"))
+        return Nvx::Util::toAnsi(u"\r\n"_s + m_fixture->state.installDir + u"\\Launchers\\UGNX"_s +
+                                 QString::fromUtf8(subFolder) + u"\r\n"_s)
             .value();
     }
 

@@ -4,11 +4,14 @@
 #include "support/recording_machine.h"
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
+
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 using Kind = RecordingProcesses::Kind;
 using Nvx::Util::Answer;
@@ -18,7 +21,7 @@ Q_DECLARE_METATYPE(Nvx::Util::Answer)
 
 namespace {
 
-const char *const monitor = "C:\\Velmora\\NVX 2017\\NVXMonitor.exe";
+const QString monitor = u"C:\\Velmora\\NVX 2017\\NVXMonitor.exe"_s;
 
 } // namespace
 
@@ -34,45 +37,44 @@ private slots:
         m_state = RunState();
     }
 
-    void theQuestionsNameWhatRuns_data()
+    void theQuestionsNameTheRunningPrograms_data()
     {
         QTest::addColumn<QStringList>("names");
         QTest::addColumn<QString>("cad");
         QTest::addColumn<QString>("product");
-        QTest::newRow("one") << QStringList(text("A b"))
-                             << text("A b is running, and should be stopped before the NVX launcher add-in "
-                                     "can be configured.\n\nClick Yes to continue after the process is "
-                                     "stopped.\nClick No to continue without stopping the process.")
-                             << text("A b is running, and should be stopped before continuing.\n\nClick Yes "
-                                     "to continue after the process is stopped.\nClick No to continue "
-                                     "without stopping the process.");
-        const QString several = text("Click Yes to continue after the processes are stopped.\nClick No to "
-                                     "continue without stopping the processes.");
-        QTest::newRow("two") << QStringList({text("A"), text("A")})
-                             << text("A,A are running, and should be stopped before the NVX launcher add-in "
-                                     "can be configured.\n\n") +
+        QTest::newRow("one") << QStringList(u"A b"_s)
+                             << u"A b is running, and should be stopped before the NVX launcher add-in "
+                                "can be configured.\n\nClick Yes to continue after the process is "
+                                "stopped.\nClick No to continue without stopping the process."_s
+                             << u"A b is running, and should be stopped before continuing.\n\nClick Yes "
+                                "to continue after the process is stopped.\nClick No to continue "
+                                "without stopping the process."_s;
+        const QString several = u"Click Yes to continue after the processes are stopped.\nClick No to "
+                                "continue without stopping the processes."_s;
+        QTest::newRow("two") << QStringList({u"A"_s, u"A"_s})
+                             << u"A,A are running, and should be stopped before the NVX launcher add-in "
+                                "can be configured.\n\n"_s +
                                     several
-                             << text("A,A are running, and should be stopped before continuing.\n\n") +
-                                    several;
-        QTest::newRow("three") << QStringList({text("A"), text("B"), text("C")})
-                               << text("A,B,C are running, and should be stopped before the NVX launcher "
-                                       "add-in can be configured.\n\n") +
+                             << u"A,A are running, and should be stopped before continuing.\n\n"_s + several;
+        QTest::newRow("three") << QStringList({u"A"_s, u"B"_s, u"C"_s})
+                               << u"A,B,C are running, and should be stopped before the NVX launcher "
+                                  "add-in can be configured.\n\n"_s +
                                       several
-                               << text("A,B,C are running, and should be stopped before continuing.\n\n") +
+                               << u"A,B,C are running, and should be stopped before continuing.\n\n"_s +
                                       several;
     }
 
-    void theQuestionsNameWhatRuns()
+    void theQuestionsNameTheRunningPrograms()
     {
         QFETCH(QStringList, names);
         QTEST(runningCadQuestion(names), "cad");
         QTEST(runningProductQuestion(names), "product");
     }
 
-    void withoutACadSystemNothingIsAsked()
+    void withoutARunningCadSystemThereIsNoQuestion()
     {
-        running().add(text("C:\\explorer.exe"));
-        running().add(text(monitor));
+        running().add(u"C:\\explorer.exe"_s);
+        running().add(monitor);
         QVERIFY(!guardAgainstRunningCad(context()));
         QVERIFY(m_machine->boxes.isEmpty());
         QVERIFY(m_reporter->lines.isEmpty());
@@ -82,91 +84,90 @@ private slots:
     {
         for (const char *path :
              {"C:\\SW\\sldworks.exe", "C:\\x.exe", "C:\\SW\\SLDWORKS.exe", "C:\\PTC\\xtop.exe"})
-            running().add(text(path));
+            running().add(QString::fromUtf8(path));
         guardAgainstRunningCad(context());
         QCOMPARE(m_machine->boxes.size(), 1);
-        QCOMPARE(m_machine->boxes.first().title, text("CAD Launcher Installation"));
+        QCOMPARE(m_machine->boxes.first().title, u"CAD Launcher Installation"_s);
         QCOMPARE(m_machine->boxes.first().text,
-                 runningCadQuestion({text("SolidWorks"), text("SolidWorks"), text("Wildfire")}));
+                 runningCadQuestion({u"SolidWorks"_s, u"SolidWorks"_s, u"Wildfire"_s}));
         QVERIFY(m_machine->boxes.first().kind == BoxKind::Question);
     }
 
-    void everyCadSystemHasItsName_data()
+    void everyCadProgramHasItsDisplayName_data()
     {
         QTest::addColumn<QString>("displayName");
-        QTest::newRow("xtop.exe") << text("Wildfire");
-        QTest::newRow("sldworks.exe") << text("SolidWorks");
-        QTest::newRow("SpaceClaim.exe") << text("Spaceclaim");
-        QTest::newRow("Brevant.exe") << text("Brevant");
-        QTest::newRow("SolidDesigner.exe") << text("SolidDesigner");
-        QTest::newRow("Edge.exe") << text("SolidEdge");
+        QTest::newRow("xtop.exe") << u"Wildfire"_s;
+        QTest::newRow("sldworks.exe") << u"SolidWorks"_s;
+        QTest::newRow("SpaceClaim.exe") << u"Spaceclaim"_s;
+        QTest::newRow("Brevant.exe") << u"Brevant"_s;
+        QTest::newRow("SolidDesigner.exe") << u"SolidDesigner"_s;
+        QTest::newRow("Edge.exe") << u"SolidEdge"_s;
     }
 
-    void everyCadSystemHasItsName()
+    void everyCadProgramHasItsDisplayName()
     {
         QFETCH(QString, displayName);
-        running().add(text("C:\\cad\\") + text(QTest::currentDataTag()));
+        running().add(u"C:\\cad\\"_s + QString::fromUtf8(QTest::currentDataTag()));
         guardAgainstRunningCad(context());
         QCOMPARE(m_machine->boxes.size(), 1);
         QCOMPARE(m_machine->boxes.first().text, runningCadQuestion({displayName}));
-        QCOMPARE(m_reporter->lines, QStringList(text("0 %1 terminated").arg(displayName)));
+        QCOMPARE(m_reporter->lines, QStringList(u"0 %1 terminated"_s.arg(displayName)));
     }
 
-    void eachAnswerToTheCadQuestion_data() { addAnswers(); }
+    void theAnswerToTheCadQuestionDecides_data() { addAnswers(); }
 
     // The question is asked in silent runs too.
-    void eachAnswerToTheCadQuestion()
+    void theAnswerToTheCadQuestionDecides()
     {
         QFETCH(bool, silent);
         QFETCH(Answer, answer);
         m_state.silent = silent;
         m_machine->answer = answer;
-        running().add(text("C:\\xtop.exe"));
-        running().add(text("C:\\edge.exe"), Kind::EndsMeanwhile);
-        running().add(text(monitor));
+        running().add(u"C:\\xtop.exe"_s);
+        running().add(u"C:\\edge.exe"_s, Kind::EndsMeanwhile);
+        running().add(monitor);
         const bool cancelled = guardAgainstRunningCad(context());
         QCOMPARE(m_machine->boxes.size(), 1);
         QTEST(cancelled, "cancelled");
         if (answer == Answer::Yes) {
-            QCOMPARE(running().ended, QStringList(text("C:\\xtop.exe")));
+            QCOMPARE(running().ended, QStringList(u"C:\\xtop.exe"_s));
             QCOMPARE(m_reporter->lines,
-                     QStringList({text("0 Wildfire terminated"), text("0 SolidEdge was not terminated")}));
+                     QStringList({u"0 Wildfire terminated"_s, u"0 SolidEdge was not terminated"_s}));
         } else {
             QVERIFY(running().ended.isEmpty());
             QVERIFY(m_reporter->lines.isEmpty());
         }
     }
 
-    void whatStartsWhileTheQuestionIsOpenIsEndedToo()
+    void aProgramStartedWhileTheQuestionIsOpenIsEndedToo()
     {
-        running().add(text("C:\\xtop.exe"));
-        m_machine->whileAsking = [this] { running().add(text("C:\\brevant.exe")); };
+        running().add(u"C:\\xtop.exe"_s);
+        m_machine->whileAsking = [this] { running().add(u"C:\\brevant.exe"_s); };
         guardAgainstRunningCad(context());
-        QCOMPARE(running().ended, QStringList({text("C:\\xtop.exe"), text("C:\\brevant.exe")}));
+        QCOMPARE(running().ended, QStringList({u"C:\\xtop.exe"_s, u"C:\\brevant.exe"_s}));
         QCOMPARE(m_machine->boxes.size(), 1);
     }
 
-    void whatEndsWhileTheQuestionIsOpenIsNotMentioned()
+    void aProgramThatEndsWhileTheQuestionIsOpenIsNotLogged()
     {
-        running().add(text("C:\\xtop.exe"));
+        running().add(u"C:\\xtop.exe"_s);
         m_machine->whileAsking = [this] { running().list.clear(); };
         guardAgainstRunningCad(context());
         QVERIFY(m_reporter->lines.isEmpty());
     }
 
-    void theProductGuardSaysHowItWasCalled_data()
+    void theProductGuardLogsHowItWasCalled_data()
     {
         QTest::addColumn<bool>("silent");
         QTest::addColumn<bool>("terminate");
         QTest::addColumn<QString>("line");
-        QTest::newRow("asking") << false << false
-                                << text("0 CheckForRunningOstrade: silent=off terminate=off");
-        QTest::newRow("silent") << true << false << text("0 CheckForRunningOstrade: silent=on terminate=off");
-        QTest::newRow("ending") << false << true << text("0 CheckForRunningOstrade: silent=off terminate=on");
-        QTest::newRow("both") << true << true << text("0 CheckForRunningOstrade: silent=on terminate=on");
+        QTest::newRow("asking") << false << false << u"0 CheckForRunningOstrade: silent=off terminate=off"_s;
+        QTest::newRow("silent") << true << false << u"0 CheckForRunningOstrade: silent=on terminate=off"_s;
+        QTest::newRow("ending") << false << true << u"0 CheckForRunningOstrade: silent=off terminate=on"_s;
+        QTest::newRow("both") << true << true << u"0 CheckForRunningOstrade: silent=on terminate=on"_s;
     }
 
-    void theProductGuardSaysHowItWasCalled()
+    void theProductGuardLogsHowItWasCalled()
     {
         QFETCH(bool, silent);
         QFETCH(bool, terminate);
@@ -176,10 +177,10 @@ private slots:
         QCOMPARE(m_reporter->lines, QStringList(line));
     }
 
-    void programsOfAnotherReleaseDoNotCount()
+    void programsOfAnotherReleaseAreIgnored()
     {
-        running().add(text("C:\\Velmora\\NVX 2016\\NVXSolver.exe"));
-        running().add(text("C:\\Velmora\\NVX 2017\\NVXConfig.exe"));
+        running().add(u"C:\\Velmora\\NVX 2016\\NVXSolver.exe"_s);
+        running().add(u"C:\\Velmora\\NVX 2017\\NVXConfig.exe"_s);
         QVERIFY(!guardAgainstRunningProduct(context(), OnMatch::List));
         QVERIFY(m_machine->boxes.isEmpty());
         QVERIFY(running().ended.isEmpty());
@@ -188,44 +189,44 @@ private slots:
     void aSilentRunEndsTheProductWithoutAQuestion()
     {
         m_state.silent = true;
-        running().add(text(monitor));
-        running().add(text("C:\\Velmora\\NVX 2016\\NVXMonitor.exe"));
+        running().add(monitor);
+        running().add(u"C:\\Velmora\\NVX 2016\\NVXMonitor.exe"_s);
         QVERIFY(!guardAgainstRunningProduct(context(), OnMatch::List));
         QVERIFY(m_machine->boxes.isEmpty());
-        QCOMPARE(running().ended, QStringList(text(monitor)));
-        QCOMPARE(m_reporter->lines.last(), text("0 NVX 2017 Job Monitor terminated"));
+        QCOMPARE(running().ended, QStringList(monitor));
+        QCOMPARE(m_reporter->lines.last(), u"0 NVX 2017 Job Monitor terminated"_s);
     }
 
-    void programsToBeEndedAreEndedWithoutAQuestion()
+    void onMatchTerminateEndsThemWithoutAQuestion()
     {
-        running().add(text(monitor));
+        running().add(monitor);
         QVERIFY(!guardAgainstRunningProduct(context(), OnMatch::Terminate));
         QVERIFY(m_machine->boxes.isEmpty());
-        QCOMPARE(running().ended, QStringList(text(monitor)));
+        QCOMPARE(running().ended, QStringList(monitor));
     }
 
-    void theProductQuestionNamesItsPrograms()
+    void theProductQuestionNamesTheRunningPrograms()
     {
         for (const char *name : {"nvx.exe", "NVXSolver.exe", "nvxserver.EXE", "NVXMonitor.exe"})
-            running().add(text("C:\\NVX 2017\\") + text(name));
+            running().add(u"C:\\NVX 2017\\"_s + QString::fromUtf8(name));
         guardAgainstRunningProduct(context(), OnMatch::List);
         QCOMPARE(m_machine->boxes.size(), 1);
-        QCOMPARE(m_machine->boxes.first().title, text("Velmora NVX Installation"));
+        QCOMPARE(m_machine->boxes.first().title, u"Velmora NVX Installation"_s);
         QCOMPARE(m_machine->boxes.first().text,
-                 runningProductQuestion({text("Velmora NVX"), text("NVXSolver"), text("NVXServer"),
-                                         text("NVX 2017 Job Monitor")}));
+                 runningProductQuestion(
+                     {u"Velmora NVX"_s, u"NVXSolver"_s, u"NVXServer"_s, u"NVX 2017 Job Monitor"_s}));
         QVERIFY(m_machine->boxes.first().kind == BoxKind::Question);
     }
 
-    void eachAnswerToTheProductQuestion_data() { addAnswers(); }
+    void theAnswerToTheProductQuestionDecides_data() { addAnswers(); }
 
-    void eachAnswerToTheProductQuestion()
+    void theAnswerToTheProductQuestionDecides()
     {
         QFETCH(bool, silent);
         QFETCH(Answer, answer);
         m_state.silent = silent;
         m_machine->answer = answer;
-        running().add(text(monitor));
+        running().add(monitor);
         const bool cancelled = guardAgainstRunningProduct(context(), OnMatch::List);
         QCOMPARE(m_machine->boxes.size(), silent ? 0 : 1);
         QCOMPARE(cancelled, !silent && answer == Answer::Dismissed);

@@ -7,36 +7,38 @@
 #include <QElapsedTimer>
 #include <QTest>
 
+using namespace Nvx::Cad;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 const QByteArray foreign = "name Other\r\nstartup DLL\r\nexec_file C:\\other.dll\r\nend\r\n";
 
 QByteArray ours()
 {
-    return Nvx::Util::toAnsi(creoEntry(QStringLiteral("C:\\NVX"), QStringLiteral("C:\\NVX"), 2)).value();
+    return Nvx::Util::toAnsi(creoEntry(u"C:\\NVX"_s, u"C:\\NVX"_s, 2)).value();
 }
 
-// What an install makes of the file.
+// The file after an install.
 QByteArray installed(const QByteArray &contents)
 {
     const QByteArray cleared = withoutLauncherEntries(contents);
     return withLauncherEntry(cleared, ours()).value_or(cleared);
 }
 
-// What the removal should return, worked out the plain way: split as text with one character for each byte,
-// measured as text of the system's code page.
+// The expected result of a removal, computed the simple way: the pieces are split as Latin-1, and measured in
+// the system's code page.
 QByteArray expectedRemoval(const QByteArray &contents)
 {
-    QByteArray kept;
-    const QStringList pieces =
-        QString::fromLatin1(contents).split(QStringLiteral("end\r\n"), Qt::SkipEmptyParts);
+    QByteArray preserved;
+    const QStringList pieces = QString::fromLatin1(contents).split(u"end\r\n"_s, Qt::SkipEmptyParts);
     for (const QString &piece : pieces) {
         const QByteArray bytes = piece.toLatin1();
         const qsizetype length = QString::fromLocal8Bit(bytes).trimmed().size();
         if (length >= 5 && !bytes.toLower().contains("nvx_2017_creo"))
-            kept += bytes + "end\r\n";
+            preserved += bytes + "end\r\n";
     }
-    return kept;
+    return preserved;
 }
 
 const QList<QByteArray> pieces{
@@ -74,7 +76,7 @@ class tst_protk_file : public QObject
     Q_OBJECT
 
 private slots:
-    void removalTakesTheProductsEntries_data()
+    void removalDropsTheProductsEntries_data()
     {
         QTest::addColumn<QByteArray>("contents");
         QTest::addColumn<QByteArray>("left");
@@ -86,8 +88,7 @@ private slots:
         QTest::newRow("ours twice") << ours() + ours() + foreign << foreign;
         QTest::newRow("ours of another release and folder")
             << "name x\r\nexec_file D:\\NVX_2017_Creo30.dll\r\nend\r\n" + foreign << foreign;
-        QTest::newRow("ours in another case")
-            << ours().toUpper().replace("END\r\n", "end\r\n") << QByteArray();
+        QTest::newRow("ours in upper case") << ours().toUpper().replace("END\r\n", "end\r\n") << QByteArray();
         QTest::newRow("another launcher of the product")
             << QByteArray("name NVX_2016_Creo\r\nend\r\n") << QByteArray("name NVX_2016_Creo\r\nend\r\n");
         QTest::newRow("others only") << foreign + foreign << foreign + foreign;
@@ -96,24 +97,24 @@ private slots:
         QTest::newRow("no end line, and ours") << QByteArray("name NVX_2017_Creo") << QByteArray();
         QTest::newRow("an end without a line end gets a second")
             << QByteArray("name x\r\nend") << QByteArray("name x\r\nendend\r\n");
-        QTest::newRow("line ends of Unix are no ends: all is one piece")
+        QTest::newRow("line ends of Unix: the file is one piece")
             << QByteArray("name x\nend\nname y\nend\n") << QByteArray("name x\nend\nname y\nend\nend\r\n");
-        QTest::newRow("END in capitals is no end")
+        QTest::newRow("END in upper case does not close an entry")
             << QByteArray("name x\r\nEND\r\n") << QByteArray("name x\r\nEND\r\nend\r\n");
         QTest::newRow("a fragment of four characters") << "abcd" + QByteArray("end\r\n") + foreign << foreign;
         QTest::newRow("a fragment of five characters")
             << "abcde" + QByteArray("end\r\n") + foreign << "abcde" + QByteArray("end\r\n") + foreign;
         QTest::newRow("a fragment of four characters between blanks")
             << " \t\r\nabcd\r\n \v\fend\r\n" + foreign << foreign;
-        QTest::newRow("blank lines between the entries stay") << foreign + "\r\n" + foreign + "\r\n"
-                                                              << foreign + "\r\n" + foreign;
+        QTest::newRow("blank lines between the entries are preserved") << foreign + "\r\n" + foreign + "\r\n"
+                                                                       << foreign + "\r\n" + foreign;
         QTest::newRow("ends in a row") << QByteArray("end\r\nend\r\nend\r\n") << QByteArray();
-        QTest::newRow("a word that ends in end closes a piece")
+        QTest::newRow("a word that ends in end does no harm")
             << QByteArray("text_dir C:\\legend\r\nrevision 20\r\nend\r\n")
             << QByteArray("text_dir C:\\legend\r\nrevision 20\r\nend\r\n");
     }
 
-    void removalTakesTheProductsEntries()
+    void removalDropsTheProductsEntries()
     {
         QFETCH(const QByteArray, contents);
         QFETCH(const QByteArray, left);
@@ -124,24 +125,23 @@ private slots:
     void aFragmentIsMeasuredInCharactersOfTheCodePage_data()
     {
         QTest::addColumn<QString>("fragment");
-        QTest::addColumn<bool>("isKept");
-        QTest::newRow("four characters") << QStringLiteral("äöüß") << false;
-        QTest::newRow("five characters") << QStringLiteral("äöüßÄ") << true;
-        QTest::newRow("four characters between no-break spaces")
-            << QStringLiteral("\u00a0äöüß\u00a0") << false;
+        QTest::addColumn<bool>("isPreserved");
+        QTest::newRow("four characters") << u"äöüß"_s << false;
+        QTest::newRow("five characters") << u"äöüßÄ"_s << true;
+        QTest::newRow("four characters between no-break spaces") << u"\u00a0äöüß\u00a0"_s << false;
     }
 
     void aFragmentIsMeasuredInCharactersOfTheCodePage()
     {
         QFETCH(const QString, fragment);
-        QFETCH(const bool, isKept);
+        QFETCH(const bool, isPreserved);
         const std::optional<QByteArray> written = Nvx::Util::toAnsi(fragment);
         QVERIFY(written);
         const QByteArray piece = *written + "end\r\n";
-        QCOMPARE(withoutLauncherEntries(piece + foreign), isKept ? piece + foreign : foreign);
+        QCOMPARE(withoutLauncherEntries(piece + foreign), isPreserved ? piece + foreign : foreign);
     }
 
-    void entriesOfOthersPassByteForByte_data()
+    void entriesOfOthersArePreservedByteForByte_data()
     {
         QTest::addColumn<QByteArray>("name");
         QTest::newRow("UTF-8") << QByteArray("Gr\xc3\xb6\xc3\x9f"
@@ -149,12 +149,12 @@ private slots:
         QTest::newRow("Latin-1") << QByteArray("Gr\xf6\xdf"
                                                "e\xa0\x85");
         QTest::newRow("Shift-JIS with a backslash inside") << QByteArray("\x95\x5c\x8e\xa6\x83\x65");
-        QTest::newRow("bytes that are no text") << QByteArray("\xff\xfe\x80\xc0\x00\x01\x1a\x7f", 8);
+        QTest::newRow("bytes that are not valid text") << QByteArray("\xff\xfe\x80\xc0\x00\x01\x1a\x7f", 8);
         QTest::newRow("UTF-16") << QByteArray("\xff\xfen\0a\0m\0e\0\r\0\n\0", 14);
         QTest::newRow("lone line ends") << QByteArray("a\rb\nc\n\rd");
     }
 
-    void entriesOfOthersPassByteForByte()
+    void entriesOfOthersArePreservedByteForByte()
     {
         QFETCH(const QByteArray, name);
         const QByteArray other = "name " + name + "\r\nstartup DLL\r\nend\r\n";
@@ -163,7 +163,7 @@ private slots:
         QCOMPARE(installed(other + ours()), ours() + other);
     }
 
-    void theEntryGoesInFrontUnlessTheMarkerStandsFurtherIn_data()
+    void theEntryIsPrependedUnlessTheMarkerIsInsideTheFile_data()
     {
         QTest::addColumn<QByteArray>("contents");
         QTest::addColumn<bool>("added");
@@ -171,14 +171,15 @@ private slots:
         QTest::newRow("no marker") << foreign << true;
         QTest::newRow("the marker at the very start") << "$OSTRADE2017" + foreign << true;
         QTest::newRow("the marker at the second byte") << " $OSTRADE2017" + foreign << false;
-        QTest::newRow("the marker further in") << foreign + "text_dir $OSTRADE2017\\Text\r\nend\r\n" << false;
-        QTest::newRow("the marker at the start and further in")
+        QTest::newRow("the marker in the middle") << foreign + "text_dir $OSTRADE2017\\Text\r\nend\r\n"
+                                                  << false;
+        QTest::newRow("the marker at the start and again later")
             << "$OSTRADE2017 $OSTRADE2017" + foreign << true;
         QTest::newRow("the marker of another release") << foreign + "$OSTRADE2016" << true;
         QTest::newRow("the marker in another case") << foreign + "$Ostrade2017" << true;
     }
 
-    void theEntryGoesInFrontUnlessTheMarkerStandsFurtherIn()
+    void theEntryIsPrependedUnlessTheMarkerIsInsideTheFile()
     {
         QFETCH(const QByteArray, contents);
         QFETCH(const bool, added);
@@ -188,8 +189,8 @@ private slots:
             QCOMPARE(*made, ours() + contents);
     }
 
-    // The launcher's name is in every entry of ours, each entry is a piece of its own, and "end" cannot begin
-    // within another "end": so all this holds for any bytes.
+    // Each of our entries contains the launcher's name and is a piece of its own, and no "end" overlaps
+    // another one. The following therefore holds for any bytes.
     void forAnyBytes_data()
     {
         QTest::addColumn<quint32>("seed");
@@ -212,7 +213,7 @@ private slots:
         }
     }
 
-    void fiftyMegabytesAreDoneWithinAMinute()
+    void fiftyMegabytesTakeLessThanAMinute()
     {
         QByteArray contents = foreign.repeated(50 * 1024 * 1024 / static_cast<int>(foreign.size()));
         contents.insert(contents.size() / 2 / foreign.size() * foreign.size(), ours());
@@ -226,9 +227,9 @@ private slots:
         QVERIFY2(elapsed < 60000, qPrintable(QString::number(elapsed)));
     }
 
-    void fiftyMegabytesWithoutAnEndAreToo()
+    void fiftyMegabytesWithoutAnEndTakeLessThanAMinute()
     {
-        // The beginning of the launcher's name over and over is the hardest to look through.
+        // The beginning of the launcher's name, repeated, is the worst case for the search.
         const QByteArray contents = QByteArray("NVX_2017_Cre").repeated(50 * 1024 * 1024 / 12);
         QElapsedTimer timer;
         timer.start();

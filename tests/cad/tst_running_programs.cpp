@@ -1,4 +1,4 @@
-// The process table and the guards with programs that do run. The questions are answered by the test.
+// The process table and the guards with real processes. The test answers the questions.
 
 #include "cad/process_guard.h"
 #include "nvx_util/native_machine.h"
@@ -8,7 +8,6 @@
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
-#include "support/text.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,12 +19,16 @@
 #include <memory>
 #include <optional>
 
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
 using Nvx::Util::Answer;
 using Nvx::Util::BoxKind;
 
 namespace {
 
-// The machine itself, whose questions are answered at once.
+// The real machine, except that questions are answered at once.
 class AnsweringMachine : public Nvx::Util::NativeMachine
 {
 public:
@@ -42,7 +45,7 @@ public:
     }
 };
 
-// A copy of the sample program that runs while this lives.
+// A copy of the sample program, which runs during the lifetime of the object.
 class RunningProgram
 {
 public:
@@ -50,15 +53,15 @@ public:
         : m_path(path)
     {
         QDir().mkpath(QFileInfo(path).path());
-        QFile::copy(text(GUARDED_PROGRAM), path);
+        QFile::copy(QStringLiteral(GUARDED_PROGRAM), path);
         m_process.start(path, QStringList());
-        m_started = QTest::qWaitFor([this] { return QFile::exists(m_path + text(".running")); }, 30000);
+        m_started = QTest::qWaitFor([this] { return QFile::exists(m_path + u".running"_s); }, 30000);
     }
     ~RunningProgram()
     {
         if (!isRunning())
             return;
-        QFile stop(m_path + text(".stop"));
+        QFile stop(m_path + u".stop"_s);
         if (!stop.open(QIODevice::WriteOnly) || !m_process.waitForFinished(10000))
             m_process.kill();
     }
@@ -66,7 +69,8 @@ public:
     bool hasStarted() const { return m_started; }
     bool isRunning() const { return m_process.state() == QProcess::Running; }
 
-    // Waits for its end by somebody else's hand; its exit code, or nothing when it goes on.
+    // Waits for the program to be ended by another process. Returns the exit code, std::nullopt if it still
+    // runs.
     std::optional<int> ended()
     {
         if (isRunning() && !m_process.waitForFinished(10000))
@@ -74,10 +78,10 @@ public:
         return m_process.exitCode();
     }
 
-    // Tells it to end.
+    // Asks it to exit, and waits until it has.
     bool stop()
     {
-        QFile file(m_path + text(".stop"));
+        QFile file(m_path + u".stop"_s);
         return file.open(QIODevice::WriteOnly) && m_process.waitForFinished(10000);
     }
 
@@ -102,9 +106,9 @@ private slots:
         m_state = RunState();
     }
 
-    void aRunningProgramIsListedByItsFileNameAndItsWholePath()
+    void aRunningProgramIsListedByItsFileNameAndItsFullPath()
     {
-        const QString path = m_folder->path(text("größe 日本/SldWorks.exe"));
+        const QString path = m_folder->path(u"größe 日本/SldWorks.exe"_s);
         const RunningProgram program(path);
         QVERIFY(program.hasStarted());
         Nvx::Util::ProcessTable &processes = m_machine->processes();
@@ -112,44 +116,44 @@ private slots:
         const QList<Nvx::Util::ProcessId> ids = processes.ids(1024);
         for (const Nvx::Util::ProcessId id : ids) {
             const auto process = processes.open(id);
-            if (process && process->baseName() == text("SldWorks.exe"))
+            if (process && process->baseName() == u"SldWorks.exe"_s)
                 found << process->path();
         }
         QCOMPARE(found.size(), 1);
         QCOMPARE(QFileInfo(found.first()).canonicalFilePath(), QFileInfo(path).canonicalFilePath());
     }
 
-    void aProcessThatDoesNotTellItsNamesIsUnknown()
+    void aProcessWhoseNamesCannotBeReadIsUnknown()
     {
-        RunningProgram program(m_folder->path(text("xtop.exe")));
+        RunningProgram program(m_folder->path(u"xtop.exe"_s));
         QVERIFY(program.hasStarted());
         Nvx::Util::ProcessTable &processes = m_machine->processes();
         std::unique_ptr<Nvx::Util::OpenedProcess> found;
         const QList<Nvx::Util::ProcessId> ids = processes.ids(1024);
         for (const Nvx::Util::ProcessId id : ids) {
             auto process = processes.open(id);
-            if (process && process->baseName() == text("xtop.exe"))
+            if (process && process->baseName() == u"xtop.exe"_s)
                 found = std::move(process);
         }
         QVERIFY(found);
-        // Nothing can be read any more of a process that has ended.
+        // The names of a process that has ended cannot be read.
         QVERIFY(program.stop());
-        QCOMPARE(found->baseName(), text("<unknown>"));
-        QCOMPARE(found->path(), text("<unknown>"));
+        QCOMPARE(found->baseName(), u"<unknown>"_s);
+        QCOMPARE(found->path(), u"<unknown>"_s);
     }
 
-    void noMoreIdsAreListedThanFit()
+    void noMoreIdsAreListedThanAskedFor()
     {
         const QList<Nvx::Util::ProcessId> all = m_machine->processes().ids(1024);
         QVERIFY(all.size() > 2);
         QCOMPARE(m_machine->processes().ids(2), all.mid(0, 2));
     }
 
-    void aProcessThatIsNotThereCannotBeOpened() { QVERIFY(!m_machine->processes().open(0xfffffff0)); }
+    void aMissingProcessCannotBeOpened() { QVERIFY(!m_machine->processes().open(0xfffffff0)); }
 
-    void aProgramThatEndsBetweenTheListingAndTheEndingIsNotMentioned()
+    void aProgramThatEndsWhileTheQuestionIsOpenIsNotLogged()
     {
-        RunningProgram program(m_folder->path(text("xtop.exe")));
+        RunningProgram program(m_folder->path(u"xtop.exe"_s));
         QVERIFY(program.hasStarted());
         m_machine->whileAsking = [&program] { program.stop(); };
         QVERIFY(!guardAgainstRunningCad(context()));
@@ -158,11 +162,11 @@ private slots:
         QVERIFY(m_reporter->lines.isEmpty());
     }
 
-    void yesEndsEveryCadSystemAndNothingElse()
+    void yesEndsEveryCadSystemAndNoOtherProgram()
     {
-        RunningProgram first(m_folder->path(text("a/xtop.exe")));
-        RunningProgram second(m_folder->path(text("b/EDGE.exe")));
-        RunningProgram other(m_folder->path(text("b/SmoothEdge.exe")));
+        RunningProgram first(m_folder->path(u"a/xtop.exe"_s));
+        RunningProgram second(m_folder->path(u"b/EDGE.exe"_s));
+        RunningProgram other(m_folder->path(u"b/SmoothEdge.exe"_s));
         QVERIFY(first.hasStarted() && second.hasStarted() && other.hasStarted());
         QVERIFY(!guardAgainstRunningCad(context()));
         QCOMPARE(m_machine->questions.size(), 1);
@@ -170,8 +174,7 @@ private slots:
         QVERIFY(second.ended() == std::optional<int>(-1));
         QVERIFY(other.isRunning());
         m_reporter->lines.sort();
-        QCOMPARE(m_reporter->lines,
-                 QStringList({text("0 SolidEdge terminated"), text("0 Wildfire terminated")}));
+        QCOMPARE(m_reporter->lines, QStringList({u"0 SolidEdge terminated"_s, u"0 Wildfire terminated"_s}));
     }
 
     void anyOtherAnswerEndsNothing_data()
@@ -186,27 +189,27 @@ private slots:
     {
         QFETCH(int, answer);
         m_machine->answer = static_cast<Answer>(answer);
-        const RunningProgram cad(m_folder->path(text("Brevant.exe")));
-        const RunningProgram product(m_folder->path(text("NVX 2017/NVXServer.exe")));
+        const RunningProgram cad(m_folder->path(u"Brevant.exe"_s));
+        const RunningProgram product(m_folder->path(u"NVX 2017/NVXServer.exe"_s));
         QVERIFY(cad.hasStarted() && product.hasStarted());
         QTEST(guardAgainstRunningCad(context()), "dismissed");
         QTEST(guardAgainstRunningProduct(context(), OnMatch::List), "dismissed");
-        QCOMPARE(m_machine->questions, QStringList({runningCadQuestion({text("Brevant")}),
-                                                    runningProductQuestion({text("NVXServer")})}));
+        QCOMPARE(m_machine->questions,
+                 QStringList({runningCadQuestion({u"Brevant"_s}), runningProductQuestion({u"NVXServer"_s})}));
         QVERIFY(cad.isRunning() && product.isRunning());
     }
 
     void aSilentRunEndsTheProductOfThisReleaseOnly()
     {
         m_state.silent = true;
-        RunningProgram own(m_folder->path(text("NVX 2017/NVXMonitor.exe")));
-        RunningProgram older(m_folder->path(text("NVX 2016/NVXMonitor.exe")));
+        RunningProgram own(m_folder->path(u"NVX 2017/NVXMonitor.exe"_s));
+        RunningProgram older(m_folder->path(u"NVX 2016/NVXMonitor.exe"_s));
         QVERIFY(own.hasStarted() && older.hasStarted());
         QVERIFY(!guardAgainstRunningProduct(context(), OnMatch::List));
         QVERIFY(own.ended() == std::optional<int>(-1));
         QVERIFY(older.isRunning());
         QVERIFY(m_machine->questions.isEmpty());
-        QCOMPARE(m_reporter->lines.last(), text("0 NVX 2017 Job Monitor terminated"));
+        QCOMPARE(m_reporter->lines.last(), u"0 NVX 2017 Job Monitor terminated"_s);
     }
 
 private:

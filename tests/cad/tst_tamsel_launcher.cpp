@@ -1,12 +1,16 @@
-#include "cad/tamsel/tamsel_launcher.h"
+#include "cad/cad_systems.h"
+#include "cad/tamsel/tamsel.h"
 #include "cad/tamsel/tamsel_manifest.h"
 #include "launcher_fixture.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
+
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 using Nvx::Util::joinPath;
 
@@ -22,9 +26,9 @@ private slots:
     }
     void cleanup() { m_fixture.reset(); }
 
-    void theManifestIsTheTextAsItStands()
+    void theManifestHasTenLines()
     {
-        QCOMPARE(tamselManifest(text("C:\\Prog & Co\\NVX")),
+        QCOMPARE(tamselManifest(u"C:\\Prog & Co\\NVX"_s),
                  QByteArray("<?xml version=\"1.0\" encoding=\"utf-16\" standalone=\"no\"?>\n"
                             "<TamselAddIns>\n"
                             "<AddIn Type=\"Application\">\n"
@@ -38,37 +42,36 @@ private slots:
                             "</TamselAddIns>\n"));
     }
 
-    void theManifestIsCutToAsManyBytesAsItHasCharacters_data()
+    void theManifestHasAsManyBytesAsTheTextHasCharacters_data()
     {
         QTest::addColumn<QString>("installDir");
         QTest::addColumn<int>("cut");
-        QTest::newRow("all of ASCII") << text("C:\\NVX") << 0;
-        QTest::newRow("two umlauts") << text("C:\\Größe") << 2;
-        QTest::newRow("two characters of three bytes") << text("C:\\日本") << 4;
-        QTest::newRow("a character of two units and four bytes") << text("C:\\𝄞") << 2;
-        QTest::newRow("cut within a character of another language")
-            << text("C:\\") + QString(150, QChar(0x65E5)) << 300;
+        QTest::newRow("ASCII only: not cut") << u"C:\\NVX"_s << 0;
+        QTest::newRow("two umlauts") << u"C:\\Größe"_s << 2;
+        QTest::newRow("two characters of three bytes") << u"C:\\日本"_s << 4;
+        QTest::newRow("a surrogate pair of four bytes") << u"C:\\𝄞"_s << 2;
+        QTest::newRow("cut within a character") << u"C:\\"_s + QString(150, QChar(0x65E5)) << 300;
     }
 
-    void theManifestIsCutToAsManyBytesAsItHasCharacters()
+    void theManifestHasAsManyBytesAsTheTextHasCharacters()
     {
         QFETCH(const QString, installDir);
         QFETCH(const int, cut);
-        QByteArray whole = tamselManifest(text("C:\\NVX"));
+        QByteArray whole = tamselManifest(u"C:\\NVX"_s);
         whole.replace("C:\\NVX", installDir.toUtf8());
         QCOMPARE(tamselManifest(installDir), whole.chopped(cut));
     }
 
-    void aPathThatLooksLikeAPlaceholderStandsAsItIs()
+    void placeholdersInThePathAreNotReplaced()
     {
-        QVERIFY(tamselManifest(text("C:\\%1%2")).contains("<Assembly>C:\\%1%2\\Launchers"));
+        QVERIFY(tamselManifest(u"C:\\%1%2"_s).contains("<Assembly>C:\\%1%2\\Launchers"));
     }
 
-    void theFoldersAreThoseOfAllUsers()
+    void theDefaultFoldersAreThoseOfAllUsers()
     {
-        QCOMPARE(SharedFolders().applicationDataOfOld,
-                 text("C:\\Documents and Settings\\All Users\\Application Data"));
-        QCOMPARE(SharedFolders().applicationData, text("C:\\Users\\All Users"));
+        QCOMPARE(SharedFolders().formerApplicationData,
+                 u"C:\\Documents and Settings\\All Users\\Application Data"_s);
+        QCOMPARE(SharedFolders().applicationData, u"C:\\Users\\All Users"_s);
     }
 
     void anAddinIsWrittenAndCopied()
@@ -80,20 +83,20 @@ private slots:
         QCOMPARE(readFile(first(2017)), manifest);
         QCOMPARE(readFile(second(2017)), manifest);
         QCOMPARE(m_fixture->takeLines(),
-                 removalLines(2017) + QStringList({text("0 Copying:%1 to: %2").arg(own(), first(2017)),
-                                                   text("0 Copying:%1 to: %2").arg(own(), second(2017))}));
+                 removalLines(2017) + QStringList({u"0 Copying:%1 to: %2"_s.arg(own(), first(2017)),
+                                                   u"0 Copying:%1 to: %2"_s.arg(own(), second(2017))}));
     }
 
-    void theSecondTargetsFolderIsNotMade()
+    void theSecondTargetsFolderIsNotCreated()
     {
         addin(RunMode::Install, 2016);
         QVERIFY(QFile::exists(first(2016)));
         QVERIFY(!QFile::exists(m_fixture->folders.applicationData));
     }
 
-    void aRemovalTakesAllThree_data() { addRemovingModes(); }
+    void aRemovalDeletesAllThreeFiles_data() { addRemovingModes(); }
 
-    void aRemovalTakesAllThree()
+    void aRemovalDeletesAllThreeFiles()
     {
         QFETCH(const RunMode, mode);
         makeSecondTarget(2017);
@@ -105,7 +108,7 @@ private slots:
         QCOMPARE(m_fixture->takeLines(), removalLines(2017));
     }
 
-    void aSecondInstallBringsTheNewManifest()
+    void aSecondInstallReplacesTheManifest()
     {
         makeSecondTarget(2017);
         for (const QString &path : {first(2017), second(2017), own()}) {
@@ -124,36 +127,35 @@ private slots:
         QFile file(own());
         QVERIFY(!file.open(QIODevice::WriteOnly));
         addin(RunMode::Install, 2017);
-        QCOMPARE(
-            m_fixture->takeLines(),
-            removalLines(2017) +
-                QStringList({text("%1 Open failed:%2").arg(QString::number(file.error()), file.errorString()),
-                             text("0 Copying:%1 to: %2").arg(own(), first(2017)),
-                             text("0 Copying:%1 to: %2").arg(own(), second(2017))}));
+        QCOMPARE(m_fixture->takeLines(),
+                 removalLines(2017) + QStringList({u"%1 Open failed:%2"_s.arg(QString::number(file.error()),
+                                                                              file.errorString()),
+                                                   u"0 Copying:%1 to: %2"_s.arg(own(), first(2017)),
+                                                   u"0 Copying:%1 to: %2"_s.arg(own(), second(2017))}));
         QVERIFY(file.error() != QFileDevice::NoError);
         QVERIFY(!QFile::exists(first(2017)));
     }
 
-    void eachTickedEditionIsHandledInItsOrder()
+    void checkedEditionsAreConfiguredInTheirOrder()
     {
         for (const auto launcher : {Launcher::Tamsel, Launcher::TamselArchitecture, Launcher::TamselMep})
-            m_fixture->tick(launcher);
-        find(TamselEdition::Plain, 6);
-        find(TamselEdition::Plain, 5);
-        find(TamselEdition::Mep, 8);
-        find(TamselEdition::Architecture, 7);
+            m_fixture->check(launcher);
+        find(TamselEdition::Plain, 2015);
+        find(TamselEdition::Plain, 2016);
+        find(TamselEdition::Mep, 2018);
+        find(TamselEdition::Architecture, 2017);
         step(RunMode::Uninstall);
         QCOMPARE(m_fixture->takeLines(),
-                 QStringList{text("progress 0 Tamsel")} + removalLines(2015) + removalLines(2016) +
-                     QStringList{text("progress 0 Tamsel Architecture")} + removalLines(2017) +
-                     QStringList{text("progress 0 Tamsel MEP")} + removalLines(2018));
+                 QStringList{u"progress 0 Tamsel"_s} + removalLines(2015) + removalLines(2016) +
+                     QStringList{u"progress 0 Tamsel Architecture"_s} + removalLines(2017) +
+                     QStringList{u"progress 0 Tamsel MEP"_s} + removalLines(2018));
     }
 
-    void eachYearHasItsManifestAndAllNameTheSameLibrary()
+    void theManifestsOfAllYearsNameTheSameLibrary()
     {
-        m_fixture->tick(Launcher::Tamsel);
-        find(TamselEdition::Plain, 6);
-        find(TamselEdition::Plain, 7);
+        m_fixture->check(Launcher::Tamsel);
+        find(TamselEdition::Plain, 2016);
+        find(TamselEdition::Plain, 2017);
         step(RunMode::Install);
         for (const int year : {2016, 2017})
             QVERIFY(readFile(first(year)).contains("NVX_2017_Tamsel2017.dll"));
@@ -161,31 +163,31 @@ private slots:
         QVERIFY(!QFile::exists(first(2018)));
     }
 
-    void anEditionWithoutItsBoxIsLeftAlone()
+    void anUncheckedEditionIsNotChanged()
     {
-        m_fixture->tick(Launcher::TamselArchitecture);
-        find(TamselEdition::Plain, 6);
-        find(TamselEdition::Architecture, 7);
+        m_fixture->check(Launcher::TamselArchitecture);
+        find(TamselEdition::Plain, 2016);
+        find(TamselEdition::Architecture, 2017);
         step(RunMode::Install);
         QVERIFY(!QFile::exists(first(2016)));
         QVERIFY(QFile::exists(first(2017)));
     }
 
-    void aYearOfTwoEditionsIsHandledTwice()
+    void aYearOfTwoEditionsIsConfiguredTwice()
     {
-        m_fixture->tick(Launcher::Tamsel);
-        m_fixture->tick(Launcher::TamselMep);
-        find(TamselEdition::Plain, 7);
-        find(TamselEdition::Mep, 7);
+        m_fixture->check(Launcher::Tamsel);
+        m_fixture->check(Launcher::TamselMep);
+        find(TamselEdition::Plain, 2017);
+        find(TamselEdition::Mep, 2017);
         step(RunMode::Install);
-        QCOMPARE(m_fixture->takeLines().count(text("0 Tamsel Addin")), 2);
+        QCOMPARE(m_fixture->takeLines().count(u"0 Tamsel Addin"_s), 2);
         QCOMPARE(readFile(first(2017)), tamselManifest(m_fixture->state.installDir));
     }
 
-    void aFolderThatCannotBeMadeKeepsNothingElseFromBeingWritten()
+    void theOtherFilesAreWrittenIfAFolderCannotBeCreated()
     {
-        const QString inTheWay = m_fixture->folders.applicationDataOfOld;
-        writeFile(inTheWay, "a file in the folder's place");
+        const QString inTheWay = m_fixture->folders.formerApplicationData;
+        writeFile(inTheWay, "a file with the name of the folder");
         makeSecondTarget(2017);
         addin(RunMode::Install, 2017);
         QVERIFY(QFileInfo(inTheWay).isFile());
@@ -193,46 +195,42 @@ private slots:
         QCOMPARE(readFile(second(2017)), readFile(own()));
     }
 
-    void aFolderOfAnotherSystemIsNotMadeHere()
+    void aRelativeFolderIsNotCreated()
     {
-        m_fixture->folders.applicationDataOfOld = text("NVX test, not a full path");
+        m_fixture->folders.formerApplicationData = u"NVX test, not a full path"_s;
         addin(RunMode::Install, 2017);
-        QVERIFY(!QFile::exists(m_fixture->folders.applicationDataOfOld));
+        QVERIFY(!QFile::exists(m_fixture->folders.formerApplicationData));
     }
 
 private:
-    void addin(RunMode mode, int year)
-    {
-        installTamselAddin(m_fixture->context(), m_fixture->folders, mode, year);
-    }
+    void addin(RunMode mode, int year) { installTamselAddin(m_fixture->step(mode), year); }
 
     void step(RunMode mode)
     {
-        installTamselLauncher(m_fixture->context(), m_fixture->packages, m_fixture->boxes, m_fixture->folders,
-                              mode);
+        for (const Launcher edition : {Launcher::Tamsel, Launcher::TamselArchitecture, Launcher::TamselMep})
+            cadSystem(edition).install(m_fixture->step(mode));
     }
 
-    void find(TamselEdition edition, size_t version)
+    void find(TamselEdition edition, int year)
     {
-        m_fixture->packages.tamselInstallDirs.at(static_cast<size_t>(edition)).at(version) =
-            text("C:\\Tamsel");
+        m_fixture->packages.tamselInstalls.append({edition, year, u"C:\\Tamsel"_s});
     }
 
     QString own() const { return m_fixture->installed("Launchers/Tamsel/NVX_2017.Addin"); }
-    QString first(int year) const { return target(m_fixture->folders.applicationDataOfOld, year); }
+    QString first(int year) const { return target(m_fixture->folders.formerApplicationData, year); }
     QString second(int year) const { return target(m_fixture->folders.applicationData, year); }
 
     static QString target(const QString &root, int year)
     {
-        return joinPath(root, text("Velmora/Tamsel/Addins/%1/NVX_2017.Addin").arg(year));
+        return joinPath(root, u"Velmora/Tamsel/Addins/%1/NVX_2017.Addin"_s.arg(year));
     }
 
     void makeSecondTarget(int year) const { QVERIFY(QDir().mkpath(QFileInfo(second(year)).path())); }
 
     QStringList removalLines(int year) const
     {
-        return {text("0 Tamsel Addin"), text("0 Removing:") + first(year), text("0 Removing:") + second(year),
-                text("0 Removing:") + own()};
+        return {u"0 Tamsel Addin"_s, u"0 Removing:"_s + first(year), u"0 Removing:"_s + second(year),
+                u"0 Removing:"_s + own()};
     }
 
     std::unique_ptr<LauncherFixture> m_fixture;

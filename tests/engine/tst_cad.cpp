@@ -1,28 +1,46 @@
+#include "cad/cad_search.h"
+#include "cad/cad_systems.h"
+#include "cad/machine_registry_listing.h"
 #include "engine/engine_fixture.h"
 #include "nvx_util/registry_key.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
+#include <QHash>
+#include <QSet>
 #include <QTest>
 
-#include <array>
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 using Nvx::Util::RegistryKey;
 
 namespace {
 
-// Keeps what the page would show.
-class RecordingBoxes : public LauncherBoxes
+const QString nx10Key = u"HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\10.0"_s;
+
+// Records how the search sets the check boxes of a page.
+class RecordingCheckBoxes : public LauncherCheckBoxes
 {
 public:
-    void setFound(Launcher launcher, bool found) override { ticked[place(launcher)] = found; }
-    void setLabel(Launcher launcher, const QString &label) override { labels[place(launcher)] = label; }
-    bool isTicked(Launcher launcher) const override { return ticked[place(launcher)]; }
+    RecordingCheckBoxes()
+    {
+        for (const CadSystem &system : cadSystems())
+            checked.insert(system.launcher);
+    }
 
-    static size_t place(Launcher launcher) { return static_cast<size_t>(launcher); }
+    void setFound(Launcher launcher, bool found) override
+    {
+        if (found)
+            checked.insert(launcher);
+        else
+            checked.remove(launcher);
+    }
+    void setLabel(Launcher launcher, const QString &label) override { labels.insert(launcher, label); }
+    bool isChecked(Launcher launcher) const override { return checked.contains(launcher); }
 
-    std::array<bool, launcherCount> ticked{true, true, true, true, true, true, true, true};
-    std::array<QString, launcherCount> labels;
+    QSet<Launcher> checked;
+    QHash<Launcher, QString> labels;
 };
 
 } // namespace
@@ -36,68 +54,67 @@ private slots:
     {
         m_fixture = std::make_unique<EngineFixture>();
         writeFile(m_fixture->installed("NVXSolver.exe"));
-        nx10().setText(text("UGII_BASE_DIR"), text("C:\\NX 10"));
+        nx10().setText(u"UGII_BASE_DIR"_s, u"C:\\NX 10"_s);
     }
 
     void cleanup()
     {
-        nx10().removeValue(text("UGII_BASE_DIR"));
+        nx10().removeValue(u"UGII_BASE_DIR"_s);
         m_fixture.reset();
     }
 
-    void theSearchKeepsWhatItFindsAndSetsTheBoxes()
+    void theSearchStoresItsResultsAndSetsTheCheckBoxes()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
-        RecordingBoxes boxes;
-        engine.setLauncherBoxes(&boxes);
+        cfg_utilitys &engine = m_fixture->start(u"-I -S"_s);
+        RecordingCheckBoxes checkBoxes;
+        engine.setLauncherCheckBoxes(&checkBoxes);
         engine.searchCADPackages();
         QCOMPARE(engine.cadPackages().nxIndex, 5);
-        QCOMPARE(engine.cadPackages().nxInstallDirs[5], text("C:\\NX 10"));
-        for (int launcher = 0; launcher < launcherCount; ++launcher) {
-            const bool isNx = launcher == static_cast<int>(Launcher::Nx);
-            QCOMPARE(boxes.ticked[static_cast<size_t>(launcher)], isNx);
-            QCOMPARE(boxes.labels[static_cast<size_t>(launcher)], isNx ? text("UGS NX 10.0") : QString());
-        }
+        QCOMPARE(engine.cadPackages().nxInstalls, QList<NxInstall>({{5, u"C:\\NX 10"_s, nx10Key}}));
+        QCOMPARE(checkBoxes.checked, QSet<Launcher>({Launcher::Nx}));
+        const QHash<Launcher, QString> labels{{Launcher::Nx, u"UGS NX 10.0"_s}};
+        QCOMPARE(checkBoxes.labels, labels);
     }
 
-    void theSearchIsLoggedFromItsFirstLineToItsLast()
+    void theLinesOfTheSearchAreLoggedBetweenItsFirstAndItsLast()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
+        cfg_utilitys &engine = m_fixture->start(u"-I -S"_s);
         const qsizetype before = m_fixture->lines().size();
         engine.searchCADPackages();
-        const QStringList lines = m_fixture->lines().mid(before);
-        QCOMPARE(lines.first(), text("   0 Searching for CAD Packages"));
-        QCOMPARE(lines.at(1), text("   0 Brevant lastversionrun="));
-        QVERIFY(lines.contains(text("   0 Found UGNX=5")));
-        QCOMPARE(lines.at(lines.size() - 2), text("   0 Found Spaceclaim=0"));
-        QCOMPARE(lines.last(), text("   0 Finished searching for CAD Packages"));
+        QStringList expected{u"   0 Searching for CAD Packages"_s};
+        const CadSearch search = searchCadPackages(MachineRegistryListing(), u"Found "_s);
+        for (const QString &line : search.lines)
+            expected << u"   0 "_s + line;
+        expected << u"   0 Finished searching for CAD Packages"_s;
+        QCOMPARE(m_fixture->lines().mid(before), expected);
+        QVERIFY(expected.contains(u"   0 Found UGNX=5"_s));
     }
 
-    void aSecondSearchForgetsWhatTheFirstHasFound()
+    void aSecondSearchDropsTheResultsOfTheFirst()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-I -S"));
-        RecordingBoxes boxes;
-        engine.setLauncherBoxes(&boxes);
+        cfg_utilitys &engine = m_fixture->start(u"-I -S"_s);
+        RecordingCheckBoxes checkBoxes;
+        engine.setLauncherCheckBoxes(&checkBoxes);
         engine.searchCADPackages();
-        nx10().removeValue(text("UGII_BASE_DIR"));
+        nx10().removeValue(u"UGII_BASE_DIR"_s);
         engine.searchCADPackages();
         QCOMPARE(engine.cadPackages().nxIndex, -1);
-        QCOMPARE(engine.cadPackages().nxInstallDirs[5], QString());
-        QVERIFY(!boxes.isTicked(Launcher::Nx));
+        QVERIFY(engine.cadPackages().nxInstalls.isEmpty());
+        QVERIFY(!checkBoxes.isChecked(Launcher::Nx));
     }
 
-    void theSearchIsSuppressed_data()
+    void theModeDecidesWhetherTheSearchRuns_data()
     {
         QTest::addColumn<QString>("options");
         QTest::addColumn<bool>("searches");
-        QTest::newRow("install") << text("-I") << true;
-        QTest::newRow("uninstall") << text("-U") << true;
+        QTest::newRow("install") << u"-I"_s << true;
+        QTest::newRow("uninstall") << u"-U"_s << true;
         QTest::newRow("no mode") << QString() << true;
-        QTest::newRow("stop services") << text("-ST") << false;
-        QTest::newRow("localisation") << text("-T") << false;
+        QTest::newRow("stop services") << u"-ST"_s << false;
+        QTest::newRow("localisation") << u"-T"_s << false;
     }
 
-    void theSearchIsSuppressed()
+    void theModeDecidesWhetherTheSearchRuns()
     {
         QFETCH(QString, options);
         cfg_utilitys &engine = m_fixture->start(options);
@@ -107,11 +124,11 @@ private slots:
         QTEST(engine.cadPackages().nxIndex == 5, "searches");
     }
 
-    void theGuardsActOnTheMachineAndAnswerWhetherTheirQuestionWasDismissed()
+    void theGuardsReturnWhetherTheirQuestionWasDismissed()
     {
-        cfg_utilitys &engine = m_fixture->start(text("-I"));
-        m_fixture->machine.running.add(text("C:\\xtop.exe"));
-        m_fixture->machine.running.add(text("C:\\NVX 2017\\NVX.exe"));
+        cfg_utilitys &engine = m_fixture->start(u"-I"_s);
+        m_fixture->machine.running.add(u"C:\\xtop.exe"_s);
+        m_fixture->machine.running.add(u"C:\\NVX 2017\\NVX.exe"_s);
         m_fixture->machine.answer = Nvx::Util::Answer::Dismissed;
         QVERIFY(engine.checkRunningCAD());
         QVERIFY(engine.checkRunningProduct(OnMatch::List));
@@ -120,14 +137,11 @@ private slots:
         QVERIFY(!engine.checkRunningCAD());
         QVERIFY(!engine.checkRunningProduct(OnMatch::Terminate));
         QCOMPARE(m_fixture->machine.running.ended.size(), 2);
-        QCOMPARE(m_fixture->lines().last(), text("   0 Velmora NVX terminated"));
+        QCOMPARE(m_fixture->lines().last(), u"   0 Velmora NVX terminated"_s);
     }
 
 private:
-    static RegistryKey nx10()
-    {
-        return RegistryKey(text("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\10.0"));
-    }
+    static RegistryKey nx10() { return RegistryKey(nx10Key); }
 
     std::unique_ptr<EngineFixture> m_fixture;
 };

@@ -122,7 +122,7 @@ private:
     void putCadSystems()
     {
         const QString creo = joinPath(m_folder, u"PTC/Creo 3.0/Parametric"_s);
-        protk = protkPath(creo, QString(), 3);
+        protk = Nvx::Cad::protkPath(creo, QString(), 3);
         writeFile(protk, foreignEntries);
         const QString software = u"HKEY_LOCAL_MACHINE\\Software\\"_s;
         RegistryKey(software + u"PTC\\Creo Parametric\\3.0\\F000"_s).setText(u"InstallDir"_s, creo);

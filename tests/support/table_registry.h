@@ -6,7 +6,7 @@
 #include <QPair>
 
 /// A registry of the values that a test has put into it.
-class TableRegistry : public RegistryListing
+class TableRegistry : public Nvx::Cad::RegistryListing
 {
 public:
     /// Adds a value, at the end of its key; a value of the same name, in any case, is replaced.
@@ -34,9 +34,9 @@ public:
         return paths;
     }
 
-    QList<ListedValue> valuesBelow(const QString &key) const override
+    QList<Nvx::Cad::ListedValue> valuesBelow(const QString &key) const override
     {
-        QList<ListedValue> values;
+        QList<Nvx::Cad::ListedValue> values;
         const QString place = placeOf(key);
         for (auto found = m_keys.lowerBound(place); found != m_keys.end(); ++found) {
             const bool isBelow = found.key().startsWith(place + separator);
@@ -44,7 +44,7 @@ public:
                 break;
             const QString prefix = prefixOf(found->path.mid(key.size()));
             for (const auto &[name, text] : found->values)
-                values.append({prefix + listedName(name), text});
+                values.append({prefix + Nvx::Cad::listedName(name), text});
         }
         return values;
     }
@@ -76,7 +76,7 @@ private:
         QString prefix;
         const QStringList levels = pathFromKey.split(QLatin1Char('\\'), Qt::SkipEmptyParts);
         for (const QString &level : levels)
-            prefix += listedName(level) + QLatin1Char('/');
+            prefix += Nvx::Cad::listedName(level) + QLatin1Char('/');
         return prefix;
     }
 

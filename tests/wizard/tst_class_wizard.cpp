@@ -1,3 +1,4 @@
+#include "cad/cad_systems.h"
 #include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
@@ -222,7 +223,7 @@ private slots:
 
         wizard.next();
         const auto boxes = wizard.currentPage()->findChildren<QCheckBox *>();
-        QCOMPARE(boxes.size(), 8);
+        QCOMPARE(boxes.size(), static_cast<qsizetype>(Nvx::Cad::cadSystems().size()));
         for (QCheckBox *box : boxes)
             box->setEnabled(true);
         boxes.first()->setFocus();

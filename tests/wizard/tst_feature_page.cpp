@@ -1,3 +1,4 @@
+#include "cad/cad_systems.h"
 #include "cfg_wizard/feature_page.h"
 #include "engine/engine_fixture.h"
 #include "support/test_class.h"
@@ -9,24 +10,19 @@
 #include <QTest>
 #include <QWizard>
 
+using namespace Nvx::Cad;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-void addBoxRows()
+void addRowsOfTheTable()
 {
     QTest::addColumn<int>("launcher");
     QTest::addColumn<QString>("label");
     QTest::addColumn<int>("gridRow");
-    const auto row = [](Launcher launcher, const char *label, int gridRow) {
-        QTest::newRow(label) << int(launcher) << text(label) << gridRow;
-    };
-    row(Launcher::Creo, "Pro/ENGINEER Creo", 7);
-    row(Launcher::SolidWorks, "SolidWorks", 8);
-    row(Launcher::Brevant, "Brevant", 9);
-    row(Launcher::Nx, "UGS NX", 10);
-    row(Launcher::Tamsel, "Tamsel", 12);
-    row(Launcher::TamselArchitecture, "Tamsel Architecture", 13);
-    row(Launcher::TamselMep, "Tamsel MEP", 14);
-    row(Launcher::SpaceClaim, "SpaceClaim", 16);
+    for (const CadSystem &system : cadSystems())
+        QTest::newRow(system.label) << static_cast<int>(system.launcher) << QString::fromLatin1(system.label)
+                                    << system.gridRow;
 }
 
 } // namespace
@@ -39,7 +35,7 @@ private slots:
     void init()
     {
         m_fixture = std::make_unique<EngineFixture>();
-        m_page = std::make_unique<FeaturePage>(m_fixture->start(text("-I")));
+        m_page = std::make_unique<FeaturePage>(m_fixture->start(u"-I"_s));
     }
     void cleanup()
     {
@@ -47,9 +43,9 @@ private slots:
         m_fixture.reset();
     }
 
-    void everyBoxLiesInItsRow_data() { addBoxRows(); }
+    void everyCheckBoxIsInItsRow_data() { addRowsOfTheTable(); }
 
-    void everyBoxLiesInItsRow()
+    void everyCheckBoxIsInItsRow()
     {
         QFETCH(QString, label);
         const QGridLayout &grid = layout();
@@ -57,17 +53,29 @@ private slots:
         int column = 0;
         int rows = 0;
         int columns = 0;
-        QVERIFY(boxWith(label));
-        grid.getItemPosition(grid.indexOf(boxWith(label)), &row, &column, &rows, &columns);
+        QVERIFY(checkBoxWith(label));
+        grid.getItemPosition(grid.indexOf(checkBoxWith(label)), &row, &column, &rows, &columns);
         QTEST(row, "gridRow");
         QCOMPARE(rows, 1);
         QCOMPARE(columns, 3);
     }
 
-    void theGridHoldsTheDescriptionAndEightBoxes()
+    void theTabKeyFollowsTheRows()
+    {
+        const auto checkBoxes = m_page->findChildren<QCheckBox *>();
+        QCOMPARE(checkBoxes.size(), static_cast<qsizetype>(cadSystems().size()));
+        int previousRow = 0;
+        for (QCheckBox *checkBox : checkBoxes) {
+            const int row = rowOf(*checkBox);
+            QVERIFY2(row > previousRow, qPrintable(checkBox->text()));
+            previousRow = row;
+        }
+    }
+
+    void theGridContainsTheDescriptionAndTheCheckBoxes()
     {
         const QGridLayout &grid = layout();
-        QCOMPARE(grid.count(), 9);
+        QCOMPARE(grid.count(), 1 + static_cast<int>(cadSystems().size()));
         QCOMPARE(grid.columnMinimumWidth(0), 60);
         QCOMPARE(grid.rowMinimumHeight(0), 40);
         const auto *description = qobject_cast<QLabel *>(grid.itemAtPosition(0, 0)->widget());
@@ -79,51 +87,61 @@ private slots:
         grid.getItemPosition(grid.indexOf(description), &row, &column, &rows, &columns);
         QCOMPARE(QList<int>({row, column, rows, columns}), QList<int>({0, 0, 1, 3}));
         QCOMPARE(description->text(),
-                 text("NVX launchers will be installed for the CAD systems that are checked."));
+                 u"NVX launchers will be installed for the CAD systems that are checked."_s);
     }
 
-    void whatWasFoundIsEnabledAndTicked_data() { addBoxRows(); }
+    void aFoundSystemIsEnabledAndChecked_data() { addRowsOfTheTable(); }
 
-    void whatWasFoundIsEnabledAndTicked()
+    void aFoundSystemIsEnabledAndChecked()
     {
         QFETCH(int, launcher);
         QFETCH(QString, label);
         const auto which = static_cast<Launcher>(launcher);
-        const QCheckBox *box = boxWith(label);
+        const QCheckBox *checkBox = checkBoxWith(label);
         m_page->setFound(which, true);
-        QVERIFY(box->isEnabled() && box->isChecked() && m_page->isTicked(which));
+        QVERIFY(checkBox->isEnabled() && checkBox->isChecked() && m_page->isChecked(which));
         m_page->setFound(which, false);
-        QVERIFY(!box->isEnabled() && !box->isChecked() && !m_page->isTicked(which));
-        m_page->setLabel(which, text("with versions 1 2"));
-        QCOMPARE(box->text(), text("with versions 1 2"));
+        QVERIFY(!checkBox->isEnabled() && !checkBox->isChecked() && !m_page->isChecked(which));
+        m_page->setLabel(which, u"with versions 1 2"_s);
+        QCOMPARE(checkBox->text(), u"with versions 1 2"_s);
     }
 
-    void aTickReachesItsLauncherAndNoOther_data() { addBoxRows(); }
+    void aClickUnchecksItsLauncherAndNoOther_data() { addRowsOfTheTable(); }
 
-    void aTickReachesItsLauncherAndNoOther()
+    void aClickUnchecksItsLauncherAndNoOther()
     {
         QFETCH(int, launcher);
         QFETCH(QString, label);
-        for (int i = 0; i < launcherCount; ++i)
-            m_page->setFound(static_cast<Launcher>(i), true);
-        QCheckBox *box = boxWith(label);
+        for (const CadSystem &system : cadSystems())
+            m_page->setFound(system.launcher, true);
+        QCheckBox *checkBox = checkBoxWith(label);
         m_page->show();
-        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(5, box->height() / 2));
-        for (int i = 0; i < launcherCount; ++i)
-            QCOMPARE(m_page->isTicked(static_cast<Launcher>(i)), i != launcher);
-        QTest::keyClick(box, Qt::Key_Space);
-        QVERIFY(m_page->isTicked(static_cast<Launcher>(launcher)));
+        QTest::mouseClick(checkBox, Qt::LeftButton, {}, QPoint(5, checkBox->height() / 2));
+        for (const CadSystem &system : cadSystems())
+            QCOMPARE(m_page->isChecked(system.launcher), system.launcher != static_cast<Launcher>(launcher));
+        QTest::keyClick(checkBox, Qt::Key_Space);
+        QVERIFY(m_page->isChecked(static_cast<Launcher>(launcher)));
     }
 
 private:
     const QGridLayout &layout() const { return *qobject_cast<QGridLayout *>(m_page->layout()); }
 
-    QCheckBox *boxWith(const QString &label) const
+    int rowOf(QCheckBox &checkBox) const
     {
-        const auto boxes = m_page->findChildren<QCheckBox *>();
-        for (QCheckBox *box : boxes) {
-            if (box->text() == label)
-                return box;
+        int row = -1;
+        int column = -1;
+        int rows = 0;
+        int columns = 0;
+        layout().getItemPosition(layout().indexOf(&checkBox), &row, &column, &rows, &columns);
+        return row;
+    }
+
+    QCheckBox *checkBoxWith(const QString &label) const
+    {
+        const auto checkBoxes = m_page->findChildren<QCheckBox *>();
+        for (QCheckBox *checkBox : checkBoxes) {
+            if (checkBox->text() == label)
+                return checkBox;
         }
         return nullptr;
     }

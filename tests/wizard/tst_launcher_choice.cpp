@@ -87,7 +87,7 @@ private:
     cfg_utilitys &start(const QString &options) const
     {
         cfg_utilitys &engine = m_fixture->start(options);
-        SharedFolders folders;
+        Nvx::Cad::SharedFolders folders;
         folders.spaceClaimAddin = m_fixture->test.path(u"Addins"_s);
         engine.setSharedFolders(folders);
         return engine;

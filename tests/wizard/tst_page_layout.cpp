@@ -1,6 +1,7 @@
 // Every text on the pages fits, in every language and at the usual text sizes. If the variable NVX_PICTURES
 // is set, pictures of the pages are saved in the folder that it names.
 
+#include "cad/cad_systems.h"
 #include "cfg_wizard/feature_page.h"
 #include "cfg_wizard/interface_font.h"
 #include "cfg_wizard/interface_translators.h"
@@ -67,8 +68,9 @@ QStringList crampedTexts(const QWizard &wizard)
 // The check boxes of a machine with many CAD systems.
 void labelBoxes(FeaturePage &page)
 {
-    for (int i = 0; i < launcherCount; ++i)
-        page.setFound(static_cast<Launcher>(i), i != static_cast<int>(Launcher::TamselMep));
+    using Nvx::Cad::Launcher;
+    for (const auto &system : Nvx::Cad::cadSystems())
+        page.setFound(system.launcher, system.launcher != Launcher::TamselMep);
     page.setLabel(Launcher::Creo, u"Creo Parametric 1.0 2.0 3.0"_s);
     page.setLabel(Launcher::Nx, u"UGS NX 8.5 8.5.0 9.0 9.5 9.5.0 10.0 10.5.0 11.0"_s);
     page.setLabel(Launcher::TamselArchitecture, u"Tamsel Architecture 2015 2016 2017 2018"_s);

@@ -1,10 +1,31 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
-#include <array>
+namespace Nvx::Cad {
 
-/// The editions of Tamsel, each of which has a launcher of its own.
+/// A release of Creo Parametric in the registry.
+struct CreoInstall
+{
+    int release = 0;    ///< 1 to 3
+    QString installDir; ///< empty if the registry has only the ship code
+    QString shipCode;
+
+    bool operator==(const CreoInstall &) const = default;
+};
+
+/// A version of NX in the registry.
+struct NxInstall
+{
+    int index = -1;      ///< in nxVersions
+    QString installDir;  ///< may be empty
+    QString registryKey; ///< the key that names the folder
+
+    bool operator==(const NxInstall &) const = default;
+};
+
+/// The editions of Tamsel. Each has a check box of its own.
 enum class TamselEdition
 {
     Plain,
@@ -12,28 +33,40 @@ enum class TamselEdition
     Mep
 };
 
-constexpr int tamselEditionCount = 3;
+/// One year of an edition of Tamsel.
+struct TamselInstall
+{
+    TamselEdition edition = TamselEdition::Plain;
+    int year = 0;
+    QString installDir; ///< never empty
 
-/// The CAD systems found on the machine. The places of a table that are named beside it are in use.
+    bool operator==(const TamselInstall &) const = default;
+};
+
+/// The CAD systems found on the machine.
 struct CadPackages
 {
-    int brevantVersion = 0;  ///< newest year, 0 for not found
+    int brevantVersion = 0;  ///< newest year, 0 if not found
     QString brevantVersions; ///< each year followed by a blank
 
-    int creoVersion = 0;                    ///< newest major release, 0 for not found
-    std::array<QString, 4> creoInstallDirs; ///< by release, 1 to 3; empty for not found
-    std::array<QString, 4> creoShipCodes;   ///< by release, 1 to 3
+    int creoVersion = 0;             ///< newest major release, 0 if not found
+    QList<CreoInstall> creoInstalls; ///< in ascending order
 
-    int solidWorksVersion = 0;    ///< newest year, 0 for not found
-    QString solidWorksInstallDir; ///< of the last year probed that had one
+    int solidWorksVersion = 0;    ///< newest year, 0 if not found
+    QString solidWorksInstallDir; ///< of the newest year with a folder
 
-    int nxIndex = -1;                     ///< last place found in the tables below, -1 for not found
-    std::array<QString, 8> nxInstallDirs; ///< by version, empty for not found
-    std::array<QString, 8> nxKeys;        ///< the registry key that named the folder, by version
+    int nxIndex = -1;            ///< of the last version found, -1 if none was
+    QList<NxInstall> nxInstalls; ///< in ascending order
 
-    /// By edition and year less 2010, 5 to 8; empty for not found.
-    std::array<std::array<QString, 9>, tamselEditionCount> tamselInstallDirs;
-    std::array<QString, tamselEditionCount> tamselVersions; ///< by edition, each year after a blank
+    QList<TamselInstall> tamselInstalls; ///< by edition, each in ascending order
 
     bool spaceClaimFound = false;
+
+    /// The install of a release; a default one if it was not found.
+    CreoInstall creoInstall(int release) const;
+
+    /// Each year found of an edition, after a blank; empty if none was.
+    QString tamselVersions(TamselEdition edition) const;
 };
+
+} // namespace Nvx::Cad

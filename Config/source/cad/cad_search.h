@@ -1,33 +1,34 @@
 #pragma once
 
 #include "cad/cad_packages.h"
-#include "run/launcher_boxes.h"
+#include "cad/launcher_check_boxes.h"
 
-#include <QCoreApplication>
 #include <QList>
 #include <QStringList>
 
+#include <optional>
+
+namespace Nvx::Cad {
+
 class RegistryListing;
 
-/// How the search leaves one box.
-struct LauncherBox
+/// How the search sets a check box.
+struct CheckBoxState
 {
     Launcher launcher;
-    bool found;
-    QString label; ///< empty leaves the text as it is
+    std::optional<QString> label; ///< std::nullopt if the CAD system was not found
 };
 
-/// What the search for CAD systems came to.
+/// The results of a search for CAD systems.
 struct CadSearch
 {
-    Q_DECLARE_TR_FUNCTIONS(CadSearch)
-
-public:
     CadPackages packages;
-    QList<LauncherBox> boxes; ///< one for each launcher
-    QStringList lines;        ///< for the log, in order
+    QList<CheckBoxState> checkBoxes; ///< one for each launcher
+    QStringList lines;               ///< of the log, in order
 };
 
-/// Searches the registry for the CAD systems that have a launcher. foundWord begins the lines that say what
-/// was found. What is missing from the registry reads as empty; nothing fails.
+/// Searches the registry for the CAD systems that have a launcher. foundWord begins the log's lines about
+/// what was found. Missing keys and values read as empty; the search cannot fail.
 CadSearch searchCadPackages(const RegistryListing &registry, const QString &foundWord);
+
+} // namespace Nvx::Cad

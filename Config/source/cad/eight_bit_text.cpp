@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace Nvx::Cad {
+
 namespace {
 
 constexpr char lowered(char byte)
@@ -22,7 +24,7 @@ bool isAsciiFoundIn(QByteArrayView bytes, QByteArrayView text)
 
 CaselessSearch::CaselessSearch(const QString &text)
     : m_text(text)
-    , m_written(Nvx::Util::toAnsi(text))
+    , m_encoded(Util::toAnsi(text))
     , m_isAscii(
           std::all_of(text.begin(), text.end(), [](QChar character) { return character.unicode() < 0x80; }))
 {
@@ -30,12 +32,14 @@ CaselessSearch::CaselessSearch(const QString &text)
 
 bool CaselessSearch::isFoundIn(QByteArrayView bytes) const
 {
-    if (!m_written)
+    if (!m_encoded)
         return false;
     if (m_isAscii)
-        return isAsciiFoundIn(bytes, *m_written);
-    // The bytes are looked at too: where those in front are no text, decoding could swallow the beginning of
-    // what we look for.
-    return bytes.indexOf(*m_written) >= 0 ||
+        return isAsciiFoundIn(bytes, *m_encoded);
+    // The bytes are searched too: after an invalid byte, decoding could swallow the first character of a
+    // match.
+    return bytes.indexOf(*m_encoded) >= 0 ||
            QString::fromLocal8Bit(bytes).contains(m_text, Qt::CaseInsensitive);
 }
+
+} // namespace Nvx::Cad

@@ -5,9 +5,11 @@
 
 #include <optional>
 
-/// Looks for a text, without case, in 8-bit text of somebody else's, which is in the system's ANSI code page
-/// or in none. Bytes that are no text there are not in the way. A text that the code page cannot write is
-/// found nowhere.
+namespace Nvx::Cad {
+
+/// Searches for a string, ignoring case, in 8-bit text of another program, which is normally in the system's
+/// ANSI code page. Bytes that are not valid in it do no harm. A string that the code page cannot encode is
+/// never found.
 class CaselessSearch
 {
 public:
@@ -17,6 +19,8 @@ public:
 
 private:
     QString m_text;
-    std::optional<QByteArray> m_written; ///< the text in the code page
+    std::optional<QByteArray> m_encoded; ///< m_text in the code page
     bool m_isAscii;
 };
+
+} // namespace Nvx::Cad

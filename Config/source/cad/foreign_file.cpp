@@ -7,6 +7,10 @@
 
 #include <QCoreApplication>
 
+using namespace Nvx::Run;
+
+namespace Nvx::Cad {
+
 namespace {
 
 struct Messages
@@ -18,7 +22,7 @@ struct Messages
 
 std::optional<QByteArray> readForeignFile(const QString &path)
 {
-    std::optional<QByteArray> contents = Nvx::Util::readWholeFile(path);
+    std::optional<QByteArray> contents = Util::readWholeFile(path);
     if (!contents)
         qCWarning(diagnostics, "Unable to read %ls", qUtf16Printable(path));
     return contents;
@@ -26,17 +30,19 @@ std::optional<QByteArray> readForeignFile(const QString &path)
 
 std::optional<QByteArray> toForeignText(Reporter &reporter, const QString &path, const QString &text)
 {
-    std::optional<QByteArray> written = Nvx::Util::toAnsi(text);
-    if (!written)
+    std::optional<QByteArray> encoded = Util::toAnsi(text);
+    if (!encoded)
         reporter.log(LogLevel::failure,
                      Messages::tr("The system's code page cannot write the name of the install folder, the "
                                   "launcher is not entered into %1")
                          .arg(path));
-    return written;
+    return encoded;
 }
 
 void replaceForeignFile(const QString &path, const QByteArray &contents)
 {
-    if (!Nvx::Util::replaceWholeFile(path, contents))
+    if (!Util::replaceWholeFile(path, contents))
         qCWarning(diagnostics, "Unable to write %ls", qUtf16Printable(path));
 }
+
+} // namespace Nvx::Cad

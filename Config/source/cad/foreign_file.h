@@ -7,15 +7,19 @@
 
 #include <optional>
 
-// Files of the CAD systems, which exist before the product and outlive it.
+// Files of the CAD systems, which exist before the product is installed and after it is removed.
 
-/// The whole file; nothing, and a diagnostic warning, when not all of it can be read.
+namespace Nvx::Cad {
+
+/// The whole file; std::nullopt and a diagnostic warning if not all of it can be read.
 std::optional<QByteArray> readForeignFile(const QString &path);
 
-/// The text as it is to be added to the file, in the system's ANSI code page; nothing, and a line in the log
-/// at level 1, when the code page cannot write it, which only the name of an install folder can bring about.
-std::optional<QByteArray> toForeignText(Reporter &reporter, const QString &path, const QString &text);
+/// The text in the system's ANSI code page, to be added to the file at path. std::nullopt and a line in the
+/// log at level 1 if the code page cannot encode it, which only the name of the install folder can cause.
+std::optional<QByteArray> toForeignText(Run::Reporter &reporter, const QString &path, const QString &text);
 
-/// Makes the bytes the contents of the file, whole or not at all. A file that is write-protected or in use
-/// stays as it is, which is a diagnostic warning.
+/// Replaces the file's contents whole or not at all. A file that is write-protected or in use is left as it
+/// is, with a diagnostic warning.
 void replaceForeignFile(const QString &path, const QByteArray &contents);
+
+} // namespace Nvx::Cad

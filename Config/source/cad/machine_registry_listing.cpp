@@ -4,6 +4,8 @@
 
 using Nvx::Util::RegistryKey;
 
+namespace Nvx::Cad {
+
 namespace {
 
 void listInto(QList<ListedValue> &values, const QString &path, const QString &prefix)
@@ -14,7 +16,7 @@ void listInto(QList<ListedValue> &values, const QString &path, const QString &pr
         values.append({prefix + listedName(name), key.textOrNumber(name).value_or(QString())});
     const QStringList subKeys = key.subKeyNames();
     for (const QString &subKey : subKeys)
-        listInto(values, path + QLatin1Char('\\') + subKey, prefix + listedName(subKey) + QLatin1Char('/'));
+        listInto(values, path + u'\\' + subKey, prefix + listedName(subKey) + u'/');
 }
 
 } // namespace
@@ -30,3 +32,5 @@ QString MachineRegistryListing::valueOf(const QString &key, const QString &value
 {
     return RegistryKey(key).textOrNumber(valueName).value_or(QString());
 }
+
+} // namespace Nvx::Cad

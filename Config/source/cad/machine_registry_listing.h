@@ -2,6 +2,8 @@
 
 #include "cad/registry_listing.h"
 
+namespace Nvx::Cad {
+
 /// The registry of the machine.
 class MachineRegistryListing final : public RegistryListing
 {
@@ -9,3 +11,5 @@ public:
     QList<ListedValue> valuesBelow(const QString &key) const override;
     QString valueOf(const QString &key, const QString &valueName) const override;
 };
+
+} // namespace Nvx::Cad

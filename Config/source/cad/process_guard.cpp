@@ -1,5 +1,6 @@
 #include "cad/process_guard.h"
 
+#include "cad/cad_systems.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/product.h"
 #include "run/reporter.h"
@@ -10,6 +11,10 @@
 
 using Nvx::Util::Answer;
 using Nvx::Util::BoxKind;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
@@ -18,7 +23,7 @@ struct ProcessGuard
     Q_DECLARE_TR_FUNCTIONS(ProcessGuard)
 };
 
-// The programs of a guard; the names of each stand at the same place.
+// The programs of a guard, in two parallel lists as findProcesses takes them.
 struct GuardedPrograms
 {
     QStringList exeNames;
@@ -33,21 +38,22 @@ struct GuardedPrograms
 
 GuardedPrograms cadPrograms()
 {
-    return {{QStringLiteral("XTOP.EXE"), QStringLiteral("SLDWORKS.EXE"), QStringLiteral("SPACECLAIM.EXE"),
-             QStringLiteral("BREVANT.EXE"), QStringLiteral("SOLIDDESIGNER.EXE"), QStringLiteral("EDGE.EXE")},
-            {QStringLiteral("Wildfire"), QStringLiteral("SolidWorks"), QStringLiteral("Spaceclaim"),
-             QStringLiteral("Brevant"), QStringLiteral("SolidDesigner"), QStringLiteral("SolidEdge")},
-            QString()};
+    GuardedPrograms programs;
+    const QList<GuardedProgram> guarded = guardedCadPrograms();
+    for (const GuardedProgram &program : guarded) {
+        programs.exeNames.append(program.fileName);
+        programs.displayNames.append(program.displayName);
+    }
+    return programs;
 }
 
-// The release is part of the install dir's path, which tells its programs from those of other releases.
+// The path of the install dir contains the release, which excludes the programs of other releases.
 GuardedPrograms productPrograms()
 {
-    return {{Nvx::Product::program.toUpper(), Nvx::Product::solverProgram.toUpper(),
-             Nvx::Product::serverProgram.toUpper(), Nvx::Product::monitorProgram.toUpper()},
-            {QStringLiteral("Velmora NVX"), QStringLiteral("NVXSolver"), QStringLiteral("NVXServer"),
-             Nvx::Product::jobMonitor},
-            Nvx::Product::release};
+    return {.exeNames = {Product::program.toUpper(), Product::solverProgram.toUpper(),
+                         Product::serverProgram.toUpper(), Product::monitorProgram.toUpper()},
+            .displayNames = {u"Velmora NVX"_s, u"NVXSolver"_s, u"NVXServer"_s, Product::jobMonitor},
+            .pathFilter = Product::release};
 }
 
 QString closingSentences(const QStringList &names)
@@ -61,10 +67,10 @@ QString closingSentences(const QStringList &names)
 
 QString question(const QString &sentence, const QStringList &names)
 {
-    return sentence.arg(names.join(QLatin1Char(','))) + QStringLiteral("\n\n") + closingSentences(names);
+    return sentence.arg(names.join(u',')) + u"\n\n"_s + closingSentences(names);
 }
 
-// Yes does not wait until the programs are stopped: it stops them. Nobody looks again afterwards.
+// Yes does not wait for the user to stop the programs: it ends them. There is no second check.
 bool act(const StepContext &context, const GuardedPrograms &programs, Answer answer)
 {
     if (answer == Answer::Yes)
@@ -74,7 +80,7 @@ bool act(const StepContext &context, const GuardedPrograms &programs, Answer ans
 
 QString onOrOff(bool on)
 {
-    return on ? QStringLiteral("on") : QStringLiteral("off");
+    return on ? u"on"_s : u"off"_s;
 }
 
 } // namespace
@@ -111,16 +117,18 @@ bool guardAgainstRunningCad(const StepContext &context)
 bool guardAgainstRunningProduct(const StepContext &context, OnMatch onMatch)
 {
     context.reporter.log(LogLevel::step,
-                         QStringLiteral("CheckForRunningOstrade: silent=%1 terminate=%2")
-                             .arg(onOrOff(context.state.silent), onOrOff(onMatch == OnMatch::Terminate)));
+                         u"CheckForRunningOstrade: silent=%1 terminate=%2"_s.arg(
+                             onOrOff(context.state.silent), onOrOff(onMatch == OnMatch::Terminate)));
     const GuardedPrograms programs = productPrograms();
     const QStringList running = programs.find(context, onMatch);
     if (running.isEmpty())
         return false;
     if (context.state.silent)
         return act(context, programs, Answer::Yes);
-    const Answer answer = context.machine.ask(
-        BoxKind::Question, ProcessGuard::tr("Velmora %1 Installation").arg(Nvx::Product::name),
-        runningProductQuestion(running));
+    const Answer answer =
+        context.machine.ask(BoxKind::Question, ProcessGuard::tr("Velmora %1 Installation").arg(Product::name),
+                            runningProductQuestion(running));
     return act(context, programs, answer);
 }
+
+} // namespace Nvx::Cad

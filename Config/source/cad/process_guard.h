@@ -9,17 +9,20 @@ namespace Nvx::Run {
 struct StepContext;
 }
 
-/// Asks what is to happen to running CAD systems, in silent runs too, and ends them when the user says so.
-/// True only when the question was dismissed.
-bool guardAgainstRunningCad(const StepContext &context);
+namespace Nvx::Cad {
 
-/// The same for the product's own programs, those of its other releases left out. A silent run ends them
-/// without asking. Programs that are to be ended when they are found are ended without a question in any run.
-bool guardAgainstRunningProduct(const StepContext &context, OnMatch onMatch);
+/// Asks the user what to do about running CAD systems, in silent runs too, and ends them on Yes. Returns true
+/// only if the question was dismissed.
+bool guardAgainstRunningCad(const Run::StepContext &context);
 
-/// The question about running CAD systems with these names for people, one for each process; there is at
-/// least one.
+/// Does the same for the product's own programs, but not for those of its other releases. A silent run ends
+/// them without asking. With OnMatch::Terminate they are ended without asking in any run.
+bool guardAgainstRunningProduct(const Run::StepContext &context, Run::OnMatch onMatch);
+
+/// The question about running CAD systems. names has the display name of each process, and is not empty.
 QString runningCadQuestion(const QStringList &names);
 
-/// The question about running programs of the product.
+/// The same question about running programs of the product.
 QString runningProductQuestion(const QStringList &names);
+
+} // namespace Nvx::Cad

@@ -3,25 +3,26 @@
 #include <QList>
 #include <QString>
 
+namespace Nvx::Cad {
+
 /// A value in a listing of a registry key.
 struct ListedValue
 {
-    /// Its path from the key on, "/" between the levels. A "/" in a name of the registry is listed as "\",
-    /// and the default value as ".".
+    /// Its path from the key, with "/" between the levels. A "/" in a name is listed as "\", and the default
+    /// value as ".".
     QString name;
-    QString text; ///< a number in decimal digits; empty when it is neither text nor number
+    QString text; ///< a number in decimal digits; empty if the value is neither text nor number
 };
 
-/// How the name of a key or value stands in a listing.
+/// The name of a key or value in a listing.
 inline QString listedName(QString nameInRegistry)
 {
     if (nameInRegistry.isEmpty())
         return QStringLiteral(".");
-    return nameInRegistry.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    return nameInRegistry.replace(u'/', u'\\');
 }
 
-/// What the search for CAD systems looks at: keys of the registry, named by their whole paths. A key that is
-/// missing holds nothing.
+/// The registry as the search for CAD systems reads it: keys by their full paths. A missing key is empty.
 class RegistryListing
 {
 public:
@@ -30,10 +31,12 @@ public:
     RegistryListing &operator=(const RegistryListing &) = delete;
     virtual ~RegistryListing() = default;
 
-    /// The values of a key and of all keys below it, in the registry's order, those of a key before those of
-    /// its sub-keys.
+    /// The values of a key and of all keys below it, in the registry's order; those of a key come before
+    /// those of its sub-keys.
     virtual QList<ListedValue> valuesBelow(const QString &key) const = 0;
 
-    /// The text of one value of a key; empty when it is missing.
+    /// The text of one value of a key; empty if it is missing.
     virtual QString valueOf(const QString &key, const QString &valueName) const = 0;
 };
+
+} // namespace Nvx::Cad

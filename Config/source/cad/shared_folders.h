@@ -2,13 +2,17 @@
 
 #include <QString>
 
-/// The folders of the CAD systems that do not depend on where these are installed.
+namespace Nvx::Cad {
+
+/// Folders of CAD systems that do not depend on where these are installed.
 struct SharedFolders
 {
-    /// The shared application data, by the name of old and by that of today. Tamsel looks below both.
-    QString applicationDataOfOld = QStringLiteral("C:\\Documents and Settings\\All Users\\Application Data");
+    /// The shared application data by its former name and by its present one. Tamsel looks below both.
+    QString formerApplicationData = QStringLiteral("C:\\Documents and Settings\\All Users\\Application Data");
     QString applicationData = QStringLiteral("C:\\Users\\All Users");
 
-    /// The folder of the product's add-in among those of SpaceClaim.
+    /// The folder of the product's add-in for SpaceClaim.
     QString spaceClaimAddin = QStringLiteral("C:\\ProgramData\\SpaceClaim\\Addins\\NVX_2017_SpaceClaim");
 };
+
+} // namespace Nvx::Cad

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "cad/cad_packages.h"
+#include "cad/launcher_check_boxes.h"
 #include "cad/shared_folders.h"
 #include "nvx_util/log.h"
 #include "run/command_runner.h"
-#include "run/launcher_boxes.h"
 #include "run/process_finder.h"
 #include "run/reporter.h"
 #include "run/run_state.h"
@@ -20,6 +20,9 @@ class ProgressView;
 }
 namespace Nvx::Util {
 class CpuInfo;
+}
+namespace Nvx::Cad {
+struct LauncherStep;
 }
 namespace util {
 class util_localization_tool;
@@ -68,18 +71,20 @@ public:
     void setProgressView(Nvx::Run::ProgressView *view) { m_progressView = view; }
 
     /// The CAD systems found by the last search.
-    const CadPackages &cadPackages() const { return m_cadPackages; }
+    const Nvx::Cad::CadPackages &cadPackages() const { return m_cadPackages; }
 
-    /// The boxes that decide which launchers are configured from now on; null for those of a run without a
-    /// page. The boxes must outlive their use.
-    void setLauncherBoxes(LauncherBoxes *boxes) { m_launcherBoxes = boxes ? boxes : &m_unshownBoxes; }
+    /// Sets the check boxes that decide which launchers are configured; null for those of a run without a
+    /// page. They must outlive their use.
+    void setLauncherCheckBoxes(Nvx::Cad::LauncherCheckBoxes *checkBoxes)
+    {
+        m_launcherCheckBoxes = checkBoxes ? checkBoxes : &m_unshownCheckBoxes;
+    }
 
-    /// Where the launcher steps look from now on for the folders of the CAD systems that have a place of
-    /// their own on the machine.
-    void setSharedFolders(const SharedFolders &folders) { m_sharedFolders = folders; }
+    /// Sets the folders of the CAD systems that do not depend on where these are installed.
+    void setSharedFolders(const Nvx::Cad::SharedFolders &folders) { m_sharedFolders = folders; }
 
-    /// Searches the machine for CAD systems: keeps what it finds and sets the boxes. Does nothing in a run
-    /// that suppresses the search.
+    /// Searches the machine for CAD systems, stores the results and sets the check boxes. Does nothing in a
+    /// run that suppresses the search.
     void searchCADPackages();
 
     // The guards against running programs; see process_guard.h.
@@ -123,8 +128,7 @@ public:
                        const QString &iconPath, const QString &arguments);
     void cleanLumara(RunMode mode);
 
-    // The launchers in the CAD systems. Each step decides for itself, by its box and what the search has
-    // found, whether it acts; see the headers in the folder cad.
+    // The launchers of single CAD systems; see cad/cad_systems.h.
     void installCreoLauncher(RunMode mode);
     void installBrevantLauncher(RunMode mode);
     void installSolidWorksLauncher(RunMode mode);
@@ -133,7 +137,7 @@ public:
     void installTamselAddin(RunMode mode, int year);
     void installSpaceClaimLauncher(RunMode mode);
 
-    /// The launchers of all CAD systems, in their order.
+    /// The launchers of all CAD systems, in the order of cadSystems().
     void installLaunchers(RunMode mode);
 
     int checkMaterialDatabase(RunMode mode);
@@ -164,6 +168,7 @@ public slots:
 
 private:
     Nvx::Run::StepContext context() { return {m_machine, *this, m_state}; }
+    Nvx::Cad::LauncherStep launcherStep(RunMode mode);
 
     void writeStartUpBanner();
     void processCommandLine();
@@ -187,8 +192,8 @@ private:
     Nvx::Util::Log m_log;
     std::unique_ptr<util::util_localization_tool> m_localizationTool;
     Nvx::Run::ProgressView *m_progressView = nullptr;
-    CadPackages m_cadPackages;
-    SharedFolders m_sharedFolders;
-    UnshownLauncherBoxes m_unshownBoxes;
-    LauncherBoxes *m_launcherBoxes = &m_unshownBoxes;
+    Nvx::Cad::CadPackages m_cadPackages;
+    Nvx::Cad::SharedFolders m_sharedFolders;
+    Nvx::Cad::UnshownCheckBoxes m_unshownCheckBoxes;
+    Nvx::Cad::LauncherCheckBoxes *m_launcherCheckBoxes = &m_unshownCheckBoxes;
 };

@@ -1,33 +1,35 @@
-// The CAD systems of the machine: which there are, and whether they run.
+// The CAD systems of the machine: which of them are installed, and which are running.
 
 #include "cad/cad_search.h"
 #include "cad/machine_registry_listing.h"
 #include "cad/process_guard.h"
 #include "cfg_utilities/cfg_utilitys.h"
 
+using namespace Nvx;
+
 void cfg_utilitys::searchCADPackages()
 {
     if (m_state.cadSearchSuppressed)
         return;
     log(LogLevel::step, tr("Searching for CAD Packages"));
-    const CadSearch search = searchCadPackages(MachineRegistryListing(), m_state.foundWord());
+    const Cad::CadSearch search = searchCadPackages(Cad::MachineRegistryListing(), m_state.foundWord());
     for (const QString &line : search.lines)
         log(LogLevel::step, line);
     m_cadPackages = search.packages;
-    for (const LauncherBox &box : search.boxes) {
-        m_launcherBoxes->setFound(box.launcher, box.found);
-        if (!box.label.isEmpty())
-            m_launcherBoxes->setLabel(box.launcher, box.label);
+    for (const auto &[launcher, label] : search.checkBoxes) {
+        m_launcherCheckBoxes->setFound(launcher, label.has_value());
+        if (label)
+            m_launcherCheckBoxes->setLabel(launcher, *label);
     }
     log(LogLevel::step, tr("Finished searching for CAD Packages"));
 }
 
 bool cfg_utilitys::checkRunningCAD()
 {
-    return guardAgainstRunningCad(context());
+    return Cad::guardAgainstRunningCad(context());
 }
 
 bool cfg_utilitys::checkRunningProduct(OnMatch onMatch)
 {
-    return guardAgainstRunningProduct(context(), onMatch);
+    return Cad::guardAgainstRunningProduct(context(), onMatch);
 }

@@ -1,53 +1,63 @@
-// The launchers in the CAD systems.
+// The launchers in the CAD systems. Except installLaunchers, each operation only forwards to the step of its
+// name in the module cad.
 
-#include "cad/com_launchers.h"
-#include "cad/creo/creo_launcher.h"
-#include "cad/nx/nx_launcher.h"
-#include "cad/spaceclaim/spaceclaim_launcher.h"
-#include "cad/tamsel/tamsel_launcher.h"
+#include "cad/brevant/brevant.h"
+#include "cad/cad_systems.h"
+#include "cad/creo/creo.h"
+#include "cad/launcher_step.h"
+#include "cad/nx/nx.h"
+#include "cad/solidworks/solidworks.h"
+#include "cad/spaceclaim/spaceclaim.h"
+#include "cad/tamsel/tamsel.h"
 #include "cfg_utilities/cfg_utilitys.h"
+
+using namespace Nvx;
+
+Cad::LauncherStep cfg_utilitys::launcherStep(RunMode mode)
+{
+    return {context(), m_cadPackages, *m_launcherCheckBoxes, m_sharedFolders, mode};
+}
 
 void cfg_utilitys::installLaunchers(RunMode mode)
 {
-    installBrevantLauncher(mode);
-    installCreoLauncher(mode);
-    installSolidWorksLauncher(mode);
-    installNXLauncher(mode);
-    installTamselLauncher(mode);
-    installSpaceClaimLauncher(mode);
+    const Cad::LauncherStep step = launcherStep(mode);
+    for (const Cad::CadSystem &system : Cad::cadSystems())
+        system.install(step);
 }
 
 void cfg_utilitys::installBrevantLauncher(RunMode mode)
 {
-    ::installBrevantLauncher(context(), *m_launcherBoxes, mode);
+    Cad::installBrevantLauncher(launcherStep(mode));
 }
 
 void cfg_utilitys::installCreoLauncher(RunMode mode)
 {
-    ::installCreoLauncher(context(), m_cadPackages, *m_launcherBoxes, mode);
+    Cad::installCreoLauncher(launcherStep(mode));
 }
 
 void cfg_utilitys::installSolidWorksLauncher(RunMode mode)
 {
-    ::installSolidWorksLauncher(context(), *m_launcherBoxes, mode);
+    Cad::installSolidWorksLauncher(launcherStep(mode));
 }
 
 void cfg_utilitys::installNXLauncher(RunMode mode)
 {
-    ::installNXLauncher(context(), m_cadPackages, *m_launcherBoxes, mode);
+    Cad::installNxLauncher(launcherStep(mode));
 }
 
 void cfg_utilitys::installTamselLauncher(RunMode mode)
 {
-    ::installTamselLauncher(context(), m_cadPackages, *m_launcherBoxes, m_sharedFolders, mode);
+    Cad::installTamselLauncher(launcherStep(mode));
+    Cad::installTamselArchitectureLauncher(launcherStep(mode));
+    Cad::installTamselMepLauncher(launcherStep(mode));
 }
 
 void cfg_utilitys::installTamselAddin(RunMode mode, int year)
 {
-    ::installTamselAddin(context(), m_sharedFolders, mode, year);
+    Cad::installTamselAddin(launcherStep(mode), year);
 }
 
 void cfg_utilitys::installSpaceClaimLauncher(RunMode mode)
 {
-    ::installSpaceClaimLauncher(context(), *m_launcherBoxes, m_sharedFolders, mode);
+    Cad::installSpaceClaimLauncher(launcherStep(mode));
 }

@@ -1,5 +1,6 @@
 #include "cfg_wizard/feature_page.h"
 
+#include "cad/cad_systems.h"
 #include "cfg_utilities/cfg_utilitys.h"
 
 #include <QApplication>
@@ -8,35 +9,30 @@
 #include <QIcon>
 #include <QLabel>
 
+#include <algorithm>
+#include <vector>
+
+using Nvx::Cad::CadSystem;
+using Nvx::Cad::Launcher;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-struct BoxPlace
-{
-    Launcher launcher;
-    const char *name;
-    const char *text;
-    int row;
-};
-
-// The rows that no box is in part the boxes into groups.
-constexpr BoxPlace boxPlaces[] = {
-    {Launcher::Creo, "m_cbCreo", QT_TRANSLATE_NOOP("FeaturePage", "Pro/ENGINEER Creo"), 7},
-    {Launcher::SolidWorks, "m_cbSolidworks", QT_TRANSLATE_NOOP("FeaturePage", "SolidWorks"), 8},
-    {Launcher::Brevant, "m_cbBrevant", QT_TRANSLATE_NOOP("FeaturePage", "Brevant"), 9},
-    {Launcher::Nx, "UGS NX", QT_TRANSLATE_NOOP("FeaturePage", "UGS NX"), 10},
-    {Launcher::Tamsel, "Tamsel", QT_TRANSLATE_NOOP("FeaturePage", "Tamsel"), 12},
-    {Launcher::TamselArchitecture, "Tamsel ARCH", QT_TRANSLATE_NOOP("FeaturePage", "Tamsel Architecture"),
-     13},
-    {Launcher::TamselMep, "Tamsel MEP", QT_TRANSLATE_NOOP("FeaturePage", "Tamsel MEP"), 14},
-    {Launcher::SpaceClaim, "m_cbSpaceclaim", QT_TRANSLATE_NOOP("FeaturePage", "SpaceClaim"), 16},
-};
-constexpr int rowsBetweenGroups[] = {11, 15};
 constexpr int columnsSpanned = 3;
 
-// As sharp as the densest screen shows it.
+std::vector<CadSystem> systemsInOrderOfRows()
+{
+    const std::span<const CadSystem> all = Nvx::Cad::cadSystems();
+    std::vector<CadSystem> systems(all.begin(), all.end());
+    std::sort(systems.begin(), systems.end(),
+              [](const CadSystem &a, const CadSystem &b) { return a.gridRow < b.gridRow; });
+    return systems;
+}
+
+// At the resolution of the densest screen.
 QPixmap logo()
 {
-    const auto resource = QStringLiteral(":/images/logo1.png");
+    const QString resource = u":/images/logo1.png"_s;
     return QIcon(resource).pixmap(QPixmap(resource).size(), qApp->devicePixelRatio());
 }
 
@@ -46,51 +42,62 @@ FeaturePage::FeaturePage(cfg_utilitys &engine, QWidget *parent)
     : QWizardPage(parent)
     , m_engine(engine)
 {
-    setObjectName(QStringLiteral("FeaturePage"));
+    setObjectName(u"FeaturePage"_s);
     setTitle(tr("CAD Launchers "));
-    setSubTitle(QStringLiteral(" "));
+    setSubTitle(u" "_s);
     setPixmap(QWizard::LogoPixmap, logo());
 
     auto *layout = new QGridLayout(this);
     layout->setColumnMinimumWidth(0, 60);
-    layout->setColumnStretch(2, 1); // shared by all, so that the description has the whole width
-
-    auto *description =
-        new QLabel(tr("NVX launchers will be installed for the CAD systems that are checked."), this);
-    description->setObjectName(QStringLiteral("m_description"));
-    layout->setRowMinimumHeight(0, std::max(40, 2 * description->sizeHint().height()));
-    description->setWordWrap(true);
-    layout->addWidget(description, 0, 0, 1, columnsSpanned);
-
-    for (const BoxPlace &place : boxPlaces) {
-        auto *box = new QCheckBox(tr(place.text), this);
-        box->setObjectName(QString::fromLatin1(place.name));
-        layout->addWidget(box, place.row, 1, 1, columnsSpanned);
-        m_boxes[static_cast<size_t>(place.launcher)] = box;
-    }
-    for (const int row : rowsBetweenGroups)
-        layout->setRowMinimumHeight(row, fontMetrics().height() / 2);
-    layout->setRowStretch(boxPlaces[launcherCount - 1].row + 1, 1);
-    m_engine.setLauncherBoxes(this);
+    layout->setColumnStretch(2, 1); // spanned by every widget, so the description has the full width
+    addDescription(*layout);
+    addCheckBoxes(*layout);
+    m_engine.setLauncherCheckBoxes(this);
 }
 
 FeaturePage::~FeaturePage()
 {
-    m_engine.setLauncherBoxes(nullptr);
+    m_engine.setLauncherCheckBoxes(nullptr);
+}
+
+void FeaturePage::addDescription(QGridLayout &layout)
+{
+    auto *description =
+        new QLabel(tr("NVX launchers will be installed for the CAD systems that are checked."), this);
+    description->setObjectName(u"m_description"_s);
+    layout.setRowMinimumHeight(0, std::max(40, 2 * description->sizeHint().height()));
+    description->setWordWrap(true);
+    layout.addWidget(description, 0, 0, 1, columnsSpanned);
+}
+
+void FeaturePage::addCheckBoxes(QGridLayout &layout)
+{
+    const std::vector<CadSystem> systems = systemsInOrderOfRows();
+    int nextRow = systems.front().gridRow;
+    for (const CadSystem &system : systems) {
+        for (; nextRow < system.gridRow; ++nextRow)
+            layout.setRowMinimumHeight(nextRow, fontMetrics().height() / 2); // between two groups
+        auto *checkBox = new QCheckBox(tr(system.label), this);
+        checkBox->setObjectName(system.objectName);
+        layout.addWidget(checkBox, system.gridRow, 1, 1, columnsSpanned);
+        m_checkBoxes.insert(system.launcher, checkBox);
+        ++nextRow;
+    }
+    layout.setRowStretch(nextRow, 1);
 }
 
 void FeaturePage::setFound(Launcher launcher, bool found)
 {
-    box(launcher).setEnabled(found);
-    box(launcher).setChecked(found);
+    m_checkBoxes.value(launcher)->setEnabled(found);
+    m_checkBoxes.value(launcher)->setChecked(found);
 }
 
 void FeaturePage::setLabel(Launcher launcher, const QString &label)
 {
-    box(launcher).setText(label);
+    m_checkBoxes.value(launcher)->setText(label);
 }
 
-bool FeaturePage::isTicked(Launcher launcher) const
+bool FeaturePage::isChecked(Launcher launcher) const
 {
-    return box(launcher).isChecked();
+    return m_checkBoxes.value(launcher)->isChecked();
 }

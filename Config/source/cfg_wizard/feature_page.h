@@ -1,17 +1,17 @@
 #pragma once
 
-#include "run/launcher_boxes.h"
+#include "cad/launcher_check_boxes.h"
 
+#include <QHash>
 #include <QWizardPage>
-
-#include <array>
 
 class cfg_utilitys;
 class QCheckBox;
+class QGridLayout;
 
-/// The page that asks which CAD systems get the product's launcher. While it lives, its boxes are the
-/// engine's.
-class FeaturePage final : public QWizardPage, public LauncherBoxes
+/// The page that asks which CAD systems get the product's launcher. While it exists, the engine uses its
+/// check boxes.
+class FeaturePage final : public QWizardPage, public Nvx::Cad::LauncherCheckBoxes
 {
     Q_OBJECT
 
@@ -19,13 +19,14 @@ public:
     explicit FeaturePage(cfg_utilitys &engine, QWidget *parent = nullptr);
     ~FeaturePage() override;
 
-    void setFound(Launcher launcher, bool found) override;
-    void setLabel(Launcher launcher, const QString &label) override;
-    bool isTicked(Launcher launcher) const override;
+    void setFound(Nvx::Cad::Launcher launcher, bool found) override;
+    void setLabel(Nvx::Cad::Launcher launcher, const QString &label) override;
+    bool isChecked(Nvx::Cad::Launcher launcher) const override;
 
 private:
-    QCheckBox &box(Launcher launcher) const { return *m_boxes[static_cast<size_t>(launcher)]; }
+    void addDescription(QGridLayout &layout);
+    void addCheckBoxes(QGridLayout &layout);
 
     cfg_utilitys &m_engine;
-    std::array<QCheckBox *, launcherCount> m_boxes{};
+    QHash<Nvx::Cad::Launcher, QCheckBox *> m_checkBoxes;
 };

@@ -1,21 +1,25 @@
-#include "cad/cad_detectors.h"
+#include "cad/brevant/brevant.h"
+#include "cad/detection.h"
 
 #include <limits>
-#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
-// Release 19 is the one of 2015.
+// Release 19 is Brevant 2015.
 constexpr int yearOfReleaseZero = 1996;
 
-// The year of the version that ran last, written as "RELEASE.REST"; nothing for the releases before 2015.
+// The year of the version that ran last, from "RELEASE.REST"; std::nullopt before 2015.
 std::optional<int> yearOfLastRun(const QString &lastVersionRun)
 {
-    const QStringList parts = lastVersionRun.split(QLatin1Char('.'), Qt::SkipEmptyParts);
+    const QStringList parts = lastVersionRun.split(u'.', Qt::SkipEmptyParts);
     if (parts.size() < 2)
         return std::nullopt;
     constexpr int newestRelease = std::numeric_limits<int>::max() - yearOfReleaseZero;
-    const int release = parts.first().toInt(); // 0 for anything but a number
+    const int release = parts.first().toInt(); // 0 if it is not a number
     if (release <= 18 || release > newestRelease)
         return std::nullopt;
     return release + yearOfReleaseZero;
@@ -23,26 +27,27 @@ std::optional<int> yearOfLastRun(const QString &lastVersionRun)
 
 } // namespace
 
-void detectBrevant(const Detection &detection)
+std::optional<QString> detectBrevant(Detection &detection)
 {
-    CadPackages &packages = detection.packages();
+    CadPackages &packages = detection.packages;
     const QString lastVersionRun = detection.registry.valueOf(
-        QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora\\Brevant\\Current Version"),
-        QStringLiteral("LASTVERSIONRUN"));
-    detection.log(QStringLiteral("Brevant lastversionrun=") + lastVersionRun);
+        u"HKEY_LOCAL_MACHINE\\Software\\Velmora\\Brevant\\Current Version"_s, u"LASTVERSIONRUN"_s);
+    detection.log(u"Brevant lastversionrun="_s + lastVersionRun);
     packages.brevantVersion = yearOfLastRun(lastVersionRun).value_or(0);
 
     for (int release = 19; release <= 21; ++release) {
-        const QString key =
-            QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Brevant\\RegistryVersion%1.0");
-        if (detection.registry.valueOf(key.arg(release), QStringLiteral("ProductName")).isEmpty())
+        const QString key = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Brevant\\RegistryVersion%1.0"_s;
+        if (detection.registry.valueOf(key.arg(release), u"ProductName"_s).isEmpty())
             continue;
         packages.brevantVersion = release + yearOfReleaseZero;
-        packages.brevantVersions += QString::number(packages.brevantVersion) + QLatin1Char(' ');
+        packages.brevantVersions += QString::number(packages.brevantVersion) + u' ';
     }
 
-    // A version known only as the one that ran last ticks the box without a year beside it.
-    detection.setBox(Launcher::Brevant, packages.brevantVersion != 0,
-                     QStringLiteral("Brevant ") + packages.brevantVersions);
-    detection.logFound(QStringLiteral("Brevant=") + packages.brevantVersions);
+    detection.logFound(u"Brevant="_s + packages.brevantVersions);
+    if (packages.brevantVersion == 0)
+        return std::nullopt;
+    // The label has no year if only the last run is known.
+    return u"Brevant "_s + packages.brevantVersions;
 }
+
+} // namespace Nvx::Cad

@@ -1,48 +1,52 @@
-#include "cad/cad_detectors.h"
+#include "cad/creo/creo.h"
+#include "cad/creo/creo_names.h"
+#include "cad/detection.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
 struct CreoProbe
 {
-    const Detection &detection;
-    int release;
+    Detection &detection;
     QString &label;
+    CreoInstall install;
 
-    // Reads one release key, whose sub-keys are date codes. True when it holds anything.
-    bool read(const QString &key) const
+    // Reads the key of a release, whose sub-keys are date codes. Returns false if it is empty.
+    bool read(const QString &key)
     {
-        detection.logRegistryKey(QStringLiteral("PTC Creo Parametric %1.0").arg(release), key);
+        detection.logRegistryKey(u"PTC Creo Parametric %1.0"_s.arg(install.release), key);
         const QList<ListedValue> values = detection.sortedValuesBelow(key);
         for (const ListedValue &value : values)
             take(value);
         return !values.isEmpty();
     }
 
-    void take(const ListedValue &value) const
+    void take(const ListedValue &value)
     {
-        CadPackages &packages = detection.packages();
-        const auto place = static_cast<size_t>(release);
         const QString name = upperLevelOf(value.name, 1);
-        if (name == QLatin1String("INSTALLDIR")) {
-            packages.creoInstallDirs[place] = value.text;
-            packages.creoVersion = release;
-            label += QStringLiteral(" %1.0").arg(release);
-            detection.logUsing(QStringLiteral("PTC Creo Parametric %1").arg(release), value.text);
-        } else if (name == QLatin1String("SHIPCODE")) {
-            packages.creoShipCodes[place] = value.text;
+        if (name == "INSTALLDIR"_L1) {
+            install.installDir = value.text;
+            detection.packages.creoVersion = install.release;
+            label += u" %1.0"_s.arg(install.release);
+            detection.logUsing(u"PTC Creo Parametric %1"_s.arg(install.release), value.text);
+        } else if (name == "SHIPCODE"_L1) {
+            install.shipCode = value.text;
         }
     }
 };
 
-// Where the 32-bit releases are registered; there is none for release 1. Release 3 does spell the product's
-// name in its own way.
+// The key of a 32-bit release; empty for release 1, which has none. Release 3 spells the product's name
+// differently.
 QString key32(int release)
 {
     switch (release) {
     case 2:
-        return QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\PTC\\Creo Parametric\\2.0");
+        return u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\PTC\\Creo Parametric\\2.0"_s;
     case 3:
-        return QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\PTC\\PTC Creo Parametric\\3.0");
+        return u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Wow6432Node\\PTC\\PTC Creo Parametric\\3.0"_s;
     default:
         return QString();
     }
@@ -50,19 +54,24 @@ QString key32(int release)
 
 } // namespace
 
-void detectCreo(const Detection &detection)
+std::optional<QString> detectCreo(Detection &detection)
 {
-    const CadPackages &packages = detection.packages();
-    QString label = QStringLiteral("Creo Parametric");
-    for (int release = 1; release <= 3; ++release) {
-        const CreoProbe probe{detection, release, label};
-        const bool holdsAnything = probe.read(
-            QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\PTC\\Creo Parametric\\%1.0").arg(release));
+    CadPackages &packages = detection.packages;
+    QString label = u"Creo Parametric"_s;
+    for (int release = firstCreoRelease; release <= lastCreoRelease; ++release) {
+        CreoProbe probe{detection, label, {release, QString(), QString()}};
+        const bool holdsAnything =
+            probe.read(u"HKEY_LOCAL_MACHINE\\Software\\PTC\\Creo Parametric\\%1.0"_s.arg(release));
         if (!holdsAnything && !key32(release).isEmpty())
             probe.read(key32(release));
+        if (!probe.install.installDir.isEmpty() || !probe.install.shipCode.isEmpty())
+            packages.creoInstalls.append(probe.install);
     }
-    detection.setBox(Launcher::Creo, packages.creoVersion != 0, label);
-    if (packages.creoVersion != 0)
-        detection.logUsing(QStringLiteral("ProE Creo %1").arg(packages.creoVersion),
-                           packages.creoInstallDirs[static_cast<size_t>(packages.creoVersion)]);
+    if (packages.creoVersion == 0)
+        return std::nullopt;
+    detection.logUsing(u"ProE Creo %1"_s.arg(packages.creoVersion),
+                       packages.creoInstall(packages.creoVersion).installDir);
+    return label;
 }
+
+} // namespace Nvx::Cad

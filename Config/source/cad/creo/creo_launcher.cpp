@@ -1,19 +1,23 @@
-#include "cad/creo/creo_launcher.h"
-
 #include "cad/cad_packages.h"
+#include "cad/creo/creo.h"
 #include "cad/creo/creo_names.h"
 #include "cad/creo/protk_file.h"
 #include "cad/foreign_file.h"
+#include "cad/launcher_step.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
-#include "run/launcher_boxes.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 
 #include <QCoreApplication>
 #include <QFile>
+
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
@@ -22,20 +26,20 @@ struct Messages
     Q_DECLARE_TR_FUNCTIONS(CreoLauncher)
 };
 
-void sweepProgramFolder(const StepContext &context, RunMode mode)
+void sweepProgramFolder(const LauncherStep &step)
 {
+    const StepContext &context = step.context;
     for (int release = firstCreoRelease; release <= lastCreoRelease; ++release) {
-        const QString path =
-            Nvx::Util::joinPath(context.machine.executableFolder(), creoLauncherLibrary(release));
+        const QString path = Util::joinPath(context.machine.executableFolder(), creoLauncherLibrary(release));
         context.reporter.log(LogLevel::step,
-                             context.state.modeWord(mode) + Messages::tr(" Creo Remove:") + path);
+                             context.state.modeWord(step.mode) + Messages::tr(" Creo Remove:") + path);
         removeProductFile(path);
     }
 }
 
 void removeEntries(const StepContext &context, const QString &protk)
 {
-    Nvx::Util::removeUnfinished(protk);
+    Util::removeUnfinished(protk);
     if (!QFile::exists(protk))
         return;
     context.reporter.log(LogLevel::step, Messages::tr("Removing Ostrade from:") + protk);
@@ -63,8 +67,8 @@ void addEntry(const StepContext &context, const QString &protk, int release)
 
     const std::optional<QByteArray> contents = withLauncherEntry(*old, *entry);
     if (!contents) {
-        context.reporter.log(
-            LogLevel::step, Messages::tr("Ostrade %1 already exists, do nothing").arg(Nvx::Product::release));
+        context.reporter.log(LogLevel::step,
+                             Messages::tr("Ostrade %1 already exists, do nothing").arg(Product::release));
         return;
     }
     context.reporter.log(LogLevel::step, Messages::tr("Writing ") + protk);
@@ -72,29 +76,30 @@ void addEntry(const StepContext &context, const QString &protk, int release)
 }
 
 template<typename Act>
-void forEachRelease(const CadPackages &packages, Act act)
+void forEachProtk(const CadPackages &packages, Act act)
 {
-    for (int release = firstCreoRelease; release <= lastCreoRelease; ++release) {
-        const auto place = static_cast<size_t>(release);
-        const QString &installDir = packages.creoInstallDirs.at(place);
-        // Without a folder the path would lead to the drive's own "\text", or to another machine.
-        if (!installDir.isEmpty())
-            act(protkPath(installDir, packages.creoShipCodes.at(place), release), release);
+    for (const CreoInstall &install : packages.creoInstalls) {
+        // Without a folder the path would be "\text" on the current drive, or on another machine.
+        if (!install.installDir.isEmpty())
+            act(protkPath(install.installDir, install.shipCode, install.release), install.release);
     }
 }
 
 } // namespace
 
-void installCreoLauncher(const StepContext &context, const CadPackages &packages, const LauncherBoxes &boxes,
-                         RunMode mode)
+void installCreoLauncher(const LauncherStep &step)
 {
-    sweepProgramFolder(context, mode);
-    if (!boxes.isTicked(Launcher::Creo))
+    sweepProgramFolder(step);
+    if (!step.isChecked(Launcher::Creo))
         return;
 
-    context.reporter.progress(LogLevel::step, QStringLiteral("ProE Creo"));
-    forEachRelease(packages, [&](const QString &protk, int) { removeEntries(context, protk); });
-    if (mode != RunMode::Install)
+    const StepContext &context = step.context;
+    context.reporter.progress(LogLevel::step, u"ProE Creo"_s);
+    forEachProtk(step.packages, [&](const QString &protk, int) { removeEntries(context, protk); });
+    if (!step.isInstall())
         return;
-    forEachRelease(packages, [&](const QString &protk, int release) { addEntry(context, protk, release); });
+    forEachProtk(step.packages,
+                 [&](const QString &protk, int release) { addEntry(context, protk, release); });
 }
+
+} // namespace Nvx::Cad

@@ -5,33 +5,39 @@
 #include <QDir>
 #include <QStringList>
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
+
 QString creoLauncherLibrary(int release)
 {
-    return creoLauncherName + QString::number(release) + QStringLiteral("0.dll");
+    return creoLauncherName + QString::number(release) + u"0.dll"_s;
 }
 
 QString protkPath(const QString &creoInstallDir, const QString &shipCode, int release)
 {
     QString path = creoInstallDir;
-    path.replace(QLatin1String("Parametric"), QLatin1String("Common Files"));
+    path.replace("Parametric"_L1, "Common Files"_L1);
     const QChar separator = QDir::separator();
-    if (release < 3) // which has done away with the folder
+    if (release < 3) // release 3 has no folder for the ship code
         path += separator + shipCode;
-    return path + separator + QStringLiteral("text") + separator + QStringLiteral("protk.dat");
+    return path + separator + u"text"_s + separator + u"protk.dat"_s;
 }
 
 QString creoEntry(const QString &programFolder, const QString &installDir, int release)
 {
-    const QString library = programFolder + QStringLiteral("\\Launchers\\ProEngineer-Wildfire\\Creo") +
-                            QString::number(release) + QLatin1Char('\\') + creoLauncherLibrary(release);
+    const QString library = programFolder + u"\\Launchers\\ProEngineer-Wildfire\\Creo"_s +
+                            QString::number(release) + u'\\' + creoLauncherLibrary(release);
     const QStringList lines{
-        QStringLiteral("name ") + Nvx::Product::fullName,
-        QStringLiteral("startup DLL"),
-        QStringLiteral("exec_file ") + library,
-        QStringLiteral("text_dir ") + installDir + QStringLiteral("\\Text"),
-        QStringLiteral("revision 20"),
-        QStringLiteral("end"),
+        u"name "_s + Product::fullName,
+        u"startup DLL"_s,
+        u"exec_file "_s + library,
+        u"text_dir "_s + installDir + u"\\Text"_s,
+        u"revision 20"_s,
+        u"end"_s,
     };
-    const QString lineEnd = QStringLiteral("\r\n");
+    const QString lineEnd = u"\r\n"_s;
     return lines.join(lineEnd) + lineEnd;
 }
+
+} // namespace Nvx::Cad

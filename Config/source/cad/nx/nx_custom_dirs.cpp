@@ -2,7 +2,9 @@
 
 #include "cad/eight_bit_text.h"
 
-#include <QLatin1String>
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 QString nxSubFolder(const QString &registryKey)
 {
@@ -12,9 +14,8 @@ QString nxSubFolder(const QString &registryKey)
         QLatin1String subFolder;
     };
     static constexpr Choice choices[] = {
-        {QLatin1String("8.0"), QLatin1String("\\NX8")},   {QLatin1String("8.5"), QLatin1String("\\NX8")},
-        {QLatin1String("9.0"), QLatin1String("\\NX9")},   {QLatin1String("9.5"), QLatin1String("\\NX9")},
-        {QLatin1String("10.0"), QLatin1String("\\NX10")}, {QLatin1String("10.5"), QLatin1String("\\NX10")},
+        {"8.0"_L1, "\\NX8"_L1}, {"8.5"_L1, "\\NX8"_L1},   {"9.0"_L1, "\\NX9"_L1},
+        {"9.5"_L1, "\\NX9"_L1}, {"10.0"_L1, "\\NX10"_L1}, {"10.5"_L1, "\\NX10"_L1},
     };
     QLatin1String subFolder;
     for (const Choice &choice : choices) {
@@ -26,8 +27,7 @@ QString nxSubFolder(const QString &registryKey)
 
 QString customDirsLine(const QString &installDir, const QString &registryKey)
 {
-    return QStringLiteral("\r\n") + installDir + QStringLiteral("\\Launchers\\UGNX") +
-           nxSubFolder(registryKey) + QStringLiteral("\r\n");
+    return u"\r\n"_s + installDir + u"\\Launchers\\UGNX"_s + nxSubFolder(registryKey) + u"\r\n"_s;
 }
 
 bool holdsCustomDirsLine(const QByteArray &contents, const QString &line)
@@ -39,15 +39,17 @@ QByteArray withoutCustomDirsLines(const QByteArray &contents, const QString &ins
 {
     const CaselessSearch ours(installDir);
     const QByteArrayView all(contents);
-    QByteArray kept;
-    kept.reserve(contents.size());
+    QByteArray preserved;
+    preserved.reserve(contents.size());
     for (qsizetype start = 0; start < all.size();) {
         const qsizetype newLine = all.indexOf('\n', start);
         const qsizetype end = newLine < 0 ? all.size() : newLine + 1;
         const QByteArrayView line = all.sliced(start, end - start);
         if (!ours.isFoundIn(line))
-            kept += line;
+            preserved += line;
         start = end;
     }
-    return kept;
+    return preserved;
 }
+
+} // namespace Nvx::Cad

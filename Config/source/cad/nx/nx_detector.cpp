@@ -1,49 +1,55 @@
-#include "cad/cad_detectors.h"
+#include "cad/detection.h"
+#include "cad/nx/nx.h"
+#include "cad/nx/nx_versions.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
-// The names of the versions in the registry and for people.
-const std::array<QString, 8> nxVersions{
-    QStringLiteral("8.5"),   QStringLiteral("8.5.0"), QStringLiteral("9.0"),    QStringLiteral("9.5"),
-    QStringLiteral("9.5.0"), QStringLiteral("10.0"),  QStringLiteral("10.5.0"), QStringLiteral("11.0")};
-
-QString nameOf(size_t index)
+QString nameOf(int index)
 {
-    return QStringLiteral("UGNX ") + nxVersions[index];
+    return u"UGNX "_s + nxVersions[static_cast<size_t>(index)];
 }
 
-void probe(const Detection &detection, size_t index)
+void probe(Detection &detection, int index)
 {
-    CadPackages &packages = detection.packages();
-    const QString key =
-        QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\") + nxVersions[index];
+    const QString key = u"HKEY_LOCAL_MACHINE\\Software\\Unigraphics Solutions\\NX\\"_s +
+                        nxVersions[static_cast<size_t>(index)];
     detection.logRegistryKey(nameOf(index), key);
+    std::optional<NxInstall> install;
     const QList<ListedValue> values = detection.sortedValuesBelow(key);
     for (const ListedValue &value : values) {
-        if (upperLevelOf(value.name, 0) != QLatin1String("UGII_BASE_DIR"))
-            continue;
-        packages.nxKeys[index] = key;
-        packages.nxInstallDirs[index] = value.text;
-        packages.nxIndex = static_cast<int>(index);
+        if (upperLevelOf(value.name, 0) == "UGII_BASE_DIR"_L1)
+            install = {.index = index, .installDir = value.text, .registryKey = key};
     }
-    detection.logInstallDir(nameOf(index), packages.nxInstallDirs[index]);
+    detection.logInstallDir(nameOf(index), install ? install->installDir : QString());
+    if (!install)
+        return;
+    detection.packages.nxIndex = index;
+    detection.packages.nxInstalls.append(*install);
 }
 
 } // namespace
 
-void detectNx(const Detection &detection)
+std::optional<QString> detectNx(Detection &detection)
 {
-    const CadPackages &packages = detection.packages();
-    for (size_t index = 0; index < nxVersions.size(); ++index)
+    for (int index = 0; index < static_cast<int>(nxVersions.size()); ++index)
         probe(detection, index);
-    detection.logFound(QStringLiteral("UGNX=%1").arg(packages.nxIndex));
+    const CadPackages &packages = detection.packages;
+    detection.logFound(u"UGNX=%1"_s.arg(packages.nxIndex));
+    if (packages.nxIndex < 0)
+        return std::nullopt;
 
-    QString label = QStringLiteral("UGS NX");
-    for (size_t index = 0; index < nxVersions.size(); ++index) {
-        if (packages.nxInstallDirs[index].isEmpty())
+    QString label = u"UGS NX"_s;
+    for (const NxInstall &install : packages.nxInstalls) {
+        if (install.installDir.isEmpty())
             continue;
-        label += QLatin1Char(' ') + nxVersions[index];
-        detection.logUsing(nameOf(index), packages.nxInstallDirs[index]);
+        label += u' ' + nxVersions[static_cast<size_t>(install.index)];
+        detection.logUsing(nameOf(install.index), install.installDir);
     }
-    detection.setBox(Launcher::Nx, packages.nxIndex >= 0, label);
+    return label;
 }
+
+} // namespace Nvx::Cad

@@ -1,15 +1,19 @@
-#include "cad/nx/nx_launcher.h"
-
 #include "cad/cad_packages.h"
 #include "cad/foreign_file.h"
+#include "cad/launcher_step.h"
+#include "cad/nx/nx.h"
 #include "cad/nx/nx_custom_dirs.h"
 #include "nvx_util/whole_file.h"
-#include "run/launcher_boxes.h"
 #include "run/reporter.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
@@ -20,12 +24,12 @@ struct Messages
 
 QString customDirsPath(const QString &nxInstallDir)
 {
-    return nxInstallDir + QDir::toNativeSeparators(QStringLiteral("/UGII/MENUS/custom_dirs.dat"));
+    return nxInstallDir + QDir::toNativeSeparators(u"/UGII/MENUS/custom_dirs.dat"_s);
 }
 
 QString backupOf(const QString &menu)
 {
-    return menu + QStringLiteral(".bak");
+    return menu + u".bak"_s;
 }
 
 void removeLines(const StepContext &context, const QString &menu)
@@ -37,7 +41,7 @@ void removeLines(const StepContext &context, const QString &menu)
         replaceForeignFile(menu, withoutCustomDirsLines(*contents, context.state.installDir));
 }
 
-void keepBackup(const StepContext &context, const QString &menu)
+void backUp(const StepContext &context, const QString &menu)
 {
     const QString backup = backupOf(menu);
     if (QFile::exists(backup))
@@ -45,7 +49,7 @@ void keepBackup(const StepContext &context, const QString &menu)
     context.reporter.log(LogLevel::step, Messages::tr("Copying %1 to %2").arg(menu, backup));
     if (!QFile::exists(menu))
         return;
-    // Whole or not at all: a backup is made once and never again.
+    // Whole or not at all: the backup is made only once.
     const std::optional<QByteArray> contents = readForeignFile(menu);
     if (contents)
         replaceForeignFile(backup, *contents);
@@ -70,24 +74,25 @@ void addLine(const StepContext &context, const QString &menu, const QString &lin
 
 } // namespace
 
-void installNXLauncher(const StepContext &context, const CadPackages &packages, const LauncherBoxes &boxes,
-                       RunMode mode)
+void installNxLauncher(const LauncherStep &step)
 {
-    if (!boxes.isTicked(Launcher::Nx))
+    if (!step.isChecked(Launcher::Nx))
         return;
-    context.reporter.progress(LogLevel::step, QStringLiteral("UGNX"));
-    for (size_t version = 0; version < packages.nxInstallDirs.size(); ++version) {
-        const QString &installDir = packages.nxInstallDirs.at(version);
-        if (installDir.isEmpty())
+    const StepContext &context = step.context;
+    context.reporter.progress(LogLevel::step, u"UGNX"_s);
+    for (const NxInstall &install : step.packages.nxInstalls) {
+        if (install.installDir.isEmpty())
             continue;
-        const QString menu = customDirsPath(installDir);
+        const QString menu = customDirsPath(install.installDir);
         for (const QString &file : {menu, backupOf(menu)})
-            Nvx::Util::removeUnfinished(file);
-        if (mode != RunMode::Install) {
+            Util::removeUnfinished(file);
+        if (!step.isInstall()) {
             removeLines(context, menu);
             continue;
         }
-        keepBackup(context, menu);
-        addLine(context, menu, customDirsLine(context.state.installDir, packages.nxKeys.at(version)));
+        backUp(context, menu);
+        addLine(context, menu, customDirsLine(context.state.installDir, install.registryKey));
     }
 }
+
+} // namespace Nvx::Cad

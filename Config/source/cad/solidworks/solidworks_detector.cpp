@@ -1,34 +1,41 @@
-#include "cad/cad_detectors.h"
+#include "cad/detection.h"
+#include "cad/solidworks/solidworks.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
-void probe(const Detection &detection, int year)
+void probe(Detection &detection, int year)
 {
-    CadPackages &packages = detection.packages();
-    const QString version = QStringLiteral("SolidWorks %1").arg(year);
-    const QString key = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\SolidWorks\\%1\\Setup").arg(version);
+    CadPackages &packages = detection.packages;
+    const QString version = u"SolidWorks %1"_s.arg(year);
+    const QString key = u"HKEY_LOCAL_MACHINE\\Software\\SolidWorks\\%1\\Setup"_s.arg(version);
     detection.logRegistryKey(version, key);
     const QList<ListedValue> values = detection.sortedValuesBelow(key);
     for (const ListedValue &value : values) {
         detection.log(value.name);
-        const QString name = value.name.toUpper();
-        if (!name.startsWith(QLatin1String("SOLIDWORKS FOLDER")))
+        if (!value.name.toUpper().startsWith("SOLIDWORKS FOLDER"_L1))
             continue;
         packages.solidWorksInstallDir = value.text;
         packages.solidWorksVersion = year;
     }
-    // A year that is not there is told the folder of the one before.
+    // For a year that is not installed, the previous year's folder is logged.
     detection.logInstallDir(version, packages.solidWorksInstallDir);
 }
 
 } // namespace
 
-void detectSolidWorks(const Detection &detection)
+std::optional<QString> detectSolidWorks(Detection &detection)
 {
-    const CadPackages &packages = detection.packages();
     for (int year = 2008; year <= 2016; ++year)
         probe(detection, year);
-    detection.setBox(Launcher::SolidWorks, packages.solidWorksVersion != 0,
-                     QStringLiteral("SolidWorks %1").arg(packages.solidWorksVersion));
-    detection.logFound(QStringLiteral("Solidworks=%1").arg(packages.solidWorksVersion));
+    const int version = detection.packages.solidWorksVersion;
+    detection.logFound(u"Solidworks=%1"_s.arg(version));
+    if (version == 0)
+        return std::nullopt;
+    return u"SolidWorks %1"_s.arg(version);
 }
+
+} // namespace Nvx::Cad

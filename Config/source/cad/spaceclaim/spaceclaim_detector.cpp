@@ -1,11 +1,19 @@
-#include "cad/cad_detectors.h"
+#include "cad/detection.h"
+#include "cad/spaceclaim/spaceclaim.h"
 
-void detectSpaceClaim(const Detection &detection)
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
+
+std::optional<QString> detectSpaceClaim(Detection &detection)
 {
-    bool &found = detection.packages().spaceClaimFound;
-    found = !detection.registry
-                 .valuesBelow(QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Classes\\SpaceClaim.Location"))
-                 .isEmpty();
-    detection.setBox(Launcher::SpaceClaim, found, QStringLiteral("SpaceClaim "));
-    detection.logFound(QStringLiteral("Spaceclaim=%1").arg(found ? 1 : 0));
+    const QString key = u"HKEY_LOCAL_MACHINE\\Software\\Classes\\SpaceClaim.Location"_s;
+    const bool found = !detection.registry.valuesBelow(key).isEmpty();
+    detection.packages.spaceClaimFound = found;
+    detection.logFound(u"Spaceclaim=%1"_s.arg(found ? 1 : 0));
+    if (!found)
+        return std::nullopt;
+    return u"SpaceClaim "_s;
 }
+
+} // namespace Nvx::Cad

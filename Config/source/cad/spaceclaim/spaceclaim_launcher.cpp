@@ -1,8 +1,7 @@
-#include "cad/spaceclaim/spaceclaim_launcher.h"
-
+#include "cad/launcher_step.h"
 #include "cad/shared_folders.h"
+#include "cad/spaceclaim/spaceclaim.h"
 #include "nvx_util/system.h"
-#include "run/launcher_boxes.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 
@@ -11,6 +10,10 @@
 #include <QFile>
 
 using Nvx::Util::joinPath;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
@@ -19,33 +22,32 @@ struct Messages
     Q_DECLARE_TR_FUNCTIONS(SpaceClaimLauncher)
 };
 
-const QString addinLibrary = QStringLiteral("NVX_2017_SpaceClaim.dll");
-const QString addinManifest = QStringLiteral("NVX_2017_SpaceClaim.xml");
-
 } // namespace
 
-void installSpaceClaimLauncher(const StepContext &context, const LauncherBoxes &boxes,
-                               const SharedFolders &folders, RunMode mode)
+void installSpaceClaimLauncher(const LauncherStep &step)
 {
-    if (!boxes.isTicked(Launcher::SpaceClaim))
+    if (!step.isChecked(Launcher::SpaceClaim))
         return;
-    context.reporter.progress(LogLevel::step, QStringLiteral("SpaceClaim"));
+    const StepContext &context = step.context;
+    context.reporter.progress(LogLevel::step, u"SpaceClaim"_s);
 
-    const QString target = folders.spaceClaimAddin;
-    removeProductFile(joinPath(target, addinManifest));
-    removeProductFile(joinPath(target, addinLibrary));
-    if (mode != RunMode::Install)
+    const QStringList addinFiles{u"NVX_2017_SpaceClaim.dll"_s, u"NVX_2017_SpaceClaim.xml"_s};
+    const QString target = step.folders.spaceClaimAddin;
+    for (const QString &file : addinFiles)
+        removeProductFile(joinPath(target, file));
+    if (!step.isInstall())
         return;
 
-    // A path of another operating system would become a folder with an odd name below the working folder.
+    // A path of another operating system would become an oddly named folder in the working folder.
     if (QDir::isAbsolutePath(target))
         QDir().mkdir(target);
-    const QString source = joinPath(context.state.installDir, QStringLiteral("Launchers/SpaceClaim"));
-    for (const QString &file : {addinLibrary, addinManifest}) {
-        const QString from = joinPath(source, file);
-        context.reporter.log(LogLevel::step,
-                             Messages::tr("Copying:%1 to: %2").arg(from, joinPath(target, file)));
-    }
-    for (const QString &file : {addinLibrary, addinManifest})
+    const QString source = joinPath(context.state.installDir, u"Launchers/SpaceClaim"_s);
+    for (const QString &file : addinFiles)
+        context.reporter.log(
+            LogLevel::step,
+            Messages::tr("Copying:%1 to: %2").arg(joinPath(source, file), joinPath(target, file)));
+    for (const QString &file : addinFiles)
         QFile::copy(joinPath(source, file), joinPath(target, file));
 }
+
+} // namespace Nvx::Cad

@@ -1,86 +1,94 @@
-#include "cad/cad_detectors.h"
+#include "cad/detection.h"
+#include "cad/tamsel/tamsel.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
-constexpr int yearOfPlaceZero = 2010;
+constexpr int firstYear = 2015;
+constexpr int lastYear = 2018;
 
-// How the texts of an edition are spelled; the label of the plain one has a blank more than the others.
-struct EditionTexts
+// How the registry, the log and the check box spell the name of an edition.
+struct EditionNames
 {
     TamselEdition edition;
-    Launcher launcher;
-    QString product; // in the registry
-    QString tag;     // in the log, a year directly behind it
-    QString listTag;
-    QString label;
+    QLatin1String product; // in the registry
+    QLatin1String tag;     // in the log
+    QLatin1String listTag;
+    QLatin1String label; // that of the plain edition ends with a blank
 };
 
-QList<EditionTexts> editions()
-{
-    return {{TamselEdition::Plain, Launcher::Tamsel, QStringLiteral("Velmora Tamsel"),
-             QStringLiteral("Tamsel"), QStringLiteral("Tamsel ="), QStringLiteral("Tamsel ")},
-            {TamselEdition::Architecture, Launcher::TamselArchitecture,
-             QStringLiteral("Velmora Tamsel Architecture"), QStringLiteral("Tamsel ARC"),
-             QStringLiteral("Tamsel ARC="), QStringLiteral("Tamsel Architecture")},
-            {TamselEdition::Mep, Launcher::TamselMep, QStringLiteral("Velmora Tamsel MEP"),
-             QStringLiteral("Tamsel MEP"), QStringLiteral("Tamsel MEP="), QStringLiteral("Tamsel MEP")}};
-}
+constexpr EditionNames plain{TamselEdition::Plain, "Velmora Tamsel"_L1, "Tamsel"_L1, "Tamsel ="_L1,
+                             "Tamsel "_L1};
+constexpr EditionNames architecture{TamselEdition::Architecture, "Velmora Tamsel Architecture"_L1,
+                                    "Tamsel ARC"_L1, "Tamsel ARC="_L1, "Tamsel Architecture"_L1};
+constexpr EditionNames mep{TamselEdition::Mep, "Velmora Tamsel MEP"_L1, "Tamsel MEP"_L1, "Tamsel MEP="_L1,
+                           "Tamsel MEP"_L1};
 
 QString productCodeOf(const QList<ListedValue> &components)
 {
     for (const ListedValue &value : components) {
-        if (upperLevelOf(value.name, 0) == QLatin1String("PRODUCTCODE"))
+        if (upperLevelOf(value.name, 0) == "PRODUCTCODE"_L1)
             return value.text;
     }
     return QString();
 }
 
-// The folder of one year; empty when that year is not installed.
-QString probe(const Detection &detection, const EditionTexts &texts, int year)
+// Returns the folder of one year; empty if that year is not installed.
+QString probe(Detection &detection, const EditionNames &names, int year)
 {
-    const QString key = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Tamsel\\%1 %2\\Components")
-                            .arg(texts.product, QString::number(year));
-    detection.logRegistryKey(texts.tag + QString::number(year), key);
+    const QString key = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Tamsel\\%1 %2\\Components"_s.arg(
+        names.product, QString::number(year));
+    detection.logRegistryKey(names.tag + QString::number(year), key);
     const QString productCode = productCodeOf(detection.registry.valuesBelow(key));
-    detection.log(CadSearch::tr("%1 Product Code =%2").arg(texts.tag, productCode));
+    detection.log(Detection::tr("%1 Product Code =%2").arg(names.tag, productCode));
     if (productCode.isEmpty())
         return QString();
 
     const QString uninstallKey =
-        QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\") +
-        productCode;
-    detection.log(QStringLiteral("%1 Key2=%2").arg(texts.tag, uninstallKey));
-    QString dir = detection.registry.valueOf(uninstallKey, QStringLiteral("InstallLocation"));
-    detection.log(QStringLiteral("%1 InstallDir=%2").arg(texts.tag, dir));
+        u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"_s + productCode;
+    detection.log(u"%1 Key2=%2"_s.arg(names.tag, uninstallKey));
+    QString dir = detection.registry.valueOf(uninstallKey, u"InstallLocation"_s);
+    detection.log(u"%1 InstallDir=%2"_s.arg(names.tag, dir));
     return dir;
 }
 
-void detectEdition(const Detection &detection, const EditionTexts &texts)
+std::optional<QString> detectEdition(Detection &detection, const EditionNames &names)
 {
-    const auto place = static_cast<size_t>(texts.edition);
-    auto &dirs = detection.packages().tamselInstallDirs[place];
-    QString &versions = detection.packages().tamselVersions[place];
-    for (size_t v = 5; v < dirs.size(); ++v) {
-        const int year = static_cast<int>(v) + yearOfPlaceZero;
-        dirs[v] = probe(detection, texts, year);
-        if (!dirs[v].isEmpty())
-            versions += QLatin1Char(' ') + QString::number(year);
+    QList<TamselInstall> installs;
+    for (int year = firstYear; year <= lastYear; ++year) {
+        const QString dir = probe(detection, names, year);
+        if (!dir.isEmpty())
+            installs.append({names.edition, year, dir});
     }
+    detection.packages.tamselInstalls += installs;
 
-    detection.setBox(texts.launcher, !versions.isEmpty(), texts.label + versions);
-    detection.logFound(texts.listTag + versions);
-    for (size_t v = 5; v < dirs.size(); ++v) {
-        const int year = static_cast<int>(v) + yearOfPlaceZero;
-        if (!dirs[v].isEmpty())
-            detection.logUsing(texts.tag + QLatin1Char(' ') + QString::number(year), dirs[v]);
-    }
+    const QString versions = detection.packages.tamselVersions(names.edition);
+    detection.logFound(names.listTag + versions);
+    for (const TamselInstall &install : installs)
+        detection.logUsing(names.tag + u' ' + QString::number(install.year), install.installDir);
+    if (installs.isEmpty())
+        return std::nullopt;
+    return names.label + versions;
 }
 
 } // namespace
 
-void detectTamsel(const Detection &detection)
+std::optional<QString> detectTamsel(Detection &detection)
 {
-    const QList<EditionTexts> all = editions();
-    for (const EditionTexts &texts : all)
-        detectEdition(detection, texts);
+    return detectEdition(detection, plain);
 }
+
+std::optional<QString> detectTamselArchitecture(Detection &detection)
+{
+    return detectEdition(detection, architecture);
+}
+
+std::optional<QString> detectTamselMep(Detection &detection)
+{
+    return detectEdition(detection, mep);
+}
+
+} // namespace Nvx::Cad

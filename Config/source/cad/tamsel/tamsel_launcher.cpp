@@ -1,11 +1,10 @@
-#include "cad/tamsel/tamsel_launcher.h"
-
 #include "cad/cad_packages.h"
+#include "cad/launcher_step.h"
 #include "cad/shared_folders.h"
+#include "cad/tamsel/tamsel.h"
 #include "cad/tamsel/tamsel_manifest.h"
 #include "nvx_util/system.h"
 #include "run/diagnostics.h"
-#include "run/launcher_boxes.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
 
@@ -15,7 +14,10 @@
 #include <QFileInfo>
 
 using Nvx::Util::joinPath;
-using Nvx::Util::System;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
+
+namespace Nvx::Cad {
 
 namespace {
 
@@ -24,27 +26,9 @@ struct Messages
     Q_DECLARE_TR_FUNCTIONS(TamselLauncher)
 };
 
-struct Edition
-{
-    TamselEdition edition;
-    Launcher launcher;
-    QString title;
-};
-
-const std::array<Edition, tamselEditionCount> editions{{
-    {TamselEdition::Plain, Launcher::Tamsel, QStringLiteral("Tamsel")},
-    {TamselEdition::Architecture, Launcher::TamselArchitecture, QStringLiteral("Tamsel Architecture")},
-    {TamselEdition::Mep, Launcher::TamselMep, QStringLiteral("Tamsel MEP")},
-}};
-
-constexpr size_t firstVersion = 5;
-constexpr size_t lastVersion = 8;
-constexpr int yearOfVersion0 = 2010;
-
 QString manifestOfYear(const QString &root, int year)
 {
-    return joinPath(
-        root, QStringLiteral("Velmora/Tamsel/Addins/%1/%2").arg(QString::number(year), tamselManifestName));
+    return joinPath(root, u"Velmora/Tamsel/Addins/%1/%2"_s.arg(QString::number(year), tamselManifestName));
 }
 
 void writeManifest(const StepContext &context, const QString &path)
@@ -60,11 +44,11 @@ void writeManifest(const StepContext &context, const QString &path)
         qCWarning(diagnostics, "Unable to write %ls", qUtf16Printable(path));
 }
 
-// A path of another operating system would become a folder with an odd name below the working folder.
+// A path of another operating system would become an oddly named folder in the working folder.
 bool makeFolderOf(const QString &path)
 {
     const QString folder = QFileInfo(path).path();
-    return QDir::isAbsolutePath(folder) && System::makePath(folder);
+    return QDir::isAbsolutePath(folder) && Util::System::makePath(folder);
 }
 
 void copyManifest(const StepContext &context, const QString &manifest, const QString &target)
@@ -73,44 +57,57 @@ void copyManifest(const StepContext &context, const QString &manifest, const QSt
     QFile::copy(manifest, target);
 }
 
+void installEdition(const LauncherStep &step, Launcher launcher, TamselEdition edition, const QString &title)
+{
+    if (!step.isChecked(launcher))
+        return;
+    step.context.reporter.progress(LogLevel::step, title);
+    for (const TamselInstall &install : step.packages.tamselInstalls) {
+        if (install.edition == edition)
+            installTamselAddin(step, install.year);
+    }
+}
+
 } // namespace
 
-void installTamselAddin(const StepContext &context, const SharedFolders &folders, RunMode mode, int year)
+void installTamselAddin(const LauncherStep &step, int year)
 {
-    const QString first = manifestOfYear(folders.applicationDataOfOld, year);
-    const QString second = manifestOfYear(folders.applicationData, year);
-    const QString manifest =
-        joinPath(context.state.installDir, QStringLiteral("Launchers/Tamsel/") + tamselManifestName);
+    const StepContext &context = step.context;
+    const QString first = manifestOfYear(step.folders.formerApplicationData, year);
+    const QString second = manifestOfYear(step.folders.applicationData, year);
+    const QString manifest = joinPath(context.state.installDir, u"Launchers/Tamsel/"_s + tamselManifestName);
 
     context.reporter.log(LogLevel::step, Messages::tr("Tamsel Addin"));
     for (const QString &path : {first, second, manifest}) {
         context.reporter.log(LogLevel::step, Messages::tr("Removing:") + path);
         removeProductFile(path);
     }
-    if (mode != RunMode::Install)
+    if (!step.isInstall())
         return;
 
     writeManifest(context, manifest);
-    // A second try serves where another program made one of the folders at the same moment. The second
-    // target's folder is the first one's by another name; where it is not, the copy fails, and nothing is
-    // lost.
+    // The second try helps if another program creates one of the folders at the same moment. The second
+    // target's folder is normally another name of the first one's; where it is missing, its copy fails, and
+    // Tamsel reads the first one.
     if (!makeFolderOf(first))
         makeFolderOf(first);
     copyManifest(context, manifest, first);
     copyManifest(context, manifest, second);
 }
 
-void installTamselLauncher(const StepContext &context, const CadPackages &packages,
-                           const LauncherBoxes &boxes, const SharedFolders &folders, RunMode mode)
+void installTamselLauncher(const LauncherStep &step)
 {
-    for (const Edition &edition : editions) {
-        if (!boxes.isTicked(edition.launcher))
-            continue;
-        context.reporter.progress(LogLevel::step, edition.title);
-        const auto &installDirs = packages.tamselInstallDirs.at(static_cast<size_t>(edition.edition));
-        for (size_t version = firstVersion; version <= lastVersion; ++version) {
-            if (!installDirs.at(version).isEmpty())
-                installTamselAddin(context, folders, mode, static_cast<int>(version) + yearOfVersion0);
-        }
-    }
+    installEdition(step, Launcher::Tamsel, TamselEdition::Plain, u"Tamsel"_s);
 }
+
+void installTamselArchitectureLauncher(const LauncherStep &step)
+{
+    installEdition(step, Launcher::TamselArchitecture, TamselEdition::Architecture, u"Tamsel Architecture"_s);
+}
+
+void installTamselMepLauncher(const LauncherStep &step)
+{
+    installEdition(step, Launcher::TamselMep, TamselEdition::Mep, u"Tamsel MEP"_s);
+}
+
+} // namespace Nvx::Cad

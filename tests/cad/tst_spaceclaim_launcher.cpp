@@ -1,11 +1,14 @@
-#include "cad/spaceclaim/spaceclaim_launcher.h"
+#include "cad/spaceclaim/spaceclaim.h"
 #include "launcher_fixture.h"
 #include "support/test_class.h"
-#include "support/text.h"
 
 #include <QTest>
 
 #include <memory>
+
+using namespace Nvx::Cad;
+using namespace Nvx::Run;
+using namespace Qt::Literals::StringLiterals;
 
 using Nvx::Util::joinPath;
 
@@ -16,7 +19,7 @@ const char *const manifest = "NVX_2017_SpaceClaim.xml";
 
 } // namespace
 
-class tst_space_claim_launcher : public QObject
+class tst_spaceclaim_launcher : public QObject
 {
     Q_OBJECT
 
@@ -24,17 +27,17 @@ private slots:
     void init()
     {
         m_fixture = std::make_unique<LauncherFixture>();
-        m_fixture->tick(Launcher::SpaceClaim);
+        m_fixture->check(Launcher::SpaceClaim);
         writeFile(source(library), "library");
         writeFile(source(manifest), "manifest");
         QVERIFY(QDir().mkpath(QFileInfo(m_fixture->folders.spaceClaimAddin).path()));
     }
     void cleanup() { m_fixture.reset(); }
 
-    void theFolderIsTheOneOfSpaceClaim()
+    void theDefaultFolderIsThatOfSpaceClaim()
     {
         QCOMPARE(SharedFolders().spaceClaimAddin,
-                 text("C:\\ProgramData\\SpaceClaim\\Addins\\NVX_2017_SpaceClaim"));
+                 u"C:\\ProgramData\\SpaceClaim\\Addins\\NVX_2017_SpaceClaim"_s);
     }
 
     void anInstallCopiesTheAddin()
@@ -43,12 +46,12 @@ private slots:
         QCOMPARE(readFile(target(library)), QByteArray("library"));
         QCOMPARE(readFile(target(manifest)), QByteArray("manifest"));
         QCOMPARE(m_fixture->takeLines(),
-                 QStringList({text("progress 0 SpaceClaim"),
-                              text("0 Copying:%1 to: %2").arg(source(library), target(library)),
-                              text("0 Copying:%1 to: %2").arg(source(manifest), target(manifest))}));
+                 QStringList({u"progress 0 SpaceClaim"_s,
+                              u"0 Copying:%1 to: %2"_s.arg(source(library), target(library)),
+                              u"0 Copying:%1 to: %2"_s.arg(source(manifest), target(manifest))}));
     }
 
-    void aSecondInstallBringsTheNewFiles()
+    void aSecondInstallReplacesTheFiles()
     {
         step(RunMode::Install);
         writeFile(source(library), "newer");
@@ -65,30 +68,30 @@ private slots:
         QCOMPARE(readFile(target(library)), QByteArray("newer"));
     }
 
-    void aRemovalTakesTheFilesAndLeavesTheFolder_data() { addRemovingModes(); }
+    void aRemovalDeletesTheFilesAndPreservesTheFolder_data() { addRemovingModes(); }
 
-    void aRemovalTakesTheFilesAndLeavesTheFolder()
+    void aRemovalDeletesTheFilesAndPreservesTheFolder()
     {
         QFETCH(const RunMode, mode);
         step(RunMode::Install);
-        writeFile(target("NVX_2017_SpaceClaim.txt"), "somebody's");
+        writeFile(target("NVX_2017_SpaceClaim.txt"), "of another program");
         m_fixture->takeLines();
         step(mode);
-        QCOMPARE(m_fixture->takeLines(), QStringList{text("progress 0 SpaceClaim")});
+        QCOMPARE(m_fixture->takeLines(), QStringList{u"progress 0 SpaceClaim"_s});
         QCOMPARE(QDir(m_fixture->folders.spaceClaimAddin).entryList(QDir::Files),
-                 QStringList{text("NVX_2017_SpaceClaim.txt")});
+                 QStringList{u"NVX_2017_SpaceClaim.txt"_s});
         QVERIFY(QFile::exists(source(library)));
     }
 
-    void theFolderIsMadeWithoutItsParents()
+    void parentFoldersAreNotCreated()
     {
-        m_fixture->folders.spaceClaimAddin = m_fixture->test.path(text("no/Addins/NVX_2017_SpaceClaim"));
+        m_fixture->folders.spaceClaimAddin = m_fixture->test.path(u"no/Addins/NVX_2017_SpaceClaim"_s);
         step(RunMode::Install);
-        QVERIFY(!QFile::exists(m_fixture->test.path(text("no"))));
+        QVERIFY(!QFile::exists(m_fixture->test.path(u"no"_s)));
         QCOMPARE(m_fixture->takeLines().size(), 3);
     }
 
-    void missingSourcesAreNoError()
+    void aMissingSourceIsNotAnError()
     {
         QVERIFY(QFile::remove(source(library)));
         step(RunMode::Install);
@@ -96,41 +99,38 @@ private slots:
         QVERIFY(QFile::exists(target(manifest)));
     }
 
-    void withoutItsBoxNothingHappens()
+    void anUncheckedLauncherIsNotChanged()
     {
         step(RunMode::Install);
         m_fixture->takeLines();
-        m_fixture->boxes.setFound(Launcher::SpaceClaim, false);
+        m_fixture->checkBoxes.setFound(Launcher::SpaceClaim, false);
         step(RunMode::Uninstall);
         QVERIFY(QFile::exists(target(library)));
         QVERIFY(m_fixture->takeLines().isEmpty());
     }
 
-    void aFolderOfAnotherSystemIsNotMadeHere()
+    void aRelativeFolderIsNotCreated()
     {
-        m_fixture->folders.spaceClaimAddin = text("NVX test, not a full path");
+        m_fixture->folders.spaceClaimAddin = u"NVX test, not a full path"_s;
         step(RunMode::Install);
         QVERIFY(!QFile::exists(m_fixture->folders.spaceClaimAddin));
     }
 
 private:
-    void step(RunMode mode)
-    {
-        installSpaceClaimLauncher(m_fixture->context(), m_fixture->boxes, m_fixture->folders, mode);
-    }
+    void step(RunMode mode) { installSpaceClaimLauncher(m_fixture->step(mode)); }
 
     QString source(const char *name) const
     {
-        return joinPath(m_fixture->installed("Launchers/SpaceClaim"), text(name));
+        return joinPath(m_fixture->installed("Launchers/SpaceClaim"), QString::fromUtf8(name));
     }
 
     QString target(const char *name) const
     {
-        return joinPath(m_fixture->folders.spaceClaimAddin, text(name));
+        return joinPath(m_fixture->folders.spaceClaimAddin, QString::fromUtf8(name));
     }
 
     std::unique_ptr<LauncherFixture> m_fixture;
 };
 
-NVX_GUILESS_TEST(tst_space_claim_launcher)
-#include "tst_space_claim_launcher.moc"
+NVX_GUILESS_TEST(tst_spaceclaim_launcher)
+#include "tst_spaceclaim_launcher.moc"

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "cad/launcher_check_boxes.h"
+#include "run/run_state.h"
+#include "run/step_context.h"
+
+namespace Nvx::Cad {
+
+struct CadPackages;
+struct SharedFolders;
+
+/// What the installation or removal of a launcher works with.
+struct LauncherStep
+{
+    Run::StepContext context;
+    const CadPackages &packages;
+    const LauncherCheckBoxes &checkBoxes;
+    const SharedFolders &folders;
+    Run::RunMode mode; ///< anything but Install removes
+
+    bool isInstall() const { return mode == Run::RunMode::Install; }
+    bool isChecked(Launcher launcher) const { return checkBoxes.isChecked(launcher); }
+};
+
+} // namespace Nvx::Cad
