@@ -1,5 +1,5 @@
-"""The six CAD systems that the product has launchers for, as their installers leave them on a machine: what
-stands of them in the registry, and the files that the launchers are told in.
+"""The six CAD systems that have a launcher, as their installers leave them on a machine: their registry values
+and the files that list add-ins.
 
     put_cad_systems(machine)
 """
@@ -25,7 +25,7 @@ COM_CLASSES = {
     "SolidWorks": "HKEY_LOCAL_MACHINE\\Software\\Classes\\CLSID\\{8F1D6C72-21B4-4E0F-8A4E-61C0D94E2017}",
 }
 
-# An add-in of somebody else's, in an encoding of its own.
+# An add-in of another program, in a different encoding.
 FOREIGN_ENTRY = (
     "name Schaltplan für Größen\r\n"
     "startup DLL\r\n"
@@ -70,7 +70,7 @@ def registry_values() -> Registry:
 
 
 def registry_script(values: Registry) -> str:
-    """The text of a script for the Registry Editor that writes the values."""
+    """A Registry Editor script that writes the values."""
     lines = ["Windows Registry Editor Version 5.00"]
     for key, texts in values.items():
         lines += ["", f"[{key}]"]
@@ -80,7 +80,7 @@ def registry_script(values: Registry) -> str:
 
 
 def put_cad_systems(machine: Machine) -> None:
-    """Puts all six on the machine, with an add-in of somebody else's in each file that is shared."""
+    """Installs all six on the machine, with an add-in of another program in each shared file."""
     machine.import_script(registry_script(registry_values()))
     for path, contents in (
         (PROTK_2, FOREIGN_ENTRY),

@@ -1,4 +1,4 @@
-"""The search for CAD systems by the real program, in the registry of a real machine."""
+"""The real program searches the registry of a real machine for CAD systems."""
 
 import unittest
 from pathlib import Path
@@ -11,7 +11,7 @@ CASES = Path(__file__).resolve().parents[1] / "cad" / "cases"
 
 class CadSearch(MachineCase):
     def search_lines(self, case, *tokens):
-        """The lines of the search in a run on a machine whose registry is that of a case of tests/cad."""
+        """The lines that a run logs about the search, on a machine with the registry of a case in tests/cad."""
         self.machine.import_script((CASES / case / "machine.reg").read_text(encoding="utf-8"))
         self.put_product()
         self.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink(missing_ok=True)
@@ -35,7 +35,7 @@ class CadSearch(MachineCase):
         self.assertEqual(self.search_lines("every_cad_system", "-I", "-S", "-Len-US"), expected)
         self.assertEqual(self.search_lines("every_cad_system", "-U", "-S", "-Len-US"), expected)
 
-    def test_3_stopping_services_searches_nothing(self):
+    def test_3_stopping_services_does_not_search(self):
         self.put_product()
         self.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink(missing_ok=True)
         code, lines = self.configure(INSTALL_DIR, "-ST")
