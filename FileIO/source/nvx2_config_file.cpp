@@ -14,10 +14,8 @@ const char *const Nvx2ConfigFile::SocketsPerNode = "SocketsPerNode";
 
 bool File::saveTo(const std::string &path) const
 {
-    std::string contents;
-    if (!write(contents))
-        return false;
-    return Util::replaceWholeFile(Util::toQString(path), QByteArray::fromStdString(contents));
+    const std::optional<std::string> bytes = contents();
+    return bytes && Util::replaceWholeFile(Util::toQString(path), QByteArray::fromStdString(*bytes));
 }
 
 Setting &Nvx2ConfigFile::setting(const std::string &key)
@@ -29,14 +27,15 @@ Setting &Nvx2ConfigFile::setting(const std::string &key)
     return m_settings.emplace_back(key, Setting()).second;
 }
 
-bool Nvx2ConfigFile::write(std::string &contents) const
+std::optional<std::string> Nvx2ConfigFile::contents() const
 {
+    std::string lines;
     for (const auto &[name, setting] : m_settings) {
         if (setting.value().find_first_of("\r\n") != std::string::npos)
-            return false;
-        contents += Util::toQString(name + " = " + setting.value()).toUtf8().toStdString() + "\r\n";
+            return std::nullopt;
+        lines += Util::toQString(name + " = " + setting.value()).toUtf8().toStdString() + "\r\n";
     }
-    return true;
+    return lines;
 }
 
 } // namespace Nvx::Io

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,8 +32,8 @@ public:
     bool saveTo(const std::string &path) const;
 
 protected:
-    /// Appends the bytes of the file to contents. Returns false if a value cannot be written.
-    virtual bool write(std::string &contents) const = 0;
+    /// The bytes of the file; std::nullopt if a value cannot be written.
+    virtual std::optional<std::string> contents() const = 0;
 };
 
 /// The solver's configuration file: one line "key = value" per setting, in the order in which the settings
@@ -52,7 +53,7 @@ public:
     Setting &setting(const std::string &key);
 
 protected:
-    bool write(std::string &contents) const override;
+    std::optional<std::string> contents() const override;
 
 private:
     std::vector<std::pair<std::string, Setting>> m_settings;
