@@ -6,7 +6,7 @@
 #include <QStringList>
 
 /// Keeps what is reported: each line as "LEVEL TEXT", a progress line with "progress " before it.
-class RecordingReporter : public Reporter
+class RecordingReporter : public Nvx::Run::Reporter
 {
 public:
     QStringList lines;
