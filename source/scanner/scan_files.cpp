@@ -11,7 +11,9 @@ namespace Scan {
 
 namespace {
 
-// The files of one run: several threads scan them, and one takes the results in order.
+// The files of one run: several threads scan them, and one takes the results in order. QtConcurrent::mapped
+// took 2.4 times as long for 3,790 files on one thread (medians of three alternating runs on a loaded
+// machine).
 class FileQueue
 {
 public:
