@@ -173,9 +173,9 @@ Feeding medianFeeding(std::size_t messages, Once once)
 Feeding measureFeeding(const MessageTable &messages)
 {
     return medianFeeding(messages.size(), [&messages](double &first, double &again) {
-        Error::TranslationTable table;
-        first = Bench::milliseconds([&] { Error::addMessageTexts(table, messages); });
-        again = Bench::milliseconds([&] { Error::addMessageTexts(table, messages); });
+        Translation::TranslationTable table;
+        first = Bench::milliseconds([&] { Translation::addMessageTexts(table, messages); });
+        again = Bench::milliseconds([&] { Translation::addMessageTexts(table, messages); });
     });
 }
 
@@ -185,7 +185,7 @@ Feeding measureUpdate(int count, const QString &messages, const QString &transla
     const auto update = [&] {
         QString log;
         QTextStream stream(&log);
-        if (!Error::synchronizeTranslationTable(messages, translation, stream, stream))
+        if (!Translation::synchronizeTranslationTable(messages, translation, stream, stream))
             qFatal("cannot update");
     };
     return medianFeeding(static_cast<std::size_t>(count), [&](double &first, double &again) {

@@ -119,7 +119,7 @@ Opening measureOpening(MessageTableUtility &window, const QString &fileName, con
         });
         view->showRows(Window::MarkedRows(columns));
         show[run] = Bench::milliseconds([&] {
-            view->showRows(Error::rowsOf(window.messages()));
+            view->showRows(MessageWindow::messageRows(window.messages()));
             QApplication::processEvents();
         });
     }

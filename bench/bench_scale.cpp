@@ -70,12 +70,12 @@ Scan::FoundKeys keysIn(const QStringList &fileNames)
     return found;
 }
 
-mat::MaterialNames namesIn(const QByteArray &database)
+QStringList namesIn(const QByteArray &database)
 {
     QBuffer device;
     device.setData(database);
     device.open(QIODevice::ReadOnly);
-    return mat::readMaterialNames(device);
+    return *Materials::readMaterialNames(device);
 }
 
 /// The median of five runs, in nanoseconds per item.
@@ -94,7 +94,7 @@ void measure(int items)
     const QStringList fileNames = writeSources(folder, items);
     const QByteArray database = databaseOf(items);
     const Scan::FoundKeys keys = keysIn(fileNames);
-    const QStringList names = namesIn(database).names;
+    const QStringList names = namesIn(database);
     if (keys.size() != items || names.size() != items)
         qFatal("found %lld keys and %lld names", static_cast<long long>(keys.size()),
                static_cast<long long>(names.size()));
@@ -105,12 +105,12 @@ void measure(int items)
         Synchronisation::synchronizeKeys(table, keys);
     });
     const double read = perItem(items, [&] { namesIn(database); });
-    Error::TranslationTable filled;
+    Translation::TranslationTable filled;
     const double feed = perItem(items, [&] {
-        filled = Error::TranslationTable();
-        mat::synchronizeNames(filled, names);
+        filled = Translation::TranslationTable();
+        Materials::synchronizeNames(filled, names);
     });
-    const double again = perItem(items, [&] { mat::synchronizeNames(filled, names); });
+    const double again = perItem(items, [&] { Materials::synchronizeNames(filled, names); });
     std::printf("%9d %8.0f %8.0f %8.0f %8.0f %8.0f\n", items, scan, synchronise, read, feed, again);
 }
 

@@ -1,6 +1,6 @@
-// Reads bytes as a material database: as they are, or each as a piece of markup, so that documents come
-// about. A table brought in step with the names holds them all, also once it was written and read back, and
-// has nothing to add then.
+// Reads bytes as a material database: unchanged, or each byte as a piece of markup, which produces documents.
+// A table that was synchronised with the names has them all, also after it was written and read again;
+// another synchronisation changes nothing.
 
 #include "materials/mat_material_name.h"
 #include "materials/mat_translation_table.h"
@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -32,23 +33,23 @@ QByteArray document(const QByteArray &bytes)
     return text + "</m>";
 }
 
-mat::MaterialNames read(const QByteArray &bytes)
+Nvx::Util::Result<QStringList> readNames(const QByteArray &bytes)
 {
     QBuffer device;
     device.setData(bytes);
     device.open(QIODevice::ReadOnly);
-    return mat::readMaterialNames(device);
+    return Materials::readMaterialNames(device);
 }
 
-Error::TranslationTable writtenAndRead(const Error::TranslationTable &table)
+Translation::TranslationTable writtenAndRead(const Translation::TranslationTable &table)
 {
     QBuffer device;
     device.open(QIODevice::ReadWrite);
-    require(Error::writeTranslationTable(device, table));
+    require(Translation::writeTranslationTable(device, table));
     device.seek(0);
-    Error::TranslationTable again;
-    require(mat::readTable(device, again).isEmpty());
-    return again;
+    auto again = Materials::readTable(device);
+    require(bool(again));
+    return *std::move(again);
 }
 
 } // namespace
@@ -56,14 +57,14 @@ Error::TranslationTable writtenAndRead(const Error::TranslationTable &table)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
     const QByteArray input(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
-    const mat::MaterialNames database = read(input.startsWith('m') ? document(input.mid(1)) : input);
-    require(database.error.isEmpty() || database.names.isEmpty());
+    const auto read = readNames(input.startsWith('m') ? document(input.mid(1)) : input);
+    const QStringList names = read ? *read : QStringList();
 
-    Error::TranslationTable table;
-    const mat::NameCounts counts = mat::synchronizeNames(table, database.names).counts;
+    Translation::TranslationTable table;
+    const Materials::NameCounts counts = Materials::synchronizeNames(table, names).counts;
     require(counts.added == counts.found && counts.obsolete == 0);
-    Error::TranslationTable again = writtenAndRead(table);
-    const mat::NameSynchronization second = mat::synchronizeNames(again, database.names);
+    Translation::TranslationTable again = writtenAndRead(table);
+    const Materials::NameSynchronization second = Materials::synchronizeNames(again, names);
     require(second.counts.added == 0 && second.counts.obsolete == 0 && !second.isChanged);
     return 0;
 }

@@ -1,4 +1,4 @@
-// Reads bytes as a translation file. What was read must be written, and read back as it was.
+// Reads bytes as a translation file. A table that was read can be written, and is then read unchanged.
 
 #include "translation/error_translation_table.h"
 #include "translation/translation_table_xml.h"
@@ -8,6 +8,9 @@
 #include <cstdint>
 #include <cstdlib>
 
+using Translation::TranslationRoot;
+using Translation::TranslationTable;
+
 namespace {
 
 void require(bool condition)
@@ -16,19 +19,19 @@ void require(bool condition)
         std::abort();
 }
 
-Error::TranslationReading read(const QByteArray &bytes, Error::TranslationTable &table)
+Nvx::Util::Result<TranslationRoot> read(const QByteArray &bytes, TranslationTable &table)
 {
     QBuffer device;
     device.setData(bytes);
     device.open(QIODevice::ReadOnly);
-    return Error::readTranslationTable(device, table);
+    return Translation::readTranslationTable(device, table);
 }
 
-QByteArray written(const Error::TranslationTable &table)
+QByteArray written(const TranslationTable &table)
 {
     QBuffer device;
     device.open(QIODevice::WriteOnly);
-    require(Error::writeTranslationTable(device, table));
+    require(Translation::writeTranslationTable(device, table));
     return device.data();
 }
 
@@ -36,16 +39,16 @@ QByteArray written(const Error::TranslationTable &table)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
-    Error::TranslationTable table;
-    const Error::TranslationReading reading =
+    TranslationTable table;
+    const auto root =
         read(QByteArray(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size)), table);
-    require(reading.foundRoot || table.contexts().empty());
+    require(!root || *root == TranslationRoot::Found || table.contexts().empty());
     const QByteArray file = written(table);
-    Error::TranslationTable again;
-    require(read(file, again).error.isEmpty());
+    TranslationTable again;
+    require(bool(read(file, again)));
     require(written(again) == file);
     for (const auto &[name, context] : table.contexts()) {
-        for (const Error::TranslationMessage &message : context.messages())
+        for (const Translation::TranslationMessage &message : context.messages())
             require(again.contains(name, message.source));
     }
     return 0;

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>TranslationKeptFile</name>
+    <name>TranslationBackup</name>
     <message>
         <source>Plural forms were dropped; the old file is %1</source>
         <translation>Le forme plurali sono state omesse, il vecchio file è %1</translation>

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>TranslationKeptFile</name>
+    <name>TranslationBackup</name>
     <message>
         <source>Plural forms were dropped; the old file is %1</source>
         <translation>복수형이 제외되었습니다. 이전 파일은 %1입니다</translation>

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>TranslationKeptFile</name>
+    <name>TranslationBackup</name>
     <message>
         <source>Plural forms were dropped; the old file is %1</source>
         <translation>複數形式已被省略，原來的檔案是 %1</translation>

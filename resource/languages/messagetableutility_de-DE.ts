@@ -167,7 +167,7 @@
     </message>
 </context>
 <context>
-    <name>TranslationKeptFile</name>
+    <name>TranslationBackup</name>
     <message>
         <source>Plural forms were dropped; the old file is %1</source>
         <translation>Pluralformen sind entfallen, die alte Datei ist %1</translation>

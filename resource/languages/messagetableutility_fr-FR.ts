@@ -167,7 +167,7 @@
     </message>
 </context>
 <context>
-    <name>TranslationKeptFile</name>
+    <name>TranslationBackup</name>
     <message>
         <source>Plural forms were dropped; the old file is %1</source>
         <translation>Les formes plurielles sont omises, l&apos;ancien fichier est %1</translation>

@@ -166,12 +166,12 @@ void util_localization_tool::updateMaterialNames()
 {
     const QString translations = inLocale(sourceLanguage.locale, u"matprop.ts"_s);
     if (hasRoot() && Localization::makeWritable(translations)) {
-        const mat::TableUpdate update =
-            mat::updateTranslationFile(inRoot(u"Projects/Client/runtime/matprop.mdb"_s), translations);
-        if (update.outcome != mat::TableUpdate::Outcome::Updated)
-            m_context.reporter.log(LogLevel::failure, update.error);
-        else if (!update.note.isEmpty())
-            m_context.reporter.log(LogLevel::failure, update.note);
+        const auto update =
+            Materials::updateTranslationFile(inRoot(u"Projects/Client/runtime/matprop.mdb"_s), translations);
+        if (!update)
+            m_context.reporter.log(LogLevel::failure, update.error());
+        else if (!update->note.isEmpty())
+            m_context.reporter.log(LogLevel::failure, update->note);
     } else {
         m_context.reporter.log(LogLevel::failure, u"Permission fails:"_s + translations);
     }

@@ -6,13 +6,14 @@
 #include <algorithm>
 #include <vector>
 
-namespace mat {
+namespace MaterialWindow {
 
 namespace {
 
-using Error::TranslationMessage;
+using Translation::TranslationMessage;
+using Translation::TranslationMessages;
 
-std::vector<const TranslationMessage *> inNameOrder(const Error::TranslationMessages &messages)
+std::vector<const TranslationMessage *> inNameOrder(const TranslationMessages &messages)
 {
     std::vector<const TranslationMessage *> ordered;
     ordered.reserve(messages.size());
@@ -27,22 +28,22 @@ std::vector<const TranslationMessage *> inNameOrder(const Error::TranslationMess
 
 Window::RowMark markOf(const TranslationMessage &message, const QSet<QString> &newNames)
 {
-    if (message.type == obsoleteType())
+    if (message.type == Materials::obsoleteType())
         return Window::RowMark::Obsolete;
     return newNames.contains(message.source) ? Window::RowMark::New : Window::RowMark::None;
 }
 
 } // namespace
 
-Window::MarkedRows rowsOf(const Error::TranslationTable &table, const QSet<QString> &newNames)
+Window::MarkedRows materialRows(const Translation::TranslationTable &table, const QSet<QString> &newNames)
 {
     constexpr int columns = 2;
     Window::MarkedRows rows(columns);
-    const Error::TranslationMessages &messages = materialMessages(table);
+    const TranslationMessages &messages = Materials::materialMessages(table);
     rows.reserve(messages.size());
     for (const TranslationMessage *message : inNameOrder(messages))
         rows.add({message->source, message->translation}, markOf(*message, newNames));
     return rows;
 }
 
-} // namespace mat
+} // namespace MaterialWindow

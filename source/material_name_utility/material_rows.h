@@ -5,15 +5,15 @@
 #include <QSet>
 #include <QString>
 
-namespace Error {
+namespace Translation {
 class TranslationTable;
 }
 
-namespace mat {
+namespace MaterialWindow {
 
 /// The rows of the material names in a table: name and translation, ordered by the UTF-16 code units of the
-/// names, equal ones as they follow each other in the table. Obsolete names are marked so, and those of the
-/// new names that are not obsolete as new.
-Window::MarkedRows rowsOf(const Error::TranslationTable &table, const QSet<QString> &newNames);
+/// names; duplicates keep the order of the table. Obsolete names are marked as such, the other ones of the
+/// new names as new.
+Window::MarkedRows materialRows(const Translation::TranslationTable &table, const QSet<QString> &newNames);
 
-} // namespace mat
+} // namespace MaterialWindow

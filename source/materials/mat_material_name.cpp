@@ -5,12 +5,17 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
-namespace mat {
+using namespace Qt::Literals::StringLiterals;
+
+using Nvx::Util::Failure;
+using Nvx::Util::Result;
+
+namespace Materials {
 
 namespace {
 
-/// The text of the element on which the reader stands, that of elements within it included. Elements may be
-/// nested as deeply as the file likes, so this counts them and does not recur.
+/// The text of the current element, including that of its children. It counts the levels and does not
+/// recurse, because a file may nest elements as deeply as it likes.
 QString readWholeText(QXmlStreamReader &xml)
 {
     QString text;
@@ -28,10 +33,10 @@ QString readWholeText(QXmlStreamReader &xml)
 
 } // namespace
 
-MaterialNames readMaterialNames(QIODevice &device)
+Result<QStringList> readMaterialNames(QIODevice &device)
 {
     QXmlStreamReader xml(&device);
-    MaterialNames read;
+    QStringList names;
     qint64 openMaterials = 0;
     while (Clt::canRead(xml)) {
         const QXmlStreamReader::TokenType token = xml.readNext();
@@ -40,24 +45,23 @@ MaterialNames readMaterialNames(QIODevice &device)
         else if (token == QXmlStreamReader::EndElement && xml.name() == u"material")
             --openMaterials;
         else if (token == QXmlStreamReader::StartElement && xml.name() == u"name" && openMaterials > 0)
-            read.names.append(readWholeText(xml));
+            names.append(readWholeText(xml));
     }
     if (xml.hasError())
-        return {QStringList(),
-                QStringLiteral("%1 at line %2").arg(xml.errorString(), QString::number(xml.lineNumber()))};
-    return read;
+        return Failure{u"%1 at line %2"_s.arg(xml.errorString(), QString::number(xml.lineNumber()))};
+    return names;
 }
 
-MaterialNames readMaterialNames(const QString &fileName)
+Result<QStringList> readMaterialNames(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        return {QStringList(), file.errorString()};
-    MaterialNames read = readMaterialNames(file);
-    // To the reader a file that fails has come to its end.
+        return Failure{file.errorString()};
+    const Result<QStringList> names = readMaterialNames(file);
+    // The reader treats a read error as the end of the file.
     if (file.error() != QFileDevice::NoError)
-        return {QStringList(), file.errorString()};
-    return read;
+        return Failure{file.errorString()};
+    return names;
 }
 
-} // namespace mat
+} // namespace Materials

@@ -1,26 +1,22 @@
 #pragma once
 
+#include "nvx_util/result.h"
+
 #include <QString>
 #include <QStringList>
 
 class QIODevice;
 
-namespace mat {
+namespace Materials {
 
-// A material database is an XML document. A material is an element "material", wherever it stands; what it
-// holds in elements "name", at any depth, are its names. Materials within a material have names of their own.
+// A material database is an XML document. A material is an element "material" at any depth; its names are the
+// texts of the elements "name" at any depth within it. Materials may be nested.
 
-/// What reading a database gave.
-struct MaterialNames
-{
-    QStringList names; ///< as they stand, in the order of the database, equal ones and empty ones included
-    QString error;     ///< why it could not be read, for the user; there are no names then. Else empty
-};
-
-/// Reads the database on the open device.
-MaterialNames readMaterialNames(QIODevice &device);
+/// Reads the names from the open device: unchanged, in the order of the database, including duplicates and
+/// empty names. The error text is for the user.
+Nvx::Util::Result<QStringList> readMaterialNames(QIODevice &device);
 
 /// The same from a file.
-MaterialNames readMaterialNames(const QString &fileName);
+Nvx::Util::Result<QStringList> readMaterialNames(const QString &fileName);
 
-} // namespace mat
+} // namespace Materials

@@ -2,18 +2,24 @@
 
 #include "materials/mat_material_name.h"
 #include "translation/error_translation_table.h"
-#include "translation/translation_kept_file.h"
+#include "translation/translation_backup.h"
 #include "translation/translation_table_xml.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
+#include <utility>
 
-using Error::TranslationMessage;
-using Error::TranslationTable;
+using namespace Qt::Literals::StringLiterals;
 
-namespace mat {
+using Nvx::Util::Failure;
+using Nvx::Util::Result;
+using Translation::TranslationMessage;
+using Translation::TranslationMessages;
+using Translation::TranslationTable;
+
+namespace Materials {
 
 namespace {
 
@@ -24,51 +30,53 @@ struct Texts
 
 bool wouldChangeType(const TranslationTable &table, const QSet<QString> &obsolete)
 {
-    const Error::TranslationMessages &messages = materialMessages(table);
+    const TranslationMessages &messages = materialMessages(table);
     return std::any_of(messages.begin(), messages.end(), [&obsolete](const TranslationMessage &message) {
         return message.type != obsoleteType() && obsolete.contains(message.source);
     });
 }
 
-/// Why the file could not be read into the table; empty when it was, or when there is none.
-QString readTableFile(const QString &fileName, TranslationTable &table)
+/// The table of the file; an empty one if there is no file.
+Result<TranslationTable> readTableFile(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.exists())
-        return QString();
+        return TranslationTable();
     if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
-    const QString error = readTable(file, table);
-    return file.error() == QFileDevice::NoError ? error : file.errorString();
+        return Failure{file.errorString()};
+    Result<TranslationTable> table = readTable(file);
+    if (file.error() != QFileDevice::NoError)
+        return Failure{file.errorString()};
+    return table;
 }
 
-QString fileAndError(const QString &fileName, const QString &error)
+Failure failureOf(const QString &fileName, const QString &reason)
 {
-    return QStringLiteral("%1: %2").arg(fileName, error);
+    return {u"%1: %2"_s.arg(fileName, reason)};
 }
 
 } // namespace
 
 QString materialContext()
 {
-    return QStringLiteral("Clt::Material");
+    return u"Clt::Material"_s;
 }
 
 QString obsoleteType()
 {
-    return QStringLiteral("obsolete");
+    return u"obsolete"_s;
 }
 
-const Error::TranslationMessages &materialMessages(const TranslationTable &table)
+const TranslationMessages &materialMessages(const TranslationTable &table)
 {
-    static const Error::TranslationMessages none;
+    static const TranslationMessages none;
     const auto found = table.contexts().find(materialContext());
     return found == table.contexts().end() ? none : found->second.messages();
 }
 
-QSet<QString> heldNames(const TranslationTable &table)
+QSet<QString> namesIn(const TranslationTable &table)
 {
-    const Error::TranslationMessages &messages = materialMessages(table);
+    const TranslationMessages &messages = materialMessages(table);
     QSet<QString> names;
     names.reserve(static_cast<qsizetype>(messages.size()));
     for (const TranslationMessage &message : messages)
@@ -76,16 +84,16 @@ QSet<QString> heldNames(const TranslationTable &table)
     return names;
 }
 
-NameDifference differenceOf(const QSet<QString> &database, const QSet<QString> &held)
+NameDifference differenceOf(const QSet<QString> &inDatabase, const QSet<QString> &inTable)
 {
     NameDifference difference;
-    for (const QString &name : database) {
-        if (!held.contains(name))
+    for (const QString &name : inDatabase) {
+        if (!inTable.contains(name))
             difference.added.append(name);
     }
     difference.added.sort();
-    for (const QString &name : held) {
-        if (!database.contains(name))
+    for (const QString &name : inTable) {
+        if (!inDatabase.contains(name))
             difference.obsolete.insert(name);
     }
     return difference;
@@ -93,11 +101,12 @@ NameDifference differenceOf(const QSet<QString> &database, const QSet<QString> &
 
 NameSynchronization synchronizeNames(TranslationTable &table, const QStringList &databaseNames)
 {
-    const QSet<QString> database(databaseNames.begin(), databaseNames.end());
-    const NameDifference difference = differenceOf(database, heldNames(table));
+    const QSet<QString> inDatabase(databaseNames.begin(), databaseNames.end());
+    const NameDifference difference = differenceOf(inDatabase, namesIn(table));
 
     NameSynchronization result;
-    result.counts = {database.size(), difference.added.size(), difference.obsolete.size()};
+    result.counts = {
+        .found = inDatabase.size(), .added = difference.added.size(), .obsolete = difference.obsolete.size()};
     result.added = difference.added;
     result.isChanged = !difference.added.isEmpty() || wouldChangeType(table, difference.obsolete);
     for (const QString &name : difference.added)
@@ -106,35 +115,36 @@ NameSynchronization synchronizeNames(TranslationTable &table, const QStringList 
     return result;
 }
 
-QString readTable(QIODevice &device, TranslationTable &table)
+Result<TranslationTable> readTable(QIODevice &device)
 {
-    const Error::TranslationReading reading = Error::readTranslationTable(device, table);
-    if (reading.error.isEmpty() && !reading.foundRoot)
-        return Texts::tr("It is not a translation file");
-    return reading.error;
+    using Translation::TranslationRoot;
+    TranslationTable table;
+    const Result<TranslationRoot> root = Translation::readTranslationTable(device, table);
+    if (!root)
+        return Failure{root.error()};
+    if (*root == TranslationRoot::Missing)
+        return Failure{Texts::tr("It is not a translation file")};
+    return table;
 }
 
-TableUpdate updateTranslationFile(const QString &databaseFile, const QString &translationFile)
+Result<NameUpdate> updateTranslationFile(const QString &databaseFile, const QString &translationFile)
 {
-    const MaterialNames database = readMaterialNames(databaseFile);
-    if (!database.error.isEmpty())
-        return {TableUpdate::Outcome::DatabaseNotRead, {}, fileAndError(databaseFile, database.error), {}};
+    const Result<QStringList> names = readMaterialNames(databaseFile);
+    if (!names)
+        return failureOf(databaseFile, names.error());
 
-    TranslationTable table;
-    const QString error = readTableFile(translationFile, table);
-    if (!error.isEmpty())
-        return {TableUpdate::Outcome::TableNotRead, {}, fileAndError(translationFile, error), {}};
+    Result<TranslationTable> read = readTableFile(translationFile);
+    if (!read)
+        return failureOf(translationFile, read.error());
+    TranslationTable table = *std::move(read);
 
-    const NameCounts counts = synchronizeNames(table, database.names).counts;
+    NameUpdate update;
+    update.counts = synchronizeNames(table, *names).counts;
     if (!table.save(translationFile))
-        return {TableUpdate::Outcome::TableNotSaved,
-                {},
-                fileAndError(translationFile, Texts::tr("It cannot be written")),
-                {}};
-    TableUpdate update = {TableUpdate::Outcome::Updated, counts, {}, {}};
-    if (!table.keptFile().isEmpty())
-        update.note = Error::keptFileText(table.keptFile());
+        return failureOf(translationFile, Texts::tr("It cannot be written"));
+    if (!table.backupFile().isEmpty())
+        update.note = Translation::backupText(table.backupFile());
     return update;
 }
 
-} // namespace mat
+} // namespace Materials

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "nvx_util/result.h"
 #include "translation/translation_message.h"
 
 #include <QSet>
@@ -8,41 +9,42 @@
 
 class QIODevice;
 
-namespace Error {
+namespace Translation {
 class TranslationTable;
 }
 
-namespace mat {
+namespace Materials {
 
-/// The context under which a translation table holds the names of materials.
+/// The context of the material names in a translation table.
 QString materialContext();
 
-/// The type of a name that the database does not have any more.
+/// The type of a name that is no longer in the database.
 QString obsoleteType();
 
 /// The names with their translations, in the order of the table.
-const Error::TranslationMessages &materialMessages(const Error::TranslationTable &table);
+const Translation::TranslationMessages &materialMessages(const Translation::TranslationTable &table);
 
-/// The names that a table holds, obsolete ones included.
-QSet<QString> heldNames(const Error::TranslationTable &table);
+/// The material names in a table, including obsolete ones.
+QSet<QString> namesIn(const Translation::TranslationTable &table);
 
-/// How the names in a database differ from those that a table holds.
+/// How the names in a database differ from those in a table.
 struct NameDifference
 {
-    QStringList added;      ///< of the database alone, sorted by their UTF-16 code units
-    QSet<QString> obsolete; ///< of the table alone
+    QStringList added;      ///< only in the database; sorted by UTF-16 code units
+    QSet<QString> obsolete; ///< only in the table
 };
 
-NameDifference differenceOf(const QSet<QString> &database, const QSet<QString> &held);
+NameDifference differenceOf(const QSet<QString> &inDatabase, const QSet<QString> &inTable);
 
-/// What a synchronisation found, equal names counted once.
+/// The result of a synchronisation; duplicates count once.
 struct NameCounts
 {
     qsizetype found = 0;    ///< names in the database
-    qsizetype added = 0;    ///< names that the table did not hold
-    qsizetype obsolete = 0; ///< names that the table alone holds, those obsolete before included
+    qsizetype added = 0;    ///< names that were not in the table
+    qsizetype obsolete = 0; ///< names that are only in the table, including those that were obsolete before
 
-    /// What is reported as existing. It is deliberately too low by the obsolete names, and may be negative.
+    /// The number that is reported as existing. It is deliberately too low by the obsolete names, and may be
+    /// negative.
     qsizetype existing() const { return found - obsolete - added; }
 };
 
@@ -50,37 +52,29 @@ struct NameSynchronization
 {
     NameCounts counts;
     QStringList added;      ///< the names, sorted
-    bool isChanged = false; ///< whether the table is another one now
+    bool isChanged = false; ///< whether the table was changed
 };
 
-/// Brings a table in step with the names of a database. New names are added in their order, each unfinished
-/// and with itself for a translation; those that the database does not have become obsolete, with the
-/// translation kept. A name that was obsolete and is in the database again stays as it is.
-NameSynchronization synchronizeNames(Error::TranslationTable &table, const QStringList &databaseNames);
+/// Synchronises a table with the names of a database. New names are added in their order, unfinished, each as
+/// its own translation. Names that are not in the database become obsolete and keep their translation. An
+/// obsolete name that is in the database again stays obsolete.
+NameSynchronization synchronizeNames(Translation::TranslationTable &table, const QStringList &databaseNames);
 
-/// Reads the translation file on the open device into an empty table. Empty when it is one, else why not, for
-/// the user; the table is then of no use.
-QString readTable(QIODevice &device, Error::TranslationTable &table);
+/// Reads a translation file from the open device. Fails, with a text for the user, if it is not well formed
+/// or not a translation file.
+Nvx::Util::Result<Translation::TranslationTable> readTable(QIODevice &device);
 
-/// How the update of a translation file ended.
-struct TableUpdate
+/// The update of a translation file.
+struct NameUpdate
 {
-    enum class Outcome
-    {
-        Updated,
-        DatabaseNotRead,
-        TableNotRead,
-        TableNotSaved
-    };
-
-    Outcome outcome = Outcome::Updated;
-    NameCounts counts; ///< when it was updated
-    QString error;     ///< else the file and what is wrong with it, for the log
-    QString note;      ///< when it was updated: what the log should say besides; usually empty
+    NameCounts counts;
+    QString note; ///< what else the log should say; usually empty
 };
 
-/// Brings a translation file in step with a database, whole or not at all. A translation file that does not
-/// exist is made; one that cannot be read as such to its end is left as it is.
-TableUpdate updateTranslationFile(const QString &databaseFile, const QString &translationFile);
+/// Synchronises a translation file with a database. The file is replaced whole or not at all, and created if
+/// it does not exist. A file that is not a complete translation file is left unchanged. The error is "FILE:
+/// REASON", for the log.
+Nvx::Util::Result<NameUpdate> updateTranslationFile(const QString &databaseFile,
+                                                    const QString &translationFile);
 
-} // namespace mat
+} // namespace Materials

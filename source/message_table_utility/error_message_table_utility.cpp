@@ -6,7 +6,7 @@
 #include "scanner/error_visual_studio_project.h"
 #include "synchronisation/message_table_synchronisation.h"
 #include "translation/error_translation_table.h"
-#include "translation/translation_kept_file.h"
+#include "translation/translation_backup.h"
 #include "translation/translation_update.h"
 #include "window/dialogs.h"
 #include "window/marked_table_view.h"
@@ -20,13 +20,20 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
+using Nvx::Util::Done;
+using Nvx::Util::Failure;
+using Nvx::Util::Outcome;
+using Nvx::Util::Result;
 using Window::RowMark;
 
 namespace {
 
-const QString iconFolder = QStringLiteral(":/ErrorTableUtility/images/");
-const QString statusGap = QStringLiteral("   "); // between two statements in the status bar
+const QString iconFolder = u":/ErrorTableUtility/images/"_s;
+const QString statusGap = u"   "_s; // between two messages in the status bar
 
 auto obsoleteMessages(const Clt::MessageTable &table)
 {
@@ -40,17 +47,16 @@ auto obsoleteMessages(const Clt::MessageTable &table)
 MessageTableUtility::MessageTableUtility(Window::Dialogs &dialogs, QSettings &settings)
     : TableWindow(dialogs, settings, texts())
 {
-    setObjectName(QStringLiteral("MessageTableUtilityClass"));
+    setObjectName(u"MessageTableUtilityClass"_s);
 
-    auto *synchronizing =
-        new QAction(QIcon(iconFolder + QStringLiteral("synchronize.png")), tr("Synchronize..."), this);
-    synchronizing->setObjectName(QStringLiteral("actionSynchronize"));
+    auto *synchronizing = new QAction(QIcon(iconFolder + u"synchronize.png"_s), tr("Synchronize..."), this);
+    synchronizing->setObjectName(u"actionSynchronize"_s);
     synchronizing->setToolTip(tr("Synchronize with source code"));
     connect(synchronizing, &QAction::triggered, this, &MessageTableUtility::synchronize);
     addTableAction(synchronizing);
 
     auto *translating = new QAction(tr("Update Translation..."), this);
-    translating->setObjectName(QStringLiteral("actionTranslate"));
+    translating->setObjectName(u"actionTranslate"_s);
     translating->setToolTip(tr("Update translation"));
     translating->setIconText(tr("tr"));
     connect(translating, &QAction::triggered, this, &MessageTableUtility::updateTranslation);
@@ -69,7 +75,8 @@ Window::TableWindowTexts MessageTableUtility::texts()
     texts.widths = {120, 360, 320};
     texts.openTitle = tr("Open Message Table");
     texts.saveTitle = tr("Save Message Table");
-    texts.filter = QStringLiteral("*.xml");
+    texts.filter = u"*.xml"_s;
+    texts.loading = tr("Loading message table \"%1\"...");
     texts.notLoaded = tr("Could not load message table");
     texts.saved = tr("Table saved");
     texts.savedAs = tr("Table saved as %1");
@@ -81,14 +88,13 @@ void MessageTableUtility::clearTable()
     m_messages = Clt::MessageTable();
 }
 
-Window::Loading MessageTableUtility::loadTable(const QString &fileName)
+Outcome MessageTableUtility::loadTable(const QString &fileName, Window::Progress &progress)
 {
-    Window::WindowWork work(*this, tr("Open Message Table"),
-                            tr("Loading message table \"%1\"...").arg(fileName));
-    Error::MessageTableReading reading = Error::readMessageTableFile(fileName, work);
-    if (reading.loading.outcome == Window::Loading::Outcome::Loaded)
-        m_messages = std::move(reading.table);
-    return reading.loading;
+    Result<Clt::MessageTable> table = MessageWindow::readMessageTableFile(fileName, progress);
+    if (!table)
+        return Failure{table.error()};
+    m_messages = *std::move(table);
+    return Done();
 }
 
 bool MessageTableUtility::saveTable(const QString &fileName)
@@ -98,15 +104,14 @@ bool MessageTableUtility::saveTable(const QString &fileName)
 
 Window::MarkedRows MessageTableUtility::rows() const
 {
-    return Error::rowsOf(m_messages);
+    return MessageWindow::messageRows(m_messages);
 }
 
 void MessageTableUtility::synchronize()
 {
     if (isBusy())
         return;
-    const QString projectFile =
-        chooseFileToOpen(tr("Open Visual Studio Project"), QStringLiteral("*.vcxproj"));
+    const QString projectFile = chooseFileToOpen(tr("Open Visual Studio Project"), u"*.vcxproj"_s);
     if (projectFile.isEmpty())
         return;
     const Nvx::Util::Result<Scan::VisualStudioProject> project = Scan::readVisualStudioProject(projectFile);
@@ -116,33 +121,31 @@ void MessageTableUtility::synchronize()
     }
     QElapsedTimer timer;
     timer.start();
-    const std::optional<Error::ProjectScan> scan = scanShowingProgress(projectFile, *project);
+    const std::optional<MessageWindow::ProjectScan> scan = scanShowingProgress(projectFile, *project);
     const qint64 milliseconds = timer.elapsed();
     if (!scan) {
         showStatus(tr("Synchronization cancelled, the table is as it was"));
         return;
     }
     if (!scan->errors.isEmpty())
-        dialogs().warn(this, tr("Parser Error"), Error::scanErrorText(scan->errors));
-    takeKeys(scan->keys, milliseconds);
+        dialogs().warn(this, tr("Parser Error"), MessageWindow::scanErrorText(scan->errors));
+    synchronizeWith(scan->keys, milliseconds);
 }
 
-std::optional<Error::ProjectScan>
+std::optional<MessageWindow::ProjectScan>
 MessageTableUtility::scanShowingProgress(const QString &projectFile, const Scan::VisualStudioProject &project)
 {
-    Window::WindowWork work(*this, tr("Parsing"), tr("Parsing source files from %1").arg(projectFile));
-    const auto receive = [&](qsizetype files, qsizetype keys) {
-        showStatus(tr("Found %1 keys").arg(keys));
-        return work.report(files, project.sourceFiles.size());
+    const auto scan = [&](Window::Progress &progress) {
+        return MessageWindow::scanProject(projectFile, project, [&](qsizetype files, qsizetype keys) {
+            showStatus(tr("Found %1 keys").arg(keys));
+            return progress.report(files, project.sourceFiles.size());
+        });
     };
-    Error::ProjectScan scan = Error::scanProject(projectFile, project, receive);
-    if (work.isCancelled())
-        return std::nullopt;
-    return scan;
+    return withProgress(tr("Parsing"), tr("Parsing source files from %1").arg(projectFile), scan);
 }
 
-// Save is for tables that differ from their file, so it stays as it is when the sources brought nothing new.
-void MessageTableUtility::takeKeys(const Scan::FoundKeys &keys, qint64 milliseconds)
+// Save is enabled only if the table changed.
+void MessageTableUtility::synchronizeWith(const Scan::FoundKeys &keys, qint64 milliseconds)
 {
     const Window::WaitCursor wait;
     const auto obsoleteBefore = obsoleteMessages(m_messages);
@@ -160,45 +163,44 @@ void MessageTableUtility::takeKeys(const Scan::FoundKeys &keys, qint64 milliseco
     showStatus(found + statusGap + tr("Elapsed time: %1 sec").arg(seconds));
 }
 
-Window::Loading MessageTableUtility::loadTranslation(Error::TranslationTable &table, const QString &fileName)
+std::optional<Outcome> MessageTableUtility::loadTranslation(Translation::TranslationTable &table,
+                                                            const QString &fileName)
 {
-    using Outcome = Window::Loading::Outcome;
-    Window::WindowWork work(*this, tr("Update translation"), tr("Reading %1").arg(fileName));
-    Window::ProgressFile file(fileName, work);
-    const bool isLoaded = table.load(file);
-    if (work.isCancelled())
-        return {Outcome::Cancelled, QString()};
-    if (!isLoaded)
-        return {Outcome::Failed, table.errorString()};
-    return {};
+    const auto load = [&](Window::Progress &progress) -> Outcome {
+        Window::ProgressFile file(fileName, progress);
+        if (!table.load(file))
+            return Failure{table.errorString()};
+        return Done();
+    };
+    return withProgress(tr("Update translation"), tr("Reading %1").arg(fileName), load);
 }
 
 void MessageTableUtility::updateTranslation()
 {
     if (isBusy())
         return;
-    const QString file = chooseFileToOpen(tr("Open Qt Translation File"), QStringLiteral("*.ts"));
+    const QString file = chooseFileToOpen(tr("Open Qt Translation File"), u"*.ts"_s);
     if (file.isEmpty())
         return;
-    Error::TranslationTable table;
-    const Window::Loading loading = loadTranslation(table, file);
-    if (loading.outcome == Window::Loading::Outcome::Cancelled) {
+    Translation::TranslationTable table;
+    const std::optional<Outcome> loaded = loadTranslation(table, file);
+    if (!loaded) {
         showStatus(tr("Update cancelled, the translation is as it was"));
         return;
     }
-    if (loading.outcome == Window::Loading::Outcome::Failed) {
+    if (!*loaded) {
         dialogs().warn(this, tr("Qt Translation File Error"),
-                       tr("Could not load '%1': %2").arg(file, loading.reason));
+                       tr("Could not load '%1': %2").arg(file, loaded->error()));
         return;
     }
     const Window::WaitCursor wait;
-    const int added = Error::addMessageTexts(table, m_messages);
+    const int added = Translation::addMessageTexts(table, m_messages);
     if (!table.save(file)) {
         showStatus(tr("Could not save %1").arg(file));
         return;
     }
     QString text = tr("Added %1 new strings to %2").arg(QString::number(added), file);
-    if (!table.keptFile().isEmpty())
-        text += statusGap + Error::keptFileText(QFileInfo(table.keptFile()).fileName());
+    if (!table.backupFile().isEmpty())
+        text += statusGap + Translation::backupText(QFileInfo(table.backupFile()).fileName());
     showStatus(text);
 }

@@ -6,18 +6,18 @@
 
 #include <optional>
 
-namespace Error {
+namespace Translation {
 class TranslationTable;
 }
 
-/// The window on a message table: opens and saves it, brings it in step with the sources of a project, and a
-/// translation file in step with it.
+/// The window on a message table: opens and saves it, synchronises it with the sources of a project, and
+/// updates a translation file from it.
 class MessageTableUtility : public Window::TableWindow
 {
     Q_OBJECT
 
 public:
-    /// The dialogs and the settings live longer than the window.
+    /// The dialogs and the settings must outlive the window.
     MessageTableUtility(Window::Dialogs &dialogs, QSettings &settings);
 
     const Clt::MessageTable &messages() const { return m_messages; }
@@ -28,18 +28,20 @@ public slots:
 
 protected:
     void clearTable() override;
-    Window::Loading loadTable(const QString &fileName) override;
+    Nvx::Util::Outcome loadTable(const QString &fileName, Window::Progress &progress) override;
     bool saveTable(const QString &fileName) override;
     Window::MarkedRows rows() const override;
 
 private:
     static Window::TableWindowTexts texts();
 
-    // Nothing when it was cancelled.
-    std::optional<Error::ProjectScan> scanShowingProgress(const QString &projectFile,
-                                                          const Scan::VisualStudioProject &project);
-    Window::Loading loadTranslation(Error::TranslationTable &table, const QString &fileName);
-    void takeKeys(const Scan::FoundKeys &keys, qint64 milliseconds);
+    // Both return std::nullopt if the user cancelled.
+    std::optional<MessageWindow::ProjectScan> scanShowingProgress(const QString &projectFile,
+                                                                  const Scan::VisualStudioProject &project);
+    std::optional<Nvx::Util::Outcome> loadTranslation(Translation::TranslationTable &table,
+                                                      const QString &fileName);
+
+    void synchronizeWith(const Scan::FoundKeys &keys, qint64 milliseconds);
 
     Clt::MessageTable m_messages;
 };

@@ -2,7 +2,7 @@
 
 #include "clt_message_table.h"
 
-namespace Error {
+namespace MessageWindow {
 
 namespace {
 
@@ -21,12 +21,12 @@ Window::RowMark markOf(Clt::MessageState state)
 
 } // namespace
 
-Window::MarkedRows rowsOf(const Clt::MessageTable &table)
+Window::MarkedRows messageRows(const Clt::MessageTable &table)
 {
     constexpr int columns = 4;
     Window::MarkedRows rows(columns);
     rows.reserve(table.size());
-    // Most messages are in the state of the one before, whose text they share.
+    // Neighbours with the same state share its text.
     Clt::MessageState state = Clt::MessageState::InSync;
     QString stateText = Clt::stateToText(state);
     for (const auto &[key, message] : table) {
@@ -39,4 +39,4 @@ Window::MarkedRows rowsOf(const Clt::MessageTable &table)
     return rows;
 }
 
-} // namespace Error
+} // namespace MessageWindow

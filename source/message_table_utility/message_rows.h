@@ -6,10 +6,10 @@ namespace Clt {
 class MessageTable;
 }
 
-namespace Error {
+namespace MessageWindow {
 
-/// The rows of the messages in key order: process, context, tag, and the state's text. Those that are New or
-/// Obsolete are marked so.
-Window::MarkedRows rowsOf(const Clt::MessageTable &table);
+/// The rows of the messages in key order: process, context, tag, and the text of the state. New and Obsolete
+/// messages are marked.
+Window::MarkedRows messageRows(const Clt::MessageTable &table);
 
-} // namespace Error
+} // namespace MessageWindow

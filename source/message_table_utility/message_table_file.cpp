@@ -1,11 +1,15 @@
 #include "message_table_utility/message_table_file.h"
 
 #include "clt_message_table_xml.h"
+#include "window/progress.h"
 
 #include <QCoreApplication>
 #include <QXmlStreamReader>
 
-namespace Error {
+using Nvx::Util::Failure;
+using Nvx::Util::Result;
+
+namespace MessageWindow {
 
 namespace {
 
@@ -14,28 +18,21 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(MessageTableFile)
 };
 
-} // namespace
-
-MessageTableReading readMessageTableFile(const QString &fileName, Window::Progress &progress)
+Result<Clt::MessageTable> readTable(QIODevice &device)
 {
-    using Outcome = Window::Loading::Outcome;
-    MessageTableReading reading;
-    Window::ProgressFile file(fileName, progress);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        reading.loading = {Outcome::Failed, file.errorString()};
-        return reading;
-    }
-    QXmlStreamReader xml(&file);
-    const Nvx::Util::Outcome read = Clt::readMessageTable(xml, reading.table);
-    // A device that fails looks like one at its end, so the reader may not know.
-    if (progress.isCancelled())
-        reading.loading = {Outcome::Cancelled, QString()};
-    else if (file.error() != QFileDevice::NoError)
-        reading.loading = {Outcome::Failed, file.errorString()};
-    else if (!read)
-        reading.loading = {Outcome::Failed,
-                           Texts::tr("Line %1: %2").arg(QString::number(xml.lineNumber()), read.error())};
-    return reading;
+    QXmlStreamReader xml(&device);
+    Clt::MessageTable table;
+    const Nvx::Util::Outcome read = Clt::readMessageTable(xml, table);
+    if (!read)
+        return Failure{Texts::tr("Line %1: %2").arg(QString::number(xml.lineNumber()), read.error())};
+    return table;
 }
 
-} // namespace Error
+} // namespace
+
+Result<Clt::MessageTable> readMessageTableFile(const QString &fileName, Window::Progress &progress)
+{
+    return Window::readFile(fileName, QIODevice::ReadOnly | QIODevice::Text, progress, readTable);
+}
+
+} // namespace MessageWindow

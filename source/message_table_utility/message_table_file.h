@@ -1,19 +1,17 @@
 #pragma once
 
 #include "clt_message_table.h"
-#include "window/table_window.h"
+#include "nvx_util/result.h"
 
-namespace Error {
+namespace Window {
+class Progress;
+}
 
-/// What reading a message-table file gave: a table if it was loaded, else why not.
-struct MessageTableReading
-{
-    Window::Loading loading;
-    Clt::MessageTable table;
-};
+namespace MessageWindow {
 
-/// Reads a message-table file, reporting to the progress how far it is. A file of which only a part could be
-/// read counts as failed, for the rest would be lost when the table is saved.
-MessageTableReading readMessageTableFile(const QString &fileName, Window::Progress &progress);
+/// Reads a message table file and reports the progress. Fails if only a part could be read, because the rest
+/// would be lost when the table is saved. The error text is for the user.
+Nvx::Util::Result<Clt::MessageTable> readMessageTableFile(const QString &fileName,
+                                                          Window::Progress &progress);
 
-} // namespace Error
+} // namespace MessageWindow

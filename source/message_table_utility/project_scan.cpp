@@ -5,7 +5,9 @@
 
 #include <QCoreApplication>
 
-namespace Error {
+using namespace Qt::Literals::StringLiterals;
+
+namespace MessageWindow {
 
 namespace {
 
@@ -26,8 +28,7 @@ ProjectScan scanProject(const QString &projectFile, const Scan::VisualStudioProj
     ProjectScan scan;
     const auto take = [&](qsizetype index, const Scan::SourceScanner &scanner) {
         if (scanner.hasError())
-            scan.errors.append(
-                QStringLiteral("%1: %2").arg(project.sourceFiles.at(index), scanner.errorText()));
+            scan.errors.append(u"%1: %2"_s.arg(project.sourceFiles.at(index), scanner.errorText()));
         Scan::addKeys(scan.keys, scanner);
         return receive(index + 1, scan.keys.size()) ? Scan::Continuation::Continue : Scan::Continuation::Stop;
     };
@@ -37,13 +38,13 @@ ProjectScan scanProject(const QString &projectFile, const Scan::VisualStudioProj
 
 QString scanErrorText(const QStringList &errors)
 {
-    constexpr qsizetype most = 10;
-    QStringList lines = errors.mid(0, most);
-    if (errors.size() > most)
-        lines.append(Texts::tr("... and %1 more").arg(errors.size() - most));
+    constexpr qsizetype maximum = 10;
+    QStringList lines = errors.mid(0, maximum);
+    if (errors.size() > maximum)
+        lines.append(Texts::tr("... and %1 more").arg(errors.size() - maximum));
     lines.append(QString());
     lines.append(Texts::tr("These files were skipped: their messages were not found."));
     return lines.join(u'\n');
 }
 
-} // namespace Error
+} // namespace MessageWindow

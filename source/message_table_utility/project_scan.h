@@ -11,25 +11,25 @@ namespace Scan {
 struct VisualStudioProject;
 }
 
-namespace Error {
+namespace MessageWindow {
 
-/// What the scan of a project's sources found.
+/// The result of scanning a project's sources.
 struct ProjectScan
 {
     Scan::FoundKeys keys;
     QStringList errors; ///< "FILE: ERROR" for every file that could not be scanned
 };
 
-/// Is told how many of the project's files are scanned, and how many keys were found in them. False stops the
-/// scan.
+/// Called after each file with the number of scanned files and of keys found so far. Returns false to stop
+/// the scan.
 using ScanReceiver = std::function<bool(qsizetype files, qsizetype keys)>;
 
-/// Scans the sources of the project that was read from that file. Returns what was found until it was
-/// stopped.
+/// Scans the sources of the project that was read from that file. Returns what was found until the scan ended
+/// or was stopped.
 ProjectScan scanProject(const QString &projectFile, const Scan::VisualStudioProject &project,
                         const ScanReceiver &receive);
 
-/// The lines for a box: the first of the errors, and how many more there are.
+/// The text of a message box: the first of the errors and the number of the others.
 QString scanErrorText(const QStringList &errors);
 
-} // namespace Error
+} // namespace MessageWindow

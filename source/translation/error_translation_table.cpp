@@ -1,34 +1,47 @@
 #include "translation/error_translation_table.h"
 
 #include "nvx_util/whole_file.h"
-#include "translation/translation_kept_file.h"
+#include "translation/translation_backup.h"
 #include "translation/translation_table_xml.h"
 
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 
+#include <optional>
 #include <utility>
 
-namespace Error {
+using namespace Qt::Literals::StringLiterals;
+
+using Nvx::Util::Failure;
+using Nvx::Util::Result;
+
+namespace Translation {
 
 namespace {
 
 TranslationMessage unfinished(const QString &source)
 {
-    return {source, source, QStringLiteral("unfinished"), QString()};
+    return {.source = source, .translation = source, .type = u"unfinished"_s, .comment = QString()};
 }
 
-/// Whether both name one file that is there, however they are spelled.
+/// True if both paths, however they are spelled, name the same existing file.
 bool isSameFile(const QString &one, const QString &other)
 {
     return QFile::exists(one) && QFile::exists(other) && QFileInfo(one) == QFileInfo(other);
 }
 
-bool keepDamaged(const QString &fileName)
+bool saveDamaged(const QString &fileName)
 {
     const std::optional<QByteArray> contents = Nvx::Util::readWholeFile(fileName);
-    return contents && Nvx::Util::replaceWholeFile(fileName + QStringLiteral(".damaged"), *contents);
+    return contents && Nvx::Util::replaceWholeFile(fileName + u".damaged"_s, *contents);
+}
+
+Result<TranslationRoot> readFile(QFile &file, TranslationTable &table)
+{
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return Failure{file.errorString()};
+    return readTranslationTable(file, table);
 }
 
 } // namespace
@@ -93,31 +106,28 @@ bool TranslationTable::load(const QString &fileName)
 
 bool TranslationTable::load(QFile &file)
 {
-    TranslationReading reading;
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        reading.error = file.errorString();
-    else
-        reading = readTranslationTable(file, *this);
-    m_errorString = reading.error;
-    m_damagedFile = reading.error.isEmpty() && reading.foundRoot ? QString() : file.fileName();
-    return m_errorString.isEmpty();
+    const Result<TranslationRoot> root = readFile(file, *this);
+    m_errorString = root.error();
+    const bool isWhole = root && *root == TranslationRoot::Found;
+    m_damagedFile = isWhole ? QString() : file.fileName();
+    return bool(root);
 }
 
 bool TranslationTable::save(const QString &fileName)
 {
-    m_keptFile.clear();
+    m_backupFile.clear();
     QBuffer contents;
     if (!contents.open(QIODevice::WriteOnly | QIODevice::Text) || !writeTranslationTable(contents, *this))
         return false;
-    if (isSameFile(fileName, m_damagedFile) && !keepDamaged(fileName))
+    if (isSameFile(fileName, m_damagedFile) && !saveDamaged(fileName))
         return false;
-    std::optional<QString> kept = QString();
+    std::optional<QString> backup = QString();
     if (isSameFile(fileName, m_fileWithForms))
-        kept = keepEarlierFile(fileName);
-    if (!kept || !Nvx::Util::replaceWholeFile(fileName, contents.data()))
+        backup = backUpFile(fileName);
+    if (!backup || !Nvx::Util::replaceWholeFile(fileName, contents.data()))
         return false;
-    m_keptFile = *kept;
-    // Also when the files were gone until now.
+    m_backupFile = *backup;
+    // Checked only now, because the file may not have existed before.
     for (QString *replaced : {&m_damagedFile, &m_fileWithForms}) {
         if (isSameFile(fileName, *replaced))
             replaced->clear();
@@ -125,4 +135,4 @@ bool TranslationTable::save(const QString &fileName)
     return true;
 }
 
-} // namespace Error
+} // namespace Translation

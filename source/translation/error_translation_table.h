@@ -10,9 +10,9 @@
 
 class QFile;
 
-namespace Error {
+namespace Translation {
 
-/// The strings that are translated under one name, in the order of the file, equal ones included.
+/// The strings of one context in the order of the file, including duplicates.
 class TranslationContext
 {
 public:
@@ -24,16 +24,16 @@ public:
     const QString &name() const { return m_name; }
     const TranslationMessages &messages() const { return m_messages; }
 
-    /// True when a message has exactly that source text.
+    /// True if a message has exactly that source text.
     bool contains(const QString &source) const { return m_index.contains(m_messages, source); }
 
     void append(const TranslationMessage &message);
 
-    /// Appends an unfinished message, its own source for a translation, unless one has that source text. True
-    /// when it was appended.
+    /// Appends an unfinished message that is its own translation, unless a message has that source text
+    /// already. True if it was appended.
     bool addMissing(const QString &source);
 
-    /// Gives every message with one of those source texts the type.
+    /// Sets the type of every message with one of those source texts.
     void setType(const QSet<QString> &sources, const QString &type);
 
 private:
@@ -51,7 +51,7 @@ public:
     /// The contexts by their names, in the order of the names' UTF-16 code units.
     const Contexts &contexts() const { return m_contexts; }
 
-    /// Stores the context under its name, in place of one that is there.
+    /// Adds the context. Replaces one with the same name.
     void setContext(TranslationContext context);
 
     const QString &version() const { return m_version; }
@@ -63,44 +63,43 @@ public:
     const QString &defaultCodec() const { return m_defaultCodec; }
     void setDefaultCodec(const QString &codec) { m_defaultCodec = codec; }
 
-    /// The context of that name, made when there is none. It is found at once when it belongs just before the
-    /// hint or is the hint.
+    /// The context with that name, created if necessary. The search takes constant time if the context is the
+    /// hint or belongs immediately before it.
     Contexts::iterator contextNamed(const QString &name, Contexts::const_iterator hint);
 
-    /// True when the context of that name has a message with exactly that source text.
+    /// True if the context with that name has a message with exactly that source text.
     bool contains(const QString &contextName, const QString &source) const;
 
-    /// Appends an unfinished message, its own source for a translation, to the context, which is made when
-    /// there is none. A string that is there already is added again.
+    /// Appends an unfinished message that is its own translation to the context, which is created if
+    /// necessary. Does not look for an existing message with that source text.
     void addString(const QString &contextName, const QString &source);
 
-    /// Gives every message of the context with one of those source texts the type, such as "obsolete".
+    /// Sets the type, such as "obsolete", of every message in the context with one of those source texts.
     void setType(const QString &contextName, const QSet<QString> &sources, const QString &type);
 
-    /// Reads a file into the table; a context in it takes the place of one of its name. False, with
-    /// errorString() set, when the file cannot be opened or is no well-formed XML; what stands before the
-    /// error is taken.
+    /// Reads a file into the table; its contexts replace those with the same name. Returns false and sets
+    /// errorString() if the file cannot be opened or is not well formed. The table then has the messages that
+    /// were complete before the error.
     bool load(const QString &fileName);
 
-    /// The same from a file that is not open yet.
+    /// The same with a file that has not been opened yet.
     bool load(QFile &file);
 
-    /// Why the last load failed: the system's words for a file that cannot be opened, "ERROR at line LINE"
-    /// for one that is not well formed. Empty after a load that did not fail.
+    /// The error of the last load: the system's text if the file could not be opened, "ERROR at line LINE" if
+    /// it was not well formed. Empty after a successful load.
     const QString &errorString() const { return m_errorString; }
 
-    /// Replaces the file by one of this table, whole or not at all; a file that has these bytes already is
-    /// not touched. If it is the file that was loaded last, and not all of that could be read as a
-    /// translation file, its bytes are first kept as NAME.damaged beside it; if it has plural forms or length
-    /// variants, as NAME.before (translation/translation_kept_file.h). False when the file or such a copy
-    /// cannot be written; the old file is then as it was.
+    /// Writes the table to the file, which is replaced whole or not at all; a file that already has these
+    /// bytes is not touched. If it is the file that was loaded last, and it was damaged or not a translation
+    /// file, its bytes are first saved next to it as NAME.damaged; if it has plural forms or length variants,
+    /// as NAME.before (translation/translation_backup.h). Returns false, with the old file unchanged, if the
+    /// file or such a copy cannot be written.
     bool save(const QString &fileName);
 
-    /// The copy with the plural forms and length variants that the last save kept; empty when there were
-    /// none.
-    const QString &keptFile() const { return m_keptFile; }
+    /// The copy with the plural forms and length variants that the last save made; empty if it made none.
+    const QString &backupFile() const { return m_backupFile; }
 
-    /// The file from which the table was read last if it has forms that the table does not hold, else empty.
+    /// The file that was read last, if it has forms that the table does not hold; otherwise empty.
     void setFileWithForms(const QString &fileName) { m_fileWithForms = fileName; }
 
 private:
@@ -109,9 +108,9 @@ private:
     QString m_defaultCodec;
     Contexts m_contexts;
     QString m_errorString;
-    QString m_damagedFile; // the file loaded last if saving over it would lose bytes of it, else empty
+    QString m_damagedFile; // the file loaded last, if the table does not hold all of it; otherwise empty
     QString m_fileWithForms;
-    QString m_keptFile;
+    QString m_backupFile;
 };
 
-} // namespace Error
+} // namespace Translation

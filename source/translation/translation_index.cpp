@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace Error {
+namespace Translation {
 
 namespace {
 
@@ -62,4 +62,4 @@ void SourceIndex::grow()
     }
 }
 
-} // namespace Error
+} // namespace Translation

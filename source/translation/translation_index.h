@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-namespace Error {
+namespace Translation {
 
 /// Tells which source texts a list of messages has: a hash table of eight bytes a slot that refers to the
 /// list it is used with. A translation file has thousands of contexts with a few strings each, for which sets
@@ -33,4 +33,4 @@ private:
     std::size_t m_taken = 0;
 };
 
-} // namespace Error
+} // namespace Translation

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace Error {
+namespace Translation {
 
 /// One string to translate.
 struct TranslationMessage
@@ -17,4 +17,4 @@ struct TranslationMessage
 
 using TranslationMessages = std::vector<TranslationMessage>;
 
-} // namespace Error
+} // namespace Translation

@@ -9,55 +9,56 @@
 #include <optional>
 #include <utility>
 
-namespace Error {
+using namespace Qt::Literals::StringLiterals;
+
+namespace Translation {
 
 namespace {
 
 constexpr const char *unit = "error_translation_table";
 
-/// The character that a "byte" element stands for; empty when its number is none of a UTF-16 code unit.
+/// The character of a "byte" element; empty if its number is not that of a UTF-16 code unit.
 QString byteCharacter(const QXmlStreamReader &xml)
 {
     const auto attributes = xml.attributes();
-    const QStringView value = attributes.value(QLatin1String("value"));
-    const bool hexadecimal = value.startsWith(u'x');
-    const ushort number = hexadecimal ? value.sliced(1).toUShort(nullptr, 16) : value.toUShort();
+    const QStringView value = attributes.value("value"_L1);
+    const bool isHexadecimal = value.startsWith(u'x');
+    const ushort number = isHexadecimal ? value.sliced(1).toUShort(nullptr, 16) : value.toUShort();
     return number == 0 ? QString() : QString(QChar(number));
 }
 
 struct ElementText
 {
     QString text;
-    bool skippedElement = false; ///< whether there were elements within it
+    bool hasElements = false; ///< true if the element has children other than "byte"
 };
 
-/// The text of the element on which the reader stands, to its end, without that of elements within it. The
-/// white space that sets such elements apart is no text.
+/// Reads the current element to its end. The text of its children is left out, as is white space that only
+/// separates them.
 ElementText readElement(QXmlStreamReader &xml)
 {
-    QString text;
-    bool skippedElement = false;
+    ElementText element;
     while (Clt::canRead(xml)) {
         switch (xml.readNext()) {
         case QXmlStreamReader::Characters:
-            text += xml.text();
+            element.text += xml.text();
             break;
         case QXmlStreamReader::StartElement:
             if (xml.name() == u"byte")
-                text += byteCharacter(xml);
+                element.text += byteCharacter(xml);
             else
-                skippedElement = true;
+                element.hasElements = true;
             xml.skipCurrentElement();
             break;
         case QXmlStreamReader::EndElement:
-            if (skippedElement && QStringView(text).trimmed().isEmpty())
-                text.clear();
-            return {text, skippedElement};
+            if (element.hasElements && QStringView(element.text).trimmed().isEmpty())
+                element.text.clear();
+            return element;
         default:
             break;
         }
     }
-    return {text, skippedElement};
+    return element;
 }
 
 QString readText(QXmlStreamReader &xml)
@@ -65,43 +66,75 @@ QString readText(QXmlStreamReader &xml)
     return readElement(xml).text;
 }
 
-void readMessageChild(QXmlStreamReader &xml, TranslationMessage &message, TranslationReading &reading)
+/// Reads a document into a table, and remembers whether it has plural forms or length variants.
+class Reader
 {
-    const QStringView name = xml.name();
-    if (name == u"source") {
-        message.source = readText(xml);
-    } else if (name == u"translation") {
-        message.type = xml.attributes().value(QLatin1String("type")).toString();
-        const ElementText translation = readElement(xml);
-        message.translation = translation.text;
-        // Each form is an element of its own.
-        reading.hasForms = reading.hasForms || translation.skippedElement;
-    } else if (name == u"comment") {
-        message.comment = readText(xml);
-    } else {
-        xml.skipCurrentElement();
+public:
+    Reader(QIODevice &device, TranslationTable &table)
+        : m_xml(&device)
+        , m_table(table)
+    {
+    }
+
+    Nvx::Util::Result<TranslationRoot> read();
+    bool hasForms() const { return m_hasForms; }
+
+private:
+    void readRoot();
+    void readRootChild();
+    std::optional<TranslationContext> readContext();
+    std::optional<TranslationMessage> readMessage();
+    void readMessageChild(TranslationMessage &message);
+
+    QXmlStreamReader m_xml;
+    TranslationTable &m_table;
+    bool m_hasForms = false;
+};
+
+Nvx::Util::Result<TranslationRoot> Reader::read()
+{
+    auto root = TranslationRoot::Missing;
+    while (Clt::canRead(m_xml)) {
+        if (m_xml.readNext() != QXmlStreamReader::StartElement || m_xml.name() != u"TS")
+            continue;
+        readRoot();
+        root = TranslationRoot::Found;
+    }
+    if (m_xml.hasError())
+        return Nvx::Util::Failure{
+            u"%1 at line %2"_s.arg(m_xml.errorString(), QString::number(m_xml.lineNumber()))};
+    return root;
+}
+
+void Reader::readRoot()
+{
+    NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == u"TS", unit);
+    const QXmlStreamAttributes attributes = m_xml.attributes();
+    m_table.setVersion(attributes.value("version"_L1).toString());
+    m_table.setLanguage(attributes.value("language"_L1).toString());
+    while (Clt::canRead(m_xml)) {
+        const QXmlStreamReader::TokenType token = m_xml.readNext();
+        if (token == QXmlStreamReader::EndElement)
+            return;
+        if (token == QXmlStreamReader::StartElement)
+            readRootChild();
     }
 }
 
-/// Nothing when the document ends or breaks within the message.
-std::optional<TranslationMessage> readMessage(QXmlStreamReader &xml, TranslationReading &reading)
+void Reader::readRootChild()
 {
-    NVX_ASSERT(xml.isStartElement() && xml.name() == u"message", unit);
-    if (xml.attributes().value(QLatin1String("numerus")) == u"yes")
-        reading.hasForms = true;
-    TranslationMessage message;
-    while (Clt::canRead(xml)) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
-        if (token == QXmlStreamReader::EndElement)
-            return message;
-        if (token == QXmlStreamReader::StartElement)
-            readMessageChild(xml, message, reading);
+    if (m_xml.name() == u"context") {
+        if (std::optional<TranslationContext> context = readContext())
+            m_table.setContext(std::move(*context));
+    } else if (m_xml.name() == u"defaultcodec") {
+        m_table.setDefaultCodec(readText(m_xml));
+    } else {
+        m_xml.skipCurrentElement();
     }
-    return std::nullopt;
 }
 
 // A context's name need not be its first element.
-TranslationContext named(const QString &name, const TranslationMessages &messages)
+TranslationContext contextOf(const QString &name, const TranslationMessages &messages)
 {
     TranslationContext context(name);
     for (const TranslationMessage &message : messages)
@@ -109,77 +142,76 @@ TranslationContext named(const QString &name, const TranslationMessages &message
     return context;
 }
 
-/// Nothing when the document ends or breaks within the context before its first message was complete.
-std::optional<TranslationContext> readContext(QXmlStreamReader &xml, TranslationReading &reading)
+/// std::nullopt if the document ends before the context's first message is complete.
+std::optional<TranslationContext> Reader::readContext()
 {
-    NVX_ASSERT(xml.isStartElement() && xml.name() == u"context", unit);
+    NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == u"context", unit);
     QString name;
     TranslationMessages messages;
-    while (Clt::canRead(xml)) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
+    while (Clt::canRead(m_xml)) {
+        const QXmlStreamReader::TokenType token = m_xml.readNext();
         if (token == QXmlStreamReader::EndElement)
-            return named(name, messages);
+            return contextOf(name, messages);
         if (token != QXmlStreamReader::StartElement)
             continue;
-        if (xml.name() == u"name") {
-            name = readText(xml);
-        } else if (xml.name() == u"message") {
-            if (const std::optional<TranslationMessage> message = readMessage(xml, reading))
+        if (m_xml.name() == u"name") {
+            name = readText(m_xml);
+        } else if (m_xml.name() == u"message") {
+            if (const std::optional<TranslationMessage> message = readMessage())
                 messages.push_back(*message);
         } else {
-            xml.skipCurrentElement();
+            m_xml.skipCurrentElement();
         }
     }
     if (messages.empty())
         return std::nullopt;
-    return named(name, messages);
+    return contextOf(name, messages);
 }
 
-void readRootChild(QXmlStreamReader &xml, TranslationTable &table, TranslationReading &reading)
+/// std::nullopt if the document ends within the message.
+std::optional<TranslationMessage> Reader::readMessage()
 {
-    if (xml.name() == u"context") {
-        if (std::optional<TranslationContext> context = readContext(xml, reading))
-            table.setContext(std::move(*context));
-    } else if (xml.name() == u"defaultcodec") {
-        table.setDefaultCodec(readText(xml));
-    } else {
-        xml.skipCurrentElement();
-    }
-}
-
-void readRoot(QXmlStreamReader &xml, TranslationTable &table, TranslationReading &reading)
-{
-    NVX_ASSERT(xml.isStartElement() && xml.name() == u"TS", unit);
-    const QXmlStreamAttributes attributes = xml.attributes();
-    table.setVersion(attributes.value(QLatin1String("version")).toString());
-    table.setLanguage(attributes.value(QLatin1String("language")).toString());
-    while (Clt::canRead(xml)) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
+    NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == u"message", unit);
+    if (m_xml.attributes().value("numerus"_L1) == u"yes")
+        m_hasForms = true;
+    TranslationMessage message;
+    while (Clt::canRead(m_xml)) {
+        const QXmlStreamReader::TokenType token = m_xml.readNext();
         if (token == QXmlStreamReader::EndElement)
-            return;
+            return message;
         if (token == QXmlStreamReader::StartElement)
-            readRootChild(xml, table, reading);
+            readMessageChild(message);
+    }
+    return std::nullopt;
+}
+
+void Reader::readMessageChild(TranslationMessage &message)
+{
+    const QStringView name = m_xml.name();
+    if (name == u"source") {
+        message.source = readText(m_xml);
+    } else if (name == u"translation") {
+        message.type = m_xml.attributes().value("type"_L1).toString();
+        const ElementText translation = readElement(m_xml);
+        message.translation = translation.text;
+        // Each plural form or length variant is an element.
+        m_hasForms = m_hasForms || translation.hasElements;
+    } else if (name == u"comment") {
+        message.comment = readText(m_xml);
+    } else {
+        m_xml.skipCurrentElement();
     }
 }
 
 } // namespace
 
-TranslationReading readTranslationTable(QIODevice &device, TranslationTable &table)
+Nvx::Util::Result<TranslationRoot> readTranslationTable(QIODevice &device, TranslationTable &table)
 {
-    TranslationReading reading;
-    QXmlStreamReader xml(&device);
-    while (Clt::canRead(xml)) {
-        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != u"TS")
-            continue;
-        readRoot(xml, table, reading);
-        reading.foundRoot = true;
-    }
-    if (xml.hasError())
-        reading.error =
-            QStringLiteral("%1 at line %2").arg(xml.errorString(), QString::number(xml.lineNumber()));
+    Reader reader(device, table);
+    const Nvx::Util::Result<TranslationRoot> root = reader.read();
     const auto *file = qobject_cast<QFileDevice *>(&device);
-    table.setFileWithForms(reading.hasForms && file ? file->fileName() : QString());
-    return reading;
+    table.setFileWithForms(reader.hasForms() && file ? file->fileName() : QString());
+    return root;
 }
 
-} // namespace Error
+} // namespace Translation

@@ -4,28 +4,31 @@
 
 #include <QXmlStreamWriter>
 
-namespace Error {
+using namespace Qt::Literals::StringLiterals;
+
+namespace Translation {
 
 namespace {
 
 constexpr int indentation = 3;
 
-/// The number of code units at that place that XML carries or refuses together: two for a surrogate pair.
+/// The number of code units of the character at that position: two for a surrogate pair.
 qsizetype characterLength(QStringView text, qsizetype at)
 {
-    const bool pair =
+    const bool isPair =
         text.at(at).isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
-    return pair ? 2 : 1;
+    return isPair ? 2 : 1;
 }
 
-// A NUL is none for the readers even so; the writer's error tells of it.
+// The readers do not accept a NUL in such an element either, so it is left to the writer, which reports an
+// error.
 bool needsElement(QStringView character)
 {
     return !character.at(0).isNull() && !Clt::isXmlText(character);
 }
 
-/// The text with its unspeakable characters as elements. Text, if only an empty one, is written on either
-/// side of them, so that the writer does not take them for a level to indent.
+/// Writes a string, with "byte" elements for the characters that XML cannot represent. Text, even if it is
+/// empty, is written before and after each element, so that the writer does not indent it.
 void writeCharacters(QXmlStreamWriter &xml, const QString &text)
 {
     qsizetype begin = 0;
@@ -33,9 +36,8 @@ void writeCharacters(QXmlStreamWriter &xml, const QString &text)
         const QStringView character = QStringView(text).sliced(at, characterLength(text, at));
         if (needsElement(character)) {
             Clt::writeXmlCharacters(xml, text.sliced(begin, at - begin));
-            xml.writeEmptyElement(QStringLiteral("byte"));
-            xml.writeAttribute(QStringLiteral("value"),
-                               u'x' + QString::number(character.at(0).unicode(), 16));
+            xml.writeEmptyElement(u"byte"_s);
+            xml.writeAttribute(u"value"_s, u'x' + QString::number(character.at(0).unicode(), 16));
             begin = at + character.size();
         }
         at += character.size();
@@ -52,21 +54,21 @@ void writeTextElement(QXmlStreamWriter &xml, const QString &name, const QString 
 
 void writeMessage(QXmlStreamWriter &xml, const TranslationMessage &message)
 {
-    xml.writeStartElement(QStringLiteral("message"));
-    writeTextElement(xml, QStringLiteral("source"), message.source);
-    xml.writeStartElement(QStringLiteral("translation"));
-    xml.writeAttribute(QStringLiteral("type"), message.type);
+    xml.writeStartElement(u"message"_s);
+    writeTextElement(xml, u"source"_s, message.source);
+    xml.writeStartElement(u"translation"_s);
+    xml.writeAttribute(u"type"_s, message.type);
     writeCharacters(xml, message.translation);
     xml.writeEndElement();
     if (!message.comment.isEmpty())
-        writeTextElement(xml, QStringLiteral("comment"), message.comment);
+        writeTextElement(xml, u"comment"_s, message.comment);
     xml.writeEndElement();
 }
 
 void writeContext(QXmlStreamWriter &xml, const TranslationContext &context)
 {
-    xml.writeStartElement(QStringLiteral("context"));
-    writeTextElement(xml, QStringLiteral("name"), context.name());
+    xml.writeStartElement(u"context"_s);
+    writeTextElement(xml, u"name"_s, context.name());
     for (const TranslationMessage &message : context.messages())
         writeMessage(xml, message);
     xml.writeEndElement();
@@ -80,15 +82,15 @@ bool writeTranslationTable(QIODevice &device, const TranslationTable &table)
     xml.setAutoFormatting(true);
     xml.setAutoFormattingIndent(indentation);
     xml.writeStartDocument();
-    xml.writeDTD(QStringLiteral("<!DOCTYPE TS>"));
-    xml.writeStartElement(QStringLiteral("TS"));
-    xml.writeAttribute(QStringLiteral("version"), table.version());
-    xml.writeAttribute(QStringLiteral("language"), table.language());
-    writeTextElement(xml, QStringLiteral("defaultcodec"), table.defaultCodec());
+    xml.writeDTD(u"<!DOCTYPE TS>"_s);
+    xml.writeStartElement(u"TS"_s);
+    xml.writeAttribute(u"version"_s, table.version());
+    xml.writeAttribute(u"language"_s, table.language());
+    writeTextElement(xml, u"defaultcodec"_s, table.defaultCodec());
     for (const auto &[name, context] : table.contexts())
         writeContext(xml, context);
     xml.writeEndDocument();
     return !xml.hasError();
 }
 
-} // namespace Error
+} // namespace Translation

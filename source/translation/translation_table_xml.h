@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QString>
+#include "nvx_util/result.h"
 
 class QIODevice;
 
-namespace Error {
+namespace Translation {
 
 class TranslationTable;
 
-// A translation file as Qt's own tools read it:
+// A translation file in the format of Qt's tools:
 //
 //    <!DOCTYPE TS>
 //    <TS version="2.1" language="de_DE">
@@ -23,24 +23,23 @@ class TranslationTable;
 //       </context>
 //    </TS>
 //
-// Read, the root may stand at any depth. Other elements, locations among them, are skipped with all that they
-// hold and are not written again. A character that XML cannot carry stands in a text as an empty element
-// "byte" with its number, "x" before hexadecimal digits, in the attribute "value".
+// The reader accepts the root at any depth. It skips unknown elements, such as locations, with their
+// contents, and they are not written again. A character that XML cannot represent is written as an empty
+// element "byte" whose attribute "value" is its number; an "x" precedes hexadecimal digits.
 
-/// What a document gave.
-struct TranslationReading
+/// Whether a well-formed document is a translation file.
+enum class TranslationRoot
 {
-    QString error;          ///< empty, or "ERROR at line LINE" for a document that is not well formed
-    bool foundRoot = false; ///< whether it is a translation file at all
-    bool hasForms = false;  ///< whether it has plural forms or length variants, which the table cannot hold
+    Found,
+    Missing
 };
 
-/// Reads the document on the open device into the table. Of one that is not well formed the messages that
-/// were complete before the error are taken.
-TranslationReading readTranslationTable(QIODevice &device, TranslationTable &table);
+/// Reads the document from the open device into the table. Fails with "ERROR at line LINE" if it is not well
+/// formed; the table then has the messages that were complete before the error.
+Nvx::Util::Result<TranslationRoot> readTranslationTable(QIODevice &device, TranslationTable &table);
 
-/// Writes the table's document to the open device. False when the device fails or a text has a character that
-/// cannot be written at all, a NUL; what was written is then of no use.
+/// Writes the table to the open device. False if the device fails or a string has a character that cannot be
+/// written at all, a NUL; the output is then useless.
 bool writeTranslationTable(QIODevice &device, const TranslationTable &table);
 
-} // namespace Error
+} // namespace Translation

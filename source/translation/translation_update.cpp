@@ -2,16 +2,17 @@
 
 #include "clt_message_table.h"
 #include "translation/error_translation_table.h"
-#include "translation/translation_kept_file.h"
+#include "translation/translation_backup.h"
 
 #include <QFile>
 #include <QTextStream>
 
 #include <iterator>
 
-namespace Error {
+namespace Translation {
 
-// The messages of one context mostly follow each other, and so do those of the next one.
+// Messages of the same context are mostly neighbours, and the contexts are in order, so each search starts
+// where the previous one ended.
 int addMessageTexts(TranslationTable &table, const Clt::MessageTable &messages)
 {
     int added = 0;
@@ -54,9 +55,9 @@ bool synchronizeTranslationTable(const QString &messageTableFile, const QString 
         log << "Could not save translation table\n";
         return false;
     }
-    if (!table.keptFile().isEmpty())
-        errors << keptFileText(table.keptFile()) << '\n';
+    if (!table.backupFile().isEmpty())
+        errors << backupText(table.backupFile()) << '\n';
     return true;
 }
 
-} // namespace Error
+} // namespace Translation

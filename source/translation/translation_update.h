@@ -8,20 +8,20 @@ namespace Clt {
 class MessageTable;
 }
 
-namespace Error {
+namespace Translation {
 
 class TranslationTable;
 
 /// Adds every source text of the messages (title, text, action, in key order) that the table does not have
-/// under the message's context. Returns how many that were.
+/// in the message's context. Returns the number of added strings.
 int addMessageTexts(TranslationTable &table, const Clt::MessageTable &messages);
 
-/// Brings a translation file up to date with a message-table file and tells about it in lines on the log. A
-/// translation file that does not exist is made; one that is not well formed is taken as far as it could be
-/// read, and kept as NAME.damaged. One with plural forms or length variants is kept as NAME.before, which is
-/// a line on the errors. False, with its line in the log and nothing replaced, when the message table cannot
-/// be loaded, or the translation file cannot be saved or kept.
+/// Updates a translation file from a message table file and writes what it does to the log. A translation
+/// file that does not exist is created. One that is not well formed is read up to the error, and saved as
+/// NAME.damaged. One with plural forms or length variants is saved as NAME.before, which is reported to
+/// `errors`. Returns false, with a line in the log and no file replaced, if the message table cannot be
+/// loaded or the translation file cannot be saved or copied.
 bool synchronizeTranslationTable(const QString &messageTableFile, const QString &translationFile,
                                  QTextStream &log, QTextStream &errors);
 
-} // namespace Error
+} // namespace Translation

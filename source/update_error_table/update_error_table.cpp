@@ -31,8 +31,8 @@ Completion run(const Operation &operation, ProgressLog &log, QTextStream &errors
     case Operation::Kind::SynchronizeTranslationTable:
         break;
     }
-    return {.succeeded = bool(Error::synchronizeTranslationTable(operation.messageTable, operation.other,
-                                                                 log.stream(), errors))};
+    return {.succeeded = Translation::synchronizeTranslationTable(operation.messageTable, operation.other,
+                                                                  log.stream(), errors)};
 }
 
 // Stops at the first failure, because a later operation may need the earlier one's file.

@@ -6,7 +6,7 @@ class QWidget;
 
 namespace Window {
 
-/// A question for a file.
+/// What a file dialog shows.
 struct FileQuestion
 {
     QString title;
@@ -14,7 +14,7 @@ struct FileQuestion
     QString filter; ///< such as "*.xml"
 };
 
-/// What to do with changes that are about to be lost.
+/// What to do with unsaved changes.
 enum class UnsavedChoice
 {
     Save,
@@ -22,8 +22,8 @@ enum class UnsavedChoice
     Cancel
 };
 
-/// The boxes and file dialogs of a window. NativeDialogs shows them; tests hand in one that answers by
-/// itself.
+/// The message boxes and file dialogs of a window. NativeDialogs shows them; tests pass in an implementation
+/// that returns prepared results.
 class Dialogs
 {
 public:
@@ -32,18 +32,18 @@ public:
     Dialogs &operator=(const Dialogs &) = delete;
     virtual ~Dialogs() = default;
 
-    /// The file that the user chose to open; empty when he cancelled.
+    /// The file that the user chose to open; empty if the dialog was cancelled.
     virtual QString fileToOpen(QWidget *parent, const FileQuestion &question) = 0;
 
-    /// The file that the user chose to write, who has agreed to replace one that is there; empty when he
-    /// cancelled.
+    /// The file that the user chose to write; empty if the dialog was cancelled. The user has confirmed that
+    /// an existing file is to be replaced.
     virtual QString fileToSave(QWidget *parent, const FileQuestion &question) = 0;
 
     /// Shows a warning with an OK button.
     virtual void warn(QWidget *parent, const QString &title, const QString &text) = 0;
 
-    /// Shows a piece of information with an OK button.
-    virtual void tell(QWidget *parent, const QString &title, const QString &text) = 0;
+    /// Shows an information with an OK button.
+    virtual void inform(QWidget *parent, const QString &title, const QString &text) = 0;
 
     /// Asks what to do with unsaved changes.
     virtual UnsavedChoice askAboutUnsaved(QWidget *parent, const QString &title, const QString &text) = 0;

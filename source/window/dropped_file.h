@@ -6,7 +6,7 @@ class QMimeData;
 
 namespace Window {
 
-/// The file that is being dropped on a window; empty unless it is exactly one, of this machine.
+/// The local file that is being dropped; empty unless it is exactly one.
 QString droppedFile(const QMimeData *dropped);
 
 } // namespace Window

@@ -3,13 +3,15 @@
 #include <QKeyEvent>
 #include <QShortcut>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Window {
 
 FilterField::FilterField(QWidget *parent)
     : QLineEdit(parent)
 {
     constexpr int widthInCharacters = 28;
-    setObjectName(QStringLiteral("filterField"));
+    setObjectName(u"filterField"_s);
     setPlaceholderText(tr("Filter (Ctrl+F)"));
     setToolTip(tr("Shows the rows with this text only"));
     setAccessibleName(tr("Filter"));

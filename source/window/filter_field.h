@@ -4,7 +4,8 @@
 
 namespace Window {
 
-/// A field into which one types what the rows of a table should hold. Ctrl+F goes there, Escape empties it.
+/// The field for the text that the rows of a table are filtered by. Ctrl+F gives it the focus, Escape clears
+/// it.
 class FilterField : public QLineEdit
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ namespace Window {
 
 namespace {
 
-/// Looks for the filter in the texts of one column, at each text that follows itself once.
+/// Matches the filter against one column; equal consecutive strings are compared once.
 class ColumnFilter
 {
 public:
@@ -18,21 +18,21 @@ public:
     {
     }
 
-    bool holds(const QString &text)
+    bool matches(const QString &text)
     {
         if (text.constData() != m_last || text.size() != m_lastSize) {
             m_last = text.constData();
             m_lastSize = text.size();
-            m_lastHolds = m_matcher.indexIn(text) >= 0;
+            m_lastMatches = m_matcher.indexIn(text) >= 0;
         }
-        return m_lastHolds;
+        return m_lastMatches;
     }
 
 private:
     const QStringMatcher &m_matcher;
     const QChar *m_last = nullptr;
     qsizetype m_lastSize = -1;
-    bool m_lastHolds = false;
+    bool m_lastMatches = false;
 };
 
 } // namespace
@@ -49,22 +49,22 @@ void MarkedRows::add(std::initializer_list<QString> texts, RowMark mark)
     m_marks.push_back(mark);
 }
 
-std::vector<bool> rowsWith(const MarkedRows &rows, const QString &filter)
+std::vector<bool> matchingRows(const MarkedRows &rows, const QString &filter)
 {
-    std::vector<bool> with(static_cast<std::size_t>(rows.size()), filter.isEmpty());
+    std::vector<bool> matching(static_cast<std::size_t>(rows.size()), filter.isEmpty());
     if (filter.isEmpty())
-        return with;
+        return matching;
     const QStringMatcher matcher(filter, Qt::CaseInsensitive);
     std::vector<ColumnFilter> columns(static_cast<std::size_t>(rows.columns()), ColumnFilter(matcher));
     for (int row = 0; row < rows.size(); ++row) {
         for (int column = 0; column < rows.columns(); ++column) {
-            if (columns[static_cast<std::size_t>(column)].holds(rows.text(row, column))) {
-                with[static_cast<std::size_t>(row)] = true;
+            if (columns[static_cast<std::size_t>(column)].matches(rows.text(row, column))) {
+                matching[static_cast<std::size_t>(row)] = true;
                 break;
             }
         }
     }
-    return with;
+    return matching;
 }
 
 std::vector<int> sortedRows(const MarkedRows &rows, int column, Qt::SortOrder order)

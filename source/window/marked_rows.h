@@ -11,8 +11,8 @@
 
 namespace Window {
 
-/// The rows of a table in their natural order: a text for each column, and a mark. Texts that neighbouring
-/// rows have in common should be one text in memory, which makes filtering fast.
+/// The rows of a table in their natural order: a string for each column, and a mark. Neighbours with the same
+/// string should share its memory, which makes filtering fast.
 class MarkedRows
 {
 public:
@@ -26,7 +26,7 @@ public:
 
     void reserve(std::size_t rows);
 
-    /// Adds a row at the end; the texts are as many as there are columns.
+    /// Appends a row. There must be a string for each column.
     void add(std::initializer_list<QString> texts, RowMark mark);
 
     const QString &text(int row, int column) const { return m_texts[cell(row, column)]; }
@@ -44,12 +44,11 @@ private:
     std::vector<RowMark> m_marks;
 };
 
-/// For each row whether one of its texts holds the filter's, whatever the case. An empty filter is held by
-/// all.
-std::vector<bool> rowsWith(const MarkedRows &rows, const QString &filter);
+/// For each row, whether one of its strings contains the filter; case-insensitive. Every row matches an empty
+/// filter.
+std::vector<bool> matchingRows(const MarkedRows &rows, const QString &filter);
 
-/// The numbers of the rows ordered by the texts of a column without regard to case, where those are equal in
-/// natural order; in natural order altogether for the column -1.
+/// The numbers of the rows, sorted by a column; case-insensitive and stable. The natural order for column -1.
 std::vector<int> sortedRows(const MarkedRows &rows, int column, Qt::SortOrder order);
 
 } // namespace Window

@@ -17,7 +17,7 @@ void MarkedTableModel::setRows(MarkedRows rows)
     beginResetModel();
     m_rows = std::move(rows);
     m_sorted = sortedRows(m_rows, m_sortColumn, m_sortOrder);
-    show();
+    updateShown();
     endResetModel();
 }
 
@@ -37,7 +37,7 @@ void MarkedTableModel::setFilter(const QString &filter)
         return;
     beginResetModel();
     m_filter = filter;
-    show();
+    updateShown();
     endResetModel();
 }
 
@@ -93,20 +93,20 @@ void MarkedTableModel::sort(int column, Qt::SortOrder order)
     m_sortColumn = column;
     m_sortOrder = order;
     m_sorted = sortedRows(m_rows, column, order);
-    show();
+    updateShown();
     endResetModel();
 }
 
-void MarkedTableModel::show()
+void MarkedTableModel::updateShown()
 {
     if (m_filter.isEmpty()) {
         m_shown = m_sorted;
         return;
     }
-    const std::vector<bool> with = rowsWith(m_rows, m_filter);
+    const std::vector<bool> matching = matchingRows(m_rows, m_filter);
     m_shown.clear();
     std::copy_if(m_sorted.begin(), m_sorted.end(), std::back_inserter(m_shown),
-                 [&with](int row) { return with[static_cast<std::size_t>(row)]; });
+                 [&matching](int row) { return matching[static_cast<std::size_t>(row)]; });
 }
 
 } // namespace Window

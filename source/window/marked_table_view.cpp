@@ -10,12 +10,14 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Window {
 
 namespace {
 
-/// Paints a row on the colour of its mark, from the palette that is in force when it is painted, and the word
-/// for the mark at the end of the first cell.
+/// Paints a row in the colour of its mark, using the current palette, and the word for the mark at the end of
+/// the first cell.
 class MarkDelegate : public QStyledItemDelegate
 {
 public:
@@ -45,7 +47,7 @@ private:
                        const QString &word) const;
 };
 
-// The text is shortened so that it ends before the word.
+// The cell's text is elided before the word.
 void MarkDelegate::paintWithWord(QPainter &painter, const QStyleOptionViewItem &option,
                                  const QModelIndex &index, const QString &word) const
 {
@@ -111,7 +113,7 @@ MarkedTableView::MarkedTableView(const QStringList &headings, QWidget *parent)
     connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &MarkedTableView::sortBy);
 
     auto *copy = new QAction(tr("Copy"), this);
-    copy->setObjectName(QStringLiteral("actionCopy"));
+    copy->setObjectName(u"actionCopy"_s);
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
     connect(copy, &QAction::triggered, this, &MarkedTableView::copySelectedRows);

@@ -6,12 +6,12 @@
 
 namespace Window {
 
-/// The text of the selected rows for other programs: a line for each, tabs between its columns.
+/// The text of the rows for the clipboard: a line for each row, with tabs between its columns.
 QString copiedText(const MarkedTableModel &model, const QModelIndexList &rows);
 
-/// A table of marked rows. A click on a heading sorts, a second one turns the order round and a third one
-/// goes back to natural order. Selected rows are copied with Ctrl+C or from the context menu; the selection
-/// stays with its rows when the table is filtered or sorted.
+/// A table of marked rows. A click on a heading sorts the rows, a second one reverses the order, and a third
+/// one restores the natural order. Ctrl+C and the context menu copy the selected rows. Filtering and sorting
+/// preserve the selection.
 class MarkedTableView : public QTableView
 {
     Q_OBJECT
@@ -22,10 +22,10 @@ public:
     MarkedTableModel &rowsModel() { return m_rowsModel; }
     const MarkedTableModel &rowsModel() const { return m_rowsModel; }
 
-    /// Shows other rows, with none of them selected and from the first on.
+    /// Replaces the rows, clears the selection and scrolls to the top.
     void showRows(MarkedRows rows);
 
-    /// Shows only the rows that hold the text.
+    /// Shows only the rows that contain the text.
     void setFilter(const QString &filter);
 
 public slots:
@@ -34,7 +34,7 @@ public slots:
 private:
     void sortBy(int column, Qt::SortOrder order);
 
-    // Does what shows the same rows otherwise, and selects again what was selected.
+    // Applies a change of the filter or the order and restores the selection.
     template<typename Change>
     void keepingSelection(Change change);
 

@@ -7,7 +7,7 @@ namespace Window {
 
 namespace {
 
-// A file's name may hold what looks like the toolkit's rich text.
+// A file name may look like rich text.
 void show(QMessageBox::Icon icon, QWidget *parent, const QString &title, const QString &text)
 {
     QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
@@ -22,12 +22,12 @@ QString NativeDialogs::fileToOpen(QWidget *parent, const FileQuestion &question)
     return QFileDialog::getOpenFileName(parent, question.title, question.folder, question.filter);
 }
 
-// A name typed without an ending gets that of the filter before the dialog asks about replacing the file.
+// A name without a suffix gets that of the filter before the dialog asks whether to replace the file.
 QString NativeDialogs::fileToSave(QWidget *parent, const FileQuestion &question)
 {
     QFileDialog dialog(parent, question.title, question.folder, question.filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(question.filter.section(QLatin1Char('.'), -1));
+    dialog.setDefaultSuffix(question.filter.section(u'.', -1));
     if (dialog.exec() != QDialog::Accepted)
         return QString();
     return dialog.selectedFiles().value(0);
@@ -38,7 +38,7 @@ void NativeDialogs::warn(QWidget *parent, const QString &title, const QString &t
     show(QMessageBox::Warning, parent, title, text);
 }
 
-void NativeDialogs::tell(QWidget *parent, const QString &title, const QString &text)
+void NativeDialogs::inform(QWidget *parent, const QString &title, const QString &text)
 {
     show(QMessageBox::Information, parent, title, text);
 }

@@ -8,7 +8,7 @@ namespace Window {
 
 namespace {
 
-// A dialog counts in int, files in 64 bits.
+// The dialog counts in int, files in 64 bits.
 constexpr int steps = 1000;
 
 int stepsOf(qint64 done, qint64 all)
@@ -26,7 +26,7 @@ Progress::Progress(QWidget *parent, const QString &title, const QString &text, i
     m_dialog.setWindowModality(Qt::WindowModal);
     m_dialog.setAutoClose(false);
     m_dialog.setAutoReset(false);
-    // It would guess from the pace; we know how long a user waits gladly.
+    // report() shows the dialog after the delay; the dialog itself would estimate the duration.
     m_dialog.setMinimumDuration(std::numeric_limits<int>::max());
     m_sinceBegin.start();
 }
@@ -52,9 +52,9 @@ bool ProgressFile::atEnd() const
     return m_progress.isCancelled() || error() != NoError || QFile::atEnd();
 }
 
-qint64 ProgressFile::readData(char *bytes, qint64 most)
+qint64 ProgressFile::readData(char *bytes, qint64 maximum)
 {
-    return m_progress.report(pos(), size()) ? QFile::readData(bytes, most) : -1;
+    return m_progress.report(pos(), size()) ? QFile::readData(bytes, maximum) : -1;
 }
 
 } // namespace Window

@@ -1,13 +1,17 @@
 #pragma once
 
+#include "nvx_util/result.h"
+
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProgressDialog>
 
+#include <type_traits>
+
 namespace Window {
 
-/// Shows how far a long piece of work is, on the thread of the window. The dialog comes up once the work has
-/// lasted for the delay, and goes with this object. Until then the user's input waits.
+/// The progress of a long operation on the window's thread. A dialog shows it once the operation has lasted
+/// for the delay; until then the user's input waits. The dialog is closed with this object.
 class Progress
 {
 public:
@@ -15,8 +19,8 @@ public:
 
     Progress(QWidget *parent, const QString &title, const QString &text, int delay = usualDelay);
 
-    /// Tells that so much of all the work is done, and lets the program handle its events, though not more
-    /// often than the eye can follow. False once the work was cancelled.
+    /// Reports that `done` of `all` is finished and lets the program handle its events, but not more often
+    /// than every 40 ms. Returns false once the operation was cancelled.
     bool report(qint64 done, qint64 all);
 
     void cancel() { m_dialog.cancel(); }
@@ -29,25 +33,41 @@ private:
     int m_delay;
 };
 
-/// A file that reports how much of it was read; once the work is cancelled, reading fails.
+/// A file that reports how much of it was read. Reading fails once the operation was cancelled.
 class ProgressFile : public QFile
 {
 public:
-    /// The progress lives longer than the file.
+    /// The progress must outlive the file.
     ProgressFile(const QString &name, Progress &progress)
         : QFile(name)
         , m_progress(progress)
     {
     }
 
-    /// Also when nothing more can be read: the toolkit's XML reader would ask again for ever.
+    /// True also after an error or cancellation; otherwise Qt's XML reader would try to read for ever.
     bool atEnd() const override;
 
 protected:
-    qint64 readData(char *bytes, qint64 most) override;
+    qint64 readData(char *bytes, qint64 maximum) override;
 
 private:
     Progress &m_progress;
 };
+
+/// Opens a file and passes it to `read`, which takes a QIODevice & and returns a Nvx::Util::Result. Fails,
+/// with the file's error, if it cannot be opened or read, or the operation was cancelled, even if `read`
+/// succeeds: to a reader such a file looks like one that ends there.
+template<typename Read>
+std::invoke_result_t<Read, QIODevice &> readFile(const QString &fileName, QIODevice::OpenMode mode,
+                                                 Progress &progress, Read read)
+{
+    ProgressFile file(fileName, progress);
+    if (!file.open(mode))
+        return Nvx::Util::Failure{file.errorString()};
+    auto contents = read(file);
+    if (progress.isCancelled() || file.error() != QFileDevice::NoError)
+        return Nvx::Util::Failure{file.errorString()};
+    return contents;
+}
 
 } // namespace Window

@@ -4,45 +4,47 @@
 #include <QFileInfo>
 #include <QSettings>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Window {
 
 namespace {
 
-const QString settingsKey = QStringLiteral("recentFiles");
+const QString settingsKey = u"recentFiles"_s;
 
 QString fullPath(const QString &file)
 {
     return QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath());
 }
 
-// "&1 C:\tables\errors.xml", with the number as its key.
+// "&1 C:\tables\errors.xml": the number is the mnemonic.
 QString menuText(qsizetype number, QString file)
 {
-    return QStringLiteral("&%1 ").arg(number) + file.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    return u"&%1 "_s.arg(number) + file.replace(u'&', u"&&"_s);
 }
 
 } // namespace
 
-QStringList withRecent(QStringList files, const QString &file, qsizetype most)
+QStringList withRecent(QStringList files, const QString &file, qsizetype maximum)
 {
     files.removeAll(file);
     files.prepend(file);
-    return files.mid(0, most);
+    return files.mid(0, maximum);
 }
 
 RecentFiles::RecentFiles(QSettings &settings, QWidget *parent)
     : QMenu(parent)
     , m_settings(settings)
-    , m_files(settings.value(settingsKey).toStringList().mid(0, most))
+    , m_files(settings.value(settingsKey).toStringList().mid(0, maximum))
 {
-    setObjectName(QStringLiteral("menuRecentFiles"));
+    setObjectName(u"menuRecentFiles"_s);
     setTitle(tr("Open &Recent"));
     fill();
 }
 
 void RecentFiles::add(const QString &file)
 {
-    m_files = withRecent(m_files, fullPath(file), most);
+    m_files = withRecent(m_files, fullPath(file), maximum);
     store();
 }
 
@@ -58,7 +60,7 @@ void RecentFiles::store()
     fill();
 }
 
-// The action that was chosen may be asking for this: none of them is gone at once.
+// Called while the chosen action is being handled, so the actions are deleted later.
 void RecentFiles::fill()
 {
     const QList<QAction *> old = actions();

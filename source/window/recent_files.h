@@ -8,18 +8,18 @@ class QSettings;
 
 namespace Window {
 
-/// The list with the file at its beginning, in it once, and no longer than the most.
-QStringList withRecent(QStringList files, const QString &file, qsizetype most);
+/// The list with the file moved or added to the front, cut to `maximum` files.
+QStringList withRecent(QStringList files, const QString &file, qsizetype maximum);
 
-/// The menu of the files that were opened or saved last, the latest first, remembered in the settings.
+/// The menu of the files that were opened or saved last, most recent first. It is stored in the settings.
 class RecentFiles : public QMenu
 {
     Q_OBJECT
 
 public:
-    static constexpr qsizetype most = 8;
+    static constexpr qsizetype maximum = 8;
 
-    /// The settings live longer than the menu.
+    /// The settings must outlive the menu.
     explicit RecentFiles(QSettings &settings, QWidget *parent = nullptr);
 
     /// The full paths.
@@ -27,7 +27,7 @@ public:
 
     void add(const QString &file);
 
-    /// Takes out a file that is not there any more.
+    /// Removes a file that no longer exists.
     void remove(const QString &file);
 
 signals:

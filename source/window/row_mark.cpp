@@ -6,7 +6,7 @@ namespace Window {
 
 namespace {
 
-// The tint is weak enough that text stays as readable as it is on the base colour.
+// The tint is so weak that text is as readable as on the base colour.
 QColor tinted(const QColor &base, const QColor &tint)
 {
     constexpr float share = 0.28F;

@@ -6,7 +6,7 @@ class QPalette;
 
 namespace Window {
 
-/// How a row is set apart from the others.
+/// How a row differs from the others.
 enum class RowMark
 {
     None,
@@ -14,8 +14,8 @@ enum class RowMark
     Obsolete
 };
 
-/// The background of a marked row, to be read with the palette's text colour on light and dark palettes: a
-/// tint of the base colour. The base colour itself for no mark.
+/// The background of a marked row: the palette's base colour, tinted so weakly that the palette's text colour
+/// is readable on it on light and dark palettes. The base colour itself for RowMark::None.
 QColor markColor(const QPalette &palette, RowMark mark);
 
 } // namespace Window

@@ -15,14 +15,18 @@
 #include <QLabel>
 #include <QStatusBar>
 
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace Window {
 
 namespace {
 
-// A status text may do without the file's name.
+// Not QString::arg(), which would complain about a text without the file name.
 QString withFile(QString text, const QString &fileName)
 {
-    return text.replace(QStringLiteral("%1"), fileName);
+    return text.replace(u"%1"_s, fileName);
 }
 
 } // namespace
@@ -40,7 +44,7 @@ void TableWindow::newTable()
         return;
     clearTable();
     m_fileName.clear();
-    takeOver(QString());
+    tableReplaced(QString());
     showStatus(m_texts.created);
 }
 
@@ -96,7 +100,7 @@ void TableWindow::setUnsaved()
 {
     m_isUnsaved = true;
     enableSave();
-    showPlace();
+    updatePlace();
 }
 
 void TableWindow::enableSave()
@@ -107,23 +111,22 @@ void TableWindow::enableSave()
 void TableWindow::showTable()
 {
     m_view->showRows(rows());
-    showPlace();
+    updatePlace();
 }
 
 void TableWindow::showStatus(const QString &text)
 {
     statusBar()->showMessage(text);
-    // A text that is longer than the bar is cut off there.
+    // The bar cuts off a longer text.
     statusBar()->setToolTip(text);
 }
 
 void TableWindow::showSaved(const QString &text)
 {
     const QString note = savedNote();
-    showStatus(note.isEmpty() ? text : text + QStringLiteral("   ") + note);
+    showStatus(note.isEmpty() ? text : text + u"   "_s + note);
 }
 
-// The table may be large, and much work: it is only lost when the user says so.
 bool TableWindow::mayLoseChanges()
 {
     if (!m_isUnsaved)
@@ -144,19 +147,24 @@ bool TableWindow::mayLoseChanges()
 bool TableWindow::load(const QString &fileName)
 {
     const QString path = QDir::toNativeSeparators(QFileInfo(fileName).absoluteFilePath());
-    const Loading loading = loadTable(path);
-    if (loading.outcome == Loading::Outcome::Loaded) {
-        takeOver(path);
-        showStatus(withFile(m_texts.opened, path));
-        return true;
+    const auto loaded = withProgress(m_texts.openTitle, withFile(m_texts.loading, path),
+                                     [&](Progress &progress) { return loadTable(path, progress); });
+    if (!loaded)
+        return false;
+    if (!*loaded) {
+        showLoadError(path, loaded->error());
+        return false;
     }
-    if (loading.outcome == Loading::Outcome::Failed) {
-        if (!QFile::exists(path))
-            m_recentFiles->remove(path);
-        m_dialogs.warn(this, m_texts.openTitle,
-                       QStringLiteral("%1\n\n%2\n%3").arg(m_texts.notLoaded, path, loading.reason));
-    }
-    return false;
+    tableReplaced(path);
+    showStatus(withFile(m_texts.opened, path));
+    return true;
+}
+
+void TableWindow::showLoadError(const QString &path, const QString &error)
+{
+    if (!QFile::exists(path))
+        m_recentFiles->remove(path);
+    m_dialogs.warn(this, m_texts.openTitle, u"%1\n\n%2\n%3"_s.arg(m_texts.notLoaded, path, error));
 }
 
 bool TableWindow::saveTo(const QString &fileName)
@@ -174,7 +182,7 @@ bool TableWindow::saveTo(const QString &fileName)
     m_save->setEnabled(false);
     m_memory.rememberFolderOf(path);
     m_recentFiles->add(path);
-    showPlace();
+    updatePlace();
     return true;
 }
 
@@ -184,8 +192,7 @@ bool TableWindow::saveShowingWait(const QString &path)
     return saveTable(path);
 }
 
-// There is another table, of that file or of none.
-void TableWindow::takeOver(const QString &fileName)
+void TableWindow::tableReplaced(const QString &fileName)
 {
     m_fileName = fileName;
     m_isUnsaved = false;
@@ -201,7 +208,7 @@ void TableWindow::takeOver(const QString &fileName)
     showTable();
 }
 
-void TableWindow::showPlace()
+void TableWindow::updatePlace()
 {
     const QString name = m_fileName.isEmpty() ? tr("Untitled") : QFileInfo(m_fileName).fileName();
     const int all = m_view->rowsModel().rows().size();
@@ -209,8 +216,8 @@ void TableWindow::showPlace()
     const QString count =
         shown == all ? tr("Rows: %L1").arg(all) : tr("Rows: %L1 of %L2").arg(shown).arg(all);
     const QString place = m_isUnsaved ? tr("%1 (not saved)").arg(name) : name;
-    m_place->setText(place + QStringLiteral("   ") + count);
-    m_place->setToolTip(m_fileName);
+    m_placeLabel->setText(place + u"   "_s + count);
+    m_placeLabel->setToolTip(m_fileName);
 }
 
 void TableWindow::closeEvent(QCloseEvent *event)
@@ -235,7 +242,7 @@ void TableWindow::dragEnterEvent(QDragEnterEvent *event)
         event->acceptProposedAction();
 }
 
-// The program that the file comes from waits until this returns, so boxes come afterwards.
+// The program that the file is dragged from waits until this returns, so message boxes must come later.
 void TableWindow::dropEvent(QDropEvent *event)
 {
     const QString file = droppedFile(event->mimeData());

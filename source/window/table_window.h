@@ -1,5 +1,6 @@
 #pragma once
 
+#include "nvx_util/result.h"
 #include "window/marked_rows.h"
 #include "window/progress.h"
 #include "window/window_memory.h"
@@ -7,6 +8,9 @@
 #include <QMainWindow>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
+#include <type_traits>
 
 class QAction;
 class QLabel;
@@ -19,45 +23,32 @@ class FilterField;
 class MarkedTableView;
 class RecentFiles;
 
-/// What a table window is called and says.
+/// The texts of a table window.
 struct TableWindowTexts
 {
     QString title;
-    /// With window.png, and new.png, open.png, save.png, saveas.png and exit.png for the actions that have a
-    /// picture, such as ":/Utility/images/".
+    /// The folder of window.png, and of new.png, open.png, save.png, saveas.png and exit.png for the actions
+    /// that have an icon; for example ":/Utility/images/".
     QString iconFolder;
     QStringList headings;
-    QList<int> widths; ///< of the first columns, unless others are remembered
-    QString openTitle; ///< of the file dialog
+    QList<int> widths; ///< of the first columns, unless the user has changed them
+    QString openTitle; ///< of the file dialog, and of the progress dialog and the message box after it
     QString saveTitle;
     QString filter;    ///< of the files, such as "*.xml"
-    QString notLoaded; ///< what the box says first when a file cannot be loaded
+    QString loading;   ///< in the progress dialog; "%1" is replaced by the file name
+    QString notLoaded; ///< the first line of the message box if a file cannot be loaded
 
-    // What the status bar then shows; empty clears it. "%1" becomes the file's name.
+    // The status bar after the action; empty clears it. "%1" is replaced by the file name.
     QString created;
     QString opened;
     QString saved;
     QString savedAs;
 };
 
-/// How the loading of a file ended.
-struct Loading
-{
-    enum class Outcome
-    {
-        Loaded,
-        Cancelled,
-        Failed
-    };
-
-    Outcome outcome = Outcome::Loaded;
-    QString reason; ///< why it failed, for the user
-};
-
-/// A window on a table that is kept in a file: New, Open, Save, Save As, recent files, dropped files, Exit, a
-/// filter field at the end of the tool bar, and the question what to do with unsaved changes before they are
-/// lost. Its subclass has the table itself. Save, Save As and the subclass's actions are enabled once there
-/// is a table; Save only while there is something to save.
+/// A window on a table that is stored in a file: New, Open, Save, Save As, recent files, dropped files, Exit,
+/// a filter field at the end of the tool bar, and the question about unsaved changes before they are lost.
+/// The subclass holds the table. Save, Save As and the subclass's actions are enabled once there is a table;
+/// Save only while there is something to save.
 ///
 /// Object names: actionNew, actionOpen, actionSave, actionSaveAs, actionExit, actionAbout; menuBar with
 /// menuFile and menuHelp; mainToolBar, statusBar; centralWidget with horizontalLayout holding tableWidget.
@@ -68,18 +59,18 @@ class TableWindow : public QMainWindow
 public:
     ~TableWindow() override;
 
-    /// Opens a file as open() does, without asking which. False when it was not opened.
+    /// Opens a file as open() does, without a file dialog. Returns whether it was opened.
     bool openFile(const QString &fileName);
 
-    /// The current file's full path; empty when there is none.
+    /// The current file's full path; empty if there is none.
     const QString &fileName() const { return m_fileName; }
 
     bool hasUnsavedChanges() const { return m_isUnsaved; }
 
-    /// True while a WindowWork lasts; the window takes no orders then.
+    /// True while a WindowWork exists; the window then accepts no commands.
     bool isBusy() const { return m_work != nullptr; }
 
-    /// After how many milliseconds long work shows its progress.
+    /// The number of milliseconds after which a long operation shows its progress.
     int progressDelay() const { return m_progressDelay; }
     void setProgressDelay(int milliseconds) { m_progressDelay = milliseconds; }
 
@@ -87,23 +78,24 @@ public slots:
     void newTable();
     void open();
 
-    /// These two answer whether the table was saved.
+    /// Both return whether the table was saved.
     bool save();
     bool saveAs();
 
 protected:
-    /// The dialogs and the settings live longer than the window.
+    /// The dialogs and the settings must outlive the window.
     TableWindow(Dialogs &dialogs, QSettings &settings, const TableWindowTexts &texts);
 
-    // The table, kept by the subclass.
+    // The table, held by the subclass.
 
-    /// Puts an empty table in place of the present one.
+    /// Replaces the table by an empty one.
     virtual void clearTable() = 0;
 
-    /// Puts the table of a file in place of the present one, which stays if that fails or is cancelled.
-    virtual Loading loadTable(const QString &fileName) = 0;
+    /// Replaces the table by that of a file. If it fails, as it does when it is cancelled, the table is
+    /// unchanged.
+    virtual Nvx::Util::Outcome loadTable(const QString &fileName, Progress &progress) = 0;
 
-    /// Writes the file whole or not at all. False when it could not be written.
+    /// Writes the file whole or not at all. Returns false if it could not be written.
     virtual bool saveTable(const QString &fileName) = 0;
 
     /// What the status bar adds after the table was saved; usually empty.
@@ -116,21 +108,27 @@ protected:
     /// Adds a button before the filter field. It is enabled once there is a table.
     void addTableAction(QAction *action);
 
-    /// Asks for a file to open; empty when the user cancels. Later dialogs start in the folder of the file,
-    /// also when it turns out to be unusable.
+    /// Asks for a file to open; empty if the user cancels. Later dialogs start in the folder of that file,
+    /// even if it cannot be used.
     QString chooseFileToOpen(const QString &title, const QString &filter);
 
-    /// Tells that the table has changed since it was saved: Save is enabled.
+    /// Marks the table as changed since it was saved, and enables Save.
     void setUnsaved();
 
-    /// Enables Save for a table that may well be that of its file.
+    /// Enables Save without marking the table as changed.
     void enableSave();
 
-    /// Shows the rows of the table anew.
+    /// Updates the rows on the screen.
     void showTable();
 
-    /// Shows a text in the status bar until the next one; none for an empty text.
+    /// Shows the text in the status bar until the next call; an empty text clears it.
     void showStatus(const QString &text);
+
+    /// Performs a long operation as a WindowWork and returns its result; std::nullopt if the user cancelled
+    /// it. The operation takes a Progress &.
+    template<typename Operation>
+    std::optional<std::invoke_result_t<Operation, Progress &>>
+    withProgress(const QString &title, const QString &text, Operation operation);
 
     Dialogs &dialogs() { return m_dialogs; }
     WindowMemory &memory() { return m_memory; }
@@ -156,10 +154,11 @@ private:
     void showSaved(const QString &text);
     bool mayLoseChanges();
     bool load(const QString &fileName);
+    void showLoadError(const QString &path, const QString &error);
     bool saveTo(const QString &fileName);
     bool saveShowingWait(const QString &path);
-    void takeOver(const QString &fileName);
-    void showPlace();
+    void tableReplaced(const QString &fileName);
+    void updatePlace();
 
     Dialogs &m_dialogs;
     WindowMemory m_memory;
@@ -180,11 +179,11 @@ private:
     MarkedTableView *m_view;
     FilterField *m_filter = nullptr;
     QAction *m_endOfButtons = nullptr;
-    QLabel *m_place = nullptr;
+    QLabel *m_placeLabel = nullptr;
 };
 
-/// Work of a table window that takes long. While it lasts the window takes no orders; when the window is
-/// closed the work is cancelled, and the window closes after it.
+/// A long operation of a table window. During its lifetime the window accepts no commands; closing the window
+/// cancels the operation, and the window closes after it.
 class WindowWork : public Progress
 {
 public:
@@ -196,5 +195,16 @@ public:
 private:
     TableWindow &m_window;
 };
+
+template<typename Operation>
+std::optional<std::invoke_result_t<Operation, Progress &>>
+TableWindow::withProgress(const QString &title, const QString &text, Operation operation)
+{
+    WindowWork work(*this, title, text);
+    auto result = operation(work);
+    if (work.isCancelled())
+        return std::nullopt;
+    return result;
+}
 
 } // namespace Window

@@ -1,4 +1,4 @@
-// How a table window is laid out.
+// The layout of a table window.
 
 #include "window/dialogs.h"
 #include "window/filter_field.h"
@@ -17,6 +17,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Window {
 
 TableWindow::TableWindow(Dialogs &dialogs, QSettings &settings, const TableWindowTexts &texts)
@@ -28,9 +30,9 @@ TableWindow::TableWindow(Dialogs &dialogs, QSettings &settings, const TableWindo
 {
     constexpr QSize usualSize(960, 600);
     setWindowTitle(texts.title);
-    setWindowIcon(QIcon(texts.iconFolder + QStringLiteral("window.png")));
+    setWindowIcon(QIcon(texts.iconFolder + u"window.png"_s));
     setAcceptDrops(true);
-    // It would offer to hide the tool bar, and nothing would bring that back.
+    // It would offer to hide the tool bar, with no way to show it again.
     setContextMenuPolicy(Qt::NoContextMenu);
     makeActions();
     makeMenus();
@@ -49,23 +51,19 @@ QAction *TableWindow::fileAction(const QString &name, const QString &text, const
     auto *action = new QAction(text, this);
     action->setObjectName(name);
     action->setShortcut(shortcut);
-    const QString picture = m_texts.iconFolder + icon;
-    if (QFile::exists(picture))
-        action->setIcon(QIcon(picture));
+    const QString iconFile = m_texts.iconFolder + icon;
+    if (QFile::exists(iconFile))
+        action->setIcon(QIcon(iconFile));
     return action;
 }
 
 void TableWindow::makeActions()
 {
-    m_new = fileAction(QStringLiteral("actionNew"), tr("New"), QStringLiteral("new.png"),
-                       QKeySequence(QStringLiteral("Ctrl+N")));
-    m_open = fileAction(QStringLiteral("actionOpen"), tr("Open..."), QStringLiteral("open.png"),
-                        QKeySequence(QStringLiteral("Ctrl+O")));
-    m_save = fileAction(QStringLiteral("actionSave"), tr("Save"), QStringLiteral("save.png"),
-                        QKeySequence(QStringLiteral("Ctrl+S")));
-    m_saveAs = fileAction(QStringLiteral("actionSaveAs"), tr("Save As..."), QStringLiteral("saveas.png"),
-                          QKeySequence());
-    m_exit = fileAction(QStringLiteral("actionExit"), tr("Exit"), QStringLiteral("exit.png"), QKeySequence());
+    m_new = fileAction(u"actionNew"_s, tr("New"), u"new.png"_s, QKeySequence(u"Ctrl+N"_s));
+    m_open = fileAction(u"actionOpen"_s, tr("Open..."), u"open.png"_s, QKeySequence(u"Ctrl+O"_s));
+    m_save = fileAction(u"actionSave"_s, tr("Save"), u"save.png"_s, QKeySequence(u"Ctrl+S"_s));
+    m_saveAs = fileAction(u"actionSaveAs"_s, tr("Save As..."), u"saveas.png"_s, QKeySequence());
+    m_exit = fileAction(u"actionExit"_s, tr("Exit"), u"exit.png"_s, QKeySequence());
     m_save->setEnabled(false);
     m_saveAs->setEnabled(false);
     connect(m_new, &QAction::triggered, this, &TableWindow::newTable);
@@ -78,9 +76,9 @@ void TableWindow::makeActions()
 
 void TableWindow::makeMenus()
 {
-    menuBar()->setObjectName(QStringLiteral("menuBar"));
+    menuBar()->setObjectName(u"menuBar"_s);
     QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->setObjectName(QStringLiteral("menuFile"));
+    file->setObjectName(u"menuFile"_s);
     file->addActions({m_new, m_open});
     file->addMenu(m_recentFiles);
     file->addSeparator();
@@ -89,9 +87,9 @@ void TableWindow::makeMenus()
     file->addAction(m_exit);
 
     QMenu *help = menuBar()->addMenu(tr("Help"));
-    help->setObjectName(QStringLiteral("menuHelp"));
+    help->setObjectName(u"menuHelp"_s);
     QAction *about = help->addAction(tr("About..."));
-    about->setObjectName(QStringLiteral("actionAbout"));
+    about->setObjectName(u"actionAbout"_s);
     about->setMenuRole(QAction::AboutRole);
     connect(about, &QAction::triggered, this, &TableWindow::showAbout);
 }
@@ -99,7 +97,7 @@ void TableWindow::makeMenus()
 void TableWindow::makeToolBar()
 {
     QToolBar *bar = addToolBar(tr("Tool Bar"));
-    bar->setObjectName(QStringLiteral("mainToolBar"));
+    bar->setObjectName(u"mainToolBar"_s);
     bar->addActions({m_new, m_open, m_save});
     auto *space = new QWidget(bar);
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -110,7 +108,7 @@ void TableWindow::makeToolBar()
     bar->setMovable(false);
     connect(m_filter, &FilterField::textChanged, this, [this](const QString &text) {
         m_view->setFilter(text);
-        showPlace();
+        updatePlace();
     });
 }
 
@@ -118,41 +116,41 @@ void TableWindow::addTableAction(QAction *action)
 {
     action->setEnabled(false);
     m_tableActions.append(action);
-    auto *bar = findChild<QToolBar *>(QStringLiteral("mainToolBar"));
+    auto *bar = findChild<QToolBar *>(u"mainToolBar"_s);
     if (m_tableActions.size() == 1) {
-        // The line between the file's buttons and these.
+        // Separates the file buttons from these.
         bar->insertSeparator(m_endOfButtons);
     }
     bar->insertAction(m_endOfButtons, action);
-    // The menus do not have it, so the keyboard reaches it here.
+    // It is not in a menu, so the keyboard must be able to reach it here.
     bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
 }
 
 void TableWindow::makeCentralWidget()
 {
     auto *central = new QWidget(this);
-    central->setObjectName(QStringLiteral("centralWidget"));
+    central->setObjectName(u"centralWidget"_s);
     auto *layout = new QHBoxLayout(central);
-    layout->setObjectName(QStringLiteral("horizontalLayout"));
+    layout->setObjectName(u"horizontalLayout"_s);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_view->setObjectName(QStringLiteral("tableWidget"));
+    m_view->setObjectName(u"tableWidget"_s);
     layout->addWidget(m_view);
     setCentralWidget(central);
 }
 
 void TableWindow::makeStatusBar()
 {
-    statusBar()->setObjectName(QStringLiteral("statusBar"));
-    m_place = new QLabel(this);
-    m_place->setObjectName(QStringLiteral("placeLabel"));
-    m_place->setTextFormat(Qt::PlainText);
-    statusBar()->addPermanentWidget(m_place);
+    statusBar()->setObjectName(u"statusBar"_s);
+    m_placeLabel = new QLabel(this);
+    m_placeLabel->setObjectName(u"placeLabel"_s);
+    m_placeLabel->setTextFormat(Qt::PlainText);
+    statusBar()->addPermanentWidget(m_placeLabel);
 }
 
 void TableWindow::showAbout()
 {
-    m_dialogs.tell(this, tr("About"),
-                   QStringLiteral("%1 %2").arg(m_texts.title, QCoreApplication::applicationVersion()));
+    m_dialogs.inform(this, tr("About"),
+                     u"%1 %2"_s.arg(m_texts.title, QCoreApplication::applicationVersion()));
 }
 
 } // namespace Window

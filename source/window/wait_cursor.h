@@ -4,7 +4,7 @@
 
 namespace Window {
 
-/// Shows that the program is at work, while this object lives.
+/// Shows the wait cursor during its lifetime.
 class WaitCursor
 {
 public:

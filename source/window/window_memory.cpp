@@ -8,26 +8,27 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Window {
 
 namespace {
 
-const QString geometryKey = QStringLiteral("geometry");
-const QString widthsKey = QStringLiteral("columnWidths");
-const QString folderKey = QStringLiteral("lastFolder");
+const QString geometryKey = u"geometry"_s;
+const QString widthsKey = u"columnWidths"_s;
+const QString folderKey = u"lastFolder"_s;
 
 } // namespace
 
-bool WindowMemory::restore(QMainWindow &window, QHeaderView &columns) const
+void WindowMemory::restore(QMainWindow &window, QHeaderView &columns) const
 {
     const QByteArray geometry = m_settings.value(geometryKey).toByteArray();
     if (geometry.isEmpty() || !window.restoreGeometry(geometry))
-        return false;
+        return;
     const QVariantList widths = m_settings.value(widthsKey).toList();
     const auto count = std::min<int>(columns.count(), static_cast<int>(widths.size()));
     for (int column = 0; column < count; ++column)
         columns.resizeSection(column, std::max(widths.at(column).toInt(), columns.minimumSectionSize()));
-    return true;
 }
 
 void WindowMemory::store(const QMainWindow &window, const QHeaderView &columns)

@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QSettings>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Window {
 
 void openNamedFile(TableWindow &window, const QStringList &arguments)
@@ -25,9 +27,8 @@ int runWindowProgram(int argc, char *argv[], const QString &programName, const Q
     QApplication::setApplicationName(programName);
     QApplication::setApplicationVersion(QStringLiteral(NVX_VERSION));
     const Nvx::Util::Translators translators(QApplication::applicationDirPath(),
-                                             Nvx::Util::supportedSystemLocale(),
-                                             {catalogue, QStringLiteral("nvxwindow")});
-    QSettings settings(QStringLiteral("Velmora"), programName);
+                                             Nvx::Util::supportedSystemLocale(), {catalogue, u"nvxwindow"_s});
+    QSettings settings(u"Velmora"_s, programName);
     NativeDialogs dialogs;
     const std::unique_ptr<TableWindow> window = makeWindow(dialogs, settings);
     window->show();

@@ -15,12 +15,11 @@ class TableWindow;
 
 using WindowMaker = std::function<std::unique_ptr<TableWindow>(Dialogs &dialogs, QSettings &settings)>;
 
-/// Opens the file that the arguments name, without the program's own name, once the event loop runs; nothing
-/// when they name none.
+/// Opens the first of the arguments, which do not include the program's name, as soon as the event loop runs.
 void openNamedFile(TableWindow &window, const QStringList &arguments);
 
-/// Runs a program of one table window to its end and answers its exit code: in the language of the system, as
-/// far as the catalogue beside the program has it; with the settings of that program.
+/// Runs a program with one table window and returns its exit code. The program uses the system's language if
+/// the catalogue next to the program is available in it, and settings of its own.
 int runWindowProgram(int argc, char *argv[], const QString &programName, const QString &catalogue,
                      const WindowMaker &makeWindow);
 

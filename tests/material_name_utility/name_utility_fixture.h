@@ -1,18 +1,10 @@
 #pragma once
 
-#include "material_name_utility/mat_material_name_utility.h"
-#include "support/file_bytes.h"
-#include "support/recording_dialogs.h"
-#include "support/test_folder.h"
+#include "material_name_utility/material_name_utility.h"
 #include "translation/error_translation_table.h"
+#include "window/window_fixture.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QSettings>
-#include <QStatusBar>
-#include <QTableView>
-
-/// The names as a material database.
+/// A material database with those names.
 inline QByteArray databaseOf(const QStringList &names)
 {
     QByteArray database = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<materials>\n";
@@ -21,52 +13,38 @@ inline QByteArray databaseOf(const QStringList &names)
     return database + "</materials>\n";
 }
 
-/// So many different names, not in their order.
-inline QStringList manyNames(int count)
-{
-    QStringList names;
-    for (int number = 0; number < count; ++number)
-        names.append(QStringLiteral("Stahl № %1").arg(QString::number(number * 7919LL % count), 7, u'0'));
-    return names;
-}
-
-/// The window with all that it needs; a translation file of three names, one of them obsolete; and a
-/// database.
-struct NameUtilityFixture
+/// The window, a translation file with three names, one of them obsolete, and a database.
+struct NameUtilityFixture : WindowFixture<mat::MaterialNameUtility>
 {
     NameUtilityFixture()
     {
-        Error::TranslationContext names(QStringLiteral("Clt::Material"));
-        names.append({QStringLiteral("Water"), QStringLiteral("Wasser"), QString(), QString()});
-        names.append({QStringLiteral("Oil"), QStringLiteral("Öl"), QStringLiteral("obsolete"), QString()});
-        names.append({QStringLiteral("Air"), QStringLiteral("Air"), QStringLiteral("unfinished"), QString()});
-        Error::TranslationTable table;
+        using namespace Qt::Literals::StringLiterals;
+        Translation::TranslationContext names(u"Clt::Material"_s);
+        names.append({u"Water"_s, u"Wasser"_s, QString(), QString()});
+        names.append({u"Oil"_s, u"Öl"_s, u"obsolete"_s, QString()});
+        names.append({u"Air"_s, u"Air"_s, u"unfinished"_s, QString()});
+        Translation::TranslationTable table;
         table.setContext(names);
-        table.addString(QStringLiteral("Clt::Session"), QStringLiteral("No server"));
+        table.addString(u"Clt::Session"_s, u"No server"_s);
         if (!table.save(tableFile))
             qFatal("cannot save the table");
-        writeDatabase({QStringLiteral("Water"), QStringLiteral("Steel"), QStringLiteral("Iron")});
+        writeDatabase({u"Water"_s, u"Steel"_s, u"Iron"_s});
         window.setProgressDelay(0);
     }
 
-    QAction *action(const char *name) { return window.findChild<QAction *>(QLatin1String(name)); }
-    bool isEnabled(const char *name) { return action(name)->isEnabled(); }
-    QString status() { return window.statusBar()->currentMessage(); }
-    QTableView *view() { return window.findChild<QTableView *>(QStringLiteral("tableWidget")); }
+    bool areTableActionsEnabled(bool areEnabled)
+    {
+        return WindowFixture::areTableActionsEnabled(areEnabled, {"actionSynchronize"});
+    }
 
-    /// The rows that are shown, each as "NAME|TRANSLATION", those with a mark as "NAME|TRANSLATION|TOOL TIP".
+    /// The rows on the screen as "NAME|TRANSLATION", marked rows as "NAME|TRANSLATION|TOOL TIP".
     QStringList shownRows()
     {
-        QStringList rows;
-        const QAbstractItemModel *model = view()->model();
-        for (int row = 0; row < model->rowCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < model->columnCount(); ++column)
-                cells.append(model->index(row, column).data().toString());
-            const QString toolTip = model->index(row, 0).data(Qt::ToolTipRole).toString();
+        QStringList rows = WindowFixture::shownRows();
+        for (int row = 0; row < rows.size(); ++row) {
+            const QString toolTip = view()->model()->index(row, 0).data(Qt::ToolTipRole).toString();
             if (!toolTip.isEmpty())
-                cells.append(toolTip);
-            rows.append(cells.join(u'|'));
+                rows[row] += u'|' + toolTip;
         }
         return rows;
     }
@@ -77,11 +55,11 @@ struct NameUtilityFixture
         return QStringLiteral("Obsolete: was not found in the material database; the translation is kept");
     }
 
-    /// What the translation file of the fixture shows.
+    /// The rows of the translation file.
     static QStringList tableRows()
     {
-        return {QStringLiteral("Air|Air"), QStringLiteral("Oil|Öl|") + obsoleteToolTip(),
-                QStringLiteral("Water|Wasser")};
+        using namespace Qt::Literals::StringLiterals;
+        return {u"Air|Air"_s, u"Oil|Öl|"_s + obsoleteToolTip(), u"Water|Wasser"_s};
     }
 
     void writeDatabase(const QStringList &names) const
@@ -90,11 +68,7 @@ struct NameUtilityFixture
             qFatal("cannot write the database");
     }
 
-    TestFolder folder;
     QString tableFile = folder.path(QStringLiteral("matprop_de.ts"));
     QString otherFile = folder.path(QStringLiteral("other.ts"));
     QString databaseFile = folder.path(QStringLiteral("matprop.mdb"));
-    QSettings settings{folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat};
-    RecordingDialogs dialogs;
-    mat::MaterialNameUtility window{dialogs, settings};
 };

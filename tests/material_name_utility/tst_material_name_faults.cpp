@@ -1,27 +1,21 @@
-// Files that are not as they should be, and places that are not.
+// Faulty files, and places that cannot be read or written.
 
 #include "name_utility_fixture.h"
 #include "support/test_class.h"
+#include "window/faulty_files.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-void addDamagedFileRows()
+void addFaultyTableRows()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("text") << QByteArray("not a table\n");
-    QTest::newRow("bytes") << QByteArray("\0\1\0\0Standard Jet DB\0", 20);
-    QTest::newRow("truncated in a tag") << QByteArray("<TS><context><na");
-    QTest::newRow("truncated between elements") << QByteArray(
-        "<TS><material><name>Air</name></material><context><name>Clt::Material</name></context>");
-    QTest::newRow("wrong nesting") << QByteArray("<TS><material></TS></material>");
-    QTest::newRow("two documents") << QByteArray("<TS/><TS/>");
-    QTest::newRow("an entity that grows for ever")
-        << QByteArray("<!DOCTYPE t [<!ENTITY a \"&b;&b;\"><!ENTITY b \"&a;&a;\">]><TS>&a;</TS>");
+    addFaultyFileRows("TS",
+                      "<material><name>Air</name></material><context><name>Clt::Material</name></context>");
 }
 
 } // namespace
@@ -31,22 +25,22 @@ class tst_material_name_faults : public QObject
     Q_OBJECT
 
 private slots:
-    void badDatabaseIsReportedAndTheTableKept_data() { addDamagedFileRows(); }
-    void badDatabaseIsReportedAndTheTableKept();
+    void faultyDatabaseIsReportedAndTheTableRemains_data() { addFaultyTableRows(); }
+    void faultyDatabaseIsReportedAndTheTableRemains();
     void databaseThatCannotBeOpenedIsReported_data();
     void databaseThatCannotBeOpenedIsReported();
-    void badDatabaseBeginsNoTable();
-    void badTableIsReportedAndTheTableKept_data() { addDamagedFileRows(); }
-    void badTableIsReportedAndTheTableKept();
-    void databaseIsNotOpenedAsATable();
-    void largeFileThatIsNoDatabaseIsRefusedAtOnce();
-    void savingWhereOneMayNotWriteLosesNothing_data();
-    void savingWhereOneMayNotWriteLosesNothing();
-    void aProtectedFileIsReplacedByThoseOnlyWhoMay();
-    void namesOfFilesInOtherScriptsAreFine();
+    void unreadableDatabaseStartsNoTable();
+    void faultyTableIsReportedAndTheOldOneRemains_data() { addFaultyTableRows(); }
+    void faultyTableIsReportedAndTheOldOneRemains();
+    void databaseCannotBeOpenedAsATable();
+    void largeFileThatIsNoDatabaseIsRejectedQuickly();
+    void tableRemainsIfItCannotBeSaved_data();
+    void tableRemainsIfItCannotBeSaved();
+    void protectedFileIsReplacedOnlyWithPermission();
+    void fileNamesInOtherScriptsWork();
 };
 
-void tst_material_name_faults::badDatabaseIsReportedAndTheTableKept()
+void tst_material_name_faults::faultyDatabaseIsReportedAndTheTableRemains()
 {
     QFETCH(const QByteArray, bytes);
     NameUtilityFixture f;
@@ -56,9 +50,9 @@ void tst_material_name_faults::badDatabaseIsReportedAndTheTableKept()
     f.dialogs.fileToChoose = f.databaseFile;
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Load Material Database"));
-    QCOMPARE(f.dialogs.warnings.first().text, QStringLiteral("Cannot read material database"));
-    QVERIFY2(f.status().startsWith(f.databaseFile + QStringLiteral(": ")), qPrintable(f.status()));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Load Material Database"_s);
+    QCOMPARE(f.dialogs.warnings.first().text, u"Cannot read material database"_s);
+    QVERIFY2(f.status().startsWith(f.databaseFile + u": "_s), qPrintable(f.status()));
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     QVERIFY(!f.window.hasUnsavedChanges());
     QVERIFY(!f.isEnabled("actionSave"));
@@ -69,31 +63,31 @@ void tst_material_name_faults::badDatabaseIsReportedAndTheTableKept()
 void tst_material_name_faults::databaseThatCannotBeOpenedIsReported_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("not there") << QStringLiteral("missing.mdb");
-    QTest::newRow("a folder") << QStringLiteral("folder.mdb");
+    QTest::newRow("missing") << u"missing.mdb"_s;
+    QTest::newRow("folder") << u"folder.mdb"_s;
 }
 
 void tst_material_name_faults::databaseThatCannotBeOpenedIsReported()
 {
     QFETCH(const QString, name);
     NameUtilityFixture f;
-    QVERIFY(QDir().mkdir(f.folder.path(QStringLiteral("folder.mdb"))));
+    QVERIFY(QDir().mkdir(f.folder.path(u"folder.mdb"_s)));
     QVERIFY(f.window.openFile(f.tableFile));
     f.window.synchronize(f.folder.path(name));
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().text, QStringLiteral("Cannot read material database"));
+    QCOMPARE(f.dialogs.warnings.first().text, u"Cannot read material database"_s);
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
 }
 
-void tst_material_name_faults::badDatabaseBeginsNoTable()
+void tst_material_name_faults::unreadableDatabaseStartsNoTable()
 {
     NameUtilityFixture f;
-    f.window.synchronize(f.folder.path(QStringLiteral("missing.mdb")));
+    f.window.synchronize(f.folder.path(u"missing.mdb"_s));
     QVERIFY(!f.isEnabled("actionSave"));
     QVERIFY(!f.isEnabled("actionSaveAs"));
 }
 
-void tst_material_name_faults::badTableIsReportedAndTheTableKept()
+void tst_material_name_faults::faultyTableIsReportedAndTheOldOneRemains()
 {
     QFETCH(const QByteArray, bytes);
     NameUtilityFixture f;
@@ -102,30 +96,28 @@ void tst_material_name_faults::badTableIsReportedAndTheTableKept()
     QVERIFY(!f.window.openFile(f.otherFile));
     QCOMPARE(f.dialogs.warnings.size(), 1);
     QVERIFY(f.dialogs.warnings.first().text.startsWith(
-        QStringLiteral("Could not load translation table\n\n%1\n").arg(f.otherFile)));
-    QVERIFY(f.dialogs.warnings.first().text.endsWith(QStringLiteral(" at line 1")));
+        u"Could not load translation table\n\n%1\n"_s.arg(f.otherFile)));
+    QVERIFY(f.dialogs.warnings.first().text.endsWith(u" at line 1"_s));
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     QCOMPARE(f.window.fileName(), f.tableFile);
     QCOMPARE(fileBytes(f.otherFile), bytes);
 }
 
-// It would be written over as a translation file.
-void tst_material_name_faults::databaseIsNotOpenedAsATable()
+// Saving would overwrite the database with a translation file.
+void tst_material_name_faults::databaseCannotBeOpenedAsATable()
 {
     NameUtilityFixture f;
     QVERIFY(!f.window.openFile(f.databaseFile));
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QVERIFY(f.dialogs.warnings.first().text.endsWith(QStringLiteral("It is not a translation file")));
+    QVERIFY(f.dialogs.warnings.first().text.endsWith(u"It is not a translation file"_s));
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void tst_material_name_faults::largeFileThatIsNoDatabaseIsRefusedAtOnce()
+void tst_material_name_faults::largeFileThatIsNoDatabaseIsRejectedQuickly()
 {
     constexpr qint64 largeFile = 200'000'000;
     NameUtilityFixture f;
-    QFile file(f.databaseFile);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(largeFile));
-    file.close();
+    QVERIFY(writeNuls(f.databaseFile, largeFile));
     QElapsedTimer timer;
     timer.start();
     f.window.synchronize(f.databaseFile);
@@ -133,18 +125,18 @@ void tst_material_name_faults::largeFileThatIsNoDatabaseIsRefusedAtOnce()
     QCOMPARE(f.dialogs.warnings.size(), 1);
 }
 
-void tst_material_name_faults::savingWhereOneMayNotWriteLosesNothing_data()
+void tst_material_name_faults::tableRemainsIfItCannotBeSaved_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("a folder that is not there") << QStringLiteral("no such folder/matprop.ts");
-    QTest::newRow("a folder in place of the file") << QStringLiteral("folder");
+    QTest::newRow("missing folder") << u"no such folder/matprop.ts"_s;
+    QTest::newRow("folder instead of the file") << u"folder"_s;
 }
 
-void tst_material_name_faults::savingWhereOneMayNotWriteLosesNothing()
+void tst_material_name_faults::tableRemainsIfItCannotBeSaved()
 {
     QFETCH(const QString, name);
     NameUtilityFixture f;
-    QVERIFY(QDir().mkdir(f.folder.path(QStringLiteral("folder"))));
+    QVERIFY(QDir().mkdir(f.folder.path(u"folder"_s)));
     QVERIFY(f.window.openFile(f.tableFile));
     f.window.synchronize(f.databaseFile);
     const QStringList before = f.shownRows();
@@ -152,9 +144,8 @@ void tst_material_name_faults::savingWhereOneMayNotWriteLosesNothing()
     f.dialogs.fileToChoose = f.folder.path(name);
     f.action("actionSaveAs")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Save Translation Table"));
-    QVERIFY(f.dialogs.warnings.first().text.startsWith(
-        QStringLiteral("Could not save %1\n").arg(f.dialogs.fileToChoose)));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Save Translation Table"_s);
+    QVERIFY(f.dialogs.warnings.first().text.startsWith(u"Could not save %1\n"_s.arg(f.dialogs.fileToChoose)));
     QVERIFY(f.window.hasUnsavedChanges());
     QVERIFY(f.isEnabled("actionSave"));
     QCOMPARE(f.window.fileName(), f.tableFile);
@@ -163,33 +154,33 @@ void tst_material_name_faults::savingWhereOneMayNotWriteLosesNothing()
     QVERIFY(!f.window.hasUnsavedChanges());
 }
 
-void tst_material_name_faults::aProtectedFileIsReplacedByThoseOnlyWhoMay()
+void tst_material_name_faults::protectedFileIsReplacedOnlyWithPermission()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     f.window.synchronize(f.databaseFile);
     const std::optional<QByteArray> before = fileBytes(f.tableFile);
     QVERIFY(QFile::setPermissions(f.tableFile, QFile::ReadOwner | QFile::ReadUser));
-    const bool mayWrite = QFileInfo(f.tableFile).isWritable(); // the superuser writes every file
+    const bool mayWrite = QFileInfo(f.tableFile).isWritable(); // root may write every file
     QCOMPARE(f.window.save(), mayWrite);
     QCOMPARE(f.dialogs.warnings.size(), mayWrite ? 0 : 1);
     QCOMPARE(fileBytes(f.tableFile) == before, !mayWrite);
     QCOMPARE(f.window.hasUnsavedChanges(), !mayWrite);
 }
 
-void tst_material_name_faults::namesOfFilesInOtherScriptsAreFine()
+void tst_material_name_faults::fileNamesInOtherScriptsWork()
 {
     NameUtilityFixture f;
-    const QString database = f.folder.path(QStringLiteral("größe 100% 材料 %1.mdb"));
-    QVERIFY(writeBytes(database, databaseOf({QStringLiteral("空気 <&>")})));
+    const QString database = f.folder.path(u"größe 100% 材料 %1.mdb"_s);
+    QVERIFY(writeBytes(database, databaseOf({u"空気 <&>"_s})));
     f.window.synchronize(database);
     QVERIFY(f.dialogs.warnings.isEmpty());
-    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("größe 100% 材料 %1.ts"));
+    f.dialogs.fileToChoose = f.folder.path(u"größe 100% 材料 %1.ts"_s);
     QVERIFY(f.window.saveAs());
-    QCOMPARE(f.status(), QStringLiteral("Saved translation table as ") + f.dialogs.fileToChoose);
+    QCOMPARE(f.status(), u"Saved translation table as "_s + f.dialogs.fileToChoose);
     f.window.newTable();
     QVERIFY(f.window.openFile(f.dialogs.fileToChoose));
-    QCOMPARE(f.shownRows(), QStringList(QStringLiteral("空気 <&>|空気 <&>")));
+    QCOMPARE(f.shownRows(), QStringList(u"空気 <&>|空気 <&>"_s));
 }
 
 NVX_TEST(tst_material_name_faults)

@@ -1,15 +1,18 @@
+#include "materials/many_names.h"
 #include "name_utility_fixture.h"
 #include "support/full_disk.h"
 #include "support/test_class.h"
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_material_name_full_disk : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void tableStaysUnsavedAndTheFileAsItWas()
+    void tableRemainsUnsavedAndTheFileUnchanged()
     {
         NameUtilityFixture f;
         QVERIFY(f.window.openFile(f.tableFile));
@@ -21,12 +24,11 @@ private slots:
             QVERIFY(!f.window.save());
         }
         QCOMPARE(f.dialogs.warnings.size(), 1);
-        QVERIFY(f.dialogs.warnings.first().text.startsWith(
-            QStringLiteral("Could not save %1\n").arg(f.tableFile)));
+        QVERIFY(f.dialogs.warnings.first().text.startsWith(u"Could not save %1\n"_s.arg(f.tableFile)));
         QCOMPARE(fileBytes(f.tableFile), before);
         QVERIFY(f.window.hasUnsavedChanges());
         QVERIFY(f.isEnabled("actionSave"));
-        QCOMPARE(f.view()->model()->rowCount(), 5003);
+        QCOMPARE(f.rowCount(), 5003);
 
         QVERIFY(f.window.save());
         QVERIFY(fileBytes(f.tableFile) != before);

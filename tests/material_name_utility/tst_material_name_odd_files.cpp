@@ -1,4 +1,4 @@
-// Files that break when they are read, and files that cannot be opened.
+// Files that fail when they are read, and files that cannot be opened.
 
 #include "materials/mat_material_name.h"
 #include "materials/mat_translation_table.h"
@@ -8,29 +8,31 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_material_name_odd_files : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void databaseThatCannotBeReadIsReportedAndTheTableKept_data() { addFiles(); }
+    void unreadableDatabaseIsReportedAndTheTableRemains_data() { addFiles(); }
 
-    void databaseThatCannotBeReadIsReportedAndTheTableKept()
+    void unreadableDatabaseIsReportedAndTheTableRemains()
     {
         QFETCH(const QString, file);
         NameUtilityFixture f;
         QVERIFY(f.window.openFile(f.tableFile));
         f.window.synchronize(file);
         QCOMPARE(f.dialogs.warnings.size(), 1);
-        QCOMPARE(f.dialogs.warnings.first().text, QStringLiteral("Cannot read material database"));
-        QCOMPARE(f.status(), file + QStringLiteral(": ") + errorOf(file));
+        QCOMPARE(f.dialogs.warnings.first().text, u"Cannot read material database"_s);
+        QCOMPARE(f.status(), file + u": "_s + errorOf(file));
         QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
         QVERIFY(!f.window.hasUnsavedChanges());
     }
 
-    void tableThatCannotBeReadIsReportedAndTheOldOneKept_data() { addFiles(); }
+    void unreadableTableIsReportedAndTheOldOneRemains_data() { addFiles(); }
 
-    void tableThatCannotBeReadIsReportedAndTheOldOneKept()
+    void unreadableTableIsReportedAndTheOldOneRemains()
     {
         QFETCH(const QString, file);
         NameUtilityFixture f;
@@ -43,24 +45,24 @@ private slots:
         QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     }
 
-    void namesOfADatabaseThatCannotBeReadAreNone_data() { addFiles(); }
+    void unreadableDatabaseIsAnError_data() { addFiles(); }
 
-    void namesOfADatabaseThatCannotBeReadAreNone()
+    void unreadableDatabaseIsAnError()
     {
         QFETCH(const QString, file);
-        const mat::MaterialNames read = mat::readMaterialNames(file);
-        QCOMPARE(read.names, QStringList());
-        QCOMPARE(read.error, errorOf(file));
+        const auto names = Materials::readMaterialNames(file);
+        QVERIFY(!names);
+        QCOMPARE(names.error(), errorOf(file));
     }
 
-    void translationFileThatBreaksIsNotUpdated()
+    void translationFileThatFailsWhenReadIsNotUpdated()
     {
         NameUtilityFixture f;
-        const QString table = f.folder.path(QStringLiteral("broken.ts"));
+        const QString table = f.folder.path(u"broken.ts"_s);
         QVERIFY(linkTo(breakingFile(), table));
-        const mat::TableUpdate update = mat::updateTranslationFile(f.databaseFile, table);
-        QVERIFY(update.outcome != mat::TableUpdate::Outcome::Updated);
-        QVERIFY2(update.error.contains(errorOf(breakingFile())), qPrintable(update.error));
+        const auto update = Materials::updateTranslationFile(f.databaseFile, table);
+        QVERIFY(!update);
+        QVERIFY2(update.error().contains(errorOf(breakingFile())), qPrintable(update.error()));
         QVERIFY(QFileInfo(table).isSymLink());
     }
 
@@ -68,8 +70,8 @@ private:
     static void addFiles()
     {
         QTest::addColumn<QString>("file");
-        QTest::newRow("it cannot be opened") << closedFile();
-        QTest::newRow("it breaks when it is read") << breakingFile();
+        QTest::newRow("cannot be opened") << closedFile();
+        QTest::newRow("fails when read") << breakingFile();
     }
 };
 

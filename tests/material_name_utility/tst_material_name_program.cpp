@@ -1,7 +1,9 @@
-// The program itself: it comes up and opens the file that the command line names.
+// The program itself: it starts and opens the file on the command line.
 
 #include "support/test_class.h"
 #include "support/window_program.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 class tst_material_name_program : public QObject
 {
@@ -10,7 +12,7 @@ class tst_material_name_program : public QObject
 private slots:
     void namedFileIsOpened()
     {
-        QVERIFY(opensNamedFile(QStringLiteral(MATERIAL_NAME_UTILITY), QStringLiteral("größe.ts"), "<TS/>"));
+        QVERIFY(opensNamedFile(QStringLiteral(MATERIAL_NAME_UTILITY), u"größe.ts"_s, "<TS/>"));
     }
 };
 

@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QToolBar>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Window::UnsavedChoice;
 
 class tst_material_name_utility : public QObject
@@ -16,54 +18,51 @@ class tst_material_name_utility : public QObject
     Q_OBJECT
 
 private slots:
-    void windowIsLaidOutAsItsUsersKnowIt();
-    void actionsHaveTheirTextsAndPictures_data();
-    void actionsHaveTheirTextsAndPictures();
-    void toolTipTellsWithWhatIsSynchronized();
+    void windowHasItsMenusBarsAndColumns();
+    void actionsHaveTheirTextsAndIcons_data();
+    void actionsHaveTheirTextsAndIcons();
+    void synchronizeHasItsToolTip();
     void atStartUpOnlyNewOpenAndExitAreEnabled();
     void newTableIsEmpty();
     void openedTableIsShownInNameOrder();
     void tableWithoutMaterialNamesIsEmpty();
     void cancelledDialogChangesNothing();
-    void tableIsSavedWithEverythingInIt();
-    void theCopyOfAFileWithPluralFormsIsNamed();
-    void newTableIsSavedUnderAName();
-    void failedOpeningKeepsTheTable();
+    void tableIsSavedCompletely();
+    void copyOfAFileWithPluralFormsIsReported();
+    void newTableIsSavedUnderANewName();
+    void failedOpeningPreservesTheTable();
     void rowsAreFilteredAndCopied();
-    void columnsSortByAClickAndReturnToNameOrder();
+    void thirdClickRestoresTheNameOrder();
     void exitClosesTheWindow();
 };
 
-void tst_material_name_utility::windowIsLaidOutAsItsUsersKnowIt()
+void tst_material_name_utility::windowHasItsMenusBarsAndColumns()
 {
     NameUtilityFixture f;
-    QCOMPARE(f.window.windowTitle(), QStringLiteral("Material Name Utility"));
+    QCOMPARE(f.window.windowTitle(), u"Material Name Utility"_s);
     QVERIFY(!f.window.windowIcon().isNull());
-    QCOMPARE(f.window.findChild<QMenu *>(QStringLiteral("menuFile"))->title(), QStringLiteral("&File"));
-    QCOMPARE(f.window.findChild<QMenu *>(QStringLiteral("menuHelp"))->title(), QStringLiteral("Help"));
+    QCOMPARE(f.child<QMenu>("menuFile")->title(), u"&File"_s);
+    QCOMPARE(f.child<QMenu>("menuHelp")->title(), u"Help"_s);
     QStringList menu;
-    const QList<QAction *> entries = f.window.findChild<QMenu *>(QStringLiteral("menuFile"))->actions();
+    const QList<QAction *> entries = f.child<QMenu>("menuFile")->actions();
     for (const QAction *entry : entries) {
         if (!entry->objectName().isEmpty())
             menu.append(entry->objectName());
     }
-    QVERIFY(menu.endsWith(QStringLiteral("actionExit")));
-    QVERIFY(f.window.findChild<QToolBar *>(QStringLiteral("mainToolBar")));
-    QVERIFY(f.window.findChild<QStatusBar *>(QStringLiteral("statusBar")));
-    const QAbstractItemModel *model = f.view()->model();
-    QCOMPARE(model->columnCount(), 2);
-    QCOMPARE(model->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Name"));
-    QCOMPARE(model->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Translation"));
+    QVERIFY(menu.endsWith(u"actionExit"_s));
+    QVERIFY(f.child<QToolBar>("mainToolBar"));
+    QVERIFY(f.child<QStatusBar>("statusBar"));
+    QCOMPARE(headingsOf(*f.view()->model()), QStringList({u"Name"_s, u"Translation"_s}));
 }
 
-void tst_material_name_utility::actionsHaveTheirTextsAndPictures_data()
+void tst_material_name_utility::actionsHaveTheirTextsAndIcons_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shortcut");
-    QTest::addColumn<QString>("picture");
-    const auto row = [](const char *name, const char *text, const char *shortcut, const char *picture) {
+    QTest::addColumn<QString>("icon");
+    const auto row = [](const char *name, const char *text, const char *shortcut, const char *icon) {
         QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(shortcut)
-                            << QStringLiteral(":/MaterialNameUtility/images/") + QLatin1String(picture);
+                            << u":/MaterialNameUtility/images/"_s + QLatin1String(icon);
     };
     row("actionNew", "New", "Ctrl+N", "new.png");
     row("actionOpen", "Open...", "Ctrl+O", "open.png");
@@ -73,7 +72,7 @@ void tst_material_name_utility::actionsHaveTheirTextsAndPictures_data()
     row("actionSynchronize", "Synchronize...", "", "synchronize.png");
 }
 
-void tst_material_name_utility::actionsHaveTheirTextsAndPictures()
+void tst_material_name_utility::actionsHaveTheirTextsAndIcons()
 {
     NameUtilityFixture f;
     const QAction *action = f.action(QTest::currentDataTag());
@@ -81,30 +80,25 @@ void tst_material_name_utility::actionsHaveTheirTextsAndPictures()
     QTEST(action->text(), "text");
     QTEST(action->shortcut().toString(QKeySequence::PortableText), "shortcut");
     const QImage shown = action->icon().pixmap(16, 16).toImage();
-    QFETCH(const QString, picture);
+    QFETCH(const QString, icon);
     QVERIFY(!shown.isNull());
-    QCOMPARE(shown, QIcon(picture).pixmap(16, 16).toImage());
-    QImage nothing(shown.size(), shown.format());
-    nothing.fill(Qt::transparent);
-    QVERIFY(shown != nothing);
+    QCOMPARE(shown, QIcon(icon).pixmap(16, 16).toImage());
+    QImage transparent(shown.size(), shown.format());
+    transparent.fill(Qt::transparent);
+    QVERIFY(shown != transparent);
 }
 
-void tst_material_name_utility::toolTipTellsWithWhatIsSynchronized()
+void tst_material_name_utility::synchronizeHasItsToolTip()
 {
     NameUtilityFixture f;
-    QCOMPARE(f.action("actionSynchronize")->toolTip(), QStringLiteral("Synchronize with material database"));
-    QVERIFY(f.window.findChild<QToolBar *>(QStringLiteral("mainToolBar"))
-                ->actions()
-                .contains(f.action("actionSynchronize")));
+    QCOMPARE(f.action("actionSynchronize")->toolTip(), u"Synchronize with material database"_s);
+    QVERIFY(f.child<QToolBar>("mainToolBar")->actions().contains(f.action("actionSynchronize")));
 }
 
 void tst_material_name_utility::atStartUpOnlyNewOpenAndExitAreEnabled()
 {
     NameUtilityFixture f;
-    for (const char *name : {"actionNew", "actionOpen", "actionExit"})
-        QVERIFY2(f.isEnabled(name), name);
-    for (const char *name : {"actionSave", "actionSaveAs", "actionSynchronize"})
-        QVERIFY2(!f.isEnabled(name), name);
+    QVERIFY(f.areTableActionsEnabled(false));
 }
 
 void tst_material_name_utility::newTableIsEmpty()
@@ -112,12 +106,11 @@ void tst_material_name_utility::newTableIsEmpty()
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     f.action("actionNew")->trigger();
-    QCOMPARE(f.status(), QStringLiteral("Created new translation table"));
+    QCOMPARE(f.status(), u"Created new translation table"_s);
     QCOMPARE(f.shownRows(), QStringList());
     QCOMPARE(f.window.fileName(), QString());
     QVERIFY(f.window.table().contexts().empty());
-    for (const char *name : {"actionSave", "actionSaveAs", "actionSynchronize"})
-        QVERIFY2(f.isEnabled(name), name);
+    QVERIFY(f.areTableActionsEnabled(true));
 }
 
 void tst_material_name_utility::openedTableIsShownInNameOrder()
@@ -126,9 +119,9 @@ void tst_material_name_utility::openedTableIsShownInNameOrder()
     f.dialogs.fileToChoose = f.tableFile;
     f.action("actionOpen")->trigger();
     QCOMPARE(f.dialogs.openQuestions.size(), 1);
-    QCOMPARE(f.dialogs.openQuestions.first().title, QStringLiteral("Open Translation Table"));
-    QCOMPARE(f.dialogs.openQuestions.first().filter, QStringLiteral("*.ts"));
-    QCOMPARE(f.status(), QStringLiteral("Opened ") + f.tableFile);
+    QCOMPARE(f.dialogs.openQuestions.first().title, u"Open Translation Table"_s);
+    QCOMPARE(f.dialogs.openQuestions.first().filter, u"*.ts"_s);
+    QCOMPARE(f.status(), u"Opened "_s + f.tableFile);
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     QVERIFY(f.isEnabled("actionSynchronize"));
     QVERIFY(!f.window.hasUnsavedChanges());
@@ -157,34 +150,34 @@ void tst_material_name_utility::cancelledDialogChangesNothing()
     QCOMPARE(f.dialogs.openQuestions.size(), 2);
     QCOMPARE(f.dialogs.saveQuestions.size(), 1);
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
-    QCOMPARE(f.status(), QStringLiteral("Opened ") + f.tableFile);
+    QCOMPARE(f.status(), u"Opened "_s + f.tableFile);
     QCOMPARE(f.window.databaseFile(), QString());
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void tst_material_name_utility::tableIsSavedWithEverythingInIt()
+void tst_material_name_utility::tableIsSavedCompletely()
 {
     NameUtilityFixture f;
     const std::optional<QByteArray> before = fileBytes(f.tableFile);
     QVERIFY(f.window.openFile(f.tableFile));
     f.dialogs.fileToChoose = f.otherFile;
     f.action("actionSaveAs")->trigger();
-    QCOMPARE(f.dialogs.saveQuestions.first().title, QStringLiteral("Save Translation Table"));
-    QCOMPARE(f.dialogs.saveQuestions.first().filter, QStringLiteral("*.ts"));
-    QCOMPARE(f.status(), QStringLiteral("Saved translation table as ") + f.otherFile);
+    QCOMPARE(f.dialogs.saveQuestions.first().title, u"Save Translation Table"_s);
+    QCOMPARE(f.dialogs.saveQuestions.first().filter, u"*.ts"_s);
+    QCOMPARE(f.status(), u"Saved translation table as "_s + f.otherFile);
     QCOMPARE(f.window.fileName(), f.otherFile);
     QCOMPARE(fileBytes(f.otherFile), before);
 
     f.window.synchronize(f.databaseFile);
     f.action("actionSave")->trigger();
-    QCOMPARE(f.status(), QStringLiteral("Saved translation table"));
+    QCOMPARE(f.status(), u"Saved translation table"_s);
     QCOMPARE(f.dialogs.saveQuestions.size(), 1);
     QVERIFY(fileBytes(f.otherFile) != before);
     QCOMPARE(fileBytes(f.tableFile), before);
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void tst_material_name_utility::theCopyOfAFileWithPluralFormsIsNamed()
+void tst_material_name_utility::copyOfAFileWithPluralFormsIsReported()
 {
     NameUtilityFixture f;
     const QByteArray plural =
@@ -194,14 +187,13 @@ void tst_material_name_utility::theCopyOfAFileWithPluralFormsIsNamed()
     QVERIFY(f.window.openFile(f.otherFile));
     f.action("actionSave")->trigger();
     QCOMPARE(f.status(),
-             QStringLiteral(
-                 "Saved translation table   Plural forms were dropped; the old file is other.ts.before"));
-    QCOMPARE(fileBytes(f.otherFile + QStringLiteral(".before")), plural);
+             u"Saved translation table   Plural forms were dropped; the old file is other.ts.before"_s);
+    QCOMPARE(fileBytes(f.otherFile + u".before"_s), plural);
     QVERIFY(f.window.save());
-    QCOMPARE(f.status(), QStringLiteral("Saved translation table"));
+    QCOMPARE(f.status(), u"Saved translation table"_s);
 }
 
-void tst_material_name_utility::newTableIsSavedUnderAName()
+void tst_material_name_utility::newTableIsSavedUnderANewName()
 {
     NameUtilityFixture f;
     f.window.newTable();
@@ -210,63 +202,56 @@ void tst_material_name_utility::newTableIsSavedUnderAName()
     f.action("actionSave")->trigger();
     QCOMPARE(f.dialogs.saveQuestions.size(), 1);
     QCOMPARE(f.dialogs.saveQuestions.first().folder, f.folder.path());
-    QCOMPARE(f.status(), QStringLiteral("Saved translation table"));
+    QCOMPARE(f.status(), u"Saved translation table"_s);
     QCOMPARE(f.window.fileName(), f.otherFile);
     f.window.newTable();
     QVERIFY(f.window.openFile(f.otherFile));
-    QCOMPARE(f.shownRows(), QStringList({QStringLiteral("Iron|Iron"), QStringLiteral("Steel|Steel"),
-                                         QStringLiteral("Water|Water")}));
+    QCOMPARE(f.shownRows(), QStringList({u"Iron|Iron"_s, u"Steel|Steel"_s, u"Water|Water"_s}));
 }
 
-void tst_material_name_utility::failedOpeningKeepsTheTable()
+void tst_material_name_utility::failedOpeningPreservesTheTable()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    f.otherFile = f.folder.path(QStringLiteral("damaged/other.ts"));
-    QVERIFY(QDir().mkpath(f.folder.path(QStringLiteral("damaged"))));
+    f.otherFile = f.folder.path(u"damaged/other.ts"_s);
+    QVERIFY(QDir().mkpath(f.folder.path(u"damaged"_s)));
     QVERIFY(writeBytes(f.otherFile, "<TS>\n<context>"));
     f.dialogs.fileToChoose = f.otherFile;
     f.window.open();
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Open Translation Table"));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Open Translation Table"_s);
     QVERIFY(f.dialogs.warnings.first().text.startsWith(
-        QStringLiteral("Could not load translation table\n\n%1\n").arg(f.otherFile)));
-    QVERIFY(f.dialogs.warnings.first().text.endsWith(QStringLiteral(" at line 2")));
+        u"Could not load translation table\n\n%1\n"_s.arg(f.otherFile)));
+    QVERIFY(f.dialogs.warnings.first().text.endsWith(u" at line 2"_s));
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     QCOMPARE(f.window.fileName(), f.tableFile);
 
     f.dialogs.fileToChoose.clear();
     f.window.synchronize();
-    QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path(QStringLiteral("damaged")));
+    QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path(u"damaged"_s));
 }
 
 void tst_material_name_utility::rowsAreFilteredAndCopied()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    auto *filter = f.window.findChild<QLineEdit *>(QStringLiteral("filterField"));
-    QTest::keyClicks(filter, QStringLiteral("wass"));
-    QCOMPARE(f.shownRows(), QStringList(QStringLiteral("Water|Wasser")));
+    QTest::keyClicks(f.filter(), u"wass"_s);
+    QCOMPARE(f.shownRows(), QStringList(u"Water|Wasser"_s));
     const auto *view = qobject_cast<Window::MarkedTableView *>(f.view());
-    QCOMPARE(copiedText(view->rowsModel(), {view->model()->index(0, 0)}), QStringLiteral("Water\tWasser\n"));
+    QCOMPARE(copiedText(view->rowsModel(), {view->model()->index(0, 0)}), u"Water\tWasser\n"_s);
 }
 
-void tst_material_name_utility::columnsSortByAClickAndReturnToNameOrder()
+void tst_material_name_utility::thirdClickRestoresTheNameOrder()
 {
     NameUtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     f.window.show();
-    QHeaderView *heading = f.view()->horizontalHeader();
-    const auto click = [heading] {
-        QTest::mouseClick(heading->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(heading->sectionViewportPosition(1) + 20, heading->height() / 2));
-    };
     const auto first = [&f] { return f.view()->model()->index(0, 0).data().toString(); };
-    click();
-    QCOMPARE(first(), QStringLiteral("Air"));
-    click();
-    QCOMPARE(first(), QStringLiteral("Oil"));
-    click();
+    clickHeading(*f.view(), 1);
+    QCOMPARE(first(), u"Air"_s);
+    clickHeading(*f.view(), 1);
+    QCOMPARE(first(), u"Oil"_s);
+    clickHeading(*f.view(), 1);
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
 }
 
@@ -278,7 +263,7 @@ void tst_material_name_utility::exitClosesTheWindow()
     f.action("actionExit")->trigger();
     QVERIFY(f.window.isVisible());
     QCOMPARE(f.dialogs.unsavedQuestions.size(), 1);
-    QCOMPARE(f.dialogs.unsavedQuestions.first().title, QStringLiteral("Material Name Utility"));
+    QCOMPARE(f.dialogs.unsavedQuestions.first().title, u"Material Name Utility"_s);
     f.dialogs.choice = UnsavedChoice::Discard;
     f.action("actionExit")->trigger();
     QVERIFY(!f.window.isVisible());

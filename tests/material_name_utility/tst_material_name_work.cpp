@@ -1,31 +1,21 @@
-// Work that takes long: it shows how far it is, and is cancelled by its dialog or by closing the window.
+// Long operations: they show their progress, and are cancelled in its dialog or by closing the window.
 
+#include "materials/many_names.h"
 #include "name_utility_fixture.h"
 #include "support/shown_progress.h"
 #include "support/test_class.h"
+#include "window/faulty_files.h"
 
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qint64 largeFile = 200'000'000;
-
-// A well-formed document of that size, the parts again and again.
-void writeLargeFile(const QString &fileName, const QByteArray &begin, const QByteArray &part,
-                    const QByteArray &end, qint64 bytes)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("cannot write");
-    file.write(begin);
-    const QByteArray parts = part.repeated(100);
-    while (file.pos() < bytes)
-        file.write(parts);
-    file.write(end);
-}
 
 void writeLargeDatabase(const QString &fileName, qint64 bytes = largeFile / 4)
 {
@@ -43,9 +33,9 @@ class tst_material_name_work : public QObject
 private slots:
     void readingALargeDatabaseIsCancelled();
     void openingALargeTableIsCancelled();
-    void closingDuringReadingEndsIt();
-    void noOtherSynchronizationIsTakenMeanwhile();
-    void largeDatabaseIsReadToItsEnd();
+    void closingDuringReadingCancelsIt();
+    void busyWindowStartsNoOtherSynchronization();
+    void largeDatabaseIsReadCompletely();
     void manyNamesAreShownAndFiltered();
 };
 
@@ -56,8 +46,8 @@ void tst_material_name_work::readingALargeDatabaseIsCancelled()
     QVERIFY(f.window.openFile(f.tableFile));
     const ProgressCanceller canceller;
     f.window.synchronize(f.databaseFile);
-    QCOMPARE(canceller.label, QStringLiteral("Reading ") + f.databaseFile);
-    QCOMPARE(f.status(), QStringLiteral("Synchronization cancelled, the table is as it was"));
+    QCOMPARE(canceller.label, u"Reading "_s + f.databaseFile);
+    QCOMPARE(f.status(), u"Synchronization cancelled, the table is as it was"_s);
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     QVERIFY(!f.window.hasUnsavedChanges());
     QVERIFY(f.dialogs.warnings.isEmpty());
@@ -73,13 +63,13 @@ void tst_material_name_work::openingALargeTableIsCancelled()
                    "</context></TS>\n", largeFile / 4);
     const ProgressCanceller canceller;
     QVERIFY(!f.window.openFile(f.otherFile));
-    QCOMPARE(canceller.label, QStringLiteral("Reading ") + f.otherFile);
+    QCOMPARE(canceller.label, u"Reading "_s + f.otherFile);
     QVERIFY(f.dialogs.warnings.isEmpty());
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     QCOMPARE(f.window.fileName(), f.tableFile);
 }
 
-void tst_material_name_work::closingDuringReadingEndsIt()
+void tst_material_name_work::closingDuringReadingCancelsIt()
 {
     NameUtilityFixture f;
     f.window.show();
@@ -94,12 +84,12 @@ void tst_material_name_work::closingDuringReadingEndsIt()
     QVERIFY(f.dialogs.unsavedQuestions.isEmpty());
 }
 
-void tst_material_name_work::noOtherSynchronizationIsTakenMeanwhile()
+void tst_material_name_work::busyWindowStartsNoOtherSynchronization()
 {
     NameUtilityFixture f;
     writeLargeDatabase(f.databaseFile, largeFile / 20);
-    const QString other = f.folder.path(QStringLiteral("other.mdb"));
-    QVERIFY(writeBytes(other, databaseOf({QStringLiteral("Air")})));
+    const QString other = f.folder.path(u"other.mdb"_s);
+    QVERIFY(writeBytes(other, databaseOf({u"Air"_s})));
     bool wasBusy = false;
     QTimer::singleShot(1, &f.window, [&] {
         wasBusy = f.window.isBusy();
@@ -107,12 +97,12 @@ void tst_material_name_work::noOtherSynchronizationIsTakenMeanwhile()
     });
     f.window.synchronize(f.databaseFile);
     QVERIFY(wasBusy);
-    QCOMPARE(f.status(), QStringLiteral("Found 1 names (1 new, 0 existing, and 0 obsolete)"));
-    QCOMPARE(f.shownRows(), QStringList(QStringLiteral("Steel|Steel|") + NameUtilityFixture::newToolTip()));
+    QCOMPARE(f.status(), u"Found 1 names (1 new, 0 existing, and 0 obsolete)"_s);
+    QCOMPARE(f.shownRows(), QStringList(u"Steel|Steel|"_s + NameUtilityFixture::newToolTip()));
     QCOMPARE(f.window.databaseFile(), f.databaseFile);
 }
 
-void tst_material_name_work::largeDatabaseIsReadToItsEnd()
+void tst_material_name_work::largeDatabaseIsReadCompletely()
 {
     NameUtilityFixture f;
     writeLargeFile(f.databaseFile, "<materials>\n",
@@ -120,7 +110,7 @@ void tst_material_name_work::largeDatabaseIsReadToItsEnd()
                    "</materials>\n", largeFile);
     QVERIFY(QFileInfo(f.databaseFile).size() > largeFile);
     f.window.synchronize(f.databaseFile);
-    QCOMPARE(f.status(), QStringLiteral("Found 1 names (1 new, 0 existing, and 0 obsolete)"));
+    QCOMPARE(f.status(), u"Found 1 names (1 new, 0 existing, and 0 obsolete)"_s);
 }
 
 void tst_material_name_work::manyNamesAreShownAndFiltered()
@@ -130,18 +120,17 @@ void tst_material_name_work::manyNamesAreShownAndFiltered()
     f.writeDatabase(manyNames(count));
     f.window.show();
     f.window.synchronize(f.databaseFile);
-    QCOMPARE(f.status(), QStringLiteral("Found 100000 names (100000 new, 0 existing, and 0 obsolete)"));
-    QCOMPARE(f.view()->model()->rowCount(), count);
-    QCOMPARE(f.view()->model()->index(0, 0).data().toString(), QStringLiteral("Stahl № 0000000"));
-    QCOMPARE(f.view()->model()->index(count - 1, 0).data().toString(), QStringLiteral("Stahl № 0099999"));
+    QCOMPARE(f.status(), u"Found 100000 names (100000 new, 0 existing, and 0 obsolete)"_s);
+    QCOMPARE(f.rowCount(), count);
+    QCOMPARE(f.view()->model()->index(0, 0).data().toString(), u"Stahl № 0000000"_s);
+    QCOMPARE(f.view()->model()->index(count - 1, 0).data().toString(), u"Stahl № 0099999"_s);
 
-    auto *filter = f.window.findChild<QLineEdit *>(QStringLiteral("filterField"));
     QElapsedTimer timer;
     timer.start();
-    filter->setText(QStringLiteral("99999"));
+    f.filter()->setText(u"99999"_s);
     qInfo("filtered in %lld ms", timer.elapsed());
-    QCOMPARE(f.view()->model()->rowCount(), 1);
-    filter->clear();
+    QCOMPARE(f.rowCount(), 1);
+    f.filter()->clear();
 
     f.dialogs.fileToChoose = f.otherFile;
     QVERIFY(f.window.saveAs());
@@ -149,9 +138,9 @@ void tst_material_name_work::manyNamesAreShownAndFiltered()
     timer.start();
     QVERIFY(f.window.openFile(f.otherFile));
     qInfo("opened in %lld ms", timer.elapsed());
-    QCOMPARE(f.view()->model()->rowCount(), count);
+    QCOMPARE(f.rowCount(), count);
     f.window.synchronize(f.databaseFile);
-    QCOMPARE(f.status(), QStringLiteral("Found 100000 names (0 new, 100000 existing, and 0 obsolete)"));
+    QCOMPARE(f.status(), u"Found 100000 names (0 new, 100000 existing, and 0 obsolete)"_s);
     QVERIFY(!f.window.hasUnsavedChanges());
 }
 

@@ -7,30 +7,30 @@
 #include <QDir>
 #include <QTest>
 
-using Outcome = mat::TableUpdate::Outcome;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString databaseName = QStringLiteral("matprop.mdb");
-const QString tableName = QStringLiteral("table.ts");
+const QString databaseName = u"matprop.mdb"_s;
+const QString tableName = u"table.ts"_s;
 
-QString told(const mat::TableUpdate &update)
+using UpdateResult = Nvx::Util::Result<Materials::NameUpdate>;
+
+/// The result as "expected.txt" has it. An error begins with the file that it is about.
+QString reportOf(const UpdateResult &update, const QString &database, const QString &table)
 {
-    switch (update.outcome) {
-    case Outcome::DatabaseNotRead:
-        return QStringLiteral("database not read\n");
-    case Outcome::TableNotRead:
-        return QStringLiteral("table not read\n");
-    case Outcome::TableNotSaved:
-        return QStringLiteral("table not saved\n");
-    case Outcome::Updated:
-        break;
-    }
-    return QStringLiteral("found %1, new %2, existing %3, obsolete %4\n")
-        .arg(update.counts.found)
-        .arg(update.counts.added)
-        .arg(update.counts.existing())
-        .arg(update.counts.obsolete);
+    if (update.error().startsWith(database + u": "_s))
+        return u"database not read\n"_s;
+    if (update.error() == table + u": It cannot be written"_s)
+        return u"table not saved\n"_s;
+    if (update.error().startsWith(table + u": "_s))
+        return u"table not read\n"_s;
+    if (!update)
+        return update.error();
+    return u"found %1, new %2, existing %3, obsolete %4\n"_s.arg(update->counts.found)
+        .arg(update->counts.added)
+        .arg(update->counts.existing())
+        .arg(update->counts.obsolete);
 }
 
 QString expected(const QString &folder, const QString &name)
@@ -45,19 +45,19 @@ class tst_material_cases : public QObject
     Q_OBJECT
 
 private slots:
-    void tablesAreBroughtInStep_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void tablesAreSynchronized_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
 
-    void tablesAreBroughtInStep()
+    void tablesAreSynchronized()
     {
         QFETCH(const QString, folder);
         const TestFolder work;
         const QString table = work.path(tableName);
         QFile::copy(folder + u'/' + tableName, table);
-        const mat::TableUpdate update = mat::updateTranslationFile(folder + u'/' + databaseName, table);
-        QCOMPARE(told(update), expected(folder, QStringLiteral("expected.txt")));
-        QCOMPARE(QString::fromUtf8(fileLines(table).value_or("missing")),
-                 expected(folder, QStringLiteral("expected.ts")));
-        QCOMPARE(update.error.isEmpty(), update.outcome == Outcome::Updated);
+        const QString database = folder + u'/' + databaseName;
+        const UpdateResult update = Materials::updateTranslationFile(database, table);
+        QCOMPARE(reportOf(update, database, table), expected(folder, u"expected.txt"_s));
+        QCOMPARE(QString::fromUtf8(fileLines(table).value_or("missing")), expected(folder, u"expected.ts"_s));
+        QCOMPARE(update.error().isEmpty(), bool(update));
         const bool isThere = QFile::exists(table);
         QCOMPARE(QDir(work.path()).entryList(QDir::Files), isThere ? QStringList(tableName) : QStringList());
     }
@@ -69,18 +69,19 @@ private slots:
         QFETCH(const QString, folder);
         const TestFolder work;
         const QString table = work.path(tableName);
-        QFile::copy(folder + QStringLiteral("/expected.ts"), table);
+        QFile::copy(folder + u"/expected.ts"_s, table);
         const std::optional<QByteArray> before = fileLines(table);
-        mat::updateTranslationFile(folder + u'/' + databaseName, table);
+        (void)Materials::updateTranslationFile(folder + u'/' + databaseName, table);
         QCOMPARE(fileLines(table), before);
     }
 
     void sampleDatabaseIsRead()
     {
         const TestFolder work;
-        const mat::TableUpdate update =
-            mat::updateTranslationFile(QStringLiteral(SAMPLE_DATABASE), work.path(tableName));
-        QCOMPARE(told(update), QStringLiteral("found 3, new 3, existing 0, obsolete 0\n"));
+        const QString database = QStringLiteral(SAMPLE_DATABASE);
+        const QString table = work.path(tableName);
+        const UpdateResult update = Materials::updateTranslationFile(database, table);
+        QCOMPARE(reportOf(update, database, table), u"found 3, new 3, existing 0, obsolete 0\n"_s);
     }
 };
 

@@ -1,33 +1,32 @@
-// Files that are not as they should be, and places that are not.
+// Faulty files, and places that cannot be read or written.
 
 #include "support/processor_time.h"
 #include "support/shown_progress.h"
 #include "support/test_class.h"
 #include "utility_fixture.h"
+#include "window/faulty_files.h"
 
 #include <QDir>
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
 
-// A large table file: the same message with another tag, again and again.
 void writeLargeTable(const QString &fileName, qint64 bytes)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("cannot write");
-    file.write("<messageTable>\n");
     const QByteArray text(400, 'x');
-    for (int number = 0; file.pos() < bytes; ++number)
-        file.write("<message severity=\"Warning\"><key><process>client</process><context>C</context><tag>T" +
-                   QByteArray::number(number) + "</tag></key><text>" + text + "</text></message>\n");
-    file.write("</messageTable>\n");
+    writeLargeFile(fileName, "<messageTable>\n",
+                   "<message severity=\"Warning\"><key><process>client</process><context>C</context><tag>T"
+                   "</tag></key><text>" +
+                       text + "</text></message>\n",
+                   "</messageTable>\n", bytes);
 }
 
-// The fixture's table is still the window's, and what is shown of it.
+// Expects that the window still has and shows the fixture's table.
 void expectOldTable(UtilityFixture &f)
 {
     QCOMPARE(f.window.fileName(), f.tableFile);
@@ -44,37 +43,26 @@ class tst_message_table_faults : public QObject
     Q_OBJECT
 
 private slots:
-    void badFileIsReportedAndTheTableKept_data();
-    void badFileIsReportedAndTheTableKept();
+    void faultyFileIsReportedAndTheTableRemains_data();
+    void faultyFileIsReportedAndTheTableRemains();
     void truncatedFileIsReportedWithItsLine();
-    void folderIsNoTable();
+    void folderIsReported();
     void missingFileIsReported();
-    void largeFileThatIsNoTableIsRefusedAtOnce();
-    void loadingOfALargeFileIsCancelled();
-    void closingDuringLoadingEndsIt();
-    void savingWhereOneMayNotWriteLosesNothing_data();
-    void savingWhereOneMayNotWriteLosesNothing();
-    void aProtectedFileIsReplacedByThoseOnlyWhoMay();
-    void namesOfFilesInOtherScriptsAreFine();
+    void largeFileThatIsNoTableIsRejectedQuickly();
+    void loadingALargeFileIsCancelled();
+    void closingDuringLoadingCancelsIt();
+    void tableRemainsIfItCannotBeSaved_data();
+    void tableRemainsIfItCannotBeSaved();
+    void protectedFileIsReplacedOnlyWithPermission();
+    void fileNamesInOtherScriptsWork();
 };
 
-void tst_message_table_faults::badFileIsReportedAndTheTableKept_data()
+void tst_message_table_faults::faultyFileIsReportedAndTheTableRemains_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("text") << QByteArray("not a table\n");
-    QTest::newRow("bytes") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
-    QTest::newRow("truncated in a tag") << QByteArray("<messageTable><message sev");
-    QTest::newRow("truncated between messages")
-        << QByteArray("<messageTable><message severity=\"Warning\"><key><tag>T</tag></key></message>");
-    QTest::newRow("wrong nesting") << QByteArray("<messageTable><message></messageTable></message>");
-    QTest::newRow("two documents") << QByteArray("<messageTable/><messageTable/>");
-    QTest::newRow("an entity that grows for ever")
-        << QByteArray("<!DOCTYPE t [<!ENTITY a \"&b;&b;\"><!ENTITY b \"&a;&a;\">]><messageTable>&a;"
-                      "</messageTable>");
+    addFaultyFileRows("messageTable", "<message severity=\"Warning\"><key><tag>T</tag></key></message>");
 }
 
-void tst_message_table_faults::badFileIsReportedAndTheTableKept()
+void tst_message_table_faults::faultyFileIsReportedAndTheTableRemains()
 {
     QFETCH(QByteArray, bytes);
     UtilityFixture f;
@@ -82,9 +70,9 @@ void tst_message_table_faults::badFileIsReportedAndTheTableKept()
     QVERIFY(writeBytes(f.otherFile, bytes));
     QVERIFY(!f.window.openFile(f.otherFile));
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Open Message Table"));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Open Message Table"_s);
     QVERIFY(f.dialogs.warnings.first().text.startsWith(
-        QStringLiteral("Could not load message table\n\n%1\nLine 1: ").arg(f.otherFile)));
+        u"Could not load message table\n\n%1\nLine 1: "_s.arg(f.otherFile)));
     expectOldTable(f);
     QCOMPARE(fileBytes(f.otherFile), bytes);
 }
@@ -96,12 +84,12 @@ void tst_message_table_faults::truncatedFileIsReportedWithItsLine()
     QVERIFY(writeBytes(f.otherFile, whole.left(whole.size() / 2)));
     const qsizetype line = whole.left(whole.size() / 2).count('\n') + 1;
     QVERIFY(!f.window.openFile(f.otherFile));
-    QVERIFY2(f.dialogs.warnings.first().text.contains(QStringLiteral("\nLine %1: ").arg(line)),
+    QVERIFY2(f.dialogs.warnings.first().text.contains(u"\nLine %1: "_s.arg(line)),
              qPrintable(f.dialogs.warnings.first().text));
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void tst_message_table_faults::folderIsNoTable()
+void tst_message_table_faults::folderIsReported()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -116,22 +104,20 @@ void tst_message_table_faults::missingFileIsReported()
     QVERIFY(!f.window.openFile(f.otherFile));
     QCOMPARE(f.dialogs.warnings.size(), 1);
     QVERIFY(f.dialogs.warnings.first().text.startsWith(
-        QStringLiteral("Could not load message table\n\n%1\n").arg(f.otherFile)));
+        u"Could not load message table\n\n%1\n"_s.arg(f.otherFile)));
 }
 
-void tst_message_table_faults::largeFileThatIsNoTableIsRefusedAtOnce()
+void tst_message_table_faults::largeFileThatIsNoTableIsRejectedQuickly()
 {
     UtilityFixture f;
-    QFile file(f.otherFile);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(largeFile));
-    file.close();
+    QVERIFY(writeNuls(f.otherFile, largeFile));
     const std::chrono::milliseconds before = processorTime();
     QVERIFY(!f.window.openFile(f.otherFile));
     QVERIFY(processorTime() - before < 2s);
     QCOMPARE(f.dialogs.warnings.size(), 1);
 }
 
-void tst_message_table_faults::loadingOfALargeFileIsCancelled()
+void tst_message_table_faults::loadingALargeFileIsCancelled()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -140,12 +126,12 @@ void tst_message_table_faults::loadingOfALargeFileIsCancelled()
     const std::chrono::milliseconds before = processorTime();
     QVERIFY(!f.window.openFile(f.otherFile));
     QVERIFY(processorTime() - before < 2s);
-    QCOMPARE(canceller.label, QStringLiteral("Loading message table \"%1\"...").arg(f.otherFile));
+    QCOMPARE(canceller.label, u"Loading message table \"%1\"..."_s.arg(f.otherFile));
     QVERIFY(f.dialogs.warnings.isEmpty());
     expectOldTable(f);
 }
 
-void tst_message_table_faults::closingDuringLoadingEndsIt()
+void tst_message_table_faults::closingDuringLoadingCancelsIt()
 {
     UtilityFixture f;
     f.window.show();
@@ -156,20 +142,19 @@ void tst_message_table_faults::closingDuringLoadingEndsIt()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void tst_message_table_faults::savingWhereOneMayNotWriteLosesNothing_data()
+void tst_message_table_faults::tableRemainsIfItCannotBeSaved_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("a folder that is not there") << QStringLiteral("no such folder/errors.xml");
-    QTest::newRow("a folder in place of the file") << QStringLiteral("project");
+    QTest::newRow("missing folder") << u"no such folder/errors.xml"_s;
+    QTest::newRow("folder instead of the file") << u"project"_s;
 }
 
-void tst_message_table_faults::savingWhereOneMayNotWriteLosesNothing()
+void tst_message_table_faults::tableRemainsIfItCannotBeSaved()
 {
     QFETCH(QString, name);
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    f.writeSource(QStringLiteral("a.cpp"), "void f() { REPORT_ERROR(\"One\"); }");
-    f.chooseProject({QStringLiteral("a.cpp")});
+    f.chooseProjectOf(oneMessageSource);
     f.window.synchronize();
     QVERIFY(f.window.hasUnsavedChanges());
     const QStringList before = f.shownRows();
@@ -177,9 +162,8 @@ void tst_message_table_faults::savingWhereOneMayNotWriteLosesNothing()
     f.dialogs.fileToChoose = f.folder.path(name);
     f.action("actionSaveAs")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Save Message Table"));
-    QVERIFY(f.dialogs.warnings.first().text.startsWith(
-        QStringLiteral("Could not save %1\n").arg(f.dialogs.fileToChoose)));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Save Message Table"_s);
+    QVERIFY(f.dialogs.warnings.first().text.startsWith(u"Could not save %1\n"_s.arg(f.dialogs.fileToChoose)));
     QVERIFY(f.window.hasUnsavedChanges());
     QVERIFY(f.isEnabled("actionSave"));
     QCOMPARE(f.window.fileName(), f.tableFile);
@@ -189,14 +173,14 @@ void tst_message_table_faults::savingWhereOneMayNotWriteLosesNothing()
     QCOMPARE(f.shownRows(), before);
 }
 
-void tst_message_table_faults::aProtectedFileIsReplacedByThoseOnlyWhoMay()
+void tst_message_table_faults::protectedFileIsReplacedOnlyWithPermission()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    const QByteArray before = "somebody else's";
+    const QByteArray before = "old contents";
     QVERIFY(writeBytes(f.otherFile, before));
     QVERIFY(QFile::setPermissions(f.otherFile, QFile::ReadOwner | QFile::ReadUser));
-    const bool mayWrite = QFileInfo(f.otherFile).isWritable(); // the superuser writes every file
+    const bool mayWrite = QFileInfo(f.otherFile).isWritable(); // root may write every file
     f.dialogs.fileToChoose = f.otherFile;
     QCOMPARE(f.window.saveAs(), mayWrite);
     QCOMPARE(f.dialogs.warnings.size(), mayWrite ? 0 : 1);
@@ -204,13 +188,13 @@ void tst_message_table_faults::aProtectedFileIsReplacedByThoseOnlyWhoMay()
     QCOMPARE(f.window.fileName(), mayWrite ? f.otherFile : f.tableFile);
 }
 
-void tst_message_table_faults::namesOfFilesInOtherScriptsAreFine()
+void tst_message_table_faults::fileNamesInOtherScriptsWork()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("größe 100% メッセージ %1.xml"));
+    f.dialogs.fileToChoose = f.folder.path(u"größe 100% メッセージ %1.xml"_s);
     QVERIFY(f.window.saveAs());
-    QCOMPARE(f.status(), QStringLiteral("Table saved as ") + f.dialogs.fileToChoose);
+    QCOMPARE(f.status(), u"Table saved as "_s + f.dialogs.fileToChoose);
     f.window.newTable();
     QVERIFY(f.window.openFile(f.dialogs.fileToChoose));
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());

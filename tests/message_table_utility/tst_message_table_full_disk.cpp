@@ -4,18 +4,19 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_message_table_full_disk : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void tableStaysUnsavedAndTheFileAsItWas()
+    void tableRemainsUnsavedAndTheFileUnchanged()
     {
         UtilityFixture f;
         QVERIFY(tableOf(5000).save(f.otherFile));
         QVERIFY(f.window.openFile(f.otherFile));
-        f.writeSource(QStringLiteral("a.cpp"), "void f() { REPORT_ERROR(\"One\"); }");
-        f.chooseProject({QStringLiteral("a.cpp")});
+        f.chooseProjectOf(oneMessageSource);
         f.window.synchronize();
         QVERIFY(f.window.hasUnsavedChanges());
         const std::optional<QByteArray> before = fileBytes(f.otherFile);
@@ -24,18 +25,17 @@ private slots:
             QVERIFY(!f.window.save());
         }
         QCOMPARE(f.dialogs.warnings.size(), 1);
-        QVERIFY(f.dialogs.warnings.first().text.startsWith(
-            QStringLiteral("Could not save %1\n").arg(f.otherFile)));
+        QVERIFY(f.dialogs.warnings.first().text.startsWith(u"Could not save %1\n"_s.arg(f.otherFile)));
         QCOMPARE(fileBytes(f.otherFile), before);
         QVERIFY(f.window.hasUnsavedChanges());
         QVERIFY(f.isEnabled("actionSave"));
-        QCOMPARE(f.view()->model()->rowCount(), 5001);
+        QCOMPARE(f.rowCount(), 5001);
 
         QVERIFY(f.window.save());
         QVERIFY(fileBytes(f.otherFile) != before);
     }
 
-    void translationFileStaysAsItWas()
+    void translationFileIsUnchanged()
     {
         UtilityFixture f;
         QVERIFY(tableOf(5000).save(f.otherFile));
@@ -47,7 +47,7 @@ private slots:
             const FullDisk disk;
             f.window.updateTranslation();
         }
-        QCOMPARE(f.status(), QStringLiteral("Could not save %1").arg(f.translationFile));
+        QCOMPARE(f.status(), u"Could not save %1"_s.arg(f.translationFile));
         QCOMPARE(fileBytes(f.translationFile), before);
     }
 };

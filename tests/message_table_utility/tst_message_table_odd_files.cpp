@@ -1,4 +1,4 @@
-// Files that break when they are read, and files that cannot be opened.
+// Files that fail when they are read, and files that cannot be opened.
 
 #include "support/odd_files.h"
 #include "support/test_class.h"
@@ -11,14 +11,14 @@ class tst_message_table_odd_files : public QObject
     Q_OBJECT
 
 private slots:
-    void tableThatCannotBeReadIsReportedAndTheOldOneKept_data()
+    void unreadableTableIsReportedAndTheOldOneRemains_data()
     {
         QTest::addColumn<QString>("file");
-        QTest::newRow("it cannot be opened") << closedFile();
-        QTest::newRow("it breaks when it is read") << breakingFile();
+        QTest::newRow("cannot be opened") << closedFile();
+        QTest::newRow("fails when read") << breakingFile();
     }
 
-    void tableThatCannotBeReadIsReportedAndTheOldOneKept()
+    void unreadableTableIsReportedAndTheOldOneRemains()
     {
         QFETCH(const QString, file);
         UtilityFixture f;

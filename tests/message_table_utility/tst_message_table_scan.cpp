@@ -1,10 +1,12 @@
-// What the user sees of a long scan, and how it is stopped.
+// A long scan: its progress, and how it is cancelled.
 
 #include "support/shown_progress.h"
 #include "support/test_class.h"
 #include "utility_fixture.h"
 
 #include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -18,8 +20,8 @@ class tst_message_table_scan : public QObject
 
 private slots:
     void progressNamesTheProject();
-    void cancelledScanLeavesTheTable();
-    void closingDuringAScanEndsIt();
+    void cancelledScanPreservesTheTable();
+    void closingDuringAScanCancelsIt();
     void closingDuringAScanAsksAboutUnsavedChanges();
 };
 
@@ -40,31 +42,30 @@ void tst_message_table_scan::progressNamesTheProject()
         return !title.isEmpty();
     });
     f.action("actionSynchronize")->trigger();
-    QCOMPARE(title, QStringLiteral("Parsing"));
-    QCOMPARE(label, QStringLiteral("Parsing source files from %1").arg(f.projectFile));
-    QVERIFY2(status.startsWith(QStringLiteral("Found ")) && status.endsWith(QStringLiteral(" keys")),
-             qPrintable(status));
+    QCOMPARE(title, u"Parsing"_s);
+    QCOMPARE(label, u"Parsing source files from %1"_s.arg(f.projectFile));
+    QVERIFY2(status.startsWith(u"Found "_s) && status.endsWith(u" keys"_s), qPrintable(status));
     QVERIFY(!shownProgress());
-    QCOMPARE(f.shownRows(), QStringList(QStringLiteral("client|f|One|New")));
+    QCOMPARE(f.shownRows(), QStringList(u"client|f|One|New"_s));
 }
 
-void tst_message_table_scan::cancelledScanLeavesTheTable()
+void tst_message_table_scan::cancelledScanPreservesTheTable()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     f.chooseLargeProject(manyFiles);
     const ProgressCanceller canceller;
     f.action("actionSynchronize")->trigger();
-    QCOMPARE(canceller.title, QStringLiteral("Parsing"));
+    QCOMPARE(canceller.title, u"Parsing"_s);
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
     QCOMPARE(f.window.messages().size(), std::size_t(3));
     QVERIFY(!f.window.hasUnsavedChanges());
     QVERIFY(!f.window.isBusy());
-    QCOMPARE(f.status(), QStringLiteral("Synchronization cancelled, the table is as it was"));
+    QCOMPARE(f.status(), u"Synchronization cancelled, the table is as it was"_s);
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void tst_message_table_scan::closingDuringAScanEndsIt()
+void tst_message_table_scan::closingDuringAScanCancelsIt()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -83,8 +84,7 @@ void tst_message_table_scan::closingDuringAScanAsksAboutUnsavedChanges()
     UtilityFixture f;
     f.window.newTable();
     f.window.show();
-    f.writeSource(QStringLiteral("a.cpp"), "void f() { REPORT_ERROR(\"One\"); }");
-    f.chooseProject({QStringLiteral("a.cpp")});
+    f.chooseProjectOf(oneMessageSource);
     f.action("actionSynchronize")->trigger();
     QVERIFY(f.window.hasUnsavedChanges());
 
@@ -94,7 +94,7 @@ void tst_message_table_scan::closingDuringAScanAsksAboutUnsavedChanges()
     QVERIFY(close.isDone());
     QTRY_COMPARE(f.dialogs.unsavedQuestions.size(), 1);
     QVERIFY(f.window.isVisible());
-    QCOMPARE(f.shownRows(), QStringList(QStringLiteral("client|f|One|New")));
+    QCOMPARE(f.shownRows(), QStringList(u"client|f|One|New"_s));
 }
 
 NVX_TEST(tst_message_table_scan)

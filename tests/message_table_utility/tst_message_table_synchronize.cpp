@@ -1,4 +1,4 @@
-// Synchronising with a project's sources: what becomes of the table, and what the window says.
+// Synchronising with a project's sources: the table and the window's messages.
 
 #include "support/test_class.h"
 #include "utility_fixture.h"
@@ -6,13 +6,15 @@
 #include <QRegularExpression>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // "FOUND   Elapsed time: N.N sec"
 void expectStatus(UtilityFixture &f, const QString &found)
 {
     const QRegularExpression expected(
-        QStringLiteral("^%1 {3}Elapsed time: \\d+\\.\\d sec$").arg(QRegularExpression::escape(found)));
+        u"^%1 {3}Elapsed time: \\d+\\.\\d sec$"_s.arg(QRegularExpression::escape(found)));
     QVERIFY2(expected.match(f.status()).hasMatch(), qPrintable(f.status()));
 }
 
@@ -26,31 +28,29 @@ private slots:
     void foundKeysAreNew();
     void keysNotFoundBecomeObsolete();
     void synchronisingTwiceChangesNothing();
-    void messageThatComesBackStaysObsolete();
-    void nothingFoundIsSaidSo();
+    void obsoleteMessageThatIsFoundAgainStaysObsolete();
+    void synchronisingWithoutKeysReportsZero();
     void dialogAsksForAProject();
     void laterDialogsStartInTheProjectsFolder();
     void fileThatIsNoProjectIsReported_data();
     void fileThatIsNoProjectIsReported();
-    void missingSourcesAreReportedAndTheRestIsScanned();
-    void badSourceIsReportedWithItsLine();
-    void manyErrorsFitIntoABox();
-    void elapsedTimeIsThatOfTheWork();
+    void missingSourcesAreReportedAndTheOthersScanned();
+    void faultySourceIsReportedWithItsLine();
+    void manyErrorsFitIntoAMessageBox();
+    void elapsedTimeExcludesTheMessageBox();
 };
 
 void tst_message_table_synchronize::foundKeysAreNew()
 {
     UtilityFixture f;
     f.window.newTable();
-    f.writeSource(QStringLiteral("a.cpp"), "namespace N { void C::f() { REPORT_ERROR(\"One\"); } }");
-    f.writeSource(QStringLiteral("b.cpp"),
-                  "void g() { REPORT_MESSAGE(\"Two\"); ASK_QUESTION(\"Go\", Yes | No, No); }");
-    f.chooseProject({QStringLiteral("a.cpp"), QStringLiteral("b.cpp")});
+    f.writeSource(u"a.cpp"_s, "namespace N { void C::f() { REPORT_ERROR(\"One\"); } }");
+    f.writeSource(u"b.cpp"_s, "void g() { REPORT_MESSAGE(\"Two\"); ASK_QUESTION(\"Go\", Yes | No, No); }");
+    f.chooseProject({u"a.cpp"_s, u"b.cpp"_s});
     f.action("actionSynchronize")->trigger();
-    QCOMPARE(f.shownRows(), (QStringList{QStringLiteral("client|N::C::f|One|New"),
-                                         QStringLiteral("client|g|Go? Yes, No; No|New"),
-                                         QStringLiteral("client|g|Two|New")}));
-    expectStatus(f, QStringLiteral("Found 3 keys (3 new, 0 existing, and 0 obsolete)"));
+    QCOMPARE(f.shownRows(), (QStringList{u"client|N::C::f|One|New"_s, u"client|g|Go? Yes, No; No|New"_s,
+                                         u"client|g|Two|New"_s}));
+    expectStatus(f, u"Found 3 keys (3 new, 0 existing, and 0 obsolete)"_s);
     QVERIFY(f.window.hasUnsavedChanges());
     QVERIFY(f.isEnabled("actionSave"));
     QVERIFY(f.dialogs.warnings.isEmpty());
@@ -61,13 +61,11 @@ void tst_message_table_synchronize::keysNotFoundBecomeObsolete()
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     QVERIFY(f.window.save());
-    f.writeSource(QStringLiteral("a.cpp"), "void B::run() { REPORT_ERROR(\"Alpha\"); }");
-    f.chooseProject({QStringLiteral("a.cpp")});
+    f.chooseProjectOf("void B::run() { REPORT_ERROR(\"Alpha\"); }");
     f.action("actionSynchronize")->trigger();
-    QCOMPARE(f.shownRows(), (QStringList{QStringLiteral("client|A::run|Bravo|Obsolete"),
-                                         QStringLiteral("client|B::run|Alpha|New"),
-                                         QStringLiteral("solver|A::run|Zulu|Obsolete")}));
-    expectStatus(f, QStringLiteral("Found 1 keys (0 new, 3 existing, and 2 obsolete)"));
+    QCOMPARE(f.shownRows(), (QStringList{u"client|A::run|Bravo|Obsolete"_s, u"client|B::run|Alpha|New"_s,
+                                         u"solver|A::run|Zulu|Obsolete"_s}));
+    expectStatus(f, u"Found 1 keys (0 new, 3 existing, and 2 obsolete)"_s);
     QVERIFY(f.window.hasUnsavedChanges());
     QVERIFY(f.isEnabled("actionSave"));
 }
@@ -76,38 +74,35 @@ void tst_message_table_synchronize::synchronisingTwiceChangesNothing()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    f.writeSource(QStringLiteral("a.cpp"), "void B::run() { REPORT_ERROR(\"Alpha\"); }");
-    f.chooseProject({QStringLiteral("a.cpp")});
+    f.chooseProjectOf("void B::run() { REPORT_ERROR(\"Alpha\"); }");
     f.action("actionSynchronize")->trigger();
     QVERIFY(f.window.save());
     f.action("actionSynchronize")->trigger();
-    expectStatus(f, QStringLiteral("Found 1 keys (0 new, 3 existing, and 2 obsolete)"));
+    expectStatus(f, u"Found 1 keys (0 new, 3 existing, and 2 obsolete)"_s);
     QVERIFY(!f.window.hasUnsavedChanges());
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void tst_message_table_synchronize::messageThatComesBackStaysObsolete()
+void tst_message_table_synchronize::obsoleteMessageThatIsFoundAgainStaysObsolete()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    f.writeSource(QStringLiteral("a.cpp"), "void A::run() { REPORT_ERROR(\"Bravo\"); }");
-    f.chooseProject({QStringLiteral("a.cpp")});
+    f.chooseProjectOf("void A::run() { REPORT_ERROR(\"Bravo\"); }");
     f.action("actionSynchronize")->trigger();
-    QCOMPARE(f.shownRows().first(), QStringLiteral("client|A::run|Bravo|Obsolete"));
+    QCOMPARE(f.shownRows().first(), u"client|A::run|Bravo|Obsolete"_s);
 }
 
-void tst_message_table_synchronize::nothingFoundIsSaidSo()
+void tst_message_table_synchronize::synchronisingWithoutKeysReportsZero()
 {
     UtilityFixture f;
     f.window.newTable();
-    f.writeSource(QStringLiteral("a.cpp"), "void f() {}");
-    f.chooseProject({QStringLiteral("a.cpp")});
+    f.chooseProjectOf("void f() {}");
     f.action("actionSynchronize")->trigger();
-    expectStatus(f, QStringLiteral("Found 0 keys"));
+    expectStatus(f, u"Found 0 keys"_s);
     QVERIFY(!f.window.hasUnsavedChanges());
     f.chooseProject({});
     f.action("actionSynchronize")->trigger();
-    expectStatus(f, QStringLiteral("Found 0 keys"));
+    expectStatus(f, u"Found 0 keys"_s);
 }
 
 void tst_message_table_synchronize::dialogAsksForAProject()
@@ -116,8 +111,8 @@ void tst_message_table_synchronize::dialogAsksForAProject()
     QVERIFY(f.window.openFile(f.tableFile));
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.openQuestions.size(), 1);
-    QCOMPARE(f.dialogs.openQuestions.first().title, QStringLiteral("Open Visual Studio Project"));
-    QCOMPARE(f.dialogs.openQuestions.first().filter, QStringLiteral("*.vcxproj"));
+    QCOMPARE(f.dialogs.openQuestions.first().title, u"Open Visual Studio Project"_s);
+    QCOMPARE(f.dialogs.openQuestions.first().filter, u"*.vcxproj"_s);
     QCOMPARE(f.dialogs.openQuestions.first().folder, f.folder.path());
 }
 
@@ -128,16 +123,16 @@ void tst_message_table_synchronize::laterDialogsStartInTheProjectsFolder()
     f.chooseProject({});
     f.action("actionSynchronize")->trigger();
     f.action("actionTranslate")->trigger();
-    QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path(QStringLiteral("project")));
+    QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path(u"project"_s));
 }
 
 void tst_message_table_synchronize::fileThatIsNoProjectIsReported_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QByteArray();
-    QTest::newRow("no XML") << QByteArray("\x89PNG\r\n");
+    QTest::newRow("not XML") << QByteArray("\x89PNG\r\n");
     QTest::newRow("truncated") << QByteArray("<Project><ItemGroup><ClCompile Include=\"a.cpp\"/>");
-    QTest::newRow("another document") << QByteArray("<html/>");
+    QTest::newRow("different document") << QByteArray("<html/>");
 }
 
 void tst_message_table_synchronize::fileThatIsNoProjectIsReported()
@@ -149,67 +144,65 @@ void tst_message_table_synchronize::fileThatIsNoProjectIsReported()
     f.dialogs.fileToChoose = f.projectFile;
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Visual Studio Project Error"));
-    QCOMPARE(f.dialogs.warnings.first().text, QStringLiteral("Could not parse %1").arg(f.projectFile));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Visual Studio Project Error"_s);
+    QCOMPARE(f.dialogs.warnings.first().text, u"Could not parse %1"_s.arg(f.projectFile));
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
     QVERIFY(!f.window.hasUnsavedChanges());
 }
 
-void tst_message_table_synchronize::missingSourcesAreReportedAndTheRestIsScanned()
+void tst_message_table_synchronize::missingSourcesAreReportedAndTheOthersScanned()
 {
     UtilityFixture f;
     f.window.newTable();
-    f.writeSource(QStringLiteral("a.cpp"), "void f() { REPORT_ERROR(\"One\"); }");
-    f.chooseProject({QStringLiteral("gone.cpp"), QStringLiteral("a.cpp"), QStringLiteral("sub\\gone.cpp")});
+    f.writeSource(u"a.cpp"_s, oneMessageSource);
+    f.chooseProject({u"gone.cpp"_s, u"a.cpp"_s, u"sub\\gone.cpp"_s});
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Parser Error"));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Parser Error"_s);
     QCOMPARE(f.dialogs.warnings.first().text,
-             QStringLiteral("gone.cpp: Cannot open file\nsub\\gone.cpp: Cannot open file\n\n"
-                            "These files were skipped: their messages were not found."));
-    QCOMPARE(f.shownRows(), QStringList(QStringLiteral("client|f|One|New")));
-    expectStatus(f, QStringLiteral("Found 1 keys (1 new, 0 existing, and 0 obsolete)"));
+             u"gone.cpp: Cannot open file\nsub\\gone.cpp: Cannot open file\n\n"
+             "These files were skipped: their messages were not found."_s);
+    QCOMPARE(f.shownRows(), QStringList(u"client|f|One|New"_s));
+    expectStatus(f, u"Found 1 keys (1 new, 0 existing, and 0 obsolete)"_s);
 }
 
-void tst_message_table_synchronize::badSourceIsReportedWithItsLine()
+void tst_message_table_synchronize::faultySourceIsReportedWithItsLine()
 {
     UtilityFixture f;
     f.window.newTable();
-    f.writeSource(QStringLiteral("a.cpp"), "void f()\n{\n    REPORT_ERROR(\"a\\a\");\n}\n");
-    f.chooseProject({QStringLiteral("a.cpp")});
+    f.chooseProjectOf("void f()\n{\n    REPORT_ERROR(\"a\\a\");\n}\n");
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Parser Error"));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Parser Error"_s);
     const QString text = f.dialogs.warnings.first().text;
-    QVERIFY2(QRegularExpression(QStringLiteral("^a\\.cpp: .+ \\(line 3\\)\\n")).match(text).hasMatch(),
-             qPrintable(text));
+    QVERIFY2(QRegularExpression(u"^a\\.cpp: .+ \\(line 3\\)\\n"_s).match(text).hasMatch(), qPrintable(text));
 }
 
-void tst_message_table_synchronize::manyErrorsFitIntoABox()
+void tst_message_table_synchronize::manyErrorsFitIntoAMessageBox()
 {
     UtilityFixture f;
     f.window.newTable();
     QStringList files;
     for (int number = 0; number < 500; ++number)
-        files.append(QStringLiteral("gone%1.cpp").arg(number));
+        files.append(u"gone%1.cpp"_s.arg(number));
     f.chooseProject(files);
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
     const QString text = f.dialogs.warnings.first().text;
-    QVERIFY(text.contains(QStringLiteral("\ngone9.cpp: Cannot open file\n... and 490 more\n")));
+    QVERIFY(text.contains(u"\ngone9.cpp: Cannot open file\n... and 490 more\n"_s));
     QVERIFY(text.count(u'\n') < 15);
 }
 
-void tst_message_table_synchronize::elapsedTimeIsThatOfTheWork()
+void tst_message_table_synchronize::elapsedTimeExcludesTheMessageBox()
 {
-    constexpr int reading = 2000; // milliseconds that the user takes for the box
+    constexpr int reading = 2000; // milliseconds before the user closes the message box
     UtilityFixture f;
     f.window.newTable();
-    f.chooseProject({QStringLiteral("gone.cpp")});
+    f.chooseProject({u"gone.cpp"_s});
     f.dialogs.whileWarning = [] { QTest::qSleep(reading); };
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    const QString elapsed = f.status().section(QStringLiteral("Elapsed time: "), 1).section(u' ', 0, 0);
+    const QString elapsed = f.status().section(u"Elapsed time: "_s, 1).section(u' ', 0, 0);
     QVERIFY2(elapsed.toDouble() < reading / 1000.0, qPrintable(f.status()));
 }
 

@@ -1,10 +1,12 @@
-// Bringing a translation file up to date from the window.
+// Updating a translation file from the window.
 
 #include "support/shown_progress.h"
 #include "support/test_class.h"
 #include "utility_fixture.h"
 
 #include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -14,7 +16,7 @@ void prepare(UtilityFixture &f, const QByteArray &translation)
     Clt::MessageTable table;
     for (const char *tag : {"One", "Two"}) {
         Clt::Message message = messageOf("client", "A::run", tag);
-        message.setText(QStringLiteral("Text %1").arg(QString::fromLatin1(tag)));
+        message.setText(u"Text %1"_s.arg(QString::fromLatin1(tag)));
         table.insert(message);
     }
     if (!table.save(f.otherFile) || !f.window.openFile(f.otherFile) ||
@@ -23,7 +25,7 @@ void prepare(UtilityFixture &f, const QByteArray &translation)
     f.dialogs.fileToChoose = f.translationFile;
 }
 
-// A well-formed translation file that is long enough to be read for a while.
+// A well-formed translation file that takes a while to read.
 QByteArray largeTranslation()
 {
     const QByteArray message = "<message><source>S</source><translation>T</translation></message>\n";
@@ -45,8 +47,8 @@ private slots:
         f.window.newTable();
         f.action("actionTranslate")->trigger();
         QCOMPARE(f.dialogs.openQuestions.size(), 1);
-        QCOMPARE(f.dialogs.openQuestions.first().title, QStringLiteral("Open Qt Translation File"));
-        QCOMPARE(f.dialogs.openQuestions.first().filter, QStringLiteral("*.ts"));
+        QCOMPARE(f.dialogs.openQuestions.first().title, u"Open Qt Translation File"_s);
+        QCOMPARE(f.dialogs.openQuestions.first().filter, u"*.ts"_s);
     }
 
     void newTextsAreAdded()
@@ -54,7 +56,7 @@ private slots:
         UtilityFixture f;
         prepare(f, emptyTranslation);
         f.action("actionTranslate")->trigger();
-        QCOMPARE(f.status(), QStringLiteral("Added 2 new strings to %1").arg(f.translationFile));
+        QCOMPARE(f.status(), u"Added 2 new strings to %1"_s.arg(f.translationFile));
         const QByteArray written = *fileBytes(f.translationFile);
         QVERIFY(written.contains("<source>Text One</source>"));
         QVERIFY(written.contains("<source>Text Two</source>"));
@@ -68,10 +70,10 @@ private slots:
         prepare(f, emptyTranslation);
         f.action("actionTranslate")->trigger();
         f.action("actionTranslate")->trigger();
-        QCOMPARE(f.status(), QStringLiteral("Added 0 new strings to %1").arg(f.translationFile));
+        QCOMPARE(f.status(), u"Added 0 new strings to %1"_s.arg(f.translationFile));
     }
 
-    void theCopyOfAFileWithPluralFormsIsNamed()
+    void copyOfAFileWithPluralFormsIsReported()
     {
         UtilityFixture f;
         const QByteArray plural = "<TS><context><name>A</name><message numerus=\"yes\"><source>%n</source>"
@@ -81,52 +83,50 @@ private slots:
         f.action("actionTranslate")->trigger();
         QCOMPARE(
             f.status(),
-            QStringLiteral(
-                "Added 2 new strings to %1   Plural forms were dropped; the old file is client_de.ts.before")
+            u"Added 2 new strings to %1   Plural forms were dropped; the old file is client_de.ts.before"_s
                 .arg(f.translationFile));
-        QCOMPARE(fileBytes(f.translationFile + QStringLiteral(".before")), plural);
+        QCOMPARE(fileBytes(f.translationFile + u".before"_s), plural);
     }
 
-    void fileThatCannotBeLoadedIsLeft_data()
+    void fileThatCannotBeLoadedIsUnchanged_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("empty") << QByteArray() << QStringLiteral(" at line 1");
-        QTest::newRow("no XML") << QByteArray("\x89PNG\r\n") << QStringLiteral(" at line 1");
-        QTest::newRow("truncated") << QByteArray("<TS version=\"2.1\">\n<context>\n")
-                                   << QStringLiteral(" at line 3");
+        QTest::newRow("empty") << QByteArray() << u" at line 1"_s;
+        QTest::newRow("not XML") << QByteArray("\x89PNG\r\n") << u" at line 1"_s;
+        QTest::newRow("truncated") << QByteArray("<TS version=\"2.1\">\n<context>\n") << u" at line 3"_s;
     }
-    void fileThatCannotBeLoadedIsLeft()
+    void fileThatCannotBeLoadedIsUnchanged()
     {
         QFETCH(QByteArray, bytes);
         UtilityFixture f;
         prepare(f, bytes);
         f.action("actionTranslate")->trigger();
         QCOMPARE(f.dialogs.warnings.size(), 1);
-        QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Qt Translation File Error"));
+        QCOMPARE(f.dialogs.warnings.first().title, u"Qt Translation File Error"_s);
         const QString text = f.dialogs.warnings.first().text;
-        QVERIFY(text.startsWith(QStringLiteral("Could not load '%1': ").arg(f.translationFile)));
+        QVERIFY(text.startsWith(u"Could not load '%1': "_s.arg(f.translationFile)));
         QFETCH(QString, reason);
         QVERIFY2(text.endsWith(reason), qPrintable(text));
         QCOMPARE(fileBytes(f.translationFile), bytes);
     }
 
-    void readingShowsItsProgressAndIsCancelled()
+    void readingShowsItsProgressAndCanBeCancelled()
     {
         UtilityFixture f;
         const QByteArray translation = largeTranslation();
         prepare(f, translation);
         const ProgressCanceller canceller;
         f.action("actionTranslate")->trigger();
-        QCOMPARE(canceller.title, QStringLiteral("Update translation"));
-        QCOMPARE(canceller.label, QStringLiteral("Reading ") + f.translationFile);
-        QCOMPARE(f.status(), QStringLiteral("Update cancelled, the translation is as it was"));
+        QCOMPARE(canceller.title, u"Update translation"_s);
+        QCOMPARE(canceller.label, u"Reading "_s + f.translationFile);
+        QCOMPARE(f.status(), u"Update cancelled, the translation is as it was"_s);
         QVERIFY(f.dialogs.warnings.isEmpty());
         QVERIFY(!f.window.isBusy());
         QVERIFY(fileBytes(f.translationFile) == translation);
     }
 
-    void closingDuringReadingEndsIt()
+    void closingDuringReadingCancelsIt()
     {
         UtilityFixture f;
         const QByteArray translation = largeTranslation();
@@ -139,12 +139,12 @@ private slots:
         QVERIFY(fileBytes(f.translationFile) == translation);
     }
 
-    void largeFileIsReadToItsEnd()
+    void largeFileIsReadCompletely()
     {
         UtilityFixture f;
         prepare(f, largeTranslation());
         f.action("actionTranslate")->trigger();
-        QCOMPARE(f.status(), QStringLiteral("Added 2 new strings to %1").arg(f.translationFile));
+        QCOMPARE(f.status(), u"Added 2 new strings to %1"_s.arg(f.translationFile));
         QCOMPARE(fileBytes(f.translationFile)->count("<source>S</source>"), 200'000);
     }
 
@@ -158,15 +158,14 @@ private slots:
         QVERIFY(!QFile::exists(f.translationFile));
     }
 
-    void aProtectedFileIsReplacedByThoseOnlyWhoMay()
+    void protectedFileIsReplacedOnlyWithPermission()
     {
         UtilityFixture f;
         prepare(f, emptyTranslation);
         QVERIFY(QFile::setPermissions(f.translationFile, QFile::ReadOwner | QFile::ReadUser));
-        const bool mayWrite = QFileInfo(f.translationFile).isWritable(); // the superuser writes every file
+        const bool mayWrite = QFileInfo(f.translationFile).isWritable(); // root may write every file
         f.action("actionTranslate")->trigger();
-        const QString outcome =
-            mayWrite ? QStringLiteral("Added 2 new strings to %1") : QStringLiteral("Could not save %1");
+        const QString outcome = mayWrite ? u"Added 2 new strings to %1"_s : u"Could not save %1"_s;
         QCOMPARE(f.status(), outcome.arg(f.translationFile));
         QCOMPARE(fileBytes(f.translationFile) == emptyTranslation, !mayWrite);
     }

@@ -9,60 +9,72 @@
 #include <QToolBar>
 #include <QToolButton>
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A point in the last cell of a row where there is no text.
+QPoint emptyPlace(const QTableView &view, int row)
+{
+    const QRect cell = view.visualRect(view.model()->index(row, 3));
+    return view.viewport()->mapTo(&view, cell.center() + QPoint(60, 0));
+}
+
+} // namespace
+
 class tst_message_table_utility : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void windowHasItsNames();
-    void actionsAreAsStated_data();
-    void actionsAreAsStated();
+    void windowAndItsPartsHaveTheirNames();
+    void actionsHaveTheirTextsAndIcons_data();
+    void actionsHaveTheirTextsAndIcons();
     void menusAndToolBarHaveTheActions();
     void tableHasFourColumns();
     void atStartUpOnlyNewOpenAndExitAreEnabled();
-    void newTableForgetsTheOldOne();
+    void newTableReplacesTheOldOne();
     void openShowsTheMessagesInKeyOrder();
-    void fileWithoutATableGivesAnEmptyOne();
+    void fileWithoutATableGivesAnEmptyTable();
     void cancelledDialogsChangeNothing();
     void saveWritesTheTable();
     void newTableIsSavedUnderANewName();
-    void saveAsTakesTheNewName();
-    void dialogsStartInTheFolderOfTheFileChosenLast();
+    void saveAsChangesTheFileName();
+    void dialogsStartInTheFolderOfTheLastChosenFile();
     void newAndObsoleteRowsAreMarked();
     void rowsAreReadableOnADarkPalette();
-    void filterFindsStatesAndContexts();
-    void sortedRowsReturnToKeyOrder();
-    void widthsOfColumnsAreKept();
-    void tableOfManyMessagesIsShownWhole();
+    void filterMatchesStatesAndContexts();
+    void thirdClickRestoresTheKeyOrder();
+    void columnWidthsAreRestored();
+    void largeTableIsShownCompletely();
 };
 
-void tst_message_table_utility::windowHasItsNames()
+void tst_message_table_utility::windowAndItsPartsHaveTheirNames()
 {
-    const UtilityFixture f;
-    QCOMPARE(f.window.objectName(), QStringLiteral("MessageTableUtilityClass"));
-    QCOMPARE(f.window.windowTitle(), QStringLiteral("Message Table Utility"));
+    UtilityFixture f;
+    QCOMPARE(f.window.objectName(), u"MessageTableUtilityClass"_s);
+    QCOMPARE(f.window.windowTitle(), u"Message Table Utility"_s);
     QVERIFY(!f.window.windowIcon().pixmap(16).isNull());
-    QCOMPARE(f.window.centralWidget()->objectName(), QStringLiteral("centralWidget"));
-    QCOMPARE(f.window.centralWidget()->layout()->objectName(), QStringLiteral("horizontalLayout"));
-    QCOMPARE(f.window.centralWidget()->layout()->itemAt(0)->widget()->objectName(),
-             QStringLiteral("tableWidget"));
-    QCOMPARE(f.window.menuBar()->objectName(), QStringLiteral("menuBar"));
-    QCOMPARE(f.window.statusBar()->objectName(), QStringLiteral("statusBar"));
-    QVERIFY(f.window.findChild<QToolBar *>(QStringLiteral("mainToolBar")));
-    QCOMPARE(f.window.findChild<QMenu *>(QStringLiteral("menuFile"))->title(), QStringLiteral("&File"));
-    QCOMPARE(f.window.findChild<QMenu *>(QStringLiteral("menuHelp"))->title(), QStringLiteral("Help"));
+    QCOMPARE(f.window.centralWidget()->objectName(), u"centralWidget"_s);
+    QCOMPARE(f.window.centralWidget()->layout()->objectName(), u"horizontalLayout"_s);
+    QCOMPARE(f.window.centralWidget()->layout()->itemAt(0)->widget()->objectName(), u"tableWidget"_s);
+    QCOMPARE(f.window.menuBar()->objectName(), u"menuBar"_s);
+    QCOMPARE(f.window.statusBar()->objectName(), u"statusBar"_s);
+    QVERIFY(f.child<QToolBar>("mainToolBar"));
+    QCOMPARE(f.child<QMenu>("menuFile")->title(), u"&File"_s);
+    QCOMPARE(f.child<QMenu>("menuHelp")->title(), u"Help"_s);
 }
 
-void tst_message_table_utility::actionsAreAsStated_data()
+void tst_message_table_utility::actionsHaveTheirTextsAndIcons_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shortcut");
-    QTest::addColumn<QString>("picture");
+    QTest::addColumn<QString>("icon");
     QTest::addColumn<QString>("toolTip");
-    const auto row = [](const char *name, const char *text, const char *shortcut, const char *picture,
+    const auto row = [](const char *name, const char *text, const char *shortcut, const char *icon,
                         const char *toolTip) {
         QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(shortcut)
-                            << QString::fromLatin1(picture) << QString::fromLatin1(toolTip);
+                            << QString::fromLatin1(icon) << QString::fromLatin1(toolTip);
     };
     row("actionNew", "New", "Ctrl+N", ":/ErrorTableUtility/images/new.png", "New");
     row("actionOpen", "Open...", "Ctrl+O", ":/ErrorTableUtility/images/open.png", "Open");
@@ -74,7 +86,7 @@ void tst_message_table_utility::actionsAreAsStated_data()
     row("actionTranslate", "Update Translation...", "", "", "Update translation");
 }
 
-void tst_message_table_utility::actionsAreAsStated()
+void tst_message_table_utility::actionsHaveTheirTextsAndIcons()
 {
     UtilityFixture f;
     const QAction *action = f.action(QTest::currentDataTag());
@@ -82,11 +94,11 @@ void tst_message_table_utility::actionsAreAsStated()
     QTEST(action->text(), "text");
     QTEST(action->shortcut().toString(), "shortcut");
     QTEST(action->toolTip(), "toolTip");
-    QFETCH(const QString, picture);
-    QVERIFY(picture.isEmpty() || QFile::exists(picture));
-    QCOMPARE(action->icon().pixmap(16).toImage(), QIcon(picture).pixmap(16).toImage());
+    QFETCH(const QString, icon);
+    QVERIFY(icon.isEmpty() || QFile::exists(icon));
+    QCOMPARE(action->icon().pixmap(16).toImage(), QIcon(icon).pixmap(16).toImage());
     if (action == f.action("actionTranslate"))
-        QCOMPARE(action->iconText(), QStringLiteral("tr"));
+        QCOMPARE(action->iconText(), u"tr"_s);
 }
 
 void tst_message_table_utility::menusAndToolBarHaveTheActions()
@@ -96,27 +108,22 @@ void tst_message_table_utility::menusAndToolBarHaveTheActions()
         QStringList names;
         const QList<QAction *> actions = widget->actions();
         for (const QAction *action : actions) {
-            if (action->objectName().startsWith(QStringLiteral("action")))
+            if (action->objectName().startsWith(u"action"_s))
                 names.append(action->objectName().mid(6));
         }
         return names.join(u' ');
     };
-    QCOMPARE(namesOf(f.window.findChild<QMenu *>(QStringLiteral("menuFile"))),
-             QStringLiteral("New Open Save SaveAs Exit"));
-    auto *bar = f.window.findChild<QToolBar *>(QStringLiteral("mainToolBar"));
-    QCOMPARE(namesOf(bar), QStringLiteral("New Open Save Synchronize Translate"));
-    QCOMPARE(qobject_cast<QToolButton *>(bar->widgetForAction(f.action("actionTranslate")))->text(),
-             QStringLiteral("tr"));
+    QCOMPARE(namesOf(f.child<QMenu>("menuFile")), u"New Open Save SaveAs Exit"_s);
+    auto *bar = f.child<QToolBar>("mainToolBar");
+    QCOMPARE(namesOf(bar), u"New Open Save Synchronize Translate"_s);
+    QCOMPARE(qobject_cast<QToolButton *>(bar->widgetForAction(f.action("actionTranslate")))->text(), u"tr"_s);
 }
 
 void tst_message_table_utility::tableHasFourColumns()
 {
     UtilityFixture f;
     const QAbstractItemModel *model = f.view()->model();
-    QStringList headings;
-    for (int column = 0; column < model->columnCount(); ++column)
-        headings.append(model->headerData(column, Qt::Horizontal).toString());
-    QCOMPARE(headings.join(u' '), QStringLiteral("Process Context Tag State"));
+    QCOMPARE(headingsOf(*model).join(u' '), u"Process Context Tag State"_s);
     QVERIFY(f.window.openFile(f.tableFile));
     QVERIFY(!(model->index(0, 0).flags() & Qt::ItemIsEditable));
     QCOMPARE(f.view()->editTriggers(), QAbstractItemView::NoEditTriggers);
@@ -125,13 +132,10 @@ void tst_message_table_utility::tableHasFourColumns()
 void tst_message_table_utility::atStartUpOnlyNewOpenAndExitAreEnabled()
 {
     UtilityFixture f;
-    for (const char *name : {"actionNew", "actionOpen", "actionExit"})
-        QVERIFY2(f.isEnabled(name), name);
-    for (const char *name : {"actionSave", "actionSaveAs", "actionSynchronize", "actionTranslate"})
-        QVERIFY2(!f.isEnabled(name), name);
+    QVERIFY(f.areTableActionsEnabled(false));
 }
 
-void tst_message_table_utility::newTableForgetsTheOldOne()
+void tst_message_table_utility::newTableReplacesTheOldOne()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -141,8 +145,7 @@ void tst_message_table_utility::newTableForgetsTheOldOne()
     QCOMPARE(f.window.fileName(), QString());
     QCOMPARE(f.shownRows(), QStringList());
     QCOMPARE(f.status(), QString());
-    for (const char *name : {"actionSave", "actionSaveAs", "actionSynchronize", "actionTranslate"})
-        QVERIFY2(f.isEnabled(name), name);
+    QVERIFY(f.areTableActionsEnabled(true));
 }
 
 void tst_message_table_utility::openShowsTheMessagesInKeyOrder()
@@ -160,17 +163,15 @@ void tst_message_table_utility::openShowsTheMessagesInKeyOrder()
     f.dialogs.fileToChoose = f.otherFile;
     f.action("actionOpen")->trigger();
     QCOMPARE(f.dialogs.openQuestions.size(), 1);
-    QCOMPARE(f.dialogs.openQuestions.first().title, QStringLiteral("Open Message Table"));
-    QCOMPARE(f.dialogs.openQuestions.first().filter, QStringLiteral("*.xml"));
-    QCOMPARE(f.shownRows(), (QStringList{QStringLiteral("A|z|b|New"), QStringLiteral("A|z|z|InSync"),
-                                         QStringLiteral("B|a|a|InSync")}));
+    QCOMPARE(f.dialogs.openQuestions.first().title, u"Open Message Table"_s);
+    QCOMPARE(f.dialogs.openQuestions.first().filter, u"*.xml"_s);
+    QCOMPARE(f.shownRows(), (QStringList{u"A|z|b|New"_s, u"A|z|z|InSync"_s, u"B|a|a|InSync"_s}));
     QCOMPARE(f.status(), QString());
-    for (const char *name : {"actionSave", "actionSaveAs", "actionSynchronize", "actionTranslate"})
-        QVERIFY2(f.isEnabled(name), name);
+    QVERIFY(f.areTableActionsEnabled(true));
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void tst_message_table_utility::fileWithoutATableGivesAnEmptyOne()
+void tst_message_table_utility::fileWithoutATableGivesAnEmptyTable()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
@@ -200,9 +201,9 @@ void tst_message_table_utility::saveWritesTheTable()
     UtilityFixture f;
     const std::optional<QByteArray> before = fileBytes(f.tableFile);
     QVERIFY(f.window.openFile(f.tableFile));
-    QVERIFY(writeBytes(f.tableFile, "overwritten by somebody"));
+    QVERIFY(writeBytes(f.tableFile, "overwritten"));
     f.action("actionSave")->trigger();
-    QCOMPARE(f.status(), QStringLiteral("Table saved"));
+    QCOMPARE(f.status(), u"Table saved"_s);
     QCOMPARE(fileBytes(f.tableFile), before);
     QVERIFY(!f.isEnabled("actionSave"));
     QVERIFY(f.isEnabled("actionSaveAs"));
@@ -217,29 +218,29 @@ void tst_message_table_utility::newTableIsSavedUnderANewName()
     QVERIFY(f.isEnabled("actionSave"));
     f.dialogs.fileToChoose = f.otherFile;
     f.action("actionSave")->trigger();
-    QCOMPARE(f.status(), QStringLiteral("Table saved"));
+    QCOMPARE(f.status(), u"Table saved"_s);
     QVERIFY(fileBytes(f.otherFile)->contains("<messageTable "));
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void tst_message_table_utility::saveAsTakesTheNewName()
+void tst_message_table_utility::saveAsChangesTheFileName()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     f.dialogs.fileToChoose = f.otherFile;
     f.action("actionSaveAs")->trigger();
-    QCOMPARE(f.dialogs.saveQuestions.first().title, QStringLiteral("Save Message Table"));
-    QCOMPARE(f.dialogs.saveQuestions.first().filter, QStringLiteral("*.xml"));
-    QCOMPARE(f.status(), QStringLiteral("Table saved as %1").arg(f.otherFile));
+    QCOMPARE(f.dialogs.saveQuestions.first().title, u"Save Message Table"_s);
+    QCOMPARE(f.dialogs.saveQuestions.first().filter, u"*.xml"_s);
+    QCOMPARE(f.status(), u"Table saved as %1"_s.arg(f.otherFile));
     QCOMPARE(f.window.fileName(), f.otherFile);
     QCOMPARE(fileBytes(f.otherFile), fileBytes(f.tableFile));
 }
 
-void tst_message_table_utility::dialogsStartInTheFolderOfTheFileChosenLast()
+void tst_message_table_utility::dialogsStartInTheFolderOfTheLastChosenFile()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("project/broken.xml"));
+    f.dialogs.fileToChoose = f.folder.path(u"project/broken.xml"_s);
     QVERIFY(writeBytes(f.dialogs.fileToChoose, "<messageTable>"));
     f.action("actionOpen")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
@@ -250,7 +251,7 @@ void tst_message_table_utility::dialogsStartInTheFolderOfTheFileChosenLast()
     QStringList folders;
     for (const Window::FileQuestion &question : f.dialogs.openQuestions + f.dialogs.saveQuestions)
         folders.append(question.folder);
-    const QString chosen = f.folder.path(QStringLiteral("project"));
+    const QString chosen = f.folder.path(u"project"_s);
     QCOMPARE(folders, QStringList({f.folder.path(), chosen, chosen, chosen, chosen}));
 }
 
@@ -261,10 +262,7 @@ void tst_message_table_utility::newAndObsoleteRowsAreMarked()
     f.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&f.window));
     const QImage image = f.view()->grab().toImage();
-    const auto colour = [&](int row) {
-        const QRect cell = f.view()->visualRect(f.view()->model()->index(row, 3));
-        return image.pixelColor(f.view()->viewport()->mapTo(f.view(), cell.center() + QPoint(60, 0))).rgb();
-    };
+    const auto colour = [&](int row) { return image.pixelColor(emptyPlace(*f.view(), row)).rgb(); };
     const auto toolTip = [&](int row) {
         return f.view()->model()->index(row, 2).data(Qt::ToolTipRole).toString();
     };
@@ -272,8 +270,8 @@ void tst_message_table_utility::newAndObsoleteRowsAreMarked()
     QCOMPARE(colour(0), markColor(palette, Window::RowMark::Obsolete).rgb());
     QCOMPARE(colour(1), markColor(palette, Window::RowMark::New).rgb());
     QCOMPARE(colour(2), palette.color(QPalette::Base).rgb());
-    QCOMPARE(toolTip(0), QStringLiteral("Not found in the sources any more"));
-    QCOMPARE(toolTip(1), QStringLiteral("Found in the sources, not reviewed yet"));
+    QCOMPARE(toolTip(0), u"Not found in the sources any more"_s);
+    QCOMPARE(toolTip(1), u"Found in the sources, not reviewed yet"_s);
     QCOMPARE(toolTip(2), QString());
 }
 
@@ -288,45 +286,39 @@ void tst_message_table_utility::rowsAreReadableOnADarkPalette()
     f.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&f.window));
     const QImage image = f.view()->grab().toImage();
-    const QRect cell = f.view()->visualRect(f.view()->model()->index(0, 3));
-    const QPoint place = f.view()->viewport()->mapTo(f.view(), cell.center() + QPoint(60, 0));
-    QCOMPARE(image.pixelColor(place).rgb(), markColor(dark, Window::RowMark::Obsolete).rgb());
+    QCOMPARE(image.pixelColor(emptyPlace(*f.view(), 0)).rgb(),
+             markColor(dark, Window::RowMark::Obsolete).rgb());
 }
 
-void tst_message_table_utility::filterFindsStatesAndContexts()
+void tst_message_table_utility::filterMatchesStatesAndContexts()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
-    auto *field = f.window.findChild<QLineEdit *>(QStringLiteral("filterField"));
-    QTest::keyClicks(field, QStringLiteral("obso"));
+    QLineEdit *field = f.filter();
+    QTest::keyClicks(field, u"obso"_s);
     QCOMPARE(f.shownRows(), QStringList(UtilityFixture::tableRows().at(0)));
-    field->setText(QStringLiteral("a::RUN"));
+    field->setText(u"a::RUN"_s);
     QCOMPARE(f.shownRows(),
              (QStringList{UtilityFixture::tableRows().at(0), UtilityFixture::tableRows().at(2)}));
     field->clear();
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
 }
 
-void tst_message_table_utility::sortedRowsReturnToKeyOrder()
+void tst_message_table_utility::thirdClickRestoresTheKeyOrder()
 {
     UtilityFixture f;
     QVERIFY(f.window.openFile(f.tableFile));
     f.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&f.window));
-    QHeaderView *header = f.view()->horizontalHeader();
-    const auto click = [header](int column) {
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          {header->sectionViewportPosition(column) + 10, header->height() / 2});
-    };
-    click(2);
+    clickHeading(*f.view(), 2);
     QCOMPARE(f.shownRows().first(), UtilityFixture::tableRows().at(1));
-    click(2);
+    clickHeading(*f.view(), 2);
     QCOMPARE(f.shownRows().first(), UtilityFixture::tableRows().at(2));
-    click(2);
+    clickHeading(*f.view(), 2);
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
 }
 
-void tst_message_table_utility::widthsOfColumnsAreKept()
+void tst_message_table_utility::columnWidthsAreRestored()
 {
     UtilityFixture f;
     for (int column = 0; column < 3; ++column)
@@ -335,20 +327,20 @@ void tst_message_table_utility::widthsOfColumnsAreKept()
     f.view()->setColumnWidth(1, 222);
     QVERIFY(f.window.close());
     const MessageTableUtility next(f.dialogs, f.settings);
-    QCOMPARE(next.findChild<QTableView *>(QStringLiteral("tableWidget"))->columnWidth(1), 222);
+    QCOMPARE(next.findChild<QTableView *>(u"tableWidget"_s)->columnWidth(1), 222);
 }
 
-void tst_message_table_utility::tableOfManyMessagesIsShownWhole()
+void tst_message_table_utility::largeTableIsShownCompletely()
 {
     constexpr int count = 100'000;
     UtilityFixture f;
     QVERIFY(tableOf(count).save(f.otherFile));
     QVERIFY(f.window.openFile(f.otherFile));
-    QCOMPARE(f.view()->model()->rowCount(), count);
-    QCOMPARE(f.view()->model()->index(count - 1, 2).data().toString(), QStringLiteral("Tag0099999"));
-    auto *field = f.window.findChild<QLineEdit *>(QStringLiteral("filterField"));
-    field->setText(QStringLiteral("tag00123"));
-    QCOMPARE(f.view()->model()->rowCount(), 100);
+    QCOMPARE(f.rowCount(), count);
+    QCOMPARE(f.view()->model()->index(count - 1, 2).data().toString(), u"Tag0099999"_s);
+    QLineEdit *field = f.filter();
+    field->setText(u"tag00123"_s);
+    QCOMPARE(f.rowCount(), 100);
 }
 
 NVX_TEST(tst_message_table_utility)

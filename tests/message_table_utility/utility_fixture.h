@@ -2,17 +2,7 @@
 
 #include "clt_message_table.h"
 #include "message_table_utility/error_message_table_utility.h"
-#include "support/file_bytes.h"
-#include "support/recording_dialogs.h"
-#include "support/test_folder.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QLineEdit>
-#include <QMenu>
-#include <QSettings>
-#include <QStatusBar>
-#include <QTableView>
+#include "window/window_fixture.h"
 
 /// A message with the key and state.
 inline Clt::Message messageOf(const char *process, const char *context, const char *tag,
@@ -24,7 +14,7 @@ inline Clt::Message messageOf(const char *process, const char *context, const ch
     return message;
 }
 
-/// A table of so many messages.
+/// A table with that number of messages.
 inline Clt::MessageTable tableOf(int count)
 {
     Clt::MessageTable table;
@@ -37,8 +27,11 @@ inline Clt::MessageTable tableOf(int count)
     return table;
 }
 
-/// The window with all that it needs, and a table file of three messages, one of each state.
-struct UtilityFixture
+/// A source file with one message.
+inline const QByteArray oneMessageSource = "void f() { REPORT_ERROR(\"One\"); }";
+
+/// The window and a table file with one message of each state.
+struct UtilityFixture : WindowFixture<MessageTableUtility>
 {
     UtilityFixture()
     {
@@ -52,30 +45,17 @@ struct UtilityFixture
         window.setProgressDelay(0);
     }
 
-    QAction *action(const char *name) { return window.findChild<QAction *>(QLatin1String(name)); }
-    bool isEnabled(const char *name) { return action(name)->isEnabled(); }
-    QString status() { return window.statusBar()->currentMessage(); }
-    QTableView *view() { return window.findChild<QTableView *>(QStringLiteral("tableWidget")); }
-
-    /// The rows that are shown, each as "process|context|tag|state".
-    QStringList shownRows()
-    {
-        QStringList rows;
-        const QAbstractItemModel *model = view()->model();
-        for (int row = 0; row < model->rowCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < model->columnCount(); ++column)
-                cells.append(model->index(row, column).data().toString());
-            rows.append(cells.join(u'|'));
-        }
-        return rows;
-    }
-
-    /// What the table file of the fixture shows.
+    /// The rows of the table file as "PROCESS|CONTEXT|TAG|STATE".
     static QStringList tableRows()
     {
-        return {QStringLiteral("client|A::run|Bravo|Obsolete"), QStringLiteral("client|B::run|Alpha|New"),
-                QStringLiteral("solver|A::run|Zulu|InSync")};
+        using namespace Qt::Literals::StringLiterals;
+        return {u"client|A::run|Bravo|Obsolete"_s, u"client|B::run|Alpha|New"_s,
+                u"solver|A::run|Zulu|InSync"_s};
+    }
+
+    bool areTableActionsEnabled(bool areEnabled)
+    {
+        return WindowFixture::areTableActionsEnabled(areEnabled, {"actionSynchronize", "actionTranslate"});
     }
 
     /// Writes a source file of the project.
@@ -85,7 +65,7 @@ struct UtilityFixture
             qFatal("cannot write a source file");
     }
 
-    /// Writes the project, which compiles those files, and takes it for the answer of the next dialog.
+    /// Writes a project with those files and chooses it in the next dialog.
     void chooseProject(const QStringList &sourceFiles)
     {
         QByteArray items;
@@ -98,20 +78,25 @@ struct UtilityFixture
         dialogs.fileToChoose = projectFile;
     }
 
-    /// Writes a project that compiles one source file with a message so many times, and chooses it.
+    /// The same with one file, whose text is given.
+    void chooseProjectOf(const QByteArray &source)
+    {
+        const QString name = QStringLiteral("a.cpp");
+        writeSource(name, source);
+        chooseProject({name});
+    }
+
+    /// Writes a project with that number of entries for the same large source file, which has one message,
+    /// and chooses it in the next dialog.
     void chooseLargeProject(int files)
     {
         const QString name = QStringLiteral("source.cpp");
-        writeSource(name, "void f() { REPORT_ERROR(\"One\"); }" + QByteArray(200'000, ';'));
+        writeSource(name, oneMessageSource + QByteArray(200'000, ';'));
         chooseProject(QStringList(files, name));
     }
 
-    TestFolder folder;
     QString tableFile = folder.path(QStringLiteral("errors.xml"));
     QString otherFile = folder.path(QStringLiteral("other.xml"));
     QString projectFile = folder.path(QStringLiteral("project/client.vcxproj"));
     QString translationFile = folder.path(QStringLiteral("client_de.ts"));
-    QSettings settings{folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat};
-    RecordingDialogs dialogs;
-    MessageTableUtility window{dialogs, settings};
 };

@@ -28,7 +28,7 @@ public:
     QList<Window::FileQuestion> openQuestions;
     QList<Window::FileQuestion> saveQuestions;
     QList<Box> warnings;
-    QList<Box> tellings;
+    QList<Box> notices;
     QList<Box> unsavedQuestions;
 
     QString fileToOpen(QWidget *, const Window::FileQuestion &question) override
@@ -50,9 +50,9 @@ public:
             whileWarning();
     }
 
-    void tell(QWidget *, const QString &title, const QString &text) override
+    void inform(QWidget *, const QString &title, const QString &text) override
     {
-        tellings.append({title, text});
+        notices.append({title, text});
     }
 
     Window::UnsavedChoice askAboutUnsaved(QWidget *, const QString &title, const QString &text) override

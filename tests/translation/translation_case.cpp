@@ -8,35 +8,36 @@
 #include <QDir>
 #include <QTextStream>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString tableName = QStringLiteral("table.ts");
-const QString messagesName = QStringLiteral("messages.xml");
+const QString tableName = u"table.ts"_s;
+const QString messagesName = u"messages.xml"_s;
 
 QString synchronized()
 {
-    QString told;
-    QTextStream log(&told);
-    const bool done = Error::synchronizeTranslationTable(messagesName, tableName, log, log);
+    QString report;
+    QTextStream log(&report);
+    const bool done = Translation::synchronizeTranslationTable(messagesName, tableName, log, log);
     log << (done ? "done\n" : "failed\n");
     log.flush();
-    return told;
+    return report;
 }
 
 QString loadedAndSaved(const QString &savedName)
 {
-    Error::TranslationTable table;
-    QString told = table.load(tableName) ? QStringLiteral("loaded\n")
-                                         : QStringLiteral("not loaded: ") + table.errorString() + u'\n';
+    Translation::TranslationTable table;
+    QString report = table.load(tableName) ? u"loaded\n"_s : u"not loaded: "_s + table.errorString() + u'\n';
     if (!table.save(savedName))
-        told += QStringLiteral("not saved\n");
-    return told;
+        report += u"not saved\n"_s;
+    return report;
 }
 
 } // namespace
 
-// The files are named without their folder, so that the log is the same everywhere. What is of the case is
-// asked for first: on Windows its path may be one of the drive that is current until then.
+// The files are named without their folder, so that the log is the same everywhere. The case's files are
+// copied before the current folder changes: on Windows their path may depend on the current drive.
 TranslationCase runTranslationCase(const QString &caseFolder, const QString &workFolder)
 {
     const QDir folder(caseFolder);
@@ -47,14 +48,14 @@ TranslationCase runTranslationCase(const QString &caseFolder, const QString &wor
 
     const QString before = QDir::currentPath();
     QDir::setCurrent(workFolder);
-    const QString savedName = fromMessages ? tableName : QStringLiteral("saved.ts");
+    const QString savedName = fromMessages ? tableName : u"saved.ts"_s;
     const RecordedAssertions failed;
     TranslationCase result;
-    result.told = (fromMessages ? synchronized() : loadedAndSaved(savedName)).toUtf8();
+    result.report = (fromMessages ? synchronized() : loadedAndSaved(savedName)).toUtf8();
     for (const QString &assertion : failed.list())
-        result.told += "assertion: " + assertion.toUtf8() + '\n';
+        result.report += "assertion: " + assertion.toUtf8() + '\n';
     result.saved = fileLines(savedName);
-    result.damaged = fileBytes(tableName + QStringLiteral(".damaged"));
+    result.damaged = fileBytes(tableName + u".damaged"_s);
     QDir::setCurrent(before);
     return result;
 }

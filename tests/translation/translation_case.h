@@ -5,13 +5,13 @@
 
 #include <optional>
 
-/// What became of one case of a translation file.
+/// The result of one case.
 struct TranslationCase
 {
-    QByteArray told;                   ///< the log, the result and the failed assertions, a line each
-    std::optional<QByteArray> saved;   ///< the file that was written, its line ends as "\n"
-    std::optional<QByteArray> damaged; ///< the old file as it was kept
+    QByteArray report;                 ///< the log, the result and the failed assertions, a line each
+    std::optional<QByteArray> saved;   ///< the file that was written, with "\n" as line ends
+    std::optional<QByteArray> damaged; ///< the copy of a damaged file
 };
 
-/// Runs the case of that folder in the work folder, which holds nothing before.
+/// Runs the case of that folder in the work folder, which must be empty.
 TranslationCase runTranslationCase(const QString &caseFolder, const QString &workFolder);

@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_translation_cases : public QObject
 {
     Q_OBJECT
@@ -18,35 +20,33 @@ private slots:
         QFETCH(const QString, folder);
         const TestFolder work;
         const TranslationCase result = runTranslationCase(folder, work.path());
-        QCOMPARE(QString::fromUtf8(result.told),
-                 QString::fromUtf8(fileLines(folder + QStringLiteral("/expected.txt")).value_or("missing")));
+        QCOMPARE(QString::fromUtf8(result.report),
+                 QString::fromUtf8(fileLines(folder + u"/expected.txt"_s).value_or("missing")));
         QCOMPARE(QString::fromUtf8(result.saved.value_or("missing")),
-                 QString::fromUtf8(fileLines(folder + QStringLiteral("/expected.ts")).value_or("missing")));
-        QCOMPARE(result.damaged, fileBytes(folder + QStringLiteral("/expected.damaged")));
+                 QString::fromUtf8(fileLines(folder + u"/expected.ts"_s).value_or("missing")));
+        QCOMPARE(result.damaged, fileBytes(folder + u"/expected.damaged"_s));
     }
 
-    // What is written is read as it was, whatever the file was like at first.
-    void filesWrittenAreWrittenAgainTheSame_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    // Loading and saving a file that we wrote does not change it.
+    void writtenFilesAreSavedUnchanged_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
 
-    void filesWrittenAreWrittenAgainTheSame()
+    void writtenFilesAreSavedUnchanged()
     {
         QFETCH(const QString, folder);
-        const std::optional<QByteArray> written = fileBytes(folder + QStringLiteral("/expected.ts"));
+        const std::optional<QByteArray> written = fileBytes(folder + u"/expected.ts"_s);
         QVERIFY(written);
         const TestFolder again;
-        QVERIFY(writeBytes(again.path(QStringLiteral("table.ts")), *written));
+        QVERIFY(writeBytes(again.path(u"table.ts"_s), *written));
         const TestFolder work;
         const TranslationCase result = runTranslationCase(again.path(), work.path());
-        QCOMPARE(result.told, QByteArray("loaded\n"));
-        QCOMPARE(result.saved, fileLines(folder + QStringLiteral("/expected.ts")));
+        QCOMPARE(result.report, QByteArray("loaded\n"));
+        QCOMPARE(result.saved, fileLines(folder + u"/expected.ts"_s));
     }
 
     void updatingAgainAddsNothing_data()
     {
         addCaseRows(QStringLiteral(CASES_FOLDER), [](const QDir &folder) {
-            return fileLines(folder.filePath(QStringLiteral("expected.txt")))
-                .value_or(QByteArray())
-                .endsWith("done\n");
+            return fileLines(folder.filePath(u"expected.txt"_s)).value_or(QByteArray()).endsWith("done\n");
         });
     }
 
@@ -54,17 +54,16 @@ private slots:
     {
         QFETCH(const QString, folder);
         const TestFolder again;
-        QVERIFY(QFile::copy(folder + QStringLiteral("/messages.xml"),
-                            again.path(QStringLiteral("messages.xml"))));
-        QVERIFY(QFile::copy(folder + QStringLiteral("/expected.ts"), again.path(QStringLiteral("table.ts"))));
+        QVERIFY(QFile::copy(folder + u"/messages.xml"_s, again.path(u"messages.xml"_s)));
+        QVERIFY(QFile::copy(folder + u"/expected.ts"_s, again.path(u"table.ts"_s)));
         const TestFolder work;
         const TranslationCase result = runTranslationCase(again.path(), work.path());
-        QVERIFY(result.told.contains("\nAdded 0 new strings to the translation table\ndone\n"));
-        QCOMPARE(result.saved, fileLines(folder + QStringLiteral("/expected.ts")));
+        QVERIFY(result.report.contains("\nAdded 0 new strings to the translation table\ndone\n"));
+        QCOMPARE(result.saved, fileLines(folder + u"/expected.ts"_s));
         QVERIFY(!result.damaged);
     }
 
-    // A folder of cases that is not found must not pass as no cases at all.
+    // Without the folder of the cases, the tests above would have no rows.
     void thereAreCases()
     {
         const QDir cases(QStringLiteral(CASES_FOLDER));

@@ -1,4 +1,4 @@
-// Files with plural forms and length variants, which a rewrite loses: what is kept beside them.
+// The copies of files with plural forms and length variants, which a rewrite loses.
 
 #include "clt_message_table.h"
 #include "support/file_bytes.h"
@@ -13,7 +13,9 @@
 
 #include <memory>
 
-using Error::TranslationTable;
+using namespace Qt::Literals::StringLiterals;
+
+using Translation::TranslationTable;
 
 namespace {
 
@@ -37,22 +39,22 @@ private slots:
     void init()
     {
         m_folder = std::make_unique<TestFolder>();
-        m_file = m_folder->path(QStringLiteral("client_de.ts"));
-        m_copy = m_file + QStringLiteral(".before");
+        m_file = m_folder->path(u"client_de.ts"_s);
+        m_copy = m_file + u".before"_s;
     }
 
-    void onlyAFileWithFormsIsKept_data()
+    void onlyAFileWithFormsIsCopied_data()
     {
         QTest::addColumn<QByteArray>("contents");
-        QTest::addColumn<bool>("kept");
+        QTest::addColumn<bool>("isCopied");
         QTest::newRow("plural forms") << plural << true;
-        QTest::newRow("plural forms to come")
+        QTest::newRow("plural forms not translated yet")
             << fileOf("<message numerus=\"yes\"><source>a</source><translation/></message>") << true;
         QTest::newRow("length variants")
             << fileOf("<message><source>a</source><translation variants=\"yes\"><lengthvariant>long"
                       "</lengthvariant><lengthvariant>l</lengthvariant></translation></message>")
             << true;
-        QTest::newRow("forms in the last message alone")
+        QTest::newRow("forms only in the last message")
             << fileOf("<message><source>a</source><translation>b</translation></message><message "
                       "numerus=\"yes\"><source>c</source><translation><numerusform>d</numerusform>"
                       "</translation></message>")
@@ -60,120 +62,118 @@ private slots:
         QTest::newRow("no forms") << fileOf("<message numerus=\"no\"><source>a</source><translation>b"
                                             "</translation></message>")
                                   << false;
-        QTest::newRow("a character by its number")
+        QTest::newRow("character by its number")
             << fileOf(
                    "<message><source>a</source><translation>b<byte value=\"x1b\"/></translation></message>")
             << false;
-        QTest::newRow("elements beside the translation")
+        QTest::newRow("elements next to the translation")
             << fileOf("<message><location line=\"1\"/><source>a</source><translation>b</translation>"
                       "<translatorcomment>c</translatorcomment></message>")
             << false;
     }
 
-    void onlyAFileWithFormsIsKept()
+    void onlyAFileWithFormsIsCopied()
     {
         QFETCH(const QByteArray, contents);
-        QFETCH(const bool, kept);
+        QFETCH(const bool, isCopied);
         QVERIFY(writeBytes(m_file, contents));
         TranslationTable table;
         QVERIFY(table.load(m_file));
         QVERIFY(table.save(m_file));
-        QCOMPARE(fileBytes(m_copy).value_or("none"), kept ? contents : QByteArray("none"));
-        QCOMPARE(table.keptFile(), kept ? m_copy : QString());
+        QCOMPARE(fileBytes(m_copy).value_or("none"), isCopied ? contents : QByteArray("none"));
+        QCOMPARE(table.backupFile(), isCopied ? m_copy : QString());
         QVERIFY(!fileBytes(m_file)->contains("numerusform"));
     }
 
-    void theFileIsKeptOnce()
+    void theFileIsCopiedOnce()
     {
         QVERIFY(writeBytes(m_file, plural));
         TranslationTable table;
         QVERIFY(table.load(m_file));
         QVERIFY(table.save(m_file));
-        table.addString(QStringLiteral("Clt"), QStringLiteral("new"));
+        table.addString(u"Clt"_s, u"new"_s);
         QVERIFY(table.save(m_file));
-        QCOMPARE(table.keptFile(), QString());
-        QCOMPARE(names(),
-                 QStringList({QStringLiteral("client_de.ts"), QStringLiteral("client_de.ts.before")}));
+        QCOMPARE(table.backupFile(), QString());
+        QCOMPARE(names(), QStringList({u"client_de.ts"_s, u"client_de.ts.before"_s}));
         QCOMPARE(fileBytes(m_copy), plural);
     }
 
-    void anEarlierCopyIsNeverOverwritten()
+    void existingCopyIsNeverOverwritten()
     {
         const QByteArray second = QByteArray(plural).replace("Zeilen", "Reihen");
         QVERIFY(writeBytes(m_copy, "the first"));
-        QVERIFY(QDir().mkdir(m_copy + QStringLiteral(".2")));
+        QVERIFY(QDir().mkdir(m_copy + u".2"_s));
         for (const QByteArray &contents : {plural, second})
-            QVERIFY(rewrite(contents).endsWith(contents == plural ? QStringLiteral(".before.3")
-                                                                  : QStringLiteral(".before.4")));
+            QVERIFY(rewrite(contents).endsWith(contents == plural ? u".before.3"_s : u".before.4"_s));
         QCOMPARE(fileBytes(m_copy), QByteArray("the first"));
-        QCOMPARE(fileBytes(m_copy + QStringLiteral(".3")), plural);
-        QCOMPARE(fileBytes(m_copy + QStringLiteral(".4")), second);
+        QCOMPARE(fileBytes(m_copy + u".3"_s), plural);
+        QCOMPARE(fileBytes(m_copy + u".4"_s), second);
     }
 
-    void aCopyWithTheSameBytesIsUsedAgain()
+    void copyWithTheSameBytesIsReused()
     {
         QCOMPARE(rewrite(plural), m_copy);
         QCOMPARE(rewrite(plural), m_copy);
         QCOMPARE(names().size(), 2);
     }
 
-    void aFileThatCannotBeKeptIsNotReplaced()
+    void fileThatCannotBeCopiedIsNotReplaced()
     {
-        QVERIFY(QDir().mkdir(m_copy + QStringLiteral(".nvxpart"))); // where the copy is written first
+        QVERIFY(QDir().mkdir(m_copy + u".nvxpart"_s)); // the temporary file of the copy
         QCOMPARE(rewrite(plural), QString());
         QCOMPARE(fileBytes(m_file), plural);
         QVERIFY(!QFile::exists(m_copy));
     }
 
-    void aTableThatIsSavedElsewhereLeavesTheFileAlone()
+    void savingElsewhereLeavesTheFile()
     {
-        const QString other = m_folder->path(QStringLiteral("other.ts"));
+        const QString other = m_folder->path(u"other.ts"_s);
         QVERIFY(writeBytes(m_file, plural));
         QVERIFY(writeBytes(other, "old"));
         TranslationTable table;
         QVERIFY(table.load(m_file));
         QVERIFY(table.save(other));
-        QCOMPARE(names(), QStringList({QStringLiteral("client_de.ts"), QStringLiteral("other.ts")}));
+        QCOMPARE(names(), QStringList({u"client_de.ts"_s, u"other.ts"_s}));
         QCOMPARE(fileBytes(m_file), plural);
-        // It is still the file that would lose its forms.
-        QVERIFY(table.save(m_folder->path(QStringLiteral("./client_de.ts"))));
+        // Saving to the file itself still makes the copy.
+        QVERIFY(table.save(m_folder->path(u"./client_de.ts"_s)));
         QCOMPARE(fileBytes(m_copy), plural);
     }
 
-    void aDamagedFileWithFormsIsKeptUnderBothNames()
+    void damagedFileWithFormsIsCopiedUnderBothNames()
     {
         const QByteArray damaged = plural.left(plural.indexOf("</context>"));
-        QVERIFY(rewrite(damaged, false).endsWith(QStringLiteral(".before")));
+        QVERIFY(rewrite(damaged, false).endsWith(u".before"_s));
         QCOMPARE(fileBytes(m_copy), damaged);
-        QCOMPARE(fileBytes(m_file + QStringLiteral(".damaged")), damaged);
+        QCOMPARE(fileBytes(m_file + u".damaged"_s), damaged);
     }
 
-    void anUpdateNamesTheCopyAmongTheErrors()
+    void updateReportsTheCopyAsAnError()
     {
-        const QString messages = m_folder->path(QStringLiteral("messages.xml"));
+        const QString messages = m_folder->path(u"messages.xml"_s);
         QVERIFY(Clt::MessageTable().save(messages));
         QVERIFY(writeBytes(m_file, plural));
-        QString told;
+        QString output;
         QString errors;
         for (int run = 0; run < 2; ++run) {
-            QTextStream log(&told);
+            QTextStream log(&output);
             QTextStream errorLog(&errors);
-            QVERIFY(Error::synchronizeTranslationTable(messages, m_file, log, errorLog));
+            QVERIFY(Translation::synchronizeTranslationTable(messages, m_file, log, errorLog));
         }
-        QCOMPARE(errors, QStringLiteral("Plural forms were dropped; the old file is %1\n").arg(m_copy));
-        QVERIFY(!told.contains(QStringLiteral(".before")));
+        QCOMPARE(errors, u"Plural forms were dropped; the old file is %1\n"_s.arg(m_copy));
+        QVERIFY(!output.contains(u".before"_s));
     }
 
 private:
     QStringList names() const { return QDir(m_folder->path()).entryList(QDir::Files, QDir::Name); }
 
-    /// Writes the file, loads and saves it; the copy that was kept, empty when the save failed.
+    /// Writes, loads and saves the file. Returns the name of the copy; empty if the save failed.
     QString rewrite(const QByteArray &contents, bool loads = true)
     {
         TranslationTable table;
         if (!writeBytes(m_file, contents) || table.load(m_file) != loads || !table.save(m_file))
             return {};
-        return table.keptFile();
+        return table.backupFile();
     }
 
     std::unique_ptr<TestFolder> m_folder;

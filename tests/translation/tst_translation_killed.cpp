@@ -1,4 +1,4 @@
-// The rewrite of a translation file with plural forms, killed while it is at it.
+// A translation file with plural forms after a rewrite that was killed.
 
 #include "nvx_util/whole_file.h"
 #include "support/file_bytes.h"
@@ -13,12 +13,14 @@
 #include <QTest>
 #include <QThread>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int kills = 25;
-const QString rewriteOption = QStringLiteral("--rewrite");
+const QString rewriteOption = u"--rewrite"_s;
 
-/// A file that takes some milliseconds to read, to keep and to write.
+/// A file that takes some milliseconds to read, copy and write.
 QByteArray withForms()
 {
     const QByteArray message =
@@ -29,17 +31,17 @@ QByteArray withForms()
 
 QString copyOf(const QString &fileName)
 {
-    return fileName + QStringLiteral(".before");
+    return fileName + u".before"_s;
 }
 
 bool rewrite(const QString &fileName)
 {
-    Error::TranslationTable table;
+    Translation::TranslationTable table;
     return table.load(fileName) && table.save(fileName);
 }
 
-/// Rewrites the file again and again until somebody kills this program. The file has its forms again before
-/// its copy goes, and a rest follows, or hardly a kill would find the copy.
+/// Rewrites the file again and again until this program is killed. Restores the forms before it removes the
+/// copy, and pauses after each rewrite; otherwise hardly any kill would find a copy.
 int rewriteForever(const QString &fileName)
 {
     while (Nvx::Util::replaceWholeFile(fileName, withForms()) &&
@@ -58,20 +60,20 @@ private slots:
     void formsAreInTheFileOrInItsCopy()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("client_de.ts"));
+        const QString fileName = folder.path(u"client_de.ts"_s);
         QVERIFY(writeBytes(fileName, withForms()));
         QVERIFY(rewrite(fileName));
         const QByteArray rewritten = fileBytes(fileName).value();
         QVERIFY(!rewritten.contains("numerusform"));
 
-        int keptAtTheKill = 0;
+        int copiesFound = 0;
         for (int kill = 0; kill < kills; ++kill) {
             const QDateTime before = QFileInfo(fileName).lastModified();
             QProcess writer;
             writer.start(QCoreApplication::applicationFilePath(), {rewriteOption, fileName});
             QVERIFY(writer.waitForStarted());
-            // It must be at it when it is killed, at another point each time. On Windows a file that is open
-            // cannot be replaced, so this does not read it.
+            // The writer must have started, and is killed at a different point each time. On Windows an open
+            // file cannot be replaced, so this does not read it.
             QVERIFY(QTest::qWaitFor([&] { return QFileInfo(fileName).lastModified() != before; }, 20'000));
             QVERIFY(!writer.waitForFinished(13 * kill % 100));
             writer.kill();
@@ -81,17 +83,17 @@ private slots:
             const bool hasCopy = QFile::exists(copyOf(fileName));
             QVERIFY(left == withForms() || (left == rewritten && hasCopy));
             QVERIFY(!hasCopy || fileBytes(copyOf(fileName)) == withForms());
-            keptAtTheKill += hasCopy ? 1 : 0;
+            copiesFound += hasCopy ? 1 : 0;
         }
-        qInfo("%d of %d kills found the copy", keptAtTheKill, kills);
-        QVERIFY(keptAtTheKill > 0);
+        qInfo("%d of %d kills found the copy", copiesFound, kills);
+        QVERIFY(copiesFound > 0);
 
-        // The next run does the rest, and takes away what the killed one was writing.
+        // The next run completes the rewrite and removes unfinished files.
         QVERIFY(Nvx::Util::replaceWholeFile(fileName, withForms()));
         QFile::remove(copyOf(fileName));
         QVERIFY(rewrite(fileName));
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
-                 QStringList({QStringLiteral("client_de.ts"), QStringLiteral("client_de.ts.before")}));
+                 QStringList({u"client_de.ts"_s, u"client_de.ts.before"_s}));
     }
 };
 

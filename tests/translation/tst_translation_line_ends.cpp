@@ -1,4 +1,4 @@
-// The bytes of a saved translation file. Lines end as the operating system ends them: LINE_END.
+// The bytes of a saved translation file. LINE_END is the line end of the operating system.
 
 #include "support/file_bytes.h"
 #include "support/test_class.h"
@@ -7,23 +7,25 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_translation_line_ends : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void savedTableHasTheLineEndsOfTheSystem()
+    void savedFileHasTheLineEndsOfTheSystem()
     {
-        Error::TranslationContext context(QStringLiteral("A::f"));
-        const Error::TranslationMessage message = {QStringLiteral("two\nlines\rand more"),
-                                                   QStringLiteral("zwei"), QString(), QString()};
+        Translation::TranslationContext context(u"A::f"_s);
+        const Translation::TranslationMessage message = {u"two\nlines\rand more"_s, u"zwei"_s, QString(),
+                                                         QString()};
         context.append(message);
-        Error::TranslationTable table;
-        table.setVersion(QStringLiteral("2.1"));
-        table.setLanguage(QStringLiteral("de_DE"));
+        Translation::TranslationTable table;
+        table.setVersion(u"2.1"_s);
+        table.setLanguage(u"de_DE"_s);
         table.setContext(context);
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("client_de.ts"));
+        const QString fileName = folder.path(u"client_de.ts"_s);
         QVERIFY(table.save(fileName));
 
         const QByteArray expected = QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -41,9 +43,9 @@ private slots:
                                         .replace("\n", LINE_END);
         QCOMPARE(fileBytes(fileName), expected);
 
-        Error::TranslationTable loaded;
+        Translation::TranslationTable loaded;
         QVERIFY(loaded.load(fileName));
-        QVERIFY(loaded.contains(QStringLiteral("A::f"), message.source));
+        QVERIFY(loaded.contains(u"A::f"_s, message.source));
         QVERIFY(loaded.save(fileName));
         QCOMPARE(fileBytes(fileName), expected);
     }

@@ -5,7 +5,10 @@
 #include <QBuffer>
 #include <QTest>
 
-using Error::TranslationTable;
+using namespace Qt::Literals::StringLiterals;
+
+using Translation::TranslationRoot;
+using Translation::TranslationTable;
 
 namespace {
 
@@ -14,26 +17,27 @@ constexpr quint32 seeds = 60;
 QByteArray written(const TranslationTable &table)
 {
     QBuffer device;
-    return device.open(QIODevice::WriteOnly) && Error::writeTranslationTable(device, table) ? device.data()
-                                                                                            : QByteArray();
+    return device.open(QIODevice::WriteOnly) && Translation::writeTranslationTable(device, table)
+               ? device.data()
+               : QByteArray();
 }
 
-Error::TranslationReading read(const QByteArray &bytes, TranslationTable &table)
+Nvx::Util::Result<TranslationRoot> read(const QByteArray &bytes, TranslationTable &table)
 {
     QBuffer device;
     device.setData(bytes);
     if (!device.open(QIODevice::ReadOnly))
-        return {QStringLiteral("not open"), false};
-    return Error::readTranslationTable(device, table);
+        return Nvx::Util::Failure{u"not open"_s};
+    return Translation::readTranslationTable(device, table);
 }
 
-/// All that the table holds, in order.
+/// The contents of the table, in order.
 QStringList shown(const TranslationTable &table)
 {
     QStringList shown{table.version(), table.language(), table.defaultCodec()};
     for (const auto &[name, context] : table.contexts()) {
-        shown += QStringLiteral("context ") + name + u' ' + context.name();
-        for (const Error::TranslationMessage &message : context.messages())
+        shown += u"context "_s + name + u' ' + context.name();
+        for (const Translation::TranslationMessage &message : context.messages())
             shown += {message.source, message.translation, message.type, message.comment};
     }
     return shown;
@@ -53,34 +57,34 @@ class tst_translation_round_trip : public QObject
     Q_OBJECT
 
 private slots:
-    void writtenTablesReadBackAsTheyWere_data() { seedRows(); }
+    void writtenTableIsReadUnchanged_data() { seedRows(); }
 
-    void writtenTablesReadBackAsTheyWere()
+    void writtenTableIsReadUnchanged()
     {
         QFETCH(const quint32, seed);
         const TranslationTable table = randomTranslationTable(seed);
         TranslationTable again;
-        const Error::TranslationReading reading = read(written(table), again);
-        QCOMPARE(reading.error, QString());
-        QVERIFY(reading.foundRoot);
+        const auto root = read(written(table), again);
+        QCOMPARE(root.error(), QString());
+        QCOMPARE(*root, TranslationRoot::Found);
         QCOMPARE(shown(again), shown(table));
     }
 
-    void whatWasReadIsWrittenAsItWas_data() { seedRows(); }
+    void tableThatWasReadIsWrittenUnchanged_data() { seedRows(); }
 
-    void whatWasReadIsWrittenAsItWas()
+    void tableThatWasReadIsWrittenUnchanged()
     {
         QFETCH(const quint32, seed);
         const QByteArray bytes = written(randomTranslationTable(seed));
         TranslationTable again;
-        QCOMPARE(read(bytes, again).error, QString());
+        QCOMPARE(read(bytes, again).error(), QString());
         QCOMPARE(written(again), bytes);
     }
 
-    // Wherever a file is cut, what it gives is a part of what the whole one gives.
-    void cutFilesGiveWholeMessagesOnly_data() { seedRows(); }
+    // Wherever a file is cut, the messages read from it are the first ones of each context of the whole file.
+    void truncatedFileGivesOnlyWholeMessages_data() { seedRows(); }
 
-    void cutFilesGiveWholeMessagesOnly()
+    void truncatedFileGivesOnlyWholeMessages()
     {
         QFETCH(const quint32, seed);
         const TranslationTable table = randomTranslationTable(seed);
@@ -88,10 +92,10 @@ private slots:
         RandomText random(seed);
         TranslationTable part;
         const auto cut = static_cast<qsizetype>(random.below(static_cast<quint32>(bytes.size() - 6)));
-        QVERIFY(!read(bytes.first(cut), part).error.isEmpty());
+        QVERIFY(!read(bytes.first(cut), part));
         for (const auto &[name, context] : part.contexts()) {
             QVERIFY(table.contexts().count(name) == 1);
-            const Error::TranslationMessages &whole = table.contexts().at(name).messages();
+            const Translation::TranslationMessages &whole = table.contexts().at(name).messages();
             QVERIFY(context.messages().size() <= whole.size());
             for (std::size_t at = 0; at < context.messages().size(); ++at) {
                 QCOMPARE(context.messages()[at].source, whole[at].source);
@@ -100,16 +104,16 @@ private slots:
         }
     }
 
-    void aFileWithoutItsLastTagGivesEveryMessage_data() { seedRows(); }
+    void fileWithoutItsLastTagGivesEveryMessage_data() { seedRows(); }
 
-    void aFileWithoutItsLastTagGivesEveryMessage()
+    void fileWithoutItsLastTagGivesEveryMessage()
     {
         QFETCH(const quint32, seed);
         const TranslationTable table = randomTranslationTable(seed);
         QByteArray bytes = written(table);
         bytes.truncate(bytes.lastIndexOf("</TS>"));
         TranslationTable part;
-        QVERIFY(!read(bytes, part).error.isEmpty());
+        QVERIFY(!read(bytes, part));
         QCOMPARE(shown(part), shown(table));
     }
 };

@@ -11,18 +11,20 @@
 #include <QHash>
 #include <QTest>
 
-using Error::TranslationContext;
-using Error::TranslationMessage;
-using Error::TranslationTable;
+using namespace Qt::Literals::StringLiterals;
+
+using Translation::TranslationContext;
+using Translation::TranslationMessage;
+using Translation::TranslationTable;
 
 namespace {
 
-const QString clt = QStringLiteral("Clt");
-const QString net = QStringLiteral("Net");
-const QString a = QStringLiteral("a");
-const QString b = QStringLiteral("b");
+const QString clt = u"Clt"_s;
+const QString net = u"Net"_s;
+const QString a = u"a"_s;
+const QString b = u"b"_s;
 
-const Error::TranslationMessages &messagesOf(const TranslationTable &table, const QString &context)
+const Translation::TranslationMessages &messagesOf(const TranslationTable &table, const QString &context)
 {
     return table.contexts().at(context).messages();
 }
@@ -30,8 +32,9 @@ const Error::TranslationMessages &messagesOf(const TranslationTable &table, cons
 QByteArray written(const TranslationTable &table)
 {
     QBuffer device;
-    return device.open(QIODevice::WriteOnly) && Error::writeTranslationTable(device, table) ? device.data()
-                                                                                            : QByteArray();
+    return device.open(QIODevice::WriteOnly) && Translation::writeTranslationTable(device, table)
+               ? device.data()
+               : QByteArray();
 }
 
 } // namespace
@@ -58,11 +61,11 @@ private slots:
         const TranslationMessage &message = messagesOf(table, clt).front();
         QCOMPARE(message.source, a);
         QCOMPARE(message.translation, a);
-        QCOMPARE(message.type, QStringLiteral("unfinished"));
+        QCOMPARE(message.type, u"unfinished"_s);
         QCOMPARE(message.comment, QString());
     }
 
-    void addedStringsStandInTheOrderOfTheirAdding()
+    void addedStringsKeepTheirOrder()
     {
         TranslationTable table;
         for (const QString &source : {b, a, b})
@@ -78,12 +81,12 @@ private slots:
         QTest::addColumn<QString>("context");
         QTest::addColumn<QString>("source");
         QTest::addColumn<bool>("contained");
-        QTest::newRow("both") << clt << a << true;
-        QTest::newRow("a string of another context") << net << a << false;
-        QTest::newRow("no such context") << QStringLiteral("None") << a << false;
-        QTest::newRow("another case") << clt << QStringLiteral("A") << false;
-        QTest::newRow("a prefix") << clt << QString() << false;
-        QTest::newRow("the other string") << clt << b << true;
+        QTest::newRow("same context and source") << clt << a << true;
+        QTest::newRow("string in another context") << net << a << false;
+        QTest::newRow("missing context") << u"None"_s << a << false;
+        QTest::newRow("different case") << clt << u"A"_s << false;
+        QTest::newRow("prefix") << clt << QString() << false;
+        QTest::newRow("second string") << clt << b << true;
     }
 
     void containsComparesContextAndSource()
@@ -98,11 +101,11 @@ private slots:
         QCOMPARE(table.contains(context, source), contained);
     }
 
-    void translationTypeAndCommentDoNotCount()
+    void containsComparesOnlyTheSource()
     {
         TranslationTable table;
         TranslationContext context(clt);
-        context.append({a, b, QStringLiteral("obsolete"), QStringLiteral("c")});
+        context.append({a, b, u"obsolete"_s, u"c"_s});
         table.setContext(context);
         QVERIFY(table.contains(clt, a));
         QVERIFY(!table.contains(clt, b));
@@ -117,7 +120,7 @@ private slots:
             QVERIFY(context.contains(QString::number(number)));
             QVERIFY(!context.addMissing(QString::number(number)));
         }
-        QVERIFY(!context.contains(QStringLiteral("5000")));
+        QVERIFY(!context.contains(u"5000"_s));
         QCOMPARE(context.messages().size(), std::size_t(5000));
     }
 
@@ -168,11 +171,10 @@ private slots:
         const std::size_t before = table.contexts().size();
         for (auto hint = table.contexts().begin(); hint != table.contexts().end(); ++hint) {
             QCOMPARE(table.contextNamed(b, hint)->second.name(), b);
-            QCOMPARE(table.contextNamed(QStringLiteral("h"), hint)->second.name(), QStringLiteral("h"));
+            QCOMPARE(table.contextNamed(u"h"_s, hint)->second.name(), u"h"_s);
         }
         QCOMPARE(table.contexts().size(), before);
-        QCOMPARE(table.contextNamed(QStringLiteral("c"), table.contexts().end())->second.name(),
-                 QStringLiteral("c"));
+        QCOMPARE(table.contextNamed(u"c"_s, table.contexts().end())->second.name(), u"c"_s);
         QCOMPARE(table.contexts().size(), before + 1);
     }
 
@@ -182,23 +184,23 @@ private slots:
         for (const QString &source : {a, b, a})
             table.addString(clt, source);
         table.addString(net, a);
-        table.setType(clt, {a}, QStringLiteral("obsolete"));
-        table.setType(QStringLiteral("None"), {a}, QStringLiteral("obsolete"));
+        table.setType(clt, {a}, u"obsolete"_s);
+        table.setType(u"None"_s, {a}, u"obsolete"_s);
         QStringList types;
         for (const QString &name : {clt, net}) {
             for (const TranslationMessage &message : messagesOf(table, name))
                 types += message.type;
         }
-        const QString obsolete = QStringLiteral("obsolete");
-        const QString unfinished = QStringLiteral("unfinished");
+        const QString obsolete = u"obsolete"_s;
+        const QString unfinished = u"unfinished"_s;
         QCOMPARE(types, QStringList({obsolete, unfinished, obsolete, unfinished}));
         QCOMPARE(table.contexts().size(), std::size_t(2));
     }
 
-    void fileThatCannotBeOpenedTellsTheSystemsWords()
+    void errorOfAFileThatCannotBeOpenedIsTheSystems()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("missing.ts"));
+        const QString fileName = folder.path(u"missing.ts"_s);
         QFile file(fileName);
         QVERIFY(!file.open(QIODevice::ReadOnly));
         TranslationTable table;
@@ -211,7 +213,7 @@ private slots:
     void successfulLoadClearsTheError()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QString fileName = folder.path(u"table.ts"_s);
         TranslationTable table;
         QVERIFY(!table.load(fileName));
         QVERIFY(TranslationTable().save(fileName));
@@ -219,15 +221,15 @@ private slots:
         QCOMPARE(table.errorString(), QString());
     }
 
-    void loadingAddsToWhatIsThere()
+    void loadingReplacesOnlyContextsOfTheFile()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QString fileName = folder.path(u"table.ts"_s);
         TranslationTable saved;
         saved.addString(clt, b);
         QVERIFY(saved.save(fileName));
         TranslationTable table;
-        table.setVersion(QStringLiteral("2.1"));
+        table.setVersion(u"2.1"_s);
         table.addString(clt, a);
         table.addString(net, a);
         QVERIFY(table.load(fileName));
@@ -240,7 +242,7 @@ private slots:
     void nulCannotBeWritten_data()
     {
         QTest::addColumn<TranslationMessage>("message");
-        const QString nul = QStringLiteral("x") + QChar(u'\0');
+        const QString nul = u"x"_s + QChar(u'\0');
         QTest::newRow("source") << TranslationMessage{nul, a, QString(), QString()};
         QTest::newRow("translation") << TranslationMessage{a, nul, QString(), QString()};
         QTest::newRow("comment") << TranslationMessage{a, a, QString(), nul};
@@ -264,23 +266,23 @@ private slots:
         QCOMPARE(written(table), QByteArray());
     }
 
-    void saveThatFailsLeavesTheFile()
+    void failedSaveLeavesTheFile()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QString fileName = folder.path(u"table.ts"_s);
         QVERIFY(writeBytes(fileName, "old"));
         TranslationTable table;
         table.addString(clt, QString(QChar(u'\0')));
         QVERIFY(!table.save(fileName));
         QCOMPARE(fileBytes(fileName), QByteArray("old"));
-        QVERIFY(!table.save(folder.path(QStringLiteral("missing/table.ts"))));
+        QVERIFY(!table.save(folder.path(u"missing/table.ts"_s)));
         QVERIFY(!table.save(folder.path()));
     }
 
     void savingAnUnchangedTableLeavesTheTimeStamp()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QString fileName = folder.path(u"table.ts"_s);
         TranslationTable table;
         table.addString(clt, a);
         QVERIFY(table.save(fileName));
@@ -294,117 +296,117 @@ private slots:
         QCOMPARE(QFileInfo(fileName).lastModified(), old);
     }
 
-    void damagedFileIsKeptOnceBeforeItIsReplaced()
+    void damagedFileIsCopiedOnceBeforeItIsReplaced()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.ts"));
-        const QString keptName = fileName + QStringLiteral(".damaged");
+        const QString fileName = folder.path(u"table.ts"_s);
+        const QString copyName = fileName + u".damaged"_s;
         QVERIFY(writeBytes(fileName, "<TS>\r\n<context>"));
         TranslationTable table;
         QVERIFY(!table.load(fileName));
         QVERIFY(table.save(fileName));
-        QCOMPARE(fileBytes(keptName), QByteArray("<TS>\r\n<context>"));
+        QCOMPARE(fileBytes(copyName), QByteArray("<TS>\r\n<context>"));
         table.addString(clt, a);
         QVERIFY(table.save(fileName));
-        QCOMPARE(fileBytes(keptName), QByteArray("<TS>\r\n<context>"));
+        QCOMPARE(fileBytes(copyName), QByteArray("<TS>\r\n<context>"));
     }
 
-    void damagedFileIsKeptHoweverItIsSpelled_data()
+    void damagedFileIsCopiedHoweverItsPathIsSpelled_data()
     {
         QTest::addColumn<QString>("loaded");
         QTest::addColumn<QString>("saved");
-        const QString native = m_folder.path(QStringLiteral("table.ts"));
+        const QString native = m_folder.path(u"table.ts"_s);
         const QString portable = QDir::fromNativeSeparators(native);
-        const QString roundabout = m_folder.path(QStringLiteral("./table.ts"));
+        const QString roundabout = m_folder.path(u"./table.ts"_s);
         QTest::newRow("native") << native << native;
         QTest::newRow("portable") << portable << portable;
         QTest::newRow("loaded native, saved portable") << native << portable;
         QTest::newRow("loaded portable, saved native") << portable << native;
-        QTest::newRow("by way of its folder") << native << roundabout;
+        QTest::newRow("through its folder") << native << roundabout;
     }
 
-    void damagedFileIsKeptHoweverItIsSpelled()
+    void damagedFileIsCopiedHoweverItsPathIsSpelled()
     {
         QFETCH(const QString, loaded);
         QFETCH(const QString, saved);
-        const QString keptName = m_folder.path(QStringLiteral("table.ts.damaged"));
-        QFile::remove(keptName);
+        const QString copyName = m_folder.path(u"table.ts.damaged"_s);
+        QFile::remove(copyName);
         QVERIFY(writeBytes(loaded, "<TS>"));
         TranslationTable table;
         QVERIFY(!table.load(loaded));
         QVERIFY(table.save(saved));
-        QCOMPARE(fileBytes(keptName), QByteArray("<TS>"));
+        QCOMPARE(fileBytes(copyName), QByteArray("<TS>"));
     }
 
-    void damagedFileThatCannotBeKeptIsNotReplaced()
+    void damagedFileThatCannotBeCopiedIsNotReplaced()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QString fileName = folder.path(u"table.ts"_s);
         QVERIFY(writeBytes(fileName, "<TS>"));
-        QVERIFY(QDir().mkdir(fileName + QStringLiteral(".damaged")));
+        QVERIFY(QDir().mkdir(fileName + u".damaged"_s));
         TranslationTable table;
         QVERIFY(!table.load(fileName));
         QVERIFY(!table.save(fileName));
         QCOMPARE(fileBytes(fileName), QByteArray("<TS>"));
     }
 
-    void damagedFileStaysWhenTheTableIsSavedElsewhere()
+    void damagedFileRemainsIfTheTableIsSavedElsewhere()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QString fileName = folder.path(u"table.ts"_s);
         QVERIFY(writeBytes(fileName, "<TS>"));
         TranslationTable table;
         QVERIFY(!table.load(fileName));
-        QVERIFY(table.save(folder.path(QStringLiteral("other.ts"))));
+        QVERIFY(table.save(folder.path(u"other.ts"_s)));
         QCOMPARE(fileBytes(fileName), QByteArray("<TS>"));
-        QVERIFY(!QFile::exists(fileName + QStringLiteral(".damaged")));
-        QVERIFY(!QFile::exists(folder.path(QStringLiteral("other.ts.damaged"))));
+        QVERIFY(!QFile::exists(fileName + u".damaged"_s));
+        QVERIFY(!QFile::exists(folder.path(u"other.ts.damaged"_s)));
     }
 
-    void otherFilesAreReplacedWithoutBeingKept()
+    void otherFilesAreReplacedWithoutACopy()
     {
         const TestFolder folder;
-        const QString damaged = folder.path(QStringLiteral("damaged.ts"));
-        const QString other = folder.path(QStringLiteral("other.ts"));
+        const QString damaged = folder.path(u"damaged.ts"_s);
+        const QString other = folder.path(u"other.ts"_s);
         QVERIFY(writeBytes(damaged, "<TS>"));
         QVERIFY(writeBytes(other, "old"));
         QVERIFY(TranslationTable().save(other));
         TranslationTable table;
         QVERIFY(!table.load(damaged));
         QVERIFY(table.save(other));
-        QVERIFY(!QFile::exists(other + QStringLiteral(".damaged")));
+        QVERIFY(!QFile::exists(other + u".damaged"_s));
         QCOMPARE(fileBytes(damaged), QByteArray("<TS>"));
     }
 
-    void damagedFileThatIsGoneIsNoObstacle()
+    void missingDamagedFileIsIgnored()
     {
         const TestFolder folder;
-        const QString fileName = folder.path(QStringLiteral("table.ts"));
+        const QString fileName = folder.path(u"table.ts"_s);
         QVERIFY(writeBytes(fileName, "<TS>"));
         TranslationTable table;
         QVERIFY(!table.load(fileName));
         QVERIFY(QFile::remove(fileName));
         QVERIFY(table.save(fileName));
         QVERIFY(table.save(fileName));
-        QVERIFY(!QFile::exists(fileName + QStringLiteral(".damaged")));
+        QVERIFY(!QFile::exists(fileName + u".damaged"_s));
     }
 
-    void deviceThatBreaksIsReadToThere_data()
+    void deviceThatFailsIsAnError_data()
     {
         QTest::addColumn<QByteArray>("read");
-        QTest::newRow("at once") << QByteArray();
+        QTest::newRow("immediately") << QByteArray();
         QTest::newRow("within the root") << QByteArray("<TS><defaultcodec/>");
         QTest::newRow("within a context") << QByteArray("<TS><context><name>C</name>");
         QTest::newRow("within a message") << QByteArray("<TS><context><message><source>A</source>");
         QTest::newRow("within a text") << QByteArray("<TS><context><message><source>A");
     }
 
-    void deviceThatBreaksIsReadToThere()
+    void deviceThatFailsIsAnError()
     {
         QFETCH(const QByteArray, read);
         BrokenDevice device(read);
         TranslationTable table;
-        QVERIFY(!Error::readTranslationTable(device, table).error.isEmpty());
+        QVERIFY(!Translation::readTranslationTable(device, table));
     }
 
 private:

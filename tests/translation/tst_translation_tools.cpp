@@ -8,7 +8,9 @@
 #include <QTest>
 #include <QTranslator>
 
-using Error::TranslationTable;
+using namespace Qt::Literals::StringLiterals;
+
+using Translation::TranslationTable;
 
 namespace {
 
@@ -27,8 +29,8 @@ Run run(const char *program, const QStringList &arguments)
     return {ended ? process.exitCode() : -1, process.readAll()};
 }
 
-/// Copies a file that we wrote without its "defaultcodec" element, which Qt's tools refuse since version 6,
-/// when Qt gave the codecs up. All the rest is as it is.
+/// Copies a file that we wrote without its "defaultcodec" element, which Qt's tools refuse since version 6.
+/// Nothing else is changed.
 bool copyWithoutCodec(const QString &from, const QString &to)
 {
     std::optional<QByteArray> bytes = fileBytes(from);
@@ -54,89 +56,87 @@ class tst_translation_tools : public QObject
     Q_OBJECT
 
 private slots:
-    void lreleaseTakesEveryFileOfTheCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void lreleaseAcceptsTheFilesOfAllCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
 
-    void lreleaseTakesEveryFileOfTheCases()
+    void lreleaseAcceptsTheFilesOfAllCases()
     {
         QFETCH(const QString, folder);
         const TestFolder work;
-        const QString table = work.path(QStringLiteral("table.ts"));
-        QVERIFY(copyWithoutCodec(folder + QStringLiteral("/expected.ts"), table));
+        const QString table = work.path(u"table.ts"_s);
+        QVERIFY(copyWithoutCodec(folder + u"/expected.ts"_s, table));
         const Run released = run(LRELEASE, {table});
         QVERIFY2(released.exitCode == 0, released.output.constData());
     }
 
-    void lconvertTakesEveryFileOfTheCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void lconvertAcceptsTheFilesOfAllCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
 
-    void lconvertTakesEveryFileOfTheCases()
+    void lconvertAcceptsTheFilesOfAllCases()
     {
         QFETCH(const QString, folder);
         const TestFolder work;
-        const QString table = work.path(QStringLiteral("table.ts"));
-        QVERIFY(copyWithoutCodec(folder + QStringLiteral("/expected.ts"), table));
-        const Run converted = run(LCONVERT, {QStringLiteral("-i"), table, QStringLiteral("-o"),
-                                             work.path(QStringLiteral("converted.ts"))});
+        const QString table = work.path(u"table.ts"_s);
+        QVERIFY(copyWithoutCodec(folder + u"/expected.ts"_s, table));
+        const Run converted = run(LCONVERT, {u"-i"_s, table, u"-o"_s, work.path(u"converted.ts"_s)});
         QVERIFY2(converted.exitCode == 0, converted.output.constData());
     }
 
-    void lupdateTakesEveryFileOfTheCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void lupdateAcceptsTheFilesOfAllCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
 
-    void lupdateTakesEveryFileOfTheCases()
+    void lupdateAcceptsTheFilesOfAllCases()
     {
         QFETCH(const QString, folder);
         const TestFolder work;
-        const QString table = work.path(QStringLiteral("table.ts"));
-        const QString source = work.path(QStringLiteral("empty.cpp"));
-        QVERIFY(copyWithoutCodec(folder + QStringLiteral("/expected.ts"), table));
+        const QString table = work.path(u"table.ts"_s);
+        const QString source = work.path(u"empty.cpp"_s);
+        QVERIFY(copyWithoutCodec(folder + u"/expected.ts"_s, table));
         QVERIFY(writeBytes(source, "int nothing;\n"));
-        const Run updated = run(LUPDATE, {source, QStringLiteral("-ts"), table});
+        const Run updated = run(LUPDATE, {source, u"-ts"_s, table});
         QVERIFY2(updated.exitCode == 0, updated.output.constData());
     }
 
-    void randomTablesAreTaken_data() { tableRows(); }
+    void toolsAcceptRandomTables_data() { tableRows(); }
 
-    void randomTablesAreTaken()
+    void toolsAcceptRandomTables()
     {
         QFETCH(const quint32, seed);
         const TestFolder work;
-        const QString table = work.path(QStringLiteral("table.ts"));
-        const QString converted = work.path(QStringLiteral("converted.ts"));
-        const QString ours = work.path(QStringLiteral("ours.ts"));
+        const QString table = work.path(u"table.ts"_s);
+        const QString converted = work.path(u"converted.ts"_s);
+        const QString ours = work.path(u"ours.ts"_s);
         QVERIFY(randomTranslationTable(seed).save(ours));
         QVERIFY(copyWithoutCodec(ours, table));
         const Run released = run(LRELEASE, {table});
         QVERIFY2(released.exitCode == 0, released.output.constData());
-        const Run conversion = run(LCONVERT, {QStringLiteral("-i"), table, QStringLiteral("-o"), converted});
+        const Run conversion = run(LCONVERT, {u"-i"_s, table, u"-o"_s, converted});
         QVERIFY2(conversion.exitCode == 0, conversion.output.constData());
     }
 
-    void finishedTranslationIsShownByTheProgram()
+    void programShowsFinishedTranslations()
     {
         const TestFolder work;
-        const QString table = work.path(QStringLiteral("table.ts"));
-        const QString binary = work.path(QStringLiteral("table.qm"));
+        const QString table = work.path(u"table.ts"_s);
+        const QString binary = work.path(u"table.qm"_s);
         TranslationTable written;
-        written.setVersion(QStringLiteral("2.1"));
-        written.setLanguage(QStringLiteral("de_DE"));
-        Error::TranslationContext context(QStringLiteral("Clt::Session"));
-        context.append({QStringLiteral("No server"), QStringLiteral("Kein Server 𝄞"), QString(), QString()});
-        context.append({QStringLiteral("\033[1m"), QStringLiteral("\033[2m\r"), QString(), QString()});
-        context.append(
-            {QStringLiteral("Gone"), QStringLiteral("Weg"), QStringLiteral("obsolete"), QString()});
+        written.setVersion(u"2.1"_s);
+        written.setLanguage(u"de_DE"_s);
+        Translation::TranslationContext context(u"Clt::Session"_s);
+        context.append({u"No server"_s, u"Kein Server 𝄞"_s, QString(), QString()});
+        context.append({u"\033[1m"_s, u"\033[2m\r"_s, QString(), QString()});
+        context.append({u"Gone"_s, u"Weg"_s, u"obsolete"_s, QString()});
         written.setContext(context);
-        written.addString(QStringLiteral("Clt::Session"), QStringLiteral("New"));
-        const QString ours = work.path(QStringLiteral("ours.ts"));
+        written.addString(u"Clt::Session"_s, u"New"_s);
+        const QString ours = work.path(u"ours.ts"_s);
         QVERIFY(written.save(ours));
         QVERIFY(copyWithoutCodec(ours, table));
-        const Run released = run(LRELEASE, {table, QStringLiteral("-qm"), binary});
+        const Run released = run(LRELEASE, {table, u"-qm"_s, binary});
         QVERIFY2(released.exitCode == 0, released.output.constData());
 
         QTranslator translator;
         QVERIFY(translator.load(binary));
-        QCOMPARE(translator.translate("Clt::Session", "No server"), QStringLiteral("Kein Server 𝄞"));
-        QCOMPARE(translator.translate("Clt::Session", "\033[1m"), QStringLiteral("\033[2m\r"));
+        QCOMPARE(translator.translate("Clt::Session", "No server"), u"Kein Server 𝄞"_s);
+        QCOMPARE(translator.translate("Clt::Session", "\033[1m"), u"\033[2m\r"_s);
         QCOMPARE(translator.translate("Clt::Session", "Gone"), QString());
-        QCOMPARE(translator.translate("Clt::Session", "New"), QStringLiteral("New"));
+        QCOMPARE(translator.translate("Clt::Session", "New"), u"New"_s);
     }
 };
 

@@ -10,14 +10,16 @@
 #include <QTextStream>
 #include <QTranslator>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-/// Translates every text by writing it in capitals.
-class Capitals : public QTranslator
+/// Translates every string to upper case.
+class UpperCase : public QTranslator
 {
 public:
-    Capitals() { QCoreApplication::installTranslator(this); }
-    ~Capitals() override { QCoreApplication::removeTranslator(this); }
+    UpperCase() { QCoreApplication::installTranslator(this); }
+    ~UpperCase() override { QCoreApplication::removeTranslator(this); }
     bool isEmpty() const override { return false; }
     QString translate(const char *, const char *source, const char *, int) const override
     {
@@ -28,8 +30,8 @@ public:
 Clt::MessageTable oneMessage()
 {
     Clt::Message message;
-    message.setKey({QStringLiteral("TAG"), QStringLiteral("Clt"), QStringLiteral("client")});
-    message.setText(QStringLiteral("text"));
+    message.setKey({u"TAG"_s, u"Clt"_s, u"client"_s});
+    message.setText(u"text"_s);
     Clt::MessageTable table;
     table.insert(message);
     return table;
@@ -47,7 +49,7 @@ Update update(const QString &messagesName, const QString &translationName)
     Update result;
     QTextStream log(&result.log);
     QTextStream errors(&result.errors);
-    result.done = Error::synchronizeTranslationTable(messagesName, translationName, log, errors);
+    result.done = Translation::synchronizeTranslationTable(messagesName, translationName, log, errors);
     log.flush();
     errors.flush();
     return result;
@@ -62,67 +64,67 @@ class tst_translation_update : public QObject
 private slots:
     void sourceTextsAreAddedNotTranslations()
     {
-        const Capitals translator;
+        const UpperCase translator;
         const Clt::MessageTable messages = oneMessage();
-        QCOMPARE(messages.begin()->second.text(), QStringLiteral("TEXT"));
-        Error::TranslationTable table;
-        QCOMPARE(Error::addMessageTexts(table, messages), 1);
-        QVERIFY(table.contains(QStringLiteral("Clt"), QStringLiteral("text")));
+        QCOMPARE(messages.begin()->second.text(), u"TEXT"_s);
+        Translation::TranslationTable table;
+        QCOMPARE(Translation::addMessageTexts(table, messages), 1);
+        QVERIFY(table.contains(u"Clt"_s, u"text"_s));
     }
 
     void addingAgainAddsNothing()
     {
-        Error::TranslationTable table;
-        QCOMPARE(Error::addMessageTexts(table, oneMessage()), 1);
-        QCOMPARE(Error::addMessageTexts(table, oneMessage()), 0);
+        Translation::TranslationTable table;
+        QCOMPARE(Translation::addMessageTexts(table, oneMessage()), 1);
+        QCOMPARE(Translation::addMessageTexts(table, oneMessage()), 0);
     }
 
-    void missingMessageTableStops()
+    void missingMessageTableIsAFailure()
     {
         const TestFolder folder;
-        const QString messages = folder.path(QStringLiteral("messages %1.xml"));
-        const QString translation = folder.path(QStringLiteral("table.ts"));
+        const QString messages = folder.path(u"messages %1.xml"_s);
+        const QString translation = folder.path(u"table.ts"_s);
         const Update result = update(messages, translation);
         QVERIFY(!result.done);
-        QCOMPARE(result.log, QStringLiteral("Loading message table \"") + messages +
-                                 QStringLiteral("\"...\nCould not load message table\n"));
+        QCOMPARE(result.log,
+                 u"Loading message table \""_s + messages + u"\"...\nCould not load message table\n"_s);
         QVERIFY(!QFile::exists(translation));
     }
 
-    void fileThatCannotBeWrittenFails()
+    void fileThatCannotBeWrittenIsAFailure()
     {
         const TestFolder folder;
-        const QString messages = folder.path(QStringLiteral("messages.xml"));
+        const QString messages = folder.path(u"messages.xml"_s);
         QVERIFY(oneMessage().save(messages));
-        const QString translation = folder.path(QStringLiteral("missing/table.ts"));
+        const QString translation = folder.path(u"missing/table.ts"_s);
         const Update result = update(messages, translation);
         QVERIFY(!result.done);
-        QCOMPARE(result.log, QStringLiteral("Loading message table \"") + messages +
-                                 QStringLiteral("\"...\nAdded 1 new strings to the translation table\n"
-                                                "Could not save translation table\n"));
+        QCOMPARE(result.log, u"Loading message table \""_s + messages +
+                                 u"\"...\nAdded 1 new strings to the translation table\n"
+                                 "Could not save translation table\n"_s);
     }
 
-    void damagedFileThatCannotBeKeptIsLeft()
+    void damagedFileThatCannotBeCopiedIsUnchanged()
     {
         const TestFolder folder;
-        const QString messages = folder.path(QStringLiteral("messages.xml"));
-        const QString translation = folder.path(QStringLiteral("table.ts"));
+        const QString messages = folder.path(u"messages.xml"_s);
+        const QString translation = folder.path(u"table.ts"_s);
         QVERIFY(oneMessage().save(messages));
         QVERIFY(writeBytes(translation, "<TS><context>"));
-        QVERIFY(QDir().mkdir(translation + QStringLiteral(".damaged")));
+        QVERIFY(QDir().mkdir(translation + u".damaged"_s));
         const Update result = update(messages, translation);
         QVERIFY(!result.done);
-        QVERIFY(result.log.endsWith(QStringLiteral("Could not save translation table\n")));
+        QVERIFY(result.log.endsWith(u"Could not save translation table\n"_s));
         QCOMPARE(fileBytes(translation), QByteArray("<TS><context>"));
     }
 
-    void messageTableIsOnlyRead()
+    void messageTableIsNotChanged()
     {
         const TestFolder folder;
-        const QString messages = folder.path(QStringLiteral("messages.xml"));
+        const QString messages = folder.path(u"messages.xml"_s);
         QVERIFY(oneMessage().save(messages));
         const std::optional<QByteArray> before = fileBytes(messages);
-        QVERIFY(update(messages, folder.path(QStringLiteral("table.ts"))).done);
+        QVERIFY(update(messages, folder.path(u"table.ts"_s)).done);
         QCOMPARE(fileBytes(messages), before);
     }
 };

@@ -106,13 +106,13 @@ private slots:
         const QString messages = folder.path(u"table.xml"_s);
         const QString translation = folder.path(u"table.ts"_s);
         QVERIFY(largeTable().save(messages));
-        QVERIFY(Error::TranslationTable().save(translation));
+        QVERIFY(Translation::TranslationTable().save(translation));
         const std::optional<QByteArray> before = fileBytes(translation);
         QString log;
         QTextStream stream(&log);
         {
             const FullDisk disk;
-            QVERIFY(!Error::synchronizeTranslationTable(messages, translation, stream, stream));
+            QVERIFY(!Translation::synchronizeTranslationTable(messages, translation, stream, stream));
         }
         QVERIFY(log.endsWith(u"\nCould not save translation table\n"_s));
         QCOMPARE(fileBytes(translation), before);
@@ -124,7 +124,7 @@ private slots:
         const QString fileName = folder.path(u"table.ts"_s);
         const QByteArray damaged = "<TS>" + QByteArray(2 * mostBytes, ' ');
         QVERIFY(writeBytes(fileName, damaged));
-        Error::TranslationTable table;
+        Translation::TranslationTable table;
         QVERIFY(!table.load(fileName));
         {
             const FullDisk disk;

@@ -1,43 +1,31 @@
 #pragma once
 
-#include "support/file_bytes.h"
-#include "support/recording_dialogs.h"
-#include "support/test_folder.h"
 #include "window/table_window.h"
+#include "window_fixture.h"
 
-#include <QAction>
-#include <QCoreApplication>
-#include <QDragEnterEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMimeData>
-#include <QSettings>
-#include <QStatusBar>
-#include <QTableView>
-
-inline Window::TableWindowTexts sampleTexts()
+inline Window::TableWindowTexts lineWindowTexts()
 {
+    using namespace Qt::Literals::StringLiterals;
     Window::TableWindowTexts texts;
-    texts.title = QStringLiteral("Line Utility");
-    texts.headings = QStringList{QStringLiteral("Line")};
-    texts.openTitle = QStringLiteral("Open Lines");
-    texts.saveTitle = QStringLiteral("Save Lines");
-    texts.filter = QStringLiteral("*.txt");
-    texts.notLoaded = QStringLiteral("Could not load lines");
-    texts.created = QStringLiteral("Created");
-    texts.opened = QStringLiteral("Opened %1");
-    texts.saved = QStringLiteral("Saved");
-    texts.savedAs = QStringLiteral("Saved as %1");
+    texts.title = u"Line Utility"_s;
+    texts.headings = QStringList{u"Line"_s};
+    texts.openTitle = u"Open Lines"_s;
+    texts.saveTitle = u"Save Lines"_s;
+    texts.filter = u"*.txt"_s;
+    texts.notLoaded = u"Could not load lines"_s;
+    texts.created = u"Created"_s;
+    texts.opened = u"Opened %1"_s;
+    texts.saved = u"Saved"_s;
+    texts.savedAs = u"Saved as %1"_s;
     return texts;
 }
 
-/// A window on the lines of a text file.
+/// A window on the lines of a text file. Opening an empty file acts like a user who cancels.
 class LineWindow : public Window::TableWindow
 {
 public:
     LineWindow(Window::Dialogs &dialogs, QSettings &settings)
-        : TableWindow(dialogs, settings, sampleTexts())
+        : TableWindow(dialogs, settings, lineWindowTexts())
         , m_number(new QAction(QStringLiteral("Number"), this))
     {
         m_number->setObjectName(QStringLiteral("actionNumber"));
@@ -51,14 +39,16 @@ public:
         showTable();
     }
 
-    // Works until it is cancelled or the time is over.
+    /// Works until it is cancelled or the time is over.
     void work(int milliseconds)
     {
-        Window::WindowWork work(*this, QStringLiteral("Work"), QStringLiteral("Working"));
-        QElapsedTimer timer;
-        timer.start();
-        while (timer.elapsed() < milliseconds && work.report(timer.elapsed(), milliseconds))
-            continue;
+        withProgress(QStringLiteral("Work"), QStringLiteral("Working"), [&](Window::Progress &progress) {
+            QElapsedTimer timer;
+            timer.start();
+            while (timer.elapsed() < milliseconds && progress.report(timer.elapsed(), milliseconds))
+                continue;
+            return true;
+        });
     }
 
     const QList<QByteArray> &lines() const { return m_lines; }
@@ -66,15 +56,15 @@ public:
 protected:
     void clearTable() override { m_lines.clear(); }
 
-    Window::Loading loadTable(const QString &fileName) override
+    Nvx::Util::Outcome loadTable(const QString &fileName, Window::Progress &progress) override
     {
         const std::optional<QByteArray> bytes = fileBytes(fileName);
-        if (!bytes)
-            return {Window::Loading::Outcome::Failed, QStringLiteral("no such file")};
-        if (bytes->isEmpty())
-            return {Window::Loading::Outcome::Cancelled, QString()};
+        if (bytes && bytes->isEmpty())
+            progress.cancel();
+        if (!bytes || progress.isCancelled())
+            return Nvx::Util::Failure{QStringLiteral("no such file")};
         m_lines = bytes->split('\n');
-        return {};
+        return Nvx::Util::Done();
     }
 
     bool saveTable(const QString &fileName) override { return writeBytes(fileName, m_lines.join('\n')); }
@@ -92,8 +82,8 @@ private:
     QList<QByteArray> m_lines;
 };
 
-/// A window with all that it needs, and a file of two lines.
-struct LineWindowFixture
+/// The window and a file of two lines.
+struct LineWindowFixture : WindowFixture<LineWindow>
 {
     LineWindowFixture()
     {
@@ -101,44 +91,6 @@ struct LineWindowFixture
             qFatal("cannot write");
     }
 
-    QAction *action(const char *name) { return window.findChild<QAction *>(QLatin1String(name)); }
-    bool isEnabled(const char *name) { return action(name)->isEnabled(); }
-    QString status() { return window.statusBar()->currentMessage(); }
-    QString place() { return window.findChild<QLabel *>(QStringLiteral("placeLabel"))->text(); }
-    QLineEdit *filter() { return window.findChild<QLineEdit *>(QStringLiteral("filterField")); }
-    QMenu *recentFiles() { return window.findChild<QMenu *>(QStringLiteral("menuRecentFiles")); }
-    int shownRows()
-    {
-        return window.findChild<QTableView *>(QStringLiteral("tableWidget"))->model()->rowCount();
-    }
-
-    TestFolder folder;
     QString file = folder.path(QStringLiteral("lines.txt"));
     QString otherFile = folder.path(QStringLiteral("other.txt"));
-    QSettings settings{folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat};
-    RecordingDialogs dialogs;
-    LineWindow window{dialogs, settings};
 };
-
-// Drags a file over the window and drops what comes then; whether the window wanted either.
-inline bool drop(QWidget &window, const QList<QUrl> &dragged, const QList<QUrl> &dropped)
-{
-    QMimeData mime;
-    mime.setUrls(dragged);
-    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    enter.ignore();
-    QCoreApplication::sendEvent(&window, &enter);
-    if (!enter.isAccepted())
-        return false;
-    mime.setUrls(dropped);
-    QDropEvent dropping(QPoint(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    dropping.ignore();
-    QCoreApplication::sendEvent(&window, &dropping);
-    return dropping.isAccepted();
-}
-
-// Drags a file over the window and drops it there; whether the window wanted it.
-inline bool drop(QWidget &window, const QList<QUrl> &urls)
-{
-    return drop(window, urls, urls);
-}

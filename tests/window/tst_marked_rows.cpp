@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Window::MarkedRows;
 using Window::RowMark;
 
@@ -11,10 +13,10 @@ namespace {
 MarkedRows sampleRows()
 {
     MarkedRows rows(2);
-    rows.add({QStringLiteral("client"), QStringLiteral("MeshIsEmpty")}, RowMark::None);
-    rows.add({QStringLiteral("client"), QStringLiteral("größe")}, RowMark::New);
-    rows.add({QStringLiteral("Solver"), QStringLiteral("apple")}, RowMark::Obsolete);
-    rows.add({QStringLiteral("client"), QStringLiteral("メッシュ")}, RowMark::None);
+    rows.add({u"client"_s, u"MeshIsEmpty"_s}, RowMark::None);
+    rows.add({u"client"_s, u"größe"_s}, RowMark::New);
+    rows.add({u"Solver"_s, u"apple"_s}, RowMark::Obsolete);
+    rows.add({u"client"_s, u"メッシュ"_s}, RowMark::None);
     return rows;
 }
 
@@ -25,59 +27,59 @@ class tst_marked_rows : public QObject
     Q_OBJECT
 
 private slots:
-    void rowsKeepTheirTextsAndMarks()
+    void rowsHaveTheirTextsAndMarks()
     {
         const MarkedRows rows = sampleRows();
         QCOMPARE(rows.columns(), 2);
         QCOMPARE(rows.size(), 4);
-        QCOMPARE(rows.text(2, 0), QStringLiteral("Solver"));
-        QCOMPARE(rows.text(2, 1), QStringLiteral("apple"));
+        QCOMPARE(rows.text(2, 0), u"Solver"_s);
+        QCOMPARE(rows.text(2, 1), u"apple"_s);
         QCOMPARE(rows.mark(1), RowMark::New);
         QCOMPARE(rows.mark(2), RowMark::Obsolete);
     }
 
-    void filterFindsTextInAnyColumn_data()
+    void filterMatchesAnyColumn_data()
     {
         QTest::addColumn<QString>("filter");
-        QTest::addColumn<std::vector<bool>>("with");
-        const auto row = [](const char *name, const char *filter, const std::vector<bool> &with) {
-            QTest::newRow(name) << QString::fromUtf8(filter) << with;
+        QTest::addColumn<std::vector<bool>>("matching");
+        const auto row = [](const char *name, const char *filter, const std::vector<bool> &matching) {
+            QTest::newRow(name) << QString::fromUtf8(filter) << matching;
         };
         row("no filter", "", {true, true, true, true});
         row("first column", "client", {true, true, false, true});
         row("second column", "Empty", {true, false, false, false});
-        row("other case", "mESHISeMPTY", {true, false, false, false});
-        row("other case in the rows", "solver", {false, false, true, false});
-        row("umlaut in other case", "GRÖSSE", {false, false, false, false});
+        row("different case", "mESHISeMPTY", {true, false, false, false});
+        row("different case in the rows", "solver", {false, false, true, false});
+        row("sharp s is not expanded", "GRÖSSE", {false, false, false, false});
         row("umlaut", "GRÖß", {false, true, false, false});
         row("Japanese", "ッシ", {false, false, false, true});
         row("across columns", "clientMesh", {false, false, false, false});
-        row("pattern characters stand for themselves", "M*", {false, false, false, false});
+        row("pattern characters are literal", "M*", {false, false, false, false});
     }
-    void filterFindsTextInAnyColumn()
+    void filterMatchesAnyColumn()
     {
         QFETCH(QString, filter);
-        QTEST(rowsWith(sampleRows(), filter), "with");
+        QTEST(matchingRows(sampleRows(), filter), "matching");
     }
 
-    void equalNeighboursAreFoundAlike()
+    void rowsThatShareATextAllMatch()
     {
-        const QString shared = QStringLiteral("shared");
+        const QString shared = u"shared"_s;
         MarkedRows rows(1);
         rows.add({shared}, RowMark::None);
         rows.add({shared}, RowMark::None);
-        rows.add({QStringLiteral("other")}, RowMark::None);
+        rows.add({u"other"_s}, RowMark::None);
         rows.add({shared}, RowMark::None);
-        QCOMPARE(rowsWith(rows, QStringLiteral("SHA")), (std::vector<bool>{true, true, false, true}));
+        QCOMPARE(matchingRows(rows, u"SHA"_s), (std::vector<bool>{true, true, false, true}));
     }
 
-    void textThatIsPartOfItsNeighbourIsNotTakenForIt()
+    void prefixOfThePreviousTextIsComparedItself()
     {
-        const QString whole = QStringLiteral("context");
+        const QString whole = u"context"_s;
         MarkedRows rows(1);
         rows.add({whole}, RowMark::None);
         rows.add({QString::fromRawData(whole.constData(), 3)}, RowMark::None);
-        QCOMPARE(rowsWith(rows, QStringLiteral("text")), (std::vector<bool>{true, false}));
+        QCOMPARE(matchingRows(rows, u"text"_s), (std::vector<bool>{true, false}));
     }
 
     void rowsAreSorted_data()
@@ -86,16 +88,12 @@ private slots:
         QTest::addColumn<Qt::SortOrder>("order");
         QTest::addColumn<std::vector<int>>("sorted");
         QTest::newRow("natural") << -1 << Qt::AscendingOrder << std::vector<int>{0, 1, 2, 3};
-        QTest::newRow("natural, whatever the order")
-            << -1 << Qt::DescendingOrder << std::vector<int>{0, 1, 2, 3};
-        QTest::newRow("up, equal ones as they were")
-            << 0 << Qt::AscendingOrder << std::vector<int>{0, 1, 3, 2};
-        QTest::newRow("down, equal ones as they were")
-            << 0 << Qt::DescendingOrder << std::vector<int>{2, 0, 1, 3};
-        QTest::newRow("without case") << 1 << Qt::AscendingOrder << std::vector<int>{2, 1, 0, 3};
-        QTest::newRow("the column behind the last")
-            << 2 << Qt::AscendingOrder << std::vector<int>{0, 1, 2, 3};
-        QTest::newRow("no such column") << 7 << Qt::AscendingOrder << std::vector<int>{0, 1, 2, 3};
+        QTest::newRow("natural, descending") << -1 << Qt::DescendingOrder << std::vector<int>{0, 1, 2, 3};
+        QTest::newRow("ascending, stable") << 0 << Qt::AscendingOrder << std::vector<int>{0, 1, 3, 2};
+        QTest::newRow("descending, stable") << 0 << Qt::DescendingOrder << std::vector<int>{2, 0, 1, 3};
+        QTest::newRow("case-insensitive") << 1 << Qt::AscendingOrder << std::vector<int>{2, 1, 0, 3};
+        QTest::newRow("column after the last") << 2 << Qt::AscendingOrder << std::vector<int>{0, 1, 2, 3};
+        QTest::newRow("missing column") << 7 << Qt::AscendingOrder << std::vector<int>{0, 1, 2, 3};
     }
     void rowsAreSorted()
     {

@@ -1,12 +1,14 @@
 #include "support/test_class.h"
 #include "window/marked_table_view.h"
+#include "window_fixture.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QSignalSpy>
 #include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
 
 using Window::MarkedRows;
 using Window::MarkedTableView;
@@ -14,23 +16,23 @@ using Window::RowMark;
 
 namespace {
 
-const QStringList headings{QStringLiteral("Name"), QStringLiteral("State")};
+const QStringList headings{u"Name"_s, u"State"_s};
 
 MarkedRows sampleRows()
 {
     MarkedRows rows(2);
-    rows.add({QStringLiteral("b"), QStringLiteral("New")}, RowMark::New);
-    rows.add({QStringLiteral("c"), QStringLiteral("InSync")}, RowMark::None);
-    rows.add({QStringLiteral("a"), QStringLiteral("Obsolete")}, RowMark::Obsolete);
+    rows.add({u"b"_s, u"New"_s}, RowMark::New);
+    rows.add({u"c"_s, u"InSync"_s}, RowMark::None);
+    rows.add({u"a"_s, u"Obsolete"_s}, RowMark::Obsolete);
     return rows;
 }
 
-// The first column as it is shown, "b c a".
+// The first column on the screen, for example "b c a".
 QString shown(const MarkedTableView &view)
 {
     QStringList texts;
     for (int row = 0; row < view.model()->rowCount(); ++row)
-        texts.append(view.model()->index(row, 0).data().toString());
+        texts.append(cellsOf(*view.model(), row).constFirst());
     return texts.join(u' ');
 }
 
@@ -44,14 +46,7 @@ QString selected(const MarkedTableView &view)
     return texts.join(u' ');
 }
 
-void clickHeading(MarkedTableView &view, int column)
-{
-    QHeaderView *header = view.horizontalHeader();
-    const QPoint place(header->sectionViewportPosition(column) + 10, header->height() / 2);
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-}
-
-/// A view that is shown with the sample rows.
+/// A view with the sample rows on the screen.
 class ShownView : public MarkedTableView
 {
 public:
@@ -75,9 +70,9 @@ private slots:
     void rowsAreShownInNaturalOrder()
     {
         const ShownView view;
-        QCOMPARE(shown(view), QStringLiteral("b c a"));
+        QCOMPARE(shown(view), u"b c a"_s);
         QCOMPARE(view.model()->columnCount(), 2);
-        QCOMPARE(view.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("State"));
+        QCOMPARE(view.model()->headerData(1, Qt::Horizontal).toString(), u"State"_s);
     }
 
     void cellsAreNotEditable()
@@ -90,19 +85,18 @@ private slots:
     void markedRowsHaveAToolTip()
     {
         ShownView view;
-        view.rowsModel().setMarkToolTip(RowMark::New, QStringLiteral("is new"));
-        view.rowsModel().setMarkToolTip(RowMark::Obsolete, QStringLiteral("is gone"));
+        view.rowsModel().setMarkToolTip(RowMark::New, u"is new"_s);
+        view.rowsModel().setMarkToolTip(RowMark::Obsolete, u"is gone"_s);
         const auto toolTip = [&view](int row) {
             return view.model()->index(row, 1).data(Qt::ToolTipRole).toString();
         };
-        QCOMPARE(toolTip(0), QStringLiteral("is new"));
+        QCOMPARE(toolTip(0), u"is new"_s);
         QCOMPARE(toolTip(1), QString());
-        QCOMPARE(toolTip(2), QStringLiteral("is gone"));
-        QCOMPARE(view.model()->index(2, 0).data(Qt::AccessibleDescriptionRole).toString(),
-                 QStringLiteral("is gone"));
+        QCOMPARE(toolTip(2), u"is gone"_s);
+        QCOMPARE(view.model()->index(2, 0).data(Qt::AccessibleDescriptionRole).toString(), u"is gone"_s);
     }
 
-    void wordForTheMarkStandsAtTheEndOfTheFirstCell()
+    void wordForTheMarkIsAtTheEndOfTheFirstCell()
     {
         ShownView view;
         view.setColumnWidth(0, 200);
@@ -111,11 +105,11 @@ private slots:
         const QRect end = cell.adjusted(cell.width() / 2, 0, 0, 0).translated(view.viewport()->pos());
         const auto image = [&view, &end] { return view.grab(end).toImage(); };
         const QImage before = image();
-        view.rowsModel().setMarkWord(RowMark::Obsolete, QStringLiteral("gone"));
+        view.rowsModel().setMarkWord(RowMark::Obsolete, u"gone"_s);
         QCOMPARE(view.model()->index(2, 1).data(Window::MarkedTableModel::markWordRole), QVariant());
         QCOMPARE(view.model()->index(1, 0).data(Window::MarkedTableModel::markWordRole), QVariant());
         QVERIFY(image() != before);
-        QCOMPARE(marked.data().toString(), QStringLiteral("a"));
+        QCOMPARE(marked.data().toString(), u"a"_s);
 
         const QImage withWord = image();
         view.selectRow(2);
@@ -125,7 +119,7 @@ private slots:
         QCOMPARE(image(), withWord);
     }
 
-    void markedRowsArePaintedOnTheirColour()
+    void markedRowsArePaintedInTheirColour()
     {
         ShownView view;
         const QImage image = view.grab().toImage();
@@ -137,7 +131,7 @@ private slots:
         }
     }
 
-    void whatIsNoCellHasNoText()
+    void invalidIndexHasNoText()
     {
         MarkedTableView view(headings);
         view.showRows(sampleRows());
@@ -148,78 +142,78 @@ private slots:
         QCOMPARE(model.columnCount(cell), 0);
     }
 
-    void orderOrFilterThatIsInForceResetsNothing()
+    void settingTheSameOrderOrFilterDoesNotReset()
     {
         MarkedTableView view(headings);
         view.showRows(sampleRows());
         Window::MarkedTableModel &model = view.rowsModel();
         model.sort(0, Qt::DescendingOrder);
-        model.setFilter(QStringLiteral("n"));
+        model.setFilter(u"n"_s);
         const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
         model.sort(0, Qt::DescendingOrder);
-        model.setFilter(QStringLiteral("n"));
+        model.setFilter(u"n"_s);
         QCOMPARE(resets.size(), 0);
         model.sort(0, Qt::AscendingOrder);
         model.setFilter(QString());
         QCOMPARE(resets.size(), 2);
     }
 
-    void clicksSortAndReturnToNaturalOrder()
+    void clicksSortAndRestoreTheNaturalOrder()
     {
         ShownView view;
         clickHeading(view, 0);
-        QCOMPARE(shown(view), QStringLiteral("a b c"));
+        QCOMPARE(shown(view), u"a b c"_s);
         clickHeading(view, 0);
-        QCOMPARE(shown(view), QStringLiteral("c b a"));
+        QCOMPARE(shown(view), u"c b a"_s);
         clickHeading(view, 0);
-        QCOMPARE(shown(view), QStringLiteral("b c a"));
+        QCOMPARE(shown(view), u"b c a"_s);
         clickHeading(view, 1);
-        QCOMPARE(shown(view), QStringLiteral("c b a"));
+        QCOMPARE(shown(view), u"c b a"_s);
     }
 
-    void filterNarrowsTheRows()
+    void filterHidesOtherRows()
     {
         ShownView view;
-        view.setFilter(QStringLiteral("S"));
-        QCOMPARE(shown(view), QStringLiteral("c a"));
-        view.setFilter(QStringLiteral("sync"));
-        QCOMPARE(shown(view), QStringLiteral("c"));
-        view.setFilter(QStringLiteral("no such text"));
+        view.setFilter(u"S"_s);
+        QCOMPARE(shown(view), u"c a"_s);
+        view.setFilter(u"sync"_s);
+        QCOMPARE(shown(view), u"c"_s);
+        view.setFilter(u"no such text"_s);
         QCOMPARE(shown(view), QString());
         view.setFilter(QString());
-        QCOMPARE(shown(view), QStringLiteral("b c a"));
+        QCOMPARE(shown(view), u"b c a"_s);
     }
 
-    void filterAndSortingGoTogether()
+    void filteredRowsAreSorted()
     {
         ShownView view;
-        view.setFilter(QStringLiteral("s"));
+        view.setFilter(u"s"_s);
         clickHeading(view, 0);
-        QCOMPARE(shown(view), QStringLiteral("a c"));
+        QCOMPARE(shown(view), u"a c"_s);
         view.setFilter(QString());
-        QCOMPARE(shown(view), QStringLiteral("a b c"));
+        QCOMPARE(shown(view), u"a b c"_s);
         view.showRows(sampleRows());
-        QCOMPARE(shown(view), QStringLiteral("a b c"));
+        QCOMPARE(shown(view), u"a b c"_s);
     }
 
-    void selectionStaysWithItsRows()
+    void selectionIsPreserved()
     {
         ShownView view;
         view.selectRow(1);
         clickHeading(view, 0);
-        QCOMPARE(selected(view), QStringLiteral("c"));
+        QCOMPARE(selected(view), u"c"_s);
         QCOMPARE(view.currentIndex().row(), 2);
-        view.setFilter(QStringLiteral("sync"));
-        QCOMPARE(selected(view), QStringLiteral("c"));
+        view.setFilter(u"sync"_s);
+        QCOMPARE(selected(view), u"c"_s);
         view.selectAll();
         view.setFilter(QString());
-        QCOMPARE(selected(view), QStringLiteral("c"));
+        QCOMPARE(selected(view), u"c"_s);
         view.selectAll();
         clickHeading(view, 0);
-        QCOMPARE(selected(view), QStringLiteral("a b c"));
+        QCOMPARE(selected(view), u"a b c"_s);
     }
 
-    void otherRowsAreNotSelected()
+    void newRowsAreNotSelected()
     {
         ShownView view;
         view.selectAll();
@@ -234,23 +228,23 @@ private slots:
         view.selectionModel()->select(view.model()->index(0, 0),
                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
         QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("b\tNew\na\tObsolete\n"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"b\tNew\na\tObsolete\n"_s);
     }
 
-    void copyingNothingKeepsTheClipboard()
+    void copyingWithoutASelectionPreservesTheClipboard()
     {
         ShownView view;
-        QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+        QGuiApplication::clipboard()->setText(u"before"_s);
         view.copySelectedRows();
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"before"_s);
     }
 
-    void contextMenuCopiesToo()
+    void contextMenuCopies()
     {
         const ShownView view;
         QCOMPARE(view.contextMenuPolicy(), Qt::ActionsContextMenu);
         QCOMPARE(view.actions().size(), 1);
-        QCOMPARE(view.actions().first()->objectName(), QStringLiteral("actionCopy"));
+        QCOMPARE(view.actions().first()->objectName(), u"actionCopy"_s);
     }
 };
 

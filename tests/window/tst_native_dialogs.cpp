@@ -13,21 +13,23 @@
 
 #include <functional>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Window::NativeDialogs;
 using Window::UnsavedChoice;
 
 namespace {
 
-/// Does something with the dialog that comes up next, which is to end it.
+/// Calls `act` with the next dialog, which it must close.
 template<typename Dialog>
 void withNextDialog(const std::function<void(Dialog &)> &act)
 {
     QTimer::singleShot(0, qApp, [act] {
         auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
-        QVERIFY2(dialog, "no such dialog has come up");
+        QVERIFY2(dialog, "the expected dialog was not shown");
         act(*dialog);
         if (dialog->isVisible())
-            dialog->reject(); // or it would be waited for
+            dialog->reject(); // otherwise the test would wait for it
     });
 }
 
@@ -38,38 +40,38 @@ class tst_native_dialogs : public QObject
     Q_OBJECT
 
 private slots:
-    // The dialogs of the operating system cannot be driven from here.
+    // The operating system's dialogs cannot be controlled from here.
     void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
-    void aBoxShowsItsTextAsItIs_data()
+    void messageBoxShowsPlainText_data()
     {
         QTest::addColumn<bool>("isWarning");
         QTest::newRow("warning") << true;
         QTest::newRow("information") << false;
     }
 
-    void aBoxShowsItsTextAsItIs()
+    void messageBoxShowsPlainText()
     {
         QFETCH(const bool, isWarning);
-        const QString text = QStringLiteral("C:\\<b>bold</b>.xml");
+        const QString text = u"C:\\<b>bold</b>.xml"_s;
         bool wasShown = false;
         withNextDialog<QMessageBox>([&](QMessageBox &box) {
             wasShown = true;
             QCOMPARE(box.icon(), isWarning ? QMessageBox::Warning : QMessageBox::Information);
-            QCOMPARE(box.windowTitle(), QStringLiteral("Title"));
+            QCOMPARE(box.windowTitle(), u"Title"_s);
             QCOMPARE(box.text(), text);
             QCOMPARE(box.textFormat(), Qt::PlainText);
             QVERIFY(box.standardButtons() == QMessageBox::Ok);
             box.button(QMessageBox::Ok)->click();
         });
         if (isWarning)
-            NativeDialogs().warn(nullptr, QStringLiteral("Title"), text);
+            NativeDialogs().warn(nullptr, u"Title"_s, text);
         else
-            NativeDialogs().tell(nullptr, QStringLiteral("Title"), text);
+            NativeDialogs().inform(nullptr, u"Title"_s, text);
         QVERIFY(wasShown);
     }
 
-    void theButtonDecidesOfUnsavedChanges_data()
+    void buttonDecidesAboutUnsavedChanges_data()
     {
         QTest::addColumn<int>("button");
         QTest::addColumn<int>("choice");
@@ -79,7 +81,7 @@ private slots:
         QTest::newRow("closed") << int(QMessageBox::NoButton) << int(UnsavedChoice::Cancel);
     }
 
-    void theButtonDecidesOfUnsavedChanges()
+    void buttonDecidesAboutUnsavedChanges()
     {
         QFETCH(const int, button);
         withNextDialog<QMessageBox>([button](QMessageBox &box) {
@@ -90,37 +92,36 @@ private slots:
             else
                 box.button(static_cast<QMessageBox::StandardButton>(button))->click();
         });
-        const UnsavedChoice choice =
-            NativeDialogs().askAboutUnsaved(nullptr, QStringLiteral("Title"), QStringLiteral("Save?"));
+        const UnsavedChoice choice = NativeDialogs().askAboutUnsaved(nullptr, u"Title"_s, u"Save?"_s);
         QTEST(static_cast<int>(choice), "choice");
     }
 
-    void theChosenFileIsOpened()
+    void chosenFileIsReturned()
     {
         const TestFolder folder;
-        QVERIFY(writeBytes(folder.path(QStringLiteral("a.xml")), "x"));
+        QVERIFY(writeBytes(folder.path(u"a.xml"_s), "x"));
         withNextDialog<QFileDialog>([&](QFileDialog &dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("Open"));
+            QCOMPARE(dialog.windowTitle(), u"Open"_s);
             QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
-            QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("*.xml")));
+            QCOMPARE(dialog.nameFilters(), QStringList(u"*.xml"_s));
             QCOMPARE(QDir(dialog.directory()).canonicalPath(), QDir(folder.path()).canonicalPath());
-            dialog.selectFile(QStringLiteral("a.xml"));
+            dialog.selectFile(u"a.xml"_s);
             static_cast<QDialog &>(dialog).accept();
         });
         const QString file = NativeDialogs().fileToOpen(nullptr, question("Open", folder));
-        QCOMPARE(QDir::toNativeSeparators(file), folder.path(QStringLiteral("a.xml")));
+        QCOMPARE(QDir::toNativeSeparators(file), folder.path(u"a.xml"_s));
     }
 
-    void aNameWithoutAnEndingIsSavedWithThatOfTheFilter_data()
+    void nameWithoutASuffixGetsThatOfTheFilter_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("saved");
-        QTest::newRow("without") << QStringLiteral("new") << QStringLiteral("new.xml");
-        QTest::newRow("with") << QStringLiteral("new.xml") << QStringLiteral("new.xml");
-        QTest::newRow("with another") << QStringLiteral("new.txt") << QStringLiteral("new.txt");
+        QTest::newRow("without suffix") << u"new"_s << u"new.xml"_s;
+        QTest::newRow("with suffix") << u"new.xml"_s << u"new.xml"_s;
+        QTest::newRow("with another suffix") << u"new.txt"_s << u"new.txt"_s;
     }
 
-    void aNameWithoutAnEndingIsSavedWithThatOfTheFilter()
+    void nameWithoutASuffixGetsThatOfTheFilter()
     {
         QFETCH(const QString, typed);
         QFETCH(const QString, saved);
@@ -134,7 +135,7 @@ private slots:
         QCOMPARE(QDir::toNativeSeparators(file), folder.path(saved));
     }
 
-    void aDialogThatIsCancelledNamesNoFile()
+    void cancelledDialogReturnsNoFile()
     {
         const TestFolder folder;
         const auto cancel = [](QFileDialog &dialog) { dialog.reject(); };
@@ -147,7 +148,7 @@ private slots:
 private:
     static Window::FileQuestion question(const char *title, const TestFolder &folder)
     {
-        return {QString::fromLatin1(title), folder.path(), QStringLiteral("*.xml")};
+        return {QString::fromLatin1(title), folder.path(), u"*.xml"_s};
     }
 };
 

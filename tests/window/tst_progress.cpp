@@ -9,13 +9,15 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Window::Progress;
 using Window::ProgressFile;
 
 namespace {
 
-// Reports until that is refused or the time is over; whether it was refused.
-bool reportFor(Progress &progress, int milliseconds)
+// Reports until the progress is cancelled, which returns true, or the time is over.
+bool isCancelledWithin(Progress &progress, int milliseconds)
 {
     QElapsedTimer timer;
     timer.start();
@@ -33,74 +35,74 @@ class tst_progress : public QObject
     Q_OBJECT
 
 private slots:
-    void shortWorkShowsNothing()
+    void shortOperationShowsNoDialog()
     {
-        Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 10'000);
-        QVERIFY(!reportFor(progress, 200));
+        Progress progress(nullptr, u"Title"_s, u"Text"_s, 10'000);
+        QVERIFY(!isCancelledWithin(progress, 200));
         QVERIFY(!shownProgress());
     }
 
-    void longWorkShowsHowFarItIs()
+    void longOperationShowsItsProgress()
     {
         {
-            Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 50);
+            Progress progress(nullptr, u"Title"_s, u"Text"_s, 50);
             QTRY_VERIFY(progress.report(3, 4) && shownProgress());
             const QProgressDialog *dialog = shownProgress();
-            QCOMPARE(dialog->windowTitle(), QStringLiteral("Title"));
-            QCOMPARE(dialog->labelText(), QStringLiteral("Text"));
+            QCOMPARE(dialog->windowTitle(), u"Title"_s);
+            QCOMPARE(dialog->labelText(), u"Text"_s);
             QCOMPARE(dialog->value(), dialog->maximum() * 3 / 4);
         }
         QVERIFY(!shownProgress());
     }
 
-    void cancelButtonEndsTheWork()
+    void cancelButtonEndsTheOperation()
     {
-        Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 0);
+        Progress progress(nullptr, u"Title"_s, u"Text"_s, 0);
         QTimer::singleShot(100, this, [] {
             if (const QProgressDialog *dialog = shownProgress())
                 dialog->findChild<QPushButton *>()->click();
         });
-        QVERIFY(reportFor(progress, 20'000));
+        QVERIFY(isCancelledWithin(progress, 20'000));
         QVERIFY(progress.isCancelled());
         QVERIFY(!progress.report(1, 2));
     }
 
-    void sizesOverTheDialogsRangeAreShown()
+    void sizesAboveTheDialogsRangeAreShown()
     {
-        Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 0);
+        Progress progress(nullptr, u"Title"_s, u"Text"_s, 0);
         constexpr qint64 large = Q_INT64_C(1) << 40;
         QVERIFY(progress.report(large / 2, large));
         QCOMPARE(shownProgress()->value(), shownProgress()->maximum() / 2);
     }
 
-    void workOfUnknownSizeIsAtItsBeginning()
+    void operationOfUnknownSizeShowsNoProgress()
     {
-        Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), 0);
+        Progress progress(nullptr, u"Title"_s, u"Text"_s, 0);
         QVERIFY(progress.report(7, 0));
         QCOMPARE(shownProgress()->value(), 0);
     }
 
-    void fileIsReadToItsEnd()
+    void wholeFileIsRead()
     {
         const TestFolder folder;
         const QByteArray bytes(100'000, 'x');
-        QVERIFY(writeBytes(folder.path(QStringLiteral("file")), bytes));
-        Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"));
-        ProgressFile file(folder.path(QStringLiteral("file")), progress);
+        QVERIFY(writeBytes(folder.path(u"file"_s), bytes));
+        Progress progress(nullptr, u"Title"_s, u"Text"_s);
+        ProgressFile file(folder.path(u"file"_s), progress);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), bytes);
     }
 
-    void cancelledFileIsNotReadOn()
+    void readingStopsOnceCancelled()
     {
         const TestFolder folder;
-        QVERIFY(writeBytes(folder.path(QStringLiteral("file")), QByteArray(1'000'000, 'x')));
-        Progress progress(nullptr, QStringLiteral("Title"), QStringLiteral("Text"));
-        ProgressFile file(folder.path(QStringLiteral("file")), progress);
+        QVERIFY(writeBytes(folder.path(u"file"_s), QByteArray(1'000'000, 'x')));
+        Progress progress(nullptr, u"Title"_s, u"Text"_s);
+        ProgressFile file(folder.path(u"file"_s), progress);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.read(10).size(), 10);
         progress.cancel();
-        QVERIFY(file.readAll().size() < 100'000); // what was read ahead
+        QVERIFY(file.readAll().size() < 100'000); // the buffer
         QVERIFY(file.atEnd());
     }
 };

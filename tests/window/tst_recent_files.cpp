@@ -7,12 +7,14 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Window::RecentFiles;
 using Window::withRecent;
 
 namespace {
 
-const QStringList abc{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+const QStringList abc{u"a"_s, u"b"_s, u"c"_s};
 
 } // namespace
 
@@ -23,16 +25,16 @@ class tst_recent_files : public QObject
 private slots:
     void latestFileComesFirst()
     {
-        QCOMPARE(withRecent(abc, QStringLiteral("d"), 8).join(u' '), QStringLiteral("d a b c"));
-        QCOMPARE(withRecent(abc, QStringLiteral("c"), 8).join(u' '), QStringLiteral("c a b"));
-        QCOMPARE(withRecent(abc, QStringLiteral("d"), 3).join(u' '), QStringLiteral("d a b"));
+        QCOMPARE(withRecent(abc, u"d"_s, 8).join(u' '), u"d a b c"_s);
+        QCOMPARE(withRecent(abc, u"c"_s, 8).join(u' '), u"c a b"_s);
+        QCOMPARE(withRecent(abc, u"d"_s, 3).join(u' '), u"d a b"_s);
     }
 
-    void menuRemembersItsFiles()
+    void menuIsStored()
     {
         const TestFolder folder;
-        QSettings settings(folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
-        const QString file = folder.path(QStringLiteral("größe & メ.xml"));
+        QSettings settings(folder.path(u"settings.ini"_s), QSettings::IniFormat);
+        const QString file = folder.path(u"größe & メ.xml"_s);
         {
             RecentFiles menu(settings);
             QVERIFY(!menu.isEnabled());
@@ -42,42 +44,42 @@ private slots:
         RecentFiles menu(settings);
         QCOMPARE(menu.files(), QStringList(file));
         QCOMPARE(menu.actions().size(), 1);
-        QVERIFY(menu.actions().first()->text().endsWith(QStringLiteral("größe && メ.xml")));
+        QVERIFY(menu.actions().first()->text().endsWith(u"größe && メ.xml"_s));
     }
 
-    void chosenFileIsTold()
+    void chosenFileIsSignalled()
     {
         const TestFolder folder;
-        QSettings settings(folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
+        QSettings settings(folder.path(u"settings.ini"_s), QSettings::IniFormat);
         RecentFiles menu(settings);
-        menu.add(folder.path(QStringLiteral("a.xml")));
-        menu.add(folder.path(QStringLiteral("b.xml")));
+        menu.add(folder.path(u"a.xml"_s));
+        menu.add(folder.path(u"b.xml"_s));
         QSignalSpy chosen(&menu, &RecentFiles::chosen);
         menu.actions().at(1)->trigger();
         QCOMPARE(chosen.size(), 1);
-        QCOMPARE(chosen.first().first().toString(), folder.path(QStringLiteral("a.xml")));
+        QCOMPARE(chosen.first().first().toString(), folder.path(u"a.xml"_s));
     }
 
-    void removedFileIsForgotten()
+    void removedFileIsNotStored()
     {
         const TestFolder folder;
-        QSettings settings(folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
+        QSettings settings(folder.path(u"settings.ini"_s), QSettings::IniFormat);
         RecentFiles menu(settings);
-        menu.add(folder.path(QStringLiteral("a.xml")));
-        menu.remove(folder.path(QStringLiteral("a.xml")));
+        menu.add(folder.path(u"a.xml"_s));
+        menu.remove(folder.path(u"a.xml"_s));
         QVERIFY(menu.actions().isEmpty());
         QVERIFY(RecentFiles(settings).files().isEmpty());
     }
 
-    void listDoesNotGrowForEver()
+    void listHasAMaximum()
     {
         const TestFolder folder;
-        QSettings settings(folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
+        QSettings settings(folder.path(u"settings.ini"_s), QSettings::IniFormat);
         RecentFiles menu(settings);
         for (int number = 0; number < 20; ++number)
             menu.add(folder.path(QString::number(number)));
-        QCOMPARE(menu.files().size(), RecentFiles::most);
-        QCOMPARE(menu.files().first(), folder.path(QStringLiteral("19")));
+        QCOMPARE(menu.files().size(), RecentFiles::maximum);
+        QCOMPARE(menu.files().first(), folder.path(u"19"_s));
     }
 };
 

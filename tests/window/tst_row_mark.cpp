@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Window::RowMark;
 
 namespace {
@@ -19,7 +21,7 @@ double luminance(const QColor &color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-// As accessibility guidelines define it: from 1, the same, to 21, black on white.
+// As defined by accessibility guidelines: 1 for equal colours, 21 for black on white.
 double contrast(const QColor &first, const QColor &second)
 {
     const auto [darker, lighter] = std::minmax({luminance(first), luminance(second)});
@@ -32,7 +34,7 @@ int distance(const QColor &first, const QColor &second)
            std::abs(first.blue() - second.blue());
 }
 
-// Whether 28 of 100 parts of the colour are of the tint.
+// True if the colour is 28 % tint and 72 % base.
 bool isTinted(const QColor &color, const QColor &base, const QColor &tint)
 {
     constexpr double tolerance = 0.0005;
@@ -82,22 +84,22 @@ private slots:
     {
         QFETCH(QPalette, palette);
         const QColor base = palette.color(QPalette::Base);
-        QVERIFY(isTinted(markColor(palette, RowMark::New), base, QColor(QStringLiteral("#2ea043"))));
-        QVERIFY(isTinted(markColor(palette, RowMark::Obsolete), base, QColor(QStringLiteral("#d97a06"))));
+        QVERIFY(isTinted(markColor(palette, RowMark::New), base, QColor(u"#2ea043"_s)));
+        QVERIFY(isTinted(markColor(palette, RowMark::Obsolete), base, QColor(u"#d97a06"_s)));
     }
 
-    void marksAreToldApart_data() { addPaletteRows(); }
-    void marksAreToldApart()
+    void marksDifferVisibly_data() { addPaletteRows(); }
+    void marksDifferVisibly()
     {
-        constexpr int plain = 40;
+        constexpr int visible = 40;
         QFETCH(QPalette, palette);
         const QColor none = markColor(palette, RowMark::None);
         const QColor fresh = markColor(palette, RowMark::New);
         const QColor obsolete = markColor(palette, RowMark::Obsolete);
         QCOMPARE(none, palette.color(QPalette::Base));
-        QVERIFY(distance(fresh, none) >= plain);
-        QVERIFY(distance(obsolete, none) >= plain);
-        QVERIFY(distance(fresh, obsolete) >= plain);
+        QVERIFY(distance(fresh, none) >= visible);
+        QVERIFY(distance(obsolete, none) >= visible);
+        QVERIFY(distance(fresh, obsolete) >= visible);
     }
 };
 

@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Window::UnsavedChoice;
 
 class tst_table_window : public QObject
@@ -11,58 +13,54 @@ class tst_table_window : public QObject
 
 private slots:
     void atStartUpOnlyNewOpenAndExitAreEnabled();
-    void newTableEnablesTheRest();
-    void openedFileIsShownAndRemembered();
+    void newTableEnablesAllActions();
+    void openedFileIsShownAndItsFolderStored();
     void cancelledDialogChangesNothing();
-    void failedOpeningKeepsTheTable();
-    void cancelledLoadingKeepsTheTable();
-    void folderOfARefusedFileIsWhereTheNextDialogStarts();
+    void failedOpeningPreservesTheTable();
+    void cancelledLoadingPreservesTheTable();
+    void nextDialogStartsInTheFolderOfAFailedFile();
     void saveDialogStartsInTheFolderOfTheFileUsedLast();
-    void savingAsksForANameOnce();
+    void savingAsksForANameOnlyOnce();
     void saveIsDisabledUntilTheTableChanges();
-    void failedSavingKeepsTheTableUnsaved();
-    void unsavedChangesAreAskedFor_data();
-    void unsavedChangesAreAskedFor();
-    void failedSavingKeepsTheWindowOpen();
+    void tableRemainsUnsavedAfterAFailedSave();
+    void userIsAskedAboutUnsavedChanges_data();
+    void userIsAskedAboutUnsavedChanges();
+    void windowRemainsOpenAfterAFailedSave();
 };
 
 void tst_table_window::atStartUpOnlyNewOpenAndExitAreEnabled()
 {
     LineWindowFixture f;
-    for (const char *name : {"actionNew", "actionOpen", "actionExit"})
-        QVERIFY2(f.isEnabled(name), name);
-    for (const char *name : {"actionSave", "actionSaveAs", "actionNumber"})
-        QVERIFY2(!f.isEnabled(name), name);
+    QVERIFY(f.areTableActionsEnabled(false, {"actionNumber"}));
     QVERIFY(!f.filter()->isEnabled());
     QVERIFY(!f.recentFiles()->isEnabled());
 }
 
-void tst_table_window::newTableEnablesTheRest()
+void tst_table_window::newTableEnablesAllActions()
 {
     LineWindowFixture f;
     f.window.newTable();
-    for (const char *name : {"actionSave", "actionSaveAs", "actionNumber"})
-        QVERIFY2(f.isEnabled(name), name);
+    QVERIFY(f.areTableActionsEnabled(true, {"actionNumber"}));
     QVERIFY(f.filter()->isEnabled());
     QVERIFY(!f.window.hasUnsavedChanges());
-    QCOMPARE(f.status(), QStringLiteral("Created"));
-    QCOMPARE(f.window.statusBar()->toolTip(), QStringLiteral("Created"));
-    QCOMPARE(f.place(), QStringLiteral("Untitled   Rows: 0"));
+    QCOMPARE(f.status(), u"Created"_s);
+    QCOMPARE(f.window.statusBar()->toolTip(), u"Created"_s);
+    QCOMPARE(f.place(), u"Untitled   Rows: 0"_s);
 }
 
-void tst_table_window::openedFileIsShownAndRemembered()
+void tst_table_window::openedFileIsShownAndItsFolderStored()
 {
     LineWindowFixture f;
     f.dialogs.fileToChoose = f.file;
     f.action("actionOpen")->trigger();
     QCOMPARE(f.dialogs.openQuestions.size(), 1);
-    QCOMPARE(f.dialogs.openQuestions.first().title, QStringLiteral("Open Lines"));
-    QCOMPARE(f.dialogs.openQuestions.first().filter, QStringLiteral("*.txt"));
+    QCOMPARE(f.dialogs.openQuestions.first().title, u"Open Lines"_s);
+    QCOMPARE(f.dialogs.openQuestions.first().filter, u"*.txt"_s);
     QCOMPARE(f.dialogs.openQuestions.first().folder, QString());
     QCOMPARE(f.window.fileName(), f.file);
-    QCOMPARE(f.status(), QStringLiteral("Opened %1").arg(f.file));
-    QCOMPARE(f.shownRows(), 2);
-    QCOMPARE(f.place(), QStringLiteral("lines.txt   Rows: 2"));
+    QCOMPARE(f.status(), u"Opened %1"_s.arg(f.file));
+    QCOMPARE(f.rowCount(), 2);
+    QCOMPARE(f.place(), u"lines.txt   Rows: 2"_s);
     QVERIFY(f.isEnabled("actionSave"));
     QVERIFY(f.isEnabled("actionNumber"));
 
@@ -78,24 +76,23 @@ void tst_table_window::cancelledDialogChangesNothing()
     f.window.open();
     QVERIFY(!f.window.saveAs());
     QCOMPARE(f.window.fileName(), f.file);
-    QCOMPARE(f.shownRows(), 2);
+    QCOMPARE(f.rowCount(), 2);
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void tst_table_window::failedOpeningKeepsTheTable()
+void tst_table_window::failedOpeningPreservesTheTable()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
     QVERIFY(!f.window.openFile(f.otherFile));
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Open Lines"));
-    QCOMPARE(f.dialogs.warnings.first().text,
-             QStringLiteral("Could not load lines\n\n%1\nno such file").arg(f.otherFile));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Open Lines"_s);
+    QCOMPARE(f.dialogs.warnings.first().text, u"Could not load lines\n\n%1\nno such file"_s.arg(f.otherFile));
     QCOMPARE(f.window.fileName(), f.file);
-    QCOMPARE(f.shownRows(), 2);
+    QCOMPARE(f.rowCount(), 2);
 }
 
-void tst_table_window::cancelledLoadingKeepsTheTable()
+void tst_table_window::cancelledLoadingPreservesTheTable()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -103,27 +100,27 @@ void tst_table_window::cancelledLoadingKeepsTheTable()
     QVERIFY(!f.window.openFile(f.otherFile));
     QVERIFY(f.dialogs.warnings.isEmpty());
     QCOMPARE(f.window.fileName(), f.file);
-    QCOMPARE(f.shownRows(), 2);
+    QCOMPARE(f.rowCount(), 2);
 }
 
-void tst_table_window::folderOfARefusedFileIsWhereTheNextDialogStarts()
+void tst_table_window::nextDialogStartsInTheFolderOfAFailedFile()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
-    QVERIFY(QDir().mkpath(f.folder.path(QStringLiteral("read/lines"))));
-    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("read/missing.txt"));
+    QVERIFY(QDir().mkpath(f.folder.path(u"read/lines"_s)));
+    f.dialogs.fileToChoose = f.folder.path(u"read/missing.txt"_s);
     f.window.open();
     QCOMPARE(f.dialogs.warnings.size(), 1);
 
-    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("read/lines")); // a folder cannot be written
+    f.dialogs.fileToChoose = f.folder.path(u"read/lines"_s); // a folder cannot be written
     QVERIFY(!f.window.saveAs());
-    QCOMPARE(f.dialogs.saveQuestions.last().folder, f.folder.path(QStringLiteral("read")));
+    QCOMPARE(f.dialogs.saveQuestions.last().folder, f.folder.path(u"read"_s));
     QCOMPARE(f.dialogs.warnings.size(), 2);
 
-    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("no such folder/lines.txt"));
+    f.dialogs.fileToChoose = f.folder.path(u"no such folder/lines.txt"_s);
     QVERIFY(!f.window.saveAs());
     f.window.open();
-    QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path(QStringLiteral("no such folder")));
+    QCOMPARE(f.dialogs.openQuestions.last().folder, f.folder.path(u"no such folder"_s));
 }
 
 void tst_table_window::saveDialogStartsInTheFolderOfTheFileUsedLast()
@@ -137,16 +134,16 @@ void tst_table_window::saveDialogStartsInTheFolderOfTheFileUsedLast()
     QCOMPARE(f.dialogs.saveQuestions.last().folder, f.folder.path());
 
     f.window.newTable();
-    QVERIFY(QDir().mkpath(f.folder.path(QStringLiteral("written"))));
-    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("written/lines.txt"));
+    QVERIFY(QDir().mkpath(f.folder.path(u"written"_s)));
+    f.dialogs.fileToChoose = f.folder.path(u"written/lines.txt"_s);
     QVERIFY(f.window.saveAs());
     f.window.newTable();
     f.dialogs.fileToChoose.clear();
     QVERIFY(!f.window.save());
-    QCOMPARE(f.dialogs.saveQuestions.last().folder, f.folder.path(QStringLiteral("written")));
+    QCOMPARE(f.dialogs.saveQuestions.last().folder, f.folder.path(u"written"_s));
 }
 
-void tst_table_window::savingAsksForANameOnce()
+void tst_table_window::savingAsksForANameOnlyOnce()
 {
     LineWindowFixture f;
     f.window.newTable();
@@ -154,16 +151,16 @@ void tst_table_window::savingAsksForANameOnce()
     f.dialogs.fileToChoose = f.otherFile;
     f.action("actionSave")->trigger();
     QCOMPARE(f.dialogs.saveQuestions.size(), 1);
-    QCOMPARE(f.dialogs.saveQuestions.first().title, QStringLiteral("Save Lines"));
-    QCOMPARE(f.dialogs.saveQuestions.first().filter, QStringLiteral("*.txt"));
-    QCOMPARE(f.status(), QStringLiteral("Saved"));
+    QCOMPARE(f.dialogs.saveQuestions.first().title, u"Save Lines"_s);
+    QCOMPARE(f.dialogs.saveQuestions.first().filter, u"*.txt"_s);
+    QCOMPARE(f.status(), u"Saved"_s);
     QCOMPARE(f.window.fileName(), f.otherFile);
     QCOMPARE(fileBytes(f.otherFile), QByteArray("new"));
 
     f.window.addLine("newer");
     f.action("actionSave")->trigger();
     QCOMPARE(f.dialogs.saveQuestions.size(), 1);
-    QCOMPARE(f.status(), QStringLiteral("Saved"));
+    QCOMPARE(f.status(), u"Saved"_s);
     QCOMPARE(fileBytes(f.otherFile), QByteArray("new\nnewer"));
 }
 
@@ -176,43 +173,42 @@ void tst_table_window::saveIsDisabledUntilTheTableChanges()
     QVERIFY(f.isEnabled("actionSaveAs"));
     f.window.addLine("three");
     QVERIFY(f.isEnabled("actionSave"));
-    QVERIFY(f.place().startsWith(QStringLiteral("lines.txt (not saved)")));
+    QVERIFY(f.place().startsWith(u"lines.txt (not saved)"_s));
     QVERIFY(f.window.save());
     QVERIFY(!f.window.hasUnsavedChanges());
-    QVERIFY(f.place().startsWith(QStringLiteral("lines.txt  ")));
+    QVERIFY(f.place().startsWith(u"lines.txt  "_s));
 }
 
-void tst_table_window::failedSavingKeepsTheTableUnsaved()
+void tst_table_window::tableRemainsUnsavedAfterAFailedSave()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
     f.window.addLine("three");
-    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("no such folder/lines.txt"));
+    f.dialogs.fileToChoose = f.folder.path(u"no such folder/lines.txt"_s);
     QVERIFY(!f.window.saveAs());
     QCOMPARE(f.dialogs.warnings.size(), 1);
-    QCOMPARE(f.dialogs.warnings.first().title, QStringLiteral("Save Lines"));
-    QVERIFY(f.dialogs.warnings.first().text.startsWith(
-        QStringLiteral("Could not save %1\n").arg(f.dialogs.fileToChoose)));
+    QCOMPARE(f.dialogs.warnings.first().title, u"Save Lines"_s);
+    QVERIFY(f.dialogs.warnings.first().text.startsWith(u"Could not save %1\n"_s.arg(f.dialogs.fileToChoose)));
     QVERIFY(f.window.hasUnsavedChanges());
     QVERIFY(f.isEnabled("actionSave"));
     QCOMPARE(f.window.fileName(), f.file);
-    QCOMPARE(f.shownRows(), 3);
+    QCOMPARE(f.rowCount(), 3);
 }
 
-void tst_table_window::unsavedChangesAreAskedFor_data()
+void tst_table_window::userIsAskedAboutUnsavedChanges_data()
 {
-    QTest::addColumn<QString>("order");
+    QTest::addColumn<QString>("command");
     QTest::addColumn<UnsavedChoice>("choice");
-    for (const char *order : {"new", "open", "drop", "recent", "exit"}) {
-        QTest::addRow("%s, cancel", order) << QString::fromLatin1(order) << UnsavedChoice::Cancel;
-        QTest::addRow("%s, discard", order) << QString::fromLatin1(order) << UnsavedChoice::Discard;
-        QTest::addRow("%s, save", order) << QString::fromLatin1(order) << UnsavedChoice::Save;
+    for (const char *command : {"new", "open", "drop", "recent", "exit"}) {
+        QTest::addRow("%s, cancel", command) << QString::fromLatin1(command) << UnsavedChoice::Cancel;
+        QTest::addRow("%s, discard", command) << QString::fromLatin1(command) << UnsavedChoice::Discard;
+        QTest::addRow("%s, save", command) << QString::fromLatin1(command) << UnsavedChoice::Save;
     }
 }
 
-void tst_table_window::unsavedChangesAreAskedFor()
+void tst_table_window::userIsAskedAboutUnsavedChanges()
 {
-    QFETCH(QString, order);
+    QFETCH(QString, command);
     QFETCH(UnsavedChoice, choice);
     LineWindowFixture f;
     QVERIFY(writeBytes(f.otherFile, "other"));
@@ -222,40 +218,40 @@ void tst_table_window::unsavedChangesAreAskedFor()
     f.dialogs.choice = choice;
     f.dialogs.fileToChoose = f.otherFile;
 
-    if (order == QLatin1String("new")) {
+    if (command == "new"_L1) {
         f.action("actionNew")->trigger();
-    } else if (order == QLatin1String("open")) {
+    } else if (command == "open"_L1) {
         f.action("actionOpen")->trigger();
-    } else if (order == QLatin1String("drop")) {
+    } else if (command == "drop"_L1) {
         QVERIFY(drop(f.window, {QUrl::fromLocalFile(f.otherFile)}));
         QCoreApplication::processEvents();
-    } else if (order == QLatin1String("recent")) {
+    } else if (command == "recent"_L1) {
         f.recentFiles()->actions().first()->trigger();
     } else {
         f.action("actionExit")->trigger();
     }
 
     QCOMPARE(f.dialogs.unsavedQuestions.size(), 1);
-    QCOMPARE(f.dialogs.unsavedQuestions.first().title, QStringLiteral("Line Utility"));
-    QVERIFY(f.dialogs.unsavedQuestions.first().text.startsWith(QStringLiteral("lines.txt ")));
+    QCOMPARE(f.dialogs.unsavedQuestions.first().title, u"Line Utility"_s);
+    QVERIFY(f.dialogs.unsavedQuestions.first().text.startsWith(u"lines.txt "_s));
     const bool isSaved = choice == UnsavedChoice::Save;
     QCOMPARE(fileBytes(f.file), QByteArray(isSaved ? "one\ntwo\nthree" : "one\ntwo"));
-    const bool isKept = choice == UnsavedChoice::Cancel;
-    QCOMPARE(f.window.hasUnsavedChanges(), isKept || (order == QLatin1String("exit") && !isSaved));
-    if (order == QLatin1String("exit"))
-        QCOMPARE(f.window.isVisible(), isKept);
+    const bool remains = choice == UnsavedChoice::Cancel;
+    QCOMPARE(f.window.hasUnsavedChanges(), remains || (command == "exit"_L1 && !isSaved));
+    if (command == "exit"_L1)
+        QCOMPARE(f.window.isVisible(), remains);
     else
-        QCOMPARE(f.window.lines().size() == 3 && !isSaved, isKept);
+        QCOMPARE(f.window.lines().size() == 3 && !isSaved, remains);
 }
 
-void tst_table_window::failedSavingKeepsTheWindowOpen()
+void tst_table_window::windowRemainsOpenAfterAFailedSave()
 {
     LineWindowFixture f;
     f.window.newTable();
     f.window.show();
     f.window.addLine("one");
     f.dialogs.choice = UnsavedChoice::Save;
-    f.dialogs.fileToChoose = f.folder.path(QStringLiteral("no such folder/lines.txt"));
+    f.dialogs.fileToChoose = f.folder.path(u"no such folder/lines.txt"_s);
     QVERIFY(!f.window.close());
     QVERIFY(f.window.isVisible());
     f.dialogs.fileToChoose.clear();

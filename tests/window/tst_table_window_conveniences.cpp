@@ -6,24 +6,26 @@
 #include <QTimer>
 #include <QToolBar>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_table_window_conveniences : public QObject
 {
     Q_OBJECT
 
 private slots:
     void oneDroppedFileIsOpened();
-    void otherThingsAreNotDropped();
-    void fileOfTheCommandLineIsOpened();
-    void recentFilesAreOpened();
-    void recentFileThatIsGoneIsForgotten();
-    void filterNarrowsTheRows();
-    void filterStandsAtTheEndOfTheToolBar();
-    void controlFGoesToTheFilterAndEscapeEmptiesIt();
-    void geometryWidthsAndFolderAreRemembered();
-    void geometryThatIsNoneIsNotTaken();
-    void closingDuringWorkCancelsItFirst();
-    void noOrdersAreTakenDuringWork();
-    void aboutNamesTheProgram();
+    void otherUrlsAreNotAccepted();
+    void fileOnTheCommandLineIsOpened();
+    void recentFileIsOpened();
+    void missingRecentFileIsRemoved();
+    void filterHidesOtherRows();
+    void filterIsAtTheEndOfTheToolBar();
+    void controlFFocusesTheFilterAndEscapeClearsIt();
+    void geometryAndFolderAreRestored();
+    void invalidGeometryIsIgnored();
+    void closingDuringAnOperationCancelsIt();
+    void busyWindowAcceptsNoCommands();
+    void aboutShowsTheProgramsName();
 };
 
 void tst_table_window_conveniences::oneDroppedFileIsOpened()
@@ -31,24 +33,24 @@ void tst_table_window_conveniences::oneDroppedFileIsOpened()
     LineWindowFixture f;
     QVERIFY(drop(f.window, {QUrl::fromLocalFile(f.file)}));
     QTRY_COMPARE(f.window.fileName(), f.file);
-    QCOMPARE(f.shownRows(), 2);
+    QCOMPARE(f.rowCount(), 2);
 }
 
-void tst_table_window_conveniences::otherThingsAreNotDropped()
+void tst_table_window_conveniences::otherUrlsAreNotAccepted()
 {
     LineWindowFixture f;
     QVERIFY(!drop(f.window, {}));
-    QVERIFY(!drop(f.window, {QUrl(QStringLiteral("http://www.velmora.example/lines.txt"))}));
+    QVERIFY(!drop(f.window, {QUrl(u"http://www.velmora.example/lines.txt"_s)}));
     QVERIFY(!drop(f.window, {QUrl::fromLocalFile(f.file), QUrl::fromLocalFile(f.otherFile)}));
 
-    // Nor when something else was announced.
+    // Nor if the dropped list differs from the dragged one.
     QVERIFY(!drop(f.window, {QUrl::fromLocalFile(f.file)}, {}));
     QCoreApplication::processEvents();
     QVERIFY(f.window.fileName().isEmpty());
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void tst_table_window_conveniences::fileOfTheCommandLineIsOpened()
+void tst_table_window_conveniences::fileOnTheCommandLineIsOpened()
 {
     LineWindowFixture f;
     Window::openNamedFile(f.window, {});
@@ -57,7 +59,7 @@ void tst_table_window_conveniences::fileOfTheCommandLineIsOpened()
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 
-void tst_table_window_conveniences::recentFilesAreOpened()
+void tst_table_window_conveniences::recentFileIsOpened()
 {
     LineWindowFixture f;
     QVERIFY(writeBytes(f.otherFile, "other"));
@@ -69,7 +71,7 @@ void tst_table_window_conveniences::recentFilesAreOpened()
     QCOMPARE(f.window.fileName(), f.file);
 }
 
-void tst_table_window_conveniences::recentFileThatIsGoneIsForgotten()
+void tst_table_window_conveniences::missingRecentFileIsRemoved()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -81,28 +83,28 @@ void tst_table_window_conveniences::recentFileThatIsGoneIsForgotten()
     QVERIFY(!menu->isEnabled());
 }
 
-void tst_table_window_conveniences::filterNarrowsTheRows()
+void tst_table_window_conveniences::filterHidesOtherRows()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
-    QTest::keyClicks(f.filter(), QStringLiteral("TW"));
-    QCOMPARE(f.shownRows(), 1);
-    QCOMPARE(f.place(), QStringLiteral("lines.txt   Rows: 1 of 2"));
+    QTest::keyClicks(f.filter(), u"TW"_s);
+    QCOMPARE(f.rowCount(), 1);
+    QCOMPARE(f.place(), u"lines.txt   Rows: 1 of 2"_s);
 }
 
-void tst_table_window_conveniences::filterStandsAtTheEndOfTheToolBar()
+void tst_table_window_conveniences::filterIsAtTheEndOfTheToolBar()
 {
     LineWindowFixture f;
     f.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&f.window));
-    auto *bar = f.window.findChild<QToolBar *>(QStringLiteral("mainToolBar"));
+    auto *bar = f.window.findChild<QToolBar *>(u"mainToolBar"_s);
     QCOMPARE(bar->widgetForAction(bar->actions().last()), f.filter());
     const QWidget *last = bar->widgetForAction(f.action("actionNumber"));
     QVERIFY(last->mapTo(bar, QPoint(last->width(), 0)).x() < f.filter()->x());
     QVERIFY(bar->width() - f.filter()->geometry().right() < 20);
 }
 
-void tst_table_window_conveniences::controlFGoesToTheFilterAndEscapeEmptiesIt()
+void tst_table_window_conveniences::controlFFocusesTheFilterAndEscapeClearsIt()
 {
     LineWindowFixture f;
     QVERIFY(f.window.openFile(f.file));
@@ -111,18 +113,18 @@ void tst_table_window_conveniences::controlFGoesToTheFilterAndEscapeEmptiesIt()
     QVERIFY(QTest::qWaitForWindowActive(&f.window));
     QTest::keyClick(&f.window, Qt::Key_F, Qt::ControlModifier);
     QVERIFY(f.filter()->hasFocus());
-    QTest::keyClicks(f.filter(), QStringLiteral("tw"));
+    QTest::keyClicks(f.filter(), u"tw"_s);
     QTest::keyClick(f.filter(), Qt::Key_Escape);
     QCOMPARE(f.filter()->text(), QString());
-    QCOMPARE(f.shownRows(), 2);
+    QCOMPARE(f.rowCount(), 2);
 }
 
-void tst_table_window_conveniences::geometryWidthsAndFolderAreRemembered()
+void tst_table_window_conveniences::geometryAndFolderAreRestored()
 {
     const TestFolder folder;
-    const QString file = folder.path(QStringLiteral("lines.txt"));
+    const QString file = folder.path(u"lines.txt"_s);
     QVERIFY(writeBytes(file, "one"));
-    QSettings settings(folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    QSettings settings(folder.path(u"settings.ini"_s), QSettings::IniFormat);
     RecordingDialogs dialogs;
     {
         LineWindow window(dialogs, settings);
@@ -138,19 +140,19 @@ void tst_table_window_conveniences::geometryWidthsAndFolderAreRemembered()
     QCOMPARE(dialogs.openQuestions.last().folder, folder.path());
 }
 
-void tst_table_window_conveniences::geometryThatIsNoneIsNotTaken()
+void tst_table_window_conveniences::invalidGeometryIsIgnored()
 {
     const TestFolder folder;
-    QSettings settings(folder.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    QSettings settings(folder.path(u"settings.ini"_s), QSettings::IniFormat);
     RecordingDialogs dialogs;
     const QSize usual = LineWindow(dialogs, settings).size();
-    settings.setValue(QStringLiteral("geometry"), QByteArray("no geometry"));
-    settings.setValue(QStringLiteral("columnWidths"), QVariantList{1});
+    settings.setValue(u"geometry"_s, QByteArray("no geometry"));
+    settings.setValue(u"columnWidths"_s, QVariantList{1});
     const LineWindow window(dialogs, settings);
     QCOMPARE(window.size(), usual);
 }
 
-void tst_table_window_conveniences::closingDuringWorkCancelsItFirst()
+void tst_table_window_conveniences::closingDuringAnOperationCancelsIt()
 {
     LineWindowFixture f;
     f.window.show();
@@ -165,7 +167,7 @@ void tst_table_window_conveniences::closingDuringWorkCancelsItFirst()
     QTRY_VERIFY(!f.window.isVisible());
 }
 
-void tst_table_window_conveniences::noOrdersAreTakenDuringWork()
+void tst_table_window_conveniences::busyWindowAcceptsNoCommands()
 {
     LineWindowFixture f;
     f.dialogs.fileToChoose = f.file;
@@ -189,12 +191,12 @@ void tst_table_window_conveniences::noOrdersAreTakenDuringWork()
     QVERIFY(!f.isEnabled("actionSave"));
 }
 
-void tst_table_window_conveniences::aboutNamesTheProgram()
+void tst_table_window_conveniences::aboutShowsTheProgramsName()
 {
     LineWindowFixture f;
     f.action("actionAbout")->trigger();
-    QCOMPARE(f.dialogs.tellings.size(), 1);
-    QVERIFY(f.dialogs.tellings.first().text.startsWith(QStringLiteral("Line Utility")));
+    QCOMPARE(f.dialogs.notices.size(), 1);
+    QVERIFY(f.dialogs.notices.first().text.startsWith(u"Line Utility"_s));
 }
 
 NVX_TEST(tst_table_window_conveniences)

@@ -5,22 +5,23 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::Literals::StringLiterals;
+
 class tst_window_program : public QObject
 {
     Q_OBJECT
 
 private slots:
-    // Settings of the user who runs the tests are not touched; on Windows the tests have a machine of their
-    // own.
+    // Protects the settings of the user who runs the tests. On Windows the tests have their own machine.
     void initTestCase()
     {
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
     }
 
-    void theNamedFileIsShownUntilTheProgramEnds()
+    void namedFileIsShownUntilTheProgramEnds()
     {
-        const QString file = m_folder.path(QStringLiteral("lines.txt"));
+        const QString file = m_folder.path(u"lines.txt"_s);
         QVERIFY(writeBytes(file, "a\nb\n"));
         QByteArray program("program");
         QByteArray argument = QFile::encodeName(file);
@@ -38,20 +39,19 @@ private slots:
             });
             return window;
         };
-        const int result = Window::runWindowProgram(2, argv, QStringLiteral("LineUtility"),
-                                                    QStringLiteral("lineutility"), make);
+        const int result = Window::runWindowProgram(2, argv, u"LineUtility"_s, u"lineutility"_s, make);
         QCOMPARE(result, 7);
         QCOMPARE(opened, file);
         QVERIFY(isVisible);
         QVERIFY(!version.isEmpty());
-        QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("LineUtility"));
+        QCOMPARE(QCoreApplication::applicationName(), u"LineUtility"_s);
     }
 
 private:
     TestFolder m_folder;
 };
 
-// The program makes its own application.
+// The program creates its own application.
 int main(int argc, char *argv[])
 {
     tst_window_program test;

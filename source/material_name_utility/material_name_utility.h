@@ -9,46 +9,46 @@
 
 namespace mat {
 
-/// The window on a translation table of material names: opens and saves it, and brings it in step with a
+/// The window on a translation table of material names: opens and saves it, and synchronises it with a
 /// material database.
 class MaterialNameUtility : public Window::TableWindow
 {
     Q_OBJECT
 
 public:
-    /// The dialogs and the settings live longer than the window.
+    /// The dialogs and the settings must outlive the window.
     MaterialNameUtility(Window::Dialogs &dialogs, QSettings &settings);
 
-    const Error::TranslationTable &table() const { return m_table; }
+    const Translation::TranslationTable &table() const { return m_table; }
 
-    /// The material database that was chosen last; empty before.
+    /// The material database that was chosen last; empty at first.
     const QString &databaseFile() const { return m_databaseFile; }
 
-    /// The names that the database had, as often as it had them.
+    /// The names in the database, including duplicates.
     const QStringList &materialNames() const { return m_materialNames; }
 
 public slots:
-    /// Brings the table in step with the database; without one, asks which.
+    /// Synchronises the table with the database; asks for one if none is given.
     void synchronize(const QString &databaseFile = QString());
 
 protected:
     void clearTable() override;
-    Window::Loading loadTable(const QString &fileName) override;
+    Nvx::Util::Outcome loadTable(const QString &fileName, Window::Progress &progress) override;
     bool saveTable(const QString &fileName) override;
     QString savedNote() const override;
     Window::MarkedRows rows() const override;
 
-    /// A material database is synchronised with, any other file is opened.
+    /// Synchronises with a material database; opens any other file.
     void dropEvent(QDropEvent *event) override;
 
 private:
     static Window::TableWindowTexts texts();
 
-    // Whether the database's names are in m_materialNames now. If not, the user knows why.
+    // Reads the database's names into m_materialNames. If this fails, it informs the user and returns false.
     bool readDatabase();
-    void takeNames();
+    void synchronizeWithNames();
 
-    Error::TranslationTable m_table;
+    Translation::TranslationTable m_table;
     bool m_hasTable = false;
     QString m_databaseFile;
     QStringList m_materialNames;

@@ -1,28 +1,30 @@
-#include "translation/translation_kept_file.h"
+#include "translation/translation_backup.h"
 
 #include "nvx_util/whole_file.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
-namespace Error {
+using namespace Qt::Literals::StringLiterals;
+
+namespace Translation {
 
 namespace {
 
 struct Texts
 {
-    Q_DECLARE_TR_FUNCTIONS(TranslationKeptFile)
+    Q_DECLARE_TR_FUNCTIONS(TranslationBackup)
 };
 
 QString copyName(const QString &fileName, int number)
 {
-    const QString first = fileName + QStringLiteral(".before");
+    const QString first = fileName + u".before"_s;
     return number == 1 ? first : first + u'.' + QString::number(number);
 }
 
 } // namespace
 
-std::optional<QString> keepEarlierFile(const QString &fileName)
+std::optional<QString> backUpFile(const QString &fileName)
 {
     const std::optional<QByteArray> contents = Nvx::Util::readWholeFile(fileName);
     if (!contents)
@@ -36,9 +38,9 @@ std::optional<QString> keepEarlierFile(const QString &fileName)
     }
 }
 
-QString keptFileText(const QString &copy)
+QString backupText(const QString &copy)
 {
     return Texts::tr("Plural forms were dropped; the old file is %1").arg(copy);
 }
 
-} // namespace Error
+} // namespace Translation

@@ -1,9 +1,9 @@
-#include "material_name_utility/mat_material_name_utility.h"
+#include "material_name_utility/material_name_utility.h"
 
-#include "material_name_utility/material_files.h"
 #include "material_name_utility/material_rows.h"
+#include "materials/mat_material_name.h"
 #include "materials/mat_translation_table.h"
-#include "translation/translation_kept_file.h"
+#include "translation/translation_backup.h"
 #include "window/dialogs.h"
 #include "window/dropped_file.h"
 #include "window/marked_table_view.h"
@@ -14,18 +14,27 @@
 #include <QDropEvent>
 #include <QFileInfo>
 
-using Window::Loading;
+#include <optional>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+using Nvx::Util::Done;
+using Nvx::Util::Failure;
+using Nvx::Util::Outcome;
+using Nvx::Util::Result;
+using Translation::TranslationTable;
 using Window::RowMark;
 
 namespace mat {
 
 namespace {
 
-const QString iconFolder = QStringLiteral(":/MaterialNameUtility/images/");
+const QString iconFolder = u":/MaterialNameUtility/images/"_s;
 
 bool isDatabase(const QString &fileName)
 {
-    return QFileInfo(fileName).suffix().compare(QLatin1String("mdb"), Qt::CaseInsensitive) == 0;
+    return QFileInfo(fileName).suffix().compare("mdb"_L1, Qt::CaseInsensitive) == 0;
 }
 
 } // namespace
@@ -33,11 +42,10 @@ bool isDatabase(const QString &fileName)
 MaterialNameUtility::MaterialNameUtility(Window::Dialogs &dialogs, QSettings &settings)
     : TableWindow(dialogs, settings, texts())
 {
-    setObjectName(QStringLiteral("MaterialNameUtilityClass"));
+    setObjectName(u"MaterialNameUtilityClass"_s);
 
-    auto *synchronizing =
-        new QAction(QIcon(iconFolder + QStringLiteral("synchronize.png")), tr("Synchronize..."), this);
-    synchronizing->setObjectName(QStringLiteral("actionSynchronize"));
+    auto *synchronizing = new QAction(QIcon(iconFolder + u"synchronize.png"_s), tr("Synchronize..."), this);
+    synchronizing->setObjectName(u"actionSynchronize"_s);
     synchronizing->setToolTip(tr("Synchronize with material database"));
     connect(synchronizing, &QAction::triggered, this, [this] { synchronize(); });
     addTableAction(synchronizing);
@@ -59,7 +67,8 @@ Window::TableWindowTexts MaterialNameUtility::texts()
     texts.widths = {440};
     texts.openTitle = tr("Open Translation Table");
     texts.saveTitle = tr("Save Translation Table");
-    texts.filter = QStringLiteral("*.ts");
+    texts.filter = u"*.ts"_s;
+    texts.loading = tr("Reading %1");
     texts.notLoaded = tr("Could not load translation table");
     texts.created = tr("Created new translation table");
     texts.opened = tr("Opened %1");
@@ -70,21 +79,21 @@ Window::TableWindowTexts MaterialNameUtility::texts()
 
 void MaterialNameUtility::clearTable()
 {
-    m_table = Error::TranslationTable();
+    m_table = TranslationTable();
     m_newNames.clear();
     m_hasTable = true;
 }
 
-Loading MaterialNameUtility::loadTable(const QString &fileName)
+Outcome MaterialNameUtility::loadTable(const QString &fileName, Window::Progress &progress)
 {
-    Window::WindowWork work(*this, tr("Open Translation Table"), tr("Reading %1").arg(fileName));
-    TableReading reading = readTableFile(fileName, work);
-    if (reading.loading.outcome == Loading::Outcome::Loaded) {
-        m_table = std::move(reading.table);
-        m_newNames.clear();
-        m_hasTable = true;
-    }
-    return reading.loading;
+    Result<TranslationTable> table =
+        Window::readFile(fileName, QIODevice::ReadOnly, progress, Materials::readTable);
+    if (!table)
+        return Failure{table.error()};
+    m_table = *std::move(table);
+    m_newNames.clear();
+    m_hasTable = true;
+    return Done();
 }
 
 bool MaterialNameUtility::saveTable(const QString &fileName)
@@ -94,13 +103,13 @@ bool MaterialNameUtility::saveTable(const QString &fileName)
 
 QString MaterialNameUtility::savedNote() const
 {
-    const QString kept = m_table.keptFile();
-    return kept.isEmpty() ? QString() : Error::keptFileText(QFileInfo(kept).fileName());
+    const QString backup = m_table.backupFile();
+    return backup.isEmpty() ? QString() : Translation::backupText(QFileInfo(backup).fileName());
 }
 
 Window::MarkedRows MaterialNameUtility::rows() const
 {
-    return rowsOf(m_table, m_newNames);
+    return MaterialWindow::materialRows(m_table, m_newNames);
 }
 
 void MaterialNameUtility::synchronize(const QString &databaseFile)
@@ -109,40 +118,42 @@ void MaterialNameUtility::synchronize(const QString &databaseFile)
         return;
     QString chosen = databaseFile;
     if (chosen.isEmpty())
-        chosen = chooseFileToOpen(tr("Open Material Database"), QStringLiteral("*.mdb"));
+        chosen = chooseFileToOpen(tr("Open Material Database"), u"*.mdb"_s);
     if (chosen.isEmpty())
         return;
     m_databaseFile = QDir::toNativeSeparators(QFileInfo(chosen).absoluteFilePath());
     memory().rememberFolderOf(m_databaseFile);
     if (readDatabase())
-        takeNames();
+        synchronizeWithNames();
 }
 
 bool MaterialNameUtility::readDatabase()
 {
-    Loading loading;
-    {
-        Window::WindowWork work(*this, tr("Open Material Database"), tr("Reading %1").arg(m_databaseFile));
-        DatabaseReading reading = readDatabaseFile(m_databaseFile, work);
-        loading = reading.loading;
-        if (loading.outcome == Loading::Outcome::Loaded)
-            m_materialNames = std::move(reading.names);
-    }
-    if (loading.outcome == Loading::Outcome::Cancelled)
+    const auto read = [this](Window::Progress &progress) {
+        return Window::readFile(m_databaseFile, QIODevice::ReadOnly, progress,
+                                [](QIODevice &device) { return Materials::readMaterialNames(device); });
+    };
+    const std::optional<Result<QStringList>> names =
+        withProgress(tr("Open Material Database"), tr("Reading %1").arg(m_databaseFile), read);
+    if (!names) {
         showStatus(tr("Synchronization cancelled, the table is as it was"));
-    if (loading.outcome == Loading::Outcome::Failed) {
-        showStatus(QStringLiteral("%1: %2").arg(m_databaseFile, loading.reason));
-        dialogs().warn(this, tr("Load Material Database"), tr("Cannot read material database"));
+        return false;
     }
-    return loading.outcome == Loading::Outcome::Loaded;
+    if (!*names) {
+        showStatus(u"%1: %2"_s.arg(m_databaseFile, names->error()));
+        dialogs().warn(this, tr("Load Material Database"), tr("Cannot read material database"));
+        return false;
+    }
+    m_materialNames = **names;
+    return true;
 }
 
-void MaterialNameUtility::takeNames()
+void MaterialNameUtility::synchronizeWithNames()
 {
     const Window::WaitCursor wait;
     if (!m_hasTable)
         newTable();
-    const NameSynchronization result = synchronizeNames(m_table, m_materialNames);
+    const Materials::NameSynchronization result = Materials::synchronizeNames(m_table, m_materialNames);
     m_newNames = QSet<QString>(result.added.begin(), result.added.end());
     if (result.isChanged)
         setUnsaved();
@@ -155,7 +166,7 @@ void MaterialNameUtility::takeNames()
                    .arg(result.counts.obsolete));
 }
 
-// The program that the file comes from waits until this returns, so boxes come afterwards.
+// The program that the file is dragged from waits until this returns, so message boxes must come later.
 void MaterialNameUtility::dropEvent(QDropEvent *event)
 {
     const QString file = Window::droppedFile(event->mimeData());
