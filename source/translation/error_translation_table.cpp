@@ -48,13 +48,15 @@ Result<TranslationRoot> readFile(QFile &file, TranslationTable &table)
 
 void TranslationContext::append(const TranslationMessage &message)
 {
-    m_index.add(m_messages, message.source);
+    m_sources.insert(message.source);
     m_messages.push_back(message);
 }
 
 bool TranslationContext::addMissing(const QString &source)
 {
-    if (!m_index.add(m_messages, source))
+    const qsizetype sizeBefore = m_sources.size();
+    m_sources.insert(source);
+    if (m_sources.size() == sizeBefore)
         return false;
     m_messages.push_back(unfinished(source));
     return true;

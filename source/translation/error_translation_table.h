@@ -1,6 +1,5 @@
 #pragma once
 
-#include "translation/translation_index.h"
 #include "translation/translation_message.h"
 
 #include <QSet>
@@ -25,7 +24,7 @@ public:
     const TranslationMessages &messages() const { return m_messages; }
 
     /// True if a message has exactly that source text.
-    bool contains(const QString &source) const { return m_index.contains(m_messages, source); }
+    bool contains(const QString &source) const { return m_sources.contains(source); }
 
     void append(const TranslationMessage &message);
 
@@ -39,7 +38,7 @@ public:
 private:
     QString m_name;
     TranslationMessages m_messages;
-    SourceIndex m_index;
+    QSet<QString> m_sources;
 };
 
 /// A translation file for one language (translation/translation_table_xml.h).

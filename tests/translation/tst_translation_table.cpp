@@ -8,7 +8,6 @@
 #include <QBuffer>
 #include <QDateTime>
 #include <QFileInfo>
-#include <QHash>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -122,33 +121,6 @@ private slots:
         }
         QVERIFY(!context.contains(u"5000"_s));
         QCOMPARE(context.messages().size(), std::size_t(5000));
-    }
-
-    // Of some hundred thousand strings, two usually have one hash of 32 bits.
-    void stringsOfOneHashAreTwoStrings()
-    {
-        QHashSeed::setDeterministicGlobalSeed();
-        QHash<quint32, QString> seen;
-        QString one;
-        QString other;
-        for (int number = 0; other.isEmpty() && number < 2000000; ++number) {
-            const QString text = QString::number(number);
-            const auto hash = static_cast<quint32>(qHash(text));
-            one = seen.value(hash);
-            if (one.isEmpty())
-                seen.insert(hash, text);
-            else
-                other = text;
-        }
-        QVERIFY(!other.isEmpty());
-
-        TranslationContext context(clt);
-        QVERIFY(context.addMissing(one));
-        QVERIFY(!context.contains(other));
-        QVERIFY(context.addMissing(other));
-        QVERIFY(!context.addMissing(one));
-        QCOMPARE(context.messages().size(), std::size_t(2));
-        QHashSeed::resetRandomGlobalSeed();
     }
 
     void contextOfTheSameNameIsReplaced()
