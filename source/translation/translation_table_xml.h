@@ -18,7 +18,7 @@ class TranslationTable;
 //          <message>
 //             <source>No server</source>
 //             <translation type="unfinished">No server</translation>
-//             <comment>Title of a box</comment>
+//             <comment>Title of a message box</comment>
 //          </message>
 //       </context>
 //    </TS>

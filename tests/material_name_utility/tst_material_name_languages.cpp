@@ -75,7 +75,7 @@ private slots:
         f.window.synchronize(f.databaseFile);
 
         if (!wordsOf.contains(locale)) {
-            QVERIFY(f.window.windowTitle() != wordsOf.value(QStringLiteral("en-US")).title);
+            QVERIFY(f.window.windowTitle() != wordsOf.value(u"en-US"_s).title);
             return;
         }
         const Words expected = wordsOf.value(locale);
