@@ -1,4 +1,4 @@
-"""What the tests of the documents read: their blocks, links, headings and tables."""
+"""Reads the blocks, links, headings and tables of the documents, for their tests."""
 
 import re
 from dataclasses import dataclass
@@ -17,7 +17,7 @@ _CODE = re.compile(r"`([^`\n]+)`")
 
 @dataclass(frozen=True)
 class Block:
-    """A fenced block with the remark that stands before it: what it is, and of what."""
+    """A fenced block with the remark before it: its kind, and a name."""
 
     what: str
     name: str
@@ -29,7 +29,7 @@ def text_of(path: str | Path) -> str:
 
 
 def blocks_of(document: str) -> list[Block]:
-    """The blocks that have a remark, in their order: "<!-- WHAT: NAME -->" or "<!-- WHAT -->"."""
+    """The blocks with a remark, in order: "<!-- WHAT: NAME -->" or "<!-- WHAT -->"."""
     blocks = []
     for match in _BLOCK.finditer(document):
         what, _, name = match["remark"].partition(": ")
@@ -43,32 +43,32 @@ def prose_of(document: str) -> str:
 
 
 def links_of(document: str) -> list[str]:
-    """Where the links and pictures of a document lead."""
+    """The targets of a document's links and pictures."""
     return _LINK.findall(prose_of(document))
 
 
 def code_of(document: str) -> list[str]:
-    """What stands between back quotes in the prose."""
+    """The text between back quotes in the prose."""
     return _CODE.findall(prose_of(document))
 
 
 def anchors_of(document: str) -> set[str]:
-    """The names by which a document's headings are linked."""
+    """The anchors of a document's headings."""
     anchors = set()
     for heading in re.findall(r"^#+ (.*)$", prose_of(document), re.MULTILINE):
-        kept = re.sub(r"[^\w\- ]", "", heading.lower())
-        anchors.add(kept.replace(" ", "-"))
+        name = re.sub(r"[^\w\- ]", "", heading.lower())
+        anchors.add(name.replace(" ", "-"))
     return anchors
 
 
 def section_of(document: str, heading: str) -> str:
-    """The text below a heading, to the next one of its level; KeyError when there is none."""
+    """The text below a heading, up to the next heading of its level; KeyError if the heading is missing."""
     parts = re.split(r"^## (.*)$", document, flags=re.MULTILINE)
     return dict(zip(parts[1::2], parts[2::2]))[heading]
 
 
 def rows_of(text: str) -> list[list[str]]:
-    """The cells of all table rows in a text; rules and headings above a rule are left out."""
+    """The cells of all rows of the tables in a text, without their headings."""
     lines = text.splitlines()
     rows = []
     for place, line in enumerate(lines):

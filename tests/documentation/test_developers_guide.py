@@ -1,6 +1,6 @@
-"""The files and commands of docs/developers-guide.md, in their order, do what the page says.
+"""The files and commands of docs/developers-guide.md, run in order, have the results on the page.
 
-The tools are looked for on the PATH, which ctest sets.
+The tools are on the PATH, which ctest sets.
 """
 
 import subprocess
@@ -12,7 +12,7 @@ from documents import blocks_of, text_of
 
 
 def commands_of(text):
-    """The commands of a console block with the output shown below each; "> " goes on with a command."""
+    """[command, output] for each command of a console block; "> " continues a command."""
     commands = []
     for line in text.splitlines():
         if line.startswith("$ "):
@@ -33,7 +33,7 @@ class DevelopersGuide(unittest.TestCase):
         self.folder = Path(folder.name)
 
     def run_command(self, command, expected):
-        answer = subprocess.run(
+        done = subprocess.run(
             ["bash", "-c", command],
             cwd=self.folder,
             stdin=subprocess.DEVNULL,
@@ -41,10 +41,10 @@ class DevelopersGuide(unittest.TestCase):
             stderr=subprocess.STDOUT,
             timeout=60,
         )
-        self.assertEqual(answer.stdout.decode("utf-8"), expected, command)
-        self.assertEqual(answer.returncode, 0, command)
+        self.assertEqual(done.stdout.decode("utf-8"), expected, command)
+        self.assertEqual(done.returncode, 0, command)
 
-    def obey(self, block):
+    def follow(self, block):
         path = self.folder / block.name
         if block.what == "file":
             path.parent.mkdir(parents=True, exist_ok=True)
@@ -57,24 +57,24 @@ class DevelopersGuide(unittest.TestCase):
             for command, output in commands_of(block.text):
                 self.run_command(command, output)
         else:
-            self.fail(f"nobody knows what to do with a block '{block.what}'")
+            self.fail(f"unknown kind of block: '{block.what}'")
 
-    def test_everything_on_the_page_is_so(self):
+    def test_every_block_on_the_page_is_right(self):
         blocks = blocks_of(text_of("docs/developers-guide.md"))
         for block in blocks:
-            self.obey(block)
+            self.follow(block)
         kinds = [block.what for block in blocks]
         self.assertGreaterEqual(kinds.count("run"), 8)
         self.assertEqual(kinds.count("source"), 1)
         self.assertGreaterEqual(kinds.count("part of"), 2)
 
-    def test_no_block_is_shown_without_being_tried(self):
+    def test_every_block_is_tried(self):
         document = text_of("docs/developers-guide.md")
         self.assertEqual(2 * len(blocks_of(document)), document.count("```"))
 
 
-class Commands(unittest.TestCase):
-    def test_a_block_is_taken_apart_into_commands_and_outputs(self):
+class DevelopersGuideChecks(unittest.TestCase):
+    def test_a_block_is_split_into_commands_and_outputs(self):
         self.assertEqual(
             commands_of("$ one\nout\n\n$ two \\\n> more\n$ three\n"),
             [["one", "out\n\n"], ["two \\\nmore", ""], ["three", ""]],

@@ -1,4 +1,4 @@
-"""The documents' links lead somewhere, and what they name is there."""
+"""The documents' links have targets, and the files and the code that they name exist."""
 
 import re
 import subprocess
@@ -6,30 +6,32 @@ import unittest
 
 from documents import DOCUMENTS, ROOT, anchors_of, blocks_of, code_of, links_of, rows_of, text_of
 
-# What a path in a document begins with.
+# The first folder of a path in a document.
 FOLDERS = ("Utility", "FileIO", "Config", "Client", "source", "resource", "sample")
 FOLDERS += ("tests", "fuzz", "bench", "docs", "tools", "cmake", "installer")
 _PATH = re.compile(rf"^(?:{'|'.join(FOLDERS)})/[\w./*-]*$")
-# A name of code: a call, or several words in one.
+# Names in capitals, except those of documents.
+_PLACE_MARKER = re.compile(r"(?<![A-Za-z])(?!(?:README|CHANGELOG|CONTRIBUTING)\.)[A-Z]{3,}(?![a-z])")
+# A name in code: a call, or several words without blanks.
 _NAME = re.compile(r"^(?:\w+::)*([a-z]+[A-Z]\w+|[A-Z][a-z]+[A-Z]\w+|\w+_\w+)(?:\(\))?$")
 
 
 def named_paths(document):
-    """The paths of this project that a document names; not those of the files in its own examples. A name in
-    capitals stands for any."""
+    """The paths of this project that a document names, without the files of its examples. A name in capitals
+    is a place marker."""
     own = {block.name for block in blocks_of(document) if block.what == "file"}
     paths = [code.split()[0] for code in code_of(document) if _PATH.match(code.split()[0])]
-    return [re.sub(r"\b[A-Z]{3,}\b(?!\.)", "*", path) for path in paths if path not in own]
+    return [_PLACE_MARKER.sub("*", path) for path in paths if path not in own]
 
 
 def named_code(document):
-    """The functions, classes and targets that a document names, without their name spaces."""
+    """The functions, classes and targets that a document names, without their namespaces."""
     found = (_NAME.match(code) for code in code_of(document))
     return [match.group(1) for match in found if match]
 
 
 def words_of_sources():
-    """Every word of every file of the project that is no document."""
+    """Every word of every file of the project, without the documents."""
     files = subprocess.run(
         ["git", "ls-files", "-co", "--exclude-standard", "--", ":!*.md", ":!*.png", ":!*.ico"],
         cwd=ROOT,
@@ -46,8 +48,8 @@ def words_of_sources():
 
 
 class Documents(unittest.TestCase):
-    def test_every_link_leads_to_a_file_and_a_heading(self):
-        lost = []
+    def test_every_link_has_a_target(self):
+        missing = []
         count = 0
         for document in DOCUMENTS:
             for link in links_of(document.read_text(encoding="utf-8")):
@@ -55,13 +57,13 @@ class Documents(unittest.TestCase):
                 place, _, anchor = link.partition("#")
                 target = (document.parent / place).resolve() if place else document
                 if not target.is_file():
-                    lost.append(f"{document.name}: {link}")
+                    missing.append(f"{document.name}: {link}")
                 elif anchor and anchor not in anchors_of(target.read_text(encoding="utf-8")):
-                    lost.append(f"{document.name}: {link}")
-        self.assertEqual(lost, [])
+                    missing.append(f"{document.name}: {link}")
+        self.assertEqual(missing, [])
         self.assertGreater(count, 20)
 
-    def test_every_document_can_be_reached_from_the_first(self):
+    def test_every_document_is_linked_from_the_readme_or_its_links(self):
         reached, waiting = set(), [ROOT / "README.md"]
         while waiting:
             document = waiting.pop()
@@ -72,30 +74,30 @@ class Documents(unittest.TestCase):
             waiting += [(document.parent / link.partition("#")[0]).resolve() for link in links]
         self.assertEqual(sorted(path.name for path in set(DOCUMENTS) - reached), [])
 
-    def test_every_path_that_is_named_is_there(self):
-        lost = []
+    def test_every_named_path_exists(self):
+        missing = []
         count = 0
         for document in DOCUMENTS:
             for path in named_paths(document.read_text(encoding="utf-8")):
                 count += 1
                 if not list(ROOT.glob(path.rstrip("/"))):
-                    lost.append(f"{document.name}: {path}")
-        self.assertEqual(lost, [])
+                    missing.append(f"{document.name}: {path}")
+        self.assertEqual(missing, [])
         self.assertGreater(count, 40)
 
-    def test_the_code_that_the_papers_of_this_project_name_is_there(self):
+    def test_the_named_code_exists(self):
         words = words_of_sources()
         for name in ("CONTRIBUTING.md", "docs/architecture.md"):
             with self.subTest(name):
                 named = named_code(text_of(name))
                 self.assertGreater(len(named), 5)
-                # A recipe's example is made up.
+                # The example of a recipe is fictitious.
                 real = [code for code in named if "Nordcad" not in code]
                 self.assertEqual([code for code in real if code not in words], [])
 
 
-class TheChecks(unittest.TestCase):
-    """The checks find what they look for."""
+class DocumentChecks(unittest.TestCase):
+    """What is read from a small document."""
 
     DOCUMENT = """# One page
 See [there](docs/there.md#deep-down), ![picture](a.png) and `tools/nothing --all`, `docs/NAME/README.md`,
@@ -110,19 +112,19 @@ Call `Nvx::Util::wholeFile()` or `nvx_test`, not `word`.
 | `-I` | a `|` less |
 """
 
-    def test_links(self):
+    def test_links_are_found(self):
         self.assertEqual(links_of(self.DOCUMENT), ["docs/there.md#deep-down", "a.png"])
 
-    def test_headings(self):
+    def test_headings_have_anchors(self):
         self.assertEqual(anchors_of(self.DOCUMENT), {"one-page", "deep-down-in-it"})
 
-    def test_paths(self):
+    def test_paths_are_found(self):
         self.assertEqual(named_paths(self.DOCUMENT), ["tools/nothing", "docs/*/README.md"])
 
-    def test_code(self):
+    def test_names_of_code_are_found(self):
         self.assertEqual(named_code(self.DOCUMENT), ["wholeFile", "nvx_test"])
 
-    def test_rows(self):
+    def test_rows_of_tables_are_read(self):
         self.assertEqual(rows_of("| a | b |\n|---|---|\n| c | d |\ntext\n"), [["c", "d"]])
 
 

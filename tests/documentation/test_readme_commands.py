@@ -1,4 +1,4 @@
-"""What decides whether a change lands runs the README's commands, and nothing else decides it."""
+""".ci/run runs the commands of the README and nothing else."""
 
 import re
 import shutil
@@ -40,7 +40,7 @@ def block_of(document):
 
 
 class Checkout:
-    """A scratch copy of what runs the commands, with a README and commands of its own."""
+    """A checkout with the scripts that run the commands, its own README and its own commands."""
 
     def __init__(self, folder, block):
         self.folder = folder
@@ -51,7 +51,7 @@ class Checkout:
         (folder / ".gitignore").write_text("/ran\n", encoding="utf-8")
 
     def add(self, name, *lines):
-        """A command that notes that it ran, with its arguments and the folder that it ran in."""
+        """Adds a command that records its arguments and its working folder."""
         note = f'echo "{name} $* in $PWD" | tee -a "{self.folder}/ran"'
         path = self.folder / name
         path.write_text("\n".join(["#!/bin/sh", note, *lines, ""]), encoding="utf-8")
@@ -72,12 +72,12 @@ class Checkout:
         )
 
     def ran(self):
-        """The commands that ran, in their order."""
+        """The commands that ran, in order."""
         path = self.folder / "ran"
         return path.read_text(encoding="utf-8").splitlines() if path.exists() else []
 
 
-class Runner(unittest.TestCase):
+class CiRun(unittest.TestCase):
     def setUp(self):
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
@@ -86,71 +86,71 @@ class Runner(unittest.TestCase):
     def checkout(self, *lines):
         return Checkout(self.folder, "\n".join("    " + line for line in lines))
 
-    def test_the_commands_run_in_their_order_in_the_checkout(self):
+    def test_the_commands_run_in_order_in_the_checkout(self):
         checkout = self.checkout(
             "tools/second --all -- -U      what it does, which goes on",
             "                              in another line",
             "tools/first",
         )
-        # A command that reads its input does not take the next command for it.
+        # A command that reads its input does not read the list of commands.
         checkout.add("tools/second", "cat")
         checkout.add("tools/first")
-        answer = checkout.run()
-        self.assertEqual(answer.returncode, 0, answer.stderr)
+        done = checkout.run()
+        self.assertEqual(done.returncode, 0, done.stderr)
         expected = [f"tools/second --all -- -U in {self.folder}", f"tools/first  in {self.folder}"]
         self.assertEqual(checkout.ran(), expected)
         for line in expected:
-            self.assertIn(line, answer.stdout.splitlines())
-        self.assertRegex(answer.stdout, r"(?m)^== README: tools/second --all -- -U took \d+ s$")
+            self.assertIn(line, done.stdout.splitlines())
+        self.assertRegex(done.stdout, r"(?m)^== README: tools/second --all -- -U took \d+ s$")
 
-    def test_the_first_that_fails_ends_the_run(self):
+    def test_the_run_ends_at_the_first_command_that_fails(self):
         checkout = self.checkout("tools/first", "tools/fails", "tools/last")
         checkout.add("tools/first")
         checkout.add("tools/fails", "exit 3")
         checkout.add("tools/last")
-        answer = checkout.run()
-        self.assertNotEqual(answer.returncode, 0)
-        self.assertIn("error: 'tools/fails' ended with exit status 3", answer.stderr)
+        done = checkout.run()
+        self.assertNotEqual(done.returncode, 0)
+        self.assertIn("error: 'tools/fails' ended with exit status 3", done.stderr)
         self.assertEqual([line.split()[0] for line in checkout.ran()], ["tools/first", "tools/fails"])
 
-    def test_a_command_that_is_not_there_fails(self):
-        answer = self.checkout("tools/nowhere").run()
-        self.assertNotEqual(answer.returncode, 0)
-        self.assertIn("'tools/nowhere' ended with exit status 127", answer.stderr)
+    def test_a_missing_command_fails(self):
+        done = self.checkout("tools/nowhere").run()
+        self.assertNotEqual(done.returncode, 0)
+        self.assertIn("'tools/nowhere' ended with exit status 127", done.stderr)
 
-    def test_a_work_tree_left_dirty_fails(self):
+    def test_a_changed_work_tree_fails(self):
         for change in ("echo more >>README.md", "touch left-over"):
             with self.subTest(change), tempfile.TemporaryDirectory() as scratch:
                 checkout = Checkout(Path(scratch).resolve(), "    tools/changes")
                 checkout.add("tools/changes", change)
-                answer = checkout.run()
-                self.assertNotEqual(answer.returncode, 0)
-                self.assertIn("have changed the work tree", answer.stderr)
-                self.assertIn(change.split()[-1].lstrip(">"), answer.stderr)
+                done = checkout.run()
+                self.assertNotEqual(done.returncode, 0)
+                self.assertIn("have changed the work tree", done.stderr)
+                self.assertIn(change.split()[-1].lstrip(">"), done.stderr)
 
     def test_a_block_without_commands_fails(self):
-        for block in ("", "                further in"):
+        for block in ("", "                indented further"):
             with self.subTest(block), tempfile.TemporaryDirectory() as scratch:
                 readme = README.split("## After")[0].replace("    tools/nor-this-one      a later block", "")
                 checkout = Checkout(Path(scratch).resolve(), block)
                 (checkout.folder / "README.md").write_text(readme % block, encoding="utf-8")
-                answer = checkout.run()
-                self.assertNotEqual(answer.returncode, 0)
-                self.assertIn("names no command", answer.stderr)
+                done = checkout.run()
+                self.assertNotEqual(done.returncode, 0)
+                self.assertIn("has no command", done.stderr)
 
 
-class Readme(unittest.TestCase):
-    def test_its_commands_are_those_of_its_block(self):
+class ReadmeCommands(unittest.TestCase):
+    def test_the_commands_are_those_of_the_readmes_block(self):
         block = block_of(text_of("README.md"))
         expected = [re.split(r"\s{2,}", line.strip())[0] for line in block if not line.startswith(" " * 5)]
-        answer = subprocess.run([ROOT / "tools/readme-commands"], stdout=subprocess.PIPE, check=True)
-        commands = answer.stdout.decode().splitlines()
+        done = subprocess.run([ROOT / "tools/readme-commands"], stdout=subprocess.PIPE, check=True)
+        commands = done.stdout.decode().splitlines()
         self.assertEqual(commands, expected)
         self.assertEqual(commands[:2], ["tools/demo", "tools/test"])
 
-    def test_its_commands_are_programs_of_this_checkout(self):
-        answer = subprocess.run([ROOT / "tools/readme-commands"], stdout=subprocess.PIPE, check=True)
-        for command in answer.stdout.decode().splitlines():
+    def test_the_commands_are_programs_of_this_checkout(self):
+        done = subprocess.run([ROOT / "tools/readme-commands"], stdout=subprocess.PIPE, check=True)
+        for command in done.stdout.decode().splitlines():
             self.assertTrue((ROOT / command.split()[0]).stat().st_mode & 0o111, command)
 
 
