@@ -50,7 +50,8 @@ class Service(MachineCase):
             ],
         )
         self.assertTrue(self.server_is_running())
-        self.assertEqual(self.machine.path(ANALYZE + "\\solver_manager.cfg").read_bytes(), b"")
+        self.assertTrue(self.server_is_registered())
+        self.assertEqual(self.read(ANALYZE + "\\solver_manager.cfg"), b"")
         registry = self.machine.registry()
         self.assertEqual(value_of(registry, SERVICE_KEY, "ImagePath"), f'"{FOLDER}\\NVXServer.exe"')
         self.assertEqual(
