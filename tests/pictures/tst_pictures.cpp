@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QWizard>
 
-/// On a screen with twice the usual density.
+/// Runs on a screen with a scale factor of 2.
 class tst_pictures : public QObject
 {
     Q_OBJECT

@@ -238,7 +238,7 @@ private slots:
     void theStepWaitsWhileAnotherProgramHasTheServiceOpen()
     {
         m_machine->service.current = ServiceState::Active;
-        m_machine->service.isLookedAt = true;
+        m_machine->service.isOpenElsewhere = true;
         m_machine->afterSleep = [this] {
             if (m_machine->sleeps.size() == 7)
                 m_machine->service.release();
@@ -253,7 +253,7 @@ private slots:
     void theWaitForADeletedServiceIsLimited()
     {
         m_machine->service.current = ServiceState::Active;
-        m_machine->service.isLookedAt = true;
+        m_machine->service.isOpenElsewhere = true;
         const RecordedDiagnostics diagnostics;
         uninstall();
         QCOMPARE(m_machine->sleeps, QList<std::chrono::milliseconds>(100, 100ms));

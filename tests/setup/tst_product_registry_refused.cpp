@@ -39,7 +39,7 @@ private slots:
     void aRefusedRemovalIsADiagnosticWarningAndTheStepContinues()
     {
         SetupFixture fixture;
-        const QString large(2 * FullDisk::mostBytes, u'x');
+        const QString large(2 * FullDisk::maximumBytes, u'x');
         for (const char *group : {"\\WebServices", "\\Lumara"})
             QVERIFY(Nvx::Util::RegistryKey(userProductKey() + text(group)).setText(u"a"_s, u"b"_s));
         QVERIFY(Nvx::Util::RegistryKey(userProductKey()).setText(u"large"_s, large));

@@ -3,7 +3,7 @@
 #include <QBuffer>
 #include <QByteArray>
 
-/// A device that breaks after the bytes, of which there should be more.
+/// A device that fails after the bytes, before its end.
 class BrokenDevice : public QBuffer
 {
 public:

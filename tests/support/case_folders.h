@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QTest>
 
-/// One test row for each folder in the folder of cases, named like it, that the test is for.
+/// Adds a test row for each folder with cases for which `isFor` returns true, with the name of the folder.
 template<typename IsFor>
 void addCaseRows(const QString &casesFolder, IsFor isFor)
 {
@@ -16,7 +16,7 @@ void addCaseRows(const QString &casesFolder, IsFor isFor)
     }
 }
 
-/// One test row for each folder in the folder of cases, named like it.
+/// Adds a test row for each folder with cases, with the name of the folder.
 inline void addCaseRows(const QString &casesFolder)
 {
     addCaseRows(casesFolder, [](const QDir &) { return true; });

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
-/// The bytes of a file; nothing when it cannot be read.
+/// The bytes of a file; `std::nullopt` if it cannot be read.
 inline std::optional<QByteArray> fileBytes(const QString &fileName)
 {
     QFile file(fileName);
@@ -15,7 +18,13 @@ inline std::optional<QByteArray> fileBytes(const QString &fileName)
     return file.readAll();
 }
 
-/// The text of a file with the line ends of every system as "\n"; nothing when it cannot be read.
+/// The bytes of a file; a null array if it cannot be read.
+inline QByteArray readFile(const QString &fileName)
+{
+    return fileBytes(fileName).value_or(QByteArray());
+}
+
+/// The bytes of a file with "\n" as its line ends; `std::nullopt` if it cannot be read.
 inline std::optional<QByteArray> fileLines(const QString &fileName)
 {
     std::optional<QByteArray> bytes = fileBytes(fileName);
@@ -24,9 +33,24 @@ inline std::optional<QByteArray> fileLines(const QString &fileName)
     return bytes;
 }
 
-/// True when the file then holds the bytes.
+/// Writes a file; false if that fails.
 inline bool writeBytes(const QString &fileName, const QByteArray &bytes)
 {
     QFile file(fileName);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+}
+
+/// Writes a file and creates its folders. Ends the test program if that fails, since it could test nothing.
+inline void writeFile(const QString &fileName, const QByteArray &contents = QByteArray())
+{
+    QDir().mkpath(QFileInfo(fileName).path());
+    if (!writeBytes(fileName, contents))
+        qFatal("cannot write %s", qPrintable(fileName));
+}
+
+/// The names of everything in a folder, sorted; includes links whose targets do not exist.
+inline QStringList namesIn(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot,
+                                  QDir::Name);
 }

@@ -5,14 +5,14 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// While it lives, no file of this process grows beyond so many bytes, as on a disk that is full then. For
-/// Unix only.
+/// While it exists, no file of this process can grow beyond a number of bytes, as on a full disk. For Unix
+/// only.
 class FullDisk
 {
 public:
-    static constexpr qint64 mostBytes = 64 * 1024;
+    static constexpr qint64 maximumBytes = 64 * 1024;
 
-    explicit FullDisk(qint64 bytes = mostBytes)
+    explicit FullDisk(qint64 bytes = maximumBytes)
     {
         getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit limit{static_cast<rlim_t>(bytes), m_before.rlim_max};

@@ -2,7 +2,8 @@
 
 #include <sys/resource.h>
 
-/// While it lives, this process can open no file, as when it has opened as many as it may. For Unix only.
+/// While it exists, this process cannot open a file, as if it had reached its limit of open files. For Unix
+/// only.
 class NoMoreFiles
 {
 public:

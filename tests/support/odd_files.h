@@ -3,22 +3,21 @@
 #include <QFile>
 #include <QString>
 
-// Files of the operating system that answer in ways which ordinary ones have only when something goes wrong.
-// For Unix only.
+// Files of the operating system that always fail as ordinary files do only after a fault. For Unix only.
 
-/// Can be opened, and breaks when it is read.
+/// Can be opened, but not read.
 inline QString breakingFile()
 {
     return QStringLiteral("/proc/self/mem");
 }
 
-/// Cannot be opened for reading, by nobody.
+/// Cannot be opened for reading, not even by root.
 inline QString closedFile()
 {
     return QStringLiteral("/sys/bus/cpu/uevent");
 }
 
-/// What the operating system says when the file is read.
+/// The error message of the operating system when the file is read.
 inline QString errorOf(const QString &fileName)
 {
     QFile file(fileName);
@@ -27,19 +26,19 @@ inline QString errorOf(const QString &fileName)
     return file.errorString();
 }
 
-/// Cannot be written, and nobody can change that.
+/// Cannot be written, not even by root.
 inline QString protectedFile()
 {
     return QStringLiteral("/proc/self/status");
 }
 
-/// Makes the path another name of one of these files.
+/// Makes the path a link to one of these files.
 inline bool linkTo(const QString &file, const QString &path)
 {
     return QFile::exists(file) && QFile::link(file, path);
 }
 
-/// Says that it is longer than what there is to read of it, which is one line.
+/// Reports a larger size than its contents, which are one line.
 inline QString boastingFile()
 {
     return QStringLiteral("/sys/devices/system/cpu/online");

@@ -2,6 +2,6 @@
 
 #include <chrono>
 
-/// The processor time that this process has used. Unlike the time on a clock it does not grow because the
-/// machine has other work; on Windows its steps are 10 to 16 ms.
+/// The processor time that this process has used, which does not depend on the load of the machine. Its
+/// resolution on Windows is 10 to 16 ms.
 std::chrono::milliseconds processorTime();

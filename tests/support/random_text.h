@@ -6,7 +6,7 @@
 
 #include <random>
 
-/// Texts of all sorts, the same ones for the same seed everywhere.
+/// Random strings, reproducible by their seed on every system.
 class RandomText
 {
 public:
@@ -18,8 +18,7 @@ public:
     /// A number below the limit.
     quint32 below(quint32 limit) { return static_cast<quint32>(m_numbers()) % limit; }
 
-    /// A text of up to eleven pieces: letters of many scripts, of two code units too, markup, line ends,
-    /// blanks.
+    /// A string of up to eleven pieces: letters of many scripts, surrogate pairs, markup, line ends, blanks.
     QString text()
     {
         static const QStringList pieces{
@@ -39,7 +38,7 @@ public:
         return text;
     }
 
-    /// Such a text with one character in it that XML cannot carry.
+    /// Such a string with one character that XML does not allow.
     QString unspeakableText()
     {
         static const QList<ushort> units{0x01,   0x08,   0x0b,   0x0c,   0x1b,  0x1f,

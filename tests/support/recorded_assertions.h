@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/// The assertions that failed in this thread while it lives, each as "CONDITION in UNIT".
+/// The assertions that failed in this thread while this object existed, each as "CONDITION in UNIT".
 class RecordedAssertions
 {
 public:

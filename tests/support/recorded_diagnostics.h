@@ -3,8 +3,8 @@
 #include <QStringList>
 #include <QtGlobal>
 
-/// The warnings of the configuration's logging category while it lives, instead of the diagnostic output.
-/// Other messages go on to where they went.
+/// Collects the warnings of the configuration's logging category while it exists. Other messages are passed
+/// on to the previous handler.
 class RecordedDiagnostics
 {
 public:

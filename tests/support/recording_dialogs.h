@@ -7,7 +7,7 @@
 
 #include <functional>
 
-/// Dialogs that show nothing, write down what they are asked, and answer what the test has set.
+/// Dialogs that are not shown: they record all requests and return what the test sets.
 class RecordingDialogs : public Window::Dialogs
 {
 public:
@@ -17,14 +17,14 @@ public:
         QString text;
     };
 
-    // What they answer; no file stands for a cancelled dialog.
+    // What they return; an empty file name stands for a cancelled dialog.
     QString fileToChoose;
     Window::UnsavedChoice choice = Window::UnsavedChoice::Cancel;
 
     // Called while a warning is shown.
     std::function<void()> whileWarning;
 
-    // What they were asked.
+    // The requests.
     QList<Window::FileQuestion> openQuestions;
     QList<Window::FileQuestion> saveQuestions;
     QList<Box> warnings;

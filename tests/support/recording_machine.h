@@ -10,11 +10,11 @@
 
 #include <functional>
 
-/// A machine that does nothing but write down what it is asked, and answers what the test has set.
+/// A machine that records all requests and returns what the test sets.
 class RecordingMachine : public Nvx::Util::Machine
 {
 public:
-    /// A box that was shown.
+    /// A message box that was shown.
     struct Box
     {
         Nvx::Util::BoxKind kind;
@@ -22,7 +22,7 @@ public:
         QString text;
     };
 
-    /// A program that was started to live on by itself.
+    /// A program that was started and not waited for.
     struct Start
     {
         QString program;
@@ -30,7 +30,7 @@ public:
         int waitMs;
     };
 
-    // What it answers.
+    // What it returns.
     QString ownCommandLine = QStringLiteral("NVXConfig.exe");
     QString ownFolder;
     QString desktop = QStringLiteral("C:\\Users\\Public\\Desktop");
@@ -38,7 +38,7 @@ public:
     qint32 shellLinkResult = 0;
     Nvx::Util::Answer answer = Nvx::Util::Answer::Yes;
 
-    /// Called while a program "runs".
+    /// Called while a program is supposed to run.
     std::function<void(const Nvx::Util::ProgramCall &)> whileRunning;
 
     /// Called while a message box without a question is open.
@@ -50,13 +50,13 @@ public:
     /// Called when the shell is notified of changed associations.
     std::function<void()> whenNotified;
 
-    /// What runs on it.
+    /// The running processes.
     RecordingProcesses running;
 
-    /// What is installed as a service on it.
+    /// The service.
     RecordingServices service;
 
-    // What it was asked.
+    // The requests.
     QList<Nvx::Util::ProgramCall> calls;
     QList<Start> starts;
     QList<Box> boxes;

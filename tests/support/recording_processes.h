@@ -5,16 +5,16 @@
 #include <QList>
 #include <QStringList>
 
-/// Processes that a test has set, and what was done to them.
+/// The processes that a test sets; records what is done to them.
 class RecordingProcesses : public Nvx::Util::ProcessTable
 {
 public:
-    /// How a process answers.
+    /// What can be done with a process.
     enum class Kind
     {
         Ordinary,
-        Closed,       ///< it cannot be opened: it is another user's, or it has just ended
-        EndsMeanwhile ///< it can be opened, and has ended when it is to be ended
+        Closed,       ///< it cannot be opened: it belongs to another user, or it has ended
+        EndsMeanwhile ///< it can be opened, but ends before it is terminated
     };
 
     struct Process
@@ -26,10 +26,10 @@ public:
 
     QList<Process> list;
 
-    /// The paths of those that were ended, in order.
+    /// The paths of the terminated processes, in order.
     QStringList ended;
 
-    /// How many ids were asked for, each time.
+    /// The maximum number of ids of each request.
     QList<int> limits;
 
     /// Adds a process by the path of its executable.

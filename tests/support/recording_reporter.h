@@ -5,7 +5,7 @@
 #include <QList>
 #include <QStringList>
 
-/// Keeps what is reported: each line as "LEVEL TEXT", a progress line with "progress " before it.
+/// Records what is reported as "LEVEL TEXT", after "progress " or "inform " where it is not for the log.
 class RecordingReporter : public Nvx::Run::Reporter
 {
 public:

@@ -1,5 +1,7 @@
 #include "support/recording_services.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 using Nvx::Util::ServiceState;
 using Nvx::Util::ServiceStop;
 
@@ -12,13 +14,13 @@ void RecordingServices::endProcess()
 
 void RecordingServices::release()
 {
-    isLookedAt = false;
+    isOpenElsewhere = false;
     removeIfPossible();
 }
 
 void RecordingServices::removeIfPossible()
 {
-    if (!m_isMarked || isLookedAt || current == ServiceState::Active)
+    if (!m_isMarked || isOpenElsewhere || current == ServiceState::Active)
         return;
     current = ServiceState::NotInstalled;
     m_isMarked = false;
@@ -36,16 +38,16 @@ QString RecordingServices::description(const QString & /*name*/) const
 
 bool RecordingServices::start(const QString &name)
 {
-    asked << QStringLiteral("start ") + name;
+    asked << u"start "_s + name;
     if (!canBeStarted || current != ServiceState::Stopped)
         return false;
     current = ServiceState::Active;
     return true;
 }
 
-ServiceStop RecordingServices::stop(const QString &name, std::chrono::milliseconds /*patience*/)
+ServiceStop RecordingServices::stop(const QString &name, std::chrono::milliseconds /*timeout*/)
 {
-    asked << QStringLiteral("stop ") + name;
+    asked << u"stop "_s + name;
     if (current != ServiceState::Active || atStop == AtStop::Refuses)
         return ServiceStop::Refused;
     if (atStop == AtStop::Hangs)
@@ -56,7 +58,7 @@ ServiceStop RecordingServices::stop(const QString &name, std::chrono::millisecon
 
 bool RecordingServices::remove(const QString &name)
 {
-    asked << QStringLiteral("remove ") + name;
+    asked << u"remove "_s + name;
     if (!canBeRemoved || current == ServiceState::NotInstalled)
         return false;
     m_isMarked = true;

@@ -4,40 +4,40 @@
 
 #include <QStringList>
 
-/// One service, in a service control manager that behaves as the test says. It writes down what is asked of
-/// it; that somebody looks at the state is not written down.
+/// A service control manager with one service, which behaves as the test sets. Records all requests except
+/// those for the state.
 class RecordingServices : public Nvx::Util::ServiceControl
 {
 public:
-    /// What the service does when it is asked to stop.
+    /// What the service does on a request to stop.
     enum class AtStop
     {
         Stops,
         Refuses,
-        Hangs ///< takes the request and stays active
+        Hangs ///< accepts the request and stays active
     };
 
-    // How things stand, and how they go.
+    // The state, and what is possible.
     Nvx::Util::ServiceState current = Nvx::Util::ServiceState::NotInstalled;
     AtStop atStop = AtStop::Stops;
     bool canBeStarted = true;
     bool canBeRemoved = true;
-    bool isLookedAt = false; ///< by another program, so that a removal only marks it
+    bool isOpenElsewhere = false; ///< in another program: a removal only marks the service for deletion
     QString registeredDescription = QStringLiteral("as registered");
 
-    /// What it was asked, such as "stop NVX 2017 Server".
+    /// The requests, such as "stop NVX 2017 Server".
     QStringList asked;
 
-    /// The process of the service has been ended.
+    /// Simulates the end of the service's process.
     void endProcess();
 
-    /// No other program looks at the service any more.
+    /// Simulates that no other program has the service open any more.
     void release();
 
     Nvx::Util::ServiceState state(const QString &name) const override;
     QString description(const QString &name) const override;
     bool start(const QString &name) override;
-    Nvx::Util::ServiceStop stop(const QString &name, std::chrono::milliseconds patience) override;
+    Nvx::Util::ServiceStop stop(const QString &name, std::chrono::milliseconds timeout) override;
     bool remove(const QString &name) override;
 
 private:

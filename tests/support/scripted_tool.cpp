@@ -1,21 +1,21 @@
-// A program that does what the file "<own path>.script" says, one order a line:
+// A program that follows the orders in the file "<own path>.script", one a line:
 //
 //     line TEXT     writes the text and a line end
-//     lines N       writes the numbers from 1 to N, a line each
-//     bytes N       writes a line of N times the letter x
+//     lines N       writes the numbers from 1 to N, one a line
+//     bytes N       writes a line of N letters x
 //     raw HEX       writes the bytes
 //     error TEXT    writes the text and a line end to standard error
-//     arguments     writes its arguments, a line each
-//     record        the same into the file "<own path>.arguments"
+//     arguments     writes its arguments, one a line
+//     record        writes them to the file "<own path>.arguments"
 //     folder        writes its working folder
-//     mark PATH     makes an empty file
-//     forget        removes the file of orders, so that the next start finds none
+//     mark PATH     creates an empty file
+//     forget        deletes the file of orders, so that the next start finds none
 //     read          reads its standard input to the end
-//     sleep MS      waits
-//     wait PATH     waits until the file is gone
-//     only-for TEXT ends with 0 unless one of its arguments holds the text
-//     exit CODE     ends with that exit code
-//     crash         ends as by a fault
+//     sleep MS      sleeps for this number of milliseconds
+//     wait PATH     waits until the file has been deleted
+//     only-for TEXT exits with 0 unless one of its arguments contains the text
+//     exit CODE     exits with that code
+//     crash         aborts
 
 #include <algorithm>
 #include <chrono>
@@ -47,7 +47,7 @@ void sleepFor(int milliseconds)
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
 
-void waitUntilGone(const std::string &path)
+void waitUntilDeleted(const std::string &path)
 {
     while (std::filesystem::exists(path))
         sleepFor(50);
@@ -59,13 +59,13 @@ void writeArguments(std::ostream &output, int argc, char **argv)
         output << argv[i] << '\n';
 }
 
-bool isFor(const std::string &text, int argc, char **argv)
+bool contains(const std::string &text, int argc, char **argv)
 {
     return std::any_of(argv + 1, argv + argc,
                        [&](const char *argument) { return std::string(argument).find(text) != text.npos; });
 }
 
-void obey(const std::string &order, const std::string &operand, int argc, char **argv)
+void follow(const std::string &order, const std::string &operand, int argc, char **argv)
 {
     if (order == "line")
         std::cout << operand << '\n';
@@ -86,7 +86,7 @@ void obey(const std::string &order, const std::string &operand, int argc, char *
     else if (order == "sleep")
         sleepFor(std::stoi(operand));
     else if (order == "wait")
-        waitUntilGone(operand);
+        waitUntilDeleted(operand);
     else if (order == "arguments")
         writeArguments(std::cout, argc, argv);
     else if (order == "record") {
@@ -115,7 +115,7 @@ int main(int argc, char **argv)
             std::cout.flush();
             return std::stoi(operand);
         }
-        if (order == "only-for" && !isFor(operand, argc, argv))
+        if (order == "only-for" && !contains(operand, argc, argv))
             return 0;
         if (order == "crash") {
             std::cout.flush();
@@ -123,7 +123,7 @@ int main(int argc, char **argv)
         }
         if (order == "forget")
             std::remove(scriptPath.c_str());
-        obey(order, operand, argc, argv);
+        follow(order, operand, argc, argv);
         std::cout.flush();
     }
     return 0;

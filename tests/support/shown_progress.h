@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QTimer>
 
-/// The progress dialog on the screen; null when there is none.
+/// The visible progress dialog; null if there is none.
 inline QProgressDialog *shownProgress()
 {
     const QWidgetList widgets = QApplication::topLevelWidgets();
@@ -17,7 +17,7 @@ inline QProgressDialog *shownProgress()
     return nullptr;
 }
 
-/// Calls the function again and again while the program handles its events, until it answers true.
+/// Calls the function repeatedly in the event loop until it returns true.
 template<typename Try>
 class UntilTrue : public QObject
 {
@@ -39,7 +39,7 @@ private:
     QTimer m_timer;
 };
 
-/// Clicks the button of the progress dialog as soon as that shows; keeps what it said.
+/// Clicks the button of the progress dialog as soon as it is visible; stores its title and its label.
 class ProgressCanceller : public QObject
 {
 public:

@@ -9,21 +9,21 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
-/// A file system of its own in a folder, as small as a test wants it. It is seen by this process and its
-/// children alone, and goes with them. For Linux only.
+/// A small file system that is mounted in a folder. Only this process and its children see it, and it ends
+/// with them. For Linux only.
 class SmallDisk
 {
 public:
-    /// What a file takes at least, and the unit of what is free.
+    /// The smallest size of a file, and the unit of free space, in bytes.
     static constexpr qint64 page = 4096;
 
-    /// To be called before anything else, while the process has one thread. False where such disks may not be
-    /// made; the test cannot run there.
+    /// Must be called first, while the process has one thread. False if such disks are not permitted; the
+    /// test cannot run then.
     static bool arePermitted()
     {
-        if (unshare(CLONE_NEWNS) != 0 && !becomeOwnAdministrator())
+        if (unshare(CLONE_NEWNS) != 0 && !becomeRootInNamespace())
             return false;
-        // Otherwise what is mounted here would be seen outside too.
+        // Without this, other processes would see what is mounted here.
         return mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
                mount("none", "/mnt", "tmpfs", 0, nullptr) == 0 && umount("/mnt") == 0;
     }
@@ -47,7 +47,7 @@ public:
 
     qint64 freePages() const { return QStorageInfo(QFile::decodeName(m_folder)).bytesFree() / page; }
 
-    /// Fills the disk until only so many pages are free. False when there are not as many.
+    /// Fills the disk until this number of pages is free. False if there are fewer.
     bool leave(qint64 pages)
     {
         makeRoom();
@@ -57,20 +57,20 @@ public:
                filler.write(QByteArray(bytes, 'x')) == bytes && filler.flush() && freePages() == pages;
     }
 
-    /// Gives back what was filled.
+    /// Frees the space that `leave` has filled.
     void makeRoom() { QFile::remove(fillerName()); }
 
 private:
-    // Who is not the machine's administrator may be one among his own processes.
-    static bool becomeOwnAdministrator()
+    // An ordinary user can be root in a user name space of his own.
+    static bool becomeRootInNamespace()
     {
         const QByteArray user = "0 " + QByteArray::number(geteuid()) + " 1";
         const QByteArray group = "0 " + QByteArray::number(getegid()) + " 1";
-        return unshare(CLONE_NEWNS | CLONE_NEWUSER) == 0 && tellSystem("setgroups", "deny") &&
-               tellSystem("uid_map", user) && tellSystem("gid_map", group);
+        return unshare(CLONE_NEWNS | CLONE_NEWUSER) == 0 && writeSetting("setgroups", "deny") &&
+               writeSetting("uid_map", user) && writeSetting("gid_map", group);
     }
 
-    static bool tellSystem(const char *name, const QByteArray &text)
+    static bool writeSetting(const char *name, const QByteArray &text)
     {
         QFile file(QStringLiteral("/proc/self/") + QLatin1String(name));
         return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(text) == text.size();

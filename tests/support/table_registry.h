@@ -5,11 +5,11 @@
 #include <QMap>
 #include <QPair>
 
-/// A registry of the values that a test has put into it.
+/// A registry with the values that a test puts into it.
 class TableRegistry : public Nvx::Cad::RegistryListing
 {
 public:
-    /// Adds a value, at the end of its key; a value of the same name, in any case, is replaced.
+    /// Adds a value at the end of its key, or replaces the value of that name in any letter case.
     void put(const QString &key, const QString &name, const QString &text)
     {
         QList<QPair<QString, QString>> &values = m_keys[placeOf(key)].values;
@@ -23,7 +23,7 @@ public:
         values.append({name, text});
     }
 
-    /// Adds a key, which may stay without values.
+    /// Adds a key, which may have no values.
     void putKey(const QString &key) { m_keys[placeOf(key)].path = key; }
 
     QStringList keyPaths() const
@@ -66,7 +66,7 @@ private:
         QList<QPair<QString, QString>> values;
     };
 
-    // Below every other character, so that the keys below a key follow it directly.
+    // Sorts before every other character, so that the keys below a key follow it directly.
     static constexpr QChar separator = QChar(1);
 
     static QString placeOf(const QString &key) { return key.toLower().replace(QLatin1Char('\\'), separator); }

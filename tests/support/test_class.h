@@ -2,8 +2,8 @@
 
 #include <QTest>
 
-/// The function with which the test program of a module runs a test class; see nvx_tests in
-/// cmake/NvxTargets.cmake. It does what Qt's QTEST_MAIN does in main.
+/// Defines the function with which a module's test program runs a test class; see nvx_tests in
+/// cmake/NvxTargets.cmake. Like QTEST_MAIN, but not as main.
 #define NVX_TEST_FUNCTION(TestClass, makeApplication)                                                        \
     int run_##TestClass(int argc, char *argv[]);                                                             \
     int run_##TestClass(int argc, char *argv[])                                                              \
@@ -15,8 +15,8 @@
         return QTest::qExec(&test, argc, argv);                                                              \
     }
 
-/// A test class whose application shows windows if the program links Qt Widgets or Gui.
+/// A test class with a QApplication or QGuiApplication, if the program links Qt Widgets or Gui.
 #define NVX_TEST(TestClass) NVX_TEST_FUNCTION(TestClass, QTEST_MAIN_SETUP())
 
-/// A test class without windows.
+/// A test class with a QCoreApplication.
 #define NVX_GUILESS_TEST(TestClass) NVX_TEST_FUNCTION(TestClass, QTEST_QAPP_SETUP(QCoreApplication))

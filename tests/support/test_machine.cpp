@@ -2,21 +2,21 @@
 
 #include "nvx_util/registry_key.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <QDir>
 #include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
 
 TestMachine::TestMachine()
 {
     setVariable("NVX_MACHINE", m_folder.path());
-    setVariable("APPDATA", path(QStringLiteral("AppData")));
-    setVariable("ProgramData", path(QStringLiteral("ProgramData")));
-    setVariable("PUBLIC", path(QStringLiteral("Public")));
+    setVariable("APPDATA", path(u"AppData"_s));
+    setVariable("ProgramData", path(u"ProgramData"_s));
+    setVariable("PUBLIC", path(u"Public"_s));
     unsetVariable("OSTRADE2017TEMP");
-    Nvx::Util::RegistryKey(QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"))
-        .removeValue(QStringLiteral("Locale"));
-    Nvx::Util::RegistryKey(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Kelvane\\Translators"))
-        .removeValue(QStringLiteral("Folder"));
+    Nvx::Util::RegistryKey(u"HKEY_CURRENT_USER\\Software\\Velmora\\NVX\\17.2"_s).removeValue(u"Locale"_s);
+    Nvx::Util::RegistryKey(u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Kelvane\\Translators"_s)
+        .removeValue(u"Folder"_s);
     QDir().mkpath(installDir());
 }
 
@@ -47,40 +47,19 @@ void TestMachine::unsetVariable(const char *name)
     qunsetenv(name);
 }
 
-void writeFile(const QString &path, const QByteArray &contents)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList namesIn(const QString &folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot,
-                                  QDir::Name);
-}
-
 QStringList logLines(const QString &path)
 {
     static const QRegularExpression stamped(
-        QStringLiteral("^[A-Z][a-z]{2} [A-Z][a-z]{2} [ \\d]?\\d \\d\\d:\\d\\d:\\d\\d \\d{4} (.*)$"),
+        u"^[A-Z][a-z]{2} [A-Z][a-z]{2} [ \\d]?\\d \\d\\d:\\d\\d:\\d\\d \\d{4} (.*)$"_s,
         QRegularExpression::DotMatchesEverythingOption);
     QStringList lines;
-    const QStringList written =
-        QString::fromUtf8(readFile(path)).remove(QLatin1Char('\r')).split(QLatin1Char('\n'));
+    const QStringList written = QString::fromUtf8(readFile(path)).remove(u'\r').split(u'\n');
     for (const QString &line : written) {
         const QRegularExpressionMatch match = stamped.match(line);
         if (match.hasMatch())
             lines.append(match.captured(1));
         else if (!line.isEmpty())
-            lines.append(QStringLiteral("! ") + line);
+            lines.append(u"! "_s + line);
     }
     return lines;
 }

@@ -1,13 +1,14 @@
 #pragma once
 
+#include "support/file_bytes.h"
 #include "support/test_folder.h"
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
-/// Redirects the folders of the machine into a fresh folder for one test, and starts with an empty remembered
-/// language and no recorded translators folder. The environment is as before when it ends.
+/// Redirects the machine's folders to a fresh folder for one test. No language is remembered and no
+/// translators folder is set. The destructor restores the environment.
 class TestMachine
 {
 public:
@@ -16,16 +17,16 @@ public:
     TestMachine &operator=(const TestMachine &) = delete;
     ~TestMachine();
 
-    /// The path of something below the test's folder, named with "/".
+    /// The path of a file or folder in the test's folder; the name is separated by "/".
     QString path(const QString &name) const { return m_folder.path(name); }
 
-    /// The folder of the product, which exists.
+    /// The product's folder, which exists.
     QString installDir() const { return path(QStringLiteral("NVX")); }
 
-    /// Sets a variable of the environment until the end.
+    /// Sets an environment variable until this object is destroyed.
     void setVariable(const char *name, const QString &value);
 
-    /// Removes a variable of the environment until the end.
+    /// Removes an environment variable until this object is destroyed.
     void unsetVariable(const char *name);
 
 private:
@@ -42,15 +43,6 @@ private:
     QList<Saved> m_saved;
 };
 
-/// Writes a file, making its folders. Ends the test program when that fails: nothing could be tested.
-void writeFile(const QString &path, const QByteArray &contents = QByteArray());
-
-/// The bytes of a file; a null array when it cannot be read.
-QByteArray readFile(const QString &path);
-
-/// The names of all that is in a folder, sorted, links and shortcuts that lead nowhere included.
-QStringList namesIn(const QString &folder);
-
-/// The lines of a log, each without its date and time, which are checked for their form; a line without them
-/// stands as it is with "! " before it.
+/// The lines of a log without their date and time, whose format is checked; a line without them is preceded
+/// by "! ".
 QStringList logLines(const QString &path);

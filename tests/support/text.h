@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// A literal of a test as a text.
+/// A UTF-8 literal as a string.
 inline QString text(const char *utf8)
 {
     return QString::fromUtf8(utf8);

@@ -8,8 +8,8 @@
 #include <QSettings>
 #include <QTest>
 
-/// Starts a program with a table window on a file of that name and contents; false, with a line of its own,
-/// unless the program comes up and opens it. The list of recent files, which the program keeps, tells that.
+/// Starts a program with a table window on a file with this name and these contents, and returns whether the
+/// program opens it; it then adds the file to its list of recent files.
 inline bool opensNamedFile(const QString &program, const QString &fileName, const QByteArray &contents)
 {
     const TestFolder folder;
@@ -32,6 +32,7 @@ inline bool opensNamedFile(const QString &program, const QString &fileName, cons
     process.kill();
     process.waitForFinished();
     if (!isOpened || !isRunning)
-        qWarning("%s: %s", isRunning ? "has opened" : "has ended, opened", qPrintable(recent()));
+        qWarning("the program %s; its last file is \"%s\"", isRunning ? "is running" : "has ended",
+                 qPrintable(recent()));
     return isOpened && isRunning;
 }

@@ -120,7 +120,7 @@ private slots:
 
     void aKeyThatCannotBeRemovedFromTheFileStays()
     {
-        const QString large(2 * FullDisk::mostBytes, u'x');
+        const QString large(2 * FullDisk::maximumBytes, u'x');
         QVERIFY(RegistryKey(scratch).setText(u"large"_s, large));
         RegistryKey key(scratch + u"\\Group"_s);
         QVERIFY(key.setText(u"a"_s, u"x"_s));

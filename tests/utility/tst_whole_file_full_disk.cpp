@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qint64 mostBytes = FullDisk::mostBytes;
+constexpr qint64 mostBytes = FullDisk::maximumBytes;
 
 Clt::MessageTable largeTable()
 {
