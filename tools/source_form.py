@@ -8,6 +8,7 @@
     C++                     at most 110 characters in a line (flake8 checks those of Python)
                             no branch on the operating system outside Utility/source
     C++ headers             "#pragma once" in the first line
+    tests in C++            no two rows of one name in a table
 
 Prints each finding with its file and line, and exits with 1 if there is one.
 
@@ -18,7 +19,7 @@ next closing brace at the same indentation ends the body.
 import ast
 import re
 import sys
-from collections.abc import Iterator
+from collections.abc import Iterable, Iterator
 from pathlib import Path
 
 FILE_LINES = 500
@@ -33,6 +34,8 @@ _PLATFORM_BRANCH = re.compile(
     r"\s*#\s*(?:el)?if(?:n?def)?\b.*(?:_WIN32|_WIN64|\bWIN32\b|Q_OS_|Q_CC_|__linux__|__unix__|"
     r"__APPLE__|_MSC_VER|__MINGW)"
 )
+_ROWS_HEAD = re.compile(r"\s*(?:void|static void) [\w:]+_data\(\)$")
+_ROW = re.compile(r'\b(?:newRow|addRow|row)\(\s*"((?:[^"\\]|\\.)*)"')
 
 Finding = tuple[int, str]  # line, text
 
@@ -45,11 +48,14 @@ def findings(path: str, text: str) -> list[Finding]:
         found.append((FILE_LINES + 1, f"the file has {len(lines)} lines, more than {FILE_LINES}"))
     suffix = Path(path).suffix
     if suffix in CPP:
-        found += [*wide_lines(lines), *long_functions(cpp_bodies(lines))]
+        bodies = list(cpp_bodies(lines))
+        found += [*wide_lines(lines), *long_functions(bodies)]
         if suffix == ".h" and lines[:1] != ["#pragma once"]:
             found.append((1, "#pragma once is missing"))
         if not path.startswith(PLATFORM_CODE):
             found += platform_branches(lines)
+        if path.startswith("tests/"):
+            found += repeated_rows(lines, bodies)
     elif suffix == ".py" or text.startswith("#!/usr/bin/env python3"):
         found += long_functions(python_functions(text))
     return sorted(found)
@@ -61,7 +67,7 @@ def wide_lines(lines: list[str]) -> Iterator[Finding]:
             yield number, f"the line has {len(line)} characters, more than {LINE_CHARACTERS}"
 
 
-def long_functions(functions: Iterator[tuple[int, int]]) -> Iterator[Finding]:
+def long_functions(functions: Iterable[tuple[int, int]]) -> Iterator[Finding]:
     for first, last in functions:
         if last - first + 1 > FUNCTION_LINES:
             yield first, f"the function has {last - first + 1} lines, more than {FUNCTION_LINES}"
@@ -97,6 +103,19 @@ def platform_branches(lines: list[str]) -> Iterator[Finding]:
     for number, line in enumerate(lines, 1):
         if _PLATFORM_BRANCH.match(line):
             yield number, "a branch on the operating system outside " + PLATFORM_CODE
+
+
+def repeated_rows(lines: list[str], bodies: list[tuple[int, int]]) -> Iterator[Finding]:
+    """Rows of a test's table with the literal name of an earlier row of the same table."""
+    for first, last in bodies:
+        if not _ROWS_HEAD.match(lines[first - 2]):
+            continue
+        names = set()
+        body = "\n".join(lines[first - 1 : last])
+        for row in _ROW.finditer(body):
+            if row[1] in names:
+                yield first + body.count("\n", 0, row.start()), f'the table has two rows "{row[1]}"'
+            names.add(row[1])
 
 
 def main(paths: list[str]) -> int:

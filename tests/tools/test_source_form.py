@@ -14,6 +14,11 @@ def python_function(lines):
     return "def f():\n" + "    g()\n" * (lines - 1)
 
 
+def data_function(*rows):
+    body = "".join(f"        {row};\n" for row in rows)
+    return f"class tst_names\n{{\n    void names_data()\n    {{\n{body}    }}\n}};\n"
+
+
 class SourceForm(unittest.TestCase):
     def lines_found(self, path, text):
         return [line for line, _ in findings(path, text)]
@@ -59,6 +64,14 @@ class SourceForm(unittest.TestCase):
     def test_other_directives_are_no_branch_on_the_operating_system(self):
         for line in ("#ifdef NVX_SANITIZE", "// #ifdef _WIN32", '#include "windows/window.h"'):
             self.assertEqual(findings("source/a.cpp", f"{line}\n"), [], line)
+
+    def test_two_rows_of_one_name_are_found(self):
+        rows = ('QTest::newRow("a") << 1', 'QTest::newRow("b")\n            << 2', 'row("a", 3)')
+        self.assertEqual(self.lines_found("tests/a/tst_names.cpp", data_function(*rows)), [8])
+
+    def test_rows_of_different_tables_may_share_a_name(self):
+        table = data_function('QTest::newRow("a") << 1')
+        self.assertEqual(findings("tests/a/tst_names.cpp", table + table), [])
 
 
 if __name__ == "__main__":
