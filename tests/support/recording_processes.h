@@ -35,7 +35,7 @@ public:
     /// Adds a process by the path of its executable.
     void add(const QString &path, Kind kind = Kind::Ordinary)
     {
-        list.append({path.section(QLatin1Char('\\'), -1), path, kind});
+        list.append({path.section(u'\\', -1), path, kind});
     }
 
     QList<Nvx::Util::ProcessId> ids(int atMost) override;

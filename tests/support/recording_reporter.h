@@ -18,6 +18,6 @@ public:
 private:
     void add(const QString &kind, int level, const QString &text)
     {
-        lines.append(kind + QString::number(level) + QLatin1Char(' ') + text);
+        lines.append(kind + QString::number(level) + u' ' + text);
     }
 };

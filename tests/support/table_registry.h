@@ -69,14 +69,14 @@ private:
     // Sorts before every other character, so that the keys below a key follow it directly.
     static constexpr QChar separator = QChar(1);
 
-    static QString placeOf(const QString &key) { return key.toLower().replace(QLatin1Char('\\'), separator); }
+    static QString placeOf(const QString &key) { return key.toLower().replace(u'\\', separator); }
 
     static QString prefixOf(const QString &pathFromKey)
     {
         QString prefix;
-        const QStringList levels = pathFromKey.split(QLatin1Char('\\'), Qt::SkipEmptyParts);
+        const QStringList levels = pathFromKey.split(u'\\', Qt::SkipEmptyParts);
         for (const QString &level : levels)
-            prefix += Nvx::Cad::listedName(level) + QLatin1Char('/');
+            prefix += Nvx::Cad::listedName(level) + u'/';
         return prefix;
     }
 
