@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QWizard>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// Runs on a screen with a scale factor of 2.
 class tst_pictures : public QObject
 {
@@ -15,11 +17,11 @@ public:
     static void initMain() { qputenv("QT_SCALE_FACTOR", "2"); }
 
 private slots:
-    void everyPictureIsThere_data();
-    void everyPictureIsThere();
-    void aDenseScreenHasTwiceThePixels_data();
-    void aDenseScreenHasTwiceThePixels();
-    void theBannerMakesAHeaderOfItsOwnSize();
+    void everyPictureHasItsSize_data();
+    void everyPictureHasItsSize();
+    void anIconHasTwiceThePixelsOnADenseScreen_data();
+    void anIconHasTwiceThePixelsOnADenseScreen();
+    void theHeaderIsAsWideAsTheBanner();
 
 private:
     static void addPictures();
@@ -29,41 +31,39 @@ void tst_pictures::addPictures()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QSize>("size");
-    QTest::newRow("logo") << QStringLiteral(":/images/logo1.png") << QSize(118, 44);
-    QTest::newRow("wizard's icon") << QStringLiteral(":/images/window.png") << QSize(32, 32);
-    QTest::newRow("help") << QStringLiteral(":/help/help.png") << QSize(24, 24);
+    QTest::newRow("logo") << u":/images/logo1.png"_s << QSize(118, 44);
+    QTest::newRow("wizard's icon") << u":/images/window.png"_s << QSize(32, 32);
+    QTest::newRow("help") << u":/help/help.png"_s << QSize(24, 24);
 
-    const QString messages = QStringLiteral(":/ErrorTableUtility/images/");
-    const QString materials = QStringLiteral(":/MaterialNameUtility/images/");
+    const QString messages = u":/ErrorTableUtility/images/"_s;
+    const QString materials = u":/MaterialNameUtility/images/"_s;
     for (const char *name : {"new", "open", "save", "synchronize"})
-        QTest::addRow("messages: %s", name)
-            << messages + QLatin1String(name) + QLatin1String(".png") << QSize(24, 24);
+        QTest::addRow("messages: %s", name) << messages + QLatin1String(name) + ".png"_L1 << QSize(24, 24);
     for (const char *name : {"new", "open", "save", "saveas", "exit", "synchronize"})
-        QTest::addRow("materials: %s", name)
-            << materials + QLatin1String(name) + QLatin1String(".png") << QSize(24, 24);
-    QTest::newRow("messages' icon") << messages + QStringLiteral("window.png") << QSize(32, 32);
-    QTest::newRow("materials' icon") << materials + QStringLiteral("window.png") << QSize(32, 32);
+        QTest::addRow("materials: %s", name) << materials + QLatin1String(name) + ".png"_L1 << QSize(24, 24);
+    QTest::newRow("messages' icon") << messages + u"window.png"_s << QSize(32, 32);
+    QTest::newRow("materials' icon") << materials + u"window.png"_s << QSize(32, 32);
 }
 
-void tst_pictures::everyPictureIsThere_data()
+void tst_pictures::everyPictureHasItsSize_data()
 {
     addPictures();
-    QTest::newRow("banner") << QStringLiteral(":/image/banner.png") << QSize(720, 64);
+    QTest::newRow("banner") << u":/image/banner.png"_s << QSize(720, 64);
 }
 
-void tst_pictures::everyPictureIsThere()
+void tst_pictures::everyPictureHasItsSize()
 {
     QFETCH(QString, path);
     QFETCH(QSize, size);
     QCOMPARE(QImage(path).size(), size);
 }
 
-void tst_pictures::aDenseScreenHasTwiceThePixels_data()
+void tst_pictures::anIconHasTwiceThePixelsOnADenseScreen_data()
 {
     addPictures();
 }
 
-void tst_pictures::aDenseScreenHasTwiceThePixels()
+void tst_pictures::anIconHasTwiceThePixelsOnADenseScreen()
 {
     QFETCH(QString, path);
     QFETCH(QSize, size);
@@ -72,15 +72,15 @@ void tst_pictures::aDenseScreenHasTwiceThePixels()
     QCOMPARE(picture.deviceIndependentSize(), QSizeF(size));
 }
 
-// The wizard measures its header in the banner's pixels, so a denser banner would double the header.
-void tst_pictures::theBannerMakesAHeaderOfItsOwnSize()
+// The wizard's header has the banner's size in pixels, so a banner for dense screens would double it.
+void tst_pictures::theHeaderIsAsWideAsTheBanner()
 {
     QWizard wizard;
     wizard.setWizardStyle(QWizard::ModernStyle);
-    wizard.setPixmap(QWizard::BannerPixmap, QPixmap(QStringLiteral(":/image/banner.png")));
+    wizard.setPixmap(QWizard::BannerPixmap, QPixmap(u":/image/banner.png"_s));
     auto *page = new QWizardPage;
-    page->setTitle(QStringLiteral("A title"));
-    page->setSubTitle(QStringLiteral(" "));
+    page->setTitle(u"A title"_s);
+    page->setSubTitle(u" "_s);
     wizard.addPage(page);
     wizard.show();
     QCOMPARE(wizard.width(), 720);
