@@ -28,7 +28,7 @@ class FreshMachine(InstallerCase, MachineCase):
         before = self.machine.files()
         self.assertNotEqual(self.set_up("/S"), 0)
         self.assertEqual(self.machine.files(), before)
-        shutil.rmtree(self.machine.path(INSTALL_DIR))
+        shutil.rmtree(self.machine.path(PROGRAM_FILES + "\\Velmora"))
 
 
 class Upgrade(InstallerCase, MachineCase):
