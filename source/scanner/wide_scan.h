@@ -15,7 +15,7 @@ std::size_t countLineFeeds(std::string_view text);
 /// The position after the first "*/" that begins at or after from.
 std::size_t findCommentEnd(std::string_view text, std::size_t from);
 
-/// The position of the first byte from the position to before limit that can matter in a function's body: a
+/// The position of the first byte at or after from, and before limit, that can matter in a function's body: a
 /// brace, a quote, a slash or a number sign; limit if there is none. The limit is at most the text's size.
 std::size_t findBodyByte(std::string_view text, std::size_t from, std::size_t limit);
 

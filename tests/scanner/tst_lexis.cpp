@@ -25,27 +25,27 @@ void withEveryTail(std::string_view text, const std::function<void(std::string_v
 }
 
 // Rows of an element between two texts.
-void addTakenColumns()
+void addElementColumns()
 {
     QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("taken");
+    QTest::addColumn<QByteArray>("element");
     QTest::addColumn<QByteArray>("after");
 }
 
-void addTaken(const char *name, const char *before, const char *taken, const char *after)
+void addElement(const char *name, const char *before, const char *element, const char *after)
 {
-    QTest::newRow(name) << QByteArray(before) << QByteArray(taken) << QByteArray(after);
+    QTest::newRow(name) << QByteArray(before) << QByteArray(element) << QByteArray(after);
 }
 
 // Checks that the function finds the end of the row's element from its beginning.
-void checkTaken(const std::function<std::size_t(std::string_view, std::size_t)> &endOf)
+void checkElementEnd(const std::function<std::size_t(std::string_view, std::size_t)> &endOf)
 {
     QFETCH(const QByteArray, before);
-    QFETCH(const QByteArray, taken);
+    QFETCH(const QByteArray, element);
     QFETCH(const QByteArray, after);
-    const std::string text = (before + taken + after).toStdString();
+    const std::string text = (before + element + after).toStdString();
     const auto begin = static_cast<std::size_t>(before.size());
-    const std::size_t end = begin + static_cast<std::size_t>(taken.size());
+    const std::size_t end = begin + static_cast<std::size_t>(element.size());
     withEveryTail(text, [&](std::string_view view) { QCOMPARE(endOf(view, begin), end); });
 }
 
@@ -59,82 +59,82 @@ class tst_lexis : public QObject
 private slots:
     void lineContinuationsAreABackslashAndALineEnd_data()
     {
-        addTakenColumns();
-        addTaken("line feed", "", "\\\n", "a");
-        addTaken("line feed after a word", "abc", "\\\n", "a");
-        addTaken("carriage return and line feed", "", "\\\r\n", "a");
-        addTaken("at the end of the text", "abc", "\\\n", "");
-        addTaken("carriage return at the end of the text", "abc", "\\\r\n", "");
-        addTaken("only a backslash", "", "", "\\");
-        addTaken("a backslash at the end of the text", "abc", "", "\\");
-        addTaken("a backslash and a letter", "", "", "\\n\n");
-        addTaken("a backslash, a letter and a line feed", "", "", "\\r\n");
-        addTaken("only a carriage return", "", "", "\\\ra\n");
-        addTaken("a carriage return at the end of the text", "", "", "\\\r");
-        addTaken("a line feed without backslash", "", "", "\n\n");
+        addElementColumns();
+        addElement("line feed", "", "\\\n", "a");
+        addElement("line feed after a word", "abc", "\\\n", "a");
+        addElement("carriage return and line feed", "", "\\\r\n", "a");
+        addElement("at the end of the text", "abc", "\\\n", "");
+        addElement("carriage return at the end of the text", "abc", "\\\r\n", "");
+        addElement("only a backslash", "", "", "\\");
+        addElement("a backslash at the end of the text", "abc", "", "\\");
+        addElement("a backslash and a letter", "", "", "\\n\n");
+        addElement("a backslash, a letter and a line feed", "", "", "\\r\n");
+        addElement("only a carriage return", "", "", "\\\ra\n");
+        addElement("a carriage return at the end of the text", "", "", "\\\r");
+        addElement("a line feed without backslash", "", "", "\n\n");
     }
 
     void lineContinuationsAreABackslashAndALineEnd()
     {
-        checkTaken([](std::string_view text, std::size_t begin) {
+        checkElementEnd([](std::string_view text, std::size_t begin) {
             return begin + Lexis::continuationLength(text, begin);
         });
     }
 
     void wordsEndBeforeTheNextOtherByte_data()
     {
-        addTakenColumns();
-        addTaken("at a blank", "", "name_1", " x");
-        addTaken("at the end of the text", "x ", "name", "");
-        addTaken("after a continuation within", "", "na\\\nme", ";");
-        addTaken("after a continuation with a carriage return", "", "na\\\r\nme", ";");
-        addTaken("after two continuations in a row", "", "na\\\n\\\r\nme", ";");
-        addTaken("after several separate continuations", "", "n\\\na\\\nme", "\\\n;");
-        addTaken("before a continuation without a word byte after it", "", "name", "\\\n;");
-        addTaken("before a continuation with a blank after it", "", "name", "\\\n x");
-        addTaken("before a continuation at the end of the text", "", "name", "\\\n");
-        addTaken("before a backslash", "", "name", "\\x");
-        addTaken("before a backslash at the end of the text", "", "name", "\\");
-        addTaken("before a line feed", "", "name", "\nx");
-        addTaken("at a position without a word", "x", "", ";x");
+        addElementColumns();
+        addElement("at a blank", "", "name_1", " x");
+        addElement("at the end of the text", "x ", "name", "");
+        addElement("after a continuation within", "", "na\\\nme", ";");
+        addElement("after a continuation with a carriage return", "", "na\\\r\nme", ";");
+        addElement("after two continuations in a row", "", "na\\\n\\\r\nme", ";");
+        addElement("after several separate continuations", "", "n\\\na\\\nme", "\\\n;");
+        addElement("before a continuation without a word byte after it", "", "name", "\\\n;");
+        addElement("before a continuation with a blank after it", "", "name", "\\\n x");
+        addElement("before a continuation at the end of the text", "", "name", "\\\n");
+        addElement("before a backslash", "", "name", "\\x");
+        addElement("before a backslash at the end of the text", "", "name", "\\");
+        addElement("before a line feed", "", "name", "\nx");
+        addElement("at a position without a word", "x", "", ";x");
     }
 
-    void wordsEndBeforeTheNextOtherByte() { checkTaken(Lexis::wordEnd); }
+    void wordsEndBeforeTheNextOtherByte() { checkElementEnd(Lexis::wordEnd); }
 
     void wordsBeginAfterTheLastOtherByte_data()
     {
-        addTakenColumns();
-        addTaken("at the start of the text", "", "name", " x");
-        addTaken("after a blank", "x ", "name", "");
-        addTaken("before a continuation within", "x ", "na\\\nme", ";");
-        addTaken("before a continuation within, at the start of the text", "", "na\\\nme", ";");
-        addTaken("before a continuation with a carriage return", "x ", "na\\\r\nme", ";");
-        addTaken("before one with a carriage return, at the start of the text", "", "n\\\r\nme", ";");
-        addTaken("before two continuations in a row", "x ", "na\\\r\n\\\nme", ";");
-        addTaken("before several separate continuations", "x ", "n\\\na\\\nme", ";");
-        addTaken("after a line feed without backslash", "x\n", "name", ";");
-        addTaken("after a line end without backslash", "x\r\n", "name", ";");
-        addTaken("after a letter, no backslash, and a line feed", "\\xr\n", "name", ";");
-        addTaken("after a backslash within the line", "x\\y\n", "name", ";");
-        addTaken("after a backslash and a blank", "x\\ \n", "name", ";");
-        addTaken("after a backslash and a sign", "x\\;", "name", ";");
-        addTaken("after a backslash, a carriage return and a sign", "x\\\r;", "name", ";");
-        addTaken("after a continuation without a word byte before it", ";\\\n", "name", ";");
-        addTaken("after a continuation with a blank before it", "x \\\r\n", "name", ";");
-        addTaken("after a continuation at the start of the text", "\\\n", "name", ";");
-        addTaken("after a line end at the start of the text", "\r\n", "name", ";");
-        addTaken("after a line feed at the start of the text", "\n", "name", ";");
-        addTaken("at a position after no word", "x;", "", ";x");
+        addElementColumns();
+        addElement("at the start of the text", "", "name", " x");
+        addElement("after a blank", "x ", "name", "");
+        addElement("before a continuation within", "x ", "na\\\nme", ";");
+        addElement("before a continuation within, at the start of the text", "", "na\\\nme", ";");
+        addElement("before a continuation with a carriage return", "x ", "na\\\r\nme", ";");
+        addElement("before one with a carriage return, at the start of the text", "", "n\\\r\nme", ";");
+        addElement("before two continuations in a row", "x ", "na\\\r\n\\\nme", ";");
+        addElement("before several separate continuations", "x ", "n\\\na\\\nme", ";");
+        addElement("after a line feed without backslash", "x\n", "name", ";");
+        addElement("after a line end without backslash", "x\r\n", "name", ";");
+        addElement("after a letter, no backslash, and a line feed", "\\xr\n", "name", ";");
+        addElement("after a backslash within the line", "x\\y\n", "name", ";");
+        addElement("after a backslash and a blank", "x\\ \n", "name", ";");
+        addElement("after a backslash and a sign", "x\\;", "name", ";");
+        addElement("after a backslash, a carriage return and a sign", "x\\\r;", "name", ";");
+        addElement("after a continuation without a word byte before it", ";\\\n", "name", ";");
+        addElement("after a continuation with a blank before it", "x \\\r\n", "name", ";");
+        addElement("after a continuation at the start of the text", "\\\n", "name", ";");
+        addElement("after a line end at the start of the text", "\r\n", "name", ";");
+        addElement("after a line feed at the start of the text", "\n", "name", ";");
+        addElement("at a position after no word", "x;", "", ";x");
     }
 
     void wordsBeginAfterTheLastOtherByte()
     {
         QFETCH(const QByteArray, before);
-        QFETCH(const QByteArray, taken);
+        QFETCH(const QByteArray, element);
         QFETCH(const QByteArray, after);
         const auto begin = static_cast<std::size_t>(before.size());
-        const std::size_t end = begin + static_cast<std::size_t>(taken.size());
-        const std::string text = (before + taken + after).toStdString();
+        const std::size_t end = begin + static_cast<std::size_t>(element.size());
+        const std::string text = (before + element + after).toStdString();
         QCOMPARE(Lexis::wordBegin(text, end, 0), begin);
         // Words before the floor do not change that.
         const std::string further = "x y" + text;
@@ -176,45 +176,45 @@ private slots:
 
     void numbersHaveSeparators_data()
     {
-        addTakenColumns();
-        addTaken("no separator", "", "12", ";");
-        addTaken("one", "", "1'000", ";");
-        addTaken("two, and a suffix", "", "1'000'000u", ";");
-        addTaken("between single digits", "x ", "1'2'3", "'");
-        addTaken("at the end of the text", "", "1'2", "");
-        addTaken("hexadecimal digits", "", "0xFF'FF", ",");
-        addTaken("a quote that no digit follows", "", "1", "';'");
-        addTaken("a quote that only the next but one follows", "", "1", "';2");
-        addTaken("a quote at the end of the text", "", "1", "'");
-        addTaken("two quotes", "", "1", "''2");
-        addTaken("something else before a digit", "", "1", ".2");
+        addElementColumns();
+        addElement("no separator", "", "12", ";");
+        addElement("one", "", "1'000", ";");
+        addElement("two, and a suffix", "", "1'000'000u", ";");
+        addElement("between single digits", "x ", "1'2'3", "'");
+        addElement("at the end of the text", "", "1'2", "");
+        addElement("hexadecimal digits", "", "0xFF'FF", ",");
+        addElement("a quote without a digit after it", "", "1", "';'");
+        addElement("a quote, a sign and a digit", "", "1", "';2");
+        addElement("a quote at the end of the text", "", "1", "'");
+        addElement("two quotes", "", "1", "''2");
+        addElement("another sign before a digit", "", "1", ".2");
     }
 
-    void numbersHaveSeparators() { checkTaken(Lexis::numberEnd); }
+    void numbersHaveSeparators() { checkElementEnd(Lexis::numberEnd); }
 
     void commentsEnd_data()
     {
-        addTakenColumns();
-        addTaken("with the line", "x ", "// a", "\nb");
-        addTaken("with the line, though empty", "", "//", "\nb");
-        addTaken("before a carriage return's line feed", "", "// a\r", "\nb");
-        addTaken("with the text", "", "// a", "");
-        addTaken("with the text, though empty", "", "//", "");
-        addTaken("with the line after a continuation", "", "// a\\\nb", "\nc");
-        addTaken("with the line after a continuation with a carriage return", "", "// a\\\r\nb", "\nc");
-        addTaken("with the line after an empty one with a continuation", "", "//\\\nb", "\nc");
-        addTaken("with the text after a continuation", "", "// a\\\n", "");
-        addTaken("with a line whose last letter but one is a backslash", "", "// a\\s", "\nb");
-        addTaken("with a line whose last but one is a carriage return", "", "// \\\rx", "\nb");
-        addTaken("at an asterisk and a slash", "x", "/* a\n // b */", "c */");
-        addTaken("at an asterisk and a slash, though empty", "", "/**/", "*/");
-        addTaken("with the text if unclosed", "", "/* a\nb", "");
-        addTaken("with the text at an asterisk", "", "/* a*", "");
+        addElementColumns();
+        addElement("with the line", "x ", "// a", "\nb");
+        addElement("with the line when empty", "", "//", "\nb");
+        addElement("before a carriage return's line feed", "", "// a\r", "\nb");
+        addElement("with the text", "", "// a", "");
+        addElement("with the text when empty", "", "//", "");
+        addElement("with the line after a continuation", "", "// a\\\nb", "\nc");
+        addElement("with the line after a continuation with a carriage return", "", "// a\\\r\nb", "\nc");
+        addElement("with the line after an empty one with a continuation", "", "//\\\nb", "\nc");
+        addElement("with the text after a continuation", "", "// a\\\n", "");
+        addElement("with a line that ends with a backslash and a letter", "", "// a\\s", "\nb");
+        addElement("with a line that ends with a carriage return and a letter", "", "// \\\rx", "\nb");
+        addElement("at an asterisk and a slash", "x", "/* a\n // b */", "c */");
+        addElement("at an asterisk and a slash when empty", "", "/**/", "*/");
+        addElement("with the text if unclosed", "", "/* a\nb", "");
+        addElement("with the text at an asterisk", "", "/* a*", "");
     }
 
     void commentsEnd()
     {
-        checkTaken([](std::string_view text, std::size_t begin) {
+        checkElementEnd([](std::string_view text, std::size_t begin) {
             return Lexis::commentEnd(text, begin).value_or(std::string_view::npos);
         });
     }
@@ -227,7 +227,7 @@ private slots:
         QTest::newRow("at a slash before a blank") << QByteArray("/ /");
         QTest::newRow("a byte before a comment") << QByteArray("a// b");
         QTest::newRow("a byte before a slash and an asterisk") << QByteArray("*/* b */");
-        QTest::newRow("at another sign and a slash") << QByteArray("*/");
+        QTest::newRow("at another sign before a slash") << QByteArray("*/");
     }
 
     void noCommentBegins()
@@ -239,57 +239,57 @@ private slots:
 
     void blanksCommentsAndContinuationsAreSkipped_data()
     {
-        addTakenColumns();
-        addTaken("at a position without any", "", "", "a");
-        addTaken("blanks", "a", " \t\r\n\v\f", "b");
-        addTaken("a comment to the end of the line", "", "// a\n ", "b");
-        addTaken("adjacent comments", "", "/* a *//* b */ /* c */", "d");
-        addTaken("continuations", "a", " \\\n\\\r\n ", "b");
-        addTaken("not a slash", "", " ", "/ a");
-        addTaken("not a backslash", "", " ", "\\a");
-        addTaken("not a slash at the end of the text", "", " ", "/");
-        addTaken("not a backslash at the end of the text", "", " ", "\\");
-        addTaken("to the end of the text", "a", " // b", "");
+        addElementColumns();
+        addElement("at a position without any", "", "", "a");
+        addElement("blanks", "a", " \t\r\n\v\f", "b");
+        addElement("a comment to the end of the line", "", "// a\n ", "b");
+        addElement("adjacent comments", "", "/* a *//* b */ /* c */", "d");
+        addElement("continuations", "a", " \\\n\\\r\n ", "b");
+        addElement("not a slash", "", " ", "/ a");
+        addElement("not a backslash", "", " ", "\\a");
+        addElement("not a slash at the end of the text", "", " ", "/");
+        addElement("not a backslash at the end of the text", "", " ", "\\");
+        addElement("to the end of the text", "a", " // b", "");
     }
 
-    void blanksCommentsAndContinuationsAreSkipped() { checkTaken(Lexis::skipBlanksAndComments); }
+    void blanksCommentsAndContinuationsAreSkipped() { checkElementEnd(Lexis::skipBlanksAndComments); }
 
     void characterLiteralsEnd_data()
     {
-        addTakenColumns();
-        addTaken("at their quote", "x", "'a'", ";'");
-        addTaken("after a suffix", "", "'a'_b", ";'");
-        addTaken("before a digit", "", "'a'", "1");
-        addTaken("after a quote with a backslash", "", "'\\''", "'");
-        addTaken("after two backslashes", "", "'\\\\'", "'");
-        addTaken("after a continuation", "", "'a\\\r\nb'", "'");
-        addTaken("with the line if unclosed", "", "'a", "\nb'");
-        addTaken("with the text if unclosed", "", "'a", "");
-        addTaken("with the text after a backslash", "", "'a\\", "");
+        addElementColumns();
+        addElement("at their quote", "x", "'a'", ";'");
+        addElement("after a suffix", "", "'a'_b", ";'");
+        addElement("before a digit", "", "'a'", "1");
+        addElement("after a quote with a backslash", "", "'\\''", "'");
+        addElement("after two backslashes", "", "'\\\\'", "'");
+        addElement("after a continuation", "", "'a\\\r\nb'", "'");
+        addElement("with the line if unclosed", "", "'a", "\nb'");
+        addElement("with the text if unclosed", "", "'a", "");
+        addElement("with the text after a backslash", "", "'a\\", "");
     }
 
-    void characterLiteralsEnd() { checkTaken(Lexis::characterLiteralEnd); }
+    void characterLiteralsEnd() { checkElementEnd(Lexis::characterLiteralEnd); }
 
     void singleQuotesBelongToNumbersOrLiterals_data()
     {
-        addTakenColumns();
-        addTaken("a number's separator", "1", "'000'000", ";");
-        addTaken("a number's separator after a letter", "x = 0xF", "'F", "'");
-        addTaken("a number's separator after a continuation", "1\\\n0", "'0", ";");
-        addTaken("a literal at the start of the text", "", "'a'", ";'");
-        addTaken("a literal after a blank", "1 ", "'a'", ";'");
-        addTaken("a literal after its prefix", "L", "'a'", ";'");
-        addTaken("a literal after a prefix with a digit", "u8", "'a'", ";'");
-        addTaken("a literal after a number and a continuation", "1\\\n", "'2'", ";'");
-        addTaken("a literal after a number and a sign", "1+", "'a'", ";'");
-        addTaken("a literal after a number, without a digit in it", "1", "'{'", ";'");
-        addTaken("a quote after a number, at the end of the text", "1", "'", "");
-        addTaken("a quote and a digit at the end of the text", "1", "'0", "");
+        addElementColumns();
+        addElement("a number's separator", "1", "'000'000", ";");
+        addElement("a number's separator after a letter", "x = 0xF", "'F", "'");
+        addElement("a number's separator after a continuation", "1\\\n0", "'0", ";");
+        addElement("a literal at the start of the text", "", "'a'", ";'");
+        addElement("a literal after a blank", "1 ", "'a'", ";'");
+        addElement("a literal after its prefix", "L", "'a'", ";'");
+        addElement("a literal after a prefix with a digit", "u8", "'a'", ";'");
+        addElement("a literal after a number and a continuation", "1\\\n", "'2'", ";'");
+        addElement("a literal after a number and a sign", "1+", "'a'", ";'");
+        addElement("a literal after a number, without a digit in it", "1", "'{'", ";'");
+        addElement("a quote after a number, at the end of the text", "1", "'", "");
+        addElement("a quote and a digit at the end of the text", "1", "'0", "");
     }
 
     void singleQuotesBelongToNumbersOrLiterals()
     {
-        checkTaken(
+        checkElementEnd(
             [](std::string_view text, std::size_t quote) { return Lexis::singleQuoteEnd(text, quote, 0); });
     }
 
@@ -303,34 +303,34 @@ private slots:
 
     void directivesEnd_data()
     {
-        addTakenColumns();
-        addTaken("with the line", "", " A", "\nB");
-        addTaken("with the text", "", " A", "");
-        addTaken("after a continuation", "", " A \\\nB", "\nC");
-        addTaken("after a continuation with a carriage return", "", " A \\\r\nB", "\nC");
-        addTaken("with the line after a backslash within it", "", " \\ A", "\nB");
-        addTaken("with the line, at a string after a backslash", "", " \\\"/*\"", "\n*/");
-        addTaken("with the line, at a backslash after a continuation", "", " \\\n\\A", "\nB");
-        addTaken("after a comment", "", " A /* b\nc */ D", "\nE");
-        addTaken("with a comment that ends with the line", "", " A // b", "\nC");
-        addTaken("with a slash", "", " A /", "\nC");
-        addTaken("with a slash before a quote", "", " A /\"b\\\nc\"", "\nC");
-        addTaken("after a string with a continuation", "", " \"a\\\nb\"", "\nC");
-        addTaken("with a string of the start of a comment", "", " \"/*\"", "\n*/");
-        addTaken("with a character that is a quote", "", " '\"'", "\n\"");
-        addTaken("with an unclosed string", "", " \"a", "\nB\"");
-        addTaken("with an unclosed character", "", " don't", "\nB'");
-        addTaken("after a raw string", "", " R\"(a\nb)\"", "\nC");
-        addTaken("after a raw string at the start", "", "R\"(a\nb)\"", "\nC");
-        addTaken("after a raw string with prefix", "", " u8R\"x(a\n)\")x\"", "\nC");
-        addTaken("with a word that ends with a raw string prefix", "", " xR\"(a", "\nb)\"");
-        addTaken("with a separator of digits", "", " 1'000", "\n'");
-        addTaken("with a suffix before a string", "", " \"a\"R\"(b\"", "\nc)\"");
-        addTaken("with a suffix before a string after a character", "", " 'a'R\"(b\"", "\nc)\"");
-        addTaken("with a number of separators before a string", "", " 1'R\"(b\"", "\nc)\"");
+        addElementColumns();
+        addElement("with the line", "", " A", "\nB");
+        addElement("with the text", "", " A", "");
+        addElement("after a continuation", "", " A \\\nB", "\nC");
+        addElement("after a continuation with a carriage return", "", " A \\\r\nB", "\nC");
+        addElement("with the line after a backslash within it", "", " \\ A", "\nB");
+        addElement("with the line, at a string after a backslash", "", " \\\"/*\"", "\n*/");
+        addElement("with the line, at a backslash after a continuation", "", " \\\n\\A", "\nB");
+        addElement("after a comment", "", " A /* b\nc */ D", "\nE");
+        addElement("with a comment that ends with the line", "", " A // b", "\nC");
+        addElement("with a slash", "", " A /", "\nC");
+        addElement("with a slash before a quote", "", " A /\"b\\\nc\"", "\nC");
+        addElement("after a string with a continuation", "", " \"a\\\nb\"", "\nC");
+        addElement("with a string of the start of a comment", "", " \"/*\"", "\n*/");
+        addElement("with a character that is a quote", "", " '\"'", "\n\"");
+        addElement("with an unclosed string", "", " \"a", "\nB\"");
+        addElement("with an unclosed character", "", " don't", "\nB'");
+        addElement("after a raw string", "", " R\"(a\nb)\"", "\nC");
+        addElement("after a raw string at the start", "", "R\"(a\nb)\"", "\nC");
+        addElement("after a raw string with prefix", "", " u8R\"x(a\n)\")x\"", "\nC");
+        addElement("with a word that ends with a raw string prefix", "", " xR\"(a", "\nb)\"");
+        addElement("with a separator of digits", "", " 1'000", "\n'");
+        addElement("with a suffix before a string", "", " \"a\"R\"(b\"", "\nc)\"");
+        addElement("with a suffix before a string after a character", "", " 'a'R\"(b\"", "\nc)\"");
+        addElement("with a number of separators before a string", "", " 1'R\"(b\"", "\nc)\"");
     }
 
-    void directivesEnd() { checkTaken(Lexis::directiveEnd); }
+    void directivesEnd() { checkElementEnd(Lexis::directiveEnd); }
 
     void directivesAreFirstOnTheirLine_data()
     {
