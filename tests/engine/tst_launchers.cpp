@@ -1,7 +1,6 @@
 #include "cad/cad_systems.h"
 #include "cad/launcher_step.h"
 #include "engine/engine_fixture.h"
-#include "nvx_util/system.h"
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
 
@@ -56,9 +55,7 @@ private slots:
         m_fixture->engine->ProcessInstallation();
         QCOMPARE(lastLines.size(), 2);
         QVERIFY2(lastLines.at(0).contains(u" Create shortcut "_s), qPrintable(lastLines.at(0)));
-        const QString target =
-            Nvx::Util::joinPath(m_fixture->test.path(u"Addin"_s), u"NVX_2017_SpaceClaim.xml"_s);
-        QVERIFY2(lastLines.at(1).endsWith(u" to: "_s + target), qPrintable(lastLines.at(1)));
+        QCOMPARE(lastLines.at(1), linesOfTheTable().last());
     }
 
     void eachCadSystemHasItsOwnOperation()
