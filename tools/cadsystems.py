@@ -1,5 +1,5 @@
-"""The six CAD systems that have a launcher, as their installers leave them on a machine: their registry values
-and the files that list add-ins.
+"""The six CAD systems that have a launcher, as their installers leave them on a machine: their registry
+values and the files that list add-ins.
 
     put_cad_systems(machine)
 """

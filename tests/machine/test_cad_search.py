@@ -11,7 +11,7 @@ CASES = Path(__file__).resolve().parents[1] / "cad" / "cases"
 
 class CadSearch(MachineCase):
     def search_lines(self, case, *tokens):
-        """The lines that a run logs about the search, on a machine with the registry of a case in tests/cad."""
+        """The lines that a run logs about the search, with the registry of a case in tests/cad."""
         self.machine.import_script((CASES / case / "machine.reg").read_text(encoding="utf-8"))
         self.put_product()
         self.machine.path(INSTALL_DIR + "\\NVXConfig.log").unlink(missing_ok=True)
