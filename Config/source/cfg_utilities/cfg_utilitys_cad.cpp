@@ -5,6 +5,7 @@
 #include "cad/process_guard.h"
 #include "cfg_utilities/cfg_utilitys.h"
 
+using namespace Nvx::Run;
 using namespace Nvx;
 
 void cfg_utilitys::searchCADPackages()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "run/namespace.h"
 #include "run/step_context.h"
 
 #include <QCoreApplication>

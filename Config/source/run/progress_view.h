@@ -1,7 +1,5 @@
 #pragma once
 
-#include "run/namespace.h"
-
 #include <QString>
 
 namespace Nvx::Run {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "run/namespace.h"
-
 namespace Nvx::Util {
 class Machine;
 }
