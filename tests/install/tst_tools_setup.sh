@@ -68,7 +68,7 @@ wait $first || fail "the first one ended with exit status $?"
 for work in 'apt-get install' 'npm pack' 'apt-get .* source ' 'cmake -S' 'cmake --build' 'cmake --install'; do
     [ "$(count "^$work")" = 1 ] || fail "'$work' was called $(count "^$work") times"
 done
-grep -qhF 'waiting for the tools/setup' "$folder"/first.log "$folder"/second.log || fail "neither has waited"
+grep -qhF 'waiting for another tools/setup' "$folder"/first.log "$folder"/second.log || fail "neither has waited"
 [ -f "$NVX_CACHE/qt-windows/built-from" ] || fail "Qt is not where the build looks for it"
 [ -f "$NVX_CACHE/7zip-windows/7za.exe" ] || fail "7-Zip is not where the build looks for it"
 
