@@ -24,7 +24,7 @@ CpuInfo::CpuInfo(Log &log, const QString & /*productFolder*/)
     if (const auto probed = Platform::probeProcessors())
         m_counts = *probed;
     else
-        log.append(u"The processors could not be probed, one processor of one core is assumed"_s);
+        log.append(u"The processors could not be counted; one processor with one core is assumed"_s);
 }
 
 CpuInfo::CpuInfo(const ProcessorCounts &counts)

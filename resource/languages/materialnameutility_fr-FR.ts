@@ -15,7 +15,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>Les formes plurielles sont omises, l&apos;ancien fichier est %1</translation>
     </message>
 </context>
@@ -94,7 +94,7 @@
         <translation>Ouvrir une base de données de matériaux</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>Synchronisation annulée, la table est inchangée</translation>
     </message>
     <message>

@@ -15,7 +15,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>Le forme plurali sono state omesse, il vecchio file è %1</translation>
     </message>
 </context>
@@ -94,7 +94,7 @@
         <translation>Apri database dei materiali</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>Sincronizzazione annullata, la tabella è invariata</translation>
     </message>
     <message>

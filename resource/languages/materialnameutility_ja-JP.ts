@@ -15,7 +15,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>複数形は失われました。元のファイルは %1 です</translation>
     </message>
 </context>
@@ -94,7 +94,7 @@
         <translation>材料データベースを開く</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>同期をキャンセルしました。テーブルは変更されていません。</translation>
     </message>
     <message>

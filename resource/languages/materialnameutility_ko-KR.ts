@@ -15,7 +15,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>복수형이 제외되었습니다. 이전 파일은 %1입니다</translation>
     </message>
 </context>
@@ -94,7 +94,7 @@
         <translation>재료 데이터베이스 열기</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>동기화가 취소되었으며 테이블은 변경되지 않았습니다</translation>
     </message>
     <message>

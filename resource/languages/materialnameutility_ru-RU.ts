@@ -15,7 +15,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>Формы множественного числа опущены, прежний файл: %1</translation>
     </message>
 </context>
@@ -94,7 +94,7 @@
         <translation>Открыть базу данных материалов</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>Синхронизация отменена, таблица не изменена</translation>
     </message>
     <message>

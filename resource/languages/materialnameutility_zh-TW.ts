@@ -15,7 +15,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>複數形式已被省略，原來的檔案是 %1</translation>
     </message>
 </context>
@@ -94,7 +94,7 @@
         <translation>開啟材料資料庫</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>已取消同步，表格未變更</translation>
     </message>
     <message>

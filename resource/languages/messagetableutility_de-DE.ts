@@ -35,7 +35,7 @@
         <translation>Im Quellcode gefunden, noch nicht geprüft</translation>
     </message>
     <message>
-        <source>Not found in the sources any more</source>
+        <source>No longer found in the sources</source>
         <translation>Im Quellcode nicht mehr vorhanden</translation>
     </message>
     <message>
@@ -95,7 +95,7 @@
         <translation>%1 konnte nicht analysiert werden</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>Synchronisierung abgebrochen, die Tabelle ist unverändert</translation>
     </message>
     <message>
@@ -151,7 +151,7 @@
         <translation>%1 wird gelesen</translation>
     </message>
     <message>
-        <source>Update cancelled, the translation is as it was</source>
+        <source>Update cancelled; the translation is unchanged</source>
         <translation>Aktualisierung abgebrochen, die Übersetzung ist unverändert</translation>
     </message>
 </context>
@@ -169,7 +169,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>Pluralformen sind entfallen, die alte Datei ist %1</translation>
     </message>
 </context>

@@ -35,7 +35,7 @@
         <translation>Trouvé dans le code source, pas encore vérifié</translation>
     </message>
     <message>
-        <source>Not found in the sources any more</source>
+        <source>No longer found in the sources</source>
         <translation>Ne figure plus dans le code source</translation>
     </message>
     <message>
@@ -95,7 +95,7 @@
         <translation>Impossible d&apos;analyser %1</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>Synchronisation annulée, la table est inchangée</translation>
     </message>
     <message>
@@ -151,7 +151,7 @@
         <translation>Lecture de %1</translation>
     </message>
     <message>
-        <source>Update cancelled, the translation is as it was</source>
+        <source>Update cancelled; the translation is unchanged</source>
         <translation>Mise à jour annulée, la traduction est inchangée</translation>
     </message>
 </context>
@@ -169,7 +169,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>Les formes plurielles sont omises, l&apos;ancien fichier est %1</translation>
     </message>
 </context>

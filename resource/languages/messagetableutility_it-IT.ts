@@ -35,7 +35,7 @@
         <translation>Trovato nei sorgenti, non ancora revisionato</translation>
     </message>
     <message>
-        <source>Not found in the sources any more</source>
+        <source>No longer found in the sources</source>
         <translation>Non più presente nei sorgenti</translation>
     </message>
     <message>
@@ -95,7 +95,7 @@
         <translation>Impossibile analizzare %1</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>Sincronizzazione annullata, la tabella è invariata</translation>
     </message>
     <message>
@@ -151,7 +151,7 @@
         <translation>Lettura di %1</translation>
     </message>
     <message>
-        <source>Update cancelled, the translation is as it was</source>
+        <source>Update cancelled; the translation is unchanged</source>
         <translation>Aggiornamento annullato, la traduzione è invariata</translation>
     </message>
 </context>
@@ -169,7 +169,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>Le forme plurali sono state omesse, il vecchio file è %1</translation>
     </message>
 </context>

@@ -35,7 +35,7 @@
         <translation>ソース コードで見つかりましたが、まだ確認されていません</translation>
     </message>
     <message>
-        <source>Not found in the sources any more</source>
+        <source>No longer found in the sources</source>
         <translation>ソース コードに存在しなくなりました</translation>
     </message>
     <message>
@@ -95,7 +95,7 @@
         <translation>%1 を解析できませんでした</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>同期をキャンセルしました。テーブルは変更されていません。</translation>
     </message>
     <message>
@@ -151,7 +151,7 @@
         <translation>%1 を読み込んでいます</translation>
     </message>
     <message>
-        <source>Update cancelled, the translation is as it was</source>
+        <source>Update cancelled; the translation is unchanged</source>
         <translation>更新をキャンセルしました。翻訳は変更されていません。</translation>
     </message>
 </context>
@@ -169,7 +169,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>複数形は失われました。元のファイルは %1 です</translation>
     </message>
 </context>

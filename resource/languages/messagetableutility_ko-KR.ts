@@ -35,7 +35,7 @@
         <translation>소스 코드에서 찾았지만 아직 검토되지 않았습니다</translation>
     </message>
     <message>
-        <source>Not found in the sources any more</source>
+        <source>No longer found in the sources</source>
         <translation>소스 코드에 더 이상 없습니다</translation>
     </message>
     <message>
@@ -95,7 +95,7 @@
         <translation>%1을(를) 구문 분석할 수 없습니다</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>동기화가 취소되었으며 테이블은 변경되지 않았습니다</translation>
     </message>
     <message>
@@ -151,7 +151,7 @@
         <translation>%1을(를) 읽는 중</translation>
     </message>
     <message>
-        <source>Update cancelled, the translation is as it was</source>
+        <source>Update cancelled; the translation is unchanged</source>
         <translation>업데이트가 취소되었으며 번역은 변경되지 않았습니다</translation>
     </message>
 </context>
@@ -169,7 +169,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>복수형이 제외되었습니다. 이전 파일은 %1입니다</translation>
     </message>
 </context>

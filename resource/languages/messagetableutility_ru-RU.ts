@@ -35,7 +35,7 @@
         <translation>Найдено в исходном коде, еще не проверено</translation>
     </message>
     <message>
-        <source>Not found in the sources any more</source>
+        <source>No longer found in the sources</source>
         <translation>Больше не встречается в исходном коде</translation>
     </message>
     <message>
@@ -95,7 +95,7 @@
         <translation>Не удалось разобрать %1</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>Синхронизация отменена, таблица не изменена</translation>
     </message>
     <message>
@@ -151,7 +151,7 @@
         <translation>Чтение %1</translation>
     </message>
     <message>
-        <source>Update cancelled, the translation is as it was</source>
+        <source>Update cancelled; the translation is unchanged</source>
         <translation>Обновление отменено, перевод не изменен</translation>
     </message>
 </context>
@@ -169,7 +169,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>Формы множественного числа опущены, прежний файл: %1</translation>
     </message>
 </context>

@@ -35,7 +35,7 @@
         <translation>在源代码中找到，尚未审阅</translation>
     </message>
     <message>
-        <source>Not found in the sources any more</source>
+        <source>No longer found in the sources</source>
         <translation>源代码中已不存在</translation>
     </message>
     <message>
@@ -95,7 +95,7 @@
         <translation>无法解析 %1</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>已取消同步，表未更改</translation>
     </message>
     <message>
@@ -151,7 +151,7 @@
         <translation>正在读取 %1</translation>
     </message>
     <message>
-        <source>Update cancelled, the translation is as it was</source>
+        <source>Update cancelled; the translation is unchanged</source>
         <translation>已取消更新，翻译未更改</translation>
     </message>
 </context>
@@ -169,7 +169,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>复数形式已被省略，原来的文件是 %1</translation>
     </message>
 </context>

@@ -35,7 +35,7 @@
         <translation>在原始程式碼中找到，尚未檢閱</translation>
     </message>
     <message>
-        <source>Not found in the sources any more</source>
+        <source>No longer found in the sources</source>
         <translation>原始程式碼中已不存在</translation>
     </message>
     <message>
@@ -95,7 +95,7 @@
         <translation>無法剖析 %1</translation>
     </message>
     <message>
-        <source>Synchronization cancelled, the table is as it was</source>
+        <source>Synchronization cancelled; the table is unchanged</source>
         <translation>已取消同步，表格未變更</translation>
     </message>
     <message>
@@ -151,7 +151,7 @@
         <translation>正在讀取 %1</translation>
     </message>
     <message>
-        <source>Update cancelled, the translation is as it was</source>
+        <source>Update cancelled; the translation is unchanged</source>
         <translation>已取消更新，翻譯未變更</translation>
     </message>
 </context>
@@ -169,7 +169,7 @@
 <context>
     <name>TranslationBackup</name>
     <message>
-        <source>Plural forms were dropped; the old file is %1</source>
+        <source>Plural forms were dropped; the previous file is kept as %1</source>
         <translation>複數形式已被省略，原來的檔案是 %1</translation>
     </message>
 </context>

@@ -24,7 +24,7 @@
         <translation> von Mertle Server</translation>
     </message>
     <message>
-        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <source>No translators folder is set; the Mertle Server is not installed or removed</source>
         <translation>Kein Konverterordner vorhanden, Mertle Server bleibt unverändert</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>Das Programm ist abgestürzt.</translation>
     </message>
     <message>
-        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <source>The name of this folder cannot be written in the command interpreter&apos;s code page; it is not removed: %1</source>
         <translation>Der Name dieses Ordners lässt sich in der Codepage des Befehlsinterpreters nicht darstellen, der Ordner wird nicht entfernt: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1, this folder is not removed: %2</source>
+        <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>%1 konnte nicht erstellt werden, dieser Ordner wird nicht entfernt: %2</translation>
     </message>
 </context>
@@ -202,7 +202,7 @@
 <context>
     <name>FileAssociations</name>
     <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; no files are associated with the product: %1</source>
         <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, dem Produkt werden keine Dateien zugeordnet: %1</translation>
     </message>
     <message>
@@ -210,14 +210,14 @@
         <translation>Dateizuordnungen werden erstellt</translation>
     </message>
     <message>
-        <source>The install folder is not known, no files are associated</source>
+        <source>The install folder is unknown; no files are associated</source>
         <translation>Der Installationsordner ist nicht bekannt, es werden keine Dateien zugeordnet</translation>
     </message>
 </context>
 <context>
     <name>ForeignFile</name>
     <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <source>The install folder&apos;s path cannot be written in the system&apos;s code page; the launcher is not added to %1</source>
         <translation>Der Name des Installationsordners lässt sich in der Codepage des Systems nicht darstellen, das Startprogramm wird nicht eingetragen in %1</translation>
     </message>
 </context>
@@ -250,6 +250,17 @@
     <message>
         <source>Remove: </source>
         <translation>Entfernen: </translation>
+    </message>
+</context>
+<context>
+    <name>Nvx::Wizard::ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
     </message>
 </context>
 <context>
@@ -360,17 +371,6 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     </message>
 </context>
 <context>
-    <name>Nvx::Wizard::ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>&amp;Alles auswählen</translation>
-    </message>
-</context>
-<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -412,7 +412,7 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <translation>Desktop=</translation>
     </message>
     <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <source>The shared desktop folder was not found; no shortcut was created</source>
         <translation>Es gibt keinen Desktopordner für alle Benutzer, dort wird keine Verknüpfung angelegt</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <translation>Umgebungsvariablen des Installationspfads werden entfernt:</translation>
     </message>
     <message>
-        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; %1 is not set</source>
         <translation>Der Ordner lässt sich in der Codepage des Systems nicht darstellen, %1 wird nicht gesetzt</translation>
     </message>
     <message>
@@ -676,7 +676,7 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <translation>%1 ist beschädigt</translation>
     </message>
     <message>
-        <source>There is no folder of sources, nothing is translated</source>
+        <source>No source folder was found; nothing is translated</source>
         <translation>Kein Quellcodeordner vorhanden, es wird nichts übersetzt</translation>
     </message>
     <message>

@@ -24,7 +24,7 @@
         <translation> de Mertle Server</translation>
     </message>
     <message>
-        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <source>No translators folder is set; the Mertle Server is not installed or removed</source>
         <translation>Aucun dossier de traducteurs, Mertle Server reste inchangé</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>Le programme s&apos;est arrêté de manière inattendue.</translation>
     </message>
     <message>
-        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <source>The name of this folder cannot be written in the command interpreter&apos;s code page; it is not removed: %1</source>
         <translation>Le nom de ce dossier ne peut pas être représenté dans la page de codes de l&apos;interpréteur de commandes, le dossier n&apos;est pas supprimé&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1, this folder is not removed: %2</source>
+        <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>Impossible de créer %1, ce dossier n&apos;est pas supprimé&#xa0;: %2</translation>
     </message>
 </context>
@@ -202,7 +202,7 @@
 <context>
     <name>FileAssociations</name>
     <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; no files are associated with the product: %1</source>
         <translation>Le dossier ne peut pas être représenté dans la page de codes du système, aucun fichier n&apos;est associé au produit&#xa0;: %1</translation>
     </message>
     <message>
@@ -210,14 +210,14 @@
         <translation>Création des associations de fichiers</translation>
     </message>
     <message>
-        <source>The install folder is not known, no files are associated</source>
+        <source>The install folder is unknown; no files are associated</source>
         <translation>Le dossier d&apos;installation n&apos;est pas connu, aucun fichier n&apos;est associé</translation>
     </message>
 </context>
 <context>
     <name>ForeignFile</name>
     <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <source>The install folder&apos;s path cannot be written in the system&apos;s code page; the launcher is not added to %1</source>
         <translation>Le nom du dossier d&apos;installation ne peut pas être représenté dans la page de codes du système, le lanceur n&apos;est pas inscrit dans %1</translation>
     </message>
 </context>
@@ -250,6 +250,17 @@
     <message>
         <source>Remove: </source>
         <translation>Suppression&#xa0;: </translation>
+    </message>
+</context>
+<context>
+    <name>Nvx::Wizard::ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>Cop&amp;ier</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
 </context>
 <context>
@@ -360,17 +371,6 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     </message>
 </context>
 <context>
-    <name>Nvx::Wizard::ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>Cop&amp;ier</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>&amp;Tout sélectionner</translation>
-    </message>
-</context>
-<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -412,7 +412,7 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
         <translation>Bureau=</translation>
     </message>
     <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <source>The shared desktop folder was not found; no shortcut was created</source>
         <translation>Il n&apos;existe pas de dossier Bureau pour tous les utilisateurs, aucun raccourci n&apos;y est créé</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
         <translation>Suppression des variables d&apos;environnement du chemin d&apos;installation&#xa0;:</translation>
     </message>
     <message>
-        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; %1 is not set</source>
         <translation>Le dossier ne peut pas être représenté dans la page de codes du système, la variable %1 n&apos;est pas définie</translation>
     </message>
     <message>
@@ -676,7 +676,7 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
         <translation>%1 est endommagé</translation>
     </message>
     <message>
-        <source>There is no folder of sources, nothing is translated</source>
+        <source>No source folder was found; nothing is translated</source>
         <translation>Aucun dossier de code source, rien n&apos;est traduit</translation>
     </message>
     <message>

@@ -24,7 +24,7 @@
         <translation> di Mertle Server</translation>
     </message>
     <message>
-        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <source>No translators folder is set; the Mertle Server is not installed or removed</source>
         <translation>Nessuna cartella dei traduttori, Mertle Server resta invariato</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>Il programma si è interrotto in modo anomalo.</translation>
     </message>
     <message>
-        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <source>The name of this folder cannot be written in the command interpreter&apos;s code page; it is not removed: %1</source>
         <translation>Il nome di questa cartella non può essere rappresentato nella tabella codici dell&apos;interprete dei comandi, la cartella non viene rimossa: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1, this folder is not removed: %2</source>
+        <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>Impossibile creare %1, questa cartella non viene rimossa: %2</translation>
     </message>
 </context>
@@ -202,7 +202,7 @@
 <context>
     <name>FileAssociations</name>
     <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; no files are associated with the product: %1</source>
         <translation>La cartella non può essere rappresentata nella tabella codici del sistema, nessun file viene associato al prodotto: %1</translation>
     </message>
     <message>
@@ -210,14 +210,14 @@
         <translation>Creazione delle associazioni di file</translation>
     </message>
     <message>
-        <source>The install folder is not known, no files are associated</source>
+        <source>The install folder is unknown; no files are associated</source>
         <translation>La cartella di installazione non è nota, nessun file viene associato</translation>
     </message>
 </context>
 <context>
     <name>ForeignFile</name>
     <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <source>The install folder&apos;s path cannot be written in the system&apos;s code page; the launcher is not added to %1</source>
         <translation>Il nome della cartella di installazione non può essere rappresentato nella tabella codici del sistema, il programma di avvio non viene inserito in %1</translation>
     </message>
 </context>
@@ -250,6 +250,17 @@
     <message>
         <source>Remove: </source>
         <translation>Rimozione: </translation>
+    </message>
+</context>
+<context>
+    <name>Nvx::Wizard::ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Seleziona &amp;tutto</translation>
     </message>
 </context>
 <context>
@@ -360,17 +371,6 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
 </context>
 <context>
-    <name>Nvx::Wizard::ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Copia</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>Seleziona &amp;tutto</translation>
-    </message>
-</context>
-<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -412,7 +412,7 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <translation>Desktop=</translation>
     </message>
     <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <source>The shared desktop folder was not found; no shortcut was created</source>
         <translation>Non esiste una cartella Desktop per tutti gli utenti, non viene creato alcun collegamento</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <translation>Rimozione delle variabili di ambiente del percorso di installazione:</translation>
     </message>
     <message>
-        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; %1 is not set</source>
         <translation>La cartella non può essere rappresentata nella tabella codici del sistema, la variabile %1 non viene impostata</translation>
     </message>
     <message>
@@ -676,7 +676,7 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <translation>%1 è danneggiato</translation>
     </message>
     <message>
-        <source>There is no folder of sources, nothing is translated</source>
+        <source>No source folder was found; nothing is translated</source>
         <translation>Nessuna cartella dei sorgenti, non viene tradotto nulla</translation>
     </message>
     <message>

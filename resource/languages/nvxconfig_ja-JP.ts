@@ -24,7 +24,7 @@
         <translation> - Mertle Server</translation>
     </message>
     <message>
-        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <source>No translators folder is set; the Mertle Server is not installed or removed</source>
         <translation>トランスレーターのフォルダーがないため、Mertle Server は変更しません</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>プログラムが異常終了しました。</translation>
     </message>
     <message>
-        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <source>The name of this folder cannot be written in the command interpreter&apos;s code page; it is not removed: %1</source>
         <translation>コマンド インタープリターのコード ページではこのフォルダーの名前を表せないため、削除しません: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1, this folder is not removed: %2</source>
+        <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>%1 を作成できないため、このフォルダーを削除しません: %2</translation>
     </message>
 </context>
@@ -202,7 +202,7 @@
 <context>
     <name>FileAssociations</name>
     <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; no files are associated with the product: %1</source>
         <translation>システムのコード ページではフォルダー名を表せないため、ファイルは製品に関連付けられません: %1</translation>
     </message>
     <message>
@@ -210,14 +210,14 @@
         <translation>ファイルの関連付けを作成しています</translation>
     </message>
     <message>
-        <source>The install folder is not known, no files are associated</source>
+        <source>The install folder is unknown; no files are associated</source>
         <translation>インストール フォルダーが不明なため、ファイルは関連付けられません</translation>
     </message>
 </context>
 <context>
     <name>ForeignFile</name>
     <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <source>The install folder&apos;s path cannot be written in the system&apos;s code page; the launcher is not added to %1</source>
         <translation>システムのコード ページではインストール フォルダーの名前を表せないため、ランチャーを %1 に登録しません</translation>
     </message>
 </context>
@@ -250,6 +250,17 @@
     <message>
         <source>Remove: </source>
         <translation>削除: </translation>
+    </message>
+</context>
+<context>
+    <name>Nvx::Wizard::ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>すべて選択(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -360,17 +371,6 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
-    <name>Nvx::Wizard::ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>コピー(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>すべて選択(&amp;A)</translation>
-    </message>
-</context>
-<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -412,7 +412,7 @@ Click No to continue without stopping the processes.</source>
         <translation>デスクトップ=</translation>
     </message>
     <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <source>The shared desktop folder was not found; no shortcut was created</source>
         <translation>すべてのユーザー用のデスクトップ フォルダーがないため、ショートカットは作成されません</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@ Click No to continue without stopping the processes.</source>
         <translation>インストール パスの環境変数を削除しています:</translation>
     </message>
     <message>
-        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; %1 is not set</source>
         <translation>システムのコード ページではフォルダー名を表せないため、%1 は設定されません</translation>
     </message>
     <message>
@@ -676,7 +676,7 @@ Click No to continue without stopping the processes.</source>
         <translation>%1 は破損しています</translation>
     </message>
     <message>
-        <source>There is no folder of sources, nothing is translated</source>
+        <source>No source folder was found; nothing is translated</source>
         <translation>ソース コードのフォルダーがないため、何も翻訳されません</translation>
     </message>
     <message>

@@ -24,7 +24,7 @@
         <translation> - Mertle Server</translation>
     </message>
     <message>
-        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <source>No translators folder is set; the Mertle Server is not installed or removed</source>
         <translation>변환기 폴더가 없으므로 Mertle Server를 변경하지 않습니다</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>프로그램이 비정상적으로 종료되었습니다.</translation>
     </message>
     <message>
-        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <source>The name of this folder cannot be written in the command interpreter&apos;s code page; it is not removed: %1</source>
         <translation>명령 인터프리터의 코드 페이지로 이 폴더의 이름을 나타낼 수 없어 제거하지 않습니다: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1, this folder is not removed: %2</source>
+        <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>%1을(를) 만들 수 없어 이 폴더를 제거하지 않습니다: %2</translation>
     </message>
 </context>
@@ -202,7 +202,7 @@
 <context>
     <name>FileAssociations</name>
     <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; no files are associated with the product: %1</source>
         <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 파일을 제품에 연결하지 않습니다: %1</translation>
     </message>
     <message>
@@ -210,14 +210,14 @@
         <translation>파일 연결을 만드는 중</translation>
     </message>
     <message>
-        <source>The install folder is not known, no files are associated</source>
+        <source>The install folder is unknown; no files are associated</source>
         <translation>설치 폴더를 알 수 없어 파일을 연결하지 않습니다</translation>
     </message>
 </context>
 <context>
     <name>ForeignFile</name>
     <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <source>The install folder&apos;s path cannot be written in the system&apos;s code page; the launcher is not added to %1</source>
         <translation>시스템 코드 페이지로 설치 폴더의 이름을 나타낼 수 없어 런처를 %1에 등록하지 않습니다</translation>
     </message>
 </context>
@@ -250,6 +250,17 @@
     <message>
         <source>Remove: </source>
         <translation>제거: </translation>
+    </message>
+</context>
+<context>
+    <name>Nvx::Wizard::ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>모두 선택(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -360,17 +371,6 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
-    <name>Nvx::Wizard::ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>복사(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>모두 선택(&amp;A)</translation>
-    </message>
-</context>
-<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -412,7 +412,7 @@ Click No to continue without stopping the processes.</source>
         <translation>바탕 화면=</translation>
     </message>
     <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <source>The shared desktop folder was not found; no shortcut was created</source>
         <translation>모든 사용자용 바탕 화면 폴더가 없어 바로 가기를 만들지 않습니다</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@ Click No to continue without stopping the processes.</source>
         <translation>설치 경로 환경 변수를 제거하는 중:</translation>
     </message>
     <message>
-        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; %1 is not set</source>
         <translation>시스템 코드 페이지로 폴더 이름을 나타낼 수 없어 %1이(가) 설정되지 않습니다</translation>
     </message>
     <message>
@@ -676,7 +676,7 @@ Click No to continue without stopping the processes.</source>
         <translation>%1이(가) 손상되었습니다</translation>
     </message>
     <message>
-        <source>There is no folder of sources, nothing is translated</source>
+        <source>No source folder was found; nothing is translated</source>
         <translation>소스 코드 폴더가 없어 아무것도 번역하지 않습니다</translation>
     </message>
     <message>

@@ -24,7 +24,7 @@
         <translation> Mertle Server</translation>
     </message>
     <message>
-        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <source>No translators folder is set; the Mertle Server is not installed or removed</source>
         <translation>Папка трансляторов отсутствует, Mertle Server оставлен без изменений</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>Программа завершилась аварийно.</translation>
     </message>
     <message>
-        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <source>The name of this folder cannot be written in the command interpreter&apos;s code page; it is not removed: %1</source>
         <translation>Имя этой папки невозможно представить в кодовой странице командного интерпретатора, папка не удалена: %1</translation>
     </message>
     <message>
-        <source>Unable to create %1, this folder is not removed: %2</source>
+        <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>Не удалось создать %1, эта папка не удалена: %2</translation>
     </message>
 </context>
@@ -202,7 +202,7 @@
 <context>
     <name>FileAssociations</name>
     <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; no files are associated with the product: %1</source>
         <translation>Имя папки невозможно представить в кодовой странице системы, файлы не сопоставлены с продуктом: %1</translation>
     </message>
     <message>
@@ -210,14 +210,14 @@
         <translation>Создание сопоставлений файлов</translation>
     </message>
     <message>
-        <source>The install folder is not known, no files are associated</source>
+        <source>The install folder is unknown; no files are associated</source>
         <translation>Папка установки неизвестна, файлы не сопоставлены</translation>
     </message>
 </context>
 <context>
     <name>ForeignFile</name>
     <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <source>The install folder&apos;s path cannot be written in the system&apos;s code page; the launcher is not added to %1</source>
         <translation>Имя папки установки невозможно представить в кодовой странице системы, модуль запуска не внесен в %1</translation>
     </message>
 </context>
@@ -250,6 +250,17 @@
     <message>
         <source>Remove: </source>
         <translation>Удаление: </translation>
+    </message>
+</context>
+<context>
+    <name>Nvx::Wizard::ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Выделить &amp;все</translation>
     </message>
 </context>
 <context>
@@ -360,17 +371,6 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
-    <name>Nvx::Wizard::ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Копировать</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>Выделить &amp;все</translation>
-    </message>
-</context>
-<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -412,7 +412,7 @@ Click No to continue without stopping the processes.</source>
         <translation>Рабочий стол=</translation>
     </message>
     <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <source>The shared desktop folder was not found; no shortcut was created</source>
         <translation>Нет общей папки рабочего стола для всех пользователей, ярлык не создан</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@ Click No to continue without stopping the processes.</source>
         <translation>Удаление переменных среды с путем установки:</translation>
     </message>
     <message>
-        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; %1 is not set</source>
         <translation>Имя папки невозможно представить в кодовой странице системы, переменная %1 не задана</translation>
     </message>
     <message>
@@ -676,7 +676,7 @@ Click No to continue without stopping the processes.</source>
         <translation>Файл %1 поврежден</translation>
     </message>
     <message>
-        <source>There is no folder of sources, nothing is translated</source>
+        <source>No source folder was found; nothing is translated</source>
         <translation>Папка с исходным кодом отсутствует, перевод не выполняется</translation>
     </message>
     <message>

@@ -24,7 +24,7 @@
         <translation> Mertle Server</translation>
     </message>
     <message>
-        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <source>No translators folder is set; the Mertle Server is not installed or removed</source>
         <translation>没有转换器文件夹，Mertle Server 保持不变</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>程序已崩溃。</translation>
     </message>
     <message>
-        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <source>The name of this folder cannot be written in the command interpreter&apos;s code page; it is not removed: %1</source>
         <translation>命令解释器的代码页无法表示此文件夹的名称，未删除该文件夹：%1</translation>
     </message>
     <message>
-        <source>Unable to create %1, this folder is not removed: %2</source>
+        <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>无法创建 %1，未删除此文件夹：%2</translation>
     </message>
 </context>
@@ -202,7 +202,7 @@
 <context>
     <name>FileAssociations</name>
     <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; no files are associated with the product: %1</source>
         <translation>系统代码页无法表示该文件夹，未将文件与产品关联：%1</translation>
     </message>
     <message>
@@ -210,14 +210,14 @@
         <translation>正在创建文件关联</translation>
     </message>
     <message>
-        <source>The install folder is not known, no files are associated</source>
+        <source>The install folder is unknown; no files are associated</source>
         <translation>安装文件夹未知，未关联文件</translation>
     </message>
 </context>
 <context>
     <name>ForeignFile</name>
     <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <source>The install folder&apos;s path cannot be written in the system&apos;s code page; the launcher is not added to %1</source>
         <translation>系统代码页无法表示安装文件夹的名称，未将启动程序写入 %1</translation>
     </message>
 </context>
@@ -250,6 +250,17 @@
     <message>
         <source>Remove: </source>
         <translation>删除： </translation>
+    </message>
+</context>
+<context>
+    <name>Nvx::Wizard::ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全选(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -360,17 +371,6 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
-    <name>Nvx::Wizard::ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>复制(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>全选(&amp;A)</translation>
-    </message>
-</context>
-<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -412,7 +412,7 @@ Click No to continue without stopping the processes.</source>
         <translation>桌面=</translation>
     </message>
     <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <source>The shared desktop folder was not found; no shortcut was created</source>
         <translation>不存在所有用户共用的桌面文件夹，不会创建快捷方式</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@ Click No to continue without stopping the processes.</source>
         <translation>正在删除安装路径环境变量：</translation>
     </message>
     <message>
-        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; %1 is not set</source>
         <translation>系统代码页无法表示该文件夹，未设置 %1</translation>
     </message>
     <message>
@@ -676,7 +676,7 @@ Click No to continue without stopping the processes.</source>
         <translation>%1 已损坏</translation>
     </message>
     <message>
-        <source>There is no folder of sources, nothing is translated</source>
+        <source>No source folder was found; nothing is translated</source>
         <translation>没有源代码文件夹，不进行任何翻译</translation>
     </message>
     <message>

@@ -24,7 +24,7 @@
         <translation> Mertle Server</translation>
     </message>
     <message>
-        <source>There is no translators folder, the Mertle Server is left alone</source>
+        <source>No translators folder is set; the Mertle Server is not installed or removed</source>
         <translation>沒有轉換器資料夾，Mertle Server 保持不變</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>程式已異常終止。</translation>
     </message>
     <message>
-        <source>The command interpreter&apos;s code page cannot write the name of this folder, it is not removed: %1</source>
+        <source>The name of this folder cannot be written in the command interpreter&apos;s code page; it is not removed: %1</source>
         <translation>命令解譯器的字碼頁無法表示此資料夾的名稱，未移除該資料夾：%1</translation>
     </message>
     <message>
-        <source>Unable to create %1, this folder is not removed: %2</source>
+        <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>無法建立 %1，未移除此資料夾：%2</translation>
     </message>
 </context>
@@ -202,7 +202,7 @@
 <context>
     <name>FileAssociations</name>
     <message>
-        <source>The system&apos;s code page cannot write the folder, no files are associated with the product: %1</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; no files are associated with the product: %1</source>
         <translation>系統字碼頁無法表示該資料夾，未將檔案與產品建立關聯：%1</translation>
     </message>
     <message>
@@ -210,14 +210,14 @@
         <translation>正在建立檔案關聯</translation>
     </message>
     <message>
-        <source>The install folder is not known, no files are associated</source>
+        <source>The install folder is unknown; no files are associated</source>
         <translation>安裝資料夾不明，未建立檔案關聯</translation>
     </message>
 </context>
 <context>
     <name>ForeignFile</name>
     <message>
-        <source>The system&apos;s code page cannot write the name of the install folder, the launcher is not entered into %1</source>
+        <source>The install folder&apos;s path cannot be written in the system&apos;s code page; the launcher is not added to %1</source>
         <translation>系統字碼頁無法表示安裝資料夾的名稱，未將啟動程式寫入 %1</translation>
     </message>
 </context>
@@ -250,6 +250,17 @@
     <message>
         <source>Remove: </source>
         <translation>移除： </translation>
+    </message>
+</context>
+<context>
+    <name>Nvx::Wizard::ProgressList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>複製(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全選(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -360,17 +371,6 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
-    <name>Nvx::Wizard::ProgressList</name>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>複製(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>全選(&amp;A)</translation>
-    </message>
-</context>
-<context>
     <name>ServerService</name>
     <message>
         <source>Unable to find server executable; Check_ Installation Directory path:</source>
@@ -412,7 +412,7 @@ Click No to continue without stopping the processes.</source>
         <translation>桌面=</translation>
     </message>
     <message>
-        <source>There is no desktop folder of all users, it gets no shortcut</source>
+        <source>The shared desktop folder was not found; no shortcut was created</source>
         <translation>所有使用者共用的桌面資料夾不存在，不會建立捷徑</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@ Click No to continue without stopping the processes.</source>
         <translation>正在移除安裝路徑環境變數：</translation>
     </message>
     <message>
-        <source>The system&apos;s code page cannot write the folder, %1 is not set</source>
+        <source>The folder&apos;s path cannot be written in the system&apos;s code page; %1 is not set</source>
         <translation>系統字碼頁無法表示該資料夾，未設定 %1</translation>
     </message>
     <message>
@@ -676,7 +676,7 @@ Click No to continue without stopping the processes.</source>
         <translation>%1 已損壞</translation>
     </message>
     <message>
-        <source>There is no folder of sources, nothing is translated</source>
+        <source>No source folder was found; nothing is translated</source>
         <translation>沒有原始程式碼資料夾，不進行任何翻譯</translation>
     </message>
     <message>

@@ -8,7 +8,7 @@
         <translation>Filtern (Strg+F)</translation>
     </message>
     <message>
-        <source>Shows the rows with this text only</source>
+        <source>Shows only the rows that contain this text</source>
         <translation>Zeigt nur die Zeilen mit diesem Text</translation>
     </message>
     <message>
@@ -44,13 +44,13 @@
         <translation>Unbenannt</translation>
     </message>
     <message>
-        <source>%1 has changes that are not saved. Save them?</source>
+        <source>%1 has unsaved changes. Save them?</source>
         <translation>%1 enthält Änderungen, die nicht gespeichert sind. Sollen sie gespeichert werden?</translation>
     </message>
     <message>
         <source>Could not save %1
 
-The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+The location may be write-protected or full. The table stays open, unsaved; save it in another location.</source>
         <translation>%1 konnte nicht gespeichert werden
 
 Der Speicherort ist möglicherweise schreibgeschützt oder voll. Die Tabelle bleibt hier ungespeichert erhalten; speichern Sie sie an einem anderen Ort.</translation>

@@ -8,7 +8,7 @@
         <translation>Filtrer (Ctrl+F)</translation>
     </message>
     <message>
-        <source>Shows the rows with this text only</source>
+        <source>Shows only the rows that contain this text</source>
         <translation>Affiche uniquement les lignes contenant ce texte</translation>
     </message>
     <message>
@@ -44,13 +44,13 @@
         <translation>Sans titre</translation>
     </message>
     <message>
-        <source>%1 has changes that are not saved. Save them?</source>
+        <source>%1 has unsaved changes. Save them?</source>
         <translation>%1 contient des modifications non enregistrées. Voulez-vous les enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>Could not save %1
 
-The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+The location may be write-protected or full. The table stays open, unsaved; save it in another location.</source>
         <translation>Impossible d&apos;enregistrer %1
 
 L&apos;emplacement est peut-être protégé en écriture ou plein. La table reste ouverte ici, non enregistrée&#xa0;; enregistrez-la à un autre emplacement.</translation>

@@ -8,7 +8,7 @@
         <translation>Filtra (Ctrl+F)</translation>
     </message>
     <message>
-        <source>Shows the rows with this text only</source>
+        <source>Shows only the rows that contain this text</source>
         <translation>Mostra solo le righe che contengono questo testo</translation>
     </message>
     <message>
@@ -44,13 +44,13 @@
         <translation>Senza titolo</translation>
     </message>
     <message>
-        <source>%1 has changes that are not saved. Save them?</source>
+        <source>%1 has unsaved changes. Save them?</source>
         <translation>%1 contiene modifiche non salvate. Salvarle?</translation>
     </message>
     <message>
         <source>Could not save %1
 
-The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+The location may be write-protected or full. The table stays open, unsaved; save it in another location.</source>
         <translation>Impossibile salvare %1
 
 La posizione potrebbe essere protetta da scrittura o piena. La tabella resta aperta qui, non salvata; salvarla in un&apos;altra posizione.</translation>

@@ -8,7 +8,7 @@
         <translation>フィルター (Ctrl+F)</translation>
     </message>
     <message>
-        <source>Shows the rows with this text only</source>
+        <source>Shows only the rows that contain this text</source>
         <translation>このテキストを含む行だけを表示します</translation>
     </message>
     <message>
@@ -44,13 +44,13 @@
         <translation>無題</translation>
     </message>
     <message>
-        <source>%1 has changes that are not saved. Save them?</source>
+        <source>%1 has unsaved changes. Save them?</source>
         <translation>%1 には保存されていない変更があります。保存しますか?</translation>
     </message>
     <message>
         <source>Could not save %1
 
-The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+The location may be write-protected or full. The table stays open, unsaved; save it in another location.</source>
         <translation>%1 を保存できませんでした
 
 保存先が書き込み禁止か、空き領域がない可能性があります。テーブルは未保存のまま残っています。別の場所に保存してください。</translation>

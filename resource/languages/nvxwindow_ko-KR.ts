@@ -8,7 +8,7 @@
         <translation>필터(Ctrl+F)</translation>
     </message>
     <message>
-        <source>Shows the rows with this text only</source>
+        <source>Shows only the rows that contain this text</source>
         <translation>이 텍스트가 있는 행만 표시합니다</translation>
     </message>
     <message>
@@ -44,13 +44,13 @@
         <translation>제목 없음</translation>
     </message>
     <message>
-        <source>%1 has changes that are not saved. Save them?</source>
+        <source>%1 has unsaved changes. Save them?</source>
         <translation>%1에 저장되지 않은 변경 내용이 있습니다. 저장하시겠습니까?</translation>
     </message>
     <message>
         <source>Could not save %1
 
-The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+The location may be write-protected or full. The table stays open, unsaved; save it in another location.</source>
         <translation>%1을(를) 저장할 수 없습니다
 
 저장 위치가 쓰기 금지되어 있거나 공간이 부족할 수 있습니다. 테이블은 저장되지 않은 상태로 유지됩니다. 다른 위치에 저장하십시오.</translation>

@@ -8,7 +8,7 @@
         <translation>Фильтр (Ctrl+F)</translation>
     </message>
     <message>
-        <source>Shows the rows with this text only</source>
+        <source>Shows only the rows that contain this text</source>
         <translation>Показывает только строки с этим текстом</translation>
     </message>
     <message>
@@ -44,13 +44,13 @@
         <translation>Без имени</translation>
     </message>
     <message>
-        <source>%1 has changes that are not saved. Save them?</source>
+        <source>%1 has unsaved changes. Save them?</source>
         <translation>В %1 есть несохраненные изменения. Сохранить их?</translation>
     </message>
     <message>
         <source>Could not save %1
 
-The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+The location may be write-protected or full. The table stays open, unsaved; save it in another location.</source>
         <translation>Не удалось сохранить %1
 
 Возможно, расположение защищено от записи или на нем нет свободного места. Таблица остается открытой и не сохранена; сохраните ее в другом месте.</translation>

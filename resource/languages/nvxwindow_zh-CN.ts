@@ -8,7 +8,7 @@
         <translation>筛选（Ctrl+F）</translation>
     </message>
     <message>
-        <source>Shows the rows with this text only</source>
+        <source>Shows only the rows that contain this text</source>
         <translation>仅显示包含此文本的行</translation>
     </message>
     <message>
@@ -44,13 +44,13 @@
         <translation>未命名</translation>
     </message>
     <message>
-        <source>%1 has changes that are not saved. Save them?</source>
+        <source>%1 has unsaved changes. Save them?</source>
         <translation>%1 中有未保存的更改。是否保存？</translation>
     </message>
     <message>
         <source>Could not save %1
 
-The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+The location may be write-protected or full. The table stays open, unsaved; save it in another location.</source>
         <translation>无法保存 %1
 
 该位置可能有写保护或空间已满。表仍保留在此处且尚未保存，请保存到其他位置。</translation>

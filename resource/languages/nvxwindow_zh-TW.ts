@@ -8,7 +8,7 @@
         <translation>篩選（Ctrl+F）</translation>
     </message>
     <message>
-        <source>Shows the rows with this text only</source>
+        <source>Shows only the rows that contain this text</source>
         <translation>僅顯示包含此文字的列</translation>
     </message>
     <message>
@@ -44,13 +44,13 @@
         <translation>未命名</translation>
     </message>
     <message>
-        <source>%1 has changes that are not saved. Save them?</source>
+        <source>%1 has unsaved changes. Save them?</source>
         <translation>%1 有尚未儲存的變更。要儲存嗎？</translation>
     </message>
     <message>
         <source>Could not save %1
 
-The place may be write-protected or full. The table is kept here, not saved; save it in another place.</source>
+The location may be write-protected or full. The table stays open, unsaved; save it in another location.</source>
         <translation>無法儲存 %1
 
 該位置可能已設為防寫或空間已滿。表格仍保留在此且尚未儲存，請儲存到其他位置。</translation>

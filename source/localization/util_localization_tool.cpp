@@ -112,7 +112,7 @@ void util_localization_tool::runScript()
     reporter.log(LogLevel::step, m_rootFolder);
     reporter.log(LogLevel::step, m_shareFolder);
     if (!hasRoot())
-        reporter.log(LogLevel::failure, tr("There is no folder of sources, nothing is translated"));
+        reporter.log(LogLevel::failure, tr("No source folder was found; nothing is translated"));
     LocaleFolders folders(m_rootFolder, reporter);
     folders.prepare();
     scanSources();

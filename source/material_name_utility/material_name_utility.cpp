@@ -136,7 +136,7 @@ bool MaterialNameUtility::readDatabase()
     const std::optional<Result<QStringList>> names =
         withProgress(tr("Open Material Database"), tr("Reading %1").arg(m_databaseFile), read);
     if (!names) {
-        showStatus(tr("Synchronization cancelled, the table is as it was"));
+        showStatus(tr("Synchronization cancelled; the table is unchanged"));
         return false;
     }
     if (!*names) {

@@ -63,7 +63,7 @@ MessageTableUtility::MessageTableUtility(Window::Dialogs &dialogs, QSettings &se
     addTableAction(translating);
 
     view().rowsModel().setMarkToolTip(RowMark::New, tr("Found in the sources, not reviewed yet"));
-    view().rowsModel().setMarkToolTip(RowMark::Obsolete, tr("Not found in the sources any more"));
+    view().rowsModel().setMarkToolTip(RowMark::Obsolete, tr("No longer found in the sources"));
 }
 
 Window::TableWindowTexts MessageTableUtility::texts()
@@ -124,7 +124,7 @@ void MessageTableUtility::synchronize()
     const std::optional<MessageWindow::ProjectScan> scan = scanShowingProgress(projectFile, *project);
     const qint64 milliseconds = timer.elapsed();
     if (!scan) {
-        showStatus(tr("Synchronization cancelled, the table is as it was"));
+        showStatus(tr("Synchronization cancelled; the table is unchanged"));
         return;
     }
     if (!scan->errors.isEmpty())
@@ -185,7 +185,7 @@ void MessageTableUtility::updateTranslation()
     Translation::TranslationTable table;
     const std::optional<Outcome> loaded = loadTranslation(table, file);
     if (!loaded) {
-        showStatus(tr("Update cancelled, the translation is as it was"));
+        showStatus(tr("Update cancelled; the translation is unchanged"));
         return;
     }
     if (!*loaded) {

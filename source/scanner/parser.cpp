@@ -244,9 +244,9 @@ void Parser::addCall(CallFamily family, const QString &tag, int line)
 {
     const QString context = m_state.inFunction ? currentContext() : QString();
     if (!Clt::isXmlText(tag))
-        return fail(u"Tag with a character that XML cannot carry"_s, line);
+        return fail(u"Tag with a character that XML cannot represent"_s, line);
     if (!m_contextIsXml)
-        return fail(u"Context with a character that XML cannot carry"_s, line);
+        return fail(u"Context with a character that XML cannot represent"_s, line);
     m_calls.push_back({.family = family, .tag = tag, .context = context, .line = line});
     if (m_trace)
         m_trace(u"Key %1 %2 %3"_s.arg(context, tag, QString::number(line)));

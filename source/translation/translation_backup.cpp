@@ -40,7 +40,7 @@ std::optional<QString> backUpFile(const QString &fileName)
 
 QString backupText(const QString &copy)
 {
-    return Texts::tr("Plural forms were dropped; the old file is %1").arg(copy);
+    return Texts::tr("Plural forms were dropped; the previous file is kept as %1").arg(copy);
 }
 
 } // namespace Translation

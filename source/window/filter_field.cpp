@@ -13,7 +13,7 @@ FilterField::FilterField(QWidget *parent)
     constexpr int widthInCharacters = 28;
     setObjectName(u"filterField"_s);
     setPlaceholderText(tr("Filter (Ctrl+F)"));
-    setToolTip(tr("Shows the rows with this text only"));
+    setToolTip(tr("Shows only the rows that contain this text"));
     setAccessibleName(tr("Filter"));
     setClearButtonEnabled(true);
     setMaximumWidth(widthInCharacters * fontMetrics().averageCharWidth());

@@ -132,8 +132,8 @@ bool TableWindow::mayLoseChanges()
     if (!m_isUnsaved)
         return true;
     const QString name = m_fileName.isEmpty() ? tr("Untitled") : QFileInfo(m_fileName).fileName();
-    switch (m_dialogs.askAboutUnsaved(this, m_texts.title,
-                                      tr("%1 has changes that are not saved. Save them?").arg(name))) {
+    switch (
+        m_dialogs.askAboutUnsaved(this, m_texts.title, tr("%1 has unsaved changes. Save them?").arg(name))) {
     case UnsavedChoice::Save:
         return save();
     case UnsavedChoice::Discard:
@@ -172,8 +172,8 @@ bool TableWindow::saveTo(const QString &fileName)
     const QString path = QDir::toNativeSeparators(QFileInfo(fileName).absoluteFilePath());
     if (!saveShowingWait(path)) {
         m_dialogs.warn(this, m_texts.saveTitle,
-                       tr("Could not save %1\n\nThe place may be write-protected or full. The table is kept "
-                          "here, not saved; save it in another place.")
+                       tr("Could not save %1\n\nThe location may be write-protected or full. The table stays "
+                          "open, unsaved; save it in another location.")
                            .arg(path));
         return false;
     }

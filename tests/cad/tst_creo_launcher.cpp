@@ -195,8 +195,8 @@ private slots:
         step(RunMode::Install);
         QCOMPARE(readFile(protk(2)), foreign);
         QCOMPARE(m_fixture->takeLines().last(),
-                 u"1 The system's code page cannot write the name of the install folder, the launcher is "
-                 "not entered into "_s +
+                 u"1 The install folder's path cannot be written in the system's code page; the launcher is "
+                 "not added to "_s +
                      protk(2));
     }
 

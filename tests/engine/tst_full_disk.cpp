@@ -296,7 +296,7 @@ private slots:
         QCOMPARE(lines.filter(QRegularExpression(u"^! (?!Processors: )"_s)), QStringList());
         QCOMPARE(lines.first(), u"   0 "_s);
         const QString tutorials = Nvx::Util::System::getTutorialsDirPath();
-        QVERIFY(lines.contains(u"   1 Unable to create %1work.bat, this folder is not removed: %2"_s.arg(
+        QVERIFY(lines.contains(u"   1 Unable to create %1work.bat; this folder is not removed: %2"_s.arg(
             machine.installDir, tutorials)));
         QCOMPARE(lines.last(), u"   0 The installation or update is complete. Click finish to continue."_s);
     }

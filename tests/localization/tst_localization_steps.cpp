@@ -176,7 +176,7 @@ private slots:
         run();
         const qsizetype done = m_reporter->lines.indexOf(u"0 mat finishes cool"_s);
         QCOMPARE(m_reporter->lines.value(done - 1),
-                 u"1 Plural forms were dropped; the old file is %1.before"_s.arg(names));
+                 u"1 Plural forms were dropped; the previous file is kept as %1.before"_s.arg(names));
         QCOMPARE(readFile(names + u".before"_s), plural);
     }
 
@@ -235,7 +235,7 @@ private:
         }
         uploaded << u"0 upload "_s + share + u"enu"_s << u"1 upload fails "_s + share + u"enu"_s;
         QStringList lines = {u"0 "_s, u"0 "_s + share,
-                             u"1 There is no folder of sources, nothing is translated"_s};
+                             u"1 No source folder was found; nothing is translated"_s};
         lines += prepared;
         lines << u"0 0 texts to translate in 0 files"_s << u"0 tr1 finishes cool"_s
               << u"0 tr2 finishes cool"_s << u"1 Permission fails:"_s + locale + native("en-US/matprop.ts")

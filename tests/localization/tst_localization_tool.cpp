@@ -179,7 +179,7 @@ private slots:
         QCOMPARE(localeFiles(), before);
         QCOMPARE(m_reporter->lines.first(),
                  u"1 %1 is damaged"_s.arg(m_test->path(u"NVX/localization.xml"_s)));
-        QVERIFY(m_reporter->lines.contains(u"1 There is no folder of sources, nothing is translated"_s));
+        QVERIFY(m_reporter->lines.contains(u"1 No source folder was found; nothing is translated"_s));
         QCOMPARE(m_reporter->lines.last(), u"0 Ribbon2D copied cool"_s);
     }
 
@@ -188,7 +188,7 @@ private slots:
         QVERIFY(QDir(root("")).removeRecursively());
         tool()->runScript();
         QVERIFY(!QFile::exists(root("")));
-        QVERIFY(m_reporter->lines.contains(u"1 There is no folder of sources, nothing is translated"_s));
+        QVERIFY(m_reporter->lines.contains(u"1 No source folder was found; nothing is translated"_s));
         QCOMPARE(m_reporter->lines.last(), u"0 Ribbon2D copied cool"_s);
     }
 

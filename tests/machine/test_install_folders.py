@@ -67,7 +67,7 @@ class WesternMachine(FolderCase):
         self.assertTrue(self.exists(folder + "\\Python\\Lib\\old.py"))
         for name in ("DLLs", "Lib"):
             self.assertIn(
-                "   1 The command interpreter's code page cannot write the name of this folder, "
+                "   1 The name of this folder cannot be written in the command interpreter's code page; "
                 f"it is not removed: {folder}\\Python\\{name}",
                 lines,
             )

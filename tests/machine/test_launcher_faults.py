@@ -131,8 +131,8 @@ class LauncherFolders(LauncherCase):
         self.assertEqual(self.read(CUSTOM_DIRS_10), FOREIGN_DIRS)
         for path in (PROTK_2, CUSTOM_DIRS_10):
             self.assertIn(
-                "   1 The system's code page cannot write the name of the install folder, the launcher "
-                "is not entered into " + path,
+                "   1 The install folder's path cannot be written in the system's code page; the launcher "
+                "is not added to " + path,
                 lines,
             )
         self.run_with("-U", folder)

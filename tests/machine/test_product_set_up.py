@@ -267,8 +267,8 @@ class WesternFolders(SetUpCase):
         self.put_product(folder)
         lines = self.install(folder)
         self.assertIn(
-            "   1 The system's code page cannot write the folder, no files are associated with the "
-            "product: " + folder,
+            "   1 The folder's path cannot be written in the system's code page; no files are associated "
+            "with the product: " + folder,
             lines,
         )
         self.assertEqual(self.read_shortcut()["work_folder"], folder)
@@ -345,7 +345,7 @@ class Faults(SetUpCase):
         lines = self.install(self.folder) + self.uninstall(self.folder)
         desktop.with_name("Gone").rename(desktop)
         self.assertIn("   0 Desktop=", lines)
-        self.assertIn("   1 There is no desktop folder of all users, it gets no shortcut", lines)
+        self.assertIn("   1 The shared desktop folder was not found; no shortcut was created", lines)
         self.assertEqual(self.machine.path("C:" + LINK_NAME).read_bytes(), b"not ours")
 
     def test_a_shortcut_path_of_over_260_characters_is_reported(self):

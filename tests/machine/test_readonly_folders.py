@@ -71,8 +71,8 @@ FOLDERS = {
     "launchers": (LAUNCHERS, [" Open failed:"], []),
     AROUND: (
         parent(INSTALL_DIR),
-        [f"   1 Unable to create {BATCH_FILE}, this folder is not removed: "],
-        [f"   1 Unable to create {BATCH_FILE}, this folder is not removed: "],
+        [f"   1 Unable to create {BATCH_FILE}; this folder is not removed: "],
+        [f"   1 Unable to create {BATCH_FILE}; this folder is not removed: "],
     ),
     "install folder": (INSTALL_DIR, None, None),  # the log cannot be written either
 }

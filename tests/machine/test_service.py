@@ -141,7 +141,7 @@ class Service(MachineCase):
         code, lines, warnings = self.diagnose(FOLDER, "-I", "-S", "-Len-US")
         self.assertEqual(code, 0)
         self.assertEqual(lines_on_the_server(lines), ["   0 uninstallServer ", "   0 NVXServer terminated"])
-        self.assertEqual(warnings, ["The server has not stopped in time and is ended"])
+        self.assertEqual(warnings, ["The server did not stop in time; its process is ended"])
         self.assertTrue(self.server_is_running())
 
 

@@ -186,8 +186,8 @@ void tst_material_name_utility::copyOfAFileWithPluralFormsIsReported()
     QVERIFY(writeBytes(f.otherFile, plural));
     QVERIFY(f.window.openFile(f.otherFile));
     f.action("actionSave")->trigger();
-    QCOMPARE(f.status(),
-             u"Saved translation table   Plural forms were dropped; the old file is other.ts.before"_s);
+    QCOMPARE(f.status(), u"Saved translation table   "
+                         "Plural forms were dropped; the previous file is kept as other.ts.before"_s);
     QCOMPARE(fileBytes(f.otherFile + u".before"_s), plural);
     QVERIFY(f.window.save());
     QCOMPARE(f.status(), u"Saved translation table"_s);

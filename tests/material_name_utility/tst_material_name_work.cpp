@@ -47,7 +47,7 @@ void tst_material_name_work::readingALargeDatabaseIsCancelled()
     const ProgressCanceller canceller;
     f.window.synchronize(f.databaseFile);
     QCOMPARE(canceller.label, u"Reading "_s + f.databaseFile);
-    QCOMPARE(f.status(), u"Synchronization cancelled, the table is as it was"_s);
+    QCOMPARE(f.status(), u"Synchronization cancelled; the table is unchanged"_s);
     QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     QVERIFY(!f.window.hasUnsavedChanges());
     QVERIFY(f.dialogs.warnings.isEmpty());

@@ -61,7 +61,7 @@ void tst_message_table_scan::cancelledScanPreservesTheTable()
     QCOMPARE(f.window.messages().size(), std::size_t(3));
     QVERIFY(!f.window.hasUnsavedChanges());
     QVERIFY(!f.window.isBusy());
-    QCOMPARE(f.status(), u"Synchronization cancelled, the table is as it was"_s);
+    QCOMPARE(f.status(), u"Synchronization cancelled; the table is unchanged"_s);
     QVERIFY(f.dialogs.warnings.isEmpty());
 }
 

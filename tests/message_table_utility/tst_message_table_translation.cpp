@@ -81,10 +81,10 @@ private slots:
                                   "</context></TS>";
         prepare(f, plural);
         f.action("actionTranslate")->trigger();
-        QCOMPARE(
-            f.status(),
-            u"Added 2 new strings to %1   Plural forms were dropped; the old file is client_de.ts.before"_s
-                .arg(f.translationFile));
+        QCOMPARE(f.status(),
+                 u"Added 2 new strings to %1   "
+                 "Plural forms were dropped; the previous file is kept as client_de.ts.before"_s.arg(
+                     f.translationFile));
         QCOMPARE(fileBytes(f.translationFile + u".before"_s), plural);
     }
 
@@ -120,7 +120,7 @@ private slots:
         f.action("actionTranslate")->trigger();
         QCOMPARE(canceller.title, u"Update translation"_s);
         QCOMPARE(canceller.label, u"Reading "_s + f.translationFile);
-        QCOMPARE(f.status(), u"Update cancelled, the translation is as it was"_s);
+        QCOMPARE(f.status(), u"Update cancelled; the translation is unchanged"_s);
         QVERIFY(f.dialogs.warnings.isEmpty());
         QVERIFY(!f.window.isBusy());
         QVERIFY(fileBytes(f.translationFile) == translation);

@@ -270,7 +270,7 @@ void tst_message_table_utility::newAndObsoleteRowsAreMarked()
     QCOMPARE(colour(0), markColor(palette, Window::RowMark::Obsolete).rgb());
     QCOMPARE(colour(1), markColor(palette, Window::RowMark::New).rgb());
     QCOMPARE(colour(2), palette.color(QPalette::Base).rgb());
-    QCOMPARE(toolTip(0), u"Not found in the sources any more"_s);
+    QCOMPARE(toolTip(0), u"No longer found in the sources"_s);
     QCOMPARE(toolTip(1), u"Found in the sources, not reviewed yet"_s);
     QCOMPARE(toolTip(2), QString());
 }

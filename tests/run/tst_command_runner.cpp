@@ -133,7 +133,7 @@ private slots:
         QVERIFY(runner().removeDirectory(u"C:\\a"_s));
         QVERIFY(m_fixture->machine.calls.isEmpty());
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList{u"1 Unable to create %1, this folder is not removed: C:\\a"_s.arg(batchFile)});
+                 QStringList{u"1 Unable to create %1; this folder is not removed: C:\\a"_s.arg(batchFile)});
     }
 
     void aFolderWhoseNameTheCodePageCannotWriteIsNotRemoved()

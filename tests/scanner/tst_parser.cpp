@@ -87,7 +87,7 @@ private slots:
         Parser parser("\n\nvoid f() { REPORT_ERROR(\"\\v\"); }");
         const Nvx::Util::Outcome parsed = parser.parse();
         QVERIFY(!parsed);
-        QCOMPARE(parsed.error(), u"Tag with a character that XML cannot carry (line 3)"_s);
+        QCOMPARE(parsed.error(), u"Tag with a character that XML cannot represent (line 3)"_s);
     }
 
     void errorInAContextNamesTheLine()
@@ -95,7 +95,7 @@ private slots:
         Parser parser("void f\xEF\xBF\xBE() {\nREPORT_ERROR(\"Tag\"); }");
         const Nvx::Util::Outcome parsed = parser.parse();
         QVERIFY(!parsed);
-        QCOMPARE(parsed.error(), u"Context with a character that XML cannot carry (line 2)"_s);
+        QCOMPARE(parsed.error(), u"Context with a character that XML cannot represent (line 2)"_s);
     }
 
     void textAfterTheLastMacroNameIsNotRead()

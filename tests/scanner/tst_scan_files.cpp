@@ -132,7 +132,7 @@ private slots:
         QVERIFY(writeBytes(fileName, "void f() { REPORT_ERROR(\"A\");\nREPORT_ERROR(\"\\1\"); }"));
         SourceScanner scanner(u"client"_s, fileName);
         QVERIFY(!scanner.scan());
-        QCOMPARE(scanner.errorText(), u"Tag with a character that XML cannot carry (line 2)"_s);
+        QCOMPARE(scanner.errorText(), u"Tag with a character that XML cannot represent (line 2)"_s);
         QVERIFY(scanner.keys(CallFamily::Error).isEmpty());
     }
 

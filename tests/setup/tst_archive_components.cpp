@@ -132,8 +132,9 @@ private slots:
         QCOMPARE(components().installMertleServer(static_cast<RunMode>(mode)), 0);
         QVERIFY(m_fixture->machine.calls.isEmpty());
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList({u"progress 0 %1 Mertle Server"_s.arg(word),
-                              u"0 There is no translators folder, the Mertle Server is left alone"_s}));
+                 QStringList(
+                     {u"progress 0 %1 Mertle Server"_s.arg(word),
+                      u"0 No translators folder is set; the Mertle Server is not installed or removed"_s}));
     }
 
 private:

@@ -145,8 +145,8 @@ private slots:
         QCOMPARE(run(RunMode::Install), 0);
         QCOMPARE(m_imported, QList<QByteArray>{scriptOf(removal())});
         QCOMPARE(m_fixture->reporter.lines.last(),
-                 u"1 The system's code page cannot write the folder, no files are associated with the "
-                 "product: "_s +
+                 u"1 The folder's path cannot be written in the system's code page; no files are associated "
+                 "with the product: "_s +
                      m_fixture->state.installDir);
     }
 
@@ -156,7 +156,7 @@ private slots:
         run(RunMode::Install);
         QCOMPARE(m_imported, QList<QByteArray>{scriptOf(removal())});
         QCOMPARE(m_fixture->reporter.lines.last(),
-                 u"1 The install folder is not known, no files are associated"_s);
+                 u"1 The install folder is unknown; no files are associated"_s);
     }
 
 private:

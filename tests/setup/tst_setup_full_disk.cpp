@@ -35,7 +35,7 @@ private slots:
         QVERIFY(m_fixture->machine.calls.isEmpty());
         const QString batchFile = m_fixture->state.installDir + u"work.bat"_s;
         QCOMPARE(m_fixture->reporter.lines,
-                 QStringList(u"1 Unable to create %1, this folder is not removed: C:\\NVX "
+                 QStringList(u"1 Unable to create %1; this folder is not removed: C:\\NVX "
                              "2017\\Python\\Lib"_s.arg(batchFile)));
         QVERIFY(!QFile::exists(batchFile));
     }

@@ -100,8 +100,9 @@ private slots:
         m_fixture->state.commonDesktop.clear();
         QCOMPARE(run(static_cast<RunMode>(mode)), 0);
         QVERIFY(m_fixture->machine.shellLinks.isEmpty());
-        QCOMPARE(lines(), QStringList({u"0 Desktop="_s,
-                                       u"1 There is no desktop folder of all users, it gets no shortcut"_s}));
+        QCOMPARE(lines(),
+                 QStringList({u"0 Desktop="_s,
+                              u"1 The shared desktop folder was not found; no shortcut was created"_s}));
         QCOMPARE(m_fixture->machine.associationNotices, 1);
     }
 

@@ -160,7 +160,7 @@ private slots:
             QTextStream errorLog(&errors);
             QVERIFY(Translation::synchronizeTranslationTable(messages, m_file, log, errorLog));
         }
-        QCOMPARE(errors, u"Plural forms were dropped; the old file is %1\n"_s.arg(m_copy));
+        QCOMPARE(errors, u"Plural forms were dropped; the previous file is kept as %1\n"_s.arg(m_copy));
         QVERIFY(!output.contains(u".before"_s));
     }
 

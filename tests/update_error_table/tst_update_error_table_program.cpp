@@ -57,7 +57,7 @@ private slots:
         QVERIFY(writeBytes(m_folder->path(u"t.xml"_s), "<messageTable/>"));
         run({u"-tr"_s, u"t.xml"_s, u"a.ts"_s});
         QCOMPARE(m_process.exitCode(), 0);
-        QCOMPARE(errors(), u"Plural forms were dropped; the old file is a.ts.before\n"_s);
+        QCOMPARE(errors(), u"Plural forms were dropped; the previous file is kept as a.ts.before\n"_s);
         QVERIFY(!output().contains(u"before"_s));
         QCOMPARE(fileBytes(m_folder->path(u"a.ts.before"_s)), plural);
     }

@@ -8,6 +8,9 @@
 using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::Language;
 
+Q_DECLARE_METATYPE(int Language::*)
+Q_DECLARE_METATYPE(QLatin1StringView Language::*)
+
 namespace {
 
 QString shown(const Language &language)
@@ -110,9 +113,6 @@ private slots:
             QVERIFY2(!Nvx::Util::languageOf(other), qPrintable(other));
     }
 };
-
-Q_DECLARE_METATYPE(int Language::*)
-Q_DECLARE_METATYPE(QLatin1StringView Language::*)
 
 NVX_GUILESS_TEST(tst_languages)
 #include "tst_languages.moc"

@@ -206,7 +206,7 @@ private slots:
             QVERIFY(!info.isHyperThreadingOn());
         }
         QCOMPARE(readFile(path),
-                 QByteArray("The processors could not be probed, one processor of one core is assumed\n"));
+                 QByteArray("The processors could not be counted; one processor with one core is assumed\n"));
     }
 
 private:

@@ -234,7 +234,7 @@ private slots:
         const QStringList lines = m_fixture->lines();
         QCOMPARE(lines.last(), u"   0 Localization script finishes cool"_s);
         QCOMPARE(lines.at(lines.size() - 2), u"   0 Ribbon2D copied cool"_s);
-        QVERIFY(lines.contains(u"   1 There is no folder of sources, nothing is translated"_s));
+        QVERIFY(lines.contains(u"   1 No source folder was found; nothing is translated"_s));
         QVERIFY(!lines.contains(u"   0 Searching for CAD Packages"_s));
     }
 

@@ -33,8 +33,8 @@ std::optional<QByteArray> toForeignText(Reporter &reporter, const QString &path,
     std::optional<QByteArray> encoded = Util::toAnsi(text);
     if (!encoded)
         reporter.log(LogLevel::failure,
-                     Messages::tr("The system's code page cannot write the name of the install folder, the "
-                                  "launcher is not entered into %1")
+                     Messages::tr("The install folder's path cannot be written in the system's code page; "
+                                  "the launcher is not added to %1")
                          .arg(path));
     return encoded;
 }

@@ -127,6 +127,7 @@ void cfg_utilitys::writeMachineVariables()
             m_machine.setProcessVariable(variable.toLatin1(), *value);
         else
             log(LogLevel::failure,
-                tr("The system's code page cannot write the folder, %1 is not set").arg(variable));
+                tr("The folder's path cannot be written in the system's code page; %1 is not set")
+                    .arg(variable));
     }
 }

@@ -120,8 +120,8 @@ bool CommandRunner::removeDirectory(const QString &path)
     const std::optional<QByteArray> commandLine = Util::toOem(removalCommand(path));
     if (!commandLine) {
         reporter.log(LogLevel::failure,
-                     tr("The command interpreter's code page cannot write the name of this folder, "
-                        "it is not removed: %1")
+                     tr("The name of this folder cannot be written in the command interpreter's code "
+                        "page; it is not removed: %1")
                          .arg(path));
         return true;
     }
@@ -130,7 +130,7 @@ bool CommandRunner::removeDirectory(const QString &path)
     const QString batchFile = m_context.state.installDir + u"work.bat"_s;
     if (!createBatchFile(batchFile, *commandLine)) {
         reporter.log(LogLevel::failure,
-                     tr("Unable to create %1, this folder is not removed: %2").arg(batchFile, path));
+                     tr("Unable to create %1; this folder is not removed: %2").arg(batchFile, path));
         return true;
     }
 

@@ -85,7 +85,7 @@ void ServerService::stop()
         endProcesses();
         m_service.stop();
     } else if (isActive()) {
-        qCWarning(diagnostics, "The server has not stopped in time and is ended");
+        qCWarning(diagnostics, "The server did not stop in time; its process is ended");
         endProcesses();
     }
     // The service control manager needs a moment to notice that a process has ended. Until then the service

@@ -68,8 +68,9 @@ int ArchiveComponents::installMertleServer(RunMode mode)
 
     m_context.reporter.progress(LogLevel::step, m_context.state.modeWord(mode) + tr(" Mertle Server"));
     if (translators.isEmpty()) {
-        m_context.reporter.log(LogLevel::step,
-                               tr("There is no translators folder, the Mertle Server is left alone"));
+        m_context.reporter.log(
+            LogLevel::step,
+            tr("No translators folder is set; the Mertle Server is not installed or removed"));
         return 0;
     }
     if (mode == RunMode::Uninstall)

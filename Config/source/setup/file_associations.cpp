@@ -45,8 +45,8 @@ void importScript(const StepContext &context, const QString &path, const QString
     const std::optional<QByteArray> script = encoded(lines);
     if (!script) {
         context.reporter.log(LogLevel::failure,
-                             Messages::tr("The system's code page cannot write the folder, no files are "
-                                          "associated with the product: %1")
+                             Messages::tr("The folder's path cannot be written in the system's code page; no "
+                                          "files are associated with the product: %1")
                                  .arg(context.state.installDir));
         return;
     }
@@ -72,7 +72,7 @@ int createFileAssociations(const StepContext &context, RunMode mode)
         return 0;
     if (context.state.installDirEscaped.isEmpty()) // the user abandoned the start-up
         context.reporter.log(LogLevel::failure,
-                             Messages::tr("The install folder is not known, no files are associated"));
+                             Messages::tr("The install folder is unknown; no files are associated"));
     else
         importScript(context, script, creationScript(names, context.state.installDirEscaped));
     return 0;

@@ -31,8 +31,9 @@ int createShortcuts(const StepContext &context, RunMode mode)
     context.reporter.log(LogLevel::step, Messages::tr("Desktop=") + desktop);
     if (desktop.isEmpty()) {
         // Without a folder the link would be created at the top of the drive.
-        context.reporter.log(LogLevel::failure,
-                             Messages::tr("There is no desktop folder of all users, it gets no shortcut"));
+        context.reporter.log(
+            LogLevel::failure,
+            Messages::tr("The shared desktop folder was not found; no shortcut was created"));
         context.machine.notifyAssociationsChanged();
         return 0;
     }
