@@ -85,18 +85,15 @@ private slots:
         QCOMPARE(fixture.takeLines().filter(u"progress "_s).size(), 1);
     }
 
-    void theGuardedProgramsAreThoseOfTheTableAndOfTwoOtherSystems()
+    void theGuardHasItsOwnOrderAndTwoSystemsWithoutALauncher()
     {
-        QStringList names;
-        const QList<GuardedProgram> programs = guardedCadPrograms();
-        for (const GuardedProgram &program : programs)
-            names << program.fileName;
-        QStringList expected;
-        for (const CadSystem &system : cadSystems()) {
-            if (system.program)
-                expected << system.program->fileName;
-        }
-        QCOMPARE(names, expected + QStringList({u"SOLIDDESIGNER.EXE"_s, u"EDGE.EXE"_s}));
+        QStringList programs;
+        const QList<GuardedProgram> guarded = guardedCadPrograms();
+        for (const GuardedProgram &program : guarded)
+            programs << program.fileName + u' ' + program.displayName;
+        QCOMPARE(programs, QStringList({u"XTOP.EXE Wildfire"_s, u"SLDWORKS.EXE SolidWorks"_s,
+                                        u"SPACECLAIM.EXE Spaceclaim"_s, u"BREVANT.EXE Brevant"_s,
+                                        u"SOLIDDESIGNER.EXE SolidDesigner"_s, u"EDGE.EXE SolidEdge"_s}));
     }
 };
 

@@ -9,6 +9,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,21 +23,21 @@ constexpr std::array systems{
               .objectName = "m_cbBrevant"_L1,
               .label = QT_TRANSLATE_NOOP("FeaturePage", "Brevant"),
               .gridRow = 9,
-              .program = GuardedProgram{"BREVANT.EXE"_L1, "Brevant"_L1},
+              .program = GuardedProgram{"BREVANT.EXE"_L1, "Brevant"_L1, 4},
               .detect = detectBrevant,
               .install = installBrevantLauncher},
     CadSystem{.launcher = Launcher::Creo,
               .objectName = "m_cbCreo"_L1,
               .label = QT_TRANSLATE_NOOP("FeaturePage", "Pro/ENGINEER Creo"),
               .gridRow = 7,
-              .program = GuardedProgram{"XTOP.EXE"_L1, "Wildfire"_L1},
+              .program = GuardedProgram{"XTOP.EXE"_L1, "Wildfire"_L1, 1},
               .detect = detectCreo,
               .install = installCreoLauncher},
     CadSystem{.launcher = Launcher::SolidWorks,
               .objectName = "m_cbSolidworks"_L1,
               .label = QT_TRANSLATE_NOOP("FeaturePage", "SolidWorks"),
               .gridRow = 8,
-              .program = GuardedProgram{"SLDWORKS.EXE"_L1, "SolidWorks"_L1},
+              .program = GuardedProgram{"SLDWORKS.EXE"_L1, "SolidWorks"_L1, 2},
               .detect = detectSolidWorks,
               .install = installSolidWorksLauncher},
     CadSystem{.launcher = Launcher::Nx,
@@ -67,7 +68,7 @@ constexpr std::array systems{
               .objectName = "m_cbSpaceclaim"_L1,
               .label = QT_TRANSLATE_NOOP("FeaturePage", "SpaceClaim"),
               .gridRow = 16,
-              .program = GuardedProgram{"SPACECLAIM.EXE"_L1, "Spaceclaim"_L1},
+              .program = GuardedProgram{"SPACECLAIM.EXE"_L1, "Spaceclaim"_L1, 3},
               .detect = detectSpaceClaim,
               .install = installSpaceClaimLauncher},
 };
@@ -84,8 +85,8 @@ static_assert(isInOrderOfLaunchers(), "cadSystem() finds a launcher by its posit
 
 // The programs of CAD systems that have no launcher.
 constexpr std::array otherPrograms{
-    GuardedProgram{"SOLIDDESIGNER.EXE"_L1, "SolidDesigner"_L1},
-    GuardedProgram{"EDGE.EXE"_L1, "SolidEdge"_L1},
+    GuardedProgram{"SOLIDDESIGNER.EXE"_L1, "SolidDesigner"_L1, 5},
+    GuardedProgram{"EDGE.EXE"_L1, "SolidEdge"_L1, 6},
 };
 
 } // namespace
@@ -108,6 +109,7 @@ QList<GuardedProgram> guardedCadPrograms()
             programs.append(*system.program);
     }
     programs.append(QList<GuardedProgram>(otherPrograms.begin(), otherPrograms.end()));
+    std::ranges::sort(programs, {}, &GuardedProgram::place);
     return programs;
 }
 

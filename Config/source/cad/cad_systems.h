@@ -18,6 +18,7 @@ struct GuardedProgram
 {
     QLatin1String fileName;    ///< in upper case
     QLatin1String displayName; ///< in the question to the user and in the log
+    int place;                 ///< in the guard's list, from 1
 };
 
 /// A launcher, its check box on the wizard's page, and how its CAD system is found and configured.
@@ -42,7 +43,7 @@ std::span<const CadSystem> cadSystems();
 
 const CadSystem &cadSystem(Launcher launcher);
 
-/// The programs of cadSystems() and of CAD systems that have no launcher. Their order has no effect.
+/// The programs of cadSystems() and of CAD systems that have no launcher, in the order of their places.
 QList<GuardedProgram> guardedCadPrograms();
 
 } // namespace Nvx::Cad
