@@ -138,18 +138,18 @@ void NativeMachine::tell(BoxKind kind, const QString &title, const QString &text
     QMessageBox(iconOf(kind), title, text, QMessageBox::Ok).exec();
 }
 
-Answer NativeMachine::ask(BoxKind kind, const QString &title, const QString &text)
+BoxAnswer NativeMachine::ask(BoxKind kind, const QString &title, const QString &text)
 {
     QMessageBox box(iconOf(kind), title, text, QMessageBox::Yes | QMessageBox::No);
     if (kind != BoxKind::Question)
         box.setDefaultButton(QMessageBox::Yes);
     switch (box.exec()) {
     case QMessageBox::Yes:
-        return Answer::Yes;
+        return BoxAnswer::Yes;
     case QMessageBox::No:
-        return Answer::No;
+        return BoxAnswer::No;
     default:
-        return Answer::Dismissed;
+        return BoxAnswer::Dismissed;
     }
 }
 

@@ -14,10 +14,10 @@ using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 
 using Kind = RecordingProcesses::Kind;
-using Nvx::Util::Answer;
+using Nvx::Util::BoxAnswer;
 using Nvx::Util::BoxKind;
 
-Q_DECLARE_METATYPE(Nvx::Util::Answer)
+Q_DECLARE_METATYPE(Nvx::Util::BoxAnswer)
 
 namespace {
 
@@ -120,7 +120,7 @@ private slots:
     void theAnswerToTheCadQuestionDecides()
     {
         QFETCH(bool, silent);
-        QFETCH(Answer, answer);
+        QFETCH(BoxAnswer, answer);
         m_state.silent = silent;
         m_machine->answer = answer;
         running().add(u"C:\\xtop.exe"_s);
@@ -129,7 +129,7 @@ private slots:
         const bool cancelled = guardAgainstRunningCad(context());
         QCOMPARE(m_machine->boxes.size(), 1);
         QTEST(cancelled, "cancelled");
-        if (answer == Answer::Yes) {
+        if (answer == BoxAnswer::Yes) {
             QCOMPARE(running().ended, QStringList(u"C:\\xtop.exe"_s));
             QCOMPARE(m_reporter->lines,
                      QStringList({u"0 Wildfire terminated"_s, u"0 SolidEdge was not terminated"_s}));
@@ -223,28 +223,28 @@ private slots:
     void theAnswerToTheProductQuestionDecides()
     {
         QFETCH(bool, silent);
-        QFETCH(Answer, answer);
+        QFETCH(BoxAnswer, answer);
         m_state.silent = silent;
         m_machine->answer = answer;
         running().add(monitor);
         const bool cancelled = guardAgainstRunningProduct(context(), OnMatch::List);
         QCOMPARE(m_machine->boxes.size(), silent ? 0 : 1);
-        QCOMPARE(cancelled, !silent && answer == Answer::Dismissed);
-        QCOMPARE(running().ended.size(), silent || answer == Answer::Yes ? 1 : 0);
+        QCOMPARE(cancelled, !silent && answer == BoxAnswer::Dismissed);
+        QCOMPARE(running().ended.size(), silent || answer == BoxAnswer::Yes ? 1 : 0);
     }
 
 private:
     static void addAnswers()
     {
         QTest::addColumn<bool>("silent");
-        QTest::addColumn<Answer>("answer");
+        QTest::addColumn<BoxAnswer>("answer");
         QTest::addColumn<bool>("cancelled");
-        QTest::newRow("yes") << false << Answer::Yes << false;
-        QTest::newRow("no") << false << Answer::No << false;
-        QTest::newRow("dismissed") << false << Answer::Dismissed << true;
-        QTest::newRow("silent, yes") << true << Answer::Yes << false;
-        QTest::newRow("silent, no") << true << Answer::No << false;
-        QTest::newRow("silent, dismissed") << true << Answer::Dismissed << true;
+        QTest::newRow("yes") << false << BoxAnswer::Yes << false;
+        QTest::newRow("no") << false << BoxAnswer::No << false;
+        QTest::newRow("dismissed") << false << BoxAnswer::Dismissed << true;
+        QTest::newRow("silent, yes") << true << BoxAnswer::Yes << false;
+        QTest::newRow("silent, no") << true << BoxAnswer::No << false;
+        QTest::newRow("silent, dismissed") << true << BoxAnswer::Dismissed << true;
     }
 
     RecordingProcesses &running() { return m_machine->running; }

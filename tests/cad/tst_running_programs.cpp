@@ -23,7 +23,7 @@ using namespace Nvx::Cad;
 using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 
-using Nvx::Util::Answer;
+using Nvx::Util::BoxAnswer;
 using Nvx::Util::BoxKind;
 
 namespace {
@@ -32,11 +32,11 @@ namespace {
 class AnsweringMachine : public Nvx::Util::NativeMachine
 {
 public:
-    Answer answer = Answer::Yes;
+    BoxAnswer answer = BoxAnswer::Yes;
     QStringList questions;
     std::function<void()> whileAsking;
 
-    Answer ask(BoxKind, const QString &, const QString &question) override
+    BoxAnswer ask(BoxKind, const QString &, const QString &question) override
     {
         questions << question;
         if (whileAsking)
@@ -181,14 +181,14 @@ private slots:
     {
         QTest::addColumn<int>("answer");
         QTest::addColumn<bool>("dismissed");
-        QTest::newRow("no") << int(Answer::No) << false;
-        QTest::newRow("dismissed") << int(Answer::Dismissed) << true;
+        QTest::newRow("no") << int(BoxAnswer::No) << false;
+        QTest::newRow("dismissed") << int(BoxAnswer::Dismissed) << true;
     }
 
     void anyOtherAnswerEndsNothing()
     {
         QFETCH(int, answer);
-        m_machine->answer = static_cast<Answer>(answer);
+        m_machine->answer = static_cast<BoxAnswer>(answer);
         const RunningProgram cad(m_folder->path(u"Brevant.exe"_s));
         const RunningProgram product(m_folder->path(u"NVX 2017/NVXServer.exe"_s));
         QVERIFY(cad.hasStarted() && product.hasStarted());

@@ -129,11 +129,11 @@ private slots:
         cfg_utilitys &engine = m_fixture->start(u"-I"_s);
         m_fixture->machine.running.add(u"C:\\xtop.exe"_s);
         m_fixture->machine.running.add(u"C:\\NVX 2017\\NVX.exe"_s);
-        m_fixture->machine.answer = Nvx::Util::Answer::Dismissed;
+        m_fixture->machine.answer = Nvx::Util::BoxAnswer::Dismissed;
         QVERIFY(engine.checkRunningCAD());
         QVERIFY(engine.checkRunningProduct(OnMatch::List));
         QCOMPARE(m_fixture->machine.boxes.size(), 2);
-        m_fixture->machine.answer = Nvx::Util::Answer::Yes;
+        m_fixture->machine.answer = Nvx::Util::BoxAnswer::Yes;
         QVERIFY(!engine.checkRunningCAD());
         QVERIFY(!engine.checkRunningProduct(OnMatch::Terminate));
         QCOMPARE(m_fixture->machine.running.ended.size(), 2);

@@ -7,6 +7,7 @@
 #include "nvx_util/system.h"
 #include "support/recorded_diagnostics.h"
 #include "support/small_disk.h"
+#include "support/text.h"
 
 #include <QDirIterator>
 #include <QGuiApplication>
@@ -27,11 +28,6 @@ namespace {
 constexpr int notRun = 77; // the exit code that ctest reports as a skipped test
 constexpr qint64 diskPages = 256;
 constexpr qint64 maxFreePages = 40; // more than a run needs
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 const QByteArray foreignEntries = QByteArray("name Other\r\nexec_file C:\\gr\xf6\xdf"
                                              "er.dll\r\nend\r\n")

@@ -268,14 +268,14 @@ private slots:
     void noInTheMessageBoxSkipsTheRestOfTheStartUp_data()
     {
         QTest::addColumn<int>("answer");
-        QTest::newRow("No") << int(Nvx::Util::Answer::No);
-        QTest::newRow("closed") << int(Nvx::Util::Answer::Dismissed);
+        QTest::newRow("No") << int(Nvx::Util::BoxAnswer::No);
+        QTest::newRow("closed") << int(Nvx::Util::BoxAnswer::Dismissed);
     }
 
     void noInTheMessageBoxSkipsTheRestOfTheStartUp()
     {
         QFETCH(int, answer);
-        m_fixture->machine.answer = static_cast<Nvx::Util::Answer>(answer);
+        m_fixture->machine.answer = static_cast<Nvx::Util::BoxAnswer>(answer);
         setMachineVariables(u"C:\\old"_s);
         const RunState &state = m_fixture->start(u"-U -X -S"_s).state();
         QVERIFY(state.runMode == RunMode::Uninstall);

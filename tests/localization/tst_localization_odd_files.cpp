@@ -10,6 +10,7 @@
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
+#include "support/text.h"
 
 #include <QTest>
 
@@ -22,11 +23,6 @@ using Localization::LocaleFolders;
 namespace {
 
 const QByteArray whole = "<TS version=\"2.1\" language=\"de\"></TS>";
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 void addUnreadableFiles()
 {

@@ -58,7 +58,9 @@ private slots:
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("tokens");
         const auto row = [](const char *text, std::initializer_list<const char *> tokens) {
-            QTest::newRow(text) << QByteArray(text) << listOf(tokens);
+            // QtTest prints a name up to its first line break.
+            const QByteArray name = QByteArray(text).replace('\r', "\\r").replace('\n', "\\n");
+            QTest::newRow(name.constData()) << QByteArray(text) << listOf(tokens);
         };
         row("::a", {"DoubleColon ::", "Identifier a"});
         row("a::", {"Identifier a", "DoubleColon ::"});

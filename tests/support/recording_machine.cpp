@@ -40,7 +40,7 @@ void RecordingMachine::tell(Nvx::Util::BoxKind kind, const QString &title, const
         whileTelling();
 }
 
-Nvx::Util::Answer RecordingMachine::ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text)
+Nvx::Util::BoxAnswer RecordingMachine::ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text)
 {
     boxes.append({kind, title, text});
     if (whileAsking)

@@ -36,7 +36,7 @@ public:
     QString desktop = QStringLiteral("C:\\Users\\Public\\Desktop");
     Nvx::Util::ProgramResult programResult = {Nvx::Util::ProgramResult::Outcome::Exited, 0, {}};
     qint32 shellLinkResult = 0;
-    Nvx::Util::Answer answer = Nvx::Util::Answer::Yes;
+    Nvx::Util::BoxAnswer answer = Nvx::Util::BoxAnswer::Yes;
 
     /// Called while a program is supposed to run.
     std::function<void(const Nvx::Util::ProgramCall &)> whileRunning;
@@ -80,5 +80,5 @@ public:
     void notifyAssociationsChanged() override;
     qint32 createShellLink(const Nvx::Util::ShellLink &link) override;
     void tell(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;
-    Nvx::Util::Answer ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;
+    Nvx::Util::BoxAnswer ask(Nvx::Util::BoxKind kind, const QString &title, const QString &text) override;
 };

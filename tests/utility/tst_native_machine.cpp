@@ -273,16 +273,16 @@ private slots:
     {
         QTest::addColumn<int>("button");
         QTest::addColumn<int>("expected");
-        QTest::newRow("Yes") << int(QMessageBox::Yes) << int(Answer::Yes);
-        QTest::newRow("No") << int(QMessageBox::No) << int(Answer::No);
-        QTest::newRow("closed") << int(QMessageBox::NoButton) << int(Answer::Dismissed);
+        QTest::newRow("Yes") << int(QMessageBox::Yes) << int(BoxAnswer::Yes);
+        QTest::newRow("No") << int(QMessageBox::No) << int(BoxAnswer::No);
+        QTest::newRow("closed") << int(QMessageBox::NoButton) << int(BoxAnswer::Dismissed);
     }
 
     void askReturnsTheButton()
     {
         QFETCH(int, button);
         answerNextBox(static_cast<QMessageBox::StandardButton>(button));
-        const Answer answer = m_machine.ask(BoxKind::Warning, u"Title"_s, u"Text?"_s);
+        const BoxAnswer answer = m_machine.ask(BoxKind::Warning, u"Title"_s, u"Text?"_s);
         QTEST(static_cast<int>(answer), "expected");
     }
 

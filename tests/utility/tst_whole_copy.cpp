@@ -9,15 +9,6 @@
 using namespace Qt::Literals::StringLiterals;
 using Nvx::Util::copyToFreeName;
 
-namespace {
-
-QStringList namesIn(const TestFolder &folder)
-{
-    return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-}
-
-} // namespace
-
 class tst_whole_copy : public QObject
 {
     Q_OBJECT
@@ -47,7 +38,7 @@ private slots:
         QVERIFY(copyToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_target), contents);
         QCOMPARE(fileBytes(m_source), contents);
-        QCOMPARE(namesIn(*m_folder).size(), 2);
+        QCOMPARE(namesIn(m_folder->path()).size(), 2);
     }
 
     void copyOfAWriteProtectedFileCanBeWritten()
@@ -64,7 +55,7 @@ private slots:
         QVERIFY(writeBytes(m_target, "mine"));
         QVERIFY(!copyToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_target), QByteArray("mine"));
-        QCOMPARE(namesIn(*m_folder).size(), 2);
+        QCOMPARE(namesIn(m_folder->path()).size(), 2);
     }
 
     void fileCreatedDuringTheCopyStays()
@@ -82,20 +73,20 @@ private slots:
         QVERIFY(QDir().mkdir(m_target));
         QVERIFY(!copyToFreeName(m_source, m_target));
         QVERIFY(QFileInfo(m_target).isDir());
-        QCOMPARE(namesIn(*m_folder).size(), 1);
+        QCOMPARE(namesIn(m_folder->path()).size(), 2);
     }
 
     void missingSourceLeavesNothing()
     {
         QVERIFY(!copyToFreeName(m_source, m_target));
-        QCOMPARE(namesIn(*m_folder), QStringList());
+        QCOMPARE(namesIn(m_folder->path()), QStringList());
     }
 
     void folderInTheSourcesPlaceLeavesNothing()
     {
         QVERIFY(QDir().mkdir(m_source));
         QVERIFY(!copyToFreeName(m_source, m_target));
-        QCOMPARE(namesIn(*m_folder), QStringList());
+        QCOMPARE(namesIn(m_folder->path()), QStringList(QFileInfo(m_source).fileName()));
     }
 
     void missingFolderFails()
@@ -111,7 +102,7 @@ private slots:
         QVERIFY(writeBytes(m_target + u".nvxpart"_s, "longer than what is to be copied"));
         QVERIFY(copyToFreeName(m_source, m_target));
         QCOMPARE(fileBytes(m_target), QByteArray("new"));
-        QCOMPARE(namesIn(*m_folder).size(), 2);
+        QCOMPARE(namesIn(m_folder->path()).size(), 2);
     }
 
     void pathsOfMoreThan260CharactersAreTaken()

@@ -150,7 +150,7 @@ private slots:
     {
         QFETCH(QString, options);
         System::setLocale(u"ja-JP"_s);
-        m_fixture->machine.answer = Nvx::Util::Answer::No;
+        m_fixture->machine.answer = Nvx::Util::BoxAnswer::No;
         cfg_utilitys &engine = m_fixture->start(options);
         QVERIFY(engine.state().locale != u"ja-JP"_s);
         m_poll.start();

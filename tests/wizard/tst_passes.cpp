@@ -220,7 +220,7 @@ private slots:
     void noAnswerAboutRunningProgramsStopsTheRun()
     {
         m_fixture->machine.running.add(u"C:\\CAD\\xtop.exe"_s);
-        m_fixture->machine.answer = Nvx::Util::Answer::Dismissed;
+        m_fixture->machine.answer = Nvx::Util::BoxAnswer::Dismissed;
         cfg_utilitys &engine = m_fixture->start(u"-I -S"_s);
         QCOMPARE(runProgram(engine), 0);
         QVERIFY(engine.state().runComplete);
@@ -289,12 +289,12 @@ private slots:
         QTest::addColumn<QString>("options");
         QTest::addColumn<int>("answer");
         QTest::addColumn<bool>("shown");
-        const int yes = int(Nvx::Util::Answer::Yes);
-        const int no = int(Nvx::Util::Answer::No);
+        const int yes = int(Nvx::Util::BoxAnswer::Yes);
+        const int no = int(Nvx::Util::BoxAnswer::No);
         QTest::newRow("uninstall") << u"-U -X"_s << no << true;
         QTest::newRow("silent uninstall") << u"-U -S -X"_s << no << true;
         QTest::newRow("silent install") << u"-I -S -X"_s << no << true;
-        QTest::newRow("closed") << u"-U -S -X"_s << int(Nvx::Util::Answer::Dismissed) << true;
+        QTest::newRow("closed") << u"-U -S -X"_s << int(Nvx::Util::BoxAnswer::Dismissed) << true;
         QTest::newRow("Yes stays silent") << u"-U -S -X"_s << yes << false;
         QTest::newRow("stop services has no window") << u"-ST -X"_s << no << false;
     }
@@ -304,7 +304,7 @@ private slots:
         QFETCH(QString, options);
         QFETCH(int, answer);
         QFETCH(bool, shown);
-        m_fixture->machine.answer = static_cast<Nvx::Util::Answer>(answer);
+        m_fixture->machine.answer = static_cast<Nvx::Util::BoxAnswer>(answer);
         cfg_utilitys &engine = m_fixture->start(options);
         QCOMPARE(m_fixture->machine.boxes.size(), 1);
         const ShownWindows windows;

@@ -9,7 +9,7 @@
 
 #include <QCoreApplication>
 
-using Nvx::Util::Answer;
+using Nvx::Util::BoxAnswer;
 using Nvx::Util::BoxKind;
 using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
@@ -71,11 +71,11 @@ QString question(const QString &sentence, const QStringList &names)
 }
 
 // Yes does not wait for the user to stop the programs: it ends them. There is no second check.
-bool act(const StepContext &context, const GuardedPrograms &programs, Answer answer)
+bool act(const StepContext &context, const GuardedPrograms &programs, BoxAnswer answer)
 {
-    if (answer == Answer::Yes)
+    if (answer == BoxAnswer::Yes)
         programs.find(context, OnMatch::Terminate);
-    return answer == Answer::Dismissed;
+    return answer == BoxAnswer::Dismissed;
 }
 
 QString onOrOff(bool on)
@@ -109,7 +109,7 @@ bool guardAgainstRunningCad(const StepContext &context)
     const QStringList running = programs.find(context, OnMatch::List);
     if (running.isEmpty())
         return false;
-    const Answer answer = context.machine.ask(
+    const BoxAnswer answer = context.machine.ask(
         BoxKind::Question, ProcessGuard::tr("CAD Launcher Installation"), runningCadQuestion(running));
     return act(context, programs, answer);
 }
@@ -124,8 +124,8 @@ bool guardAgainstRunningProduct(const StepContext &context, OnMatch onMatch)
     if (running.isEmpty())
         return false;
     if (context.state.silent)
-        return act(context, programs, Answer::Yes);
-    const Answer answer =
+        return act(context, programs, BoxAnswer::Yes);
+    const BoxAnswer answer =
         context.machine.ask(BoxKind::Question, ProcessGuard::tr("Velmora %1 Installation").arg(Product::name),
                             runningProductQuestion(running));
     return act(context, programs, answer);

@@ -70,7 +70,7 @@ bool cfg_utilitys::isUnknownOptionAccepted()
 {
     const auto answer =
         m_machine.ask(Util::BoxKind::Warning, tr("Command line arguments"), Engine::runOptionsUsage());
-    return answer == Util::Answer::Yes;
+    return answer == Util::BoxAnswer::Yes;
 }
 
 void cfg_utilitys::validateInstallDir()

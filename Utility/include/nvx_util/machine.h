@@ -61,7 +61,7 @@ enum class BoxKind
     Question ///< without a default button
 };
 
-enum class Answer
+enum class BoxAnswer
 {
     Yes,
     No,
@@ -119,7 +119,7 @@ public:
     virtual void tell(BoxKind kind, const QString &title, const QString &text) = 0;
 
     /// Shows a modal message box with the buttons Yes and No. Yes is the default, except in a question.
-    virtual Answer ask(BoxKind kind, const QString &title, const QString &text) = 0;
+    virtual BoxAnswer ask(BoxKind kind, const QString &title, const QString &text) = 0;
 };
 
 } // namespace Nvx::Util

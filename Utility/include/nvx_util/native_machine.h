@@ -21,7 +21,7 @@ public:
     void notifyAssociationsChanged() override;
     qint32 createShellLink(const ShellLink &link) override;
     void tell(BoxKind kind, const QString &title, const QString &text) override;
-    Answer ask(BoxKind kind, const QString &title, const QString &text) override;
+    BoxAnswer ask(BoxKind kind, const QString &title, const QString &text) override;
 };
 
 } // namespace Nvx::Util
