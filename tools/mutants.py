@@ -94,7 +94,8 @@ CONDITION = re.compile(r"\b(?:if|while) \(")
 RETURN = re.compile(r"\breturn (?=[^;])")
 LOGIC = re.compile(r" (?:<|>|<=|>=|==|!=|&&|\|\|) |!|=|;")
 NOTHING = re.compile(r"(?:\{\}|false|true|0|nullptr|std::nullopt|[A-Z][\w:]*(?:<[\w:]+>)?(?:\(\)|\{\}))")
-TEXTS_AROUND = re.compile(r"(?:QStringLiteral|QLatin1String|QLatin1Char|QChar|QString|QByteArray)\(")
+STRING_BEFORE = re.compile(r'"(?:_s|_L1)?$')
+STRING_AFTER = re.compile(r'u?"|(?:QStringLiteral|QLatin1String|QLatin1Char|QChar|QString|QByteArray)\(')
 
 WITHOUT_EFFECT = re.compile(r"static_assert|NVX_ASSERT|[\w.]+\.reserve\(")  # that a test could detect
 NO_STATEMENT = re.compile(r"(?:return|break|continue|case|default|using|static_assert|friend)\b")
@@ -157,9 +158,9 @@ class Finder:
             self.add(match.start(), match.start(), "&& false ", "always the second of the choice")
 
     def joins_strings(self, match: re.Match[str]) -> bool:
-        before = self.code[max(0, match.start() - 2) : match.start()].strip()
-        after = self.code[match.end() : match.end() + 40].lstrip()
-        return before.endswith('"') or after.startswith('"') or TEXTS_AROUND.match(after) is not None
+        before = self.code[: match.start()].rstrip()
+        after = self.code[match.end() :].lstrip()
+        return bool(STRING_BEFORE.search(before) or STRING_AFTER.match(after))
 
     def constants(self) -> None:
         for match in WORD.finditer(self.code):

@@ -54,6 +54,8 @@ class Mutants(unittest.TestCase):
             "brackets of a template": ("auto b = c<int>(x);", []),
             "a reference that moves": ("auto &&b = c(x);", []),
             "joined strings": ('auto b = x + "%1";', []),
+            "joined UTF-16 strings": ('auto b = u"%1"_s + x + u"%2"_s;', []),
+            "joined Latin-1 strings": ('auto b = "%1"_L1 + x;', []),
             "a comment": ("auto b = c; // x < y, 1, true", []),
             "a directive": ("#define b 1 < 2", []),
             "a branch for another platform": ("#if x\n#else\n    auto b = x < 1;\n#endif", []),
