@@ -1,5 +1,9 @@
-// The installation run.
+// The search for CAD systems, and the installation run.
 
+#include "cad/cad_search.h"
+#include "cad/cad_systems.h"
+#include "cad/launcher_step.h"
+#include "cad/machine_registry_listing.h"
 #include "cfg_utilities/cfg_utilitys.h"
 #include "cfg_utilities/installation_steps.h"
 #include "nvx_util/cpu_info.h"
@@ -9,6 +13,23 @@
 
 using namespace Nvx;
 using namespace Nvx::Run;
+
+void cfg_utilitys::searchCADPackages()
+{
+    if (m_state.cadSearchSuppressed)
+        return;
+    log(LogLevel::step, tr("Searching for CAD Packages"));
+    const Cad::CadSearch search = Cad::searchCadPackages(Cad::MachineRegistryListing(), m_state.foundWord());
+    for (const QString &line : search.lines)
+        log(LogLevel::step, line);
+    m_cadPackages = search.packages;
+    for (const auto &[launcher, label] : search.checkBoxes) {
+        m_launcherCheckBoxes->setFound(launcher, label.has_value());
+        if (label)
+            m_launcherCheckBoxes->setLabel(launcher, *label);
+    }
+    log(LogLevel::step, tr("Finished searching for CAD Packages"));
+}
 
 void cfg_utilitys::ProcessInstallation()
 {
@@ -48,4 +69,16 @@ void cfg_utilitys::reportProcessors(const Util::CpuInfo &cpuInfo)
     if (m_progressView)
         m_progressView->appendRow(text);
     QCoreApplication::processEvents();
+}
+
+Cad::LauncherStep cfg_utilitys::launcherStep(RunMode mode)
+{
+    return {context(), m_cadPackages, *m_launcherCheckBoxes, m_sharedFolders, mode};
+}
+
+void cfg_utilitys::installLaunchers(RunMode mode)
+{
+    const Cad::LauncherStep step = launcherStep(mode);
+    for (const Cad::CadSystem &system : Cad::cadSystems())
+        system.install(step);
 }

@@ -1,5 +1,13 @@
 // The operations that only forward to the modules of the steps.
 
+#include "cad/brevant/brevant.h"
+#include "cad/creo/creo.h"
+#include "cad/launcher_step.h"
+#include "cad/nx/nx.h"
+#include "cad/process_guard.h"
+#include "cad/solidworks/solidworks.h"
+#include "cad/spaceclaim/spaceclaim.h"
+#include "cad/tamsel/tamsel.h"
 #include "cfg_utilities/cfg_utilitys.h"
 #include "localization/util_localization_tool.h"
 #include "service/server_service.h"
@@ -124,4 +132,51 @@ void cfg_utilitys::initLocalizationTool()
 {
     if (!m_localizationTool)
         m_localizationTool = std::make_unique<util::util_localization_tool>(context());
+}
+
+bool cfg_utilitys::checkRunningCAD()
+{
+    return Cad::guardAgainstRunningCad(context());
+}
+
+bool cfg_utilitys::checkRunningProduct(Run::OnMatch onMatch)
+{
+    return Cad::guardAgainstRunningProduct(context(), onMatch);
+}
+
+void cfg_utilitys::installBrevantLauncher(RunMode mode)
+{
+    Cad::installBrevantLauncher(launcherStep(mode));
+}
+
+void cfg_utilitys::installCreoLauncher(RunMode mode)
+{
+    Cad::installCreoLauncher(launcherStep(mode));
+}
+
+void cfg_utilitys::installSolidWorksLauncher(RunMode mode)
+{
+    Cad::installSolidWorksLauncher(launcherStep(mode));
+}
+
+void cfg_utilitys::installNXLauncher(RunMode mode)
+{
+    Cad::installNxLauncher(launcherStep(mode));
+}
+
+void cfg_utilitys::installTamselLauncher(RunMode mode)
+{
+    Cad::installTamselLauncher(launcherStep(mode));
+    Cad::installTamselArchitectureLauncher(launcherStep(mode));
+    Cad::installTamselMepLauncher(launcherStep(mode));
+}
+
+void cfg_utilitys::installTamselAddin(RunMode mode, int year)
+{
+    Cad::installTamselAddin(launcherStep(mode), year);
+}
+
+void cfg_utilitys::installSpaceClaimLauncher(RunMode mode)
+{
+    Cad::installSpaceClaimLauncher(launcherStep(mode));
 }
