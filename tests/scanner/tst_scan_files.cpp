@@ -96,8 +96,9 @@ private slots:
         const QString first = m_folder.path(u"first.txt"_s);
         const QString second = m_folder.path(u"second.txt"_s);
         QVERIFY(writeBytes(first, "void f() {\n  REPORT_MESSAGE(\"A\");\n  REPORT_ERROR(\n\"B\");\n"
-                                  "  REPORT_MESSAGE(\"A\");\n  REPORT_ERROR(\"A\"); }"));
-        QVERIFY(writeBytes(second, "void f() {\nREPORT_ERROR(\"A\");\nASK_QUESTION(\"C\", Yes, Yes); }"));
+                                  "  REPORT_MESSAGE(\"A\");\n  REPORT_ERROR(\"A\");\n"
+                                  "  REPORT_ERROR(\"D\");\n  REPORT_MESSAGE(\"D\"); }"));
+        QVERIFY(writeBytes(second, "void f() { REPORT_ERROR(\"A\");\n\nASK_QUESTION(\"C\", Yes, Yes); }"));
         FoundKeys found;
         const auto receive = [&found](qsizetype, const SourceScanner &scanner) {
             addKeys(found, scanner);
@@ -107,7 +108,8 @@ private slots:
         QCOMPARE(placeOf(found, "A"), first + u":2"_s);
         QCOMPARE(placeOf(found, "B"), first + u":3"_s);
         QCOMPARE(placeOf(found, "C? Yes; Yes"), second + u":3"_s);
-        QCOMPARE(found.size(), 3);
+        QCOMPARE(placeOf(found, "D"), first + u":7"_s);
+        QCOMPARE(found.size(), 4);
     }
 
     void fileThatCannotBeOpenedIsAnError()
