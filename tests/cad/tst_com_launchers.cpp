@@ -16,7 +16,7 @@ struct ComLauncher
 {
     Launcher launcher;
     QLatin1String title;
-    const char *library;
+    const char *fileName;
 };
 
 constexpr ComLauncher brevant{Launcher::Brevant, "Configure Brevant"_L1,
@@ -42,7 +42,7 @@ private slots:
         QFETCH(const ComLauncher, tested);
         m_fixture->check(tested.launcher);
         install(tested, RunMode::Install);
-        const QString library = m_fixture->installed(tested.library);
+        const QString library = m_fixture->installed(tested.fileName);
         QCOMPARE(arguments(), QList<QStringList>({{u"-u"_s, u"-s"_s, library}, {u"-s"_s, library}}));
         QCOMPARE(m_fixture->takeLines(), QStringList{u"progress 0 "_s + tested.title} +
                                              runLines(u"regsvr32 -u -s "_s + library) +
@@ -65,7 +65,7 @@ private slots:
         QFETCH(const RunMode, mode);
         m_fixture->check(tested.launcher);
         install(tested, mode);
-        const QString library = m_fixture->installed(tested.library);
+        const QString library = m_fixture->installed(tested.fileName);
         QCOMPARE(arguments(), QList<QStringList>({{u"-u"_s, u"-s"_s, library}}));
         QCOMPARE(m_fixture->takeLines(),
                  QStringList{u"progress 0 "_s + tested.title} + runLines(u"regsvr32 -u -s "_s + library));
