@@ -55,18 +55,18 @@ Answer textToAnswer(QStringView text);
 /// empty for the empty set.
 QString answersToText(Answers answers);
 
-/// The set of the answers whose names, joined by ", ", are the text.
+/// The set of answers for a text in the form that answersToText returns.
 Answers textToAnswers(QStringView text);
 
-/// The names of the answers, joined by ", ", in an expression from a source file: names joined by "|", each
-/// with any number of "::" prefixes.
+/// Converts an expression from a source file, names joined by "|" with any number of "::" prefixes each, to
+/// the names alone, joined by ", ".
 QString answerExpressionToText(QStringView expression);
 
-/// A question as it is shown and as it is in keys: the question with "?" at its end, a blank, the answers'
-/// names, "; " and the default answer's name.
+/// The text of a question for display and for keys, such as "Save? Yes, No; Yes": the question, with "?"
+/// appended unless it ends with one, the names of the answers, and the name of the default answer.
 QString questionDisplayText(const QString &question, Answers answers, Answer defaultAnswer);
 
-/// The same from the expressions of a source file for the answers and the default answer.
+/// The same text, from the expressions for the answers in a source file.
 QString questionDisplayText(const QString &question, QStringView answerExpression,
                             QStringView defaultExpression);
 

@@ -7,8 +7,8 @@
 
 namespace Scan {
 
-/// Finds the names of the reporting macros anywhere in a text, also in comments and literals. This identifies
-/// a file without calls as fast as it can be read, and tells the tokenizer how far it can skip.
+/// Finds the names of the reporting macros anywhere in a text, also in comments and literals. A file
+/// without calls is recognised as fast as it can be read, and the tokenizer can skip to the next name.
 class MacroFinder
 {
 public:

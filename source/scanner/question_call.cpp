@@ -81,8 +81,8 @@ void QuestionCall::endArgument(const Tokenizer &token)
     m_argumentBegin = token.end();
 }
 
-// The answers follow the question, and the values of its placeholders follow the answers; or the answers are
-// last.
+// The order of the arguments is either question, answers, values of the placeholders; or question, values,
+// answers.
 std::optional<QString> QuestionCall::tag() const
 {
     constexpr std::uint32_t minimum = 3;

@@ -1,4 +1,4 @@
-// The process table and the guards with real processes. The test answers the questions.
+// The process table and the guards, tested with real processes. The test sets the user's replies.
 
 #include "cad/process_guard.h"
 #include "nvx_util/native_machine.h"

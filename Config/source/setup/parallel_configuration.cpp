@@ -41,7 +41,7 @@ bool save(const QString &path, const QString &sharedFolder, const QString &analy
         return false;
 
     const qint32 cores = cpuInfo.coresPerProcessor();
-    // A negative number tells the solver that hyper-threading is on.
+    // For the solver, a negative number means that hyper-threading is on.
     const qint32 mpi = cpuInfo.isHyperThreadingOn() ? -cores : cores;
     const qint32 processors = cpuInfo.processorCount();
 

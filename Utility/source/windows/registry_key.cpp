@@ -143,7 +143,7 @@ std::optional<QString> RegistryKey::text(const QString &valueName) const
             return QString::fromWCharArray(buffer.data()); // RegGetValueW adds a terminating zero
         if (status != ERROR_MORE_DATA)
             return std::nullopt;
-        // Another program may write a longer string before the next call, so leave some room.
+        // Another program may have written a longer string by the next call: reserve more than was asked for.
         buffer.resize(size / sizeof(wchar_t) + 256);
     }
 }
