@@ -1,7 +1,8 @@
 """Silent runs that are killed at a random moment: the files of CAD systems and users are whole at once, and
 the same run started again ends like an undisturbed one.
 
-The seed is printed; NVX_SEED in the environment repeats the moments of an earlier run.
+The seed is printed; NVX_SEED in the environment repeats the moments of an earlier run. NVX_KILLS is how
+many runs are killed; tools/soak kills a thousand.
 """
 
 import os
@@ -31,8 +32,11 @@ from winemachine import ENVIRONMENT_KEY, PROGRAM_FILES, SHARED_DATA, TRANSLATORS
 # As in test_cycles.py, a path without the release: the guard does not end the server.
 INSTALL_DIR = PROGRAM_FILES + "\\Velmora\\NVX"
 LOG = INSTALL_DIR + "\\NVXConfig.log"
-KILLS = 25  # installs, and as many removals
-KILLS_BEFORE_REMOVAL = 6
+ALL_KILLS = int(os.environ.get("NVX_KILLS", "14"))
+# Of installs that are removed next, and of removals and installs that are repeated.
+KILLS_BEFORE_REMOVAL = max(1, ALL_KILLS // 7)
+REMOVAL_KILLS = max(1, (ALL_KILLS - KILLS_BEFORE_REMOVAL) // 2)
+INSTALL_KILLS = max(1, ALL_KILLS - KILLS_BEFORE_REMOVAL - REMOVAL_KILLS)
 MAX_DELAY_S = 0.08
 IDLE_S = 3
 MATERIALS = SHARED_DATA + "\\matprop.nvxmdb"
@@ -177,12 +181,12 @@ class KilledRuns(LauncherCase):
         return killed
 
     def test_the_next_install_repairs_a_killed_one(self):
-        killed = self.kill_and_run_again(self.bare, "-I", "-I", KILLS)
-        self.assertGreaterEqual(killed, KILLS * 3 // 4)
+        killed = self.kill_and_run_again(self.bare, "-I", "-I", INSTALL_KILLS)
+        self.assertGreaterEqual(killed, INSTALL_KILLS * 3 // 4)
 
     def test_the_next_removal_repairs_a_killed_one(self):
-        killed = self.kill_and_run_again(self.installed, "-U", "-U", KILLS)
-        self.assertGreaterEqual(killed, KILLS * 3 // 4)
+        killed = self.kill_and_run_again(self.installed, "-U", "-U", REMOVAL_KILLS)
+        self.assertGreaterEqual(killed, REMOVAL_KILLS * 3 // 4)
 
     def test_a_killed_install_can_be_removed(self):
         chance = random.Random(f"{self.seed} removed")

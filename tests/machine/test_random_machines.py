@@ -17,7 +17,7 @@ from random_machine import put_machine, random_plan
 from winemachine import SHARED_DATA, value_of
 
 FIRST_SEED = int(os.environ.get("NVX_SEED", "2017"))
-MACHINES = int(os.environ.get("NVX_MACHINES", "8"))
+MACHINES = int(os.environ.get("NVX_MACHINES", "4"))
 # Keys of devices, which a machine writes when it starts.
 DEVICE_KEYS = tuple(
     ("HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\" + name).lower()
