@@ -1,6 +1,6 @@
 #include "nvx_io/nvx2_config_file.h"
 
-#include "nvx_util/conversion.h"
+#include "nvx_util/code_page.h"
 #include "nvx_util/whole_file.h"
 
 namespace Nvx::Io {

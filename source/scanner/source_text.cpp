@@ -1,6 +1,6 @@
 #include "scanner/source_text.h"
 
-#include "nvx_util/conversion.h"
+#include "nvx_util/code_page.h"
 
 #include <QString>
 #include <QUtf8StringView>

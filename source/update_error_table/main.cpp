@@ -1,4 +1,4 @@
-#include "nvx_util/terminal.h"
+#include "nvx_util/system.h"
 #include "update_error_table/update_error_table.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // configuration_writer PATH: saves two configurations in turn, for ever. Tests end it at any moment.
 
 #include "nvx_io/nvx2_config_file.h"
-#include "nvx_util/conversion.h"
+#include "nvx_util/code_page.h"
 
 #include <QCoreApplication>
 

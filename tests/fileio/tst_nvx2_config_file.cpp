@@ -1,5 +1,5 @@
 #include "nvx_io/nvx2_config_file.h"
-#include "nvx_util/conversion.h"
+#include "nvx_util/code_page.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
 

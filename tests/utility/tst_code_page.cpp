@@ -1,5 +1,4 @@
 #include "nvx_util/code_page.h"
-#include "nvx_util/conversion.h"
 #include "support/test_class.h"
 
 #include <QTest>

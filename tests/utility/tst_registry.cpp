@@ -1,5 +1,5 @@
-#include "nvx_util/registry.h"
 #include "nvx_util/registry_key.h"
+#include "nvx_util/system.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
 

@@ -1,7 +1,6 @@
 #include "setup/archive_components.h"
 
 #include "nvx_util/machine.h"
-#include "nvx_util/registry.h"
 #include "nvx_util/system.h"
 #include "run/reporter.h"
 

@@ -2,7 +2,6 @@
 
 #include "nvx_io/nvx2_config_file.h"
 #include "nvx_util/code_page.h"
-#include "nvx_util/conversion.h"
 #include "nvx_util/cpu_info.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/product.h"

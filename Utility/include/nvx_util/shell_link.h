@@ -26,6 +26,14 @@ constexpr auto shellLinkTextTooLong = static_cast<qint32>(0x800700CEU);
 constexpr auto shellLinksMissing = static_cast<qint32>(0x80004001U);
 
 /// The first string of the link that does not fit, including the link file's path; empty if all fit.
-QString tooLongTextOf(const ShellLink &link);
+inline QString tooLongTextOf(const ShellLink &link)
+{
+    for (const QString &text :
+         {link.target, link.linkPath, link.description, link.workFolder, link.iconPath, link.arguments}) {
+        if (text.size() >= shellLinkTextCapacity)
+            return text;
+    }
+    return QString();
+}
 
 } // namespace Nvx::Util

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstddef>
+
 namespace Nvx::Util {
 
 /// The folders, the interface language and the environment of the machine that the product is installed on.
@@ -66,5 +68,17 @@ QString supportedSystemLocale();
 /// Joins folder and relativePath, which contains "/", with native separators, exactly one between them:
 /// joinPath("C:\NVX", "en-US/Examples.7z") is "C:\NVX\en-US\Examples.7z" on Windows.
 QString joinPath(const QString &folder, const QString &relativePath);
+
+/// True if the process's standard output is a terminal, where a line can be overwritten.
+bool isStandardOutputTerminal();
+
+/// What the maker's products store in the registry for each other.
+class Registry
+{
+public:
+    /// Writes the folder of the product's translators into the buffer of capacity characters, with a
+    /// terminating zero. The string is empty if no folder is stored or if it does not fit.
+    static void readKelvaneTranslatorsFolder(wchar_t *buffer, std::size_t capacity);
+};
 
 } // namespace Nvx::Util

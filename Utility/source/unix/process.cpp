@@ -1,3 +1,4 @@
+#include "nvx_util/process_table.h"
 #include "platform.h"
 
 #include <QDeadlineTimer>
@@ -56,6 +57,24 @@ void waitForEnd(qint64 process, int timeoutMs)
     const QDeadlineTimer deadline(timeoutMs);
     while (isRunning(process) && !deadline.hasExpired())
         QThread::msleep(20);
+}
+
+namespace {
+
+// The programs that the product looks for are Windows programs; no process here may be mistaken for one.
+class NoProcesses final : public ProcessTable
+{
+public:
+    QList<ProcessId> ids(int /*atMost*/) override { return {}; }
+    std::unique_ptr<OpenedProcess> open(ProcessId /*id*/) override { return nullptr; }
+};
+
+} // namespace
+
+ProcessTable &processes()
+{
+    static NoProcesses table;
+    return table;
 }
 
 } // namespace Nvx::Util::Platform

@@ -1,3 +1,4 @@
+#include "nvx_util/shell_link.h"
 #include "platform.h"
 
 namespace Nvx::Util::Platform {
@@ -10,5 +11,10 @@ QString commonDesktopFolder()
 }
 
 void notifyAssociationsChanged() {}
+
+qint32 createShellLink(const ShellLink & /*link*/)
+{
+    return shellLinksMissing;
+}
 
 } // namespace Nvx::Util::Platform

@@ -2,11 +2,23 @@
 
 #include <QDir>
 
+#include <io.h>
+
 #include <windows.h>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace Nvx::Util::Platform {
+
+std::shared_ptr<void> claimFile(const QString & /*path*/)
+{
+    return std::make_shared<bool>(true);
+}
+
+bool flushToDisk(int descriptor)
+{
+    return _commit(descriptor) == 0;
+}
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include "nvx_util/system.h"
+
 #include "platform.h"
 
 #include <QDir>
@@ -11,7 +12,9 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace Nvx::Util::Platform {
+namespace Nvx::Util {
+
+namespace Platform {
 
 namespace {
 
@@ -45,4 +48,13 @@ QString publicDocumentsRoot()
     return joinPath(folder("PUBLIC", FOLDERID_Public), u"Documents"_s);
 }
 
-} // namespace Nvx::Util::Platform
+} // namespace Platform
+
+// Only a console has a mode; the null device, which the run-time library treats as a terminal, does not.
+bool isStandardOutputTerminal()
+{
+    DWORD mode = 0;
+    return GetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), &mode) != 0;
+}
+
+} // namespace Nvx::Util

@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -56,6 +57,25 @@ std::shared_ptr<void> claimFile(const QString &path)
     if (!lock->take() || !lock->isOn(name))
         return nullptr;
     return lock;
+}
+
+bool flushToDisk(int descriptor)
+{
+    return fsync(descriptor) == 0;
+}
+
+// link() fails if the new name is in use; rename() would replace the file.
+bool renameToFreeName(const QString &from, const QString &to)
+{
+    if (link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+        return false;
+    QFile::remove(from);
+    return true;
+}
+
+bool renameOver(const QString &from, const QString &to)
+{
+    return rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
 } // namespace Nvx::Util::Platform

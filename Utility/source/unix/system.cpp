@@ -1,12 +1,17 @@
 #include "nvx_util/system.h"
+
 #include "platform.h"
 #include "unix/machine_folder.h"
 
 #include <QStandardPaths>
 
+#include <unistd.h>
+
 using namespace Qt::Literals::StringLiterals;
 
-namespace Nvx::Util::Platform {
+namespace Nvx::Util {
+
+namespace Platform {
 
 QString machineFolder()
 {
@@ -41,4 +46,11 @@ QString publicDocumentsRoot()
     return below(u"Public/Documents"_s);
 }
 
-} // namespace Nvx::Util::Platform
+} // namespace Platform
+
+bool isStandardOutputTerminal()
+{
+    return isatty(STDOUT_FILENO) != 0;
+}
+
+} // namespace Nvx::Util
