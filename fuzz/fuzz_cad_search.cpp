@@ -1,6 +1,6 @@
 // For any registry the search ends, and the check boxes, the results and the log agree.
 
-#include "cad/cad_search.h"
+#include "cad/cad_systems.h"
 #include "support/table_registry.h"
 
 #include <cstdlib>

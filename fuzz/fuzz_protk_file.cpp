@@ -1,7 +1,6 @@
 // For any protk.dat: a removal preserves exactly the pieces of other programs, byte for byte; an install
 // prepends the entry or does not change the file; doing either twice has the same result as once.
 
-#include "cad/creo/creo_names.h"
 #include "cad/creo/protk_file.h"
 
 #include <QStringList>

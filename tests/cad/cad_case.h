@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cad/cad_search.h"
+#include "cad/cad_systems.h"
 
 /// A registry to search, and the expected results. A case is a folder:
 ///

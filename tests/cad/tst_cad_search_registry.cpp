@@ -1,6 +1,6 @@
 // The same cases on the registry of the machine, imported by the Registry Editor.
 
-#include "cad/machine_registry_listing.h"
+#include "cad/registry_listing.h"
 #include "cad_case.h"
 #include "nvx_util/native_machine.h"
 #include "nvx_util/registry_key.h"

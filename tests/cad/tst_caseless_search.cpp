@@ -1,4 +1,4 @@
-#include "cad/eight_bit_text.h"
+#include "cad/foreign_file.h"
 #include "nvx_util/code_page.h"
 #include "support/test_class.h"
 

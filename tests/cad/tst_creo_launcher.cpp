@@ -1,5 +1,5 @@
 #include "cad/creo/creo.h"
-#include "cad/creo/creo_names.h"
+#include "cad/creo/protk_file.h"
 #include "launcher_fixture.h"
 #include "nvx_util/code_page.h"
 #include "support/recorded_diagnostics.h"

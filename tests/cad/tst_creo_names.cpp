@@ -1,4 +1,4 @@
-#include "cad/creo/creo_names.h"
+#include "cad/creo/protk_file.h"
 #include "support/test_class.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 // Steps that are killed while they rewrite files of CAD systems.
 
 #include "cad/creo/creo.h"
-#include "cad/creo/creo_names.h"
+#include "cad/creo/protk_file.h"
 #include "cad/nx/nx.h"
 #include "cad/nx/nx_custom_dirs.h"
 #include "launcher_fixture.h"

@@ -1,4 +1,4 @@
-#include "cad/machine_registry_listing.h"
+#include "cad/registry_listing.h"
 #include "nvx_util/registry_key.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"

@@ -1,4 +1,3 @@
-#include "cad/creo/creo_names.h"
 #include "cad/creo/protk_file.h"
 #include "nvx_util/code_page.h"
 #include "random_bytes.h"

@@ -1,6 +1,5 @@
 #include "cad/cad_systems.h"
 #include "cad/tamsel/tamsel.h"
-#include "cad/tamsel/tamsel_manifest.h"
 #include "launcher_fixture.h"
 #include "support/test_class.h"
 

@@ -1,6 +1,5 @@
-#include "cad/cad_search.h"
 #include "cad/cad_systems.h"
-#include "cad/machine_registry_listing.h"
+#include "cad/registry_listing.h"
 #include "engine/engine_fixture.h"
 #include "nvx_util/registry_key.h"
 #include "support/test_class.h"

@@ -1,7 +1,7 @@
 // Whole runs on a full disk: they reach their end and leave no file of another program incomplete, and a
 // later run with enough space has the usual result.
 
-#include "cad/creo/creo_names.h"
+#include "cad/creo/protk_file.h"
 #include "engine/engine_fixture.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"

@@ -1,6 +1,7 @@
 #include "cad/cad_systems.h"
 
 #include "cad/brevant/brevant.h"
+#include "cad/cad_packages.h"
 #include "cad/creo/creo.h"
 #include "cad/nx/nx.h"
 #include "cad/solidworks/solidworks.h"
@@ -111,6 +112,15 @@ QList<GuardedProgram> guardedCadPrograms()
     programs.append(QList<GuardedProgram>(otherPrograms.begin(), otherPrograms.end()));
     std::ranges::sort(programs, {}, &GuardedProgram::place);
     return programs;
+}
+
+CadSearch searchCadPackages(const RegistryListing &registry, const QString &foundWord)
+{
+    Detection detection{registry, foundWord, CadPackages(), QStringList()};
+    QList<CheckBoxState> checkBoxes;
+    for (const CadSystem &system : cadSystems())
+        checkBoxes.append({system.launcher, system.detect(detection)});
+    return {detection.packages, checkBoxes, detection.lines};
 }
 
 } // namespace Nvx::Cad

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "cad/cad_packages.h"
 #include "cad/launcher_check_boxes.h"
 
 #include <QLatin1String>
 #include <QList>
+#include <QStringList>
 
 #include <optional>
 #include <span>
@@ -12,6 +14,7 @@ namespace Nvx::Cad {
 
 struct Detection;
 struct LauncherStep;
+class RegistryListing;
 
 /// A program that must not run while the launchers are configured.
 struct GuardedProgram
@@ -45,5 +48,24 @@ const CadSystem &cadSystem(Launcher launcher);
 
 /// The programs of cadSystems() and of CAD systems that have no launcher, in the order of their places.
 QList<GuardedProgram> guardedCadPrograms();
+
+/// How the search sets a check box.
+struct CheckBoxState
+{
+    Launcher launcher;
+    std::optional<QString> label; ///< std::nullopt if the CAD system was not found
+};
+
+/// The results of a search for CAD systems.
+struct CadSearch
+{
+    CadPackages packages;
+    QList<CheckBoxState> checkBoxes; ///< one for each launcher
+    QStringList lines;               ///< of the log, in order
+};
+
+/// Searches the registry for the CAD systems that have a launcher. foundWord begins the log's lines about
+/// what was found. Missing keys and values read as empty; the search cannot fail.
+CadSearch searchCadPackages(const RegistryListing &registry, const QString &foundWord);
 
 } // namespace Nvx::Cad

@@ -22,4 +22,20 @@ std::optional<QByteArray> toForeignText(Run::Reporter &reporter, const QString &
 /// is, with a diagnostic warning.
 void replaceForeignFile(const QString &path, const QByteArray &contents);
 
+/// Searches for a string, ignoring case, in 8-bit text of another program, which is normally in the system's
+/// ANSI code page. Bytes that are not valid in it do no harm. A string that the code page cannot encode is
+/// never found.
+class CaselessSearch
+{
+public:
+    explicit CaselessSearch(const QString &text);
+
+    bool isFoundIn(QByteArrayView bytes) const;
+
+private:
+    QString m_text;
+    std::optional<QByteArray> m_encoded; ///< m_text in the code page
+    bool m_isAscii;
+};
+
 } // namespace Nvx::Cad

@@ -4,6 +4,8 @@
 #include "run/run_state.h"
 #include "run/step_context.h"
 
+#include <QString>
+
 namespace Nvx::Cad {
 
 struct CadPackages;
@@ -21,5 +23,9 @@ struct LauncherStep
     bool isInstall() const { return mode == Run::RunMode::Install; }
     bool isChecked(Launcher launcher) const { return checkBoxes.isChecked(launcher); }
 };
+
+/// Unregisters a COM library with the system's regsvr32, and on install registers it again. library is its
+/// path below the install dir, with "/".
+void configureComLibrary(const LauncherStep &step, const QString &library);
 
 } // namespace Nvx::Cad

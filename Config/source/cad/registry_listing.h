@@ -39,4 +39,12 @@ public:
     virtual QString valueOf(const QString &key, const QString &valueName) const = 0;
 };
 
+/// The registry of the machine.
+class MachineRegistryListing final : public RegistryListing
+{
+public:
+    QList<ListedValue> valuesBelow(const QString &key) const override;
+    QString valueOf(const QString &key, const QString &valueName) const override;
+};
+
 } // namespace Nvx::Cad

@@ -1,9 +1,8 @@
 // The search for CAD systems, and the installation run.
 
-#include "cad/cad_search.h"
 #include "cad/cad_systems.h"
 #include "cad/launcher_step.h"
-#include "cad/machine_registry_listing.h"
+#include "cad/registry_listing.h"
 #include "cfg_utilities/cfg_utilitys.h"
 #include "cfg_utilities/installation_steps.h"
 #include "nvx_util/cpu_info.h"

@@ -1,6 +1,6 @@
 #include "cad/nx/nx_custom_dirs.h"
 
-#include "cad/eight_bit_text.h"
+#include "cad/foreign_file.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,8 +1,14 @@
 #include "cad/brevant/brevant.h"
-#include "cad/detection.h"
+
+#include "cad/cad_packages.h"
+#include "cad/launcher_step.h"
+#include "run/reporter.h"
+
+#include <QCoreApplication>
 
 #include <limits>
 
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 
 namespace Nvx::Cad {
@@ -48,6 +54,23 @@ std::optional<QString> detectBrevant(Detection &detection)
         return std::nullopt;
     // The label has no year if only the last run is known.
     return u"Brevant "_s + packages.brevantVersions;
+}
+
+namespace {
+
+struct Messages
+{
+    Q_DECLARE_TR_FUNCTIONS(BrevantLauncher)
+};
+
+} // namespace
+
+void installBrevantLauncher(const LauncherStep &step)
+{
+    if (!step.isChecked(Launcher::Brevant))
+        return;
+    step.context.reporter.progress(LogLevel::step, Messages::tr("Configure Brevant"));
+    configureComLibrary(step, u"Launchers/Brevant/NVX_2017_Brevant.dll"_s);
 }
 
 } // namespace Nvx::Cad

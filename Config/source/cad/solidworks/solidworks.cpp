@@ -1,6 +1,10 @@
-#include "cad/detection.h"
 #include "cad/solidworks/solidworks.h"
 
+#include "cad/cad_packages.h"
+#include "cad/launcher_step.h"
+#include "run/reporter.h"
+
+using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 
 namespace Nvx::Cad {
@@ -36,6 +40,14 @@ std::optional<QString> detectSolidWorks(Detection &detection)
     if (version == 0)
         return std::nullopt;
     return u"SolidWorks %1"_s.arg(version);
+}
+
+void installSolidWorksLauncher(const LauncherStep &step)
+{
+    if (!step.isChecked(Launcher::SolidWorks))
+        return;
+    step.context.reporter.progress(LogLevel::step, u"SolidWorks"_s);
+    configureComLibrary(step, u"Launchers/SolidWorks/NVX_2017_SolidWorks.dll"_s);
 }
 
 } // namespace Nvx::Cad

@@ -1,6 +1,5 @@
-#include "cad/com_registration.h"
-
 #include "cad/launcher_step.h"
+
 #include "nvx_util/system.h"
 #include "run/command_runner.h"
 

@@ -1,6 +1,8 @@
+#include "cad/spaceclaim/spaceclaim.h"
+
+#include "cad/cad_packages.h"
 #include "cad/launcher_step.h"
 #include "cad/shared_folders.h"
-#include "cad/spaceclaim/spaceclaim.h"
 #include "nvx_util/system.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
@@ -14,6 +16,17 @@ using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 
 namespace Nvx::Cad {
+
+std::optional<QString> detectSpaceClaim(Detection &detection)
+{
+    const QString key = u"HKEY_LOCAL_MACHINE\\Software\\Classes\\SpaceClaim.Location"_s;
+    const bool found = !detection.registry.valuesBelow(key).isEmpty();
+    detection.packages.spaceClaimFound = found;
+    detection.logFound(u"Spaceclaim=%1"_s.arg(found ? 1 : 0));
+    if (!found)
+        return std::nullopt;
+    return u"SpaceClaim "_s;
+}
 
 namespace {
 
