@@ -1,4 +1,4 @@
-#include "help/help_address.h"
+#include "help/help_settings.h"
 #include "support/test_class.h"
 
 #include <QTest>

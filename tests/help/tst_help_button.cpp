@@ -1,4 +1,4 @@
-#include "help/help_button.h"
+#include "help/context_help.h"
 #include "support/test_class.h"
 
 #include <QDialog>

@@ -1,7 +1,7 @@
 // The compiled catalogues, loaded as at start-up.
 
 #include "cfg_utilities/command_line.h"
-#include "cfg_wizard/interface_translators.h"
+#include "cfg_wizard/interface_language.h"
 #include "nvx_util/system.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"

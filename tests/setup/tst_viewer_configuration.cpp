@@ -1,5 +1,5 @@
+#include "setup/product_registry.h"
 #include "setup/setup_fixture.h"
-#include "setup/viewer_configuration.h"
 #include "support/test_class.h"
 
 #include <QTest>

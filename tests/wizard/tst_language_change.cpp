@@ -1,7 +1,7 @@
 // A change of language while the program runs, with the real translations.
 
 #include "cfg_wizard/feature_page.h"
-#include "cfg_wizard/interface_translators.h"
+#include "cfg_wizard/interface_language.h"
 #include "cfg_wizard/start_up.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"

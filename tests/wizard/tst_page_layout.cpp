@@ -3,8 +3,7 @@
 
 #include "cad/cad_systems.h"
 #include "cfg_wizard/feature_page.h"
-#include "cfg_wizard/interface_font.h"
-#include "cfg_wizard/interface_translators.h"
+#include "cfg_wizard/interface_language.h"
 #include "nvx_util/languages.h"
 #include "nvx_util/system.h"
 #include "support/test_class.h"

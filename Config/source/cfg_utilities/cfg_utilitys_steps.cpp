@@ -18,7 +18,6 @@
 #include "setup/product_registry.h"
 #include "setup/shortcuts.h"
 #include "setup/user_files.h"
-#include "setup/viewer_configuration.h"
 
 using namespace Nvx;
 

@@ -4,7 +4,7 @@
 #include "cfg_wizard/conclusion_page.h"
 #include "cfg_wizard/feature_page.h"
 #include "cfg_wizard/welcome_page.h"
-#include "help/help_button.h"
+#include "help/context_help.h"
 #include "nvx_util/product.h"
 
 #include <QFontMetrics>

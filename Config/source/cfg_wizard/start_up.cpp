@@ -2,8 +2,7 @@
 
 #include "cfg_utilities/cfg_utilitys.h"
 #include "cfg_wizard/class_wizard.h"
-#include "cfg_wizard/interface_font.h"
-#include "cfg_wizard/interface_translators.h"
+#include "cfg_wizard/interface_language.h"
 #include "cfg_wizard/wizard_plan.h"
 #include "localization/util_localization_tool.h"
 #include "nvx_util/system.h"

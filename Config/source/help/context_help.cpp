@@ -8,8 +8,11 @@
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QIcon>
+#include <QPushButton>
 
 #include <chrono>
 
@@ -114,6 +117,21 @@ bool writeEmptyHelpIds()
     const QString folder = System::getUserDataPath();
     return System::makePath(folder) &&
            Util::replaceWholeFile(Util::joinPath(folder, helpIdsFile), emptyHelpIds());
+}
+
+void styleHelpButton(QPushButton &button, HelpButtonFrame frame)
+{
+    button.setIcon(QIcon(u":/help/help.png"_s));
+    button.setText(QString());
+    button.setAccessibleName(QCoreApplication::translate("ContextHelp", "Help"));
+    button.setDefault(false);
+    button.setAutoDefault(false);
+    button.setFlat(frame == HelpButtonFrame::Flat);
+}
+
+void removeTitleBarHelpButton(QWidget &window)
+{
+    window.setWindowFlags(window.windowFlags() & ~Qt::WindowContextHelpButtonHint);
 }
 
 } // namespace Nvx::Help

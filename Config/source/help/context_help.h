@@ -1,6 +1,9 @@
 #pragma once
 
-#include "help/help_address.h"
+#include "help/help_settings.h"
+
+class QPushButton;
+class QWidget;
 
 namespace Nvx::Util {
 class Machine;
@@ -65,5 +68,17 @@ private:
 /// Writes a help id file without ids, "NVXHelpIds.xml", into the user's data folder of the product, which is
 /// created if necessary. Returns false if that fails.
 bool writeEmptyHelpIds();
+
+enum class HelpButtonFrame
+{
+    Raised,
+    Flat
+};
+
+/// Gives a button the help icon and no text, and prevents Enter from pressing it.
+void styleHelpButton(QPushButton &button, HelpButtonFrame frame = HelpButtonFrame::Raised);
+
+/// Removes the help button from a window's title bar. Hides the window, as any change of its flags does.
+void removeTitleBarHelpButton(QWidget &window);
 
 } // namespace Nvx::Help

@@ -3,10 +3,10 @@
 #include "nvx_util/product.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
+#include "run/command_runner.h"
 #include "run/diagnostics.h"
 #include "run/reporter.h"
 #include "setup/product_values.h"
-#include "setup/viewer_configuration.h"
 
 #include <QCoreApplication>
 
@@ -15,6 +15,24 @@ using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
 
 namespace Nvx::Setup {
+
+namespace {
+
+struct ViewerMessages
+{
+    Q_DECLARE_TR_FUNCTIONS(ViewerConfiguration)
+};
+
+} // namespace
+
+int configureViewer(const StepContext &context, RunMode mode)
+{
+    context.reporter.log(LogLevel::step, ViewerMessages::tr("Running NVX 3D-ViewerConfig."));
+    const QString program = Util::joinPath(context.state.installDir, u"NVX Viewer/NVXViewerConfig.exe"_s);
+    const QStringList arguments = mode == RunMode::Install ? QStringList{u"-i"_s} : QStringList();
+    CommandRunner(context).runCommand(program, arguments, QString());
+    return 0;
+}
 
 namespace {
 

@@ -1,10 +1,17 @@
-#include "cfg_wizard/interface_font.h"
+#include "cfg_wizard/interface_language.h"
 
 #include "nvx_util/languages.h"
 
 #include <QApplication>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Nvx::Wizard {
+
+InterfaceTranslators::InterfaceTranslators(const QString &installDir, const QString &locale)
+    : m_translators(installDir, locale, {u"nvxconfig"_s})
+{
+}
 
 QStringList fontsOfLanguage(const QString &locale)
 {

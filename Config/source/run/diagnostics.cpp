@@ -1,7 +1,0 @@
-#include "run/diagnostics.h"
-
-namespace Nvx::Run {
-
-Q_LOGGING_CATEGORY(diagnostics, "nvx.configuration")
-
-} // namespace Nvx::Run
