@@ -5,7 +5,6 @@
 #include "materials/mat_translation_table.h"
 #include "translation/translation_backup.h"
 #include "window/dialogs.h"
-#include "window/dropped_file.h"
 #include "window/marked_table_view.h"
 #include "window/wait_cursor.h"
 

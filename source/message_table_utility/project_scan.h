@@ -1,6 +1,6 @@
 #pragma once
 
-#include "scanner/found_keys.h"
+#include "scanner/source_scanner.h"
 
 #include <QString>
 #include <QStringList>

@@ -3,7 +3,6 @@
 #include "nvx_util/result.h"
 #include "scanner/call.h"
 #include "scanner/declaration_head.h"
-#include "scanner/question_call.h"
 #include "scanner/tokenizer.h"
 
 #include <QString>

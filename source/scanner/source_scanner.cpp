@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QLoggingCategory>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace Scan {
@@ -80,6 +82,20 @@ QSet<Clt::MessageKey> SourceScanner::keys(CallFamily family) const
     if (found == m_keys.end())
         return {};
     return {found->second.keyBegin(), found->second.keyEnd()};
+}
+
+// Two families may share a key: an error and a message with the same tag.
+void addKeys(FoundKeys &found, const SourceScanner &scanner)
+{
+    for (const auto &[family, lines] : scanner.keys()) {
+        for (auto key = lines.keyValueBegin(); key != lines.keyValueEnd(); ++key) {
+            SourcePlace &place = found[key->first];
+            if (place.line == 0)
+                place = {scanner.fileName(), key->second};
+            else if (place.file == scanner.fileName())
+                place.line = std::min(place.line, key->second);
+        }
+    }
 }
 
 } // namespace Scan

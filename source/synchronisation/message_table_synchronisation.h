@@ -1,7 +1,7 @@
 #pragma once
 
 #include "nvx_util/result.h"
-#include "scanner/found_keys.h"
+#include "scanner/source_scanner.h"
 
 #include <QString>
 

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QMimeData;
 class QWidget;
 
 namespace Window {
@@ -48,5 +49,19 @@ public:
     /// Asks what to do with unsaved changes.
     virtual UnsavedChoice askAboutUnsaved(QWidget *parent, const QString &title, const QString &text) = 0;
 };
+
+/// Qt's message boxes and the system's file dialogs.
+class NativeDialogs : public Dialogs
+{
+public:
+    QString fileToOpen(QWidget *parent, const FileQuestion &question) override;
+    QString fileToSave(QWidget *parent, const FileQuestion &question) override;
+    void warn(QWidget *parent, const QString &title, const QString &text) override;
+    void inform(QWidget *parent, const QString &title, const QString &text) override;
+    UnsavedChoice askAboutUnsaved(QWidget *parent, const QString &title, const QString &text) override;
+};
+
+/// The local file that is being dropped; empty unless it is exactly one.
+QString droppedFile(const QMimeData *dropped);
 
 } // namespace Window

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "window/row_mark.h"
-
+#include <QColor>
 #include <QString>
 #include <QStringView>
 
@@ -9,7 +8,21 @@
 #include <initializer_list>
 #include <vector>
 
+class QPalette;
+
 namespace Window {
+
+/// How a row differs from the others.
+enum class RowMark
+{
+    None,
+    New,
+    Obsolete
+};
+
+/// The background of a marked row: the palette's base colour, tinted so weakly that the palette's text colour
+/// is readable on it on light and dark palettes. The base colour itself for RowMark::None.
+QColor markColor(const QPalette &palette, RowMark mark);
 
 /// The rows of a table in their natural order: a string for each column, and a mark. Neighbours with the same
 /// string should share its memory, which makes filtering fast.

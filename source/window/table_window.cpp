@@ -1,11 +1,10 @@
 #include "window/table_window.h"
 
 #include "window/dialogs.h"
-#include "window/dropped_file.h"
 #include "window/filter_field.h"
 #include "window/marked_table_view.h"
-#include "window/recent_files.h"
 #include "window/wait_cursor.h"
+#include "window/window_memory.h"
 
 #include <QAction>
 #include <QCloseEvent>

@@ -3,8 +3,8 @@
 #include "window/dialogs.h"
 #include "window/filter_field.h"
 #include "window/marked_table_view.h"
-#include "window/recent_files.h"
 #include "window/table_window.h"
+#include "window/window_memory.h"
 
 #include <QAction>
 #include <QCoreApplication>

@@ -50,4 +50,72 @@ void WindowMemory::rememberFolderOf(const QString &fileName)
     m_settings.setValue(folderKey, QDir::toNativeSeparators(QFileInfo(fileName).absolutePath()));
 }
 
+namespace {
+
+const QString settingsKey = u"recentFiles"_s;
+
+QString fullPath(const QString &file)
+{
+    return QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath());
+}
+
+// "&1 C:\tables\errors.xml": the number is the mnemonic.
+QString menuText(qsizetype number, QString file)
+{
+    return u"&%1 "_s.arg(number) + file.replace(u'&', u"&&"_s);
+}
+
+} // namespace
+
+QStringList withRecent(QStringList files, const QString &file, qsizetype maximum)
+{
+    files.removeAll(file);
+    files.prepend(file);
+    return files.mid(0, maximum);
+}
+
+RecentFiles::RecentFiles(QSettings &settings, QWidget *parent)
+    : QMenu(parent)
+    , m_settings(settings)
+    , m_files(settings.value(settingsKey).toStringList().mid(0, maximum))
+{
+    setObjectName(u"menuRecentFiles"_s);
+    setTitle(tr("Open &Recent"));
+    fill();
+}
+
+void RecentFiles::add(const QString &file)
+{
+    m_files = withRecent(m_files, fullPath(file), maximum);
+    store();
+}
+
+void RecentFiles::remove(const QString &file)
+{
+    m_files.removeAll(fullPath(file));
+    store();
+}
+
+void RecentFiles::store()
+{
+    m_settings.setValue(settingsKey, m_files);
+    fill();
+}
+
+// Called while the chosen action is being handled, so the actions are deleted later.
+void RecentFiles::fill()
+{
+    const QList<QAction *> old = actions();
+    for (QAction *action : old) {
+        removeAction(action);
+        action->deleteLater();
+    }
+    for (qsizetype index = 0; index < m_files.size(); ++index) {
+        const QString &file = m_files.at(index);
+        QAction *action = addAction(menuText(index + 1, file));
+        connect(action, &QAction::triggered, this, [this, file] { emit chosen(file); });
+    }
+    setEnabled(!m_files.isEmpty());
+}
+
 } // namespace Window

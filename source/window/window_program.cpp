@@ -2,7 +2,7 @@
 
 #include "nvx_util/system.h"
 #include "nvx_util/translators.h"
-#include "window/native_dialogs.h"
+#include "window/dialogs.h"
 #include "window/table_window.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "clt_message_arguments.h"
+#include "clt_message.h"
 #include "support/test_class.h"
 
 #include <QTest>

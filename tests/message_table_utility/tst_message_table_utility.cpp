@@ -1,6 +1,6 @@
 #include "support/test_class.h"
 #include "utility_fixture.h"
-#include "window/row_mark.h"
+#include "window/marked_rows.h"
 
 #include <QHeaderView>
 #include <QLayout>

@@ -1,5 +1,5 @@
-#include "scanner/found_keys.h"
 #include "scanner/scan_files.h"
+#include "scanner/source_scanner.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"

@@ -1,7 +1,7 @@
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
-#include "window/native_dialogs.h"
+#include "window/dialogs.h"
 
 #include <QAbstractButton>
 #include <QApplication>

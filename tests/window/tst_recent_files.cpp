@@ -1,6 +1,6 @@
 #include "support/test_class.h"
 #include "support/test_folder.h"
-#include "window/recent_files.h"
+#include "window/window_memory.h"
 
 #include <QAction>
 #include <QSettings>

@@ -1,5 +1,5 @@
 #include "support/test_class.h"
-#include "window/row_mark.h"
+#include "window/marked_rows.h"
 
 #include <QPalette>
 #include <QTest>

@@ -1,7 +1,9 @@
-#include "window/native_dialogs.h"
+#include "window/dialogs.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QMimeData>
+#include <QUrl>
 
 namespace Window {
 
@@ -57,6 +59,12 @@ UnsavedChoice NativeDialogs::askAboutUnsaved(QWidget *parent, const QString &tit
     default:
         return UnsavedChoice::Cancel;
     }
+}
+
+QString droppedFile(const QMimeData *dropped)
+{
+    const QList<QUrl> urls = dropped ? dropped->urls() : QList<QUrl>();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
 }
 
 } // namespace Window
