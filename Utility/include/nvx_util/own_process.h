@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QStringView>
+
+namespace Nvx::Util {
+
+/// Whether Qt reads an environment variable of this name. Such a variable may name a folder of plug-ins, a
+/// plug-in or a file of settings, so a process with more rights than its user must not use it. The two
+/// variables that only turn diagnostic output on are excepted. Letter case does not matter, as for Windows.
+bool isVariableOfQt(QStringView name);
+
+/// Makes this process load libraries and Qt's plug-ins only from its executable's folder and from the
+/// operating system's, and removes the variables of Qt from its environment. To be called first in main,
+/// before there is an application object. Does nothing on systems other than Windows, where the program has
+/// its user's rights and Qt's plug-ins are the distribution's.
+void trustOwnFolderOnly();
+
+} // namespace Nvx::Util
