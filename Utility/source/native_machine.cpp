@@ -23,13 +23,13 @@ void takeOutput(QProcess &process, qsizetype limit, QByteArray &output)
         output += written.left(limit - output.size());
 }
 
-void waitForEnd(QProcess &process, int timeoutMs, ProgramResult &result)
+void waitForEnd(QProcess &process, Platform::ProgramTree &tree, int timeoutMs, ProgramResult &result)
 {
     process.waitForFinished(timeoutMs);
     if (process.error() == QProcess::FailedToStart) {
         result.outcome = ProgramResult::Outcome::NotStarted;
     } else if (process.state() != QProcess::NotRunning) {
-        process.kill();
+        tree.terminate();
         process.waitForFinished(5000);
         result.outcome = ProgramResult::Outcome::TimedOut;
     } else {
@@ -85,9 +85,11 @@ ProgramResult NativeMachine::run(const ProgramCall &call)
     const auto take = [&] { takeOutput(process, call.outputLimit, result.output); };
     QObject::connect(&process, &QProcess::readyRead, &process, take);
 
+    const std::unique_ptr<Platform::ProgramTree> tree = Platform::programTree(process);
     process.start(QIODevice::ReadWrite);
+    tree->run();
     process.closeWriteChannel(); // a program that waits for input reads the end of the file at once
-    waitForEnd(process, call.timeoutMs, result);
+    waitForEnd(process, *tree, call.timeoutMs, result);
     if (result.outcome != ProgramResult::Outcome::NotStarted)
         take();
     return result;

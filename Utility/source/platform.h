@@ -44,6 +44,29 @@ void setArguments(QProcess &process, const ProgramCall &call);
 /// Sets the outcome and the exit code of a program that was not terminated by us.
 void setEnd(const QProcess &process, ProgramResult &result);
 
+/// A program that is waited for, together with the programs that it starts.
+class ProgramTree
+{
+public:
+    ProgramTree() = default;
+    ProgramTree(const ProgramTree &) = delete;
+    ProgramTree &operator=(const ProgramTree &) = delete;
+
+    /// Lets the programs that still run continue on their own.
+    virtual ~ProgramTree() = default;
+
+    /// To be called after the process has been started; before that, its program does not run.
+    virtual void run() = 0;
+
+    /// Terminates all programs of the tree.
+    virtual void terminate() = 0;
+};
+
+/// Prepares a process that has not been started. On Windows, all programs of the tree end when this process
+/// ends; on other systems only the program itself is ended, and only by terminate. The process must outlive
+/// the tree.
+std::unique_ptr<ProgramTree> programTree(QProcess &process);
+
 /// Waits up to timeoutMs for a process to end. It need not be a child process.
 void waitForEnd(qint64 process, int timeoutMs);
 

@@ -9,6 +9,8 @@
 //     record        writes them to the file "<own path>.arguments"
 //     folder        writes its working folder
 //     mark PATH     creates an empty file
+//     hold PATH     creates an empty file and keeps it open
+//     start PATH    starts another program and does not wait for it
 //     forget        deletes the file of orders, so that the next start finds none
 //     read          reads its standard input to the end
 //     sleep MS      sleeps for this number of milliseconds
@@ -53,6 +55,21 @@ void waitUntilDeleted(const std::string &path)
         sleepFor(50);
 }
 
+void hold(const std::string &path)
+{
+    static std::ofstream held;
+    held.open(std::filesystem::path(path));
+}
+
+// The system's interpreter starts the program, and this one waits for it in a thread of its own.
+void start(const std::string &path)
+{
+    std::thread([command = '"' + path + '"'] {
+        if (std::system(command.c_str()) != 0)
+            std::cerr << command << " failed\n";
+    }).detach();
+}
+
 void writeArguments(std::ostream &output, int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i)
@@ -81,6 +98,10 @@ void follow(const std::string &order, const std::string &operand, int argc, char
         std::cout << std::filesystem::current_path().string() << '\n';
     else if (order == "mark")
         std::ofstream(std::filesystem::path(operand)).flush();
+    else if (order == "hold")
+        hold(operand);
+    else if (order == "start")
+        start(operand);
     else if (order == "read")
         std::cout << "read " << std::string(std::istreambuf_iterator<char>(std::cin), {}).size() << '\n';
     else if (order == "sleep")

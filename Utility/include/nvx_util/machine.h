@@ -88,7 +88,8 @@ public:
     virtual bool setProcessVariable(const QByteArray &name, const QByteArray &value) = 0;
 
     /// Runs a program without input and waits for its end. A program that is still running at the time-out is
-    /// terminated. Blocks.
+    /// terminated; on Windows, so are the programs that it has started, and all of them end when this process
+    /// ends before. Blocks.
     virtual ProgramResult run(const ProgramCall &call) = 0;
 
     /// Starts a program, given by its full path, that may outlive this process, and waits up to waitMs

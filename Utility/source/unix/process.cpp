@@ -52,6 +52,24 @@ void setEnd(const QProcess &process, ProgramResult &result)
     result.exitCode = crashed ? 128 + process.exitCode() : process.exitCode();
 }
 
+std::unique_ptr<ProgramTree> programTree(QProcess &process)
+{
+    class SingleProgram final : public ProgramTree
+    {
+    public:
+        explicit SingleProgram(QProcess &program)
+            : m_program(program)
+        {
+        }
+        void run() override {}
+        void terminate() override { m_program.kill(); }
+
+    private:
+        QProcess &m_program;
+    };
+    return std::make_unique<SingleProgram>(process);
+}
+
 void waitForEnd(qint64 process, int timeoutMs)
 {
     const QDeadlineTimer deadline(timeoutMs);

@@ -63,6 +63,65 @@ void setEnd(const QProcess &process, ProgramResult &result)
     result.exitCode = process.exitCode();
 }
 
+namespace {
+
+// A job that ends all its processes when its handle is closed, also by the end of this process. The program
+// starts suspended, so that it is in the job before it can start others, which are then in the job too.
+class Job final : public ProgramTree
+{
+public:
+    explicit Job(QProcess &process)
+        : m_process(process)
+        , m_job(CreateJobObjectW(nullptr, nullptr))
+    {
+        setLimits(JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE);
+        process.setCreateProcessArgumentsModifier([this](QProcess::CreateProcessArguments *arguments) {
+            arguments->flags |= CREATE_SUSPENDED;
+            m_program = arguments->processInformation;
+        });
+    }
+
+    ~Job() override
+    {
+        setLimits(0);
+        CloseHandle(m_job);
+    }
+
+    void run() override
+    {
+        if (m_process.state() == QProcess::NotRunning)
+            return;
+        // If it fails, as in a job of an older Windows, the program runs without one.
+        AssignProcessToJobObject(m_job, m_program->hProcess);
+        ResumeThread(m_program->hThread);
+    }
+
+    void terminate() override
+    {
+        TerminateJobObject(m_job, 1);
+        m_process.kill();
+    }
+
+private:
+    void setLimits(DWORD flags)
+    {
+        JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
+        limits.BasicLimitInformation.LimitFlags = flags;
+        SetInformationJobObject(m_job, JobObjectExtendedLimitInformation, &limits, sizeof(limits));
+    }
+
+    QProcess &m_process;
+    HANDLE m_job;
+    PROCESS_INFORMATION *m_program = nullptr; // of the process, and only valid while it runs
+};
+
+} // namespace
+
+std::unique_ptr<ProgramTree> programTree(QProcess &process)
+{
+    return std::make_unique<Job>(process);
+}
+
 void waitForEnd(qint64 process, int timeoutMs)
 {
     const HANDLE handle = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process));
