@@ -86,11 +86,16 @@ qint32 createShellLink(const ShellLink &link);
 /// Waits until everything written through the open descriptor is on the disk. False if it cannot be written.
 bool flushToDisk(int descriptor);
 
-/// Renames a file within its folder. False, with nothing changed, if the new name is in use.
+/// Gives a new file the owner, the access rights and the attributes of the file that it is going to replace,
+/// as far as this process may.
+void copyRights(const QString &from, const QString &to);
+
+/// Renames a file within its folder, and waits until the new name is on the disk. A file that another program
+/// has open is tried again for half a second. False, with nothing changed, if the new name is in use.
 bool renameToFreeName(const QString &from, const QString &to);
 
-/// Renames a file within its folder, replacing a file with the new name. False, with nothing changed, if that
-/// file cannot be replaced.
+/// The same, replacing a file with the new name. At any time, the new name refers to one of the two files.
+/// False, with nothing changed, if that file cannot be replaced.
 bool renameOver(const QString &from, const QString &to);
 
 /// Reserves a file for writing by this process during the lifetime of the result. Null if the file does not

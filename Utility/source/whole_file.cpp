@@ -85,7 +85,7 @@ public:
         return true;
     }
 
-    void setPermissions(QFile::Permissions permissions) { m_file.setPermissions(permissions); }
+    void copyRightsOf(const QString &fileName) { Platform::copyRights(fileName, m_name); }
 
 private:
     QString m_name;
@@ -148,7 +148,7 @@ bool replaceWholeFile(const QString &fileName, const QByteArray &contents)
     if (!part.create() || !part.write(contents))
         return false;
     if (old.exists())
-        part.setPermissions(old.permissions());
+        part.copyRightsOf(name);
     return part.finish(Platform::renameOver, name);
 }
 

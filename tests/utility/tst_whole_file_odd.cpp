@@ -9,7 +9,26 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+int flushedFolders = 0;
+
+} // namespace
+
+// Called instead of the C library's.
+extern "C" int fsync(int descriptor)
+{
+    struct stat flushed = {};
+    if (fstat(descriptor, &flushed) == 0 && S_ISDIR(flushed.st_mode))
+        ++flushedFolders;
+    return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
 
 class tst_whole_file_odd : public QObject
 {
@@ -83,6 +102,32 @@ private slots:
         QVERIFY(!Nvx::Util::replaceWholeFile(first, "new"));
         QVERIFY(QFileInfo(first).isSymLink());
         QVERIFY(QFileInfo(second).isSymLink());
+    }
+
+    void newNameIsFlushedToTheDisk()
+    {
+        const TestFolder folder;
+        flushedFolders = 0;
+        QVERIFY(Nvx::Util::replaceWholeFile(folder.path(u"file"_s), "new"));
+        QCOMPARE(flushedFolders, 1);
+        QVERIFY(Nvx::Util::copyToFreeName(folder.path(u"file"_s), folder.path(u"copy"_s)));
+        QCOMPARE(flushedFolders, 2);
+    }
+
+    void ownerAndModeArePreserved()
+    {
+        const TestFolder folder;
+        const QByteArray fileName = QFile::encodeName(folder.path(u"file"_s));
+        QVERIFY(writeBytes(folder.path(u"file"_s), "old"));
+        constexpr uid_t other = 65534;
+        const bool isAdministrator = chown(fileName.constData(), other, other) == 0;
+        QCOMPARE(chmod(fileName.constData(), 02764), 0);
+        QVERIFY(Nvx::Util::replaceWholeFile(folder.path(u"file"_s), "new"));
+        struct stat found = {};
+        QCOMPARE(stat(fileName.constData(), &found), 0);
+        QCOMPARE(found.st_mode & 07777, mode_t{02764});
+        QCOMPARE(found.st_uid, isAdministrator ? other : geteuid());
+        QCOMPARE(found.st_gid, isAdministrator ? other : getegid());
     }
 
     void fileShorterThanItsReportedSizeDoesNotCountAsEqual()

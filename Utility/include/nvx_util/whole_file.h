@@ -12,12 +12,13 @@ namespace Nvx::Util {
 [[nodiscard]] std::optional<QByteArray> readWholeFile(const QString &fileName);
 
 /// Replaces the contents of a file, completely or not at all: the bytes are written to a new file next to it,
-/// with
-/// ".nvxpart" appended to its name, flushed to the disk, and renamed over the old file. At any time, also
-/// after a crash or on a full disk, the name refers to the old file or to the new one. A file with the same
-/// bytes is left alone and keeps its time stamp. The old file's permissions are preserved, and a symbolic
-/// link stays a link. The folder must exist. False if the file is not writable, another process is replacing
-/// it, or the bytes cannot be written to the disk; the old file is then unchanged.
+/// with ".nvxpart" appended to its name, flushed to the disk, and renamed over the old file. At any time,
+/// also after a crash or on a full disk, the name refers to the old file or to the new one. A file with the
+/// same bytes is left alone and keeps its time stamp. The old file's access rights, attributes and time of
+/// creation are preserved, its owner as far as this process may, and a symbolic link stays a link. If another
+/// program has one of the files open, it is tried again for half a second. The folder must exist. False if
+/// the file is not writable, another process is replacing it, or the bytes cannot be written to the disk; the
+/// old file is then unchanged.
 ///
 /// This is not QSaveFile, because that one gives its temporary file a random name, so what a killed run
 /// leaves could not be found and removed by the next one.

@@ -1,6 +1,7 @@
 #include "platform.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cerrno>
 #include <cstdio>
@@ -48,6 +49,17 @@ private:
     int m_descriptor;
 };
 
+// A new name is on the disk only when its folder is. Nothing can be done about a failure: the file has its
+// new name, and some file systems cannot flush a folder.
+void flushFolderOf(const QString &path)
+{
+    const int folder = open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    fsync(folder);
+    close(folder);
+}
+
 } // namespace
 
 std::shared_ptr<void> claimFile(const QString &path)
@@ -64,18 +76,38 @@ bool flushToDisk(int descriptor)
     return fsync(descriptor) == 0;
 }
 
+void copyRights(const QString &from, const QString &to)
+{
+    struct stat old = {};
+    const QByteArray target = QFile::encodeName(to);
+    if (stat(QFile::encodeName(from).constData(), &old) != 0)
+        return;
+    // Another user's file remains that user's only if an administrator replaces it. The mode is set
+    // afterwards, since a change of the owner clears parts of it.
+    constexpr auto sameOwner = static_cast<uid_t>(-1);
+    if (chown(target.constData(), old.st_uid, old.st_gid) == 0 ||
+        chown(target.constData(), sameOwner, old.st_gid) == 0)
+        chmod(target.constData(), old.st_mode & 07777);
+    else
+        chmod(target.constData(), old.st_mode & 0777);
+}
+
 // link() fails if the new name is in use; rename() would replace the file.
 bool renameToFreeName(const QString &from, const QString &to)
 {
     if (link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         return false;
     QFile::remove(from);
+    flushFolderOf(to);
     return true;
 }
 
 bool renameOver(const QString &from, const QString &to)
 {
-    return rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+    if (rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+        return false;
+    flushFolderOf(to);
+    return true;
 }
 
 } // namespace Nvx::Util::Platform

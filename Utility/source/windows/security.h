@@ -1,0 +1,57 @@
+#pragma once
+
+// Owners and access rights of files, for the other sources of this folder.
+
+#include <QString>
+
+#include <memory>
+
+#include <windows.h>
+
+namespace Nvx::Util::Platform {
+
+struct CloseHandleOf
+{
+    void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+
+/// An open handle; null if it could not be opened.
+using Handle = std::unique_ptr<void, CloseHandleOf>;
+
+/// A path in the form in which the system accepts more than 260 characters.
+std::wstring longPath(const QString &path);
+
+/// Opens an existing file or folder, for a link the link itself.
+Handle openEntry(const QString &path, DWORD access, DWORD sharing);
+
+struct FreeLocalMemory
+{
+    void operator()(void *memory) const { LocalFree(memory); }
+};
+
+/// Memory of the system with a security descriptor; null if there is none.
+using Descriptor = std::unique_ptr<void, FreeLocalMemory>;
+
+/// The owner, group and access rights of an open entry. The handle needs READ_CONTROL.
+Descriptor descriptorOf(HANDLE entry);
+
+/// Sets the access rights of an open entry as in the descriptor, and its owner as far as the process may.
+/// What an entry inherits from its folder is computed again. The handle needs READ_CONTROL, WRITE_DAC and
+/// WRITE_OWNER.
+bool applyDescriptor(HANDLE entry, PSECURITY_DESCRIPTOR descriptor);
+
+/// Lets an administrator's process open, and set the owner of, entries of other users while it exists.
+class FilePrivileges
+{
+public:
+    FilePrivileges();
+    FilePrivileges(const FilePrivileges &) = delete;
+    FilePrivileges &operator=(const FilePrivileges &) = delete;
+    ~FilePrivileges();
+
+private:
+    struct State;
+    std::unique_ptr<State> m_before;
+};
+
+} // namespace Nvx::Util::Platform
