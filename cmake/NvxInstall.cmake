@@ -71,8 +71,9 @@ if(WIN32)
         install(DIRECTORY "${CMAKE_BINARY_DIR}/sample/${folder}" DESTINATION .
             COMPONENT sample EXCLUDE_FROM_ALL)
     endforeach()
-    install(FILES "${NVX_CACHE}/7zip-windows/LICENSE.txt" DESTINATION product/licences/7-Zip
-        COMPONENT sample EXCLUDE_FROM_ALL)
+    # The package with 7-Zip for Windows has only a licence of its own.
+    install(FILES /usr/share/doc/7zip/copyright /usr/share/common-licenses/LGPL-2.1
+        DESTINATION product/licences/7-Zip COMPONENT sample EXCLUDE_FROM_ALL)
     return()
 endif()
 

@@ -1,7 +1,6 @@
 # Makes the set-up program from what CPack has staged: the files of the folder "product" belong in the install dir,
 # those of "translators" in the translators' folder. Run by CPack.
 
-find_program(makensis makensis REQUIRED)
 find_program(python python3 REQUIRED)
 
 # describe_languages(): adds a macro to `lists` that does something with each language of the product's table. The
@@ -75,7 +74,7 @@ file(WRITE "${lists_file}" "${mark}${lists}")
 math(EXPR kilobytes "${bytes} / 1024")
 set(set_up "${CPACK_TOPLEVEL_DIRECTORY}/${CPACK_PACKAGE_NAME}-${CPACK_PACKAGE_VERSION}-setup.exe")
 execute_process(
-    COMMAND "${makensis}" -V2 -WX -INPUTCHARSET UTF8
+    COMMAND "${NVX_MAKENSIS}" -V2 -WX -INPUTCHARSET UTF8
         "-DPRODUCT_VERSION=${CPACK_PACKAGE_VERSION}"
         "-DPRODUCT_KILOBYTES=${kilobytes}"
         "-DLISTS=${lists_file}"

@@ -40,14 +40,26 @@ case "$*" in
 esac
 END
 stand_in apt-get <<'END'
-case "$*" in install\ *) touch "$folder/packages-installed" ;; esac
+case "$*" in
+    install\ *) touch "$folder/packages-installed" ;;
+    *\ download\ *) touch "$(basename "$(dirname "${@: -1}")").deb" ;;
+esac
 END
 stand_in dpkg-source <<'END'
 mkdir "${@: -1}"
 END
+stand_in dpkg-deb <<'END'
+mkdir -p "$3/usr/lib64"
+echo 'echo v3.12-1' >"$3/usr/lib64/ld-linux-x86-64.so.2"
+chmod +x "$3/usr/lib64/ld-linux-x86-64.so.2"
+END
+stand_in sha256sum <<'END'
+cat >/dev/null
+! [ -f "$calls-damaged" ]
+END
 stand_in npm <<'END'
 mkdir -p package/win/x64
-touch package/win/x64/7za.exe package/LICENSE.txt
+touch package/win/x64/7za.exe
 tar -czf 7zip-bin-5.2.0.tgz package
 END
 # The build lasts long enough for the other tools/setup to find it running.
@@ -65,11 +77,12 @@ count() { grep -cE "$1" "$calls" || true; }
 first=$!
 "$setup" >"$folder/second.log" 2>&1 || fail "the second one ended with exit status $?"
 wait $first || fail "the first one ended with exit status $?"
-for work in 'apt-get install' 'npm pack' 'apt-get .* source ' 'cmake -S' 'cmake --build' 'cmake --install'; do
+for work in 'apt-get install' 'npm pack' 'apt-get .* source .*qt6-base' 'apt-get .* nsis/' 'cmake -S' 'cmake --build' 'cmake --install'; do
     [ "$(count "^$work")" = 1 ] || fail "'$work' was called $(count "^$work") times"
 done
 grep -qhF 'waiting for another tools/setup' "$folder"/first.log "$folder"/second.log || fail "neither has waited"
 [ -f "$NVX_CACHE/qt-windows/built-from" ] || fail "Qt is not where the build looks for it"
+[ "$("$NVX_CACHE/nsis/makensis")" = v3.12-1 ] || fail "the compiler of the set-up program does not run"
 [ -f "$NVX_CACHE/7zip-windows/7za.exe" ] || fail "7-Zip is not where the build looks for it"
 
 # If everything exists, it only checks, and prints nothing.
@@ -83,4 +96,10 @@ rm "$NVX_CACHE/7zip-windows/7za.exe"
 "$setup" >"$folder/fourth.log" 2>&1 || fail "the fourth one ended with exit status $?"
 [ "$(count '^npm pack')" = 1 ] || fail "7-Zip is missing and was not fetched"
 [ "$(count '^(apt-get|cmake)')" = 0 ] || fail "it calls: $(cat "$calls")"
+
+# A 7-Zip package with other contents is refused.
+rm "$NVX_CACHE/7zip-windows/7za.exe"
+touch "$calls-damaged"
+"$setup" >"$folder/fifth.log" 2>&1 && fail "it takes a package with another hash"
+[ -f "$NVX_CACHE/7zip-windows/7za.exe" ] && fail "7-Zip was taken from a package with another hash"
 echo "tools/setup does its work once"

@@ -1,10 +1,12 @@
 """The set-up program, run without a window: what it installs, how it configures the product, and what a
 removal leaves. test_installer_faults.py has its failures."""
 
+import re
 import unittest
 import zipfile
+from pathlib import Path
 
-from installer_case import InstallerCase, hash_of
+from installer_case import SET_UP, InstallerCase, hash_of
 from launcher_case import ADDIN, LauncherCase, target_manifest
 from cadsystems import COM_CLASSES, PROTK_2
 from machine_case import BUILD, LOG, PRODUCT_KEY, SHORTCUT, UNINSTALL_KEY, MachineCase
@@ -80,7 +82,16 @@ class Installer(InstallerCase, LauncherCase):
             for path in files:
                 there = place + "\\" + str(path.relative_to(folder)).replace("/", "\\")
                 self.assertIn(there, self.installed)
-        self.assertIn(INSTALL_DIR + "\\licences\\7-Zip\\LICENSE.txt", self.installed)
+
+    def test_7_zip_has_its_own_licence(self):
+        folder = INSTALL_DIR + "\\licences\\7-Zip\\"
+        names = [path.removeprefix(folder) for path in self.installed if path.startswith(folder)]
+        self.assertEqual(sorted(names), ["LGPL-2.1", "copyright"])
+        self.assertIn(b"Upstream-Name: 7-Zip", Path("/usr/share/doc/7zip/copyright").read_bytes())
+        self.assertEqual(
+            self.installed[folder + "copyright"],
+            hash_of(Path("/usr/share/doc/7zip/copyright").read_bytes()),
+        )
 
     def test_no_temporary_file_is_left(self):
         for files in (self.installed, self.second, self.removed):
@@ -214,7 +225,11 @@ class OtherPlaces(InstallerCase, MachineCase):
         self.assertEqual(value_of(self.machine.registry(), TRANSLATORS_KEY, "Folder"), folder)
 
 
-class Programs(unittest.TestCase):
+class Packages(unittest.TestCase):
+    def test_the_set_up_is_made_by_a_compiler_with_the_fixes_for_elevation(self):
+        version = re.search(rb"Nullsoft Install System v(\d+)\.(\d+)", SET_UP.read_bytes())
+        self.assertGreaterEqual(tuple(map(int, version.groups())), (3, 12))
+
     def test_the_zip_holds_the_programs_with_all_they_need_and_no_sample_files(self):
         (path,) = (BUILD / "package").glob("*.zip")
         with zipfile.ZipFile(path) as archive:
