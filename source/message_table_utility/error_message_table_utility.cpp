@@ -136,9 +136,9 @@ std::optional<MessageWindow::ProjectScan>
 MessageTableUtility::scanShowingProgress(const QString &projectFile, const Scan::VisualStudioProject &project)
 {
     const auto scan = [&](Window::Progress &progress) {
-        return MessageWindow::scanProject(projectFile, project, [&](qsizetype files, qsizetype keys) {
+        return MessageWindow::scanProject(project, [&](qsizetype files, qsizetype keys) {
             showStatus(tr("Found %1 keys").arg(keys));
-            return progress.report(files, project.sourceFiles.size());
+            return progress.report(files, project.sources.size());
         });
     };
     return withProgress(tr("Parsing"), tr("Parsing source files from %1").arg(projectFile), scan);

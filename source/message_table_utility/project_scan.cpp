@@ -18,21 +18,19 @@ struct Texts
 
 } // namespace
 
-ProjectScan scanProject(const QString &projectFile, const Scan::VisualStudioProject &project,
-                        const ScanReceiver &receive)
+ProjectScan scanProject(const Scan::VisualStudioProject &project, const ScanReceiver &receive)
 {
-    QStringList paths;
-    for (const QString &sourceFile : project.sourceFiles)
-        paths.append(Scan::sourceFilePath(projectFile, sourceFile));
-
     ProjectScan scan;
     const auto take = [&](qsizetype index, const Scan::SourceScanner &scanner) {
+        const Scan::ProjectSource &source = project.sources.at(index);
         if (scanner.hasError())
-            scan.errors.append(u"%1: %2"_s.arg(project.sourceFiles.at(index), scanner.errorText()));
+            scan.errors.append(u"%1: %2"_s.arg(source.name, scanner.errorText()));
+        if (!source.problem.isEmpty())
+            scan.errors.last() += u" (%1)"_s.arg(source.problem);
         Scan::addKeys(scan.keys, scanner);
         return receive(index + 1, scan.keys.size()) ? Scan::Continuation::Continue : Scan::Continuation::Stop;
     };
-    Scan::scanFiles(project.process(), paths, take);
+    Scan::scanFiles(project.process(), project.paths(), take);
     return scan;
 }
 

@@ -17,17 +17,16 @@ namespace MessageWindow {
 struct ProjectScan
 {
     Scan::FoundKeys keys;
-    QStringList errors; ///< "FILE: ERROR" for every file that could not be scanned
+    QStringList errors; ///< "FILE: ERROR" or "FILE: ERROR (REASON)" for every file that could not be scanned
 };
 
 /// Called after each file with the number of scanned files and of keys found so far. Returns false to stop
 /// the scan.
 using ScanReceiver = std::function<bool(qsizetype files, qsizetype keys)>;
 
-/// Scans the sources of the project that was read from that file. Returns what was found until the scan ended
+/// Scans the sources of the project. Returns what was found until the scan ended
 /// or was stopped.
-ProjectScan scanProject(const QString &projectFile, const Scan::VisualStudioProject &project,
-                        const ScanReceiver &receive);
+ProjectScan scanProject(const Scan::VisualStudioProject &project, const ScanReceiver &receive);
 
 /// The text of a message box: the first of the errors and the number of the others.
 QString scanErrorText(const QStringList &errors);

@@ -1,6 +1,7 @@
 #include "scanner/source_scanner.h"
 
 #include "scanner/parser.h"
+#include "scanner/project_folders.h"
 #include "scanner/source_text.h"
 
 #include <QFile>
@@ -50,16 +51,17 @@ const Outcome &SourceScanner::scan()
 Outcome SourceScanner::scanFile()
 {
     QFile file(m_fileName);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    m_openProblem = openRegularFile(file);
+    if (!m_openProblem.isEmpty())
         return Failure{u"Cannot open file"_s};
-    const QByteArray contents = file.readAll();
-    // The messages of the unread part would silently become obsolete.
-    if (file.error() != QFileDevice::NoError)
+    // The messages of an unread part would silently become obsolete.
+    const Nvx::Util::Result<QByteArray> contents = readOpenFile(file);
+    if (!contents)
         return Failure{u"Cannot read file"_s};
     // Every supported encoding writes a macro's name in the same bytes.
-    if (!namesMacro(viewOf(contents)))
+    if (!namesMacro(viewOf(*contents)))
         return Done();
-    return scanText(toSourceText(contents));
+    return scanText(toSourceText(*contents));
 }
 
 Outcome SourceScanner::scanText(const QByteArray &text)

@@ -22,13 +22,16 @@ class SourceScanner
 public:
     SourceScanner(const QString &process, const QString &fileName);
 
-    /// Reads the file. Fails with "Cannot open file", "Cannot read file", or "MESSAGE (line LINE)"; there are
-    /// no keys then.
+    /// Reads the file, which must be a regular one of at most maximumFileSize. Fails with "Cannot open file",
+    /// "Cannot read file", or "MESSAGE (line LINE)"; there are no keys then.
     const Nvx::Util::Outcome &scan();
 
     /// The result of the last scan.
     bool hasError() const { return !m_outcome; }
     const QString &errorText() const { return m_outcome.error(); }
+
+    /// Why the file cannot be opened, as text for the user; empty if it was opened.
+    const QString &openProblem() const { return m_openProblem; }
 
     const KeySets &keys() const { return m_keys; }
 
@@ -44,6 +47,7 @@ private:
     QString m_process;
     QString m_fileName;
     Nvx::Util::Outcome m_outcome = Nvx::Util::Done();
+    QString m_openProblem;
     KeySets m_keys;
 };
 

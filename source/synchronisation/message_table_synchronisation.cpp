@@ -6,6 +6,7 @@
 #include "synchronisation/progress_log.h"
 
 #include <QFileInfo>
+#include <QTextStream>
 
 #include <algorithm>
 #include <iterator>
@@ -39,24 +40,26 @@ std::vector<Clt::MessageKey> newKeys(const Scan::FoundKeys &found, const QSet<Cl
     return keys;
 }
 
-SourceKeys scanSources(const QString &projectFile, const Scan::VisualStudioProject &project, ProgressLog &log)
+SourceKeys scanSources(const Scan::VisualStudioProject &project, ProgressLog &log, QTextStream &errors)
 {
-    QStringList paths;
-    for (const QString &sourceFile : project.sourceFiles)
-        paths.append(Scan::sourceFilePath(projectFile, sourceFile));
+    for (const QString &note : project.notes)
+        errors << note << '\n';
 
     SourceKeys result;
     const auto receive = [&](qsizetype index, const Scan::SourceScanner &scanner) {
-        log.writeLine(u"  %1"_s.arg(project.sourceFiles.at(index)));
+        const Scan::ProjectSource &source = project.sources.at(index);
+        log.writeLine(u"  %1"_s.arg(source.name));
         if (scanner.hasError()) {
             log.writeLine(u"Parser error: %1"_s.arg(scanner.errorText()));
             ++result.skippedFiles;
         }
+        if (const QString problem = Scan::openProblem(source, scanner); !problem.isEmpty())
+            errors << u"Cannot open %1: %2 (%3)\n"_s.arg(source.name, problem, source.origin);
         Scan::addKeys(result.keys, scanner);
-        log.showProgress(u"Scanned %1 of %2 files"_s.arg(index + 1).arg(paths.size()));
+        log.showProgress(u"Scanned %1 of %2 files"_s.arg(index + 1).arg(project.sources.size()));
         return Scan::Continuation::Continue;
     };
-    Scan::scanFiles(project.process(), paths, receive);
+    Scan::scanFiles(project.process(), project.paths(), receive);
     return result;
 }
 
@@ -131,7 +134,7 @@ KeyCounts synchronizeKeys(Clt::MessageTable &table, const Scan::FoundKeys &found
 }
 
 TableSynchronisation synchronizeMessageTable(const QString &messageTableFile, const QString &projectFile,
-                                             ProgressLog &log)
+                                             ProgressLog &log, QTextStream &errors)
 {
     Result<Input> input = readInput(messageTableFile, projectFile, log);
     if (!input) {
@@ -141,7 +144,7 @@ TableSynchronisation synchronizeMessageTable(const QString &messageTableFile, co
     auto [table, project] = *std::move(input);
 
     log.writeLine(u"Scanning..."_s);
-    const SourceKeys sources = scanSources(projectFile, project, log);
+    const SourceKeys sources = scanSources(project, log, errors);
     log.writeLine(synchronizeKeys(table, sources.keys).text());
 
     Outcome saved = saveTable(table, messageTableFile, log);

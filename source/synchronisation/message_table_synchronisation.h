@@ -5,6 +5,8 @@
 
 #include <QString>
 
+class QTextStream;
+
 namespace Clt {
 class MessageTable;
 }
@@ -41,8 +43,9 @@ struct TableSynchronisation
 /// Synchronises a message-table file with the sources of a Visual Studio project, and logs each step. Creates
 /// the table if it does not exist. Fails, and leaves the file unchanged, if the table cannot be loaded or
 /// saved or the project cannot be read; the error is also the last line of the log. A source file that cannot
-/// be scanned is logged and skipped.
+/// be scanned is logged and skipped. Writes to errors why a file cannot be opened, and what else of the
+/// project could not be resolved.
 TableSynchronisation synchronizeMessageTable(const QString &messageTableFile, const QString &projectFile,
-                                             ProgressLog &log);
+                                             ProgressLog &log, QTextStream &errors);
 
 } // namespace Synchronisation

@@ -25,7 +25,7 @@ Completion run(const Operation &operation, ProgressLog &log, QTextStream &errors
     switch (operation.kind) {
     case Operation::Kind::SynchronizeMessageTable: {
         const auto synchronisation =
-            Synchronisation::synchronizeMessageTable(operation.messageTable, operation.other, log);
+            Synchronisation::synchronizeMessageTable(operation.messageTable, operation.other, log, errors);
         return {.succeeded = bool(synchronisation.outcome), .skippedFiles = synchronisation.skippedFiles};
     }
     case Operation::Kind::SynchronizeTranslationTable:

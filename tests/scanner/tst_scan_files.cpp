@@ -118,6 +118,44 @@ private slots:
         QVERIFY(!scanner.scan());
         QVERIFY(scanner.hasError());
         QCOMPARE(scanner.errorText(), u"Cannot open file"_s);
+        QCOMPARE(scanner.openProblem(), u"the file does not exist"_s);
+    }
+
+    void foldersAndDevicesAreNotOpened_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("a folder") << u"."_s;
+        // These are devices on Windows, in every folder.
+        QTest::newRow("the console") << u"CON"_s;
+        QTest::newRow("a file that takes everything") << u"NUL.cpp"_s;
+        QTest::newRow("a serial port") << u"COM1.cpp"_s;
+    }
+
+    void foldersAndDevicesAreNotOpened()
+    {
+        QFETCH(const QString, name);
+        SourceScanner scanner(u"client"_s, m_folder.path(name));
+        QVERIFY(!scanner.scan());
+        QCOMPARE(scanner.errorText(), u"Cannot open file"_s);
+        QVERIFY(!scanner.openProblem().isEmpty());
+    }
+
+    void filesOfMoreThanTheLimitAreNotOpened()
+    {
+        const QString fileName = m_folder.path(u"large.cpp"_s);
+        QFile file(fileName);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write("void f() { REPORT_ERROR(\"A\"); }") > 0);
+        QVERIFY(file.resize(qint64{64} * 1024 * 1024));
+        SourceScanner scanner(u"client"_s, fileName);
+        QVERIFY(scanner.scan());
+        QCOMPARE(scanner.keys(CallFamily::Error).size(), 1);
+
+        QVERIFY(file.resize(file.size() + 1));
+        QVERIFY(!scanner.scan());
+        QCOMPARE(scanner.errorText(), u"Cannot open file"_s);
+        QCOMPARE(scanner.openProblem(), u"the file is larger than 64 MiB"_s);
+        QVERIFY(scanner.keys(CallFamily::Error).isEmpty());
     }
 
     // On Linux this file can be opened, but not read.

@@ -1,10 +1,10 @@
+#include "listed_folders.h"
 #include "scanner/error_visual_studio_project.h"
-#include "support/broken_device.h"
 #include "support/file_bytes.h"
+#include "support/processor_time.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QTest>
 
@@ -15,10 +15,17 @@ namespace {
 
 Nvx::Util::Result<VisualStudioProject> read(const QByteArray &xml)
 {
-    QBuffer buffer;
-    buffer.setData(xml);
-    buffer.open(QIODevice::ReadOnly);
-    return readVisualStudioProject(buffer);
+    ListedFolders folders;
+    folders.add(u"/p/client.vcxproj"_s, xml);
+    return readVisualStudioProject(u"/p/client.vcxproj"_s, folders);
+}
+
+QStringList namesOf(const VisualStudioProject &project)
+{
+    QStringList names;
+    for (const ProjectSource &source : project.sources)
+        names.append(source.name);
+    return names;
 }
 
 QByteArray withGlobals(const QByteArray &properties)
@@ -79,7 +86,7 @@ private slots:
     void processIsTheRootNamespaceExceptForTheNewClient()
     {
         QFETCH(const QString, rootNamespace);
-        QTEST((VisualStudioProject{rootNamespace, {}}.process()), "process");
+        QTEST(VisualStudioProject{.rootNamespace = rootNamespace}.process(), "process");
     }
 
     void sourceFilesAreTheCompiledFiles_data()
@@ -94,6 +101,13 @@ private slots:
         QTest::newRow("path and entities unchanged")
             << withItems("<ClCompile Include=\"..\\a &amp; b\\c.cpp\"/>")
             << QStringList{u"..\\a & b\\c.cpp"_s};
+        QTest::newRow("several files in one item")
+            << withItems("<ClCompile Include=\"a.cpp;b.cpp; c.cpp\n;\"/>")
+            << QStringList{u"a.cpp"_s, u"b.cpp"_s, u"c.cpp"_s};
+        QTest::newRow("conditions do not count")
+            << withItems("<ClCompile Include=\"a.cpp\" Condition=\"false\"/><ClCompile Include=\"b.cpp\">"
+                         "<ExcludedFromBuild>true</ExcludedFromBuild></ClCompile>")
+            << QStringList{u"a.cpp"_s, u"b.cpp"_s};
         QTest::newRow("several groups in order")
             << QByteArray("<Project><ItemGroup><ClCompile Include=\"z.cpp\"/></ItemGroup><ItemGroup/>"
                           "<ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup></Project>")
@@ -111,6 +125,11 @@ private slots:
                           "<Target><ItemGroup><ClCompile Include=\"b.cpp\"/></ItemGroup></Target>"
                           "<ItemGroup><ClCompile Include=\"c.cpp\"/></ItemGroup></Project>")
             << QStringList{u"c.cpp"_s};
+        QTest::newRow("groups of a choice count for any configuration")
+            << QByteArray("<Project><Choose><When Condition=\"false\"><ItemGroup><ClCompile "
+                          "Include=\"a.cpp\"/></ItemGroup></When><Otherwise><ItemGroup><ClCompile "
+                          "Include=\"b.cpp\"/></ItemGroup></Otherwise></Choose></Project>")
+            << QStringList{u"a.cpp"_s, u"b.cpp"_s};
         QTest::newRow("generated code")
             << withItems("<ClCompile Include=\"x\\generatedFILES\\a.cpp\"/>") << QStringList();
         QTest::newRow("libraries") << withItems("<ClCompile Include=\"..\\libRAries\\a.cpp\"/>")
@@ -127,7 +146,7 @@ private slots:
         QFETCH(const QByteArray, xml);
         const auto project = read(xml);
         QVERIFY(project);
-        QTEST(project->sourceFiles, "files");
+        QTEST(namesOf(*project), "files");
     }
 
     void filesThatAreNotProjectsFail_data()
@@ -138,6 +157,10 @@ private slots:
         QTest::newRow("truncated") << withItems("<ClCompile Include=\"a.cpp\"/>").chopped(5);
         QTest::newRow("another root") << QByteArray("<Solution><Project/></Solution>");
         QTest::newRow("text after the root") << QByteArray("<Project/>more");
+        QTest::newRow("entities") << QByteArray(
+            "<!DOCTYPE p [<!ENTITY a \"aaaaaaaa\">]><Project>&a;</Project>");
+        QTest::newRow("the folders of an editor")
+            << withItems("<Filter Include=\"Source Files\"/><ClCompile Include=\"a.cpp\"/>");
     }
 
     void filesThatAreNotProjectsFail()
@@ -162,7 +185,8 @@ private slots:
         QVERIFY(writeBytes(fileName, withItems("<ClCompile Include=\"a.cpp\"/>")));
         const auto project = readVisualStudioProject(fileName);
         QVERIFY(project);
-        QCOMPARE(project->sourceFiles, QStringList{u"a.cpp"_s});
+        QCOMPARE(namesOf(*project), QStringList{u"a.cpp"_s});
+        QCOMPARE(project->sources.first().path, QDir::cleanPath(QDir(folder.path()).filePath(u"a.cpp"_s)));
         QVERIFY(writeBytes(fileName, "<Project>"));
         QVERIFY(!readVisualStudioProject(fileName));
     }
@@ -175,29 +199,59 @@ private slots:
         QVERIFY(!project.error().isEmpty());
     }
 
+    void filesThatEditorsKeepNextToAProjectAreNoProjects_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("its folders") << u"/p/client.vcxproj.filters"_s;
+        QTest::newRow("a user's settings") << u"/p/client.vcxproj.USER"_s;
+    }
+
+    void filesThatEditorsKeepNextToAProjectAreNoProjects()
+    {
+        QFETCH(const QString, name);
+        ListedFolders folders;
+        folders.add(name, withItems("<ClCompile Include=\"a.cpp\"/>"));
+        QVERIFY(!readVisualStudioProject(name, folders));
+    }
+
     void sourceFilesAreRelativeToTheProject_data()
     {
-        QTest::addColumn<QString>("sourceFile");
+        QTest::addColumn<QByteArray>("sourceFile");
         QTest::addColumn<QString>("path");
-        QTest::newRow("next to it") << u"a.cpp"_s << u"p/q/a.cpp"_s;
-        QTest::newRow("below") << u"r\\s\\a.cpp"_s << u"p/q/r/s/a.cpp"_s;
-        QTest::newRow("above") << u"..\\..\\a b.cpp"_s << u"a b.cpp"_s;
-        QTest::newRow("slashes") << u"../a.cpp"_s << u"p/a.cpp"_s;
+        QTest::newRow("next to it") << QByteArray("a.cpp") << u"/p/q/a.cpp"_s;
+        QTest::newRow("below") << QByteArray("r\\s\\a.cpp") << u"/p/q/r/s/a.cpp"_s;
+        QTest::newRow("above") << QByteArray("..\\..\\a b.cpp") << u"/a b.cpp"_s;
+        QTest::newRow("slashes") << QByteArray("../a.cpp") << u"/p/a.cpp"_s;
+        QTest::newRow("escaped characters") << QByteArray("a%20%28b%29%3b.cpp") << u"/p/q/a (b);.cpp"_s;
+        QTest::newRow("a percent sign") << QByteArray("100%.cpp") << u"/p/q/100%.cpp"_s;
     }
 
     void sourceFilesAreRelativeToTheProject()
     {
-        QFETCH(const QString, sourceFile);
-        QFETCH(const QString, path);
-        QCOMPARE(sourceFilePath(QDir::current().filePath(u"p/q/x.vcxproj"_s), sourceFile),
-                 QDir::current().filePath(path));
-        QCOMPARE(sourceFilePath(u"p/q/x.vcxproj"_s, sourceFile), QDir::current().filePath(path));
+        QFETCH(const QByteArray, sourceFile);
+        ListedFolders folders;
+        folders.add(u"/p/q/x.vcxproj"_s, withItems("<ClCompile Include=\"" + sourceFile + "\"/>"));
+        const auto project = readVisualStudioProject(u"/p/q/x.vcxproj"_s, folders);
+        QVERIFY(project);
+        QTEST(project->sources.value(0).path, "path");
     }
 
-    void deviceThatBreaksFails()
+    void millionItemsTakeTimeInProportion()
     {
-        BrokenDevice device("<Project><PropertyGroup/>");
-        QVERIFY(!Scan::readVisualStudioProject(device));
+        const auto timeOf = [](int count) {
+            QByteArray items;
+            for (int item = 0; item < count; ++item)
+                items += "<ClCompile Include=\"s\\f" + QByteArray::number(item) + ".cpp\"/>";
+            const QByteArray xml = withItems(items);
+            const auto before = processorTime();
+            const auto project = read(xml);
+            return project && project->sources.size() == count ? processorTime() - before
+                                                               : std::chrono::milliseconds(-1);
+        };
+        const auto part = timeOf(100'000);
+        const auto all = timeOf(1'000'000);
+        QVERIFY(part.count() > 0);
+        QVERIFY2(all < 20 * part, qPrintable(u"%1 ms, then %2 ms"_s.arg(part.count()).arg(all.count())));
     }
 };
 

@@ -130,14 +130,14 @@ private slots:
         QString text;
         QTextStream stream(&text);
         ProgressLog log(stream, ProgressLog::Progress::Hidden);
-        QVERIFY(synchronizeMessageTable(table, project, log).outcome);
+        QVERIFY(synchronizeMessageTable(table, project, log, stream).outcome);
 
         const QDateTime longAgo = QDateTime::fromSecsSinceEpoch(1'000'000'000);
         QFile file(table);
         QVERIFY(file.open(QIODevice::ReadWrite));
         QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
         file.close();
-        QVERIFY(synchronizeMessageTable(table, project, log).outcome);
+        QVERIFY(synchronizeMessageTable(table, project, log, stream).outcome);
         QCOMPARE(QFileInfo(table).lastModified(), longAgo);
     }
 };
