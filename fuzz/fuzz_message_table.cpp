@@ -1,4 +1,5 @@
-// Reads bytes as a message table. The result must be writable, and read back unchanged.
+// Reads bytes as a message table. The result must be writable, and read back unchanged. Qt's reader alone
+// must read the same from the same bytes.
 
 #include "clt_message_table.h"
 #include "clt_message_table_xml.h"
@@ -11,14 +12,15 @@
 
 namespace {
 
-Clt::MessageTable tableOf(const QByteArray &bytes, bool &wellFormed)
+using Read = Clt::TableReading (*)(QIODevice &, Clt::MessageTable &);
+
+Clt::TableReading readTable(const QByteArray &bytes, Clt::MessageTable &table,
+                            Read read = Clt::readMessageTable)
 {
     QBuffer device;
     device.setData(bytes);
-    device.open(QIODevice::ReadOnly);
-    Clt::MessageTable table;
-    wellFormed = bool(Clt::readMessageTable(device, table));
-    return table;
+    device.open(QIODevice::ReadOnly | QIODevice::Text);
+    return read(device, table);
 }
 
 void require(bool condition)
@@ -41,12 +43,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
 {
     // Ignores failed assertions, because any table may contain unknown severities and states.
     const Nvx::Util::AssertionListener listener([](const Nvx::Util::AssertionFailure &) {});
-    bool wellFormed = false;
-    const Clt::MessageTable table =
-        tableOf(QByteArray(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size)), wellFormed);
+    const QByteArray input(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
+    Clt::MessageTable table;
+    const Clt::TableReading reading = readTable(input, table);
     const QByteArray file = written(table);
-    const Clt::MessageTable again = tableOf(file, wellFormed);
-    require(wellFormed && again.size() == table.size());
+
+    Clt::MessageTable readWithQt;
+    const Clt::TableReading readingWithQt = readTable(input, readWithQt, Clt::readMessageTableWithQt);
+    require(written(readWithQt) == file);
+    require(reading.succeeded == readingWithQt.succeeded && reading.errorLine == readingWithQt.errorLine);
+    require(reading.leftovers.logLines({}) == readingWithQt.leftovers.logLines({}));
+
+    Clt::MessageTable again;
+    const Clt::TableReading readingAgain = readTable(file, again);
+    require(readingAgain && readingAgain.leftovers.isEmpty() && again.size() == table.size());
     require(written(again) == file);
     return 0;
 }

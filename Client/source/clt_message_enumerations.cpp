@@ -59,6 +59,12 @@ QString nameOf(const Table &table, Value value)
     return u"Unknown"_s;
 }
 
+template<typename Table>
+bool isNameIn(const Table &table, QStringView name)
+{
+    return std::ranges::any_of(table, [name](const auto &entry) { return entry.name == name; });
+}
+
 template<typename Table, typename Value>
 Value valueOf(const Table &table, QStringView name, Value fallback)
 {
@@ -93,6 +99,11 @@ Severity textToSeverity(QStringView text)
     return valueOf(severities, text, Severity::Information);
 }
 
+bool isSeverity(QStringView text)
+{
+    return isNameIn(severities, text);
+}
+
 QString stateToText(MessageState state)
 {
     return nameOf(states, state);
@@ -101,6 +112,11 @@ QString stateToText(MessageState state)
 MessageState textToState(QStringView text)
 {
     return valueOf(states, text, MessageState::InSync);
+}
+
+bool isState(QStringView text)
+{
+    return isNameIn(states, text);
 }
 
 QString answerToText(Answer answer)

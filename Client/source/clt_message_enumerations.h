@@ -40,13 +40,16 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(Answers)
 
 // The texts are the enumerators' names; comparisons are case-sensitive. A value that is not in its
 // enumeration raises an assertion failure of the unit "clt_message", and its text is "Unknown". A text that
-// is not the name of a value also raises one, and its value is Information, InSync or NoAnswer.
+// is not the name of a value also raises one, and its value is Information, InSync or NoAnswer. isSeverity()
+// and isState() return whether a text is the name of a value.
 
 QString severityToText(Severity severity);
 Severity textToSeverity(QStringView text);
+bool isSeverity(QStringView text);
 
 QString stateToText(MessageState state);
 MessageState textToState(QStringView text);
+bool isState(QStringView text);
 
 QString answerToText(Answer answer);
 Answer textToAnswer(QStringView text);

@@ -1,12 +1,13 @@
 #include "clt_message_table.h"
 
 #include "clt_message_table_xml.h"
-#include "nvx_util/whole_file.h"
 
 #include <QBuffer>
 #include <QFile>
 
 #include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace Clt {
 
@@ -25,7 +26,8 @@ MessageKey sharingTexts(MessageKey key, const MessageKey &neighbour)
 } // namespace
 
 MessageTable::MessageTable(const MessageTable &other)
-    : MessageTable()
+    : m_file(other.m_file)
+    , m_errorString(other.m_errorString)
 {
     m_storage->messages = other.m_storage->messages;
 }
@@ -52,19 +54,31 @@ Message MessageTable::message(const MessageKey &key) const
     return found == end() ? Message() : found->second;
 }
 
-void MessageTable::insert(const Message &message)
+std::pair<MessageTable::Messages::const_iterator, bool> MessageTable::insert(const Message &message)
 {
-    insert(Message(message));
+    return insert(Message(message));
 }
 
 // The hint is the end, because tables are mostly filled in their own order.
-void MessageTable::insert(Message &&message)
+std::pair<MessageTable::Messages::const_iterator, bool> MessageTable::insert(Message &&message)
 {
     Messages &messages = m_storage->messages;
     if (!messages.empty())
         message.setKey(sharingTexts(message.key(), messages.rbegin()->first));
     const MessageKey key = message.key();
-    messages.insert_or_assign(messages.end(), key, std::move(message));
+    const std::size_t sizeBefore = messages.size();
+    const auto inserted = messages.insert_or_assign(messages.end(), key, std::move(message));
+    return {inserted, messages.size() > sizeBefore};
+}
+
+void MessageTable::merge(MessageTable &&other)
+{
+    if (isEmpty()) {
+        m_storage = std::move(other.m_storage);
+        return;
+    }
+    for (auto &[key, message] : other.m_storage->messages)
+        insert(std::move(message));
 }
 
 bool MessageTable::setPlace(const MessageKey &key, const QString &file, qint32 line)
@@ -85,14 +99,22 @@ bool MessageTable::remove(const MessageKey &key)
 bool MessageTable::load(const QString &fileName)
 {
     QFile file(fileName);
-    return file.open(QIODevice::ReadOnly | QIODevice::Text) && readMessageTable(file, *this);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        m_errorString = file.errorString();
+        return false;
+    }
+    const TableReading reading = readMessageTable(file, *this);
+    m_errorString.clear();
+    if (!reading)
+        m_errorString = u"%1 at line %2"_s.arg(reading.error, QString::number(reading.errorLine));
+    return bool(reading);
 }
 
-bool MessageTable::save(const QString &fileName) const
+bool MessageTable::save(const QString &fileName)
 {
     QBuffer contents;
     return contents.open(QIODevice::WriteOnly | QIODevice::Text) && writeMessageTable(contents, *this) &&
-           Nvx::Util::replaceWholeFile(fileName, contents.data());
+           m_file.replace(fileName, contents.data());
 }
 
 } // namespace Clt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clt_leftovers.h"
 #include "clt_message.h"
 
 #include <QSet>
@@ -9,6 +10,7 @@
 #include <map>
 #include <memory>
 #include <memory_resource>
+#include <utility>
 
 namespace Clt {
 
@@ -43,9 +45,13 @@ public:
     /// message with its initial values if there is none under either.
     Message message(const MessageKey &key) const;
 
-    /// Stores the message under its key, and replaces an existing one.
-    void insert(const Message &message);
-    void insert(Message &&message);
+    /// Stores the message under its key, and replaces an existing one. Returns where it is, and whether it is
+    /// new.
+    std::pair<Messages::const_iterator, bool> insert(const Message &message);
+    std::pair<Messages::const_iterator, bool> insert(Message &&message);
+
+    /// Stores all messages of another table.
+    void merge(MessageTable &&other);
 
     /// Sets the source file and line of the message under exactly that key. Returns false if there is none.
     bool setPlace(const MessageKey &key, const QString &file, qint32 line);
@@ -57,10 +63,24 @@ public:
     /// the file cannot be opened, or is not well-formed XML; the messages before the error are merged.
     bool load(const QString &fileName);
 
+    /// The error of the last load: the system's text if the file could not be opened, otherwise "ERROR at
+    /// line LINE". Empty after a successful load.
+    const QString &errorString() const { return m_errorString; }
+
+    /// What was left over from the file that the table was read from; nothing after it was replaced.
+    const Leftovers &leftovers() const { return m_file.leftovers(); }
+
+    /// The file that the messages were read from, and what was left over from it, for save().
+    void setFile(const QString &fileName, const Leftovers &leftovers) { m_file.set(fileName, leftovers); }
+
     /// Replaces the file with one of this table, whole or not at all. A file that already has these bytes is
-    /// left alone. Returns false, and leaves the old file unchanged, if the file cannot be written or a text
-    /// has a character that XML cannot represent.
-    bool save(const QString &fileName) const;
+    /// left alone. A file that was read with something left over is first copied (Clt::backUpFile). Returns
+    /// false, and leaves the old file unchanged, if the file or its copy cannot be written or a text has a
+    /// character that XML cannot represent.
+    bool save(const QString &fileName);
+
+    /// The copy that the last save made; empty if it made none.
+    const QString &backupFile() const { return m_file.copy(); }
 
 private:
     // A pool places the messages next to each other: otherwise a walk over a large table waits for memory at
@@ -72,6 +92,8 @@ private:
     };
 
     std::unique_ptr<Storage> m_storage = std::make_unique<Storage>();
+    FileLeftovers m_file;
+    QString m_errorString;
 };
 
 } // namespace Clt

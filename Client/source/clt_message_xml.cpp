@@ -1,10 +1,16 @@
 #include "clt_message_xml.h"
 
+#include "clt_leftovers.h"
+#include "clt_xml_source.h"
 #include "clt_xml_text.h"
 #include "nvx_util/assertion.h"
 
-#include <QXmlStreamReader>
 #include <QXmlStreamWriter>
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,34 +20,6 @@ namespace {
 
 constexpr const char *unit = "clt_message";
 
-void readMessageChild(QXmlStreamReader &xml, Message &message)
-{
-    const QStringView name = xml.name();
-    if (name == u"key")
-        message.setKey(readMessageKey(xml));
-    else if (name == u"title")
-        message.setTitle(xml.readElementText());
-    else if (name == u"text")
-        message.setText(xml.readElementText());
-    else if (name == u"action")
-        message.setAction(xml.readElementText());
-    else if (name == u"solution")
-        message.setSolution(xml.readElementText().toInt());
-    else if (name == u"state")
-        message.setState(textToState(xml.readElementText()));
-}
-
-void readKeyChild(QXmlStreamReader &xml, MessageKey &key)
-{
-    const QStringView name = xml.name();
-    if (name == u"process")
-        key.process = xml.readElementText();
-    else if (name == u"context")
-        key.context = xml.readElementText();
-    else if (name == u"tag")
-        key.tag = xml.readElementText();
-}
-
 bool hasTitle(const Message &message)
 {
     return message.severity() == Severity::Critical || message.severity() == Severity::Question;
@@ -50,6 +28,164 @@ bool hasTitle(const Message &message)
 bool hasAction(const Message &message)
 {
     return message.severity() == Severity::Critical;
+}
+
+QString valueTag(std::string_view name, const QString &value)
+{
+    const QString element = QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+    return u"<%1>%2</%1>"_s.arg(element, shortened(value));
+}
+
+/// Where each child of an element began, to report those that another one of the same name replaces.
+class Children
+{
+public:
+    explicit Children(Leftovers &leftovers)
+        : m_leftovers(leftovers)
+    {
+    }
+
+    /// The source is at the start of a child of that number, from 0.
+    void begin(const XmlSource &xml, std::size_t number)
+    {
+        if (const qint64 first = std::exchange(m_places[number], xml.place() + 1); first != 0)
+            m_leftovers.add({xml.lineOf(first - 1), startTag(xml), xml.line()});
+    }
+
+private:
+    static constexpr std::size_t maximum = 6;
+
+    Leftovers &m_leftovers;
+    std::array<qint64, maximum> m_places{}; // plus one; 0 for none
+};
+
+class MessageReader
+{
+public:
+    MessageReader(XmlSource &xml, Leftovers &leftovers)
+        : m_xml(xml)
+        , m_leftovers(leftovers)
+        , m_children(leftovers)
+    {
+    }
+
+    std::optional<Message> read();
+
+private:
+    void readSeverity();
+    void readChild();
+    QString readText(std::size_t child);
+    void readSolution();
+    void readState();
+    void leaveUnwritten();
+
+    XmlSource &m_xml;
+    Leftovers &m_leftovers;
+    Children m_children;
+    Message m_message;
+    qint64 m_titlePlace = 0;
+    qint64 m_actionPlace = 0;
+};
+
+std::optional<Message> MessageReader::read()
+{
+    readSeverity();
+    for (;;) {
+        switch (m_xml.next()) {
+        case XmlSource::Token::EndElement:
+            leaveUnwritten();
+            return std::move(m_message);
+        case XmlSource::Token::StartElement:
+            readChild();
+            break;
+        case XmlSource::Token::End:
+            return std::nullopt;
+        default:
+            leaveText(m_xml, m_leftovers);
+            break;
+        }
+    }
+}
+
+void MessageReader::readSeverity()
+{
+    const QString severity = m_xml.attribute("severity");
+    if (!isSeverity(severity)) {
+        if (m_xml.declines())
+            return;
+        leaveAttribute(m_xml, m_leftovers, {"severity", severity});
+    }
+    m_message.setSeverity(textToSeverity(severity));
+    for (const XmlSource::Attribute &attribute : m_xml.attributes()) {
+        if (attribute.name != "severity")
+            leaveAttribute(m_xml, m_leftovers, attribute);
+    }
+}
+
+void MessageReader::readChild()
+{
+    const std::string_view name = m_xml.name();
+    if (name == "key") {
+        m_children.begin(m_xml, 0);
+        m_message.setKey(readMessageKey(m_xml, m_leftovers));
+    } else if (name == "title") {
+        m_titlePlace = m_xml.place();
+        m_message.setTitle(readText(1));
+    } else if (name == "text") {
+        m_message.setText(readText(2));
+    } else if (name == "action") {
+        m_actionPlace = m_xml.place();
+        m_message.setAction(readText(3));
+    } else if (name == "solution") {
+        readSolution();
+    } else if (name == "state") {
+        readState();
+    } else {
+        leave(m_xml, m_leftovers, startTag(m_xml));
+    }
+}
+
+QString MessageReader::readText(std::size_t child)
+{
+    m_children.begin(m_xml, child);
+    leaveAttributes(m_xml, m_leftovers);
+    return readElementText(m_xml, m_leftovers);
+}
+
+void MessageReader::readSolution()
+{
+    const QString text = readText(4);
+    bool isNumber = false;
+    m_message.setSolution(text.toInt(&isNumber));
+    if (!isNumber)
+        leave(m_xml, m_leftovers, valueTag("solution", text));
+}
+
+void MessageReader::readState()
+{
+    const QString text = readText(5);
+    if (!isState(text)) {
+        if (m_xml.declines())
+            return;
+        leave(m_xml, m_leftovers, valueTag("state", text));
+    }
+    m_message.setState(textToState(text));
+}
+
+void MessageReader::leaveUnwritten()
+{
+    if (!hasTitle(m_message) && !m_message.sourceTitle().isEmpty())
+        m_leftovers.add({.line = m_xml.lineOf(m_titlePlace), .what = u"<title>"_s});
+    if (!hasAction(m_message) && !m_message.sourceAction().isEmpty())
+        m_leftovers.add({.line = m_xml.lineOf(m_actionPlace), .what = u"<action>"_s});
+}
+
+/// The text of the element that starts, a child of that number of a key.
+QString readKeyText(XmlSource &xml, Leftovers &leftovers, Children &children, std::size_t child)
+{
+    children.begin(xml, child);
+    leaveAttributes(xml, leftovers);
+    return readElementText(xml, leftovers);
 }
 
 void writeMessageKey(QXmlStreamWriter &xml, const MessageKey &key)
@@ -63,41 +199,38 @@ void writeMessageKey(QXmlStreamWriter &xml, const MessageKey &key)
 
 } // namespace
 
-std::optional<Message> readMessage(QXmlStreamReader &xml)
+std::optional<Message> readMessage(XmlSource &xml, Leftovers &leftovers)
 {
-    NVX_ASSERT(xml.isStartElement() && xml.name() == u"message", unit);
-    Message message;
-    message.setSeverity(textToSeverity(xml.attributes().value("severity"_L1)));
-    while (canRead(xml)) {
-        switch (xml.readNext()) {
-        case QXmlStreamReader::EndElement:
-            return message;
-        case QXmlStreamReader::StartElement:
-            readMessageChild(xml, message);
-            break;
-        default:
-            break;
-        }
-    }
-    return std::nullopt;
+    NVX_ASSERT(xml.isStartElement() && xml.name() == "message", unit);
+    return MessageReader(xml, leftovers).read();
 }
 
-MessageKey readMessageKey(QXmlStreamReader &xml)
+MessageKey readMessageKey(XmlSource &xml, Leftovers &leftovers)
 {
-    NVX_ASSERT(xml.isStartElement() && xml.name() == u"key", unit);
+    NVX_ASSERT(xml.isStartElement() && xml.name() == "key", unit);
+    leaveAttributes(xml, leftovers);
     MessageKey key;
-    while (canRead(xml)) {
-        switch (xml.readNext()) {
-        case QXmlStreamReader::EndElement:
-            return key;
-        case QXmlStreamReader::StartElement:
-            readKeyChild(xml, key);
+    Children children(leftovers);
+    for (;;) {
+        switch (xml.next()) {
+        case XmlSource::Token::StartElement:
+            if (xml.name() == "process")
+                key.process = readKeyText(xml, leftovers, children, 0);
+            else if (xml.name() == "context")
+                key.context = readKeyText(xml, leftovers, children, 1);
+            else if (xml.name() == "tag")
+                key.tag = readKeyText(xml, leftovers, children, 2);
+            else
+                leave(xml, leftovers, startTag(xml));
             break;
+        case XmlSource::Token::EndElement:
+        case XmlSource::Token::End:
+            return key;
         default:
+            leaveText(xml, leftovers);
             break;
         }
     }
-    return key;
 }
 
 void writeMessage(QXmlStreamWriter &xml, const Message &message)

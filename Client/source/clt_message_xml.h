@@ -4,10 +4,12 @@
 
 #include <optional>
 
-class QXmlStreamReader;
 class QXmlStreamWriter;
 
 namespace Clt {
+
+class Leftovers;
+class XmlSource;
 
 // The "message" element of a message table:
 //
@@ -28,13 +30,16 @@ namespace Clt {
 // "state" unless the message is in sync, and "solution" unless it is 0. When reading, the children may be in
 // any order, but texts before the key are translated without its context. The end tag of any other child ends
 // the message.
+//
+// What is read but not stored is added to the leftovers: unknown elements, attributes and values, the first
+// of two children of one name, comments, and a title or action that would not be written.
 
-/// Reads the message at whose start element the reader is, to its end; nullopt if the document ends or is
+/// Reads the message at whose start element the source is, to its end; nullopt if the document ends or is
 /// malformed before that.
-std::optional<Message> readMessage(QXmlStreamReader &xml);
+std::optional<Message> readMessage(XmlSource &xml, Leftovers &leftovers);
 
-/// Reads the key at whose start element the reader is, to its end or that of the document.
-MessageKey readMessageKey(QXmlStreamReader &xml);
+/// Reads the key at whose start element the source is, to its end or that of the document.
+MessageKey readMessageKey(XmlSource &xml, Leftovers &leftovers);
 
 /// Writes the message's element. A character that XML cannot represent puts the writer into its error state.
 void writeMessage(QXmlStreamWriter &xml, const Message &message);

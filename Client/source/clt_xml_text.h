@@ -16,6 +16,12 @@ bool canRead(const QXmlStreamReader &xml);
 /// tab, line feed and carriage return, no half of a surrogate pair, not U+FFFE or U+FFFF.
 bool isXmlText(QStringView text);
 
+/// True for the white space of XML.
+inline bool isXmlSpace(QChar character)
+{
+    return character == u' ' || character == u'\n' || character == u'\t' || character == u'\r';
+}
+
 /// Writes the text, with its carriage returns as character references, because a reader treats others as line
 /// feeds. A character that XML cannot represent puts the writer into its error state.
 void writeXmlCharacters(QXmlStreamWriter &xml, const QString &text);

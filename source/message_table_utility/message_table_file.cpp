@@ -4,7 +4,6 @@
 #include "window/progress.h"
 
 #include <QCoreApplication>
-#include <QXmlStreamReader>
 
 using Nvx::Util::Failure;
 using Nvx::Util::Result;
@@ -20,11 +19,10 @@ struct Texts
 
 Result<Clt::MessageTable> readTable(QIODevice &device)
 {
-    QXmlStreamReader xml(&device);
     Clt::MessageTable table;
-    const Nvx::Util::Outcome read = Clt::readMessageTable(xml, table);
-    if (!read)
-        return Failure{Texts::tr("Line %1: %2").arg(QString::number(xml.lineNumber()), read.error())};
+    const Clt::TableReading reading = Clt::readMessageTable(device, table);
+    if (!reading)
+        return Failure{Texts::tr("Line %1: %2").arg(QString::number(reading.errorLine), reading.error)};
     return table;
 }
 

@@ -88,7 +88,7 @@ Result<Input> readInput(const QString &messageTableFile, const QString &projectF
     return input;
 }
 
-Outcome saveTable(const Clt::MessageTable &table, const QString &messageTableFile, ProgressLog &log)
+Outcome saveTable(Clt::MessageTable &table, const QString &messageTableFile, ProgressLog &log)
 {
     log.writeLine(u"Saving message table \"%1\"..."_s.arg(messageTableFile));
     if (!table.save(messageTableFile))

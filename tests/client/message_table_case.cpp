@@ -38,7 +38,8 @@ QStringList loadInto(Clt::MessageTable &table, const QString &fileName)
 {
     const RecordedAssertions failed;
     const bool loaded = table.load(fileName);
-    QStringList lines{loaded ? u"loaded"_s : u"not loaded"_s};
+    QStringList lines{loaded ? u"loaded"_s : u"not loaded: "_s + table.errorString()};
+    lines += table.leftovers().texts(20);
     for (const QString &assertion : failed.list())
         lines += u"assertion: "_s + assertion;
     return lines;

@@ -1,6 +1,7 @@
 #include "clt_message_table.h"
 #include "clt_message_table_xml.h"
 #include "clt_message_xml.h"
+#include "clt_xml_source.h"
 #include "support/broken_device.h"
 #include "support/file_bytes.h"
 #include "support/recorded_assertions.h"
@@ -303,9 +304,11 @@ private slots:
         QXmlStreamReader xml;
         readToRoot(xml, u"<note severity=\"Warning\"/>"_s);
         const RecordedAssertions failed;
-        QVERIFY(Clt::readMessage(xml));
+        Clt::QtXmlSource source(xml);
+        Clt::Leftovers leftovers;
+        QVERIFY(Clt::readMessage(source, leftovers));
         QCOMPARE(failed.list(),
-                 QStringList(u"xml.isStartElement() && xml.name() == u\"message\" in clt_message"_s));
+                 QStringList(u"xml.isStartElement() && xml.name() == \"message\" in clt_message"_s));
     }
 
     void keyReaderAssertsItsElement()
@@ -313,9 +316,11 @@ private slots:
         QXmlStreamReader xml;
         readToRoot(xml, u"<note><tag>T</tag></note>"_s);
         const RecordedAssertions failed;
-        QCOMPARE(Clt::readMessageKey(xml).tag, u"T"_s);
+        Clt::QtXmlSource source(xml);
+        Clt::Leftovers leftovers;
+        QCOMPARE(Clt::readMessageKey(source, leftovers).tag, u"T"_s);
         QCOMPARE(failed.list(),
-                 QStringList(u"xml.isStartElement() && xml.name() == u\"key\" in clt_message"_s));
+                 QStringList(u"xml.isStartElement() && xml.name() == \"key\" in clt_message"_s));
     }
 
     void tableBodyReaderAssertsItsElement()
@@ -324,11 +329,13 @@ private slots:
         readToRoot(xml, u"<note><message severity=\"Status\"/></note>"_s);
         MessageTable table;
         const RecordedAssertions failed;
-        Clt::readMessageTableBody(xml, table);
+        Clt::QtXmlSource source(xml);
+        Clt::Leftovers leftovers;
+        Clt::readMessageTableBody(source, table, leftovers);
         QCOMPARE(table.size(), std::size_t(1));
-        QCOMPARE(
-            failed.list(),
-            QStringList(u"xml.isStartElement() && xml.name() == u\"messageTable\" in clt_message_table"_s));
+        QCOMPARE(failed.list(),
+                 QStringList(
+                     u"m_xml.isStartElement() && m_xml.name() == \"messageTable\" in clt_message_table"_s));
     }
 
     void readingFromADeviceThatBreaksFails_data()
