@@ -1,4 +1,4 @@
-"""The files and commands of docs/developers-guide.md, run in order, have the results on the page.
+"""The files and commands of the pages below, run in order, have the results on the page.
 
 The tools are on the PATH, which ctest sets.
 """
@@ -9,6 +9,9 @@ import unittest
 from pathlib import Path
 
 from documents import blocks_of, text_of
+
+GUIDE = "docs/developers-guide.md"
+CHECK = "docs/message-table-check.md"
 
 
 def commands_of(text):
@@ -59,18 +62,28 @@ class DevelopersGuide(unittest.TestCase):
         else:
             self.fail(f"unknown kind of block: '{block.what}'")
 
-    def test_every_block_on_the_page_is_right(self):
-        blocks = blocks_of(text_of("docs/developers-guide.md"))
+    def follow_page(self, page):
+        """Follows all blocks of the page, and returns their kinds."""
+        blocks = blocks_of(text_of(page))
         for block in blocks:
             self.follow(block)
-        kinds = [block.what for block in blocks]
+        return [block.what for block in blocks]
+
+    def test_every_block_of_the_guide_is_right(self):
+        kinds = self.follow_page(GUIDE)
         self.assertGreaterEqual(kinds.count("run"), 8)
         self.assertEqual(kinds.count("source"), 1)
         self.assertGreaterEqual(kinds.count("part of"), 2)
 
+    def test_every_block_on_the_page_of_the_check_is_right(self):
+        kinds = self.follow_page(CHECK)
+        self.assertGreaterEqual(kinds.count("run"), 6)
+        self.assertEqual(kinds.count("file"), 2)
+
     def test_every_block_is_tried(self):
-        document = text_of("docs/developers-guide.md")
-        self.assertEqual(2 * len(blocks_of(document)), document.count("```"))
+        for page in (GUIDE, CHECK):
+            document = text_of(page)
+            self.assertEqual(2 * len(blocks_of(document)), document.count("```"))
 
 
 class DevelopersGuideChecks(unittest.TestCase):

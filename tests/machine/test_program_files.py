@@ -7,7 +7,7 @@ from machine_case import BUILD
 from program_file import CONSOLE, GROUP_ICON, ICON, MANIFEST, WINDOWED, ProgramFile
 
 # Programs without a window.
-CONSOLE_PROGRAMS = {"UpdateErrorTable.exe"}
+CONSOLE_PROGRAMS = {"MessageTableCheck.exe", "UpdateErrorTable.exe"}
 ADMINISTRATORS_PROGRAMS = {"NVXConfig.exe"}
 ICON_SIZES = [16, 20, 24, 32, 40, 48, 64, 128, 256]
 

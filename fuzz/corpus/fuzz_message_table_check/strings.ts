@@ -1,0 +1,1 @@
+<TS><context><name>A</name><message numerus="yes"><source>%n &amp;a<byte value="x1b"/></source><translation type="unfinished"><numerusform>x</numerusform></translation><comment>c</comment></message></context></TS>

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "clt_message.h"
+#include "message_checks/rule.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace Checks {
+
+/// One thing that is wrong with a message or a translation. The text is for the user, in the language of the
+/// program.
+struct Remark
+{
+    Rule rule;
+    QString text;
+};
+
+using Remarks = std::vector<Remark>;
+
+// The fields that a message table stores for a severity. It stores the text for all of them.
+bool hasTitle(Clt::Severity severity);
+bool hasAction(Clt::Severity severity);
+
+/// What is wrong with the context and the source texts of a message, field after field. Its state is not
+/// considered.
+Remarks remarksOn(const Clt::Message &message);
+
+/// What is wrong with a translation, or with one of its plural forms, compared with its source: different
+/// places, accelerators, or blanks at the ends.
+Remarks remarksOnTranslation(const QString &source, const QString &translation);
+
+} // namespace Checks

@@ -1,0 +1,117 @@
+#include "message_table_check/arguments.h"
+#include "support/test_class.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+using Checks::Rule;
+using Nvx::Util::Result;
+using TableCheck::Arguments;
+
+namespace {
+
+Result<Arguments> read(const QString &words)
+{
+    return TableCheck::readArguments(u"MessageTableCheck "_s.append(words).split(u' ', Qt::SkipEmptyParts));
+}
+
+} // namespace
+
+class tst_check_arguments : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void filesAloneAreCheckedForEverything()
+    {
+        const Result<Arguments> arguments = read(u"errors.xml client_de.ts"_s);
+        QVERIFY(arguments);
+        QCOMPARE(arguments->task, Arguments::Task::Check);
+        QCOMPARE(arguments->files, (QStringList{u"errors.xml"_s, u"client_de.ts"_s}));
+        QCOMPARE(arguments->rules.size(), Checks::allRules().size());
+        QCOMPARE(arguments->format, TableCheck::ReportFormat::Text);
+        QVERIFY(arguments->reportFile.isEmpty());
+        QVERIFY(!arguments->showsStatus);
+    }
+
+    void rulesAreChosen()
+    {
+        const Result<Arguments> only = read(u"--only new,obsolete --only place a.xml"_s);
+        QVERIFY(only);
+        QCOMPARE(only->rules, (std::set<Rule>{Rule::New, Rule::Obsolete, Rule::Place}));
+        const Result<Arguments> without = read(u"--without unfinished a.xml"_s);
+        QVERIFY(without);
+        QCOMPARE(without->rules.size(), Checks::allRules().size() - 1);
+        QVERIFY(!without->rules.contains(Rule::Unfinished));
+        const Result<Arguments> both = read(u"--only new,obsolete --without new a.xml"_s);
+        QVERIFY(both);
+        QCOMPARE(both->rules, std::set<Rule>{Rule::Obsolete});
+    }
+
+    void allowancesAreRead()
+    {
+        const Result<Arguments> arguments = read(u"--allow unfinished=10% --allow new=3 a.xml"_s);
+        QVERIFY(arguments);
+        QCOMPARE(arguments->allowances.size(), std::size_t(2));
+        QCOMPARE(arguments->allowances.at(Rule::Unfinished).number, 10);
+        QVERIFY(arguments->allowances.at(Rule::Unfinished).isPercentage);
+        QCOMPARE(arguments->allowances.at(Rule::New).number, 3);
+        QVERIFY(!arguments->allowances.at(Rule::New).isPercentage);
+    }
+
+    void reportIsChosen()
+    {
+        const Result<Arguments> sarif = read(u"--format sarif -o out.sarif --status a.xml"_s);
+        QVERIFY(sarif);
+        QCOMPARE(sarif->format, TableCheck::ReportFormat::Sarif);
+        QCOMPARE(sarif->reportFile, u"out.sarif"_s);
+        QVERIFY(sarif->showsStatus);
+        const Result<Arguments> junit = read(u"--format junit a.xml"_s);
+        QVERIFY(junit);
+        QCOMPARE(junit->format, TableCheck::ReportFormat::JUnit);
+    }
+
+    void wrongArgumentsAreExplained_data()
+    {
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<QString>("error");
+        const auto row = [](const char *name, const QString &words, const QString &error) {
+            QTest::newRow(name) << words << error;
+        };
+        row("no file", QString(), u"No file is given."_s);
+        row("unknown option", u"--strict a.xml"_s, u"Unknown option 'strict'."_s);
+        row("unknown rule", u"--only new,old a.xml"_s, u"There is no rule 'old'."_s);
+        row("unknown rule left out", u"--without old a.xml"_s, u"There is no rule 'old'."_s);
+        row("unknown format", u"--format html a.xml"_s, u"There is no format 'html'."_s);
+        row("allowance without a limit", u"--allow new a.xml"_s, u"'new' is not RULE=LIMIT."_s);
+        row("allowance of an unknown rule", u"--allow old=1 a.xml"_s, u"There is no rule 'old'."_s);
+        row("allowance that is no number", u"--allow new=few a.xml"_s, u"'few' is not a limit."_s);
+        row("negative allowance", u"--allow new=-1 a.xml"_s, u"'-1' is not a limit."_s);
+    }
+
+    void wrongArgumentsAreExplained()
+    {
+        QFETCH(const QString, words);
+        const Result<Arguments> arguments = read(words);
+        QVERIFY(!arguments);
+        QTEST(arguments.error(), "error");
+    }
+
+    void helpNeedsNoFile()
+    {
+        const Result<Arguments> arguments = read(u"--help"_s);
+        QVERIFY(arguments);
+        QCOMPARE(arguments->task, Arguments::Task::Help);
+    }
+
+    void helpListsTheRules()
+    {
+        const QString help = TableCheck::helpText();
+        for (const Rule rule : Checks::allRules())
+            QVERIFY(help.contains(u"\n  %1 "_s.arg(Checks::ruleName(rule))));
+    }
+};
+
+NVX_GUILESS_TEST(tst_check_arguments)
+#include "tst_check_arguments.moc"
