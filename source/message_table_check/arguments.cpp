@@ -23,17 +23,19 @@ const QString allowOption = u"allow"_s;
 const QString formatOption = u"format"_s;
 const QString outputOption = u"output"_s;
 const QString statusOption = u"status"_s;
+const QString forQt6Option = u"for-qt6"_s;
+const QString fromQt6Option = u"from-qt6"_s;
 const QString helpOption = u"help"_s;
 
 /// Declares the options.
 void declareOptions(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(
-        u"Checks message tables (.xml) and translation files (.ts).\n"
+        u"Checks message tables (.xml) and translation files (.ts), or converts a translation file.\n"
         "\n"
-        "Each finding is one line, FILE:LINE: TEXT [RULE]. The exit status is 0 if there is none, 1 if "
-        "there\n"
-        "are findings, and 2 if a file cannot be used or the arguments are wrong."_s);
+        "Without --for-qt6 and --from-qt6 the files are checked. Each finding is one line, FILE:LINE: TEXT\n"
+        "[RULE]. The exit status is 0 if there is none, 1 if there are findings, and 2 if a file cannot be\n"
+        "used or the arguments are wrong."_s);
     parser.addOptions({
         {onlyOption, u"Checks only these rules, separated by commas."_s, u"rules"_s},
         {withoutOption, u"Leaves these rules out."_s, u"rules"_s},
@@ -49,9 +51,18 @@ void declareOptions(QCommandLineParser &parser)
          u"Writes the findings into this file instead of the standard output."_s,
          u"file"_s},
         {statusOption, u"Writes a line with the counts of each file to the standard error."_s},
+        {forQt6Option,
+         u"Writes the translation file IN for today's tools into OUT: without the element that the tools of "
+         "Qt 6 refuse, or, if OUT ends in .xlf or .xliff, as XLIFF 1.2."_s},
+        {fromQt6Option,
+         u"Takes the translations in IN, edited in such a form, over into the translation file OUT. Strings "
+         "that are only in OUT stay."_s},
         {{u"h"_s, helpOption}, u"Shows this text."_s},
     });
-    parser.addPositionalArgument(u"FILE"_s, u"A message table or a translation file."_s, u"FILE..."_s);
+    parser.addPositionalArgument(u"FILE"_s,
+                                 u"A message table or a translation file; with --for-qt6 and "
+                                 "--from-qt6 two files, IN and OUT."_s,
+                                 u"FILE..."_s);
 }
 
 Result<Rule> readRule(const QString &name)
@@ -123,6 +134,26 @@ Result<ReportFormat> readFormat(const QString &name)
     return Failure{u"There is no format '%1'."_s.arg(name)};
 }
 
+Outcome checkFiles(const Arguments &arguments)
+{
+    if (arguments.task == Arguments::Task::Check && arguments.files.isEmpty())
+        return Failure{u"No file is given."_s};
+    if (arguments.task != Arguments::Task::Check && arguments.files.size() != 2)
+        return Failure{u"A conversion needs two files, IN and OUT."_s};
+    return Done();
+}
+
+Result<Arguments::Task> chosenTask(const QCommandLineParser &parser)
+{
+    if (parser.isSet(forQt6Option) && parser.isSet(fromQt6Option))
+        return Failure{u"--for-qt6 and --from-qt6 exclude each other."_s};
+    if (parser.isSet(helpOption))
+        return Arguments::Task::Help;
+    if (parser.isSet(forQt6Option))
+        return Arguments::Task::ConvertForQt6;
+    return parser.isSet(fromQt6Option) ? Arguments::Task::TakeBack : Arguments::Task::Check;
+}
+
 } // namespace
 
 Result<Arguments> readArguments(const QStringList &words)
@@ -131,16 +162,19 @@ Result<Arguments> readArguments(const QStringList &words)
     declareOptions(parser);
     if (!parser.parse(words))
         return Failure{parser.errorText()};
+    const Result<Arguments::Task> task = chosenTask(parser);
+    if (!task)
+        return Failure{task.error()};
     Arguments arguments;
-    if (parser.isSet(helpOption)) {
-        arguments.task = Arguments::Task::Help;
+    arguments.task = *task;
+    if (*task == Arguments::Task::Help)
         return arguments;
-    }
     arguments.files = parser.positionalArguments();
-    if (arguments.files.isEmpty())
-        return Failure{u"No file is given."_s};
     arguments.reportFile = parser.value(outputOption);
     arguments.showsStatus = parser.isSet(statusOption);
+    const Outcome files = checkFiles(arguments);
+    if (!files)
+        return Failure{files.error()};
 
     const Result<std::set<Rule>> rules = chosenRules(parser);
     if (!rules)

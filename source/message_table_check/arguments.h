@@ -31,7 +31,9 @@ struct Arguments
     enum class Task
     {
         Help,
-        Check
+        Check,
+        ConvertForQt6, ///< the first file for today's tools, into the second
+        TakeBack       ///< the first file, edited with today's tools, into the second
     };
 
     Task task = Task::Check;

@@ -1,6 +1,7 @@
 #include "message_table_check/message_table_check.h"
 
 #include "message_table_check/arguments.h"
+#include "message_table_check/exchange.h"
 #include "message_table_check/report.h"
 #include "nvx_util/whole_file.h"
 
@@ -64,6 +65,23 @@ ExitCode check(const Arguments &arguments, QTextStream &output, QTextStream &err
     return isClean ? ExitCode::Clean : ExitCode::Findings;
 }
 
+template<typename Value>
+ExitCode ended(const Result<Value> &result, QTextStream &errors)
+{
+    if (result)
+        return ExitCode::Clean;
+    errors << result.error() << '\n';
+    return ExitCode::Unusable;
+}
+
+ExitCode takeBackFile(const Arguments &arguments, QTextStream &output, QTextStream &errors)
+{
+    const Result<TakenOver> taken = takeBack(arguments.files.at(0), arguments.files.at(1));
+    if (taken)
+        output << "Changed " << taken->changed << " and added " << taken->added << " strings\n";
+    return ended(taken, errors);
+}
+
 ExitCode run(const QStringList &words, QTextStream &output, QTextStream &errors)
 {
     const Result<Arguments> arguments = readArguments(words);
@@ -71,9 +89,16 @@ ExitCode run(const QStringList &words, QTextStream &output, QTextStream &errors)
         errors << arguments.error() << "\nMessageTableCheck --help explains the options.\n";
         return ExitCode::Unusable;
     }
-    if (arguments->task == Arguments::Task::Help) {
+    switch (arguments->task) {
+    case Arguments::Task::Help:
         output << helpText();
         return ExitCode::Clean;
+    case Arguments::Task::ConvertForQt6:
+        return ended(convertForQt6(arguments->files.at(0), arguments->files.at(1)), errors);
+    case Arguments::Task::TakeBack:
+        return takeBackFile(*arguments, output, errors);
+    case Arguments::Task::Check:
+        break;
     }
     return check(*arguments, output, errors);
 }

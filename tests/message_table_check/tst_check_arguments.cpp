@@ -80,6 +80,11 @@ private slots:
             QTest::newRow(name) << words << error;
         };
         row("no file", QString(), u"No file is given."_s);
+        row("conversion of one file", u"--for-qt6 a.ts"_s, u"A conversion needs two files, IN and OUT."_s);
+        row("conversion of three files", u"--from-qt6 a.ts b.ts c.ts"_s,
+            u"A conversion needs two files, IN and OUT."_s);
+        row("both conversions", u"--for-qt6 --from-qt6 a.ts b.ts"_s,
+            u"--for-qt6 and --from-qt6 exclude each other."_s);
         row("unknown option", u"--strict a.xml"_s, u"Unknown option 'strict'."_s);
         row("unknown rule", u"--only new,old a.xml"_s, u"There is no rule 'old'."_s);
         row("unknown rule left out", u"--without old a.xml"_s, u"There is no rule 'old'."_s);
@@ -96,6 +101,17 @@ private slots:
         const Result<Arguments> arguments = read(words);
         QVERIFY(!arguments);
         QTEST(arguments.error(), "error");
+    }
+
+    void conversionTakesTwoFiles()
+    {
+        const Result<Arguments> there = read(u"--for-qt6 client_de.ts qt6.ts"_s);
+        QVERIFY(there);
+        QCOMPARE(there->task, Arguments::Task::ConvertForQt6);
+        QCOMPARE(there->files, (QStringList{u"client_de.ts"_s, u"qt6.ts"_s}));
+        const Result<Arguments> back = read(u"--from-qt6 qt6.ts client_de.ts"_s);
+        QVERIFY(back);
+        QCOMPARE(back->task, Arguments::Task::TakeBack);
     }
 
     void helpNeedsNoFile()
