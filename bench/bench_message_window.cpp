@@ -152,7 +152,7 @@ void measure(int count, QTextStream &out)
 {
     const QTemporaryDir folder;
     const QString fileName = folder.filePath(u"table.xml"_s);
-    const Clt::MessageTable table = tableOf(count);
+    Clt::MessageTable table = tableOf(count);
     if (!table.save(fileName))
         qFatal("cannot save");
 

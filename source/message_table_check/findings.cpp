@@ -1,7 +1,9 @@
 #include "message_table_check/findings.h"
 
+#include "clt_leftovers.h"
 #include "clt_message_table.h"
 #include "clt_message_xml.h"
+#include "clt_xml_source.h"
 #include "clt_xml_text.h"
 #include "message_checks/message_remarks.h"
 #include "message_table_check/translation_strings.h"
@@ -95,14 +97,13 @@ private:
 // Finds the messages as Clt::readMessageTableBody does.
 void TableChecker::checkTable(QXmlStreamReader &xml)
 {
-    while (Clt::canRead(xml)) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
-        if (token == QXmlStreamReader::EndElement)
-            return;
-        if (token != QXmlStreamReader::StartElement || xml.name() != u"message")
+    Clt::QtXmlSource source(xml);
+    Clt::Leftovers leftovers;
+    while (source.next() != Clt::XmlSource::Token::End && source.token() != Clt::XmlSource::Token::EndElement) {
+        if (!source.isStartElement() || source.name() != "message")
             continue;
-        const qint64 line = xml.lineNumber();
-        if (const std::optional<Clt::Message> message = Clt::readMessage(xml))
+        const qint64 line = source.line();
+        if (const std::optional<Clt::Message> message = Clt::readMessage(source, leftovers))
             check(*message, line);
     }
 }
