@@ -158,6 +158,14 @@ class ExternalPrograms(ProgramCase):
         self.assertEqual(outputs, ["   5  output:access denied"] * INTERPRETER[2])
         self.assert_done("-I")
 
+    def test_the_command_interpreter_ignores_the_users_commands(self):
+        # Without /D it would first run those that the user has put into the registry.
+        with self.replaced(INTERPRETER[0], "record"):
+            self.run_with("-I")
+            recorded = self.machine.path(INTERPRETER[0] + ".arguments")
+            self.addCleanup(recorded.unlink)
+            self.assertEqual(recorded.read_text().splitlines()[:2], ["/D", "/C"])
+
     def test_a_hanging_program_is_ended_after_30_seconds(self):
         # test_faults.py has the unpacker's case. Each program hangs at its first start only.
         rows = {name: row[:2] for name, row in PROGRAMS.items() if name != "the unpacker"}

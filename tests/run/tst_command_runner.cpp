@@ -108,10 +108,11 @@ private slots:
         QVERIFY(!QFile::exists(batchFile));
         const ProgramCall &call = m_fixture->machine.calls.first();
         QCOMPARE(call.program, u"cmd.exe"_s);
-        QCOMPARE(call.arguments, QStringList({u"/C"_s, batchFile}));
+        QCOMPARE(call.arguments, QStringList({u"/D"_s, u"/C"_s, batchFile}));
         QVERIFY(call.place == ProgramCall::Place::SystemFolder);
         QVERIFY(call.quoting == ProgramCall::Quoting::CommandInterpreter);
         QCOMPARE(call.timeoutMs, 30000);
+        QCOMPARE(call.outputLimit, 65536);
         QCOMPARE(m_fixture->reporter.lines,
                  QStringList({u"0 Command:cmd.exe /C %1 "_s.arg(batchFile), u"0  output:gone\r\n"_s}));
     }

@@ -134,13 +134,15 @@ bool CommandRunner::removeDirectory(const QString &path)
         return true;
     }
 
+    // The line leaves "/D" out, which keeps the interpreter from running a command of the user's first.
     reporter.log(LogLevel::step, u"Command:cmd.exe /C %1 "_s.arg(batchFile));
     const ProgramResult result = m_context.machine.run({.program = u"cmd.exe"_s,
-                                                        .arguments = {u"/C"_s, batchFile},
+                                                        .arguments = {u"/D"_s, u"/C"_s, batchFile},
                                                         .workFolder = m_context.state.installDir,
                                                         .timeoutMs = usualTimeoutMs,
                                                         .place = ProgramCall::Place::SystemFolder,
-                                                        .quoting = ProgramCall::Quoting::CommandInterpreter});
+                                                        .quoting = ProgramCall::Quoting::CommandInterpreter,
+                                                        .outputLimit = maxRemovalOutputBytes});
     QFile::remove(batchFile);
     reporter.log(LogLevel::ofResult(exitCodeOf(result)), u" output:"_s + Util::fromOem(result.output));
     return true;

@@ -22,6 +22,9 @@ public:
     static constexpr int usualTimeoutMs = 30'000;
     static constexpr int noTimeout = -1;
 
+    /// How much of a removal's output is logged. The interpreter may write a line for each file.
+    static constexpr qsizetype maxRemovalOutputBytes = 64 * 1024;
+
     // What runCommand returns for a program without an exit code.
     static constexpr int notStarted = -2; ///< the program does not exist or must not be started
     static constexpr int timedOut = -1;   ///< the program was ended at the time-out

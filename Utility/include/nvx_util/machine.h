@@ -24,7 +24,7 @@ struct ProgramCall
     enum class Quoting
     {
         Arguments,         ///< each argument is passed unchanged
-        CommandInterpreter ///< arguments are an option and a path for the command interpreter
+        CommandInterpreter ///< arguments are options and a path for the command interpreter
     };
 
     QString program;

@@ -52,7 +52,8 @@ void setArguments(QProcess &process, const ProgramCall &call)
     }
     // The interpreter drops the outer quotes if the text between them contains "(", "&" or similar
     // characters, as "C:\Program Files (x86)" does. A second pair protects the path.
-    process.setNativeArguments(u"%1 \"\"%2\"\""_s.arg(call.arguments.first(), call.arguments.last()));
+    const QString options = call.arguments.first(call.arguments.size() - 1).join(u' ');
+    process.setNativeArguments(u"%1 \"\"%2\"\""_s.arg(options, call.arguments.last()));
 }
 
 // Qt treats every code with the highest bit set as a crash, including COM results. The code itself names the
