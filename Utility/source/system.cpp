@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QLocale>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace Nvx::Util {
@@ -85,7 +87,7 @@ void System::setLocale(const QString &code)
 QString System::getLocale()
 {
     const QString remembered = userSettings().text(localeValue).value_or(QString());
-    return remembered.isEmpty() ? supportedSystemLocale() : remembered;
+    return isLocaleName(remembered) ? remembered : supportedSystemLocale();
 }
 
 QString System::getEnv(const QString &name)
@@ -112,6 +114,12 @@ void Registry::readKelvaneTranslatorsFolder(wchar_t *buffer, std::size_t capacit
         return;
     const auto length = folder.toWCharArray(buffer);
     buffer[length] = L'\0';
+}
+
+bool isLocaleName(const QString &text)
+{
+    const auto fits = [](QChar c) { return c == u'-' || (c.unicode() < 128 && c.isLetterOrNumber()); };
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), fits);
 }
 
 QString supportedLocale(QString systemName)

@@ -117,6 +117,29 @@ private slots:
         QVERIFY(System::validLocales().contains(System::getLocale()));
     }
 
+    void aStoredLanguageIsUsedIfItIsALocalesName_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("used");
+        QTest::newRow("as the option has it") << u"de-de"_s << true;
+        QTest::newRow("a language alone") << u"de"_s << true;
+        QTest::newRow("a folder above") << u".."_s << false;
+        QTest::newRow("a path") << u"..\\..\\Users\\Public"_s << false;
+        QTest::newRow("a path with slashes") << u"../de-DE"_s << false;
+        QTest::newRow("a share") << u"\\\\host\\share"_s << false;
+        QTest::newRow("a drive") << u"D:"_s << false;
+        QTest::newRow("a letter outside ASCII") << u"dé-DE"_s << false;
+        QTest::newRow("a blank") << u" "_s << false;
+    }
+
+    void aStoredLanguageIsUsedIfItIsALocalesName()
+    {
+        QFETCH(const QString, stored);
+        QFETCH(const bool, used);
+        System::setLocale(stored);
+        QCOMPARE(System::getLocale(), used ? stored : Nvx::Util::supportedSystemLocale());
+    }
+
     void theSystemsLocaleIsUsedIfItIsSupported_data()
     {
         QTest::addColumn<QString>("systemName");

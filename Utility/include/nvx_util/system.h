@@ -48,7 +48,8 @@ public:
     /// Stores the user's interface language, a locale such as "de-DE". A failure is ignored.
     static void setLocale(const QString &code);
 
-    /// The stored interface language; if there is none, the system's if it is supported, else "en-US".
+    /// The stored interface language, which need not be a supported one; if none is stored, or something that
+    /// is no locale's name, the system's if it is supported, else "en-US".
     static QString getLocale();
 
     /// The value of a variable of the process's environment; empty if unset.
@@ -58,6 +59,10 @@ public:
     /// 64-bit programs. Empty if it is not in the registry.
     static QString getProgramFilesPathFromRegistry(bool thirtyTwoBit);
 };
+
+/// Whether a text can be the name of a locale: letters, digits and hyphens. The name becomes that of a
+/// folder, and whoever can write it in the registry must not lead a program to another place.
+bool isLocaleName(const QString &text);
 
 /// The locale for a system's name such as "de_DE": "de-DE" if it is in System::validLocales, else "en-US".
 QString supportedLocale(QString systemName);
