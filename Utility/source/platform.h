@@ -4,6 +4,7 @@
 
 #include "nvx_util/machine.h"
 #include "nvx_util/processor_counts.h"
+#include "nvx_util/trusted_files.h"
 
 #include <QString>
 
@@ -102,5 +103,28 @@ bool renameOver(const QString &from, const QString &to);
 /// exist or another process has reserved it. Never null on a system that does not remove open files: no lock
 /// is needed there.
 std::shared_ptr<void> claimFile(const QString &path);
+
+/// What the system reports about a folder or a link.
+struct FolderLook
+{
+    WayPoint point;
+    QString
+        finalPath; ///< where it is after all links have been followed; empty if the system does not report it
+    std::shared_ptr<void> hold;
+};
+
+enum class Hold
+{
+    Yes, ///< the folder cannot be renamed, removed or replaced while FolderLook::hold exists
+    No
+};
+
+/// Looks at a folder or a link by its native path. A folder that is not in the final path of its parent,
+/// unless that is empty, counts as a link. std::nullopt if it does not exist.
+std::optional<FolderLook> lookAtFolder(const QString &path, const QString &finalPathOfParent, Hold hold);
+
+/// Creates a file that only administrators may change; see ScriptFile. Null if it exists or not all bytes can
+/// be written; nothing is left of it then.
+std::shared_ptr<void> createScriptFile(const QString &path, const QByteArray &contents);
 
 } // namespace Nvx::Util::Platform

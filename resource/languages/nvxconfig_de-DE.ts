@@ -99,6 +99,10 @@
         <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>%1 konnte nicht erstellt werden, dieser Ordner wird nicht entfernt: %2</translation>
     </message>
+    <message>
+        <source>The name of this folder contains a character that ends or changes a command; it is not removed: %1</source>
+        <translation>Der Name dieses Ordners enthält ein Zeichen, das einen Befehl beendet oder verändert, der Ordner wird nicht entfernt: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConclusionPage</name>
@@ -345,6 +349,13 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     <message>
         <source>Velmora %1 Installation</source>
         <translation>Installation von Velmora %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFiles</name>
+    <message>
+        <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
+        <translation>%1 gehört keinem Administrator und kann an einen anderen Ort führen, dies bleibt unverändert: %2</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@
         <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>Impossible de créer %1, ce dossier n&apos;est pas supprimé&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>The name of this folder contains a character that ends or changes a command; it is not removed: %1</source>
+        <translation>Le nom de ce dossier contient un caractère qui termine ou modifie une commande, le dossier n&apos;est pas supprimé&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConclusionPage</name>
@@ -345,6 +349,13 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     <message>
         <source>Velmora %1 Installation</source>
         <translation>Installation de Velmora %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFiles</name>
+    <message>
+        <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
+        <translation>%1 n&apos;appartient pas aux administrateurs et peut mener ailleurs, ceci reste inchangé&#xa0;: %2</translation>
     </message>
 </context>
 <context>

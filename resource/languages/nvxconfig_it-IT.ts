@@ -99,6 +99,10 @@
         <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>Impossibile creare %1, questa cartella non viene rimossa: %2</translation>
     </message>
+    <message>
+        <source>The name of this folder contains a character that ends or changes a command; it is not removed: %1</source>
+        <translation>Il nome di questa cartella contiene un carattere che termina o modifica un comando, la cartella non viene rimossa: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConclusionPage</name>
@@ -345,6 +349,13 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     <message>
         <source>Velmora %1 Installation</source>
         <translation>Installazione di Velmora %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFiles</name>
+    <message>
+        <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
+        <translation>%1 non appartiene agli amministratori e può condurre altrove, questo rimane invariato: %2</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@
         <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>%1 を作成できないため、このフォルダーを削除しません: %2</translation>
     </message>
+    <message>
+        <source>The name of this folder contains a character that ends or changes a command; it is not removed: %1</source>
+        <translation>このフォルダーの名前には、コマンドを終了または変更する文字が含まれているため、削除しません: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConclusionPage</name>
@@ -345,6 +349,13 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Velmora %1 Installation</source>
         <translation>Velmora %1 のインストール</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFiles</name>
+    <message>
+        <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
+        <translation>%1 は管理者の所有ではなく、別の場所を指している可能性があるため、変更しません: %2</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@
         <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>%1을(를) 만들 수 없어 이 폴더를 제거하지 않습니다: %2</translation>
     </message>
+    <message>
+        <source>The name of this folder contains a character that ends or changes a command; it is not removed: %1</source>
+        <translation>이 폴더의 이름에 명령을 끝내거나 바꾸는 문자가 있어 제거하지 않습니다: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConclusionPage</name>
@@ -345,6 +349,13 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Velmora %1 Installation</source>
         <translation>Velmora %1 설치</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFiles</name>
+    <message>
+        <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
+        <translation>%1은(는) 관리자의 소유가 아니며 다른 위치를 가리킬 수 있으므로 변경하지 않습니다: %2</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@
         <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>Не удалось создать %1, эта папка не удалена: %2</translation>
     </message>
+    <message>
+        <source>The name of this folder contains a character that ends or changes a command; it is not removed: %1</source>
+        <translation>Имя этой папки содержит символ, который завершает или изменяет команду, папка не удалена: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConclusionPage</name>
@@ -345,6 +349,13 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Velmora %1 Installation</source>
         <translation>Установка Velmora %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFiles</name>
+    <message>
+        <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
+        <translation>%1 не принадлежит администраторам и может вести в другое место, оставлено без изменений: %2</translation>
     </message>
 </context>
 <context>

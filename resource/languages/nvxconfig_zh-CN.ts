@@ -99,6 +99,10 @@
         <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>无法创建 %1，未删除此文件夹：%2</translation>
     </message>
+    <message>
+        <source>The name of this folder contains a character that ends or changes a command; it is not removed: %1</source>
+        <translation>此文件夹的名称包含会终止或更改命令的字符，未删除该文件夹：%1</translation>
+    </message>
 </context>
 <context>
     <name>ConclusionPage</name>
@@ -345,6 +349,13 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Velmora %1 Installation</source>
         <translation>安装 Velmora %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFiles</name>
+    <message>
+        <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
+        <translation>%1 不属于管理员，可能指向其他位置，以下内容保持不变：%2</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@
         <source>Unable to create %1; this folder is not removed: %2</source>
         <translation>無法建立 %1，未移除此資料夾：%2</translation>
     </message>
+    <message>
+        <source>The name of this folder contains a character that ends or changes a command; it is not removed: %1</source>
+        <translation>此資料夾的名稱包含會終止或變更命令的字元，未移除該資料夾：%1</translation>
+    </message>
 </context>
 <context>
     <name>ConclusionPage</name>
@@ -345,6 +349,13 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>Velmora %1 Installation</source>
         <translation>安裝 Velmora %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFiles</name>
+    <message>
+        <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
+        <translation>%1 不屬於系統管理員，可能指向其他位置，以下內容保持不變：%2</translation>
     </message>
 </context>
 <context>

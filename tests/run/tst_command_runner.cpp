@@ -146,6 +146,27 @@ private slots:
         QVERIFY(m_fixture->reporter.lines.first().endsWith(path));
     }
 
+    void aFolderWhoseNameCouldEndItsCommandIsNotRemoved_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("a double quote") << u"C:\\a\" & rmdir /s /q \"C:\\b"_s;
+        QTest::newRow("a line feed") << u"C:\\a\nrmdir /s /q C:\\b"_s;
+        QTest::newRow("a carriage return") << u"C:\\a\r"_s;
+        QTest::newRow("a NUL") << u"C:\\a"_s + QChar(0);
+    }
+
+    void aFolderWhoseNameCouldEndItsCommandIsNotRemoved()
+    {
+        QFETCH(QString, path);
+        QVERIFY(runner().removeDirectory(path));
+        QVERIFY(m_fixture->machine.calls.isEmpty());
+        QCOMPARE(m_fixture->reporter.lines,
+                 QStringList{
+                     u"1 The name of this folder contains a character that ends or changes a command; it is "
+                     "not removed: "_s +
+                     path});
+    }
+
     void aRemovalThatFailsIsLoggedAndReturnsTrue()
     {
         m_fixture->machine.programResult = {Outcome::NotStarted, 0, {}};

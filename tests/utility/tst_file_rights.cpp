@@ -1,9 +1,10 @@
+#include "nvx_util/trusted_files.h"
 #include "nvx_util/whole_file.h"
 #include "platform.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
-#include "windows/security.h"
+#include "windows/file_rights.h"
 
 #include <QTest>
 
@@ -103,6 +104,72 @@ private slots:
         QVERIFY(replaceWholeFile(m_file, "new"));
         QCOMPARE(fileBytes(m_file), QByteArray("new"));
         QCOMPARE(rightsOf(m_file), before);
+    }
+
+    void administratorsAccountsAreRecognised_data()
+    {
+        QTest::addColumn<QString>("account");
+        QTest::addColumn<bool>("isAdministrators");
+        QTest::newRow("the system") << u"S-1-5-18"_s << true;
+        QTest::newRow("the group of administrators") << u"S-1-5-32-544"_s << true;
+        QTest::newRow("the operating system's installer")
+            << u"S-1-5-80-956008885-3418522649-1831038044-1853292631-2271478464"_s << true;
+        QTest::newRow("the built-in administrator") << u"S-1-5-21-1-2-3-500"_s << true;
+        QTest::newRow("administrators of a domain") << u"S-1-5-21-1-2-3-512"_s << true;
+        QTest::newRow("administrators of a forest") << u"S-1-5-21-1-2-3-519"_s << true;
+        QTest::newRow("the user of this process") << u"S-1-5-21-1-2-3-1001"_s << true;
+        QTest::newRow("another user") << u"S-1-5-21-1-2-3-1002"_s << false;
+        QTest::newRow("a user whose number ends like an administrator's")
+            << u"S-1-5-21-1-2-3-1500"_s << false;
+        QTest::newRow("another service") << u"S-1-5-80-1-2-3-4-500"_s << false;
+        QTest::newRow("the group of users") << u"S-1-5-32-545"_s << false;
+        QTest::newRow("everyone") << u"S-1-1-0"_s << false;
+        QTest::newRow("an unknown owner") << QString() << false;
+    }
+
+    void administratorsAccountsAreRecognised()
+    {
+        QFETCH(const QString, account);
+        QTEST(isAdministratorsAccount(account, u"S-1-5-21-1-2-3-1001"_s), "isAdministrators");
+    }
+
+    void scriptFileIsForAdministratorsOnly()
+    {
+        const QString path = m_folder->path(u"script"_s);
+        const ScriptFile script(path, "echo");
+        QVERIFY(script);
+        const QString rights = rightsOf(path);
+        QVERIFY2(!rights.contains(u";;;WD)") && !rights.contains(u";;;BU)"), qPrintable(rights));
+    }
+
+    void scriptFileCanOnlyBeRead()
+    {
+        const QString path = m_folder->path(u"script"_s);
+        const ScriptFile script(path, "echo");
+        QVERIFY(script);
+        QVERIFY(openEntry(path, GENERIC_READ, FILE_SHARE_READ));
+        constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+        for (const DWORD access : {DWORD{GENERIC_WRITE}, DWORD{FILE_APPEND_DATA}, DWORD{DELETE}})
+            QVERIFY(!openEntry(path, access, shareAll));
+        QVERIFY(!DeleteFileW(wide(path).c_str()));
+        QVERIFY(!MoveFileW(wide(path).c_str(), wide(path + u'2').c_str()));
+        QVERIFY(!MoveFileExW(wide(m_file).c_str(), wide(path).c_str(), MOVEFILE_REPLACE_EXISTING));
+        QCOMPARE(fileBytes(path), QByteArray("echo"));
+    }
+
+    void heldFoldersCannotBeRenamedOrRemoved()
+    {
+        const QString inner = m_folder->path(u"outer/inner"_s);
+        QVERIFY(QDir().mkpath(inner));
+        {
+            const HeldWay way = HeldWay::toFolder(inner);
+            QVERIFY(!MoveFileW(wide(m_folder->path(u"outer"_s)).c_str(),
+                               wide(m_folder->path(u"moved"_s)).c_str()));
+            QVERIFY(!RemoveDirectoryW(wide(inner).c_str()));
+            QVERIFY(writeBytes(inner + u"\\file"_s, "x"));
+            QVERIFY(QFile::remove(inner + u"\\file"_s));
+        }
+        QVERIFY(RemoveDirectoryW(wide(inner).c_str()));
     }
 
     void attributesArePreserved()

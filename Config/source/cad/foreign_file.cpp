@@ -1,6 +1,7 @@
 #include "cad/foreign_file.h"
 
 #include "nvx_util/code_page.h"
+#include "nvx_util/trusted_files.h"
 #include "nvx_util/whole_file.h"
 #include "run/diagnostics.h"
 #include "run/reporter.h"
@@ -43,7 +44,8 @@ std::optional<QByteArray> toForeignText(Reporter &reporter, const QString &path,
 
 void replaceForeignFile(const QString &path, const QByteArray &contents)
 {
-    if (!Util::replaceWholeFile(path, contents))
+    const auto way = Util::HeldWay::toEntry(path);
+    if (way.plantedPoint() || !Util::replaceWholeFile(path, contents))
         qCWarning(diagnostics, "Unable to write %ls", qUtf16Printable(path));
 }
 

@@ -18,8 +18,8 @@ std::optional<QByteArray> readForeignFile(const QString &path);
 /// log at level 1 if the code page cannot encode it, which only the name of the install folder can cause.
 std::optional<QByteArray> toForeignText(Run::Reporter &reporter, const QString &path, const QString &text);
 
-/// Replaces the file's contents whole or not at all. A file that is write-protected or in use is left as it
-/// is, with a diagnostic warning.
+/// Replaces the file's contents whole or not at all. A file that is write-protected, in use,
+/// or reached through a link of someone below an administrator is left as it is, with a diagnostic warning.
 void replaceForeignFile(const QString &path, const QByteArray &contents);
 
 /// Searches for a string, ignoring case, in 8-bit text of another program, which is normally in the system's

@@ -2,7 +2,9 @@
 
 #include "nvx_util/code_page.h"
 #include "nvx_util/machine.h"
+#include "nvx_util/trusted_files.h"
 #include "run/output_lines.h"
+#include "run/product_files.h"
 #include "run/reporter.h"
 #include "run/run_state.h"
 
@@ -31,20 +33,6 @@ int exitCodeOf(const ProgramResult &result)
         break;
     }
     return result.exitCode;
-}
-
-bool createBatchFile(const QString &path, const QByteArray &commandLine)
-{
-    QFile::remove(path);
-    QFile file(path);
-    // Only a new file is ours to run, and only a complete one: a command cut short by a full disk names
-    // another folder.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
-        return false;
-    if (file.write(commandLine) == commandLine.size())
-        return true;
-    file.remove();
-    return false;
 }
 
 } // namespace
@@ -117,6 +105,17 @@ QString removalCommand(const QString &path)
 bool CommandRunner::removeDirectory(const QString &path)
 {
     Reporter &reporter = m_context.reporter;
+    if (Util::holdsQuoteOrControl(path)) {
+        reporter.log(
+            LogLevel::failure,
+            tr("The name of this folder contains a character that ends or changes a command; it is not "
+               "removed: %1")
+                .arg(path));
+        return true;
+    }
+    const auto way = Util::HeldWay::toEntry(path);
+    if (!isTrustedWay(reporter, way, path))
+        return true;
     const std::optional<QByteArray> commandLine = Util::toOem(removalCommand(path));
     if (!commandLine) {
         reporter.log(LogLevel::failure,
@@ -128,7 +127,10 @@ bool CommandRunner::removeDirectory(const QString &path)
 
     // The batch file is next to the install dir, not in it: the file's name is appended without a separator.
     const QString batchFile = m_context.state.installDir + u"work.bat"_s;
-    if (!createBatchFile(batchFile, *commandLine)) {
+    // Only a new and complete file is ours to run: a command cut short by a full disk names another folder.
+    // Nobody may change it until the interpreter has read it.
+    const Util::ScriptFile script(batchFile, *commandLine);
+    if (!script) {
         reporter.log(LogLevel::failure,
                      tr("Unable to create %1; this folder is not removed: %2").arg(batchFile, path));
         return true;
@@ -143,7 +145,6 @@ bool CommandRunner::removeDirectory(const QString &path)
                                                         .place = ProgramCall::Place::SystemFolder,
                                                         .quoting = ProgramCall::Quoting::CommandInterpreter,
                                                         .outputLimit = maxRemovalOutputBytes});
-    QFile::remove(batchFile);
     reporter.log(LogLevel::ofResult(exitCodeOf(result)), u" output:"_s + Util::fromOem(result.output));
     return true;
 }
@@ -152,6 +153,9 @@ bool CommandRunner::removeMatchingFiles(const QString &folder, const QString &pa
 {
     if (!QFileInfo(folder).isDir())
         return false;
+    const auto way = Util::HeldWay::toFolder(folder);
+    if (!isTrustedWay(m_context.reporter, way, folder))
+        return true;
     QStringList matching;
     QDirIterator entries(folder, QDir::Files | QDir::Hidden | QDir::System);
     while (entries.hasNext()) {

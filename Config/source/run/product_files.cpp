@@ -1,5 +1,10 @@
 #include "run/product_files.h"
 
+#include "nvx_util/trusted_files.h"
+#include "run/diagnostics.h"
+#include "run/reporter.h"
+
+#include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
@@ -7,6 +12,11 @@
 namespace Nvx::Run {
 
 namespace {
+
+struct Messages
+{
+    Q_DECLARE_TR_FUNCTIONS(ProductFiles)
+};
 
 // QFileInfo reports a link as missing if its target is missing, and treats every path with a shortcut's
 // suffix as a link, even if no such file exists. So a link is looked up in its folder's listing.
@@ -26,10 +36,27 @@ bool fileExists(const QString &path)
 
 } // namespace
 
+bool isTrustedWay(Reporter &reporter, const Util::HeldWay &way, const QString &path)
+{
+    const std::optional<QString> planted = way.plantedPoint();
+    if (planted)
+        reporter.log(LogLevel::failure,
+                     Messages::tr("%1 does not belong to administrators and may lead elsewhere; this is left "
+                                  "unchanged: %2")
+                         .arg(*planted, path));
+    return !planted;
+}
+
 bool removeProductFile(const QString &path)
 {
     if (!fileExists(path))
         return true;
+    const auto way = Util::HeldWay::toFolder(QFileInfo(path).path());
+    if (const std::optional<QString> planted = way.plantedPoint()) {
+        qCWarning(diagnostics, "%ls may lead elsewhere; not removed: %ls", qUtf16Printable(*planted),
+                  qUtf16Printable(path));
+        return false;
+    }
     QFile file(path);
     if (!file.remove()) {
         file.setPermissions(file.permissions() | QFile::WriteOwner | QFile::WriteUser);

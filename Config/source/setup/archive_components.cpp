@@ -2,6 +2,8 @@
 
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
+#include "nvx_util/trusted_files.h"
+#include "run/product_files.h"
 #include "run/reporter.h"
 
 #include <array>
@@ -85,6 +87,9 @@ int ArchiveComponents::installMertleServer(RunMode mode)
 void ArchiveComponents::unpack(const QString &archive, const QString &folder, int timeoutMs)
 {
     const QString installDir = m_context.state.installDir;
+    const auto way = Util::HeldWay::toFolder(folder);
+    if (!isTrustedWay(m_context.reporter, way, folder))
+        return;
     m_runner.runCommand(joinPath(installDir, u"7z.exe"_s), {u"x"_s, archive, u"-y"_s, u"-o"_s + folder},
                         installDir, timeoutMs);
 }

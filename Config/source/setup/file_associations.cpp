@@ -3,6 +3,7 @@
 #include "nvx_util/code_page.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
+#include "nvx_util/trusted_files.h"
 #include "run/command_runner.h"
 #include "run/diagnostics.h"
 #include "run/product_files.h"
@@ -10,7 +11,6 @@
 #include "setup/association_scripts.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 using namespace Nvx::Run;
 using namespace Qt::Literals::StringLiterals;
@@ -31,15 +31,6 @@ std::optional<QByteArray> encoded(const QStringList &lines)
     return Util::toAnsi(lines.join(u'\n') + u'\n');
 }
 
-bool createScript(const QString &path, const QByteArray &script)
-{
-    removeProductFile(path);
-    QFile file(path);
-    // Only a new and complete file is ours to import.
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered) &&
-           file.write(script) == script.size();
-}
-
 void importScript(const StepContext &context, const QString &path, const QStringList &lines)
 {
     const std::optional<QByteArray> script = encoded(lines);
@@ -50,12 +41,13 @@ void importScript(const StepContext &context, const QString &path, const QString
                                  .arg(context.state.installDir));
         return;
     }
-    if (createScript(path, *script))
+    removeProductFile(path);
+    // Only a new and complete file is ours to import. Nobody may change it until the editor has read it.
+    if (const Util::ScriptFile file(path, *script); file)
         CommandRunner(context).runSystemCommand(u"regedit"_s, {u"-s"_s, path}, context.state.installDir,
                                                 CommandRunner::usualTimeoutMs);
     else
         qCWarning(diagnostics, "Unable to create %ls", qUtf16Printable(path));
-    removeProductFile(path);
 }
 
 } // namespace

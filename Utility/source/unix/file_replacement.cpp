@@ -76,22 +76,6 @@ bool flushToDisk(int descriptor)
     return fsync(descriptor) == 0;
 }
 
-void copyRights(const QString &from, const QString &to)
-{
-    struct stat old = {};
-    const QByteArray target = QFile::encodeName(to);
-    if (stat(QFile::encodeName(from).constData(), &old) != 0)
-        return;
-    // Another user's file remains that user's only if an administrator replaces it. The mode is set
-    // afterwards, since a change of the owner clears parts of it.
-    constexpr auto sameOwner = static_cast<uid_t>(-1);
-    if (chown(target.constData(), old.st_uid, old.st_gid) == 0 ||
-        chown(target.constData(), sameOwner, old.st_gid) == 0)
-        chmod(target.constData(), old.st_mode & 07777);
-    else
-        chmod(target.constData(), old.st_mode & 0777);
-}
-
 // link() fails if the new name is in use; rename() would replace the file.
 bool renameToFreeName(const QString &from, const QString &to)
 {

@@ -1,14 +1,11 @@
 #include "platform.h"
-#include "windows/security.h"
+#include "windows/file_rights.h"
 
 #include <io.h>
 
 namespace Nvx::Util::Platform {
 
 namespace {
-
-constexpr DWORD keptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
-                                 FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
 constexpr DWORD renamePauseMs = 50;
 constexpr int renameTries = 11; // half a second
@@ -43,27 +40,6 @@ std::shared_ptr<void> claimFile(const QString & /*path*/)
 bool flushToDisk(int descriptor)
 {
     return _commit(descriptor) == 0;
-}
-
-void copyRights(const QString &from, const QString &to)
-{
-    const Handle source = openEntry(from, READ_CONTROL | FILE_READ_ATTRIBUTES,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
-    const Handle target = openEntry(to, READ_CONTROL | WRITE_DAC | WRITE_OWNER | FILE_WRITE_ATTRIBUTES,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
-    if (!source || !target)
-        return;
-    FILE_BASIC_INFO times = {};
-    if (GetFileInformationByHandleEx(source.get(), FileBasicInfo, &times, sizeof times)) {
-        FILE_BASIC_INFO kept = {}; // 0 leaves a time as it is
-        kept.CreationTime = times.CreationTime;
-        kept.FileAttributes = times.FileAttributes & keptAttributes;
-        if (kept.FileAttributes == 0)
-            kept.FileAttributes = FILE_ATTRIBUTE_NORMAL;
-        SetFileInformationByHandle(target.get(), FileBasicInfo, &kept, sizeof kept);
-    }
-    if (const Descriptor descriptor = descriptorOf(source.get()))
-        applyDescriptor(target.get(), descriptor.get());
 }
 
 bool renameToFreeName(const QString &from, const QString &to)

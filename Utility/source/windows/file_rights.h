@@ -35,6 +35,25 @@ using Descriptor = std::unique_ptr<void, FreeLocalMemory>;
 /// The owner, group and access rights of an open entry. The handle needs READ_CONTROL.
 Descriptor descriptorOf(HANDLE entry);
 
+/// Who may read what administrators own.
+enum class Readers
+{
+    None, ///< only administrators and the system
+    Users ///< all users; they may also run programs
+};
+
+/// Access rights that are not inherited: the system and administrators may do everything, others read at
+/// most. What is created in a folder with these rights inherits them. The owner is the administrators' group.
+Descriptor administratorsDescriptor(Readers readers);
+
+/// Whether an account, by the text form of its identifier, is the system's or administrators' own: the
+/// system, the installer of the operating system, the administrators' group, an administrators' group or the
+/// built-in administrator of a domain, or the user of this process.
+bool isAdministratorsAccount(const QString &account, const QString &ownAccount);
+
+/// The same for the owner of an open entry. The handle needs READ_CONTROL.
+bool isOwnedByAdministrators(HANDLE entry);
+
 /// Sets the access rights of an open entry as in the descriptor, and its owner as far as the process may.
 /// What an entry inherits from its folder is computed again. The handle needs READ_CONTROL, WRITE_DAC and
 /// WRITE_OWNER.
