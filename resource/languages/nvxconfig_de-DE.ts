@@ -226,6 +226,21 @@
     </message>
 </context>
 <context>
+    <name>Localization::TranslationJob</name>
+    <message>
+        <source>%1 is a link, which is not followed</source>
+        <translation>%1 ist eine Verknüpfung, der nicht gefolgt wird</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 files; the others are not downloaded</source>
+        <translation>%1 enthält mehr als %2 Dateien, die übrigen werden nicht heruntergeladen</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>%1 wird abgelehnt: %2</translation>
+    </message>
+</context>
+<context>
     <name>MaterialDatabase</name>
     <message>
         <source>Checking material database</source>
@@ -473,6 +488,21 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     </message>
 </context>
 <context>
+    <name>TranslationAnswer</name>
+    <message>
+        <source>it is for the language %1</source>
+        <translation>Die Datei ist für die Sprache %1 bestimmt</translation>
+    </message>
+    <message>
+        <source>the values such as %1 differ between &quot;%2&quot; and its translation &quot;%3&quot;</source>
+        <translation>Werte wie %1 stimmen in „%2“ und der Übersetzung „%3“ nicht überein</translation>
+    </message>
+    <message>
+        <source>it has %1 finished texts, and the existing file has %2</source>
+        <translation>Fertige Texte: %1, in der vorhandenen Datei: %2</translation>
+    </message>
+</context>
+<context>
     <name>UserFiles</name>
     <message>
         <source>Remove: </source>
@@ -697,6 +727,14 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
     <message>
         <source>%1 texts to translate in %2 files</source>
         <translation>Zu übersetzende Texte: %1, Dateien: %2</translation>
+    </message>
+    <message>
+        <source>localization.xml has no full path of a folder with lupdate and lrelease; nothing is updated or compiled</source>
+        <translation>localization.xml enthält keinen vollständigen Pfad eines Ordners mit lupdate und lrelease, es wird nichts aktualisiert oder kompiliert</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts finished, %3 open; %4 files refused</source>
+        <translation>%1: fertige Texte: %2, offene: %3, abgelehnte Dateien: %4</translation>
     </message>
 </context>
 </TS>

@@ -226,6 +226,21 @@
     </message>
 </context>
 <context>
+    <name>Localization::TranslationJob</name>
+    <message>
+        <source>%1 is a link, which is not followed</source>
+        <translation>%1 est un lien, il n&apos;est pas suivi</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 files; the others are not downloaded</source>
+        <translation>%1 contient plus de %2 fichiers, les autres ne sont pas téléchargés</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>%1 est refusé&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>MaterialDatabase</name>
     <message>
         <source>Checking material database</source>
@@ -473,6 +488,21 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     </message>
 </context>
 <context>
+    <name>TranslationAnswer</name>
+    <message>
+        <source>it is for the language %1</source>
+        <translation>le fichier est destiné à la langue %1</translation>
+    </message>
+    <message>
+        <source>the values such as %1 differ between &quot;%2&quot; and its translation &quot;%3&quot;</source>
+        <translation>les valeurs telles que %1 diffèrent entre «&#xa0;%2&#xa0;» et la traduction «&#xa0;%3&#xa0;»</translation>
+    </message>
+    <message>
+        <source>it has %1 finished texts, and the existing file has %2</source>
+        <translation>textes terminés&#xa0;: %1, dans le fichier existant&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>UserFiles</name>
     <message>
         <source>Remove: </source>
@@ -697,6 +727,14 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
     <message>
         <source>%1 texts to translate in %2 files</source>
         <translation>Textes à traduire&#xa0;: %1, fichiers&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>localization.xml has no full path of a folder with lupdate and lrelease; nothing is updated or compiled</source>
+        <translation>localization.xml n&apos;indique pas le chemin complet d&apos;un dossier contenant lupdate et lrelease, rien n&apos;est mis à jour ni compilé</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts finished, %3 open; %4 files refused</source>
+        <translation>%1&#xa0;: textes terminés&#xa0;: %2, en attente&#xa0;: %3, fichiers refusés&#xa0;: %4</translation>
     </message>
 </context>
 </TS>

@@ -226,6 +226,21 @@
     </message>
 </context>
 <context>
+    <name>Localization::TranslationJob</name>
+    <message>
+        <source>%1 is a link, which is not followed</source>
+        <translation>%1 è un collegamento, che non viene seguito</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 files; the others are not downloaded</source>
+        <translation>%1 contiene più di %2 file, gli altri non vengono scaricati</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>%1 viene rifiutato: %2</translation>
+    </message>
+</context>
+<context>
     <name>MaterialDatabase</name>
     <message>
         <source>Checking material database</source>
@@ -473,6 +488,21 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     </message>
 </context>
 <context>
+    <name>TranslationAnswer</name>
+    <message>
+        <source>it is for the language %1</source>
+        <translation>il file è per la lingua %1</translation>
+    </message>
+    <message>
+        <source>the values such as %1 differ between &quot;%2&quot; and its translation &quot;%3&quot;</source>
+        <translation>i valori come %1 differiscono tra “%2” e la traduzione “%3”</translation>
+    </message>
+    <message>
+        <source>it has %1 finished texts, and the existing file has %2</source>
+        <translation>testi completati: %1, nel file esistente: %2</translation>
+    </message>
+</context>
+<context>
     <name>UserFiles</name>
     <message>
         <source>Remove: </source>
@@ -697,6 +727,14 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
     <message>
         <source>%1 texts to translate in %2 files</source>
         <translation>Testi da tradurre: %1, file: %2</translation>
+    </message>
+    <message>
+        <source>localization.xml has no full path of a folder with lupdate and lrelease; nothing is updated or compiled</source>
+        <translation>localization.xml non contiene il percorso completo di una cartella con lupdate e lrelease, non viene aggiornato né compilato nulla</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts finished, %3 open; %4 files refused</source>
+        <translation>%1: testi completati: %2, in sospeso: %3, file rifiutati: %4</translation>
     </message>
 </context>
 </TS>

@@ -226,6 +226,21 @@
     </message>
 </context>
 <context>
+    <name>Localization::TranslationJob</name>
+    <message>
+        <source>%1 is a link, which is not followed</source>
+        <translation>%1 はリンクであるため、たどりません</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 files; the others are not downloaded</source>
+        <translation>%1 には %2 個を超えるファイルがあります。残りはダウンロードされません</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>%1 は受け入れられません: %2</translation>
+    </message>
+</context>
+<context>
     <name>MaterialDatabase</name>
     <message>
         <source>Checking material database</source>
@@ -473,6 +488,21 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
+    <name>TranslationAnswer</name>
+    <message>
+        <source>it is for the language %1</source>
+        <translation>言語 %1 のファイルです</translation>
+    </message>
+    <message>
+        <source>the values such as %1 differ between &quot;%2&quot; and its translation &quot;%3&quot;</source>
+        <translation>%1 などの値が、「%2」とその翻訳「%3」で一致していません</translation>
+    </message>
+    <message>
+        <source>it has %1 finished texts, and the existing file has %2</source>
+        <translation>完了したテキストは %1 件ですが、既存のファイルでは %2 件です</translation>
+    </message>
+</context>
+<context>
     <name>UserFiles</name>
     <message>
         <source>Remove: </source>
@@ -697,6 +727,14 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>%1 texts to translate in %2 files</source>
         <translation>翻訳対象テキスト %1 件 (%2 ファイル)</translation>
+    </message>
+    <message>
+        <source>localization.xml has no full path of a folder with lupdate and lrelease; nothing is updated or compiled</source>
+        <translation>localization.xml に lupdate と lrelease のあるフォルダーの完全なパスがないため、何も更新またはコンパイルされません</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts finished, %3 open; %4 files refused</source>
+        <translation>%1: 完了したテキスト %2 件、未完了 %3 件、受け入れられなかったファイル %4 個</translation>
     </message>
 </context>
 </TS>

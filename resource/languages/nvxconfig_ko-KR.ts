@@ -226,6 +226,21 @@
     </message>
 </context>
 <context>
+    <name>Localization::TranslationJob</name>
+    <message>
+        <source>%1 is a link, which is not followed</source>
+        <translation>%1은(는) 링크이므로 따라가지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 files; the others are not downloaded</source>
+        <translation>%1에 파일이 %2개보다 많습니다. 나머지는 다운로드하지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>%1을(를) 받아들이지 않습니다: %2</translation>
+    </message>
+</context>
+<context>
     <name>MaterialDatabase</name>
     <message>
         <source>Checking material database</source>
@@ -473,6 +488,21 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
+    <name>TranslationAnswer</name>
+    <message>
+        <source>it is for the language %1</source>
+        <translation>%1 언어용 파일입니다</translation>
+    </message>
+    <message>
+        <source>the values such as %1 differ between &quot;%2&quot; and its translation &quot;%3&quot;</source>
+        <translation>%1과(와) 같은 값이 “%2”과(와) 해당 번역 “%3”에서 일치하지 않습니다</translation>
+    </message>
+    <message>
+        <source>it has %1 finished texts, and the existing file has %2</source>
+        <translation>완료된 텍스트가 %1개이고 기존 파일에는 %2개입니다</translation>
+    </message>
+</context>
+<context>
     <name>UserFiles</name>
     <message>
         <source>Remove: </source>
@@ -697,6 +727,14 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>%1 texts to translate in %2 files</source>
         <translation>번역할 텍스트 %1개(파일 %2개)</translation>
+    </message>
+    <message>
+        <source>localization.xml has no full path of a folder with lupdate and lrelease; nothing is updated or compiled</source>
+        <translation>localization.xml에 lupdate와 lrelease가 있는 폴더의 전체 경로가 없어 아무것도 업데이트하거나 컴파일하지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts finished, %3 open; %4 files refused</source>
+        <translation>%1: 완료된 텍스트 %2개, 미완료 %3개, 받아들이지 않은 파일 %4개</translation>
     </message>
 </context>
 </TS>

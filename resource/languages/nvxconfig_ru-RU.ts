@@ -226,6 +226,21 @@
     </message>
 </context>
 <context>
+    <name>Localization::TranslationJob</name>
+    <message>
+        <source>%1 is a link, which is not followed</source>
+        <translation>%1 является ссылкой, переход по ней не выполняется</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 files; the others are not downloaded</source>
+        <translation>В папке %1 больше файлов, чем %2, остальные не загружаются</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>Файл %1 отклонен: %2</translation>
+    </message>
+</context>
+<context>
     <name>MaterialDatabase</name>
     <message>
         <source>Checking material database</source>
@@ -473,6 +488,21 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
+    <name>TranslationAnswer</name>
+    <message>
+        <source>it is for the language %1</source>
+        <translation>файл предназначен для языка %1</translation>
+    </message>
+    <message>
+        <source>the values such as %1 differ between &quot;%2&quot; and its translation &quot;%3&quot;</source>
+        <translation>значения вида %1 различаются в тексте «%2» и в переводе «%3»</translation>
+    </message>
+    <message>
+        <source>it has %1 finished texts, and the existing file has %2</source>
+        <translation>готовых текстов: %1, в существующем файле: %2</translation>
+    </message>
+</context>
+<context>
     <name>UserFiles</name>
     <message>
         <source>Remove: </source>
@@ -697,6 +727,14 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>%1 texts to translate in %2 files</source>
         <translation>Текстов для перевода: %1, файлов: %2</translation>
+    </message>
+    <message>
+        <source>localization.xml has no full path of a folder with lupdate and lrelease; nothing is updated or compiled</source>
+        <translation>В localization.xml нет полного пути к папке с lupdate и lrelease, обновление и компиляция не выполняются</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts finished, %3 open; %4 files refused</source>
+        <translation>%1: готовых текстов: %2, неготовых: %3, отклонено файлов: %4</translation>
     </message>
 </context>
 </TS>

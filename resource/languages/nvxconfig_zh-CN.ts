@@ -226,6 +226,21 @@
     </message>
 </context>
 <context>
+    <name>Localization::TranslationJob</name>
+    <message>
+        <source>%1 is a link, which is not followed</source>
+        <translation>%1 是链接，不予跟随</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 files; the others are not downloaded</source>
+        <translation>%1 中的文件多于 %2 个，其余文件不下载</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>%1 被拒绝：%2</translation>
+    </message>
+</context>
+<context>
     <name>MaterialDatabase</name>
     <message>
         <source>Checking material database</source>
@@ -473,6 +488,21 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
+    <name>TranslationAnswer</name>
+    <message>
+        <source>it is for the language %1</source>
+        <translation>该文件用于语言 %1</translation>
+    </message>
+    <message>
+        <source>the values such as %1 differ between &quot;%2&quot; and its translation &quot;%3&quot;</source>
+        <translation>“%2”与其翻译“%3”中 %1 之类的值不一致</translation>
+    </message>
+    <message>
+        <source>it has %1 finished texts, and the existing file has %2</source>
+        <translation>已完成文本 %1 条，现有文件中为 %2 条</translation>
+    </message>
+</context>
+<context>
     <name>UserFiles</name>
     <message>
         <source>Remove: </source>
@@ -697,6 +727,14 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>%1 texts to translate in %2 files</source>
         <translation>待翻译文本 %1 条（共 %2 个文件）</translation>
+    </message>
+    <message>
+        <source>localization.xml has no full path of a folder with lupdate and lrelease; nothing is updated or compiled</source>
+        <translation>localization.xml 中没有包含 lupdate 和 lrelease 的文件夹的完整路径，不更新也不编译任何内容</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts finished, %3 open; %4 files refused</source>
+        <translation>%1：已完成文本 %2 条，未完成 %3 条，被拒绝的文件 %4 个</translation>
     </message>
 </context>
 </TS>

@@ -226,6 +226,21 @@
     </message>
 </context>
 <context>
+    <name>Localization::TranslationJob</name>
+    <message>
+        <source>%1 is a link, which is not followed</source>
+        <translation>%1 是連結，不予跟隨</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 files; the others are not downloaded</source>
+        <translation>%1 中的檔案多於 %2 個，其餘檔案不下載</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>%1 遭到拒絕：%2</translation>
+    </message>
+</context>
+<context>
     <name>MaterialDatabase</name>
     <message>
         <source>Checking material database</source>
@@ -473,6 +488,21 @@ Click No to continue without stopping the processes.</source>
     </message>
 </context>
 <context>
+    <name>TranslationAnswer</name>
+    <message>
+        <source>it is for the language %1</source>
+        <translation>該檔案用於語言 %1</translation>
+    </message>
+    <message>
+        <source>the values such as %1 differ between &quot;%2&quot; and its translation &quot;%3&quot;</source>
+        <translation>「%2」與其翻譯「%3」中 %1 之類的值不一致</translation>
+    </message>
+    <message>
+        <source>it has %1 finished texts, and the existing file has %2</source>
+        <translation>已完成文字 %1 條，現有檔案中為 %2 條</translation>
+    </message>
+</context>
+<context>
     <name>UserFiles</name>
     <message>
         <source>Remove: </source>
@@ -697,6 +727,14 @@ Click No to continue without stopping the processes.</source>
     <message>
         <source>%1 texts to translate in %2 files</source>
         <translation>待翻譯文字 %1 條（共 %2 個檔案）</translation>
+    </message>
+    <message>
+        <source>localization.xml has no full path of a folder with lupdate and lrelease; nothing is updated or compiled</source>
+        <translation>localization.xml 中沒有包含 lupdate 和 lrelease 的資料夾的完整路徑，不更新也不編譯任何內容</translation>
+    </message>
+    <message>
+        <source>%1: %2 texts finished, %3 open; %4 files refused</source>
+        <translation>%1：已完成文字 %2 條，未完成 %3 條，遭到拒絕的檔案 %4 個</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,8 @@
 #include "localization/locale_folders.h"
 #include "run/reporter.h"
 
+#include <QByteArray>
+#include <QMap>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -10,7 +12,17 @@
 #include <chrono>
 #include <functional>
 
+namespace Nvx::Util {
+struct Language;
+}
+
 namespace Localization {
+
+struct AnswerContext;
+
+/// The contents of the job file for the translators: UTF-8, one line per source, "enu\" and its name, each
+/// ended by a line feed.
+QByteArray jobFile(const QStringList &sourceNames);
 
 /// Waits for a time.
 using Pause = std::function<void(std::chrono::milliseconds)>;
@@ -20,7 +32,7 @@ using Pause = std::function<void(std::chrono::milliseconds)>;
 ///     SHARE\NVX360\CODE\       the files of a language, in both directions
 ///     SHARE\~cBuild\job\       "NVX360.job" is the request, "NVX360.done" means that the job is done
 ///
-/// Failures are logged and not returned.
+/// Others can write to the share, so no link in it is followed. Failures are logged and not returned.
 class TranslationJob : public QObject
 {
     Q_OBJECT
@@ -28,6 +40,7 @@ class TranslationJob : public QObject
 public:
     static constexpr std::chrono::milliseconds pollInterval = std::chrono::seconds(10);
     static constexpr int maxPolls = 200;
+    static constexpr qsizetype maxFiles = 1000; ///< that are downloaded for a language
 
     /// shareFolder is SHARE\NVX360\ and jobFolder is SHARE\~cBuild\job\; both are empty without a share.
     /// filePatterns match the files to download.
@@ -44,16 +57,21 @@ public:
     /// Looks for the ".done" file every pollInterval, and gives up after more than maxPolls attempts.
     void waitUntilDone();
 
-    /// Copies the translators' files of every language into its locale folder, except incomplete translation
-    /// files.
+    /// Copies the translators' files of every language into its locale folder, except translation files that
+    /// are incomplete or that reasonToRefuse refuses, and files of more than Scan::maximumFileSize.
     void download();
+
+    /// How many translation files of a locale the last download refused.
+    int refusedFiles(const QString &locale) const { return m_refused.value(locale); }
 
 private:
     QString jobPath(const QString &suffix) const;
     void remove(const QString &path);
     void upload(const QString &source, const QString &target);
-    void download(const QString &source, const QString &target);
-    bool downloadFile(const QString &source, const QString &target);
+    bool isOnShare(const QString &path, int levels);
+    void download(const Nvx::Util::Language &language);
+    bool downloadFile(const QString &source, const QString &target, const QString &locale);
+    QString reasonAgainst(const QByteArray &answer, const QString &target, const QString &locale) const;
 
     LocaleFolders m_folders;
     QString m_shareFolder;
@@ -61,6 +79,7 @@ private:
     QStringList m_filePatterns;
     Nvx::Run::Reporter &m_reporter;
     Pause m_pause;
+    QMap<QString, int> m_refused; // by locale
 };
 
 } // namespace Localization

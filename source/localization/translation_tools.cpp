@@ -1,7 +1,6 @@
 #include "localization/translation_tools.h"
 
 #include "localization/locale_folders.h"
-#include "nvx_util/machine.h"
 #include "nvx_util/system.h"
 #include "run/reporter.h"
 
@@ -35,14 +34,16 @@ TranslationTools::TranslationTools(const StepContext &context, const QString &to
 {
 }
 
+bool TranslationTools::hasTools() const
+{
+    return QDir::isAbsolutePath(m_toolsFolder);
+}
+
 QString TranslationTools::find(const QString &name) const
 {
-    const QString folder = m_toolsFolder.isEmpty() ? m_context.machine.executableFolder() : m_toolsFolder;
-    QString tool = QStandardPaths::findExecutable(name, {folder});
-    if (tool.isEmpty() && m_toolsFolder.isEmpty())
-        tool = QStandardPaths::findExecutable(name);
+    const QString tool = QStandardPaths::findExecutable(name, {m_toolsFolder});
     // A missing tool is run all the same, so that the failure is in the log.
-    return tool.isEmpty() ? Nvx::Util::joinPath(folder, name) : QDir::toNativeSeparators(tool);
+    return tool.isEmpty() ? Nvx::Util::joinPath(m_toolsFolder, name) : QDir::toNativeSeparators(tool);
 }
 
 bool TranslationTools::copy(const QString &source, const QString &target)
@@ -60,6 +61,8 @@ bool TranslationTools::run(const QString &tool, const QStringList &arguments, co
 
 bool TranslationTools::update(const QString &project, const QString &translations)
 {
+    if (!hasTools())
+        return false;
     const QString draft = draftOf(translations);
     QFile::remove(draft);
     if (QFile::exists(translations) && !copy(translations, draft))
@@ -73,6 +76,8 @@ bool TranslationTools::update(const QString &project, const QString &translation
 
 bool TranslationTools::release(const QString &translations, const QString &compiled)
 {
+    if (!hasTools())
+        return false;
     const QString draft = draftOf(compiled);
     QFile::remove(draft);
     const QString folder = QDir::toNativeSeparators(QFileInfo(translations).path());

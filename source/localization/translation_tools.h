@@ -15,8 +15,12 @@ class TranslationTools
 public:
     static constexpr int timeLimitMs = 30000;
 
-    /// Uses the tools in the folder; if it is empty, those next to the executable, then those in the PATH.
+    /// Uses the tools in the folder, whose path is absolute. Otherwise no tool is run: others could have put
+    /// a program with its name into a folder that is searched.
     TranslationTools(const Nvx::Run::StepContext &context, const QString &toolsFolder);
+
+    /// False if the folder of the tools is not known.
+    bool hasTools() const;
 
     /// Updates the translation file from the sources of a qmake project. True on success.
     bool update(const QString &project, const QString &translations);

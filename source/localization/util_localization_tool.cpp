@@ -2,6 +2,7 @@
 
 #include "localization/locale_folders.h"
 #include "localization/translatable_texts.h"
+#include "localization/translation_answer.h"
 #include "localization/translation_tools.h"
 #include "materials/mat_translation_table.h"
 #include "nvx_util/languages.h"
@@ -113,6 +114,10 @@ void util_localization_tool::runScript()
     reporter.log(LogLevel::step, m_shareFolder);
     if (!hasRoot())
         reporter.log(LogLevel::failure, tr("No source folder was found; nothing is translated"));
+    else if (!TranslationTools(m_context, m_toolsFolder).hasTools())
+        reporter.log(LogLevel::failure,
+                     tr("localization.xml has no full path of a folder with lupdate and lrelease; "
+                        "nothing is updated or compiled"));
     LocaleFolders folders(m_rootFolder, reporter);
     folders.prepare();
     scanSources();
@@ -125,6 +130,7 @@ void util_localization_tool::runScript()
     folders.prepare();
     compile();
     copyRibbon();
+    summarize();
 }
 
 void util_localization_tool::scanSources()
@@ -220,6 +226,28 @@ void util_localization_tool::copyRibbon()
             m_context.reporter.log(LogLevel::failure, u"Copy fails:"_s + target);
     }
     m_context.reporter.log(LogLevel::step, u"Ribbon2D copied cool"_s);
+}
+
+void util_localization_tool::summarize()
+{
+    using State = Localization::TranslatedString::State;
+    if (!hasRoot())
+        return;
+    for (const Language &language : targetLanguages) {
+        qsizetype finished = 0;
+        qsizetype open = 0;
+        const QString folder = inRoot(u"Locale/"_s + language.locale);
+        for (const QString &name : Localization::matchingFiles(folder, {u"*.ts"_s})) {
+            const auto translations = Localization::translationsIn(joinPath(folder, name));
+            finished += translations.count(State::Finished);
+            open += translations.count(State::Open);
+        }
+        m_context.reporter.log(LogLevel::step, tr("%1: %2 texts finished, %3 open; %4 files refused")
+                                                   .arg(language.locale)
+                                                   .arg(finished)
+                                                   .arg(open)
+                                                   .arg(m_job->refusedFiles(language.locale)));
+    }
 }
 
 } // namespace util

@@ -42,6 +42,7 @@ private:
     void compile();
     void release(QLatin1StringView locale, const QString &translations, const QString &compiled);
     void copyRibbon();
+    void summarize();
 
     QString m_rootFolder;  ///< existing folder of sources and locale folders, or empty
     QString m_shareFolder; ///< folder of the files on the share; empty without a share

@@ -84,13 +84,15 @@ private slots:
         QVERIFY(QFile::exists(earlier));
     }
 
-    void aDoneFileWhoseProtectionStaysIsLogged()
+    void aLinkedDoneFileIsRemovedAndNotItsTarget()
     {
         const QString done = path("share/job/NVX360.done");
-        QVERIFY(linkTo(protectedFile(), done));
+        writeFile(path("target"), "untouched");
+        QVERIFY(linkTo(path("target"), done));
         job().writeJobFile();
-        QCOMPARE(m_reporter->lines.mid(0, 2),
-                 QStringList({u"1 can't remove"_s + done, u"1 "_s + done + u" still exist"_s}));
+        QCOMPARE(m_reporter->lines, QStringList{u"0 job file cool"_s});
+        QVERIFY(!QFileInfo(done).isSymbolicLink());
+        QCOMPARE(readFile(path("target")), QByteArray("untouched"));
     }
 
     void aLanguageWithoutAFolderOnTheShareIsLoggedAndTheOthersAreUploaded()
@@ -170,7 +172,7 @@ private slots:
 private:
     QString path(const char *name) const { return m_test->path(text(name)); }
     StepContext context() { return {*m_machine, *m_reporter, m_state}; }
-    Localization::TranslationTools tools() { return {context(), QString()}; }
+    Localization::TranslationTools tools() { return {context(), path("tools")}; }
 
     Localization::TranslationJob job()
     {

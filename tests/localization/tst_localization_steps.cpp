@@ -145,7 +145,45 @@ private slots:
         QVERIFY(timeout > 0);
         QCOMPARE(lines.at(timeout + 1), u"0 job done"_s);
         QVERIFY(lines.at(timeout + 2).startsWith(u"0 download"_s));
-        QCOMPARE(lines.last(), u"0 Ribbon2D copied cool"_s);
+        QVERIFY(lines.contains(u"0 Ribbon2D copied cool"_s));
+    }
+
+    void theLogEndsWithTheCountsOfEachLanguage()
+    {
+        const auto answerOf = [](const QByteArray &type, const QByteArray &language) {
+            return "<TS version=\"2.1\" language=\"" + language +
+                   "\"><context><name>A</name><message><source>a</source><translation>b</translation></"
+                   "message>"
+                   "<message><source>c</source><translation type=\"" +
+                   type + "\">d</translation></message></context></TS>";
+        };
+        m_machine->afterSleep = [&] {
+            if (m_machine->sleeps.size() != 2)
+                return;
+            writeFile(path("share/pTrans/NVX360/deu/client.ts"), answerOf("unfinished", "de_DE"));
+            writeFile(path("share/pTrans/NVX360/deu/matprop.ts"), answerOf("vanished", "de_DE"));
+            writeFile(path("share/pTrans/NVX360/fra/client.ts"), answerOf("", "de_DE"));
+            answer();
+        };
+        run();
+        const qsizetype end = m_reporter->lines.indexOf(u"0 Ribbon2D copied cool"_s);
+        QStringList expected = {u"0 de-DE: 2 texts finished, 1 open; 0 files refused"_s,
+                                u"0 fr-FR: 0 texts finished, 0 open; 1 files refused"_s};
+        QCOMPARE(m_reporter->lines.mid(end + 1, 2), expected);
+        QCOMPARE(m_reporter->lines.size(), end + 1 + qsizetype(Nvx::Util::targetLanguages.size()));
+    }
+
+    void withoutAFolderOfToolsNothingIsUpdatedOrCompiled()
+    {
+        writeFile(path("NVX/localization.xml"), "<localization><root>" + path("root").toUtf8() +
+                                                    "</root>"
+                                                    "</localization>");
+        run();
+        QVERIFY(m_machine->calls.isEmpty());
+        QCOMPARE(m_reporter->lines.at(2), u"1 localization.xml has no full path of a folder with lupdate and "
+                                          "lrelease; nothing is updated or compiled"_s);
+        QVERIFY(m_reporter->lines.contains(u"0 tr1 finishes cool"_s));
+        QVERIFY(m_reporter->lines.contains(u"0 release client de-DE"_s));
     }
 
     void aStepThatFailsHasItsLineAllTheSame()
@@ -200,9 +238,9 @@ private:
 
     void writeSettings(const QString &root)
     {
-        writeFile(path("NVX/localization.xml"),
-                  u"<localization><root>%1</root><share>%2</share></localization>"_s.arg(root, path("share"))
-                      .toUtf8());
+        const QString xml = u"<localization><root>%1</root><share>%2</share><qtTools>%3</qtTools>"
+                            "</localization>"_s.arg(root, path("share"), path("tools"));
+        writeFile(path("NVX/localization.xml"), xml.toUtf8());
     }
 
     void answer() { writeFile(path("share/pTrans/~cBuild/job/NVX360.done")); }

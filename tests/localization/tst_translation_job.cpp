@@ -17,6 +17,10 @@ namespace {
 
 const QByteArray whole = "<TS version=\"2.1\" language=\"de\"></TS>";
 
+const QByteArray finished = "<TS version=\"2.1\" language=\"de_DE\"><context><name>A</name><message>"
+                            "<source>Solve %1</source><translation>%1 lösen</translation></message>"
+                            "</context></TS>";
+
 QString native(const QString &path)
 {
     return QDir::toNativeSeparators(path);
@@ -40,6 +44,13 @@ private slots:
         writeFile(path("root/Locale/en-US/nvxconfig.ts"), whole);
         for (const char *locale : {"de-DE", "fr-FR", "it-IT", "ja-JP", "zh-CN", "zh-TW", "ko-KR", "ru-RU"})
             QVERIFY(QDir().mkpath(path("root/Locale/") + text(locale)));
+    }
+
+    void theJobFileHasALineForEachSource()
+    {
+        QCOMPARE(Localization::jobFile({u"client.ts"_s, text("prüfung.ts")}),
+                 QByteArray("enu\\client.ts\nenu\\prüfung.ts\n"));
+        QCOMPARE(Localization::jobFile({}), QByteArray());
     }
 
     void theJobFileListsTheExistingEnglishSources()
@@ -237,6 +248,79 @@ private slots:
         QCOMPARE(readFile(path("root/Locale/de-DE/matprop.ts")), whole);
         QVERIFY(
             m_reporter->lines.contains(u"1 download fails "_s + path("share/pTrans/NVX360/deu/client.ts")));
+    }
+
+    void aRefusedAnswerLeavesTheExistingFile_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        QTest::newRow("for another language") << QByteArray(finished).replace("de_DE", "fr_FR");
+        QTest::newRow("fewer finished texts")
+            << QByteArray(finished).replace("<translation>", "<translation type=\"unfinished\">");
+        QTest::newRow("other places") << QByteArray(finished).replace("%1 lösen", "lösen");
+    }
+
+    void aRefusedAnswerLeavesTheExistingFile()
+    {
+        QFETCH(const QByteArray, answer);
+        QVERIFY(answer != finished);
+        const QString target = path("root/Locale/de-DE/client.ts");
+        const QString source = path("share/pTrans/NVX360/deu/client.ts");
+        writeFile(target, finished);
+        writeFile(source, answer);
+        const auto refusing = job();
+        refusing->download();
+        QCOMPARE(readFile(target), finished);
+        const qsizetype failed = m_reporter->lines.indexOf(u"1 download fails "_s + source);
+        QVERIFY(failed > 0);
+        QVERIFY(m_reporter->lines.at(failed - 1).startsWith(u"1 %1 is refused: "_s.arg(source)));
+        QCOMPARE(refusing->refusedFiles(u"de-DE"_s), 1);
+        QCOMPARE(refusing->refusedFiles(u"fr-FR"_s), 0);
+        writeFile(source, finished);
+        refusing->download();
+        QCOMPARE(refusing->refusedFiles(u"de-DE"_s), 0);
+    }
+
+    void theFileThatIsThereAlreadyIsNotRefused()
+    {
+        const QByteArray odd = QByteArray(finished).replace("%1 lösen", "lösen");
+        writeFile(path("root/Locale/de-DE/client.ts"), odd);
+        writeFile(path("share/pTrans/NVX360/deu/client.ts"), odd);
+        job()->download();
+        QVERIFY(
+            !m_reporter->lines.contains(u"1 download fails "_s + path("share/pTrans/NVX360/deu/client.ts")));
+    }
+
+    void aTextThatLeftTheEnglishFileMayBeMissing()
+    {
+        writeFile(path("root/Locale/en-US/client.ts"),
+                  "<TS version=\"2.1\"><context><name>A</name><message><source>Other</source>"
+                  "<translation type=\"unfinished\"/></message></context></TS>");
+        writeFile(path("root/Locale/de-DE/client.ts"), finished);
+        writeFile(path("share/pTrans/NVX360/deu/client.ts"), whole);
+        job()->download();
+        QCOMPARE(readFile(path("root/Locale/de-DE/client.ts")), whole);
+    }
+
+    void aFileOfMoreThanTheLimitIsNotDownloaded()
+    {
+        const QString large = path("share/pTrans/NVX360/deu/words.csv");
+        writeFile(large, "words");
+        QVERIFY(QFile::resize(large, qint64{64} * 1024 * 1024 + 1));
+        job()->download();
+        QVERIFY(!QFile::exists(path("root/Locale/de-DE/words.csv")));
+        QVERIFY(m_reporter->lines.contains(u"1 %1 is refused: the file is larger than 64 MiB"_s.arg(large)));
+    }
+
+    void onlyTheFirstThousandFilesAreDownloaded()
+    {
+        for (int file = 0; file < 1001; ++file)
+            writeFile(path("share/pTrans/NVX360/deu/") + u"%1.csv"_s.arg(file, 4, 10, QChar(u'0')), "words");
+        job()->download();
+        QVERIFY(QFile::exists(path("root/Locale/de-DE/0999.csv")));
+        QVERIFY(!QFile::exists(path("root/Locale/de-DE/1000.csv")));
+        QVERIFY(
+            m_reporter->lines.contains(u"1 %1 has more than 1000 files; the others are not downloaded"_s.arg(
+                path("share/pTrans/NVX360/deu"))));
     }
 
     void aProtectedFileIsReplaced()

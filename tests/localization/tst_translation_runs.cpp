@@ -121,36 +121,59 @@ private slots:
 
     void theToolsInTheGivenFolderAreUsed()
     {
-        TranslationTools(context(), path("tools")).release(path("client.ts"), path("client.qm"));
-        QVERIFY2(m_machine->calls.first().program.startsWith(path("tools")),
-                 qPrintable(m_machine->calls.first().program));
-    }
-
-    void withoutAFolderTheToolNextToTheExecutableIsUsed()
-    {
-        const QString tool = path(LRELEASE_NAME);
-        writeFile(tool, "#!/bin/sh\n");
-        QVERIFY(QFile::setPermissions(tool, QFile::permissions(tool) | QFile::ExeOwner | QFile::ExeUser));
+        putTool("tools/" LRELEASE_NAME);
         tools().release(path("client.ts"), path("client.qm"));
-        QCOMPARE(m_machine->calls.first().program, tool);
+        QCOMPARE(m_machine->calls.first().program, path("tools/" LRELEASE_NAME));
     }
 
-    void otherwiseTheToolInThePathIsUsed()
+    void withoutAFullPathOfAFolderNoToolIsRun_data()
     {
-        const QString tool = path("path/" LRELEASE_NAME);
-        writeFile(tool, "#!/bin/sh\n");
-        QVERIFY(QFile::setPermissions(tool, QFile::permissions(tool) | QFile::ExeOwner | QFile::ExeUser));
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("no folder") << QString();
+        QTest::newRow("a folder relative to the current one") << u"tools"_s;
+    }
+
+    void withoutAFullPathOfAFolderNoToolIsRun()
+    {
+        QFETCH(const QString, folder);
+        putTool(LRELEASE_NAME);
+        putTool("path/" LRELEASE_NAME);
+        putTool("tools/" LRELEASE_NAME);
+        const QString before = QDir::currentPath();
+        const QByteArray pathBefore = qgetenv("PATH");
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+        qputenv("PATH", QFile::encodeName(path("path")));
+        TranslationTools tools(context(), folder);
+        const bool ran = tools.hasTools() || tools.update(path("client.pro"), path("client.ts")) ||
+                         tools.release(path("client.ts"), path("client.qm"));
+        qputenv("PATH", pathBefore);
+        QVERIFY(QDir::setCurrent(before));
+        QVERIFY(!ran);
+        QVERIFY(m_machine->calls.isEmpty());
+        QCOMPARE(readFile(path("client.ts")), QByteArray("old"));
+    }
+
+    void aToolThatIsMissingInTheFolderIsNotSearchedElsewhere()
+    {
+        putTool(LRELEASE_NAME);
+        putTool("path/" LRELEASE_NAME);
         const QByteArray before = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(path("path")));
         tools().release(path("client.ts"), path("client.qm"));
         qputenv("PATH", before);
-        QCOMPARE(m_machine->calls.first().program, tool);
+        QCOMPARE(m_machine->calls.first().program, path("tools/lrelease"));
     }
 
 private:
     QString path(const char *name) const { return m_folder->path(text(name)); }
     StepContext context() { return {*m_machine, *m_reporter, m_state}; }
-    TranslationTools tools() { return {context(), QString()}; }
+    TranslationTools tools() { return {context(), path("tools")}; }
+
+    void putTool(const char *name) const
+    {
+        writeFile(path(name), "#!/bin/sh\n");
+        QFile::setPermissions(path(name), QFile::permissions(path(name)) | QFile::ExeOwner | QFile::ExeUser);
+    }
 
     std::unique_ptr<TestFolder> m_folder;
     std::unique_ptr<RecordingMachine> m_machine;
