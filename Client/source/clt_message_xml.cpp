@@ -205,6 +205,13 @@ std::optional<Message> readMessage(XmlSource &xml, Leftovers &leftovers)
     return MessageReader(xml, leftovers).read();
 }
 
+std::optional<Message> readMessage(QXmlStreamReader &xml)
+{
+    QtXmlSource source(xml);
+    Leftovers leftovers;
+    return readMessage(source, leftovers);
+}
+
 MessageKey readMessageKey(XmlSource &xml, Leftovers &leftovers)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == "key", unit);

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+class QXmlStreamReader;
 class QXmlStreamWriter;
 
 namespace Clt {
@@ -37,6 +38,9 @@ class XmlSource;
 /// Reads the message at whose start element the source is, to its end; nullopt if the document ends or is
 /// malformed before that.
 std::optional<Message> readMessage(XmlSource &xml, Leftovers &leftovers);
+
+/// The same with Qt's reader at the start element.
+std::optional<Message> readMessage(QXmlStreamReader &xml);
 
 /// Reads the key at whose start element the source is, to its end or that of the document.
 MessageKey readMessageKey(XmlSource &xml, Leftovers &leftovers);
