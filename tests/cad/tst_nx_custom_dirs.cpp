@@ -188,12 +188,7 @@ private slots:
         QCOMPARE(withoutCustomDirsLines(contents, u"C:\\"_s + QChar(0xD800)), contents);
     }
 
-    void forAnyBytes_data()
-    {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= 40; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-    }
+    void forAnyBytes_data() { addSeedRows(40); }
 
     void forAnyBytes()
     {

@@ -190,12 +190,7 @@ private slots:
 
     // Each of our entries contains the launcher's name and is a piece of its own, and no "end" overlaps
     // another one. The following therefore holds for any bytes.
-    void forAnyBytes_data()
-    {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= 40; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-    }
+    void forAnyBytes_data() { addSeedRows(40); }
 
     void forAnyBytes()
     {

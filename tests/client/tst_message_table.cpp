@@ -233,11 +233,7 @@ private slots:
         table.insert(messageOf(p, p, p, u"ä"_s));
         QVERIFY(table.save(fileName));
         const QDateTime old = QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6));
-        {
-            QFile file(fileName);
-            QVERIFY(file.open(QIODevice::ReadWrite));
-            QVERIFY(file.setFileTime(old, QFileDevice::FileModificationTime));
-        }
+        QVERIFY(setChangeTime(fileName, old));
         QVERIFY(table.save(fileName));
         QCOMPARE(QFileInfo(fileName).lastModified(), old);
         table.insert(messageOf(p, p, p, u"ö"_s));

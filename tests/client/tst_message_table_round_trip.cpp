@@ -73,13 +73,6 @@ QStringList writtenTexts(const Message &message)
             message.severity() == Severity::Critical ? message.action() : QString()};
 }
 
-void seedRows()
-{
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= seeds; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-}
-
 } // namespace
 
 class tst_message_table_round_trip : public QObject
@@ -87,7 +80,7 @@ class tst_message_table_round_trip : public QObject
     Q_OBJECT
 
 private slots:
-    void writtenTablesReadBackUnchanged_data() { seedRows(); }
+    void writtenTablesReadBackUnchanged_data() { addSeedRows(seeds); }
 
     void writtenTablesReadBackUnchanged()
     {
@@ -104,7 +97,7 @@ private slots:
         }
     }
 
-    void droppedTitlesAndActionsReadBackEmpty_data() { seedRows(); }
+    void droppedTitlesAndActionsReadBackEmpty_data() { addSeedRows(seeds); }
 
     void droppedTitlesAndActionsReadBackEmpty()
     {
@@ -121,7 +114,7 @@ private slots:
         }
     }
 
-    void tablesThatWereReadAreWrittenUnchanged_data() { seedRows(); }
+    void tablesThatWereReadAreWrittenUnchanged_data() { addSeedRows(seeds); }
 
     void tablesThatWereReadAreWrittenUnchanged()
     {
@@ -133,7 +126,7 @@ private slots:
         QCOMPARE(written(*again), bytes);
     }
 
-    void writingFailsForACharacterThatXmlCannotRepresent_data() { seedRows(); }
+    void writingFailsForACharacterThatXmlCannotRepresent_data() { addSeedRows(seeds); }
 
     void writingFailsForACharacterThatXmlCannotRepresent()
     {

@@ -24,13 +24,6 @@ namespace {
 
 const QByteArray whole = "<TS version=\"2.1\" language=\"de\"></TS>";
 
-void addUnreadableFiles()
-{
-    QTest::addColumn<QString>("file");
-    QTest::newRow("cannot be opened") << closedFile();
-    QTest::newRow("reading fails") << breakingFile();
-}
-
 } // namespace
 
 class tst_localization_odd_files : public QObject
@@ -48,7 +41,7 @@ private slots:
         QVERIFY(QDir().mkpath(path("share/job")));
     }
 
-    void anUnreadableFileIsNotCopied_data() { addUnreadableFiles(); }
+    void anUnreadableFileIsNotCopied_data() { addUnreadableFileRows(); }
 
     void anUnreadableFileIsNotCopied()
     {
@@ -105,7 +98,7 @@ private slots:
         QCOMPARE(readFile(path("share/NVX360/fra/client.ts")), whole);
     }
 
-    void anUnreadableTranslationIsNotDownloaded_data() { addUnreadableFiles(); }
+    void anUnreadableTranslationIsNotDownloaded_data() { addUnreadableFileRows(); }
 
     void anUnreadableTranslationIsNotDownloaded()
     {
@@ -135,7 +128,7 @@ private slots:
         QCOMPARE(m_reporter->lines, QStringList(u"1 Permission fails:"_s + path("client.new.ts")));
     }
 
-    void whatAToolMadeIsNotPutIntoAFileWhoseProtectionStays()
+    void aFileWhoseProtectionStaysIsNotReplacedByTheOutputOfATool()
     {
         m_machine->whileRunning = [](const Nvx::Util::ProgramCall &call) {
             writeFile(call.arguments.last(), "new");

@@ -15,7 +15,7 @@ class tst_material_name_odd_files : public QObject
     Q_OBJECT
 
 private slots:
-    void unreadableDatabaseIsReportedAndTheTableRemains_data() { addFiles(); }
+    void unreadableDatabaseIsReportedAndTheTableRemains_data() { addUnreadableFileRows(); }
 
     void unreadableDatabaseIsReportedAndTheTableRemains()
     {
@@ -30,7 +30,7 @@ private slots:
         QVERIFY(!f.window.hasUnsavedChanges());
     }
 
-    void unreadableTableIsReportedAndTheOldOneRemains_data() { addFiles(); }
+    void unreadableTableIsReportedAndTheOldOneRemains_data() { addUnreadableFileRows(); }
 
     void unreadableTableIsReportedAndTheOldOneRemains()
     {
@@ -45,7 +45,7 @@ private slots:
         QCOMPARE(f.shownRows(), NameUtilityFixture::tableRows());
     }
 
-    void unreadableDatabaseIsAnError_data() { addFiles(); }
+    void unreadableDatabaseIsAnError_data() { addUnreadableFileRows(); }
 
     void unreadableDatabaseIsAnError()
     {
@@ -64,14 +64,6 @@ private slots:
         QVERIFY(!update);
         QVERIFY2(update.error().contains(errorOf(breakingFile())), qPrintable(update.error()));
         QVERIFY(QFileInfo(table).isSymLink());
-    }
-
-private:
-    static void addFiles()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::newRow("cannot be opened") << closedFile();
-        QTest::newRow("fails when read") << breakingFile();
     }
 };
 

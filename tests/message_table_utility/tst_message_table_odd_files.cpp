@@ -11,12 +11,7 @@ class tst_message_table_odd_files : public QObject
     Q_OBJECT
 
 private slots:
-    void unreadableTableIsReportedAndTheOldOneRemains_data()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::newRow("cannot be opened") << closedFile();
-        QTest::newRow("fails when read") << breakingFile();
-    }
+    void unreadableTableIsReportedAndTheOldOneRemains_data() { addUnreadableFileRows(); }
 
     void unreadableTableIsReportedAndTheOldOneRemains()
     {

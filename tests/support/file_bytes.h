@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -38,6 +39,13 @@ inline bool writeBytes(const QString &fileName, const QByteArray &bytes)
 {
     QFile file(fileName);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+}
+
+/// Sets the time of a file's last change; false if that fails.
+inline bool setChangeTime(const QString &fileName, const QDateTime &time)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFileDevice::FileModificationTime);
 }
 
 /// Writes a file and creates its folders. Ends the test program if that fails, since it could test nothing.

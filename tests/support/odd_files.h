@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QString>
+#include <QTest>
 
 // Files of the operating system that always fail as ordinary files do only after a fault. For Unix only.
 
@@ -15,6 +16,14 @@ inline QString breakingFile()
 inline QString closedFile()
 {
     return QStringLiteral("/sys/bus/cpu/uevent");
+}
+
+/// The rows "file" of a test with files that cannot be read.
+inline void addUnreadableFileRows()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("cannot be opened") << closedFile();
+    QTest::newRow("reading fails") << breakingFile();
 }
 
 /// The error message of the operating system when the file is read.

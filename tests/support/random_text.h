@@ -3,8 +3,17 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QTest>
 
 #include <random>
+
+/// The rows "seed" of a test that runs with the seeds from 1 to `last`.
+inline void addSeedRows(quint32 last)
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= last; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
 
 /// Random strings, reproducible by their seed on every system.
 class RandomText

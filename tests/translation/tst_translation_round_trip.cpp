@@ -43,13 +43,6 @@ QStringList shown(const TranslationTable &table)
     return shown;
 }
 
-void seedRows()
-{
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= seeds; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-}
-
 } // namespace
 
 class tst_translation_round_trip : public QObject
@@ -57,7 +50,7 @@ class tst_translation_round_trip : public QObject
     Q_OBJECT
 
 private slots:
-    void writtenTableIsReadUnchanged_data() { seedRows(); }
+    void writtenTableIsReadUnchanged_data() { addSeedRows(seeds); }
 
     void writtenTableIsReadUnchanged()
     {
@@ -70,7 +63,7 @@ private slots:
         QCOMPARE(shown(again), shown(table));
     }
 
-    void tableThatWasReadIsWrittenUnchanged_data() { seedRows(); }
+    void tableThatWasReadIsWrittenUnchanged_data() { addSeedRows(seeds); }
 
     void tableThatWasReadIsWrittenUnchanged()
     {
@@ -82,7 +75,7 @@ private slots:
     }
 
     // Wherever a file is cut, the messages read from it are the first ones of each context of the whole file.
-    void truncatedFileGivesOnlyWholeMessages_data() { seedRows(); }
+    void truncatedFileGivesOnlyWholeMessages_data() { addSeedRows(seeds); }
 
     void truncatedFileGivesOnlyWholeMessages()
     {
@@ -104,7 +97,7 @@ private slots:
         }
     }
 
-    void fileWithoutItsLastTagGivesEveryMessage_data() { seedRows(); }
+    void fileWithoutItsLastTagGivesEveryMessage_data() { addSeedRows(seeds); }
 
     void fileWithoutItsLastTagGivesEveryMessage()
     {

@@ -259,11 +259,7 @@ private slots:
         table.addString(clt, a);
         QVERIFY(table.save(fileName));
         const QDateTime old = QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6));
-        {
-            QFile file(fileName);
-            QVERIFY(file.open(QIODevice::ReadWrite));
-            QVERIFY(file.setFileTime(old, QFileDevice::FileModificationTime));
-        }
+        QVERIFY(setChangeTime(fileName, old));
         QVERIFY(table.save(fileName));
         QCOMPARE(QFileInfo(fileName).lastModified(), old);
     }

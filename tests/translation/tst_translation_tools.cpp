@@ -42,13 +42,6 @@ bool copyWithoutCodec(const QString &from, const QString &to)
     return first >= 0 && last > first && writeBytes(to, bytes->remove(first, last + end.size() - first));
 }
 
-void tableRows()
-{
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 12; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-}
-
 } // namespace
 
 class tst_translation_tools : public QObject
@@ -94,7 +87,7 @@ private slots:
         QVERIFY2(updated.exitCode == 0, updated.output.constData());
     }
 
-    void toolsAcceptRandomTables_data() { tableRows(); }
+    void toolsAcceptRandomTables_data() { addSeedRows(12); }
 
     void toolsAcceptRandomTables()
     {

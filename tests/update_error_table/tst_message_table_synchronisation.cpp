@@ -133,10 +133,7 @@ private slots:
         QVERIFY(synchronizeMessageTable(table, project, log, stream).outcome);
 
         const QDateTime longAgo = QDateTime::fromSecsSinceEpoch(1'000'000'000);
-        QFile file(table);
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
-        file.close();
+        QVERIFY(setChangeTime(table, longAgo));
         QVERIFY(synchronizeMessageTable(table, project, log, stream).outcome);
         QCOMPARE(QFileInfo(table).lastModified(), longAgo);
     }

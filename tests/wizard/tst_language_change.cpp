@@ -29,17 +29,6 @@ QString catalogue(const QString &locale, const QString &name)
     return text(NVX_LANGUAGES_FOLDER) + u'/' + locale + u'/' + name;
 }
 
-ClassWizard *shownWizard()
-{
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        auto *wizard = qobject_cast<ClassWizard *>(window);
-        if (wizard && wizard->isVisible())
-            return wizard;
-    }
-    return nullptr;
-}
-
 // The texts of a wizard: the titles of its pages, its Next button and the selected language.
 QString textsOf(const ClassWizard &wizard)
 {

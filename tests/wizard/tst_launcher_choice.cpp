@@ -20,17 +20,6 @@ RegistryKey spaceClaim()
     return RegistryKey(u"HKEY_LOCAL_MACHINE\\Software\\Classes\\SpaceClaim.Location"_s);
 }
 
-ClassWizard *shownWizard()
-{
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        auto *wizard = qobject_cast<ClassWizard *>(window);
-        if (wizard && wizard->isVisible())
-            return wizard;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 class tst_launcher_choice : public QObject

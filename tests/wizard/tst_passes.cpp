@@ -1,7 +1,7 @@
 #include "cfg_wizard/start_up.h"
-#include "engine/engine_fixture.h"
 #include "nvx_util/system.h"
 #include "support/test_class.h"
+#include "wizard/wizard_fixture.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -341,17 +341,6 @@ private slots:
 private:
     // Closes the wizard soon after it is shown.
     void closeSoon() { m_close.start(200); }
-
-    static QWizard *shownWizard()
-    {
-        const auto windows = QApplication::topLevelWidgets();
-        for (QWidget *window : windows) {
-            auto *wizard = qobject_cast<QWizard *>(window);
-            if (wizard && wizard->isVisible())
-                return wizard;
-        }
-        return nullptr;
-    }
 
     QTimer m_close;
     std::unique_ptr<EngineFixture> m_fixture;

@@ -5,6 +5,7 @@
 #include "engine/engine_fixture.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QLabel>
 #include <QListWidget>
 
@@ -55,6 +56,18 @@ public:
 
     std::unique_ptr<ClassWizard> wizard;
 };
+
+/// The wizard that is on the screen; null if none is.
+inline ClassWizard *shownWizard()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *wizard = qobject_cast<ClassWizard *>(window);
+        if (wizard && wizard->isVisible())
+            return wizard;
+    }
+    return nullptr;
+}
 
 /// The titles of a wizard's pages in their order, joined by "|".
 inline QString titlesOf(const QWizard &wizard)
