@@ -127,7 +127,7 @@ QString nameOf(const Entry &entry)
     return entry.context + u": "_s + entry.source;
 }
 
-QStringList offenders(const QList<Entry> &entries, bool (*check)(const Entry &))
+QStringList failingTexts(const QList<Entry> &entries, bool (*check)(const Entry &))
 {
     QStringList names;
     for (const Entry &entry : entries) {

@@ -33,7 +33,7 @@ QString withoutAccessKeys(QString text);
 QString nameOf(const Entry &entry);
 
 /// The texts that fail a check, as "context: source".
-QStringList offenders(const QList<Entry> &entries, bool (*check)(const Entry &));
+QStringList failingTexts(const QList<Entry> &entries, bool (*check)(const Entry &));
 
 /// The texts of the reference that are not among the entries, as "context: source". Texts differ if their
 /// contexts, sources or comments differ.

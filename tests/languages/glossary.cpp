@@ -111,7 +111,8 @@ Glossary readGlossary(QIODevice &device)
     return {reader.terms(), faults};
 }
 
-QStringList otherwiseTranslated(const Glossary &glossary, const QList<Entry> &entries, const QString &locale)
+QStringList textsWithoutTheirTerms(const Glossary &glossary, const QList<Entry> &entries,
+                                   const QString &locale)
 {
     QStringList names;
     for (const Term &term : glossary.terms) {
@@ -147,7 +148,7 @@ QStringList untranslatedTerms(const Glossary &glossary, const QStringList &local
     return names;
 }
 
-QStringList needlessExceptions(const Glossary &glossary, const QList<Entry> &entries, const QString &locale)
+QStringList unneededExceptions(const Glossary &glossary, const QList<Entry> &entries, const QString &locale)
 {
     QStringList names;
     for (const Term &term : glossary.terms) {

@@ -24,7 +24,8 @@ Glossary readGlossary(QIODevice &device);
 
 /// The texts that contain a term but not its translation, as "context: source [term]". Skips exceptions, and
 /// terms without a translation into the locale.
-QStringList otherwiseTranslated(const Glossary &glossary, const QList<Entry> &entries, const QString &locale);
+QStringList textsWithoutTheirTerms(const Glossary &glossary, const QList<Entry> &entries,
+                                   const QString &locale);
 
 /// The terms that no text contains.
 QStringList unusedTerms(const Glossary &glossary, const QList<Entry> &entries);
@@ -34,4 +35,4 @@ QStringList untranslatedTerms(const Glossary &glossary, const QStringList &local
 
 /// The unneeded exceptions of the locale, as "text [term]": the text no longer exists, does not contain the
 /// term, or contains the translation.
-QStringList needlessExceptions(const Glossary &glossary, const QList<Entry> &entries, const QString &locale);
+QStringList unneededExceptions(const Glossary &glossary, const QList<Entry> &entries, const QString &locale);

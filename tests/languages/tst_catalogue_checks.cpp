@@ -45,24 +45,24 @@ class tst_catalogue_checks : public QObject
     Q_OBJECT
 
 private slots:
-    void aCheckTellsGoodFromBad_data();
-    void aCheckTellsGoodFromBad();
+    void everyCheckAcceptsCorrectAndRejectsFaultyTexts_data();
+    void everyCheckAcceptsCorrectAndRejectsFaultyTexts();
     void aTextIsTranslatedWhenItIsFinished();
     void aTextWithoutAnyFormIsNotTranslated();
-    void oneBadPluralFormIsEnough();
-    void anOffenderIsNamedByContextAndSource();
-    void textsAreToldApartByContextSourceAndComment();
+    void aTextFailsIfOneOfItsPluralFormsFails();
+    void aFailingTextIsReportedByContextAndSource();
+    void textsDifferByContextSourceOrComment();
 
-    void aMessageIsReadWhole();
-    void pluralFormsAreReadOneByOne();
+    void allPartsOfAMessageAreRead();
+    void everyPluralFormIsRead();
     void theStateIsRead_data();
     void theStateIsRead();
-    void whatIsNoCatalogueIsNotRead_data();
-    void whatIsNoCatalogueIsNotRead();
+    void aFileThatIsNoCatalogueIsRejected_data();
+    void aFileThatIsNoCatalogueIsRejected();
     void theListNamesTheFoldersOfEachCatalogue();
 };
 
-void tst_catalogue_checks::aCheckTellsGoodFromBad_data()
+void tst_catalogue_checks::everyCheckAcceptsCorrectAndRejectsFaultyTexts_data()
 {
     QTest::addColumn<Check>("check");
     QTest::addColumn<QString>("source");
@@ -121,7 +121,7 @@ void tst_catalogue_checks::aCheckTellsGoodFromBad_data()
     addRow("one dot is no ellipsis", keepsEllipses, "No. 1", "N. 1.", true);
 }
 
-void tst_catalogue_checks::aCheckTellsGoodFromBad()
+void tst_catalogue_checks::everyCheckAcceptsCorrectAndRejectsFaultyTexts()
 {
     QFETCH(Check, check);
     QFETCH(QString, source);
@@ -142,7 +142,7 @@ void tst_catalogue_checks::aTextWithoutAnyFormIsNotTranslated()
     QVERIFY(!isTranslated(entryOf(u"%n rows"_s, {})));
 }
 
-void tst_catalogue_checks::oneBadPluralFormIsEnough()
+void tst_catalogue_checks::aTextFailsIfOneOfItsPluralFormsFails()
 {
     const Entry empty = entryOf(u"%n rows"_s, {u"%n Zeile"_s, QString()});
     QVERIFY(!isTranslated(empty));
@@ -152,13 +152,13 @@ void tst_catalogue_checks::oneBadPluralFormIsEnough()
     QVERIFY(!keepsOuterBlanks(blank));
 }
 
-void tst_catalogue_checks::anOffenderIsNamedByContextAndSource()
+void tst_catalogue_checks::aFailingTextIsReportedByContextAndSource()
 {
     const QList<Entry> entries{entryOf(u"Yes"_s, {u"Ja"_s}), entryOf(u"No"_s, {QString()})};
-    QCOMPARE(offenders(entries, isTranslated), QStringList{u"Context: No"_s});
+    QCOMPARE(failingTexts(entries, isTranslated), QStringList{u"Context: No"_s});
 }
 
-void tst_catalogue_checks::textsAreToldApartByContextSourceAndComment()
+void tst_catalogue_checks::textsDifferByContextSourceOrComment()
 {
     const Entry entry = entryOf(u"Yes"_s, {u"Ja"_s});
     Entry otherContext = entry;
@@ -175,7 +175,7 @@ void tst_catalogue_checks::textsAreToldApartByContextSourceAndComment()
     QCOMPARE(missing, (QStringList{u"Page: Yes"_s, u"Context: No"_s, u"Context: Yes"_s}));
 }
 
-void tst_catalogue_checks::aMessageIsReadWhole()
+void tst_catalogue_checks::allPartsOfAMessageAreRead()
 {
     const auto catalogue =
         read(catalogueOf("<message><location line=\"7\"/><source> A &amp;\n%1 </source>"
@@ -191,7 +191,7 @@ void tst_catalogue_checks::aMessageIsReadWhole()
     QCOMPARE(entry.translations, QStringList{u" B\n%1 "_s});
 }
 
-void tst_catalogue_checks::pluralFormsAreReadOneByOne()
+void tst_catalogue_checks::everyPluralFormIsRead()
 {
     const auto catalogue = read(catalogueOf(
         "<message numerus=\"yes\"><source>%n rows</source><translation><numerusform>%n Zeile</numerusform>"
@@ -221,7 +221,7 @@ void tst_catalogue_checks::theStateIsRead()
     QTEST(catalogue->entries.first().state, "state");
 }
 
-void tst_catalogue_checks::whatIsNoCatalogueIsNotRead_data()
+void tst_catalogue_checks::aFileThatIsNoCatalogueIsRejected_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("nothing") << QByteArray();
@@ -230,7 +230,7 @@ void tst_catalogue_checks::whatIsNoCatalogueIsNotRead_data()
     QTest::newRow("an element inside a text") << catalogueOf("<message><source>a<b/></source></message>");
 }
 
-void tst_catalogue_checks::whatIsNoCatalogueIsNotRead()
+void tst_catalogue_checks::aFileThatIsNoCatalogueIsRejected()
 {
     QFETCH(QByteArray, text);
     QVERIFY(!read(text));

@@ -136,7 +136,7 @@ void expectEveryEntryToPass(bool (*check)(const Entry &))
     const auto catalogue = readFile(languagesFolder().filePath(file));
     QVERIFY(catalogue);
     QVERIFY(!catalogue->entries.isEmpty());
-    expectNone(offenders(catalogue->entries, check), "to be corrected in %1");
+    expectNone(failingTexts(catalogue->entries, check), "to be corrected in %1");
 }
 
 // The same for a check of the file's typography.
@@ -145,7 +145,7 @@ void expectTypographyToPass(TypographyCheck check)
     QFETCH(QString, file);
     const auto catalogue = readFile(languagesFolder().filePath(file));
     QVERIFY(catalogue);
-    expectNone(offenders(catalogue->entries, localeOfFile(file), check), "to be corrected in %1");
+    expectNone(failingTexts(catalogue->entries, localeOfFile(file), check), "to be corrected in %1");
 }
 
 } // namespace
@@ -157,8 +157,8 @@ class tst_catalogues : public QObject
 private slots:
     void initTestCase();
 
-    void thereIsOneForEachLocale_data();
-    void thereIsOneForEachLocale();
+    void everyLocaleHasACatalogue_data();
+    void everyLocaleHasACatalogue();
     void catalogueNamesItsLanguage_data() { addFileRows(); }
     void catalogueNamesItsLanguage();
     void everyTextIsTranslated_data() { addFileRows(); }
@@ -175,14 +175,14 @@ private slots:
     void optionsAreKept() { expectEveryEntryToPass(keepsOptions); }
     void ellipsesAreKept_data() { addFileRows(); }
     void ellipsesAreKept() { expectEveryEntryToPass(keepsEllipses); }
-    void quotesAreTheLanguages_data() { addFileRows(); }
-    void quotesAreTheLanguages() { expectTypographyToPass(usesOwnQuotes); }
-    void blanksAreTheLanguages_data() { addFileRows(); }
-    void blanksAreTheLanguages() { expectTypographyToPass(spacesAsItsLanguage); }
-    void punctuationIsTheLanguages_data() { addFileRows(); }
-    void punctuationIsTheLanguages() { expectTypographyToPass(usesOwnPunctuation); }
-    void dashesAreTheLanguages_data() { addFileRows(); }
-    void dashesAreTheLanguages() { expectTypographyToPass(usesOwnDash); }
+    void quotationMarksFollowTheLanguage_data() { addFileRows(); }
+    void quotationMarksFollowTheLanguage() { expectTypographyToPass(usesOwnQuotes); }
+    void blanksFollowTheLanguage_data() { addFileRows(); }
+    void blanksFollowTheLanguage() { expectTypographyToPass(usesOwnSpacing); }
+    void punctuationFollowsTheLanguage_data() { addFileRows(); }
+    void punctuationFollowsTheLanguage() { expectTypographyToPass(usesOwnPunctuation); }
+    void dashesFollowTheLanguage_data() { addFileRows(); }
+    void dashesFollowTheLanguage() { expectTypographyToPass(usesOwnDash); }
     void aTermHasOneTranslation_data() { addFileRows(); }
     void aTermHasOneTranslation();
     void theGlossaryIsCompleteAndHasNoUnusedEntries();
@@ -196,7 +196,7 @@ void tst_catalogues::initTestCase()
     QVERIFY(!listedCatalogues().isEmpty());
 }
 
-void tst_catalogues::thereIsOneForEachLocale_data()
+void tst_catalogues::everyLocaleHasACatalogue_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("locale");
@@ -208,7 +208,7 @@ void tst_catalogues::thereIsOneForEachLocale_data()
     }
 }
 
-void tst_catalogues::thereIsOneForEachLocale()
+void tst_catalogues::everyLocaleHasACatalogue()
 {
     QFETCH(QString, name);
     QFETCH(QString, locale);
@@ -229,7 +229,7 @@ void tst_catalogues::aTermHasOneTranslation()
     QFETCH(QString, file);
     const auto catalogue = readFile(languagesFolder().filePath(file));
     QVERIFY(catalogue);
-    expectNone(otherwiseTranslated(glossary(), catalogue->entries, localeOfFile(file)),
+    expectNone(textsWithoutTheirTerms(glossary(), catalogue->entries, localeOfFile(file)),
                "against tests/languages/glossary.txt in %1");
 }
 
@@ -243,7 +243,7 @@ void tst_catalogues::theGlossaryIsCompleteAndHasNoUnusedEntries()
     for (const QString &locale : locales) {
         const QList<Entry> entries = entriesOf(locale);
         QCOMPARE(unusedTerms(terms, entries), QStringList());
-        QCOMPARE(needlessExceptions(terms, entries, locale), QStringList());
+        QCOMPARE(unneededExceptions(terms, entries, locale), QStringList());
     }
 }
 

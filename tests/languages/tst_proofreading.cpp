@@ -39,30 +39,30 @@ class tst_proofreading : public QObject
     Q_OBJECT
 
 private slots:
-    void quotesAreTheLanguages_data();
-    void quotesAreTheLanguages() { aTypographyCheckTellsGoodFromBad(); }
-    void blanksAreTheLanguages_data();
-    void blanksAreTheLanguages() { aTypographyCheckTellsGoodFromBad(); }
-    void punctuationAndDashesAreTheLanguages_data();
-    void punctuationAndDashesAreTheLanguages() { aTypographyCheckTellsGoodFromBad(); }
-    void aDashThatSeparatesPartsOfALineStays();
-    void theSourcesOwnTextIsNotJudged();
-    void noTypographyIsNotAGoodOne();
-    void everyFormIsJudged();
+    void quotationMarksFollowTheLanguage_data();
+    void quotationMarksFollowTheLanguage() { compareWithTheRow(); }
+    void blanksFollowTheLanguage_data();
+    void blanksFollowTheLanguage() { compareWithTheRow(); }
+    void punctuationAndDashesFollowTheLanguage_data();
+    void punctuationAndDashesFollowTheLanguage() { compareWithTheRow(); }
+    void aDashBetweenPartsOfALogLineIsUnchanged();
+    void aTranslationThatEqualsItsSourceIsNotChecked();
+    void everyCheckFailsForALanguageWithoutTypography();
+    void everyPluralFormIsChecked();
 
-    void aTermIsTranslatedAlike_data();
-    void aTermIsTranslatedAlike();
+    void aTextWithATermContainsItsTranslation_data();
+    void aTextWithATermContainsItsTranslation();
     void anExceptionHoldsForItsTextAndLanguageOnly();
-    void aTermThatNoTextHoldsIsNamed();
-    void aTermWithoutATranslationIsNamed();
-    void anExceptionThatIsNotNeededIsNamed_data();
-    void anExceptionThatIsNotNeededIsNamed();
-    void aLineThatIsNoneOfAGlossaryIsNamed_data();
-    void aLineThatIsNoneOfAGlossaryIsNamed();
+    void anUnusedTermIsReported();
+    void aTermWithoutATranslationIsReported();
+    void anUnneededExceptionIsReported_data();
+    void anUnneededExceptionIsReported();
+    void aFaultyGlossaryLineIsReported_data();
+    void aFaultyGlossaryLineIsReported();
 
 private:
     static void addTypographyColumns();
-    static void aTypographyCheckTellsGoodFromBad();
+    static void compareWithTheRow();
 };
 
 void tst_proofreading::addTypographyColumns()
@@ -73,7 +73,7 @@ void tst_proofreading::addTypographyColumns()
     QTest::addColumn<bool>("holds");
 }
 
-void tst_proofreading::aTypographyCheckTellsGoodFromBad()
+void tst_proofreading::compareWithTheRow()
 {
     QFETCH(TypographyCheck, check);
     QFETCH(QString, locale);
@@ -81,7 +81,7 @@ void tst_proofreading::aTypographyCheckTellsGoodFromBad()
     QTEST(check(entryOf(u"source"_s, {translation}), locale), "holds");
 }
 
-void tst_proofreading::quotesAreTheLanguages_data()
+void tst_proofreading::quotationMarksFollowTheLanguage_data()
 {
     addTypographyColumns();
     const auto add = [](const char *name, const char *locale, const char *translation, bool holds) {
@@ -111,11 +111,11 @@ void tst_proofreading::quotesAreTheLanguages_data()
     add("an apostrophe after a word", "it-IT", "un po' di", false);
 }
 
-void tst_proofreading::blanksAreTheLanguages_data()
+void tst_proofreading::blanksFollowTheLanguage_data()
 {
     addTypographyColumns();
     const auto add = [](const char *name, const char *locale, const char *translation, bool holds) {
-        addLanguageRow(name, spacesAsItsLanguage, locale, translation, holds);
+        addLanguageRow(name, usesOwnSpacing, locale, translation, holds);
     };
     add("French, no-break", "fr-FR", "«\u00a0%1\u00a0»\u00a0; oui\u00a0? non\u00a0!\nAh\u00a0: ", true);
     add("French, a plain blank", "fr-FR", "Ligne %1 : %2", false);
@@ -151,18 +151,18 @@ void tst_proofreading::blanksAreTheLanguages_data()
     add("a full-width colon before the outer blank", "zh-CN", "语言： ", true);
 }
 
-void tst_proofreading::punctuationAndDashesAreTheLanguages_data()
+void tst_proofreading::punctuationAndDashesFollowTheLanguage_data()
 {
     addTypographyColumns();
     addLanguageRow("Chinese", usesOwnPunctuation, "zh-CN", "是，否：%1（无）。是否？\n正在...", true);
     addLanguageRow("Chinese, an access key", usesOwnPunctuation, "zh-TW", "複製(&C)", true);
-    addLanguageRow("Chinese, a typewriter colon", usesOwnPunctuation, "zh-CN", "语言:", false);
-    addLanguageRow("Chinese, typewriter parentheses", usesOwnPunctuation, "zh-TW", "篩選 (Ctrl+F)", false);
-    addLanguageRow("Chinese, a typewriter full stop", usesOwnPunctuation, "zh-TW", "不存在.", false);
+    addLanguageRow("Chinese, a half-width colon", usesOwnPunctuation, "zh-CN", "语言:", false);
+    addLanguageRow("Chinese, half-width parentheses", usesOwnPunctuation, "zh-TW", "篩選 (Ctrl+F)", false);
+    addLanguageRow("Chinese, a half-width full stop", usesOwnPunctuation, "zh-TW", "不存在.", false);
     addLanguageRow("Chinese, a file's suffix", usesOwnPunctuation, "zh-CN", "报告的 .pyc 文件", true);
     addLanguageRow("Japanese", usesOwnPunctuation, "ja-JP", "新規: %1、既存 (%2)。保存しますか?", true);
-    addLanguageRow("Japanese, a typewriter comma", usesOwnPunctuation, "ja-JP", "新規, 既存", false);
-    addLanguageRow("Japanese, a typewriter full stop", usesOwnPunctuation, "ja-JP", "です.", false);
+    addLanguageRow("Japanese, a half-width comma", usesOwnPunctuation, "ja-JP", "新規, 既存", false);
+    addLanguageRow("Japanese, a half-width full stop", usesOwnPunctuation, "ja-JP", "です.", false);
     addLanguageRow("Japanese, a full-width colon", usesOwnPunctuation, "ja-JP", "新規：", false);
     addLanguageRow("Korean, a full-width full stop", usesOwnPunctuation, "ko-KR", "없습니다。", false);
     addLanguageRow("Russian, a full-width colon", usesOwnPunctuation, "ru-RU", "Язык：", false);
@@ -175,34 +175,34 @@ void tst_proofreading::punctuationAndDashesAreTheLanguages_data()
     addLanguageRow("French, one good and one bad", usesOwnDash, "fr-FR", " - échec – oui", false);
 }
 
-void tst_proofreading::aDashThatSeparatesPartsOfALineStays()
+void tst_proofreading::aDashBetweenPartsOfALogLineIsUnchanged()
 {
     const QString line = u"Program startup - empty"_s;
     QVERIFY(usesOwnDash(entryOf(line, {QString::fromUtf8("Programmstart - leer")}), u"de-DE"_s));
     QVERIFY(!usesOwnDash(entryOf(line, {QString::fromUtf8("Programmstart – leer")}), u"de-DE"_s));
 }
 
-void tst_proofreading::theSourcesOwnTextIsNotJudged()
+void tst_proofreading::aTranslationThatEqualsItsSourceIsNotChecked()
 {
     const QString code = u"zorv :"_s;
-    QVERIFY(spacesAsItsLanguage(entryOf(code, {code}), u"de-DE"_s));
-    QVERIFY(!spacesAsItsLanguage(entryOf(u"zorv:"_s, {code}), u"de-DE"_s));
+    QVERIFY(usesOwnSpacing(entryOf(code, {code}), u"de-DE"_s));
+    QVERIFY(!usesOwnSpacing(entryOf(u"zorv:"_s, {code}), u"de-DE"_s));
 }
 
-void tst_proofreading::noTypographyIsNotAGoodOne()
+void tst_proofreading::everyCheckFailsForALanguageWithoutTypography()
 {
     const Entry entry = entryOf(u"Yes"_s, {u"Sim"_s});
-    for (const TypographyCheck check : {usesOwnQuotes, spacesAsItsLanguage, usesOwnPunctuation, usesOwnDash})
+    for (const TypographyCheck check : {usesOwnQuotes, usesOwnSpacing, usesOwnPunctuation, usesOwnDash})
         QVERIFY(!check(entry, u"pt-PT"_s));
 }
 
-void tst_proofreading::everyFormIsJudged()
+void tst_proofreading::everyPluralFormIsChecked()
 {
     const Entry entry = entryOf(u"%n rows"_s, {u"%n Zeile"_s, u"%n \"Zeilen\""_s});
-    QCOMPARE(offenders({entry}, u"de-DE"_s, usesOwnQuotes), QStringList{u"Context: %n rows"_s});
+    QCOMPARE(failingTexts({entry}, u"de-DE"_s, usesOwnQuotes), QStringList{u"Context: %n rows"_s});
 }
 
-void tst_proofreading::aTermIsTranslatedAlike_data()
+void tst_proofreading::aTextWithATermContainsItsTranslation_data()
 {
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("translation");
@@ -219,16 +219,16 @@ void tst_proofreading::aTermIsTranslatedAlike_data()
     add("an access key in the word", "&Open folder", "O&rdner öffnen", true);
 }
 
-void tst_proofreading::aTermIsTranslatedAlike()
+void tst_proofreading::aTextWithATermContainsItsTranslation()
 {
     QFETCH(QString, source);
     QFETCH(QString, translation);
     const Glossary glossary = glossaryOf("# terms\n\n[folders?]\nde-DE = ordner|mappe\r\n");
     QCOMPARE(glossary.faults, QStringList());
     const Entry entry = entryOf(source, {translation});
-    const QStringList offending = otherwiseTranslated(glossary, {entry}, u"de-DE"_s);
-    QTEST(offending.isEmpty(), "holds");
-    QVERIFY(offending.isEmpty() || offending.first() == u"Context: %1 [folders?]"_s.arg(source));
+    const QStringList failing = textsWithoutTheirTerms(glossary, {entry}, u"de-DE"_s);
+    QTEST(failing.isEmpty(), "holds");
+    QVERIFY(failing.isEmpty() || failing.first() == u"Context: %1 [folders?]"_s.arg(source));
 }
 
 void tst_proofreading::anExceptionHoldsForItsTextAndLanguageOnly()
@@ -238,62 +238,62 @@ void tst_proofreading::anExceptionHoldsForItsTextAndLanguageOnly()
     QCOMPARE(glossary.faults, QStringList());
     const Entry excepted = entryOf(u"folder\n= 1"_s, {u"x"_s});
     const Entry other = entryOf(u"folder"_s, {u"x"_s});
-    QCOMPARE(otherwiseTranslated(glossary, {excepted, other}, u"de-DE"_s),
+    QCOMPARE(textsWithoutTheirTerms(glossary, {excepted, other}, u"de-DE"_s),
              QStringList{u"Context: folder [folder]"_s});
-    QCOMPARE(otherwiseTranslated(glossary, {excepted}, u"fr-FR"_s).size(), 1);
+    QCOMPARE(textsWithoutTheirTerms(glossary, {excepted}, u"fr-FR"_s).size(), 1);
 }
 
-void tst_proofreading::aTermThatNoTextHoldsIsNamed()
+void tst_proofreading::anUnusedTermIsReported()
 {
     const Glossary glossary = glossaryOf("[folder]\n[file]\n");
     QCOMPARE(unusedTerms(glossary, {entryOf(u"A folder"_s, {})}), QStringList{u"file"_s});
 }
 
-void tst_proofreading::aTermWithoutATranslationIsNamed()
+void tst_proofreading::aTermWithoutATranslationIsReported()
 {
     const Glossary glossary = glossaryOf("[folder]\nde-DE = Ordner\n");
     QCOMPARE(untranslatedTerms(glossary, {u"de-DE"_s, u"fr-FR"_s}), QStringList{u"fr-FR [folder]"_s});
 }
 
-void tst_proofreading::anExceptionThatIsNotNeededIsNamed_data()
+void tst_proofreading::anUnneededExceptionIsReported_data()
 {
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("translation");
     QTest::addColumn<bool>("needed");
     QTest::newRow("needed") << "Open folder"
                             << "Öffnen" << true;
-    QTest::newRow("the text is gone") << "Close folder"
-                                      << "Zu" << false;
-    QTest::newRow("it is translated alike") << "Open folder"
+    QTest::newRow("the text no longer exists") << "Close folder"
+                                               << "Zu" << false;
+    QTest::newRow("the term is translated") << "Open folder"
                                             << "Ordner öffnen" << false;
 }
 
-void tst_proofreading::anExceptionThatIsNotNeededIsNamed()
+void tst_proofreading::anUnneededExceptionIsReported()
 {
     QFETCH(QString, source);
     QFETCH(QString, translation);
     const Glossary glossary = glossaryOf("[folder]\nde-DE = Ordner\nexcept de-DE: Open folder = why\n");
-    const QStringList needless = needlessExceptions(glossary, {entryOf(source, {translation})}, u"de-DE"_s);
-    QTEST(needless.isEmpty(), "needed");
-    QVERIFY(needless.isEmpty() || needless.first() == "Open folder [folder]"_L1);
+    const QStringList unneeded = unneededExceptions(glossary, {entryOf(source, {translation})}, u"de-DE"_s);
+    QTEST(unneeded.isEmpty(), "needed");
+    QVERIFY(unneeded.isEmpty() || unneeded.first() == "Open folder [folder]"_L1);
 }
 
-void tst_proofreading::aLineThatIsNoneOfAGlossaryIsNamed_data()
+void tst_proofreading::aFaultyGlossaryLineIsReported_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::newRow("no locale") << QByteArray("Ordner");
-    QTest::newRow("another form of locale") << QByteArray("de_DE = Ordner");
-    QTest::newRow("a locale for the second time") << QByteArray("fr-FR = répertoire");
+    QTest::newRow("a locale with an underscore") << QByteArray("de_DE = Ordner");
+    QTest::newRow("the same locale twice") << QByteArray("fr-FR = répertoire");
     QTest::newRow("no translation") << QByteArray("de-DE = ");
-    QTest::newRow("a translation that is no pattern") << QByteArray("de-DE = (Ordner");
-    QTest::newRow("a term that is no pattern") << QByteArray("[(folder]");
+    QTest::newRow("an invalid pattern as translation") << QByteArray("de-DE = (Ordner");
+    QTest::newRow("an invalid pattern as term") << QByteArray("[(folder]");
     QTest::newRow("an empty term") << QByteArray("[]");
     QTest::newRow("an exception without a reason") << QByteArray("except de-DE: Open folder");
     QTest::newRow("an exception with a blank reason") << QByteArray("except de-DE: Open folder =  ");
     QTest::newRow("an exception without a locale") << QByteArray("except Open folder = why");
 }
 
-void tst_proofreading::aLineThatIsNoneOfAGlossaryIsNamed()
+void tst_proofreading::aFaultyGlossaryLineIsReported()
 {
     QFETCH(QByteArray, line);
     const QStringList faults = glossaryOf("[folder]\nfr-FR = dossier\n" + line + "\n").faults;

@@ -139,7 +139,7 @@ bool usesOwnQuotes(const Entry &entry, const QString &locale)
     });
 }
 
-bool spacesAsItsLanguage(const Entry &entry, const QString &locale)
+bool usesOwnSpacing(const Entry &entry, const QString &locale)
 {
     static const auto patterns = patternsByLocale(spacingFaults);
     return everyFormKeeps(entry, locale, [&](const QString &text, const Marks & /*own*/) {
@@ -170,7 +170,7 @@ bool usesOwnDash(const Entry &entry, const QString &locale)
     });
 }
 
-QStringList offenders(const QList<Entry> &entries, const QString &locale, TypographyCheck check)
+QStringList failingTexts(const QList<Entry> &entries, const QString &locale, TypographyCheck check)
 {
     QStringList names;
     for (const Entry &entry : entries) {

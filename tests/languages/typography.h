@@ -14,7 +14,7 @@ bool usesOwnQuotes(const Entry &entry, const QString &locale);
 
 /// Blanks around punctuation, parentheses and quotation marks follow the language, in Chinese and Japanese
 /// also those between the two scripts.
-bool spacesAsItsLanguage(const Entry &entry, const QString &locale);
+bool usesOwnSpacing(const Entry &entry, const QString &locale);
 
 /// Punctuation follows the script: full-width in Chinese, "、" and "。" in Japanese, and neither
 /// elsewhere.
@@ -25,4 +25,4 @@ bool usesOwnPunctuation(const Entry &entry, const QString &locale);
 bool usesOwnDash(const Entry &entry, const QString &locale);
 
 /// The texts that fail a check, as "context: source".
-QStringList offenders(const QList<Entry> &entries, const QString &locale, TypographyCheck check);
+QStringList failingTexts(const QList<Entry> &entries, const QString &locale, TypographyCheck check);

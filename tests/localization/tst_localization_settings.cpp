@@ -23,7 +23,7 @@ private slots:
         QCOMPARE(settings->qtTools, u"C:\\Qt\\bin"_s);
     }
 
-    void whatIsNotNamedIsEmpty()
+    void aMissingElementIsEmpty()
     {
         const auto settings = readLocalizationSettings("<localization><root>C:\\nvx</root></localization>");
         QVERIFY(settings);
@@ -31,7 +31,7 @@ private slots:
         QCOMPARE(settings->qtTools, QString());
     }
 
-    void elementsOfNoMeaningAreSkippedWithAllThatTheyHold()
+    void unknownElementsAreSkippedWithTheirContents()
     {
         const auto settings = readLocalizationSettings(
             "<localization><note><root>C:\\other</root></note><root>C:\\nvx</root></localization>");

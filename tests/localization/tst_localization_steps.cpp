@@ -186,7 +186,7 @@ private slots:
         QVERIFY(m_reporter->lines.contains(u"0 release client de-DE"_s));
     }
 
-    void aStepThatFailsHasItsLineAllTheSame()
+    void aStepThatFailsIsLoggedToo()
     {
         m_machine->programResult = {Nvx::Util::ProgramResult::Outcome::Exited, 3, {}};
         QVERIFY(QFile::remove(path("root/Projects/Client/runtime/matprop.mdb")));

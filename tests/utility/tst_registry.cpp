@@ -227,7 +227,7 @@ private slots:
         QVERIFY(buffer[10] == L'?' && buffer[11] == L'?');
     }
 
-    void aBufferWithoutRoomIsLeftAlone()
+    void anEmptyBufferIsNotWrittenTo()
     {
         wchar_t buffer = L'?';
         Registry::readKelvaneTranslatorsFolder(&buffer, 0);

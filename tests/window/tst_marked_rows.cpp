@@ -73,7 +73,7 @@ private slots:
         QCOMPARE(matchingRows(rows, u"SHA"_s), (std::vector<bool>{true, true, false, true}));
     }
 
-    void prefixOfThePreviousTextIsComparedItself()
+    void aPrefixOfThePreviousTextIsCompared()
     {
         const QString whole = u"context"_s;
         MarkedRows rows(1);
