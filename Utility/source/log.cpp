@@ -22,6 +22,9 @@ void Log::append(const QString &text)
     QString line = text;
     // On Windows the file puts a carriage return before each "\n".
     line.replace("\r\n"_L1, "\n"_L1);
+    // Another run may have added lines. On Windows a file opened for appending is not moved to its end for
+    // that.
+    m_file.seek(m_file.size());
     m_file.write((line + u'\n').toUtf8());
     m_file.flush();
 }

@@ -69,6 +69,13 @@ bool NativeMachine::setProcessVariable(const QByteArray &name, const QByteArray 
     return qputenv(name.constData(), value);
 }
 
+Turn NativeMachine::waitForTurn(std::chrono::milliseconds timeout)
+{
+    if (!m_runLock)
+        m_runLock = Platform::runLock();
+    return m_runLock->wait(timeout);
+}
+
 ProgramResult NativeMachine::run(const ProgramCall &call)
 {
     const QString program =

@@ -39,6 +39,23 @@ QString commandLine();
 /// exist.
 QString systemProgram(const QString &fileName);
 
+/// What the runs of this program on one machine wait for; one run has it at a time, until the object is
+/// destroyed. All calls must come from one thread.
+class RunLock
+{
+public:
+    RunLock() = default;
+    RunLock(const RunLock &) = delete;
+    RunLock &operator=(const RunLock &) = delete;
+    virtual ~RunLock() = default;
+
+    /// See Machine::waitForTurn.
+    virtual Turn wait(std::chrono::milliseconds timeout) = 0;
+};
+
+/// The lock of this process. On systems other than Windows it is always ours.
+std::shared_ptr<RunLock> runLock();
+
 /// Passes the arguments of the call to the process, quoted as the call requires.
 void setArguments(QProcess &process, const ProgramCall &call);
 

@@ -709,6 +709,22 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <source>Finished searching for CAD Packages</source>
         <translation>Suche nach CAD-Paketen abgeschlossen</translation>
     </message>
+    <message>
+        <source>Another run of this program is in progress on this machine. This one continues when that has ended, after %1 minutes at the latest.</source>
+        <translation>Auf diesem Computer wird dieses Programm bereits ausgeführt. Dieser Lauf wird fortgesetzt, sobald der andere beendet ist, spätestens nach %1 Minuten.</translation>
+    </message>
+    <message>
+        <source>Another run was in progress; this one has waited for its end</source>
+        <translation>Ein anderer Lauf war im Gange; dieser hat auf sein Ende gewartet</translation>
+    </message>
+    <message>
+        <source>Another run has been in progress for %1 minutes; this one no longer waits for its end</source>
+        <translation>Ein anderer Lauf ist seit %1 Minuten im Gange; dieser wartet nicht länger auf sein Ende</translation>
+    </message>
+    <message>
+        <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
+        <translation>Es lässt sich nicht prüfen, ob ein anderer Lauf im Gange ist; möglicherweise hat ein Programm ohne Administratorrechte das verhindert</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

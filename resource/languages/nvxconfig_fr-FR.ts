@@ -709,6 +709,22 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
         <source>Finished searching for CAD Packages</source>
         <translation>Recherche des logiciels de CAO terminée</translation>
     </message>
+    <message>
+        <source>Another run of this program is in progress on this machine. This one continues when that has ended, after %1 minutes at the latest.</source>
+        <translation>Ce programme est déjà en cours d&apos;exécution sur cet ordinateur. Cette exécution reprendra dès que l&apos;autre sera terminée, au plus tard après %1 minutes.</translation>
+    </message>
+    <message>
+        <source>Another run was in progress; this one has waited for its end</source>
+        <translation>Une autre exécution était en cours&#xa0;; celle-ci a attendu sa fin</translation>
+    </message>
+    <message>
+        <source>Another run has been in progress for %1 minutes; this one no longer waits for its end</source>
+        <translation>Une autre exécution est en cours depuis %1 minutes&#xa0;; celle-ci n&apos;attend plus sa fin</translation>
+    </message>
+    <message>
+        <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
+        <translation>Impossible de vérifier si une autre exécution est en cours&#xa0;; un programme sans droits d&apos;administrateur l&apos;a peut-être empêché</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -709,6 +709,22 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <source>Finished searching for CAD Packages</source>
         <translation>Ricerca dei pacchetti CAD completata</translation>
     </message>
+    <message>
+        <source>Another run of this program is in progress on this machine. This one continues when that has ended, after %1 minutes at the latest.</source>
+        <translation>Questo programma è già in esecuzione su questo computer. Questa esecuzione continuerà al termine dell&apos;altra, al più tardi dopo %1 minuti.</translation>
+    </message>
+    <message>
+        <source>Another run was in progress; this one has waited for its end</source>
+        <translation>Era in corso un&apos;altra esecuzione; questa ne ha atteso la fine</translation>
+    </message>
+    <message>
+        <source>Another run has been in progress for %1 minutes; this one no longer waits for its end</source>
+        <translation>Un&apos;altra esecuzione è in corso da %1 minuti; questa non ne attende più la fine</translation>
+    </message>
+    <message>
+        <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
+        <translation>Impossibile verificare se è in corso un&apos;altra esecuzione; forse lo ha impedito un programma senza diritti di amministratore</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -709,6 +709,22 @@ Click No to continue without stopping the processes.</source>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD パッケージの検索が完了しました</translation>
     </message>
+    <message>
+        <source>Another run of this program is in progress on this machine. This one continues when that has ended, after %1 minutes at the latest.</source>
+        <translation>このプログラムは、このコンピューターで既に実行されています。もう一方の実行が終了すると続行します (最長 %1 分待機)。</translation>
+    </message>
+    <message>
+        <source>Another run was in progress; this one has waited for its end</source>
+        <translation>別の実行が進行中だったため、終了するまで待機しました</translation>
+    </message>
+    <message>
+        <source>Another run has been in progress for %1 minutes; this one no longer waits for its end</source>
+        <translation>別の実行が %1 分たっても終了しないため、待機を中止して続行します</translation>
+    </message>
+    <message>
+        <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
+        <translation>別の実行が進行中かどうかを確認できません。管理者権限のないプログラムに妨げられた可能性があります</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -709,6 +709,22 @@ Click No to continue without stopping the processes.</source>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 패키지 찾기를 완료했습니다</translation>
     </message>
+    <message>
+        <source>Another run of this program is in progress on this machine. This one continues when that has ended, after %1 minutes at the latest.</source>
+        <translation>이 컴퓨터에서 이 프로그램이 이미 실행 중입니다. 다른 실행이 끝나면 계속되며, 최대 %1분 동안 기다립니다.</translation>
+    </message>
+    <message>
+        <source>Another run was in progress; this one has waited for its end</source>
+        <translation>다른 실행이 진행 중이어서 끝날 때까지 기다렸습니다</translation>
+    </message>
+    <message>
+        <source>Another run has been in progress for %1 minutes; this one no longer waits for its end</source>
+        <translation>다른 실행이 %1분 동안 진행 중이어서 더 이상 기다리지 않습니다</translation>
+    </message>
+    <message>
+        <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
+        <translation>다른 실행이 진행 중인지 확인할 수 없습니다. 관리자 권한이 없는 프로그램이 막았을 수 있습니다</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -709,6 +709,22 @@ Click No to continue without stopping the processes.</source>
         <source>Finished searching for CAD Packages</source>
         <translation>Поиск пакетов САПР завершен</translation>
     </message>
+    <message>
+        <source>Another run of this program is in progress on this machine. This one continues when that has ended, after %1 minutes at the latest.</source>
+        <translation>Эта программа уже выполняется на этом компьютере. Работа продолжится, когда завершится другой запуск, самое позднее через %1 мин.</translation>
+    </message>
+    <message>
+        <source>Another run was in progress; this one has waited for its end</source>
+        <translation>Выполнялся другой запуск; этот дождался его завершения</translation>
+    </message>
+    <message>
+        <source>Another run has been in progress for %1 minutes; this one no longer waits for its end</source>
+        <translation>Другой запуск выполняется уже %1 мин; этот больше не ждёт его завершения</translation>
+    </message>
+    <message>
+        <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
+        <translation>Не удалось проверить, выполняется ли другой запуск; возможно, этому помешала программа без прав администратора</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

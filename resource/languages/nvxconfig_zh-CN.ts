@@ -709,6 +709,22 @@ Click No to continue without stopping the processes.</source>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 软件包搜索完成</translation>
     </message>
+    <message>
+        <source>Another run of this program is in progress on this machine. This one continues when that has ended, after %1 minutes at the latest.</source>
+        <translation>此程序已在这台计算机上运行。待另一个运行结束后，本次运行将继续，最多等待 %1 分钟。</translation>
+    </message>
+    <message>
+        <source>Another run was in progress; this one has waited for its end</source>
+        <translation>另一个运行正在进行，本次运行已等待其结束</translation>
+    </message>
+    <message>
+        <source>Another run has been in progress for %1 minutes; this one no longer waits for its end</source>
+        <translation>另一个运行已进行 %1 分钟，本次运行不再等待其结束</translation>
+    </message>
+    <message>
+        <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
+        <translation>无法检查是否有另一个运行正在进行；可能被没有管理员权限的程序阻止</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -709,6 +709,22 @@ Click No to continue without stopping the processes.</source>
         <source>Finished searching for CAD Packages</source>
         <translation>CAD 套件搜尋完成</translation>
     </message>
+    <message>
+        <source>Another run of this program is in progress on this machine. This one continues when that has ended, after %1 minutes at the latest.</source>
+        <translation>此程式已在這台電腦上執行。待另一個執行結束後，本次執行將繼續，最多等待 %1 分鐘。</translation>
+    </message>
+    <message>
+        <source>Another run was in progress; this one has waited for its end</source>
+        <translation>另一個執行正在進行，本次執行已等待其結束</translation>
+    </message>
+    <message>
+        <source>Another run has been in progress for %1 minutes; this one no longer waits for its end</source>
+        <translation>另一個執行已進行 %1 分鐘，本次執行不再等待其結束</translation>
+    </message>
+    <message>
+        <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
+        <translation>無法檢查是否有另一個執行正在進行；可能被沒有系統管理員權限的程式阻止</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

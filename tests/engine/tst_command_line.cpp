@@ -20,6 +20,27 @@ class tst_command_line : public QObject
     Q_OBJECT
 
 private slots:
+    void onlySomeRunsShowWindows_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("no mode") << u""_s << true;
+        QTest::newRow("silent without a mode") << u"-S"_s << true;
+        QTest::newRow("install") << u"-I -Lde-DE"_s << true;
+        QTest::newRow("silent install") << u"-I -S"_s << false;
+        QTest::newRow("uninstall") << u"-U"_s << true;
+        QTest::newRow("silent uninstall") << u"-S -U"_s << false;
+        QTest::newRow("an unknown option is passed over") << u"-U -X -S"_s << false;
+        QTest::newRow("stop services") << u"-ST"_s << false;
+        QTest::newRow("localisation") << u"-T"_s << false;
+    }
+
+    void onlySomeRunsShowWindows()
+    {
+        QFETCH(const QString, options);
+        QTEST(showsWindows(u"NVXConfig.exe "_s + options), "expected");
+    }
+
     void optionsAreRecognisedByTheirFirstLetters_data()
     {
         QTest::addColumn<QString>("commandLine");

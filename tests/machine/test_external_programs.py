@@ -198,6 +198,28 @@ class ExternalPrograms(ProgramCase):
                 self.assert_done("-I")
                 self.reset_files()
 
+    def test_a_second_run_waits_until_the_first_has_ended(self):
+        # The second one does not open the log before.
+        with self.replaced(INSTALL_DIR + "\\7z.exe", f"only-for python26_x64\nforget\n{HANG}"):
+            first = self.start_and_wait_for_mark()
+            started = self.lines()
+            second = self.machine.start(INSTALL_DIR + "\\NVXConfig.exe", "-U", "-S", "-Len-US")
+            time.sleep(3)
+            self.assertIsNone(second.poll())
+            self.assertEqual(self.lines(), started)
+            self.machine.path(HANGS).unlink()
+            self.assertEqual(first.wait(240), 0)
+            self.assertEqual(second.wait(240), 0)
+        lines = self.lines()
+        banner = max(i for i, line in enumerate(lines) if line.endswith("=" * 77))
+        self.assertEqual(lines[banner - 2], COMPLETE)
+        self.assertEqual(
+            lines[banner + 2], "   0 Another run was in progress; this one has waited for its end"
+        )
+        self.assertTrue(lines[banner + 3].endswith(" -U -S -Len-US"))
+        self.assert_removed(0, lines[banner:])
+        self.assert_done("-U")
+
 
 class Server(ProgramCase):
     """The server's program. If it cannot be registered, even a silent run shows a message box and waits."""

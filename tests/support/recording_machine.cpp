@@ -6,6 +6,12 @@ bool RecordingMachine::setProcessVariable(const QByteArray &name, const QByteArr
     return true;
 }
 
+Nvx::Util::Turn RecordingMachine::waitForTurn(std::chrono::milliseconds timeout)
+{
+    turnTimeouts.append(timeout);
+    return turns.isEmpty() ? Nvx::Util::Turn::Ours : turns.takeFirst();
+}
+
 Nvx::Util::ProgramResult RecordingMachine::run(const Nvx::Util::ProgramCall &call)
 {
     calls.append(call);

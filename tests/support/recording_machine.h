@@ -31,6 +31,7 @@ public:
     };
 
     // What it returns.
+    QList<Nvx::Util::Turn> turns; ///< one for each request, then Ours
     QString ownCommandLine = QStringLiteral("NVXConfig.exe");
     QString ownFolder;
     QString desktop = QStringLiteral("C:\\Users\\Public\\Desktop");
@@ -57,6 +58,7 @@ public:
     RecordingServices service;
 
     // The requests.
+    QList<std::chrono::milliseconds> turnTimeouts;
     QList<Nvx::Util::ProgramCall> calls;
     QList<Start> starts;
     QList<Box> boxes;
@@ -71,6 +73,7 @@ public:
     QString commandLine() const override { return ownCommandLine; }
     QString executableFolder() const override { return ownFolder; }
     bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
+    Nvx::Util::Turn waitForTurn(std::chrono::milliseconds timeout) override;
     Nvx::Util::ProgramResult run(const Nvx::Util::ProgramCall &call) override;
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
     void sleep(std::chrono::milliseconds duration) override;

@@ -68,6 +68,19 @@ private slots:
         QCOMPARE(withoutReturns(readFile(path)), QByteArray("old\nnew\n"));
     }
 
+    void linesOfTwoRunsDoNotOverwriteEachOther()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(u"a.log"_s);
+        Log one(path), other(path);
+        QVERIFY(one.open(true));
+        QVERIFY(other.open(true));
+        one.append(u"1, a long line of the one run"_s);
+        other.append(u"2"_s);
+        one.append(u"3"_s);
+        QCOMPARE(withoutReturns(readFile(path)), QByteArray("1, a long line of the one run\n2\n3\n"));
+    }
+
     void openingWithoutAppendDiscardsTheContents()
     {
         const TestFolder folder;

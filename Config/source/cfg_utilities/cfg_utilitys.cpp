@@ -37,8 +37,12 @@ cfg_utilitys::cfg_utilitys(Util::Machine &machine, QObject *parent)
     theEngine = this;
     m_state.installDir = machine.executableFolder();
     m_state.currentLocale = System::getLocale();
+    // The log belongs to the other run until that ends.
+    const std::optional<LogLine> waited = waitForOtherRun();
     m_log.open(true);
     writeStartUpBanner();
+    if (waited)
+        log(waited->level, waited->text);
     processCommandLine();
     m_state.runComplete = false;
     m_state.commonDesktop = machine.commonDesktopFolder();

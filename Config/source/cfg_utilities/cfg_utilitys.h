@@ -13,7 +13,9 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <memory>
+#include <optional>
 
 namespace Nvx::Run {
 class ProgressView;
@@ -51,8 +53,12 @@ public:
     using OnMatch = Nvx::Run::OnMatch;
     using RunMode = Nvx::Run::RunMode;
 
-    /// Opens the log "NVXConfig.log" in the machine's executable folder, reads the command line, validates
-    /// the install dir and sets up the language. For an unknown option a message box asks what to do.
+    /// How long a run waits for another one to end.
+    static constexpr std::chrono::minutes maxWaitForOtherRun{10};
+
+    /// Waits for another run of this program to end, opens the log "NVXConfig.log" in the machine's
+    /// executable folder, reads the command line, validates the install dir and sets up the language. A
+    /// message box says what a run with windows waits for; for an unknown option one asks what to do.
     explicit cfg_utilitys(Nvx::Util::Machine &machine, QObject *parent = nullptr);
     ~cfg_utilitys() override;
 
@@ -170,6 +176,12 @@ private:
     Nvx::Run::StepContext context() { return {m_machine, *this, m_state}; }
     Nvx::Cad::LauncherStep launcherStep(RunMode mode);
 
+    struct LogLine
+    {
+        int level;
+        QString text;
+    };
+    std::optional<LogLine> waitForOtherRun();
     void writeStartUpBanner();
     void processCommandLine();
     bool isUnknownOptionAccepted();

@@ -41,6 +41,39 @@ QStringList installDirVariables()
 
 } // namespace
 
+// Returns what the log says about it, once that is open.
+std::optional<cfg_utilitys::LogLine> cfg_utilitys::waitForOtherRun()
+{
+    using namespace std::chrono_literals;
+    Util::Turn turn = m_machine.waitForTurn(0ms);
+    if (turn == Util::Turn::Ours)
+        return std::nullopt;
+    if (turn == Util::Turn::OtherRuns) {
+        if (Engine::showsWindows(m_machine.commandLine())) {
+            m_machine.tell(
+                Util::BoxKind::Information, tr("NVX Configuration Utility"),
+                tr("Another run of this program is in progress on this machine. This one continues when "
+                   "that has ended, after %1 minutes at the latest.")
+                    .arg(maxWaitForOtherRun.count()));
+        }
+        turn = m_machine.waitForTurn(maxWaitForOtherRun);
+    }
+    switch (turn) {
+    case Util::Turn::Ours:
+        return LogLine{LogLevel::step, tr("Another run was in progress; this one has waited for its end")};
+    case Util::Turn::OtherRuns:
+        return LogLine{
+            LogLevel::failure,
+            tr("Another run has been in progress for %1 minutes; this one no longer waits for its end")
+                .arg(maxWaitForOtherRun.count())};
+    case Util::Turn::Unknown:
+        break;
+    }
+    return LogLine{LogLevel::failure,
+                   tr("Unable to check whether another run is in progress; a program without "
+                      "administrator rights may have prevented it")};
+}
+
 void cfg_utilitys::processCommandLine()
 {
     const QString commandLine = m_machine.commandLine().trimmed();

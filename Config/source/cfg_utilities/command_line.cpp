@@ -86,6 +86,22 @@ RunOptions readRunOptions(const QString &commandLine, const QString &systemLocal
     return options;
 }
 
+bool showsWindows(const QString &commandLine)
+{
+    const RunOptions options = readRunOptions(commandLine, QString(), [] { return true; });
+    switch (options.runMode) {
+    case RunMode::Install:
+    case RunMode::Uninstall:
+        return !options.silent;
+    case RunMode::StopServices:
+    case RunMode::Localization:
+        return false;
+    case RunMode::NotGiven:
+        break;
+    }
+    return true;
+}
+
 QString localeOfOption(const QString &text)
 {
     QStringList translated;

@@ -33,4 +33,8 @@ QString localeOfOption(const QString &text);
 /// The text of the message box for an unknown option.
 QString runOptionsUsage();
 
+/// Whether a run with this command line shows windows: not if it is silent, stops the services or updates the
+/// translations.
+bool showsWindows(const QString &commandLine);
+
 } // namespace Nvx::Engine

@@ -68,6 +68,14 @@ enum class BoxAnswer
     Dismissed
 };
 
+/// Whose turn it is to configure the machine.
+enum class Turn
+{
+    Ours,
+    OtherRuns, ///< another run of this program is in progress
+    Unknown    ///< other runs cannot be detected
+};
+
 /// The seam between the engine and the machine that it configures: this process, other processes, services,
 /// the shell and message boxes. NativeMachine is the real one; tests pass in RecordingMachine.
 class Machine
@@ -86,6 +94,10 @@ public:
 
     /// Sets a variable of this process's environment, as 8-bit text. False if that fails.
     virtual bool setProcessVariable(const QByteArray &name, const QByteArray &value) = 0;
+
+    /// Waits until no other run of this program configures the machine, up to that time. Ours lasts until
+    /// this object is destroyed or the process ends. Blocks.
+    virtual Turn waitForTurn(std::chrono::milliseconds timeout) = 0;
 
     /// Runs a program without input and waits for its end. A program that is still running at the time-out is
     /// terminated; on Windows, so are the programs that it has started, and all of them end when this process

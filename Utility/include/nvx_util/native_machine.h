@@ -2,7 +2,13 @@
 
 #include "nvx_util/machine.h"
 
+#include <memory>
+
 namespace Nvx::Util {
+
+namespace Platform {
+class RunLock;
+}
 
 /// The machine that this process runs on; most operations only call the functions of Platform. The message
 /// boxes need an application object with a user interface.
@@ -12,6 +18,7 @@ public:
     QString commandLine() const override;
     QString executableFolder() const override;
     bool setProcessVariable(const QByteArray &name, const QByteArray &value) override;
+    Turn waitForTurn(std::chrono::milliseconds timeout) override;
     ProgramResult run(const ProgramCall &call) override;
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
     void sleep(std::chrono::milliseconds duration) override;
@@ -22,6 +29,9 @@ public:
     qint32 createShellLink(const ShellLink &link) override;
     void tell(BoxKind kind, const QString &title, const QString &text) override;
     BoxAnswer ask(BoxKind kind, const QString &title, const QString &text) override;
+
+private:
+    std::shared_ptr<Platform::RunLock> m_runLock;
 };
 
 } // namespace Nvx::Util

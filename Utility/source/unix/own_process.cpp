@@ -1,7 +1,23 @@
 #include "nvx_util/own_process.h"
 
+#include "platform.h"
+
 namespace Nvx::Util {
 
 void trustOwnFolderOnly() {}
+
+namespace Platform {
+
+std::shared_ptr<RunLock> runLock()
+{
+    class NoLock final : public RunLock
+    {
+    public:
+        Turn wait(std::chrono::milliseconds /*timeout*/) override { return Turn::Ours; }
+    };
+    return std::make_shared<NoLock>();
+}
+
+} // namespace Platform
 
 } // namespace Nvx::Util

@@ -1,12 +1,15 @@
 #include "nvx_util/own_process.h"
 
+#include "platform.h"
+#include "windows/file_rights.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcessEnvironment>
 
+#include <aclapi.h>
 #include <array>
-
-#include <windows.h>
+#include <sddl.h>
 
 namespace Nvx::Util {
 
@@ -38,5 +41,85 @@ void trustOwnFolderOnly()
     }
     QCoreApplication::setLibraryPaths({ownFolder()});
 }
+
+namespace Platform {
+
+namespace {
+
+// In all sessions of the machine.
+constexpr wchar_t mutexName[] = L"Global\\Velmora NVX 2017 Configuration";
+
+// The administrators own it, and only they and the system can open it.
+constexpr wchar_t mutexRights[] = L"O:BAD:P(A;;GA;;;BA)(A;;GA;;;SY)";
+
+Handle openMutex()
+{
+    PSECURITY_DESCRIPTOR rights = nullptr;
+    if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(mutexRights, SDDL_REVISION_1, &rights, nullptr))
+        return Handle();
+    const Descriptor owned(rights);
+    SECURITY_ATTRIBUTES attributes{sizeof(SECURITY_ATTRIBUTES), rights, FALSE};
+    return Handle(CreateMutexExW(&attributes, mutexName, 0, SYNCHRONIZE | MUTEX_MODIFY_STATE | READ_CONTROL));
+}
+
+// Anybody can create an object with our name before us, and let us wait for it.
+bool belongsToAdministrators(HANDLE object)
+{
+    PSID owner = nullptr;
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    if (GetSecurityInfo(object, SE_KERNEL_OBJECT, OWNER_SECURITY_INFORMATION, &owner, nullptr, nullptr,
+                        nullptr, &descriptor) != ERROR_SUCCESS)
+        return false;
+    const Descriptor owned(descriptor);
+    return IsWellKnownSid(owner, WinBuiltinAdministratorsSid) || IsWellKnownSid(owner, WinLocalSystemSid);
+}
+
+class MutexLock final : public RunLock
+{
+public:
+    MutexLock()
+        : m_mutex(openMutex())
+    {
+        if (m_mutex && !belongsToAdministrators(m_mutex.get()))
+            m_mutex.reset();
+    }
+
+    ~MutexLock() override
+    {
+        if (m_isOurs)
+            ReleaseMutex(m_mutex.get());
+    }
+
+    Turn wait(std::chrono::milliseconds timeout) override
+    {
+        if (m_isOurs)
+            return Turn::Ours;
+        if (!m_mutex)
+            return Turn::Unknown;
+        switch (WaitForSingleObject(m_mutex.get(), static_cast<DWORD>(timeout.count()))) {
+        case WAIT_OBJECT_0:
+        case WAIT_ABANDONED: // the run that had it was killed
+            m_isOurs = true;
+            return Turn::Ours;
+        case WAIT_TIMEOUT:
+            return Turn::OtherRuns;
+        default:
+            return Turn::Unknown;
+        }
+    }
+
+private:
+    Handle m_mutex;
+    bool m_isOurs = false;
+};
+
+} // namespace
+
+std::shared_ptr<RunLock> runLock()
+{
+    return std::make_shared<MutexLock>();
+}
+
+} // namespace Platform
 
 } // namespace Nvx::Util
