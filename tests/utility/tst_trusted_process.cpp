@@ -2,6 +2,7 @@
 // this program.
 
 #include "nvx_util/own_process.h"
+#include "nvx_util/system.h"
 #include "support/test_folder.h"
 
 #include <QLibrary>
@@ -15,6 +16,7 @@ namespace {
 // The options with which the program reports something about itself instead of testing.
 const QString trusting = u"--trusting"_s;
 const QString usual = u"--usual"_s;
+const QString shellsFolders = u"--shells-folders"_s;
 
 // A library that is in no folder of the operating system.
 const QString libraryName = u"planted_library"_s;
@@ -31,6 +33,18 @@ int reportAs(bool trustsOwnFolderOnly, int argumentCount, char *arguments[])
                              folders.isEmpty() ? u"own plug-ins"_s : u"foreign plug-ins"_s,
                              qEnvironmentVariable("QT_QPA_FONTDIR"),
                              qEnvironmentVariable("QT_LOGGING_RULES")};
+    std::fputs(report.join(u'|').toUtf8().constData(), stdout);
+    return 0;
+}
+
+// Reports the folders of users' data.
+int reportFolders()
+{
+    using Nvx::Util::System;
+    Nvx::Util::trustSystemsFoldersOnly();
+    const QStringList report{System::getUserDataPath(), System::getProgramDataPath(u"NVX 2017"_s),
+                             System::getTutorialsDirPath(), qEnvironmentVariable("SystemRoot"),
+                             qEnvironmentVariable("ComSpec")};
     std::fputs(report.join(u'|').toUtf8().constData(), stdout);
     return 0;
 }
@@ -75,6 +89,28 @@ private slots:
         QVERIFY(process.waitForFinished());
         QTEST(QString::fromUtf8(process.readAllStandardOutput()), "expected");
     }
+
+    void aTrustingProcessTakesNoFolderFromTheEnvironment()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        const QString planted = u"C:\\planted\" & del"_s;
+        for (const auto &name :
+             {u"APPDATA"_s, u"ProgramData"_s, u"ALLUSERSPROFILE"_s, u"PUBLIC"_s, u"windir"_s})
+            environment.insert(name, planted);
+        environment.insert(u"ComSpec"_s, u"C:\\planted.exe"_s);
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(), {shellsFolders});
+        QVERIFY(process.waitForFinished());
+        const QStringList folders = QString::fromUtf8(process.readAllStandardOutput()).toLower().split(u'|');
+        QCOMPARE(folders.size(), 5);
+        QVERIFY2(folders[0].endsWith(u"\\appdata\\roaming\\velmora\\nvx 2017"_s), qPrintable(folders[0]));
+        QCOMPARE(folders[1], u"c:\\programdata\\velmora\\nvx 2017"_s);
+        QCOMPARE(folders[2], u"c:\\users\\public\\documents\\velmora\\nvx 2017\\tutorials"_s);
+        QCOMPARE(folders[3], u"c:\\windows"_s);
+        QCOMPARE(folders[4], u"c:\\windows\\system32\\cmd.exe"_s);
+        QVERIFY(!folders.join(u'|').contains(u"planted"_s));
+    }
 };
 
 int main(int argc, char *argv[])
@@ -83,6 +119,8 @@ int main(int argc, char *argv[])
         return reportAs(true, argc, argv);
     if (argc == 2 && argv[1] == usual.toLatin1())
         return reportAs(false, argc, argv);
+    if (argc == 2 && argv[1] == shellsFolders.toLatin1())
+        return reportFolders();
     const QCoreApplication application(argc, argv);
     tst_trusted_process test;
     return QTest::qExec(&test, argc, argv);

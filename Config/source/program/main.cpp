@@ -8,6 +8,7 @@
 int main(int /*argc*/, char *argv[])
 {
     Nvx::Util::trustOwnFolderOnly();
+    Nvx::Util::trustSystemsFoldersOnly();
     // Qt has options of its own, such as -platformpluginpath. Ours are read from the whole command line.
     int argumentCount = 1;
     const QApplication application(argumentCount, argv);

@@ -15,4 +15,11 @@ bool isVariableOfQt(QStringView name);
 /// its user's rights and Qt's plug-ins are the distribution's.
 void trustOwnFolderOnly();
 
+/// Sets the variables of this process's environment that name folders of Windows, such as APPDATA,
+/// ProgramData and PUBLIC, to what the shell and the system report, since a user may set them to any folder;
+/// the programs that this one starts get them too. Where the system can (Windows 10 20H2 or newer), it also
+/// keeps this process from following junctions that users below an administrator have created. To be called
+/// before System is used. Does nothing on systems other than Windows.
+void trustSystemsFoldersOnly();
+
 } // namespace Nvx::Util

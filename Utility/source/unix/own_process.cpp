@@ -6,6 +6,8 @@ namespace Nvx::Util {
 
 void trustOwnFolderOnly() {}
 
+void trustSystemsFoldersOnly() {}
+
 namespace Platform {
 
 std::shared_ptr<RunLock> runLock()

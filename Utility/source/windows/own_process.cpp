@@ -4,12 +4,17 @@
 #include "windows/file_rights.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcessEnvironment>
 
 #include <aclapi.h>
 #include <array>
 #include <sddl.h>
+
+#include <knownfolders.h>
+#include <objbase.h>
+#include <shlobj.h>
 
 namespace Nvx::Util {
 
@@ -21,6 +26,40 @@ QString ownFolder()
     std::array<wchar_t, 32768> path{};
     const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     return QFileInfo(QString::fromWCharArray(path.data(), static_cast<qsizetype>(length))).absolutePath();
+}
+
+void setVariable(const wchar_t *name, const QString &value)
+{
+    if (!value.isEmpty())
+        _wputenv_s(name, QDir::toNativeSeparators(value).toStdWString().c_str());
+}
+
+void setFolder(const wchar_t *name, const KNOWNFOLDERID &id)
+{
+    PWSTR path = nullptr;
+    if (SUCCEEDED(SHGetKnownFolderPath(id, 0, nullptr, &path)))
+        setVariable(name, QString::fromWCharArray(path));
+    CoTaskMemFree(path);
+}
+
+QString windowsFolder()
+{
+    std::array<wchar_t, MAX_PATH> path{};
+    const UINT length = GetSystemWindowsDirectoryW(path.data(), static_cast<UINT>(path.size()));
+    return length < path.size() ? QString::fromWCharArray(path.data(), static_cast<qsizetype>(length))
+                                : QString();
+}
+
+// The headers know the policy and its call only for newer systems than the oldest one that is supported.
+void refuseUsersJunctions()
+{
+    using SetPolicy = BOOL(WINAPI *)(int, PVOID, SIZE_T);
+    constexpr int redirectionTrustPolicy = 16;
+    DWORD enforced = 1;
+    const FARPROC call = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetProcessMitigationPolicy");
+    if (call)
+        reinterpret_cast<SetPolicy>(reinterpret_cast<void *>(call))(redirectionTrustPolicy, &enforced,
+                                                                    sizeof enforced);
 }
 
 } // namespace
@@ -40,6 +79,20 @@ void trustOwnFolderOnly()
             qunsetenv(name.toLocal8Bit().constData());
     }
     QCoreApplication::setLibraryPaths({ownFolder()});
+}
+
+void trustSystemsFoldersOnly()
+{
+    refuseUsersJunctions();
+    setFolder(L"APPDATA", FOLDERID_RoamingAppData);
+    setFolder(L"PUBLIC", FOLDERID_Public);
+    for (const wchar_t *name : {L"ProgramData", L"ALLUSERSPROFILE"})
+        setFolder(name, FOLDERID_ProgramData);
+    const QString windows = windowsFolder();
+    for (const wchar_t *name : {L"SystemRoot", L"windir"})
+        setVariable(name, windows);
+    if (!windows.isEmpty())
+        setVariable(L"ComSpec", windows + QStringLiteral("\\System32\\cmd.exe"));
 }
 
 namespace Platform {

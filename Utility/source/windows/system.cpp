@@ -18,7 +18,8 @@ namespace Platform {
 
 namespace {
 
-// The folder from the process's environment, which installers and tests redirect, else from the shell.
+// The folder from the process's environment, which tests redirect, else from the shell. A program with an
+// administrator's rights first calls trustSystemsFoldersOnly.
 QString folder(const char *variable, const KNOWNFOLDERID &id)
 {
     QString path = qEnvironmentVariable(variable);
