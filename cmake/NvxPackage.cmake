@@ -17,7 +17,7 @@ set(CPACK_PACKAGE_CHECKSUM SHA256)
 set(nvx_package_of "${CMAKE_BINARY_DIR};${PROJECT_NAME}")
 add_custom_target(packaged)
 if(WIN32)
-    add_dependencies(packaged built_programs sample_product)
+    add_dependencies(packaged built_programs sample_product NVXSetupTask)
     set(CPACK_GENERATOR ZIP External)
     set(CPACK_PACKAGE_NAME "NVX-2017")
     set(CPACK_PACKAGE_FILE_NAME "NVX-2017-programs-${PROJECT_VERSION}-win64")
@@ -28,6 +28,7 @@ if(WIN32)
         "${nvx_package_of};configuration;/product"
         "${nvx_package_of};tools;/product"
         "${nvx_package_of};sample;/")
+    set(NVX_SETUP_TASK "${CMAKE_BINARY_DIR}/installer/NVXSetupTask.exe")
     set(NVX_INSTALLER_PICTURES "${PROJECT_SOURCE_DIR}/resource/images")
     configure_file("${CMAKE_CURRENT_LIST_DIR}/package_by_generator.cmake.in"
         "${CMAKE_BINARY_DIR}/package_by_generator.cmake" @ONLY)

@@ -1,39 +1,51 @@
 ; Runs the product's configuration program and waits for it.
 
-; The sizes of STARTUPINFO and PROCESS_INFORMATION on 64-bit Windows.
-!define STARTUP_SIZE 104
-!define PROCESS_SIZE 24
+; Ends it after this many seconds; the option /TIMEOUT= selects another number.
+!define TIMEOUT 1800
 
-; $R0 contains the options. Sets the error flag if the program cannot be started. The program splits its whole
-; command line at blanks and would treat a part of the install dir that begins with "-" as an option. Therefore the
-; command line contains only the program's name, and its path is passed separately.
-!macro ConfigurationFunction UN
-Function ${UN}Configure
-    StrCpy $R1 "$INSTDIR\NVXConfig.exe"
-    StrCpy $R2 "NVXConfig.exe $R0"
-    DetailPrint "$(^Exec)$R2"
-    System::Alloc ${STARTUP_SIZE}
-    Pop $R3
-    System::Call "*$R3(i ${STARTUP_SIZE})"
-    System::Alloc ${PROCESS_SIZE}
-    Pop $R4
-    StrCpy $R5 $INSTDIR
-    System::Call "kernel32::CreateProcessW(w R1, w R2, p 0, p 0, i 0, i 0, p 0, w R5, p R3, p R4) i .R6"
+!macro ConfigurationFunctions UN
+; Unpacks the program for the tasks below into the folder that Windows protects from other users. Sets $Seconds.
+Function ${UN}PrepareTasks
+    InitPluginsDir
+    File "/oname=$PLUGINSDIR\NVXSetupTask.exe" "${SETUP_TASK}"
+    ${GetParameters} $1
     ClearErrors
-    ${If} $R6 = 0
-        SetErrors
-    ${Else}
-        System::Call "*$R4(p .R7, p .R8)"
-        System::Call "kernel32::WaitForSingleObject(p R7, i -1)"
-        System::Call "kernel32::CloseHandle(p R7)"
-        System::Call "kernel32::CloseHandle(p R8)"
+    ${GetOptions} $1 "/TIMEOUT=" $Seconds
+    ${If} ${Errors}
+        StrCpy $Seconds ${TIMEOUT}
     ${EndIf}
-    System::Free $R3
-    System::Free $R4
-    ${If} $R6 = 0
+FunctionEnd
+
+; $R0 contains the options. Sets the error flag if the program cannot be started, does not end in time or fails: it
+; exits with 0 after every run, so another exit code is that of a crash or of a missing library.
+Function ${UN}Configure
+    DetailPrint "$(^Exec)NVXConfig.exe $R0"
+    ClearErrors
+    ExecWait '"$PLUGINSDIR\NVXSetupTask.exe" configure "$INSTDIR\." $Seconds $R0' $R1
+    ${IfNot} ${Errors}
+    ${AndIf} $R1 != 0
+        DetailPrint "NVXConfig.exe: $R1"
         SetErrors
     ${EndIf}
 FunctionEnd
+
+; Quits if another set-up is running, or if a CAD system is: a configuration without a window would show a message box.
+Function ${UN}CheckMachine
+    System::Call 'kernel32::CreateMutexW(p 0, i 0, w "Global\Velmora NVX 2017 set-up") p .r1 ?e'
+    Pop $0
+    ${If} $0 = ${ERROR_ALREADY_EXISTS}
+        MessageBox MB_OK|MB_ICONSTOP "$(SetUpRuns)" /SD IDOK
+        SetErrorLevel ${ERROR_INSTALL_ALREADY_RUNNING}
+        Quit
+    ${EndIf}
+again:
+    ExecWait '"$PLUGINSDIR\NVXSetupTask.exe" check' $0
+    ${If} $0 = ${ERROR_INSTALL_ALREADY_RUNNING}
+        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(CadRuns)" /SD IDCANCEL IDRETRY again
+        SetErrorLevel ${ERROR_INSTALL_ALREADY_RUNNING}
+        Quit
+    ${EndIf}
+FunctionEnd
 !macroend
-!insertmacro ConfigurationFunction ""
-!insertmacro ConfigurationFunction "un."
+!insertmacro ConfigurationFunctions ""
+!insertmacro ConfigurationFunctions "un."

@@ -160,8 +160,25 @@ FunctionEnd
 !insertmacro OuterFolders ""
 !insertmacro OuterFolders "un."
 
-; Removes the files of the list and those that the product has created next to them: the libraries of the selected
-; language and the viewer's note. Sets $Left to a file that could not be deleted.
+; What the product creates next to its files: the libraries of the selected language and the viewer's note.
+!macro EachCreatedFile ACTION
+    StrCpy $Root $INSTDIR
+    !insertmacro ${ACTION} "" "\VistrelResources.dll" ""
+    !insertmacro ${ACTION} "" "\VelmoraApplicationFrameRes.dll" ""
+    !insertmacro ${ACTION} "\ja" "\ja\ZorvRes.dll" ""
+    !insertmacro ${ACTION} "\NVX Viewer" "\NVX Viewer\last-start.txt" ""
+!macroend
+!macro DropCreated FOLDER FILE SOURCE
+    Delete "$Root${FILE}"
+!macroend
+
+; After a set-up that was not completed on a machine without the product.
+Function DropCreatedFiles
+    !insertmacro EachCreatedFile DropCreated
+    RMDir "$INSTDIR\ja"
+FunctionEnd
+
+; Removes the files of the list and those that the product has created. Sets $Left to a file that could not be deleted.
 !macro Remove FOLDER FILE SOURCE
     StrCpy $R1 "$Root${FILE}"
     Call un.RemoveFile
@@ -178,10 +195,6 @@ FunctionEnd
 Function un.RemoveFiles
     SetOutPath $TEMP
     !insertmacro EachFile Remove
-    StrCpy $Root $INSTDIR
-    !insertmacro Remove "" "\VistrelResources.dll" ""
-    !insertmacro Remove "" "\VelmoraApplicationFrameRes.dll" ""
-    !insertmacro Remove "\ja" "\ja\ZorvRes.dll" ""
-    !insertmacro Remove "\NVX Viewer" "\NVX Viewer\last-start.txt" ""
+    !insertmacro EachCreatedFile Remove
     RMDir "$INSTDIR\ja"
 FunctionEnd

@@ -78,6 +78,7 @@ execute_process(
         "-DPRODUCT_VERSION=${CPACK_PACKAGE_VERSION}"
         "-DPRODUCT_KILOBYTES=${kilobytes}"
         "-DLISTS=${lists_file}"
+        "-DSETUP_TASK=${NVX_SETUP_TASK}"
         "-DICON=${NVX_INSTALLER_PICTURES}/program.ico"
         "-DSIDE_PICTURE=${NVX_INSTALLER_PICTURES}/setup.bmp"
         "-DOUT_FILE=${set_up}"

@@ -1,13 +1,16 @@
 ; The installer of NVX 2017: copies the product and runs its configuration, and removes both.
 ;
-;     /S            without a window; the exit status is 0 only if everything is installed
+;     /S            without a window; the exit status is 0 only if everything is installed, 1618 if another set-up or
+;                   a CAD system is running, and 1638 if the product was installed by the MSI
 ;     /LANG=de-DE   the language of the installer and of the product
+;     /TIMEOUT=N    ends a configuration that takes longer than N seconds, by default 1800; the set-up has then failed
 ;     /D=FOLDER     the install dir; must be the last option, without quotes
 ;
 ; An installed product is replaced in its folder, and in its language unless an option selects another one.
 ;
 ; Defined by the build: PRODUCT_VERSION, PRODUCT_KILOBYTES, LISTS (the lists of the files), ICON,
-; SIDE_PICTURE and OUT_FILE.
+; SETUP_TASK (the program NVXSetupTask.exe), SIDE_PICTURE
+; and OUT_FILE.
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -37,6 +40,12 @@ Var Upgrade
 Var VersionBefore
 ; A file that the removal could not delete.
 Var Left
+; The time limit of a configuration.
+Var Seconds
+
+!define ERROR_ALREADY_EXISTS 183
+!define ERROR_INSTALL_ALREADY_RUNNING 1618
+!define ERROR_PRODUCT_VERSION 1638
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
@@ -55,6 +64,7 @@ Var Left
 !include "${LISTS}"
 !include registry.nsh
 !include languages.nsh
+!include messages.nsh
 !include configuration.nsh
 !include files.nsh
 
@@ -82,6 +92,14 @@ Function .onInit
         !insertmacro MUI_LANGDLL_DISPLAY
         Call NameLocale
     ${EndIf}
+    ReadRegStr $0 HKLM "${PRODUCT_KEY}" "${MSI_VALUE}"
+    ${If} $0 != ""
+        MessageBox MB_OK|MB_ICONSTOP "$(InstalledByMsi)" /SD IDOK
+        SetErrorLevel ${ERROR_PRODUCT_VERSION}
+        Quit
+    ${EndIf}
+    Call PrepareTasks
+    Call CheckMachine
     Call FindInstalled
 FunctionEnd
 
@@ -137,6 +155,13 @@ Section
 SectionEnd
 
 Function .onInstFailed
+    ${If} $Upgrade != yes
+    ${AndIf} $Done == registered
+        ; What the configuration had done before it failed.
+        StrCpy $R0 "-U -S -L$Locale"
+        Call Configure
+        Call DropCreatedFiles
+    ${EndIf}
     Call TakeFilesBack
     ${If} $Upgrade == yes
     ${AndIf} $Done != ""
@@ -164,6 +189,8 @@ Function un.onInit
     SetShellVarContext all
     Call un.ChooseLanguage
     ReadRegStr $Translators HKLM "${UNINSTALL_KEY}" "TranslatorsFolder"
+    Call un.PrepareTasks
+    Call un.CheckMachine
 FunctionEnd
 
 Section un.Product

@@ -1,6 +1,8 @@
 ; The installation's registry values and environment variables.
 
 !define PRODUCT_KEY "Software\Velmora\NVX"
+; The product code of the MSI that has installed the product.
+!define MSI_VALUE "WindowsInstaller"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\NVX 2017"
 !define TRANSLATORS_KEY "Software\Velmora\Kelvane\Translators"
 !define ENVIRONMENT_KEY "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"

@@ -20,6 +20,16 @@ class InstallerCase(machine_case.MachineCase):
     def set_up(self, *tokens: str) -> int:
         return self.machine.run("C:\\set-up.exe", *tokens, timeout=900).returncode
 
+    def exit_code_of(self, *command: str) -> int:
+        """The whole exit code of a program on the machine; Wine passes on only its lowest 8 bits."""
+        script = '@start "" /wait ' + " ".join(command) + "\r\n@echo %errorlevel%>C:\\exit-code\r\n"
+        self.write("C:\\run.cmd", script.encode())
+        self.machine.run("cmd", "/c", "C:\\run.cmd", timeout=900)
+        code = int(self.read("C:\\exit-code"))
+        for name in ("run.cmd", "exit-code"):
+            self.machine.path("C:\\" + name).unlink()
+        return code
+
     def remove(self, command: str) -> None:
         """Runs the command of the uninstall entry without a window, and waits for the removal to end.
 

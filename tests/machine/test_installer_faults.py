@@ -3,16 +3,59 @@
 import shutil
 import unittest
 
+from guarded_program import GuardedProgram
 from installer_case import InstallerCase
-from machine_case import LOG, UNINSTALL_KEY, MachineCase
+from machine_case import LOG, PRODUCT_KEY, UNINSTALL_KEY, MachineCase, wait_until
 from winemachine import ENVIRONMENT_KEY, INSTALL_DIR, PROGRAM_FILES, value_of
 
 # One of the last files that a set-up replaces, and one of the first.
+SILENT_SET_UP = ("C:\\set-up.exe", "/S")
+# Exit codes of Windows: try again later; another version is already installed.
+TRY_AGAIN, OTHER_VERSION = 1618, 1638
 HELD = INSTALL_DIR + "\\zh-TW\\nvxconfig.qm"
 MENU = INSTALL_DIR + "\\Launchers\\UGNX\\startup\\NVX_2017.men"
 
 
 class FreshMachine(InstallerCase, MachineCase):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.turn_screen_off()
+
+    def assert_set_up_fails(self, *options, left=()):
+        """The set-up fails, and leaves no entry and no file of the product except these."""
+        self.assertNotEqual(self.set_up("/S", *options), 0)
+        files = [path for path in self.machine.files(PROGRAM_FILES) if "Velmora" in path]
+        self.assertEqual(sorted(files), sorted(left))
+        registry = self.machine.registry()
+        self.assertIsNone(value_of(registry, UNINSTALL_KEY, "UninstallString"))
+        self.assertIsNone(value_of(registry, ENVIRONMENT_KEY, "OSTRADE"))
+
+    def test_a_configuration_without_a_library_is_a_failed_set_up(self):
+        libraries = "HKEY_CURRENT_USER\\Software\\Wine\\AppDefaults\\NVXConfig.exe\\DllOverrides"
+        self.machine.set_value(libraries, "libstdc++-6", "")
+        self.assert_set_up_fails()
+        self.machine.run("reg", "delete", libraries, "/f")
+
+    def test_a_configuration_that_waits_for_a_user_is_ended_and_a_failed_set_up(self):
+        # Then it shows a message box.
+        refusal = self.write(INSTALL_DIR + "\\NVXServer.exe.fails-to-register")
+        self.assert_set_up_fails("/TIMEOUT=20", left=[LOG, INSTALL_DIR + "\\" + refusal.name])
+        self.assertEqual(self.machine.programs("NVXConfig.exe"), {})
+        shutil.rmtree(self.machine.path(PROGRAM_FILES + "\\Velmora"))
+
+    def test_while_a_cad_system_runs_nothing_is_started(self):
+        cad_system = GuardedProgram(self.machine, "C:\\PTC\\xtop.exe", "cad/xtop.exe")
+        self.assertEqual(self.exit_code_of(*SILENT_SET_UP), TRY_AGAIN)
+        cad_system.stop()
+        self.assertFalse(self.exists(INSTALL_DIR))
+
+    def test_over_a_product_of_the_windows_installer_nothing_is_installed(self):
+        self.machine.set_value(PRODUCT_KEY, "WindowsInstaller", "{00000000-0000-0000-0000-000000000000}")
+        self.assertEqual(self.exit_code_of(*SILENT_SET_UP), OTHER_VERSION)
+        self.machine.run("reg", "delete", PRODUCT_KEY, "/f")
+        self.assertFalse(self.exists(INSTALL_DIR))
+
     def test_with_a_file_in_the_place_of_the_folder_nothing_is_installed(self):
         self.write(PROGRAM_FILES + "\\Velmora", b"a file")
         before = self.machine.files()
@@ -62,6 +105,15 @@ class Upgrade(InstallerCase, MachineCase):
         self.assertTrue(
             value_of(registry, UNINSTALL_KEY, "UninstallString").endswith('uninstall.exe" /LANG=de-DE')
         )
+
+    def test_a_second_set_up_quits_while_the_first_continues(self):
+        first = self.machine.start(*SILENT_SET_UP)
+        work = self.machine.path(INSTALL_DIR) / "setup in progress"
+        wait_until("the first set-up to begin", work.exists)
+        self.assertEqual(self.exit_code_of(*SILENT_SET_UP), TRY_AGAIN)
+        self.assertEqual(first.wait(900), 0)
+        self.assertTrue(self.server_is_running())
+        self.machine.path(MENU).write_bytes(b"of an older release")
 
     def test_files_that_a_killed_set_up_had_replaced_are_restored(self):
         # Killed after it had replaced the menu only.
