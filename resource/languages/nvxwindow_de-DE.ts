@@ -107,5 +107,17 @@ Der Speicherort ist möglicherweise schreibgeschützt oder voll. Die Tabelle ble
         <source>About</source>
         <translation>Info</translation>
     </message>
+    <message>
+        <source>%1 was changed by another program. Load it again?</source>
+        <translation>%1 wurde von einem anderen Programm geändert. Neu laden?</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes will be lost.</source>
+        <translation>Ihre nicht gespeicherten Änderungen gehen dann verloren.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Replace it?</source>
+        <translation>%1 wurde von einem anderen Programm geändert. Ersetzen?</translation>
+    </message>
 </context>
 </TS>

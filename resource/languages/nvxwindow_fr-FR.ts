@@ -107,5 +107,17 @@ L&apos;emplacement est peut-être protégé en écriture ou plein. La table rest
         <source>About</source>
         <translation>À propos</translation>
     </message>
+    <message>
+        <source>%1 was changed by another program. Load it again?</source>
+        <translation>%1 a été modifié par un autre programme. Le recharger&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes will be lost.</source>
+        <translation>Vos modifications non enregistrées seront perdues.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Replace it?</source>
+        <translation>%1 a été modifié par un autre programme. Le remplacer&#xa0;?</translation>
+    </message>
 </context>
 </TS>

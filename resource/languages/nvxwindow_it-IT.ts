@@ -107,5 +107,17 @@ La posizione potrebbe essere protetta da scrittura o piena. La tabella resta ape
         <source>About</source>
         <translation>Informazioni</translation>
     </message>
+    <message>
+        <source>%1 was changed by another program. Load it again?</source>
+        <translation>%1 è stato modificato da un altro programma. Ricaricarlo?</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes will be lost.</source>
+        <translation>Le modifiche non salvate andranno perse.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Replace it?</source>
+        <translation>%1 è stato modificato da un altro programma. Sostituirlo?</translation>
+    </message>
 </context>
 </TS>

@@ -107,5 +107,17 @@ The location may be write-protected or full. The table stays open, unsaved; save
         <source>About</source>
         <translation>バージョン情報</translation>
     </message>
+    <message>
+        <source>%1 was changed by another program. Load it again?</source>
+        <translation>%1 は別のプログラムによって変更されました。再読み込みしますか?</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes will be lost.</source>
+        <translation>保存されていない変更は失われます。</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Replace it?</source>
+        <translation>%1 は別のプログラムによって変更されました。置き換えますか?</translation>
+    </message>
 </context>
 </TS>

@@ -107,5 +107,17 @@ The location may be write-protected or full. The table stays open, unsaved; save
         <source>About</source>
         <translation>정보</translation>
     </message>
+    <message>
+        <source>%1 was changed by another program. Load it again?</source>
+        <translation>%1이(가) 다른 프로그램에서 변경되었습니다. 다시 불러올까요?</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes will be lost.</source>
+        <translation>저장하지 않은 변경 내용은 사라집니다.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Replace it?</source>
+        <translation>%1이(가) 다른 프로그램에서 변경되었습니다. 바꿀까요?</translation>
+    </message>
 </context>
 </TS>

@@ -107,5 +107,17 @@ The location may be write-protected or full. The table stays open, unsaved; save
         <source>About</source>
         <translation>О программе</translation>
     </message>
+    <message>
+        <source>%1 was changed by another program. Load it again?</source>
+        <translation>Файл %1 изменён другой программой. Загрузить его заново?</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes will be lost.</source>
+        <translation>Несохранённые изменения будут потеряны.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Replace it?</source>
+        <translation>Файл %1 изменён другой программой. Заменить его?</translation>
+    </message>
 </context>
 </TS>

@@ -107,5 +107,17 @@ The location may be write-protected or full. The table stays open, unsaved; save
         <source>About</source>
         <translation>关于</translation>
     </message>
+    <message>
+        <source>%1 was changed by another program. Load it again?</source>
+        <translation>%1 已被其他程序更改。是否重新加载？</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes will be lost.</source>
+        <translation>未保存的更改将会丢失。</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Replace it?</source>
+        <translation>%1 已被其他程序更改。是否替换？</translation>
+    </message>
 </context>
 </TS>

@@ -107,5 +107,17 @@ The location may be write-protected or full. The table stays open, unsaved; save
         <source>About</source>
         <translation>關於</translation>
     </message>
+    <message>
+        <source>%1 was changed by another program. Load it again?</source>
+        <translation>%1 已被其他程式變更。是否重新載入？</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes will be lost.</source>
+        <translation>未儲存的變更將會遺失。</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Replace it?</source>
+        <translation>%1 已被其他程式變更。是否取代？</translation>
+    </message>
 </context>
 </TS>

@@ -23,7 +23,7 @@ Window::RowMark markOf(Clt::MessageState state)
 
 Window::MarkedRows messageRows(const Clt::MessageTable &table)
 {
-    constexpr int columns = 4;
+    constexpr int columns = 7;
     Window::MarkedRows rows(columns);
     rows.reserve(table.size());
     // Neighbours with the same state share its text.
@@ -34,7 +34,9 @@ Window::MarkedRows messageRows(const Clt::MessageTable &table)
             state = message.state();
             stateText = Clt::stateToText(state);
         }
-        rows.add({key.process, key.context, key.tag, stateText}, markOf(state));
+        rows.add({key.process, key.context, key.tag, stateText, message.sourceTitle(), message.sourceText(),
+                  message.sourceAction()},
+                 markOf(state));
     }
     return rows;
 }

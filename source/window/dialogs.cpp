@@ -61,6 +61,14 @@ UnsavedChoice NativeDialogs::askAboutUnsaved(QWidget *parent, const QString &tit
     }
 }
 
+bool NativeDialogs::confirm(QWidget *parent, const QString &title, const QString &question)
+{
+    QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
 QString droppedFile(const QMimeData *dropped)
 {
     const QList<QUrl> urls = dropped ? dropped->urls() : QList<QUrl>();

@@ -48,6 +48,9 @@ public:
 
     /// Asks what to do with unsaved changes.
     virtual UnsavedChoice askAboutUnsaved(QWidget *parent, const QString &title, const QString &text) = 0;
+
+    /// Asks a question whose default is No. True if the answer is Yes.
+    virtual bool confirm(QWidget *parent, const QString &title, const QString &question) = 0;
 };
 
 /// Qt's message boxes and the system's file dialogs.
@@ -59,6 +62,7 @@ public:
     void warn(QWidget *parent, const QString &title, const QString &text) override;
     void inform(QWidget *parent, const QString &title, const QString &text) override;
     UnsavedChoice askAboutUnsaved(QWidget *parent, const QString &title, const QString &text) override;
+    bool confirm(QWidget *parent, const QString &title, const QString &question) override;
 };
 
 /// The local file that is being dropped; empty unless it is exactly one.

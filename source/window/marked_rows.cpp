@@ -77,6 +77,12 @@ void MarkedRows::add(std::initializer_list<QString> texts, RowMark mark)
     m_marks.push_back(mark);
 }
 
+void MarkedRows::set(int row, std::initializer_list<QString> texts, RowMark mark)
+{
+    std::copy(texts.begin(), texts.end(), m_texts.begin() + static_cast<std::ptrdiff_t>(cell(row, 0)));
+    m_marks[static_cast<std::size_t>(row)] = mark;
+}
+
 std::vector<bool> matchingRows(const MarkedRows &rows, const QString &filter)
 {
     std::vector<bool> matching(static_cast<std::size_t>(rows.size()), filter.isEmpty());

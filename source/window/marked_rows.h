@@ -42,6 +42,9 @@ public:
     /// Appends a row. There must be a string for each column.
     void add(std::initializer_list<QString> texts, RowMark mark);
 
+    /// Replaces a row. There must be a string for each column.
+    void set(int row, std::initializer_list<QString> texts, RowMark mark);
+
     const QString &text(int row, int column) const { return m_texts[cell(row, column)]; }
     RowMark mark(int row) const { return m_marks[static_cast<std::size_t>(row)]; }
 

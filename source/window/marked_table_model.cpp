@@ -21,6 +21,14 @@ void MarkedTableModel::setRows(MarkedRows rows)
     endResetModel();
 }
 
+void MarkedTableModel::setRow(int naturalRow, std::initializer_list<QString> texts, RowMark mark)
+{
+    m_rows.set(naturalRow, texts, mark);
+    const int shown = shownRow(naturalRow);
+    if (shown >= 0)
+        emit dataChanged(index(shown, 0), index(shown, columnCount() - 1));
+}
+
 void MarkedTableModel::setMarkToolTip(RowMark mark, const QString &text)
 {
     m_markToolTips.insert(mark, text);

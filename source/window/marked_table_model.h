@@ -24,8 +24,13 @@ public:
 
     explicit MarkedTableModel(const QStringList &headings, QObject *parent = nullptr);
 
-    /// Replaces the rows. The filter and the order remain.
+    /// Replaces the rows. The filter and the order remain. The rows may have more columns than there are
+    /// headings: these are not shown, but the filter searches them.
     void setRows(MarkedRows rows);
+
+    /// Replaces a row of rows(). It stays where it is, and shown, until the filter or the order changes.
+    void setRow(int naturalRow, std::initializer_list<QString> texts, RowMark mark);
+
     const MarkedRows &rows() const { return m_rows; }
 
     /// Sets the tool tip of rows with the mark.

@@ -7,6 +7,7 @@
 #include "window/window_memory.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
@@ -102,6 +103,12 @@ void TableWindow::setUnsaved()
     updatePlace();
 }
 
+void TableWindow::setUnchanged()
+{
+    m_isUnsaved = false;
+    updatePlace();
+}
+
 void TableWindow::enableSave()
 {
     m_save->setEnabled(true);
@@ -166,9 +173,32 @@ void TableWindow::showLoadError(const QString &path, const QString &error)
     m_dialogs.warn(this, m_texts.openTitle, u"%1\n\n%2\n%3"_s.arg(m_texts.notLoaded, path, error));
 }
 
+// Not while a dialog is open or work is going on: they continue with the table that they began with.
+void TableWindow::offerToLoadAgain()
+{
+    if (isBusy() || QApplication::activeModalWidget()) {
+        m_watch.notifyLater();
+        return;
+    }
+    m_watch.accept();
+    // From now on the table differs from the file.
+    const bool wasUnsaved = std::exchange(m_isUnsaved, true);
+    enableSave();
+    updatePlace();
+    QString question = tr("%1 was changed by another program. Load it again?").arg(m_fileName);
+    if (wasUnsaved)
+        question += u"\n\n"_s + tr("Your unsaved changes will be lost.");
+    if (m_dialogs.confirm(this, m_texts.openTitle, question))
+        load(m_fileName);
+}
+
 bool TableWindow::saveTo(const QString &fileName)
 {
     const QString path = QDir::toNativeSeparators(QFileInfo(fileName).absoluteFilePath());
+    if (path == m_fileName && m_watch.isChanged() &&
+        !m_dialogs.confirm(this, m_texts.saveTitle,
+                           tr("%1 was changed by another program. Replace it?").arg(path)))
+        return false;
     if (!saveShowingWait(path)) {
         m_dialogs.warn(this, m_texts.saveTitle,
                        tr("Could not save %1\n\nThe location may be write-protected or full. The table stays "
@@ -177,6 +207,7 @@ bool TableWindow::saveTo(const QString &fileName)
         return false;
     }
     m_fileName = path;
+    m_watch.setFile(path);
     m_isUnsaved = false;
     m_save->setEnabled(false);
     m_memory.rememberFolderOf(path);
@@ -194,6 +225,7 @@ bool TableWindow::saveShowingWait(const QString &path)
 void TableWindow::tableReplaced(const QString &fileName)
 {
     m_fileName = fileName;
+    m_watch.setFile(fileName);
     m_isUnsaved = false;
     for (QAction *action : {m_save, m_saveAs})
         action->setEnabled(true);
@@ -217,6 +249,19 @@ void TableWindow::updatePlace()
     const QString place = m_isUnsaved ? tr("%1 (not saved)").arg(name) : name;
     m_placeLabel->setText(place + u"   "_s + count);
     m_placeLabel->setToolTip(m_fileName);
+    markTitle();
+}
+
+// The placeholder is there only while it is needed, so that the title is otherwise the stated one.
+void TableWindow::markTitle()
+{
+    if (m_isUnsaved) {
+        setWindowTitle(m_texts.title + u"[*]"_s);
+        setWindowModified(true);
+    } else {
+        setWindowModified(false);
+        setWindowTitle(m_texts.title);
+    }
 }
 
 void TableWindow::closeEvent(QCloseEvent *event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "nvx_util/result.h"
+#include "window/file_watch.h"
 #include "window/marked_rows.h"
 #include "window/progress.h"
 #include "window/window_memory.h"
@@ -47,8 +48,9 @@ struct TableWindowTexts
 
 /// A window on a table that is stored in a file: New, Open, Save, Save As, recent files, dropped files, Exit,
 /// a filter field at the end of the tool bar, and the question about unsaved changes before they are lost.
-/// The subclass holds the table. Save, Save As and the subclass's actions are enabled once there is a table;
-/// Save only while there is something to save.
+/// The title marks unsaved changes. If another program changes the file, the window offers to load it again,
+/// and asks before it replaces it. The subclass holds the table. Save, Save As and the subclass's actions are
+/// enabled once there is a table; Save only while there is something to save.
 ///
 /// Object names: actionNew, actionOpen, actionSave, actionSaveAs, actionExit, actionAbout; menuBar with
 /// menuFile and menuHelp; mainToolBar, statusBar; centralWidget with horizontalLayout holding tableWidget.
@@ -115,6 +117,9 @@ protected:
     /// Marks the table as changed since it was saved, and enables Save.
     void setUnsaved();
 
+    /// Marks the table as the one that was saved, because the changes were undone.
+    void setUnchanged();
+
     /// Enables Save without marking the table as changed.
     void enableSave();
 
@@ -150,6 +155,7 @@ private:
     void makeStatusBar();
     void showAbout();
 
+    void offerToLoadAgain();
     QString chooseFileToSave();
     void showSaved(const QString &text);
     bool mayLoseChanges();
@@ -159,11 +165,13 @@ private:
     bool saveShowingWait(const QString &path);
     void tableReplaced(const QString &fileName);
     void updatePlace();
+    void markTitle();
 
     Dialogs &m_dialogs;
     WindowMemory m_memory;
     TableWindowTexts m_texts;
     QString m_fileName;
+    FileWatch m_watch;
     bool m_isUnsaved = false;
     Progress *m_work = nullptr;
     bool m_closesAfterWork = false;

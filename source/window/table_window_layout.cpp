@@ -39,6 +39,7 @@ TableWindow::TableWindow(Dialogs &dialogs, QSettings &settings, const TableWindo
     makeToolBar();
     makeCentralWidget();
     makeStatusBar();
+    connect(&m_watch, &FileWatch::changed, this, &TableWindow::offerToLoadAgain);
     resize(usualSize);
     for (int column = 0; column < texts.widths.size(); ++column)
         m_view->setColumnWidth(column, texts.widths.at(column));
@@ -122,7 +123,10 @@ void TableWindow::addTableAction(QAction *action)
         bar->insertSeparator(m_endOfButtons);
     }
     bar->insertAction(m_endOfButtons, action);
-    // It is not in a menu, so the keyboard must be able to reach it here.
+    auto *file = findChild<QMenu *>(u"menuFile"_s);
+    if (m_tableActions.size() == 1)
+        file->addSeparator();
+    file->addAction(action);
     bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
 }
 

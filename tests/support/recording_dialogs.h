@@ -20,6 +20,7 @@ public:
     // What they return; an empty file name stands for a cancelled dialog.
     QString fileToChoose;
     Window::UnsavedChoice choice = Window::UnsavedChoice::Cancel;
+    bool isConfirmed = false;
 
     // Called while a warning is shown.
     std::function<void()> whileWarning;
@@ -30,6 +31,7 @@ public:
     QList<Box> warnings;
     QList<Box> notices;
     QList<Box> unsavedQuestions;
+    QList<Box> confirmations;
 
     QString fileToOpen(QWidget *, const Window::FileQuestion &question) override
     {
@@ -59,5 +61,11 @@ public:
     {
         unsavedQuestions.append({title, text});
         return choice;
+    }
+
+    bool confirm(QWidget *, const QString &title, const QString &question) override
+    {
+        confirmations.append({title, question});
+        return isConfirmed;
     }
 };

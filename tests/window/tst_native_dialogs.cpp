@@ -96,6 +96,31 @@ private slots:
         QTEST(static_cast<int>(choice), "choice");
     }
 
+    void questionIsAnsweredByItsButton_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<bool>("isConfirmed");
+        QTest::newRow("Yes") << int(QMessageBox::Yes) << true;
+        QTest::newRow("No") << int(QMessageBox::No) << false;
+    }
+
+    void questionIsAnsweredByItsButton()
+    {
+        QFETCH(const int, button);
+        withNextDialog<QMessageBox>([button](QMessageBox &box) {
+            QCOMPARE(box.defaultButton(), box.button(QMessageBox::No));
+            QCOMPARE(box.textFormat(), Qt::PlainText);
+            box.button(static_cast<QMessageBox::StandardButton>(button))->click();
+        });
+        QTEST(NativeDialogs().confirm(nullptr, u"Title"_s, u"Load?"_s), "isConfirmed");
+    }
+
+    void questionThatIsClosedIsNotConfirmed()
+    {
+        withNextDialog<QMessageBox>([](QMessageBox &box) { box.reject(); });
+        QVERIFY(!NativeDialogs().confirm(nullptr, u"Title"_s, u"Load?"_s));
+    }
+
     void chosenFileIsReturned()
     {
         const TestFolder folder;
