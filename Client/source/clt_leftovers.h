@@ -14,7 +14,7 @@ namespace Clt {
 struct Leftover
 {
     qint64 line = 0;
-    QString what;         ///< as it reads in the file, such as "<titel>"; of a text, its beginning
+    QString what;         ///< as it reads in the file, such as "<summary>"; of a text, its beginning
     qint64 laterLine = 0; ///< where the file has it again, if that is why; otherwise 0
 };
 
@@ -31,11 +31,11 @@ public:
     qsizetype count() const { return m_count; }
     bool isEmpty() const { return m_count == 0; }
 
-    /// For the user: "Line 12: <titel> is not kept" for each of the first ones, up to `maximum`, and the
+    /// For the user: "Line 12: <summary> is not kept" for each of the first ones, up to `maximum`, and the
     /// number of the others.
     QStringList texts(std::size_t maximum) const;
 
-    /// For a log: "FILE:12: <titel> is not kept".
+    /// For a log: "FILE:12: <summary> is not kept".
     QStringList logLines(const QString &fileName) const;
 
 private:
