@@ -1,6 +1,7 @@
 """Runs the fuzzers and the tests of random machines and moments in batches, for an amount or a time.
 
-soak.py ROOT [OPTION...] [PART...]: ROOT is the folder of the sources, with the builds sanitize and windows in it.
+soak.py ROOT [OPTION...] [PART...]: ROOT is the folder of the sources, with the builds sanitize and windows
+in it.
 """
 
 import argparse
@@ -160,7 +161,7 @@ def run_parts(parts: Sequence[Part], seconds: float, logs: Path) -> Iterable[Out
 def read_arguments(arguments: Sequence[str]) -> argparse.Namespace:
     parser = argparse.ArgumentParser(
         prog="tools/soak",
-        description="Runs the fuzzers and the tests of random machines and moments, and prints what each did.",
+        description="Runs the fuzzers and the tests of random machines and moments.",
     )
     parser.add_argument(
         "parts", nargs="*", metavar="PART", help="a fuzzer, killed_runs, random_machines or cycles"

@@ -99,7 +99,8 @@ void TableChecker::checkTable(QXmlStreamReader &xml)
 {
     Clt::QtXmlSource source(xml);
     Clt::Leftovers leftovers;
-    while (source.next() != Clt::XmlSource::Token::End && source.token() != Clt::XmlSource::Token::EndElement) {
+    while (source.next() != Clt::XmlSource::Token::End &&
+           source.token() != Clt::XmlSource::Token::EndElement) {
         if (!source.isStartElement() || source.name() != "message")
             continue;
         const qint64 line = source.line();

@@ -32,7 +32,8 @@ private slots:
             << u"   0 Another run was in progress; this one has waited for its end"_s;
         QTest::newRow("the other run has not ended")
             << QList{Turn::OtherRuns, Turn::OtherRuns}
-            << u"   1 Another run has been in progress for 10 minutes; this one no longer waits for its end"_s;
+            << u"   1 Another run has been in progress for 10 minutes; this one no longer waits for its "
+               "end"_s;
         QTest::newRow("other runs cannot be detected")
             << QList{Turn::Unknown}
             << u"   1 Unable to check whether another run is in progress; a program without administrator "

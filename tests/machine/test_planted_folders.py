@@ -41,7 +41,8 @@ class PlantedFolders(MachineCase):
 
     def left_unchanged(self, link, path):
         return (
-            f"   1 {link} does not belong to administrators and may lead elsewhere; this is left unchanged: {path}"
+            f"   1 {link} does not belong to administrators and may lead elsewhere; "
+            f"this is left unchanged: {path}"
         )
 
     def test_tutorials_behind_a_users_link_are_neither_removed_nor_unpacked(self):
