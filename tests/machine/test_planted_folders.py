@@ -1,8 +1,8 @@
-"""Links and variables that somebody without administrator rights has left on the machine: the configuration, which
-runs with those rights, neither removes nor writes where they lead.
+"""Links and variables that somebody without administrator rights has left on the machine: the configuration,
+which runs with those rights, neither removes nor writes where they lead.
 
-Wine has no junctions. A link of the host stands for one: Wine reports where it leads, and its target's owner. Only the
-host's administrator can give it to another user; for everyone else those tests are skipped.
+Wine has no junctions. A link of the host stands for one: Wine reports where it leads, and its target's owner.
+Only the host's administrator can give it to another user; for everyone else those tests are skipped.
 """
 
 import os
@@ -26,7 +26,8 @@ class PlantedFolders(MachineCase):
         cls().put_product()
 
     def plant(self, link, below):
-        """Puts a link of another user at `link`, to a folder with a file at `below`; returns the path of the file."""
+        """Puts a link of another user at `link`, to a folder with a file at `below`; returns the path of the
+        file."""
         if os.geteuid() != 0:
             self.skipTest("Not run: only an administrator can give a link to another user")
         important = self.write(f"{ELSEWHERE}\\{below}", b"important")
