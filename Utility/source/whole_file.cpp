@@ -152,6 +152,14 @@ bool replaceWholeFile(const QString &fileName, const QByteArray &contents)
     return part.finish(Platform::renameOver, name);
 }
 
+bool createWholeFile(const QString &fileName, const QByteArray &contents)
+{
+    if (QFile::exists(fileName))
+        return false;
+    PartFile part(partOf(fileName));
+    return part.create() && part.write(contents) && part.finish(Platform::renameToFreeName, fileName);
+}
+
 bool copyToFreeName(const QString &source, const QString &target)
 {
     QFile from(source);

@@ -725,6 +725,10 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
         <translation>Es lässt sich nicht prüfen, ob ein anderer Lauf im Gange ist; möglicherweise hat ein Programm ohne Administratorrechte das verhindert</translation>
     </message>
+    <message>
+        <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
+        <translation>%1 wird nicht verwendet; es ist keine gewöhnliche Datei von höchstens %2 KiB</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

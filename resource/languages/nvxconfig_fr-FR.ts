@@ -725,6 +725,10 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
         <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
         <translation>Impossible de vérifier si une autre exécution est en cours&#xa0;; un programme sans droits d&apos;administrateur l&apos;a peut-être empêché</translation>
     </message>
+    <message>
+        <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
+        <translation>%1 n&apos;est pas utilisé&#xa0;; ce n&apos;est pas un fichier ordinaire de %2&#xa0;Kio au plus</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -725,6 +725,10 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
         <translation>Impossibile verificare se è in corso un&apos;altra esecuzione; forse lo ha impedito un programma senza diritti di amministratore</translation>
     </message>
+    <message>
+        <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
+        <translation>%1 non viene utilizzato; non è un file normale di al massimo %2 KiB</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

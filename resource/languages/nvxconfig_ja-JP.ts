@@ -725,6 +725,10 @@ Click No to continue without stopping the processes.</source>
         <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
         <translation>別の実行が進行中かどうかを確認できません。管理者権限のないプログラムに妨げられた可能性があります</translation>
     </message>
+    <message>
+        <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
+        <translation>%1 は使用されません。%2 KiB 以下の通常のファイルではありません</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

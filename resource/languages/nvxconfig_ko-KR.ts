@@ -725,6 +725,10 @@ Click No to continue without stopping the processes.</source>
         <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
         <translation>다른 실행이 진행 중인지 확인할 수 없습니다. 관리자 권한이 없는 프로그램이 막았을 수 있습니다</translation>
     </message>
+    <message>
+        <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
+        <translation>%1은(는) 사용되지 않습니다. %2KiB 이하의 일반 파일이 아닙니다</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

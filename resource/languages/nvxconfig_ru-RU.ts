@@ -725,6 +725,10 @@ Click No to continue without stopping the processes.</source>
         <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
         <translation>Не удалось проверить, выполняется ли другой запуск; возможно, этому помешала программа без прав администратора</translation>
     </message>
+    <message>
+        <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
+        <translation>%1 не используется: это не обычный файл размером не более %2 КиБ</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

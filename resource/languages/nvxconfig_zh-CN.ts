@@ -725,6 +725,10 @@ Click No to continue without stopping the processes.</source>
         <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
         <translation>无法检查是否有另一个运行正在进行；可能被没有管理员权限的程序阻止</translation>
     </message>
+    <message>
+        <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
+        <translation>不使用 %1；它不是不超过 %2 KiB 的普通文件</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -725,6 +725,10 @@ Click No to continue without stopping the processes.</source>
         <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
         <translation>無法檢查是否有另一個執行正在進行；可能被沒有系統管理員權限的程式阻止</translation>
     </message>
+    <message>
+        <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
+        <translation>不使用 %1；它不是不超過 %2 KiB 的一般檔案</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

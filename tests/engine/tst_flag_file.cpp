@@ -13,6 +13,27 @@ class tst_flag_file : public QObject
     Q_OBJECT
 
 private slots:
+    void pathsOfDevicesCannotBeFolders_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("on a drive") << u"C:\\Temp"_s << true;
+        QTest::newRow("on a share") << u"\\\\server\\share\\pipe"_s << true;
+        QTest::newRow("a short name") << u"pipe"_s << true;
+        QTest::newRow("empty") << QString() << true;
+        QTest::newRow("a device") << u"\\\\.\\C:"_s << false;
+        QTest::newRow("a long path") << u"\\\\?\\C:\\Temp"_s << false;
+        QTest::newRow("pipes") << u"\\\\.\\pipe\\x"_s << false;
+        QTest::newRow("pipes of a server") << u"\\\\server\\Pipe"_s << false;
+        QTest::newRow("with slashes") << u"//./pipe"_s << false;
+    }
+
+    void pathsOfDevicesCannotBeFolders()
+    {
+        QFETCH(const QString, path);
+        QTEST(canBeFolder(path), "expected");
+    }
+
     void onlyWhiteSpaceCountsAsUnchanged_data()
     {
         QTest::addColumn<QByteArray>("contents");

@@ -246,6 +246,59 @@ private slots:
         QCOMPARE(readFile(flagsFile()), QByteArray("prepared"));
     }
 
+    void aPreparedFlagsFileThatIsNoSmallOrdinaryFileIsNotCopied_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("isCopied");
+        QTest::newRow("64 KiB") << u"full"_s << true;
+        QTest::newRow("larger") << u"large"_s << false;
+        QTest::newRow("a folder") << u"folder"_s << false;
+        const TestFolder folder;
+        const QString link = folder.path(u"link"_s);
+        if (QFile::link(folder.path(), link) && QFileInfo(link).isSymLink()) // Windows makes a shortcut
+            QTest::newRow("a link") << u"link"_s << false;
+    }
+
+    void aPreparedFlagsFileThatIsNoSmallOrdinaryFileIsNotCopied()
+    {
+        QFETCH(const QString, folder);
+        QFETCH(const bool, isCopied);
+        const auto prepared = [&](const QString &name) {
+            return m_fixture->test.path(name + u"/NVX_flags.txt"_s);
+        };
+        writeFile(prepared(u"full"_s), QByteArray(65536, 'x'));
+        writeFile(prepared(u"large"_s), QByteArray(65537, 'x'));
+        QVERIFY(QDir().mkpath(prepared(u"folder"_s)));
+        QVERIFY(QDir().mkdir(m_fixture->test.path(u"link"_s)));
+        QVERIFY(QFile::link(prepared(u"full"_s), prepared(u"link"_s)));
+
+        m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(folder));
+        m_fixture->start(u"-I"_s);
+        QCOMPARE(QFileInfo(flagsFile()).size(), isCopied ? 65536 : 0);
+        QCOMPARE(
+            m_fixture->lines().contains(
+                u"   1 %1 is not used; it is not an ordinary file of at most 64 KiB"_s.arg(prepared(folder))),
+            !isCopied);
+    }
+
+    void aPreparedFlagsFolderThatIsADeviceIsNotOpened_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("pipes") << u"\\\\.\\pipe"_s;
+        QTest::newRow("pipes of a server, with slashes") << u"//localhost/PIPE"_s;
+    }
+
+    void aPreparedFlagsFolderThatIsADeviceIsNotOpened()
+    {
+        QFETCH(const QString, folder);
+        m_fixture->test.setVariable("OSTRADE2017TEMP", folder);
+        m_fixture->start(u"-I"_s);
+        QCOMPARE(QFileInfo(flagsFile()).size(), 0);
+        QVERIFY(m_fixture->lines().contains(
+            u"   1 %1 is not used; it is not an ordinary file of at most 64 KiB"_s.arg(
+                joinPath(folder, u"NVX_flags.txt"_s))));
+    }
+
     void withoutAPreparedFileTheFlagsFileIsEmpty()
     {
         m_fixture->test.setVariable("OSTRADE2017TEMP", m_fixture->test.path(u"prepared"_s));

@@ -41,6 +41,14 @@ private slots:
         QCOMPARE(namesIn(m_folder->path()).size(), 2);
     }
 
+    void aNewFileHasTheBytesAndAnExistingOneIsNotReplaced()
+    {
+        QVERIFY(Nvx::Util::createWholeFile(m_target, "new"));
+        QVERIFY(!Nvx::Util::createWholeFile(m_target, "newer"));
+        QCOMPARE(fileBytes(m_target), QByteArray("new"));
+        QCOMPARE(namesIn(m_folder->path()).size(), 1);
+    }
+
     void copyOfAWriteProtectedFileCanBeWritten()
     {
         QVERIFY(writeBytes(m_source, "materials"));

@@ -1,6 +1,7 @@
 // The language of the run: remembering it, and the files that depend on it.
 
 #include "cfg_utilities/cfg_utilitys.h"
+#include "cfg_utilities/flag_file.h"
 #include "nvx_util/languages.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
@@ -9,6 +10,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using Nvx::Util::joinPath;
 using Nvx::Util::System;
@@ -69,16 +71,19 @@ void cfg_utilitys::createFlagsFile()
     if (QFile::exists(target))
         return;
 
+    QByteArray contents;
     const QString prepared = System::getEnv(u"OSTRADE2017TEMP"_s);
     const QString source = joinPath(prepared, flagsFile);
-    if (!prepared.isEmpty() && QFile::exists(source)) {
-        // A file that exists is never copied again, so it must be copied whole or not at all.
-        if (!Util::copyToFreeName(source, target))
-            log(LogLevel::failure, tr("Unable to create %1").arg(target));
-        return;
+    if (!prepared.isEmpty() && (!Engine::canBeFolder(prepared) || QFileInfo::exists(source))) {
+        if (const auto found = Engine::readPreparedFlagFile(prepared, flagsFile))
+            contents = *found;
+        else
+            log(LogLevel::failure, tr("%1 is not used; it is not an ordinary file of at most %2 KiB")
+                                       .arg(source)
+                                       .arg(Engine::maxPreparedFlagFileBytes / 1024));
     }
-    QFile file(target);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+    // A file that exists is never written again, so it must be written whole or not at all.
+    if (!Util::createWholeFile(target, contents))
         log(LogLevel::failure, tr("Unable to create %1").arg(target));
 }
 

@@ -30,6 +30,9 @@ namespace Nvx::Util {
 /// of it then.
 [[nodiscard]] bool copyToFreeName(const QString &source, const QString &target);
 
+/// Creates a file with these contents, in the same way.
+[[nodiscard]] bool createWholeFile(const QString &fileName, const QByteArray &contents);
+
 /// Removes the ".nvxpart" file that a crash has left next to this file. The file itself stays, and so does a
 /// ".nvxpart" file that another process is writing.
 void removeUnfinished(const QString &fileName);
