@@ -140,6 +140,28 @@ enum class Hold
 /// unless that is empty, counts as a link. std::nullopt if it does not exist.
 std::optional<FolderLook> lookAtFolder(const QString &path, const QString &finalPathOfParent, Hold hold);
 
+/// Who owns and may write an existing file, folder or link.
+struct EntryRights
+{
+    bool isLink = false;
+    bool isFolder = false;
+    bool isAdministrators = false; ///< owned by administrators
+    bool othersMayWrite = false;
+};
+
+enum class NewRights
+{
+    Reserved, ///< only administrators may write, users may read and run; what is in a folder inherits that
+    Inherited ///< what the entry inherits from its folder
+};
+
+/// std::nullopt if there is no such entry, or the system does not report its rights.
+std::optional<EntryRights> rightsOf(const QString &path);
+
+/// Sets the rights of a file or folder, and makes administrators its owner. False if the rights cannot be
+/// set.
+bool setRights(const QString &path, NewRights rights);
+
 /// Creates a file that only administrators may change; see ScriptFile. Null if it exists or not all bytes can
 /// be written; nothing is left of it then.
 std::shared_ptr<void> createScriptFile(const QString &path, const QByteArray &contents);

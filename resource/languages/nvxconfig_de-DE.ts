@@ -372,6 +372,14 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
         <translation>%1 gehört keinem Administrator und kann an einen anderen Ort führen, dies bleibt unverändert: %2</translation>
     </message>
+    <message>
+        <source>Unable to limit write access to this folder to administrators: %1</source>
+        <translation>Der Schreibzugriff auf diesen Ordner konnte nicht auf Administratoren beschränkt werden: %1</translation>
+    </message>
+    <message>
+        <source>Unable to take this folder over from the user who created it: %1</source>
+        <translation>Dieser Ordner konnte nicht von dem Benutzer übernommen werden, der ihn erstellt hat: %1</translation>
+    </message>
 </context>
 <context>
     <name>ProductRegistry</name>

@@ -372,6 +372,14 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
         <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
         <translation>%1 n&apos;appartient pas aux administrateurs et peut mener ailleurs, ceci reste inchangé&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>Unable to limit write access to this folder to administrators: %1</source>
+        <translation>Impossible de limiter aux administrateurs l&apos;accès en écriture à ce dossier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Unable to take this folder over from the user who created it: %1</source>
+        <translation>Impossible de reprendre ce dossier à l&apos;utilisateur qui l&apos;a créé&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>ProductRegistry</name>

@@ -372,6 +372,14 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
         <translation>%1 non appartiene agli amministratori e può condurre altrove, questo rimane invariato: %2</translation>
     </message>
+    <message>
+        <source>Unable to limit write access to this folder to administrators: %1</source>
+        <translation>Impossibile limitare agli amministratori l&apos;accesso in scrittura a questa cartella: %1</translation>
+    </message>
+    <message>
+        <source>Unable to take this folder over from the user who created it: %1</source>
+        <translation>Impossibile acquisire questa cartella dall&apos;utente che l&apos;ha creata: %1</translation>
+    </message>
 </context>
 <context>
     <name>ProductRegistry</name>

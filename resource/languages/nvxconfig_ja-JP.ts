@@ -372,6 +372,14 @@ Click No to continue without stopping the processes.</source>
         <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
         <translation>%1 は管理者の所有ではなく、別の場所を指している可能性があるため、変更しません: %2</translation>
     </message>
+    <message>
+        <source>Unable to limit write access to this folder to administrators: %1</source>
+        <translation>このフォルダーへの書き込みアクセスを管理者に限定できません: %1</translation>
+    </message>
+    <message>
+        <source>Unable to take this folder over from the user who created it: %1</source>
+        <translation>このフォルダーを、作成したユーザーから引き継ぐことができません: %1</translation>
+    </message>
 </context>
 <context>
     <name>ProductRegistry</name>

@@ -372,6 +372,14 @@ Click No to continue without stopping the processes.</source>
         <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
         <translation>%1은(는) 관리자의 소유가 아니며 다른 위치를 가리킬 수 있으므로 변경하지 않습니다: %2</translation>
     </message>
+    <message>
+        <source>Unable to limit write access to this folder to administrators: %1</source>
+        <translation>이 폴더의 쓰기 권한을 관리자로 제한할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Unable to take this folder over from the user who created it: %1</source>
+        <translation>이 폴더를 만든 사용자로부터 소유권을 가져올 수 없습니다: %1</translation>
+    </message>
 </context>
 <context>
     <name>ProductRegistry</name>

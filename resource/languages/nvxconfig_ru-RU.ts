@@ -372,6 +372,14 @@ Click No to continue without stopping the processes.</source>
         <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
         <translation>%1 не принадлежит администраторам и может вести в другое место, оставлено без изменений: %2</translation>
     </message>
+    <message>
+        <source>Unable to limit write access to this folder to administrators: %1</source>
+        <translation>Не удалось ограничить право записи в эту папку администраторами: %1</translation>
+    </message>
+    <message>
+        <source>Unable to take this folder over from the user who created it: %1</source>
+        <translation>Не удалось стать владельцем этой папки вместо создавшего её пользователя: %1</translation>
+    </message>
 </context>
 <context>
     <name>ProductRegistry</name>

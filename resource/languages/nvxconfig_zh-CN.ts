@@ -372,6 +372,14 @@ Click No to continue without stopping the processes.</source>
         <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
         <translation>%1 不属于管理员，可能指向其他位置，以下内容保持不变：%2</translation>
     </message>
+    <message>
+        <source>Unable to limit write access to this folder to administrators: %1</source>
+        <translation>无法将此文件夹的写入权限限制为管理员：%1</translation>
+    </message>
+    <message>
+        <source>Unable to take this folder over from the user who created it: %1</source>
+        <translation>无法从创建此文件夹的用户处接管该文件夹：%1</translation>
+    </message>
 </context>
 <context>
     <name>ProductRegistry</name>

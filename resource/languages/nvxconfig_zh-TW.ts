@@ -372,6 +372,14 @@ Click No to continue without stopping the processes.</source>
         <source>%1 does not belong to administrators and may lead elsewhere; this is left unchanged: %2</source>
         <translation>%1 不屬於系統管理員，可能指向其他位置，以下內容保持不變：%2</translation>
     </message>
+    <message>
+        <source>Unable to limit write access to this folder to administrators: %1</source>
+        <translation>無法將此資料夾的寫入權限限制為系統管理員：%1</translation>
+    </message>
+    <message>
+        <source>Unable to take this folder over from the user who created it: %1</source>
+        <translation>無法從建立此資料夾的使用者處接管該資料夾：%1</translation>
+    </message>
 </context>
 <context>
     <name>ProductRegistry</name>

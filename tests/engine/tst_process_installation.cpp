@@ -38,6 +38,7 @@ QList<StepLines> stepLines()
 {
     const QString row = rowMark;
     return {
+        {.name = u"reserveInstallFolder"_s, .install = {}, .uninstall = {}},
         {.name = u"installTutorials"_s,
          .install = {row + u"Install Tutorials"_s, u"Installing Tutorials"_s},
          .uninstall = {row + u"UnInstall Tutorials"_s}},

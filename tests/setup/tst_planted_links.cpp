@@ -5,6 +5,8 @@
 #include "run/command_runner.h"
 #include "run/product_files.h"
 #include "setup/archive_components.h"
+#include "setup/install_folder.h"
+#include "setup/material_database.h"
 #include "setup/setup_fixture.h"
 #include "support/recorded_diagnostics.h"
 #include "support/test_class.h"
@@ -26,9 +28,8 @@ private slots:
     {
         m_fixture = std::make_unique<SetupFixture>();
         writeFile(path(u"elsewhere/folder/A.PYC"_s), "important");
-        constexpr uid_t other = 65534;
         QVERIFY(QFile::link(path(u"elsewhere"_s), path(u"planted"_s)));
-        if (lchown(QFile::encodeName(path(u"planted"_s)).constData(), other, other) != 0)
+        if (!giveAway(path(u"planted"_s)))
             QSKIP("Only an administrator can give a link to another user.");
     }
 
@@ -68,7 +69,7 @@ private slots:
     {
         const QString link = path(u"file"_s);
         QVERIFY(QFile::link(path(u"elsewhere/folder/A.PYC"_s), link));
-        QCOMPARE(lchown(QFile::encodeName(link).constData(), 65534, 65534), 0);
+        QVERIFY(giveAway(link));
         QVERIFY(removeProductFile(link));
         QCOMPARE(readFile(path(u"elsewhere/folder/A.PYC"_s)), QByteArray("important"));
     }
@@ -83,7 +84,74 @@ private slots:
         QCOMPARE(m_fixture->reporter.lines.filter(u"may lead elsewhere"_s).size(), 2);
     }
 
+    void installFolderOfAnotherUserIsReserved()
+    {
+        const QString folder = m_fixture->state.installDir;
+        QVERIFY(giveAway(folder));
+        Nvx::Setup::reserveInstallFolder(m_fixture->context(), RunMode::Uninstall);
+        QCOMPARE(QFileInfo(folder).ownerId(), otherUser);
+        Nvx::Setup::reserveInstallFolder(m_fixture->context(), RunMode::Install);
+        QCOMPARE(QFileInfo(folder).ownerId(), geteuid());
+        QCOMPARE(m_fixture->reporter.lines, QStringList());
+    }
+
+    void installFolderBehindALinkIsLeftAlone()
+    {
+        QVERIFY(giveAway(path(u"elsewhere/folder"_s)));
+        m_fixture->state.installDir = path(u"planted/folder"_s);
+        Nvx::Setup::reserveInstallFolder(m_fixture->context(), RunMode::Install);
+        QCOMPARE(QFileInfo(path(u"elsewhere/folder"_s)).ownerId(), otherUser);
+        QCOMPARE(m_fixture->reporter.lines, QStringList{unchanged(u"planted/folder"_s)});
+    }
+
+    void sharedFoldersOfAnotherUserAreTakenOver()
+    {
+        using Nvx::Util::System;
+        const QStringList folders{System::getProgramDataPath(u"NVX 2017"_s),
+                                  QFileInfo(System::getTutorialsDirPath()).path()};
+        for (const QString &folder : folders) {
+            QVERIFY(QDir().mkpath(folder));
+            QVERIFY(giveAway(folder) && giveAway(QFileInfo(folder).path()));
+        }
+        Nvx::Setup::reserveInstallFolder(m_fixture->context(), RunMode::Install);
+        for (const QString &folder : folders) {
+            QCOMPARE(QFileInfo(folder).ownerId(), geteuid());
+            QCOMPARE(QFileInfo(QFileInfo(folder).path()).ownerId(), geteuid());
+        }
+        QCOMPARE(m_fixture->reporter.lines, QStringList());
+    }
+
+    void sharedFolderThatIsALinkIsReported()
+    {
+        const QString shared = Nvx::Util::System::getProgramDataPath(u"NVX 2017"_s);
+        QVERIFY(QDir().mkpath(QFileInfo(QFileInfo(shared).path()).path()));
+        QVERIFY(QFile::rename(path(u"planted"_s), QFileInfo(shared).path()));
+        Nvx::Setup::reserveInstallFolder(m_fixture->context(), RunMode::Install);
+        QCOMPARE(m_fixture->reporter.lines,
+                 QStringList{u"1 Unable to take this folder over from the user who created it: "_s + shared});
+    }
+
+    void materialsAreNotCopiedBelow()
+    {
+        const QString shared = Nvx::Util::System::getProgramDataPath(u"NVX 2017"_s);
+        QVERIFY(QDir().mkpath(QFileInfo(QFileInfo(shared).path()).path()));
+        QVERIFY(QFile::rename(path(u"planted"_s), QFileInfo(shared).path()));
+        QVERIFY(QDir().mkpath(path(u"elsewhere/NVX 2017"_s)));
+        writeFile(m_fixture->installed("matprop.mdb"), "materials");
+        const RecordedDiagnostics diagnostics;
+        Nvx::Setup::MaterialDatabase(m_fixture->context()).check(RunMode::Install);
+        QVERIFY(namesIn(path(u"elsewhere/NVX 2017"_s)).isEmpty());
+        QCOMPARE(RecordedDiagnostics::list().size(), 1);
+    }
+
 private:
+    static constexpr uint otherUser = 65534;
+
+    static bool giveAway(const QString &path)
+    {
+        return lchown(QFile::encodeName(path).constData(), otherUser, otherUser) == 0;
+    }
+
     QString path(const QString &name) const { return m_fixture->test.path(name); }
 
     QString unchanged(const QString &name) const

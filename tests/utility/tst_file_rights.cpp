@@ -1,3 +1,4 @@
+#include "nvx_util/folder_rights.h"
 #include "nvx_util/trusted_files.h"
 #include "nvx_util/whole_file.h"
 #include "platform.h"
@@ -26,7 +27,7 @@ std::wstring wide(const QString &path)
 }
 
 /// The owner and the access rights of a file, in the system's text form.
-QString rightsOf(const QString &path)
+QString rightsText(const QString &path)
 {
     const Handle entry =
         openEntry(path, READ_CONTROL, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
@@ -97,13 +98,13 @@ private slots:
     void accessRightsArePreserved()
     {
         QFETCH(const QString, rights);
-        const QString usual = rightsOf(m_file);
+        const QString usual = rightsText(m_file);
         QVERIFY(setRights(m_file, wide(rights).c_str()));
-        const QString before = rightsOf(m_file);
+        const QString before = rightsText(m_file);
         QVERIFY(before != usual);
         QVERIFY(replaceWholeFile(m_file, "new"));
         QCOMPARE(fileBytes(m_file), QByteArray("new"));
-        QCOMPARE(rightsOf(m_file), before);
+        QCOMPARE(rightsText(m_file), before);
     }
 
     void administratorsAccountsAreRecognised_data()
@@ -133,12 +134,80 @@ private slots:
         QTEST(isAdministratorsAccount(account, u"S-1-5-21-1-2-3-1001"_s), "isAdministrators");
     }
 
+    void rightsOfOthersToWriteAreFound_data()
+    {
+        QTest::addColumn<QString>("rights");
+        QTest::addColumn<bool>("mayWrite");
+        const auto administrators = u"D:(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)"_s;
+        QTest::newRow("administrators only") << administrators << false;
+        QTest::newRow("users read and run") << administrators + u"(A;OICI;0x1200a9;;;BU)"_s << false;
+        QTest::newRow("the user of this process")
+            << administrators + u"(A;OICI;FA;;;S-1-5-21-1-2-3-1001)"_s << false;
+        QTest::newRow("whoever creates something") << administrators + u"(A;OICIIO;FA;;;CO)"_s << false;
+        QTest::newRow("users may change files") << administrators + u"(A;OICI;0x1301bf;;;BU)"_s << true;
+        QTest::newRow("users may create files") << administrators + u"(A;CI;0x2;;;BU)"_s << true;
+        QTest::newRow("users may create folders") << administrators + u"(A;CI;0x4;;;AU)"_s << true;
+        QTest::newRow("what is created in it") << administrators + u"(A;OICIIO;FA;;;WD)"_s << true;
+        QTest::newRow("one user may change the rights")
+            << administrators + u"(A;;WD;;;S-1-5-21-1-2-3-1002)"_s << true;
+        QTest::newRow("one user may become the owner")
+            << administrators + u"(A;;WO;;;S-1-5-21-1-2-3-1002)"_s << true;
+        QTest::newRow("users may do everything, in general terms")
+            << administrators + u"(A;;GA;;;BU)"_s << true;
+        QTest::newRow("users must not write") << u"D:(D;OICI;0x2;;;BU)(A;OICI;FA;;;BA)"_s << false;
+    }
+
+    void rightsOfOthersToWriteAreFound()
+    {
+        QFETCH(const QString, rights);
+        PSECURITY_DESCRIPTOR descriptor = nullptr;
+        QVERIFY(ConvertStringSecurityDescriptorToSecurityDescriptorW(wide(u"O:BAG:BA"_s + rights).c_str(),
+                                                                     SDDL_REVISION_1, &descriptor, nullptr));
+        const Descriptor memory(descriptor);
+        QTEST(mayOthersWrite(descriptor, u"S-1-5-21-1-2-3-1001"_s), "mayWrite");
+    }
+
+    void entryWithoutAListOfRightsCanBeWrittenByAll()
+    {
+        SECURITY_DESCRIPTOR descriptor = {};
+        QVERIFY(InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION));
+        QVERIFY(SetSecurityDescriptorDacl(&descriptor, TRUE, nullptr, FALSE));
+        QVERIFY(mayOthersWrite(&descriptor, QString()));
+        QVERIFY(!applyDescriptor(openEntry(m_file, READ_CONTROL | WRITE_DAC, 7).get(), &descriptor));
+    }
+
+    void folderThatAllMayWriteIsReserved()
+    {
+        const QString folder = m_folder->path(u"open"_s);
+        const QString inner = m_folder->path(u"open/inner/file"_s);
+        writeFile(inner, "x");
+        const auto everyone = L"O:BAG:BAD:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)(A;OICI;FA;;;WD)";
+        for (const QString &path : {folder, QFileInfo(inner).path(), inner}) {
+            QVERIFY(setRights(path, everyone));
+            QVERIFY(Nvx::Util::Platform::rightsOf(path)->othersMayWrite);
+        }
+        QVERIFY(reserveForAdministrators(folder));
+        for (const QString &path : {folder, QFileInfo(inner).path(), inner})
+            QVERIFY2(!Nvx::Util::Platform::rightsOf(path)->othersMayWrite, qPrintable(path));
+        QCOMPARE(fileBytes(inner), QByteArray("x"));
+    }
+
+    void reservedFolderIsNotChanged()
+    {
+        const QString folder = m_folder->path(u"closed"_s);
+        QVERIFY(QDir().mkdir(folder));
+        QVERIFY(setRights(folder, L"O:BAG:BAD:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)"));
+        const QString before = rightsText(folder);
+        QVERIFY(reserveForAdministrators(folder));
+        QCOMPARE(rightsText(folder), before);
+    }
+
     void scriptFileIsForAdministratorsOnly()
     {
         const QString path = m_folder->path(u"script"_s);
         const ScriptFile script(path, "echo");
         QVERIFY(script);
-        const QString rights = rightsOf(path);
+        const QString rights = rightsText(path);
         QVERIFY2(!rights.contains(u";;;WD)") && !rights.contains(u";;;BU)"), qPrintable(rights));
     }
 

@@ -1,6 +1,5 @@
 // Files that do not behave like ordinary ones.
 
-#include "nvx_util/trusted_files.h"
 #include "nvx_util/whole_file.h"
 #include "support/file_bytes.h"
 #include "support/odd_files.h"
@@ -103,46 +102,6 @@ private slots:
         QVERIFY(!Nvx::Util::replaceWholeFile(first, "new"));
         QVERIFY(QFileInfo(first).isSymLink());
         QVERIFY(QFileInfo(second).isSymLink());
-    }
-
-    void linkOnTheWayIsFoundAndItsTargetFollowed()
-    {
-        const TestFolder folder;
-        QVERIFY(QDir().mkpath(folder.path(u"there/below"_s)));
-        QVERIFY(QFile::link(folder.path(u"there"_s), folder.path(u"link"_s)));
-        QStringList links;
-        QStringList paths;
-        const auto way = Nvx::Util::HeldWay::toFolder(folder.path(u"link/below"_s));
-        for (const Nvx::Util::WayPoint &point : way.points()) {
-            paths.append(point.path);
-            if (point.isLink)
-                links.append(point.path);
-        }
-        QCOMPARE(links, QStringList(folder.path(u"link"_s)));
-        QVERIFY(paths.contains(folder.path(u"there/below"_s)));
-        QVERIFY(!way.plantedPoint());
-    }
-
-    void linkOfAnotherUserIsPlanted()
-    {
-        const TestFolder folder;
-        const QString link = folder.path(u"link"_s);
-        QVERIFY(QFile::link(folder.path(), link));
-        constexpr uid_t other = 65534;
-        if (lchown(QFile::encodeName(link).constData(), other, other) != 0)
-            QSKIP("Only an administrator can give a link to another user.");
-        QCOMPARE(Nvx::Util::HeldWay::toFolder(link + u"/below"_s).plantedPoint(), std::optional(link));
-        QCOMPARE(Nvx::Util::HeldWay::toEntry(link).plantedPoint(), std::optional(link));
-    }
-
-    void scriptFileIsForItsOwnerOnly()
-    {
-        const TestFolder folder;
-        const Nvx::Util::ScriptFile script(folder.path(u"script"_s), "echo");
-        QVERIFY(script);
-        const QFile::Permissions others =
-            QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
-        QVERIFY(!(QFile::permissions(folder.path(u"script"_s)) & others));
     }
 
     void newNameIsFlushedToTheDisk()

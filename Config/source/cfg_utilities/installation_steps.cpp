@@ -3,6 +3,7 @@
 #include "cfg_utilities/cfg_utilitys.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/product.h"
+#include "setup/install_folder.h"
 
 namespace Nvx::Engine {
 
@@ -15,6 +16,7 @@ void call(const StepArguments &arguments)
 }
 
 constexpr InstallationStep steps[] = {
+    {"reserveInstallFolder", [](const StepArguments &a) { Setup::reserveInstallFolder(a.context, a.mode); }},
     {"installTutorials", call<&cfg_utilitys::installTutorials>},
     {"installPython", call<&cfg_utilitys::installPython>},
     {"installMertleServer", call<&cfg_utilitys::installMertleServer>},

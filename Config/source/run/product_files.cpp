@@ -1,5 +1,6 @@
 #include "run/product_files.h"
 
+#include "nvx_util/folder_rights.h"
 #include "nvx_util/trusted_files.h"
 #include "run/diagnostics.h"
 #include "run/reporter.h"
@@ -45,6 +46,26 @@ bool isTrustedWay(Reporter &reporter, const Util::HeldWay &way, const QString &p
                                   "unchanged: %2")
                          .arg(*planted, path));
     return !planted;
+}
+
+bool reserveFolder(Reporter &reporter, const QString &folder)
+{
+    const bool isReserved = Util::reserveForAdministrators(folder);
+    if (!isReserved)
+        reporter.log(
+            LogLevel::failure,
+            Messages::tr("Unable to limit write access to this folder to administrators: %1").arg(folder));
+    return isReserved;
+}
+
+bool takeOverFolders(Reporter &reporter, const QString &folder, int levels)
+{
+    const bool isTakenOver = Util::takeOverFolders(folder, levels);
+    if (!isTakenOver)
+        reporter.log(
+            LogLevel::failure,
+            Messages::tr("Unable to take this folder over from the user who created it: %1").arg(folder));
+    return isTakenOver;
 }
 
 bool removeProductFile(const QString &path)

@@ -14,6 +14,12 @@ class Reporter;
 /// folder at path is left alone.
 bool isTrustedWay(Reporter &reporter, const Util::HeldWay &way, const QString &path);
 
+/// Util::reserveForAdministrators, with a line at level 1 if it fails.
+bool reserveFolder(Reporter &reporter, const QString &folder);
+
+/// Util::takeOverFolders, with a line at level 1 if it fails.
+bool takeOverFolders(Reporter &reporter, const QString &folder, int levels);
+
 /// Removes a file of the product, even a write-protected one, such as a file copied from read-only media. For
 /// a link or a shortcut it removes the link, not the target. A file that is reached through a link of someone
 /// below an administrator stays, with a diagnostic warning. Returns true if the file does not exist

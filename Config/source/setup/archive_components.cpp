@@ -1,10 +1,14 @@
 #include "setup/archive_components.h"
 
+#include "nvx_util/folder_rights.h"
 #include "nvx_util/machine.h"
 #include "nvx_util/system.h"
 #include "nvx_util/trusted_files.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 #include <array>
 
@@ -36,9 +40,23 @@ int ArchiveComponents::installTutorials(RunMode mode)
         return 0;
 
     m_context.reporter.log(LogLevel::step, tr("Installing Tutorials"));
+    unpackTutorials(tutorials);
+    return 0;
+}
+
+// All users may create folders in the parent of the tutorials' one, and users may write what the tutorials
+// contain. So the folder exists, and is for administrators only, until everything is unpacked.
+void ArchiveComponents::unpackTutorials(const QString &tutorials)
+{
+    const auto way = Util::HeldWay::toFolder(QFileInfo(tutorials).path());
+    if (!isTrustedWay(m_context.reporter, way, tutorials))
+        return;
+    if (Util::System::makePath(tutorials))
+        reserveFolder(m_context.reporter, tutorials);
     unpack(joinPath(m_context.state.installDir, u"en-US/Examples.7z"_s), tutorials,
            CommandRunner::usualTimeoutMs);
-    return 0;
+    Util::inheritRights(tutorials);
+    QDir().rmdir(tutorials); // fails unless nothing was unpacked
 }
 
 int ArchiveComponents::installPython(RunMode mode)

@@ -29,6 +29,7 @@ public:
     int installMertleServer(Run::RunMode mode);
 
 private:
+    void unpackTutorials(const QString &tutorials);
     void unpack(const QString &archive, const QString &folder, int timeoutMs);
 
     Run::StepContext m_context;

@@ -3,6 +3,7 @@
 #include "nvx_util/machine.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
+#include "nvx_util/trusted_files.h"
 #include "nvx_util/whole_file.h"
 #include "run/diagnostics.h"
 #include "run/product_files.h"
@@ -47,8 +48,10 @@ QString previousDatabase()
 // The target may be the users' database, so an existing file is never replaced.
 void copyIfMissing(const QString &source, const QString &target)
 {
-    System::makePath(System::getProgramDataPath(Product::fullName));
-    if (!Util::copyToFreeName(source, target))
+    const QString folder = System::getProgramDataPath(Product::fullName);
+    System::makePath(folder);
+    const auto way = Util::HeldWay::toFolder(folder);
+    if (way.plantedPoint() || !Util::copyToFreeName(source, target))
         qCWarning(diagnostics, "Unable to copy %ls to %ls", qUtf16Printable(source), qUtf16Printable(target));
 }
 

@@ -6,6 +6,7 @@
 #include "nvx_util/machine.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
+#include "nvx_util/trusted_files.h"
 #include "nvx_util/whole_file.h"
 #include "run/reporter.h"
 
@@ -36,7 +37,8 @@ bool canBeWritten(const QStringList &texts)
 bool save(const QString &path, const QString &sharedFolder, const QString &analysisFolder,
           const Util::CpuInfo &cpuInfo)
 {
-    if (!canBeWritten({path, sharedFolder, analysisFolder}))
+    const auto way = Util::HeldWay::toEntry(path);
+    if (way.plantedPoint() || !canBeWritten({path, sharedFolder, analysisFolder}))
         return false;
 
     const qint32 cores = cpuInfo.coresPerProcessor();

@@ -32,6 +32,31 @@ std::optional<FolderLook> lookAtFolder(const QString &path, const QString & /*fi
                       .hold = nullptr};
 }
 
+std::optional<EntryRights> rightsOf(const QString &path)
+{
+    struct stat found = {};
+    if (lstat(QFile::encodeName(path).constData(), &found) != 0)
+        return std::nullopt;
+    return EntryRights{.isLink = S_ISLNK(found.st_mode),
+                       .isFolder = S_ISDIR(found.st_mode),
+                       .isAdministrators = isAdministrator(found.st_uid),
+                       .othersMayWrite = (found.st_mode & (S_IWGRP | S_IWOTH)) != 0};
+}
+
+// Nothing is inherited here: what administrators own is for them to write.
+bool setRights(const QString &path, NewRights /*rights*/)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat found = {};
+    if (lstat(name.constData(), &found) != 0 || S_ISLNK(found.st_mode))
+        return false;
+    constexpr auto sameGroup = static_cast<gid_t>(-1);
+    if (!isAdministrator(found.st_uid) && lchown(name.constData(), geteuid(), sameGroup) != 0)
+        return false;
+    constexpr mode_t others = S_IWGRP | S_IWOTH | S_ISUID | S_ISGID;
+    return chmod(name.constData(), found.st_mode & 07777U & ~others) == 0;
+}
+
 std::shared_ptr<void> createScriptFile(const QString &path, const QByteArray &contents)
 {
     const QByteArray name = QFile::encodeName(path);

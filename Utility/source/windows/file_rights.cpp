@@ -18,6 +18,8 @@ namespace {
 constexpr SECURITY_INFORMATION ownerGroupAndRights =
     OWNER_SECURITY_INFORMATION | GROUP_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION;
 
+constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
 constexpr DWORD keptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
                                  FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
@@ -30,7 +32,7 @@ QString textOf(PSID account)
     return QString::fromWCharArray(text);
 }
 
-QString accountOfThisProcess()
+QString readAccountOfThisProcess()
 {
     HANDLE token = nullptr;
     if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token))
@@ -41,6 +43,28 @@ QString accountOfThisProcess()
     if (!GetTokenInformation(token, TokenUser, buffer.data(), static_cast<DWORD>(buffer.size()), &size))
         return QString();
     return textOf(reinterpret_cast<const TOKEN_USER *>(buffer.data())->User.Sid);
+}
+
+const QString &accountOfThisProcess()
+{
+    static const QString account = readAccountOfThisProcess();
+    return account;
+}
+
+// The rights to change an entry, or what a folder contains.
+constexpr DWORD writing = FILE_WRITE_DATA | FILE_APPEND_DATA | FILE_WRITE_EA | FILE_WRITE_ATTRIBUTES |
+                          FILE_DELETE_CHILD | DELETE | WRITE_DAC | WRITE_OWNER | GENERIC_WRITE | GENERIC_ALL;
+
+bool allowsOthersToWrite(const ACE_HEADER &entry, const QString &ownAccount)
+{
+    const auto &allowed = reinterpret_cast<const ACCESS_ALLOWED_ACE &>(entry);
+    if (entry.AceType == ACCESS_DENIED_ACE_TYPE || !(allowed.Mask & writing))
+        return false;
+    if (entry.AceType != ACCESS_ALLOWED_ACE_TYPE)
+        return true; // of a kind that is not used for files
+    DWORD *account = const_cast<DWORD *>(&allowed.SidStart);
+    const QString text = textOf(account);
+    return text != "S-1-3-0"_L1 && text != "S-1-3-4"_L1 && !isAdministratorsAccount(text, ownAccount);
 }
 
 } // namespace
@@ -59,6 +83,23 @@ Handle openEntry(const QString &path, DWORD access, DWORD sharing)
     return Handle(entry == INVALID_HANDLE_VALUE ? nullptr : entry);
 }
 
+Handle openWithPrivileges(const QString &path, DWORD access, DWORD sharing)
+{
+    Handle entry = openEntry(path, access, sharing);
+    if (entry || GetLastError() != ERROR_ACCESS_DENIED)
+        return entry;
+    const FilePrivileges privileges;
+    return openEntry(path, access, sharing);
+}
+
+bool leadsElsewhere(HANDLE entry)
+{
+    FILE_ATTRIBUTE_TAG_INFO found = {};
+    return GetFileInformationByHandleEx(entry, FileAttributeTagInfo, &found, sizeof found) &&
+           (found.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) &&
+           IsReparseTagNameSurrogate(found.ReparseTag);
+}
+
 Descriptor descriptorOf(HANDLE entry)
 {
     PSECURITY_DESCRIPTOR descriptor = nullptr;
@@ -70,11 +111,14 @@ Descriptor descriptorOf(HANDLE entry)
 
 Descriptor administratorsDescriptor(Readers readers)
 {
-    // Owner and group are the administrators (BA); full rights for the system (SY) and them, reading and
-    // running for users (BU), all handed down to files and folders.
-    const wchar_t *text = readers == Readers::None
-                              ? L"O:BAG:BAD:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)"
-                              : L"O:BAG:BAD:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)(A;OICI;0x1200a9;;;BU)";
+    // Owner and group are the administrators (BA). Full rights for the system (SY) and them, reading and
+    // running for users (BU), all handed down to files and folders (OICI). P keeps what would be inherited
+    // out.
+    const wchar_t *text = L"O:BAG:BAD:AI";
+    if (readers == Readers::None)
+        text = L"O:BAG:BAD:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)";
+    else if (readers == Readers::Users)
+        text = L"O:BAG:BAD:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)(A;OICI;0x1200a9;;;BU)";
     PSECURITY_DESCRIPTOR descriptor = nullptr;
     ConvertStringSecurityDescriptorToSecurityDescriptorW(text, SDDL_REVISION_1, &descriptor, nullptr);
     return Descriptor(descriptor);
@@ -103,8 +147,46 @@ bool isOwnedByAdministrators(HANDLE entry)
                         &descriptor) != ERROR_SUCCESS)
         return false;
     const Descriptor memory(descriptor);
-    static const QString own = accountOfThisProcess();
-    return isAdministratorsAccount(textOf(owner), own);
+    return isAdministratorsAccount(textOf(owner), accountOfThisProcess());
+}
+
+bool mayOthersWrite(PSECURITY_DESCRIPTOR descriptor, const QString &ownAccount)
+{
+    BOOL isPresent = FALSE;
+    BOOL isDefault = FALSE;
+    PACL rights = nullptr;
+    if (!GetSecurityDescriptorDacl(descriptor, &isPresent, &rights, &isDefault) || !isPresent || !rights)
+        return true; // everyone may do everything
+    for (DWORD index = 0; index < rights->AceCount; ++index) {
+        void *entry = nullptr;
+        if (!GetAce(rights, index, &entry) ||
+            allowsOthersToWrite(*static_cast<const ACE_HEADER *>(entry), ownAccount))
+            return true;
+    }
+    return false;
+}
+
+std::optional<EntryRights> rightsOf(const QString &path)
+{
+    const Handle entry = openWithPrivileges(path, READ_CONTROL | FILE_READ_ATTRIBUTES, shareAll);
+    FILE_ATTRIBUTE_TAG_INFO attributes = {};
+    if (!entry ||
+        !GetFileInformationByHandleEx(entry.get(), FileAttributeTagInfo, &attributes, sizeof attributes))
+        return std::nullopt;
+    const Descriptor descriptor = descriptorOf(entry.get());
+    return EntryRights{.isLink = leadsElsewhere(entry.get()),
+                       .isFolder = (attributes.FileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+                       .isAdministrators = isOwnedByAdministrators(entry.get()),
+                       .othersMayWrite =
+                           !descriptor || mayOthersWrite(descriptor.get(), accountOfThisProcess())};
+}
+
+bool setRights(const QString &path, NewRights rights)
+{
+    const Handle entry = openWithPrivileges(path, READ_CONTROL | WRITE_DAC | WRITE_OWNER, shareAll);
+    const Descriptor descriptor =
+        administratorsDescriptor(rights == NewRights::Reserved ? Readers::Users : Readers::AsInherited);
+    return entry && descriptor && applyDescriptor(entry.get(), descriptor.get());
 }
 
 bool applyDescriptor(HANDLE entry, PSECURITY_DESCRIPTOR descriptor)
@@ -119,7 +201,7 @@ bool applyDescriptor(HANDLE entry, PSECURITY_DESCRIPTOR descriptor)
     if (!GetSecurityDescriptorControl(descriptor, &control, &revision) ||
         !GetSecurityDescriptorDacl(descriptor, &isPresent, &rights, &isDefault) ||
         !GetSecurityDescriptorOwner(descriptor, &owner, &isDefault) ||
-        !GetSecurityDescriptorGroup(descriptor, &group, &isDefault) || !isPresent)
+        !GetSecurityDescriptorGroup(descriptor, &group, &isDefault) || !isPresent || !rights)
         return false;
     const SECURITY_INFORMATION inheritance = control & SE_DACL_PROTECTED
                                                  ? PROTECTED_DACL_SECURITY_INFORMATION
@@ -172,10 +254,9 @@ FilePrivileges::~FilePrivileges()
 
 void copyRights(const QString &from, const QString &to)
 {
-    const Handle source = openEntry(from, READ_CONTROL | FILE_READ_ATTRIBUTES,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
-    const Handle target = openEntry(to, READ_CONTROL | WRITE_DAC | WRITE_OWNER | FILE_WRITE_ATTRIBUTES,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+    const Handle source = openEntry(from, READ_CONTROL | FILE_READ_ATTRIBUTES, shareAll);
+    const Handle target =
+        openEntry(to, READ_CONTROL | WRITE_DAC | WRITE_OWNER | FILE_WRITE_ATTRIBUTES, shareAll);
     if (!source || !target)
         return;
     FILE_BASIC_INFO times = {};

@@ -24,6 +24,13 @@ std::wstring longPath(const QString &path);
 /// Opens an existing file or folder, for a link the link itself.
 Handle openEntry(const QString &path, DWORD access, DWORD sharing);
 
+/// The same with the rights that only an administrator's process has, if it is denied without them.
+Handle openWithPrivileges(const QString &path, DWORD access, DWORD sharing);
+
+/// Whether an open entry is a link or junction. Reparse points of other kinds, such as compressed or cloud
+/// files, lead nowhere else. The handle needs FILE_READ_ATTRIBUTES.
+bool leadsElsewhere(HANDLE entry);
+
 struct FreeLocalMemory
 {
     void operator()(void *memory) const { LocalFree(memory); }
@@ -38,12 +45,14 @@ Descriptor descriptorOf(HANDLE entry);
 /// Who may read what administrators own.
 enum class Readers
 {
-    None, ///< only administrators and the system
-    Users ///< all users; they may also run programs
+    None,       ///< only administrators and the system
+    Users,      ///< all users; they may also run programs
+    AsInherited ///< whoever may do so by the rights of the folder
 };
 
-/// Access rights that are not inherited: the system and administrators may do everything, others read at
-/// most. What is created in a folder with these rights inherits them. The owner is the administrators' group.
+/// Access rights: the system and administrators may do everything, others read at most; nothing is inherited,
+/// and what is created in a folder with these rights inherits them. AsInherited: what is inherited, and
+/// nothing else. The owner is the administrators' group.
 Descriptor administratorsDescriptor(Readers readers);
 
 /// Whether an account, by the text form of its identifier, is the system's or administrators' own: the
@@ -53,6 +62,10 @@ bool isAdministratorsAccount(const QString &account, const QString &ownAccount);
 
 /// The same for the owner of an open entry. The handle needs READ_CONTROL.
 bool isOwnedByAdministrators(HANDLE entry);
+
+/// Whether anyone but administrators may write, remove or take over the entry with this descriptor, or what
+/// is created in it. The creator and the owner of an entry do not count.
+bool mayOthersWrite(PSECURITY_DESCRIPTOR descriptor, const QString &ownAccount);
 
 /// Sets the access rights of an open entry as in the descriptor, and its owner as far as the process may.
 /// What an entry inherits from its folder is computed again. The handle needs READ_CONTROL, WRITE_DAC and

@@ -21,24 +21,7 @@ bool isMissing(DWORD error)
 }
 
 // Without a right to its contents, a folder that is open can be renamed all the same.
-Handle openHeld(const QString &path)
-{
-    return openEntry(path, look | FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE);
-}
-
-Handle openForLook(const QString &path)
-{
-    return openEntry(path, look, shareAll);
-}
-
-Handle openWithPrivileges(Handle (*open)(const QString &), const QString &path)
-{
-    Handle entry = open(path);
-    if (entry || GetLastError() != ERROR_ACCESS_DENIED)
-        return entry;
-    const FilePrivileges privileges;
-    return open(path);
-}
+constexpr DWORD holdContents = FILE_LIST_DIRECTORY;
 
 QString finalPathOf(HANDLE entry)
 {
@@ -72,15 +55,6 @@ bool isIn(const QString &path, const QString &folder)
     return parent.compare(without, Qt::CaseInsensitive) == 0;
 }
 
-// Reparse points of other kinds, such as compressed or cloud files, lead nowhere else.
-bool leadsElsewhere(HANDLE entry)
-{
-    FILE_ATTRIBUTE_TAG_INFO found = {};
-    return GetFileInformationByHandleEx(entry, FileAttributeTagInfo, &found, sizeof found) &&
-           (found.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) &&
-           IsReparseTagNameSurrogate(found.ReparseTag);
-}
-
 bool writeAll(HANDLE file, const QByteArray &contents)
 {
     DWORD written = 0;
@@ -102,10 +76,12 @@ std::optional<FolderLook> lookAtFolder(const QString &path, const QString &final
 {
     FolderLook found;
     found.point.path = path;
-    Handle entry = hold == Hold::Yes ? openWithPrivileges(openHeld, path) : nullptr;
+    Handle entry = hold == Hold::Yes
+                       ? openWithPrivileges(path, look | holdContents, FILE_SHARE_READ | FILE_SHARE_WRITE)
+                       : nullptr;
     found.point.isHeld = entry != nullptr;
     if (!entry)
-        entry = openWithPrivileges(openForLook, path);
+        entry = openWithPrivileges(path, look, shareAll);
     if (!entry && isMissing(GetLastError()))
         return std::nullopt;
     if (!entry)

@@ -5,6 +5,7 @@
 #include "cad/shared_folders.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
+#include "nvx_util/trusted_files.h"
 #include "run/diagnostics.h"
 #include "run/product_files.h"
 #include "run/reporter.h"
@@ -129,6 +130,9 @@ struct Messages
     Q_DECLARE_TR_FUNCTIONS(TamselLauncher)
 };
 
+// The folders of a manifest that belong to the maker; what they are in belongs to the system.
+constexpr int ownLevels = 4;
+
 QString manifestOfYear(const QString &root, int year)
 {
     return joinPath(root, u"Velmora/Tamsel/Addins/%1/%2"_s.arg(QString::number(year), tamselManifestName));
@@ -157,7 +161,11 @@ bool makeFolderOf(const QString &path)
 void copyManifest(const StepContext &context, const QString &manifest, const QString &target)
 {
     context.reporter.log(LogLevel::step, Messages::tr("Copying:%1 to: %2").arg(manifest, target));
-    QFile::copy(manifest, target);
+    const QString folder = QDir::toNativeSeparators(QFileInfo(target).path());
+    const auto way = Util::HeldWay::toFolder(folder);
+    // Tamsel runs what the manifest names for every user.
+    if (isTrustedWay(context.reporter, way, target) && takeOverFolders(context.reporter, folder, ownLevels))
+        QFile::copy(manifest, target);
 }
 
 void installEdition(const LauncherStep &step, Launcher launcher, TamselEdition edition, const QString &title)
