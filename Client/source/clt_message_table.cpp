@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QTextStream>
 
 #include <utility>
 
@@ -115,6 +116,16 @@ bool MessageTable::save(const QString &fileName)
     QBuffer contents;
     return contents.open(QIODevice::WriteOnly | QIODevice::Text) && writeMessageTable(contents, *this) &&
            m_file.replace(fileName, contents.data());
+}
+
+void writeReading(QTextStream &errors, const QString &fileName, const MessageTable &table)
+{
+    if (!table.errorString().isEmpty()) {
+        errors << fileName << ": " << table.errorString() << '\n';
+        return;
+    }
+    for (const QString &line : table.leftovers().logLines(fileName))
+        errors << line << '\n';
 }
 
 } // namespace Clt

@@ -12,6 +12,8 @@
 #include <memory_resource>
 #include <utility>
 
+class QTextStream;
+
 namespace Clt {
 
 /// The product's messages, at most one for each key, in key order. A table that was moved from can only be
@@ -95,5 +97,9 @@ private:
     FileLeftovers m_file;
     QString m_errorString;
 };
+
+/// Writes to the errors why the last load of a file failed, or what it left over; nothing if there is
+/// neither.
+void writeReading(QTextStream &errors, const QString &fileName, const MessageTable &table);
 
 } // namespace Clt

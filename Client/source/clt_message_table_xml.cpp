@@ -208,8 +208,13 @@ void readMessageTableBody(XmlSource &xml, MessageTable &table, Leftovers &leftov
 TableReading readMessageTableWithQt(QIODevice &device, MessageTable &table)
 {
     QXmlStreamReader xml(&device);
-    QtXmlSource source(xml);
     TableReading reading;
+    reading.errorLine = limitExpansion(xml, device);
+    if (reading.errorLine != 0) {
+        reading.error = tooManyAttributes();
+        return reading;
+    }
+    QtXmlSource source(xml);
     TableReader(source, table, reading.leftovers).readDocument();
     reading.succeeded = !xml.hasError();
     if (xml.hasError()) {

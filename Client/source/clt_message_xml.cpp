@@ -7,7 +7,6 @@
 
 #include <QXmlStreamWriter>
 
-#include <array>
 #include <cstddef>
 #include <string_view>
 #include <utility>
@@ -36,29 +35,6 @@ QString valueTag(std::string_view name, const QString &value)
     return u"<%1>%2</%1>"_s.arg(element, shortened(value));
 }
 
-/// Where each child of an element began, to report those that another one of the same name replaces.
-class Children
-{
-public:
-    explicit Children(Leftovers &leftovers)
-        : m_leftovers(leftovers)
-    {
-    }
-
-    /// The source is at the start of a child of that number, from 0.
-    void begin(const XmlSource &xml, std::size_t number)
-    {
-        if (const qint64 first = std::exchange(m_places[number], xml.place() + 1); first != 0)
-            m_leftovers.add({xml.lineOf(first - 1), startTag(xml), xml.line()});
-    }
-
-private:
-    static constexpr std::size_t maximum = 6;
-
-    Leftovers &m_leftovers;
-    std::array<qint64, maximum> m_places{}; // plus one; 0 for none
-};
-
 class MessageReader
 {
 public:
@@ -81,7 +57,7 @@ private:
 
     XmlSource &m_xml;
     Leftovers &m_leftovers;
-    Children m_children;
+    RepeatedChildren m_children;
     Message m_message;
     qint64 m_titlePlace = 0;
     qint64 m_actionPlace = 0;
@@ -181,7 +157,7 @@ void MessageReader::leaveUnwritten()
 }
 
 /// The text of the element that starts, a child of that number of a key.
-QString readKeyText(XmlSource &xml, Leftovers &leftovers, Children &children, std::size_t child)
+QString readKeyText(XmlSource &xml, Leftovers &leftovers, RepeatedChildren &children, std::size_t child)
 {
     children.begin(xml, child);
     leaveAttributes(xml, leftovers);
@@ -217,7 +193,7 @@ MessageKey readMessageKey(XmlSource &xml, Leftovers &leftovers)
     NVX_ASSERT(xml.isStartElement() && xml.name() == "key", unit);
     leaveAttributes(xml, leftovers);
     MessageKey key;
-    Children children(leftovers);
+    RepeatedChildren children(leftovers);
     for (;;) {
         switch (xml.next()) {
         case XmlSource::Token::StartElement:

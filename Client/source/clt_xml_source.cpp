@@ -4,8 +4,10 @@
 #include "clt_xml_text.h"
 
 #include <QCoreApplication>
+#include <QIODevice>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,6 +17,9 @@ namespace {
 
 // How many characters a document may have more than it has bytes.
 constexpr qint64 maximumExpansion = qint64{1024} * 1024;
+
+// Qt's reader compares each attribute of an element with all others.
+constexpr qint64 maximumAttributes = 10'000;
 
 struct Texts
 {
@@ -37,6 +42,37 @@ QString XmlSource::attribute(std::string_view name) const
 {
     const auto found = std::ranges::find(m_attributes, name, &Attribute::name);
     return found == m_attributes.end() ? QString() : found->value;
+}
+
+qint64 limitExpansion(QXmlStreamReader &xml, QIODevice &device)
+{
+    constexpr qint64 chunk = qint64{64} * 1024;
+    constexpr qint64 least = 16;
+    if (device.isSequential())
+        return 0;
+    const qint64 begin = device.pos();
+    qint64 line = 1;
+    qint64 references = 0;
+    qint64 equals = 0; // since the last "<", so at least as many as the element has attributes
+    for (QByteArray bytes; !(bytes = device.read(chunk)).isEmpty();) {
+        for (const char byte : std::as_const(bytes)) {
+            line += byte == '\n' ? 1 : 0;
+            references += byte == '&' ? 1 : 0;
+            equals = byte == '<' ? 0 : equals + (byte == '=' ? 1 : 0);
+            if (equals > maximumAttributes)
+                return line;
+        }
+    }
+    device.seek(begin);
+    const qint64 each = maximumExpansion / std::max<qint64>(references, 1);
+    const auto limit = std::clamp<qint64>(each, least, xml.entityExpansionLimit());
+    xml.setEntityExpansionLimit(static_cast<int>(limit));
+    return 0;
+}
+
+QString tooManyAttributes()
+{
+    return Texts::tr("An element has too many attributes");
 }
 
 QtXmlSource::QtXmlSource(QXmlStreamReader &xml)
@@ -131,6 +167,19 @@ QString readElementText(XmlSource &xml, Leftovers &leftovers)
             return text;
         }
     }
+}
+
+void skipElement(XmlSource &xml)
+{
+    const qint64 outside = xml.depth() - 1;
+    while (xml.depth() > outside && xml.next() != XmlSource::Token::End) {
+    }
+}
+
+void RepeatedChildren::begin(const XmlSource &xml, std::size_t number)
+{
+    if (const qint64 earlier = std::exchange(m_places[number], xml.place() + 1); earlier != 0)
+        m_leftovers.add({xml.lineOf(earlier - 1), startTag(xml), xml.line()});
 }
 
 QString startTag(const XmlSource &xml)

@@ -4,8 +4,12 @@
 #include <QString>
 #include <QXmlStreamReader>
 
+#include <array>
+#include <cstddef>
 #include <string_view>
 #include <vector>
+
+class QIODevice;
 
 namespace Clt {
 
@@ -77,8 +81,16 @@ protected:
     qint64 m_depth = 0;
 };
 
-/// A document read with Qt's reader. A document whose entities would expand to more than its size and a
-/// megabyte is an error.
+/// Limits what an entity of a document may expand to, so that all references in it together make about a
+/// million characters at most, or 16 each. Looks through the rest of the random-access device, which is the
+/// document's, and returns to where it was. Returns the line of an element with so many attributes that
+/// reading it would take minutes, which is an error; 0 if there is none.
+qint64 limitExpansion(QXmlStreamReader &xml, QIODevice &device);
+
+/// The text of that error, for the user.
+QString tooManyAttributes();
+
+/// A document read with Qt's reader.
 class QtXmlSource : public XmlSource
 {
 public:
@@ -106,6 +118,29 @@ private:
 /// The text of the element that starts, which is read to its end. An element within it is an error; a comment
 /// is left over.
 QString readElementText(XmlSource &xml, Leftovers &leftovers);
+
+/// Reads the element that starts to its end.
+void skipElement(XmlSource &xml);
+
+/// Leaves each child of an element that another one of the same name replaces.
+class RepeatedChildren
+{
+public:
+    /// The leftovers must outlive it.
+    explicit RepeatedChildren(Leftovers &leftovers)
+        : m_leftovers(leftovers)
+    {
+    }
+
+    /// The source is at the start of a child of that number, from 0.
+    void begin(const XmlSource &xml, std::size_t number);
+
+private:
+    static constexpr std::size_t maximum = 6;
+
+    Leftovers &m_leftovers;
+    std::array<qint64, maximum> m_places{}; // of the last child of each number, plus one; 0 for none
+};
 
 /// "<NAME>" for the element that starts.
 QString startTag(const XmlSource &xml);

@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>Le forme plurali sono state omesse, il vecchio file è %1</translation>
-    </message>
-</context>
-<context>
     <name>mat::MaterialNameUtility</name>
     <message>
         <source>Synchronize...</source>

@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>복수형이 제외되었습니다. 이전 파일은 %1입니다</translation>
-    </message>
-</context>
-<context>
     <name>mat::MaterialNameUtility</name>
     <message>
         <source>Synchronize...</source>

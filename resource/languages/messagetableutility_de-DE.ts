@@ -166,11 +166,4 @@
         <translation>Diese Dateien wurden übersprungen; die darin enthaltenen Meldungen wurden nicht gefunden.</translation>
     </message>
 </context>
-<context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>Pluralformen sind entfallen, die alte Datei ist %1</translation>
-    </message>
-</context>
 </TS>

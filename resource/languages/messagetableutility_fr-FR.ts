@@ -166,11 +166,4 @@
         <translation>Ces fichiers ont été ignorés&#xa0;: leurs messages n&apos;ont pas été trouvés.</translation>
     </message>
 </context>
-<context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>Les formes plurielles sont omises, l&apos;ancien fichier est %1</translation>
-    </message>
-</context>
 </TS>

@@ -166,11 +166,4 @@
         <translation>Questi file sono stati ignorati: i loro messaggi non sono stati trovati.</translation>
     </message>
 </context>
-<context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>Le forme plurali sono state omesse, il vecchio file è %1</translation>
-    </message>
-</context>
 </TS>

@@ -166,11 +166,4 @@
         <translation>これらのファイルはスキップされたため、含まれるメッセージは検出されていません。</translation>
     </message>
 </context>
-<context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>複数形は失われました。元のファイルは %1 です</translation>
-    </message>
-</context>
 </TS>

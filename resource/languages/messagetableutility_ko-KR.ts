@@ -166,11 +166,4 @@
         <translation>이 파일은 건너뛰었으며 해당 메시지를 찾지 못했습니다.</translation>
     </message>
 </context>
-<context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>복수형이 제외되었습니다. 이전 파일은 %1입니다</translation>
-    </message>
-</context>
 </TS>

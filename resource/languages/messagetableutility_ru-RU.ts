@@ -166,11 +166,4 @@
         <translation>Эти файлы пропущены: их сообщения не найдены.</translation>
     </message>
 </context>
-<context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>Формы множественного числа опущены, прежний файл: %1</translation>
-    </message>
-</context>
 </TS>

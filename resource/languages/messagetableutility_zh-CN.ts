@@ -166,11 +166,4 @@
         <translation>已跳过这些文件：未找到其中的消息。</translation>
     </message>
 </context>
-<context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>复数形式已被省略，原来的文件是 %1</translation>
-    </message>
-</context>
 </TS>

@@ -166,11 +166,4 @@
         <translation>已略過這些檔案：找不到其中的訊息。</translation>
     </message>
 </context>
-<context>
-    <name>TranslationBackup</name>
-    <message>
-        <source>Plural forms were dropped; the previous file is kept as %1</source>
-        <translation>複數形式已被省略，原來的檔案是 %1</translation>
-    </message>
-</context>
 </TS>

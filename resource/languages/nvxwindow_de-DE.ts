@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>Leftovers</name>
+    <message>
+        <source>Line %1: %2 is not kept</source>
+        <translation>Zeile %1: %2 wird nicht übernommen</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 is not kept; it occurs again in line %3</source>
+        <translation>Zeile %1: %2 wird nicht übernommen, es kommt in Zeile %3 noch einmal vor</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Parts of the file were dropped; the previous file is kept as %1</source>
+        <translation>Teile der Datei sind entfallen, die alte Datei ist %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTable</name>
+    <message>
+        <source>The marks of an unfinished merge</source>
+        <translation>Markierungen einer unvollständigen Zusammenführung</translation>
+    </message>
+</context>
+<context>
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -118,6 +144,25 @@ Der Speicherort ist möglicherweise schreibgeschützt oder voll. Die Tabelle ble
     <message>
         <source>%1 was changed by another program. Replace it?</source>
         <translation>%1 wurde von einem anderen Programm geändert. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
+        <translation>Nicht alles in der Datei wurde verstanden. Beim Speichern der Tabelle entfallen diese Teile: %1</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
+        <translation>Beim Speichern entfallen die nicht verstandenen Teile von %1 (%2). Die alte Datei bleibt daneben erhalten. Trotzdem speichern?</translation>
+    </message>
+</context>
+<context>
+    <name>XmlSource</name>
+    <message>
+        <source>An element has too many attributes</source>
+        <translation>Ein Element hat zu viele Attribute</translation>
+    </message>
+    <message>
+        <source>The entities expand to too many characters</source>
+        <translation>Die Entitäten ergeben zu viele Zeichen</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
+    <name>Leftovers</name>
+    <message>
+        <source>Line %1: %2 is not kept</source>
+        <translation>Ligne %1&#xa0;: %2 n&apos;est pas conservé</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 is not kept; it occurs again in line %3</source>
+        <translation>Ligne %1&#xa0;: %2 n&apos;est pas conservé, il figure de nouveau à la ligne %3</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... et %1 autres</translation>
+    </message>
+    <message>
+        <source>Parts of the file were dropped; the previous file is kept as %1</source>
+        <translation>Des parties du fichier sont omises, l&apos;ancien fichier est %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTable</name>
+    <message>
+        <source>The marks of an unfinished merge</source>
+        <translation>Marques d&apos;une fusion inachevée</translation>
+    </message>
+</context>
+<context>
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -118,6 +144,25 @@ L&apos;emplacement est peut-être protégé en écriture ou plein. La table rest
     <message>
         <source>%1 was changed by another program. Replace it?</source>
         <translation>%1 a été modifié par un autre programme. Le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
+        <translation>Le fichier n&apos;a pas été entièrement compris. L&apos;enregistrement de la table omet ces parties&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
+        <translation>L&apos;enregistrement omet les parties de %1 qui n&apos;ont pas été comprises (%2). L&apos;ancien fichier est conservé à côté. Voulez-vous l&apos;enregistrer&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>XmlSource</name>
+    <message>
+        <source>An element has too many attributes</source>
+        <translation>Un élément a trop d&apos;attributs</translation>
+    </message>
+    <message>
+        <source>The entities expand to too many characters</source>
+        <translation>Les entités produisent trop de caractères</translation>
     </message>
 </context>
 </TS>

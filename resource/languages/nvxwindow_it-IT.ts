@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
+    <name>Leftovers</name>
+    <message>
+        <source>Line %1: %2 is not kept</source>
+        <translation>Riga %1: %2 non viene conservato</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 is not kept; it occurs again in line %3</source>
+        <translation>Riga %1: %2 non viene conservato, ricompare alla riga %3</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... e altri %1</translation>
+    </message>
+    <message>
+        <source>Parts of the file were dropped; the previous file is kept as %1</source>
+        <translation>Parti del file sono state omesse, il vecchio file è %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTable</name>
+    <message>
+        <source>The marks of an unfinished merge</source>
+        <translation>Marcatori di un&apos;unione non completata</translation>
+    </message>
+</context>
+<context>
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -118,6 +144,25 @@ La posizione potrebbe essere protetta da scrittura o piena. La tabella resta ape
     <message>
         <source>%1 was changed by another program. Replace it?</source>
         <translation>%1 è stato modificato da un altro programma. Sostituirlo?</translation>
+    </message>
+    <message>
+        <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
+        <translation>Non tutto il file è stato compreso. Il salvataggio della tabella omette queste parti: %1</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
+        <translation>Il salvataggio omette le parti di %1 che non sono state comprese (%2). Il vecchio file resta accanto. Salvare?</translation>
+    </message>
+</context>
+<context>
+    <name>XmlSource</name>
+    <message>
+        <source>An element has too many attributes</source>
+        <translation>Un elemento ha troppi attributi</translation>
+    </message>
+    <message>
+        <source>The entities expand to too many characters</source>
+        <translation>Le entità producono troppi caratteri</translation>
     </message>
 </context>
 </TS>

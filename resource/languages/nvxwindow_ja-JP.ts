@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>Leftovers</name>
+    <message>
+        <source>Line %1: %2 is not kept</source>
+        <translation>%1 行目: %2 は保持されません</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 is not kept; it occurs again in line %3</source>
+        <translation>%1 行目: %2 は保持されません。%3 行目にもう一度あります</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 他 %1 件</translation>
+    </message>
+    <message>
+        <source>Parts of the file were dropped; the previous file is kept as %1</source>
+        <translation>ファイルの一部は失われました。元のファイルは %1 です</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTable</name>
+    <message>
+        <source>The marks of an unfinished merge</source>
+        <translation>完了していないマージのマーカーがあります</translation>
+    </message>
+</context>
+<context>
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -118,6 +144,25 @@ The location may be write-protected or full. The table stays open, unsaved; save
     <message>
         <source>%1 was changed by another program. Replace it?</source>
         <translation>%1 は別のプログラムによって変更されました。置き換えますか?</translation>
+    </message>
+    <message>
+        <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
+        <translation>ファイルに認識できない部分があります。テーブルを保存すると失われる部分: %1</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
+        <translation>保存すると、%1 の認識できなかった部分 (%2) が失われます。元のファイルは同じ場所に残ります。保存しますか?</translation>
+    </message>
+</context>
+<context>
+    <name>XmlSource</name>
+    <message>
+        <source>An element has too many attributes</source>
+        <translation>要素の属性が多すぎます</translation>
+    </message>
+    <message>
+        <source>The entities expand to too many characters</source>
+        <translation>エンティティの展開後の文字数が多すぎます</translation>
     </message>
 </context>
 </TS>

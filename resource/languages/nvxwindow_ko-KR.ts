@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>Leftovers</name>
+    <message>
+        <source>Line %1: %2 is not kept</source>
+        <translation>%1번째 줄: %2은(는) 유지되지 않습니다</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 is not kept; it occurs again in line %3</source>
+        <translation>%1번째 줄: %2은(는) 유지되지 않습니다. %3번째 줄에 다시 나옵니다</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 외 %1개</translation>
+    </message>
+    <message>
+        <source>Parts of the file were dropped; the previous file is kept as %1</source>
+        <translation>파일의 일부가 제외되었습니다. 이전 파일은 %1입니다</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTable</name>
+    <message>
+        <source>The marks of an unfinished merge</source>
+        <translation>완료되지 않은 병합의 표시가 있습니다</translation>
+    </message>
+</context>
+<context>
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -118,6 +144,25 @@ The location may be write-protected or full. The table stays open, unsaved; save
     <message>
         <source>%1 was changed by another program. Replace it?</source>
         <translation>%1이(가) 다른 프로그램에서 변경되었습니다. 바꿀까요?</translation>
+    </message>
+    <message>
+        <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
+        <translation>파일에 인식할 수 없는 부분이 있습니다. 테이블을 저장하면 제외되는 부분: %1</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
+        <translation>저장하면 %1에서 인식하지 못한 부분(%2)이 제외됩니다. 이전 파일은 같은 위치에 유지됩니다. 저장하시겠습니까?</translation>
+    </message>
+</context>
+<context>
+    <name>XmlSource</name>
+    <message>
+        <source>An element has too many attributes</source>
+        <translation>요소의 특성이 너무 많습니다</translation>
+    </message>
+    <message>
+        <source>The entities expand to too many characters</source>
+        <translation>엔터티를 확장한 문자가 너무 많습니다</translation>
     </message>
 </context>
 </TS>

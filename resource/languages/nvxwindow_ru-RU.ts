@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>Leftovers</name>
+    <message>
+        <source>Line %1: %2 is not kept</source>
+        <translation>Строка %1: %2 не сохраняется</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 is not kept; it occurs again in line %3</source>
+        <translation>Строка %1: %2 не сохраняется, повторяется в строке %3</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... и еще %1</translation>
+    </message>
+    <message>
+        <source>Parts of the file were dropped; the previous file is kept as %1</source>
+        <translation>Части файла опущены, прежний файл: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTable</name>
+    <message>
+        <source>The marks of an unfinished merge</source>
+        <translation>Метки незавершенного слияния</translation>
+    </message>
+</context>
+<context>
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -118,6 +144,25 @@ The location may be write-protected or full. The table stays open, unsaved; save
     <message>
         <source>%1 was changed by another program. Replace it?</source>
         <translation>Файл %1 изменён другой программой. Заменить его?</translation>
+    </message>
+    <message>
+        <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
+        <translation>Не все содержимое файла распознано. При сохранении таблицы будут опущены части: %1</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
+        <translation>При сохранении нераспознанные части %1 (%2) будут опущены. Прежний файл останется рядом. Сохранить?</translation>
+    </message>
+</context>
+<context>
+    <name>XmlSource</name>
+    <message>
+        <source>An element has too many attributes</source>
+        <translation>У элемента слишком много атрибутов</translation>
+    </message>
+    <message>
+        <source>The entities expand to too many characters</source>
+        <translation>Сущности раскрываются в слишком большое число символов</translation>
     </message>
 </context>
 </TS>

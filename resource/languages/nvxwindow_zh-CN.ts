@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>Leftovers</name>
+    <message>
+        <source>Line %1: %2 is not kept</source>
+        <translation>第 %1 行：%2 不会保留</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 is not kept; it occurs again in line %3</source>
+        <translation>第 %1 行：%2 不会保留，它在第 %3 行再次出现</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 以及另外 %1 个</translation>
+    </message>
+    <message>
+        <source>Parts of the file were dropped; the previous file is kept as %1</source>
+        <translation>文件的部分内容已被省略，原来的文件是 %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTable</name>
+    <message>
+        <source>The marks of an unfinished merge</source>
+        <translation>存在未完成合并的标记</translation>
+    </message>
+</context>
+<context>
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -118,6 +144,25 @@ The location may be write-protected or full. The table stays open, unsaved; save
     <message>
         <source>%1 was changed by another program. Replace it?</source>
         <translation>%1 已被其他程序更改。是否替换？</translation>
+    </message>
+    <message>
+        <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
+        <translation>文件中有未能识别的内容。保存表时将省略这些部分：%1</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
+        <translation>保存时将省略 %1 中未能识别的部分（%2）。原来的文件会保留在旁边。是否保存？</translation>
+    </message>
+</context>
+<context>
+    <name>XmlSource</name>
+    <message>
+        <source>An element has too many attributes</source>
+        <translation>元素的属性过多</translation>
+    </message>
+    <message>
+        <source>The entities expand to too many characters</source>
+        <translation>实体展开后的字符过多</translation>
     </message>
 </context>
 </TS>

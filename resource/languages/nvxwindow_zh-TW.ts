@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en_US">
 <context>
+    <name>Leftovers</name>
+    <message>
+        <source>Line %1: %2 is not kept</source>
+        <translation>第 %1 行：%2 不會保留</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 is not kept; it occurs again in line %3</source>
+        <translation>第 %1 行：%2 不會保留，它在第 %3 行再次出現</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 以及其他 %1 個</translation>
+    </message>
+    <message>
+        <source>Parts of the file were dropped; the previous file is kept as %1</source>
+        <translation>檔案的部分內容已被省略，原來的檔案是 %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTable</name>
+    <message>
+        <source>The marks of an unfinished merge</source>
+        <translation>有未完成合併的標記</translation>
+    </message>
+</context>
+<context>
     <name>Window::FilterField</name>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -118,6 +144,25 @@ The location may be write-protected or full. The table stays open, unsaved; save
     <message>
         <source>%1 was changed by another program. Replace it?</source>
         <translation>%1 已被其他程式變更。是否取代？</translation>
+    </message>
+    <message>
+        <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
+        <translation>檔案中有無法辨識的內容。儲存表時將省略這些部分：%1</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
+        <translation>儲存時將省略 %1 中無法辨識的部分（%2）。原來的檔案會保留在旁邊。要儲存嗎？</translation>
+    </message>
+</context>
+<context>
+    <name>XmlSource</name>
+    <message>
+        <source>An element has too many attributes</source>
+        <translation>元素的屬性過多</translation>
+    </message>
+    <message>
+        <source>The entities expand to too many characters</source>
+        <translation>實體展開後的字元過多</translation>
     </message>
 </context>
 </TS>

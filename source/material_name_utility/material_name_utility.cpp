@@ -3,7 +3,6 @@
 #include "material_name_utility/material_rows.h"
 #include "materials/mat_material_name.h"
 #include "materials/mat_translation_table.h"
-#include "translation/translation_backup.h"
 #include "window/dialogs.h"
 #include "window/marked_table_view.h"
 #include "window/wait_cursor.h"
@@ -103,7 +102,7 @@ bool MaterialNameUtility::saveTable(const QString &fileName)
 QString MaterialNameUtility::savedNote() const
 {
     const QString backup = m_table.backupFile();
-    return backup.isEmpty() ? QString() : Translation::backupText(QFileInfo(backup).fileName());
+    return backup.isEmpty() ? QString() : Clt::backupText(QFileInfo(backup).fileName());
 }
 
 Window::MarkedRows MaterialNameUtility::rows() const

@@ -36,6 +36,7 @@ protected:
     Nvx::Util::Outcome loadTable(const QString &fileName, Window::Progress &progress) override;
     bool saveTable(const QString &fileName) override;
     QString savedNote() const override;
+    Clt::Leftovers leftovers() const override { return m_table.leftovers(); }
     Window::MarkedRows rows() const override;
 
     /// Synchronises with a material database; opens any other file.

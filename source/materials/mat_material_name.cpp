@@ -1,5 +1,6 @@
 #include "materials/mat_material_name.h"
 
+#include "clt_xml_source.h"
 #include "clt_xml_text.h"
 
 #include <QFile>
@@ -13,6 +14,11 @@ using Nvx::Util::Result;
 namespace Materials {
 
 namespace {
+
+Failure failureAt(const QString &error, qint64 line)
+{
+    return {u"%1 at line %2"_s.arg(error, QString::number(line))};
+}
 
 /// The text of the current element, including that of its children. It counts the levels and does not
 /// recurse, because a file may nest elements as deeply as it likes.
@@ -36,6 +42,8 @@ QString readWholeText(QXmlStreamReader &xml)
 Result<QStringList> readMaterialNames(QIODevice &device)
 {
     QXmlStreamReader xml(&device);
+    if (const qint64 line = Clt::limitExpansion(xml, device))
+        return failureAt(Clt::tooManyAttributes(), line);
     QStringList names;
     qint64 openMaterials = 0;
     while (Clt::canRead(xml)) {
@@ -48,7 +56,7 @@ Result<QStringList> readMaterialNames(QIODevice &device)
             names.append(readWholeText(xml));
     }
     if (xml.hasError())
-        return Failure{u"%1 at line %2"_s.arg(xml.errorString(), QString::number(xml.lineNumber()))};
+        return failureAt(xml.errorString(), xml.lineNumber());
     return names;
 }
 

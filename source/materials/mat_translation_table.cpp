@@ -1,8 +1,8 @@
 #include "materials/mat_translation_table.h"
 
+#include "clt_leftovers.h"
 #include "materials/mat_material_name.h"
 #include "translation/error_translation_table.h"
-#include "translation/translation_backup.h"
 #include "translation/translation_table_xml.h"
 
 #include <QCoreApplication>
@@ -143,7 +143,7 @@ Result<NameUpdate> updateTranslationFile(const QString &databaseFile, const QStr
     if (!table.save(translationFile))
         return failureOf(translationFile, Texts::tr("It cannot be written"));
     if (!table.backupFile().isEmpty())
-        update.note = Translation::backupText(table.backupFile());
+        update.note = Clt::backupText(table.backupFile());
     return update;
 }
 

@@ -6,7 +6,6 @@
 #include "scanner/error_visual_studio_project.h"
 #include "synchronisation/message_table_synchronisation.h"
 #include "translation/error_translation_table.h"
-#include "translation/translation_backup.h"
 #include "translation/translation_update.h"
 #include "window/dialogs.h"
 #include "window/marked_table_view.h"
@@ -100,6 +99,12 @@ Outcome MessageTableUtility::loadTable(const QString &fileName, Window::Progress
 bool MessageTableUtility::saveTable(const QString &fileName)
 {
     return m_messages.save(fileName);
+}
+
+QString MessageTableUtility::savedNote() const
+{
+    const QString backup = m_messages.backupFile();
+    return backup.isEmpty() ? QString() : Clt::backupText(QFileInfo(backup).fileName());
 }
 
 Window::MarkedRows MessageTableUtility::rows() const
@@ -201,6 +206,6 @@ void MessageTableUtility::updateTranslation()
     }
     QString text = tr("Added %1 new strings to %2").arg(QString::number(added), file);
     if (!table.backupFile().isEmpty())
-        text += statusGap + Translation::backupText(QFileInfo(table.backupFile()).fileName());
+        text += statusGap + Clt::backupText(QFileInfo(table.backupFile()).fileName());
     showStatus(text);
 }

@@ -30,6 +30,8 @@ protected:
     void clearTable() override;
     Nvx::Util::Outcome loadTable(const QString &fileName, Window::Progress &progress) override;
     bool saveTable(const QString &fileName) override;
+    QString savedNote() const override;
+    Clt::Leftovers leftovers() const override { return m_messages.leftovers(); }
     Window::MarkedRows rows() const override;
 
 private:

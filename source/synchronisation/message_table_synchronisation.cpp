@@ -5,6 +5,7 @@
 #include "scanner/scan_files.h"
 #include "synchronisation/progress_log.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QTextStream>
 
@@ -70,13 +71,16 @@ struct Input
     Scan::VisualStudioProject project;
 };
 
-Result<Input> readInput(const QString &messageTableFile, const QString &projectFile, ProgressLog &log)
+Result<Input> readInput(const QString &messageTableFile, const QString &projectFile, ProgressLog &log,
+                        QTextStream &errors)
 {
     Input input;
     if (QFileInfo::exists(messageTableFile)) {
         log.writeLine(u"Loading message table \"%1\"..."_s.arg(messageTableFile));
         // Saving a table that was loaded only in part would lose the rest.
-        if (!input.table.load(messageTableFile))
+        const bool isLoaded = input.table.load(messageTableFile);
+        Clt::writeReading(errors, messageTableFile, input.table);
+        if (!isLoaded)
             return Failure{u"Could not load message table"_s};
     }
     if (!QFileInfo::exists(projectFile))
@@ -86,6 +90,25 @@ Result<Input> readInput(const QString &messageTableFile, const QString &projectF
         return Failure{u"Could not parse \"%1\""_s.arg(projectFile)};
     input.project = *std::move(project);
     return input;
+}
+
+// A file below the current folder is named as compilers name it.
+QString shownFile(const QString &file, const QString &currentFolder)
+{
+    return file.startsWith(currentFolder) ? file.sliced(currentFolder.size()) : file;
+}
+
+void writeDifference(QTextStream &errors, const QString &messageTableFile, const Clt::MessageTable &table,
+                     const KeyCounts &counts)
+{
+    const QString currentFolder = QDir::currentPath() + u'/';
+    for (const Clt::MessageKey &key : counts.addedKeys) {
+        const Clt::Message message = table.message(key);
+        errors << shownFile(message.file(), currentFolder) << ':' << message.line() << ": new message "
+               << key.displayText() << '\n';
+    }
+    for (const Clt::MessageKey &key : counts.obsoleteKeys)
+        errors << messageTableFile << ": obsolete message " << key.displayText() << '\n';
 }
 
 Outcome saveTable(Clt::MessageTable &table, const QString &messageTableFile, ProgressLog &log)
@@ -109,8 +132,12 @@ QString KeyCounts::text() const
 KeyCounts synchronizeKeys(Clt::MessageTable &table, const Scan::FoundKeys &found)
 {
     const QSet<Clt::MessageKey> existing = table.keys();
-    KeyCounts counts{.found = found.size(), .existing = existing.size()};
-    for (const Clt::MessageKey &key : newKeys(found, existing)) {
+    KeyCounts counts;
+    counts.found = found.size();
+    counts.existing = existing.size();
+    counts.addedKeys = newKeys(found, existing);
+    counts.added = static_cast<qsizetype>(counts.addedKeys.size());
+    for (const Clt::MessageKey &key : counts.addedKeys) {
         Clt::Message message;
         message.setKey(key);
         message.setState(Clt::MessageState::New);
@@ -118,17 +145,19 @@ KeyCounts synchronizeKeys(Clt::MessageTable &table, const Scan::FoundKeys &found
         message.setFile(place.file);
         message.setLine(place.line);
         table.insert(std::move(message));
-        ++counts.added;
     }
     for (const Clt::MessageKey &key : existing) {
-        if (const auto place = found.constFind(key); place != found.cend()) {
+        if (const auto place = found.constFind(key); place != found.cend())
             table.setPlace(key, place->file, place->line);
-            continue;
-        }
+        else
+            counts.obsoleteKeys.push_back(key);
+    }
+    std::ranges::sort(counts.obsoleteKeys);
+    counts.obsolete = static_cast<qsizetype>(counts.obsoleteKeys.size());
+    for (const Clt::MessageKey &key : counts.obsoleteKeys) {
         Clt::Message message = table.message(key);
         message.setState(Clt::MessageState::Obsolete);
         table.insert(std::move(message));
-        ++counts.obsolete;
     }
     return counts;
 }
@@ -136,7 +165,7 @@ KeyCounts synchronizeKeys(Clt::MessageTable &table, const Scan::FoundKeys &found
 TableSynchronisation synchronizeMessageTable(const QString &messageTableFile, const QString &projectFile,
                                              ProgressLog &log, QTextStream &errors)
 {
-    Result<Input> input = readInput(messageTableFile, projectFile, log);
+    Result<Input> input = readInput(messageTableFile, projectFile, log, errors);
     if (!input) {
         log.writeLine(input.error());
         return {.outcome = Failure{input.error()}};
@@ -145,11 +174,15 @@ TableSynchronisation synchronizeMessageTable(const QString &messageTableFile, co
 
     log.writeLine(u"Scanning..."_s);
     const SourceKeys sources = scanSources(project, log, errors);
-    log.writeLine(synchronizeKeys(table, sources.keys).text());
+    const KeyCounts counts = synchronizeKeys(table, sources.keys);
+    log.writeLine(counts.text());
+    writeDifference(errors, messageTableFile, table, counts);
 
     Outcome saved = saveTable(table, messageTableFile, log);
     if (!saved)
         log.writeLine(saved.error());
+    if (!table.backupFile().isEmpty())
+        errors << Clt::backupText(table.backupFile()) << '\n';
     return {.outcome = std::move(saved), .skippedFiles = sources.skippedFiles};
 }
 

@@ -1,12 +1,10 @@
 #include "translation/error_translation_table.h"
 
 #include "nvx_util/whole_file.h"
-#include "translation/translation_backup.h"
 #include "translation/translation_table_xml.h"
 
 #include <QBuffer>
 #include <QFile>
-#include <QFileInfo>
 
 #include <optional>
 #include <utility>
@@ -25,12 +23,6 @@ TranslationMessage unfinished(const QString &source)
     return {.source = source, .translation = source, .type = u"unfinished"_s, .comment = QString()};
 }
 
-/// True if both paths, however they are spelled, name the same existing file.
-bool isSameFile(const QString &one, const QString &other)
-{
-    return QFile::exists(one) && QFile::exists(other) && QFileInfo(one) == QFileInfo(other);
-}
-
 bool saveDamaged(const QString &fileName)
 {
     const std::optional<QByteArray> contents = Nvx::Util::readWholeFile(fileName);
@@ -45,6 +37,15 @@ Result<TranslationRoot> readFile(QFile &file, TranslationTable &table)
 }
 
 } // namespace
+
+TranslationContext::TranslationContext(const QString &name, TranslationMessages messages)
+    : m_name(name)
+    , m_messages(std::move(messages))
+{
+    m_sources.reserve(static_cast<qsizetype>(m_messages.size()));
+    for (const TranslationMessage &message : m_messages)
+        m_sources.insert(message.source);
+}
 
 void TranslationContext::append(const TranslationMessage &message)
 {
@@ -117,23 +118,16 @@ bool TranslationTable::load(QFile &file)
 
 bool TranslationTable::save(const QString &fileName)
 {
-    m_backupFile.clear();
     QBuffer contents;
     if (!contents.open(QIODevice::WriteOnly | QIODevice::Text) || !writeTranslationTable(contents, *this))
         return false;
-    if (isSameFile(fileName, m_damagedFile) && !saveDamaged(fileName))
+    if (Clt::isSameFile(fileName, m_damagedFile) && !saveDamaged(fileName))
         return false;
-    std::optional<QString> backup = QString();
-    if (isSameFile(fileName, m_fileWithForms))
-        backup = backUpFile(fileName);
-    if (!backup || !Nvx::Util::replaceWholeFile(fileName, contents.data()))
+    if (!m_file.replace(fileName, contents.data()))
         return false;
-    m_backupFile = *backup;
     // Checked only now, because the file may not have existed before.
-    for (QString *replaced : {&m_damagedFile, &m_fileWithForms}) {
-        if (isSameFile(fileName, *replaced))
-            replaced->clear();
-    }
+    if (Clt::isSameFile(fileName, m_damagedFile))
+        m_damagedFile.clear();
     return true;
 }
 

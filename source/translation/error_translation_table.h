@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clt_leftovers.h"
 #include "translation/translation_message.h"
 
 #include <QSet>
@@ -19,6 +20,7 @@ public:
         : m_name(name)
     {
     }
+    TranslationContext(const QString &name, TranslationMessages messages);
 
     const QString &name() const { return m_name; }
     const TranslationMessages &messages() const { return m_messages; }
@@ -90,16 +92,22 @@ public:
 
     /// Writes the table to the file, which is replaced whole or not at all; a file that already has these
     /// bytes is not touched. If it is the file that was loaded last, and it was damaged or not a translation
-    /// file, its bytes are first saved next to it as NAME.damaged; if it has plural forms or length variants,
-    /// as NAME.before (translation/translation_backup.h). Returns false, with the old file unchanged, if the
-    /// file or such a copy cannot be written.
+    /// file, its bytes are first saved next to it as NAME.damaged; if something was left over from it, as
+    /// NAME.before (Clt::backUpFile). Returns false, with the old file unchanged, if the file or such a copy
+    /// cannot be written.
     bool save(const QString &fileName);
 
-    /// The copy with the plural forms and length variants that the last save made; empty if it made none.
-    const QString &backupFile() const { return m_backupFile; }
+    /// The copy that the last save made of a file with something left over; empty if it made none.
+    const QString &backupFile() const { return m_file.copy(); }
 
-    /// The file that was read last, if it has forms that the table does not hold; otherwise empty.
-    void setFileWithForms(const QString &fileName) { m_fileWithForms = fileName; }
+    /// What was left over from the file that the table was read from; nothing after it was replaced.
+    const Clt::Leftovers &leftovers() const { return m_file.leftovers(); }
+
+    /// The file that the table was read from, and what was left over from it, for save().
+    void setFile(const QString &fileName, const Clt::Leftovers &leftovers)
+    {
+        m_file.set(fileName, leftovers);
+    }
 
 private:
     QString m_version;
@@ -108,8 +116,7 @@ private:
     Contexts m_contexts;
     QString m_errorString;
     QString m_damagedFile; // the file loaded last, if the table does not hold all of it; otherwise empty
-    QString m_fileWithForms;
-    QString m_backupFile;
+    Clt::FileLeftovers m_file;
 };
 
 } // namespace Translation

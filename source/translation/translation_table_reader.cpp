@@ -1,12 +1,14 @@
-#include "clt_xml_text.h"
+#include "clt_leftovers.h"
+#include "clt_xml_source.h"
 #include "nvx_util/assertion.h"
 #include "translation/error_translation_table.h"
 #include "translation/translation_table_xml.h"
 
 #include <QFileDevice>
+#include <QHash>
 #include <QXmlStreamReader>
 
-#include <optional>
+#include <string_view>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,202 +17,304 @@ namespace Translation {
 
 namespace {
 
+using Clt::XmlSource;
+using Token = Clt::XmlSource::Token;
+
 constexpr const char *unit = "error_translation_table";
 
 /// The character of a "byte" element; empty if its number is not that of a UTF-16 code unit.
-QString byteCharacter(const QXmlStreamReader &xml)
+QString byteCharacter(const QString &value)
 {
-    const auto attributes = xml.attributes();
-    const QStringView value = attributes.value("value"_L1);
     const bool isHexadecimal = value.startsWith(u'x');
-    const ushort number = isHexadecimal ? value.sliced(1).toUShort(nullptr, 16) : value.toUShort();
+    const ushort number =
+        isHexadecimal ? QStringView(value).sliced(1).toUShort(nullptr, 16) : value.toUShort();
     return number == 0 ? QString() : QString(QChar(number));
 }
 
-struct ElementText
+/// Reads a document into a table.
+class Reader
 {
-    QString text;
-    bool hasElements = false; ///< true if the element has children other than "byte"
+public:
+    Reader(XmlSource &xml, TranslationTable &table, Clt::Leftovers &leftovers)
+        : m_xml(xml)
+        , m_table(table)
+        , m_leftovers(leftovers)
+    {
+    }
+
+    TranslationRoot read();
+
+private:
+    void leaveElement();
+    void readRoot();
+    void readRootChild(Clt::RepeatedChildren &children);
+    void readContext();
+    void storeContext(const QString &name, TranslationMessages &&messages, qint64 place);
+    bool readMessage(TranslationMessages &messages);
+    void readMessageChild(TranslationMessage &message, Clt::RepeatedChildren &children);
+    QString readTextOnly();
+    QString readText();
+    QString readByte();
+
+    XmlSource &m_xml;
+    TranslationTable &m_table;
+    Clt::Leftovers &m_leftovers;
+    qint64 m_leftDepth = 0; // of the open element outside of a root that was left; 0 if there is none
+    QHash<QString, qint64> m_contextPlaces;
 };
 
-/// Reads the current element to its end. The text of its children is left out, as is white space that only
-/// separates them.
-ElementText readElement(QXmlStreamReader &xml)
+TranslationRoot Reader::read()
 {
-    ElementText element;
-    while (Clt::canRead(xml)) {
-        switch (xml.readNext()) {
-        case QXmlStreamReader::Characters:
-            element.text += xml.text();
+    auto root = TranslationRoot::Missing;
+    for (;;) {
+        switch (m_xml.next()) {
+        case Token::StartElement:
+            if (m_xml.name() == "TS") {
+                readRoot();
+                root = TranslationRoot::Found;
+            } else {
+                leaveElement();
+            }
             break;
-        case QXmlStreamReader::StartElement:
-            if (xml.name() == u"byte")
-                element.text += byteCharacter(xml);
-            else
-                element.hasElements = true;
-            xml.skipCurrentElement();
+        case Token::EndElement:
+            if (m_xml.depth() < m_leftDepth)
+                m_leftDepth = 0;
             break;
-        case QXmlStreamReader::EndElement:
-            if (element.hasElements && QStringView(element.text).trimmed().isEmpty())
-                element.text.clear();
-            return element;
+        case Token::Comment:
+            leaveText(m_xml, m_leftovers);
+            break;
+        case Token::End:
+            return root;
         default:
             break;
         }
     }
-    return element;
 }
 
-QString readText(QXmlStreamReader &xml)
+// An element in one that was left is not counted.
+void Reader::leaveElement()
 {
-    return readElement(xml).text;
-}
-
-/// Reads a document into a table, and remembers whether it has plural forms or length variants.
-class Reader
-{
-public:
-    Reader(QIODevice &device, TranslationTable &table)
-        : m_xml(&device)
-        , m_table(table)
-    {
-    }
-
-    Nvx::Util::Result<TranslationRoot> read();
-    bool hasForms() const { return m_hasForms; }
-
-private:
-    void readRoot();
-    void readRootChild();
-    std::optional<TranslationContext> readContext();
-    std::optional<TranslationMessage> readMessage();
-    void readMessageChild(TranslationMessage &message);
-
-    QXmlStreamReader m_xml;
-    TranslationTable &m_table;
-    bool m_hasForms = false;
-};
-
-Nvx::Util::Result<TranslationRoot> Reader::read()
-{
-    auto root = TranslationRoot::Missing;
-    while (Clt::canRead(m_xml)) {
-        if (m_xml.readNext() != QXmlStreamReader::StartElement || m_xml.name() != u"TS")
-            continue;
-        readRoot();
-        root = TranslationRoot::Found;
-    }
-    if (m_xml.hasError())
-        return Nvx::Util::Failure{
-            u"%1 at line %2"_s.arg(m_xml.errorString(), QString::number(m_xml.lineNumber()))};
-    return root;
+    if (m_leftDepth != 0)
+        return;
+    m_leftDepth = m_xml.depth();
+    leave(m_xml, m_leftovers, startTag(m_xml));
 }
 
 void Reader::readRoot()
 {
-    NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == u"TS", unit);
-    const QXmlStreamAttributes attributes = m_xml.attributes();
-    m_table.setVersion(attributes.value("version"_L1).toString());
-    m_table.setLanguage(attributes.value("language"_L1).toString());
-    while (Clt::canRead(m_xml)) {
-        const QXmlStreamReader::TokenType token = m_xml.readNext();
-        if (token == QXmlStreamReader::EndElement)
+    NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == "TS", unit);
+    m_leftDepth = 0;
+    m_table.setVersion(m_xml.attribute("version"));
+    m_table.setLanguage(m_xml.attribute("language"));
+    for (const XmlSource::Attribute &attribute : m_xml.attributes()) {
+        if (attribute.name != "version" && attribute.name != "language" && attribute.name != "sourcelanguage")
+            leaveAttribute(m_xml, m_leftovers, attribute);
+    }
+    Clt::RepeatedChildren children(m_leftovers);
+    for (;;) {
+        switch (m_xml.next()) {
+        case Token::StartElement:
+            readRootChild(children);
+            break;
+        case Token::EndElement:
+        case Token::End:
             return;
-        if (token == QXmlStreamReader::StartElement)
-            readRootChild();
-    }
-}
-
-void Reader::readRootChild()
-{
-    if (m_xml.name() == u"context") {
-        if (std::optional<TranslationContext> context = readContext())
-            m_table.setContext(std::move(*context));
-    } else if (m_xml.name() == u"defaultcodec") {
-        m_table.setDefaultCodec(readText(m_xml));
-    } else {
-        m_xml.skipCurrentElement();
-    }
-}
-
-// A context's name need not be its first element.
-TranslationContext contextOf(const QString &name, const TranslationMessages &messages)
-{
-    TranslationContext context(name);
-    for (const TranslationMessage &message : messages)
-        context.append(message);
-    return context;
-}
-
-/// std::nullopt if the document ends before the context's first message is complete.
-std::optional<TranslationContext> Reader::readContext()
-{
-    NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == u"context", unit);
-    QString name;
-    TranslationMessages messages;
-    while (Clt::canRead(m_xml)) {
-        const QXmlStreamReader::TokenType token = m_xml.readNext();
-        if (token == QXmlStreamReader::EndElement)
-            return contextOf(name, messages);
-        if (token != QXmlStreamReader::StartElement)
-            continue;
-        if (m_xml.name() == u"name") {
-            name = readText(m_xml);
-        } else if (m_xml.name() == u"message") {
-            if (const std::optional<TranslationMessage> message = readMessage())
-                messages.push_back(*message);
-        } else {
-            m_xml.skipCurrentElement();
+        default:
+            leaveText(m_xml, m_leftovers);
+            break;
         }
     }
-    if (messages.empty())
-        return std::nullopt;
-    return contextOf(name, messages);
 }
 
-/// std::nullopt if the document ends within the message.
-std::optional<TranslationMessage> Reader::readMessage()
+void Reader::readRootChild(Clt::RepeatedChildren &children)
 {
-    NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == u"message", unit);
-    if (m_xml.attributes().value("numerus"_L1) == u"yes")
-        m_hasForms = true;
-    TranslationMessage message;
-    while (Clt::canRead(m_xml)) {
-        const QXmlStreamReader::TokenType token = m_xml.readNext();
-        if (token == QXmlStreamReader::EndElement)
-            return message;
-        if (token == QXmlStreamReader::StartElement)
-            readMessageChild(message);
-    }
-    return std::nullopt;
-}
-
-void Reader::readMessageChild(TranslationMessage &message)
-{
-    const QStringView name = m_xml.name();
-    if (name == u"source") {
-        message.source = readText(m_xml);
-    } else if (name == u"translation") {
-        message.type = m_xml.attributes().value("type"_L1).toString();
-        const ElementText translation = readElement(m_xml);
-        message.translation = translation.text;
-        // Each plural form or length variant is an element.
-        m_hasForms = m_hasForms || translation.hasElements;
-    } else if (name == u"comment") {
-        message.comment = readText(m_xml);
+    if (m_xml.name() == "context") {
+        readContext();
+    } else if (m_xml.name() == "defaultcodec") {
+        children.begin(m_xml, 0);
+        m_table.setDefaultCodec(readTextOnly());
     } else {
-        m_xml.skipCurrentElement();
+        leave(m_xml, m_leftovers, startTag(m_xml));
+        skipElement(m_xml);
     }
+}
+
+// The name need not be the first element. A context at the end of a damaged document is stored once one of
+// its messages is complete.
+void Reader::readContext()
+{
+    NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == "context", unit);
+    const qint64 place = m_xml.place();
+    leaveAttributes(m_xml, m_leftovers);
+    QString name;
+    TranslationMessages messages;
+    Clt::RepeatedChildren children(m_leftovers);
+    for (;;) {
+        switch (m_xml.next()) {
+        case Token::StartElement:
+            if (m_xml.name() == "name") {
+                children.begin(m_xml, 0);
+                name = readTextOnly();
+            } else if (m_xml.name() == "message") {
+                readMessage(messages);
+            } else {
+                leave(m_xml, m_leftovers, startTag(m_xml));
+                skipElement(m_xml);
+            }
+            break;
+        case Token::EndElement:
+            storeContext(name, std::move(messages), place);
+            return;
+        case Token::End:
+            if (!messages.empty())
+                storeContext(name, std::move(messages), place);
+            return;
+        default:
+            leaveText(m_xml, m_leftovers);
+            break;
+        }
+    }
+}
+
+void Reader::storeContext(const QString &name, TranslationMessages &&messages, qint64 place)
+{
+    if (const auto earlier = m_contextPlaces.constFind(name); earlier != m_contextPlaces.cend()) {
+        m_leftovers.add(
+            {m_xml.lineOf(*earlier), u"<context> "_s + Clt::shortened(name), m_xml.lineOf(place)});
+    }
+    m_contextPlaces.insert(name, place);
+    m_table.setContext(TranslationContext(name, std::move(messages)));
+}
+
+/// Appends the message unless the document ends within it.
+bool Reader::readMessage(TranslationMessages &messages)
+{
+    NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == "message", unit);
+    for (const XmlSource::Attribute &attribute : m_xml.attributes()) {
+        if (attribute.name != "numerus" || attribute.value != "no"_L1)
+            leaveAttribute(m_xml, m_leftovers, attribute);
+    }
+    TranslationMessage message;
+    Clt::RepeatedChildren children(m_leftovers);
+    for (;;) {
+        switch (m_xml.next()) {
+        case Token::StartElement:
+            readMessageChild(message, children);
+            break;
+        case Token::EndElement:
+            messages.push_back(std::move(message));
+            return true;
+        case Token::End:
+            return false;
+        default:
+            leaveText(m_xml, m_leftovers);
+            break;
+        }
+    }
+}
+
+void Reader::readMessageChild(TranslationMessage &message, Clt::RepeatedChildren &children)
+{
+    const std::string_view name = m_xml.name();
+    if (name == "source") {
+        children.begin(m_xml, 0);
+        message.source = readTextOnly();
+    } else if (name == "translation") {
+        children.begin(m_xml, 1);
+        message.type = m_xml.attribute("type");
+        for (const XmlSource::Attribute &attribute : m_xml.attributes()) {
+            if (attribute.name != "type")
+                leaveAttribute(m_xml, m_leftovers, attribute);
+        }
+        message.translation = readText();
+    } else if (name == "comment") {
+        children.begin(m_xml, 2);
+        message.comment = readTextOnly();
+    } else {
+        if (name != "location")
+            leave(m_xml, m_leftovers, startTag(m_xml));
+        skipElement(m_xml);
+    }
+}
+
+/// The text of an element that has no attributes.
+QString Reader::readTextOnly()
+{
+    leaveAttributes(m_xml, m_leftovers);
+    return readText();
+}
+
+/// The text of the element that starts, which is read to its end. Its children, such as plural forms and
+/// length variants, are left, and so is white space that only separates them.
+QString Reader::readText()
+{
+    QString text;
+    bool hasElements = false;
+    for (;;) {
+        switch (m_xml.next()) {
+        case Token::Text:
+            if (text.isNull())
+                text = m_xml.text();
+            else
+                text += m_xml.text();
+            break;
+        case Token::StartElement:
+            if (m_xml.name() == "byte") {
+                text += readByte();
+            } else {
+                hasElements = true;
+                leave(m_xml, m_leftovers, startTag(m_xml));
+                skipElement(m_xml);
+            }
+            break;
+        case Token::Comment:
+            leaveText(m_xml, m_leftovers);
+            break;
+        default:
+            return hasElements && QStringView(text).trimmed().isEmpty() ? QString() : text;
+        }
+    }
+}
+
+QString Reader::readByte()
+{
+    const QString value = m_xml.attribute("value");
+    QString character = byteCharacter(value);
+    if (character.isEmpty())
+        leaveAttribute(m_xml, m_leftovers, {"value", value});
+    skipElement(m_xml);
+    return character;
+}
+
+Nvx::Util::Failure failureAt(const QString &error, qint64 line)
+{
+    return {u"%1 at line %2"_s.arg(error, QString::number(line))};
+}
+
+Nvx::Util::Result<TranslationRoot> readWithQt(QIODevice &device, TranslationTable &table,
+                                              Clt::Leftovers &leftovers)
+{
+    QXmlStreamReader xml(&device);
+    if (const qint64 line = Clt::limitExpansion(xml, device))
+        return failureAt(Clt::tooManyAttributes(), line);
+    Clt::QtXmlSource source(xml);
+    const TranslationRoot root = Reader(source, table, leftovers).read();
+    if (xml.hasError())
+        return failureAt(xml.errorString(), xml.lineNumber());
+    return root;
 }
 
 } // namespace
 
 Nvx::Util::Result<TranslationRoot> readTranslationTable(QIODevice &device, TranslationTable &table)
 {
-    Reader reader(device, table);
-    const Nvx::Util::Result<TranslationRoot> root = reader.read();
+    Clt::Leftovers leftovers;
+    const Nvx::Util::Result<TranslationRoot> root = readWithQt(device, table, leftovers);
+    // A file in another format is saved as such.
+    if (root && *root == TranslationRoot::Missing)
+        leftovers = Clt::Leftovers();
     const auto *file = qobject_cast<QFileDevice *>(&device);
-    table.setFileWithForms(reader.hasForms() && file ? file->fileName() : QString());
+    table.setFile(file ? file->fileName() : QString(), leftovers);
     return root;
 }
 

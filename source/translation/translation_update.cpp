@@ -2,7 +2,6 @@
 
 #include "clt_message_table.h"
 #include "translation/error_translation_table.h"
-#include "translation/translation_backup.h"
 
 #include <QFile>
 #include <QTextStream>
@@ -39,7 +38,9 @@ bool synchronizeTranslationTable(const QString &messageTableFile, const QString 
 {
     log << "Loading message table \"" << messageTableFile << "\"...\n";
     Clt::MessageTable messages;
-    if (!messages.load(messageTableFile)) {
+    const bool isLoaded = messages.load(messageTableFile);
+    Clt::writeReading(errors, messageTableFile, messages);
+    if (!isLoaded) {
         log << "Could not load message table\n";
         return false;
     }
@@ -47,7 +48,10 @@ bool synchronizeTranslationTable(const QString &messageTableFile, const QString 
     TranslationTable table;
     if (QFile::exists(translationFile)) {
         log << "Loading translation table \"" << translationFile << "\"...\n";
-        table.load(translationFile);
+        if (!table.load(translationFile))
+            errors << translationFile << ": " << table.errorString() << '\n';
+        for (const QString &line : table.leftovers().logLines(translationFile))
+            errors << line << '\n';
     }
 
     log << "Added " << addMessageTexts(table, messages) << " new strings to the translation table\n";
@@ -56,7 +60,7 @@ bool synchronizeTranslationTable(const QString &messageTableFile, const QString 
         return false;
     }
     if (!table.backupFile().isEmpty())
-        errors << backupText(table.backupFile()) << '\n';
+        errors << Clt::backupText(table.backupFile()) << '\n';
     return true;
 }
 

@@ -21,8 +21,9 @@ enum class OutputDevice
 };
 
 /// Runs the program with the arguments, without its own name. Writes the progress of the work, or the usage
-/// if requested, to output; and to errors the usage if the arguments are wrong, and last the number of source
-/// files skipped, if any.
+/// if requested, to output; and to errors the usage if the arguments are wrong, what the operations report
+/// (message_table_synchronisation.h, translation_update.h), and last the number of source files skipped, if
+/// any.
 ExitCode runUpdateErrorTable(const QStringList &arguments, QTextStream &output, QTextStream &errors,
                              OutputDevice outputDevice);
 

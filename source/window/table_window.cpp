@@ -163,7 +163,32 @@ bool TableWindow::load(const QString &fileName)
     }
     tableReplaced(path);
     showStatus(withFile(m_texts.opened, path));
+    showLeftovers();
     return true;
+}
+
+void TableWindow::showLeftovers()
+{
+    constexpr std::size_t maximum = 10;
+    const Clt::Leftovers left = leftovers();
+    if (left.isEmpty())
+        return;
+    const QString text =
+        tr("Not everything in the file was understood. Saving the table drops these parts: %1");
+    m_dialogs.warn(
+        this, m_texts.openTitle,
+        u"%1\n\n%2\n%3"_s.arg(m_fileName, text.arg(left.count()), left.texts(maximum).join(u'\n')));
+}
+
+bool TableWindow::mayDropLeftovers(const QString &path)
+{
+    const Clt::Leftovers left = leftovers();
+    if (left.isEmpty() || !Clt::isSameFile(path, m_fileName))
+        return true;
+    return m_dialogs.confirm(this, m_texts.saveTitle,
+                             tr("Saving drops the parts of %1 that were not understood (%2). The old file is "
+                                "kept next to it. Save it?")
+                                 .arg(QFileInfo(path).fileName(), QString::number(left.count())));
 }
 
 void TableWindow::showLoadError(const QString &path, const QString &error)
@@ -198,6 +223,8 @@ bool TableWindow::saveTo(const QString &fileName)
     if (path == m_fileName && m_watch.isChanged() &&
         !m_dialogs.confirm(this, m_texts.saveTitle,
                            tr("%1 was changed by another program. Replace it?").arg(path)))
+        return false;
+    if (!mayDropLeftovers(path))
         return false;
     if (!saveShowingWait(path)) {
         m_dialogs.warn(this, m_texts.saveTitle,

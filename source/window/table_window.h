@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clt_leftovers.h"
 #include "nvx_util/result.h"
 #include "window/file_watch.h"
 #include "window/marked_rows.h"
@@ -103,6 +104,10 @@ protected:
     /// What the status bar adds after the table was saved; usually empty.
     virtual QString savedNote() const { return {}; }
 
+    /// What was left over from the file that the table was read from; nothing after it was saved there. The
+    /// user sees it, and is asked before that file is replaced.
+    virtual Clt::Leftovers leftovers() const { return {}; }
+
     virtual MarkedRows rows() const = 0;
 
     // For the subclass.
@@ -161,6 +166,8 @@ private:
     bool mayLoseChanges();
     bool load(const QString &fileName);
     void showLoadError(const QString &path, const QString &error);
+    void showLeftovers();
+    bool mayDropLeftovers(const QString &path);
     bool saveTo(const QString &fileName);
     bool saveShowingWait(const QString &path);
     void tableReplaced(const QString &fileName);

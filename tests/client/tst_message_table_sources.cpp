@@ -164,6 +164,45 @@ private slots:
         compare(document);
         QTEST(isPlain(document), "plain");
     }
+
+    void documentsThatTakeTooMuchAreRefused_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<qint64>("line"); // 0 if it is read
+        const QByteArray entity = "<!DOCTYPE a [<!ENTITY e \"" + QByteArray(4000, 'A') + "\">]>\n";
+        const auto textOf = [](qsizetype references) {
+            return tableWith("\n<text>" + QByteArray("&e;").repeated(references) + "</text>");
+        };
+        QTest::newRow("large entity, many times") << entity + textOf(200'000) << qint64(4);
+        QTest::newRow("large entity, in each of many messages")
+            << entity + "<messageTable>\n" +
+                   QByteArray("<message severity=\"Status\"><text>&e;</text></message>\n").repeated(20'000) +
+                   "</messageTable>\n"
+            << qint64(3);
+        QTest::newRow("large entity, some times") << entity + textOf(100) << qint64(0);
+        QTest::newRow("short entity, many times")
+            << "<!DOCTYPE a [<!ENTITY e \"Product\">]>\n" + textOf(60'000) << qint64(0);
+        QByteArray attributes;
+        for (int number = 0; number < 20'000; ++number)
+            attributes += " a" + QByteArray::number(number) + "=\"\"";
+        QTest::newRow("too many attributes") << tableWith("\n<text" + attributes + "/>") << qint64(3);
+    }
+
+    void documentsThatTakeTooMuchAreRefused()
+    {
+        QFETCH(const QByteArray, document);
+        QBuffer device;
+        device.setData(document);
+        QVERIFY(device.open(QIODevice::ReadOnly | QIODevice::Text));
+        Clt::MessageTable table;
+        const Clt::TableReading reading = Clt::readMessageTable(device, table);
+        QTEST(reading.errorLine, "line");
+        QCOMPARE(reading.succeeded, reading.errorLine == 0);
+        qsizetype characters = 0;
+        for (const auto &[key, message] : table)
+            characters += message.text().size();
+        QVERIFY(characters <= document.size() + 1024 * 1024);
+    }
 };
 
 NVX_GUILESS_TEST(tst_message_table_sources)

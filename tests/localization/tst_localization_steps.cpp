@@ -214,7 +214,7 @@ private slots:
         run();
         const qsizetype done = m_reporter->lines.indexOf(u"0 mat finishes cool"_s);
         QCOMPARE(m_reporter->lines.value(done - 1),
-                 u"1 Plural forms were dropped; the previous file is kept as %1.before"_s.arg(names));
+                 u"1 Parts of the file were dropped; the previous file is kept as %1.before"_s.arg(names));
         QCOMPARE(readFile(names + u".before"_s), plural);
     }
 

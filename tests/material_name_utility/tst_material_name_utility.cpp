@@ -184,10 +184,11 @@ void tst_material_name_utility::copyOfAFileWithPluralFormsIsReported()
         "<TS><context><name>Clt::Material</name><message><source>Oil</source><translation>"
         "<lengthvariant>Oil</lengthvariant></translation></message></context></TS>";
     QVERIFY(writeBytes(f.otherFile, plural));
+    f.dialogs.isConfirmed = true;
     QVERIFY(f.window.openFile(f.otherFile));
     f.action("actionSave")->trigger();
     QCOMPARE(f.status(), u"Saved translation table   "
-                         "Plural forms were dropped; the previous file is kept as other.ts.before"_s);
+                         "Parts of the file were dropped; the previous file is kept as other.ts.before"_s);
     QCOMPARE(fileBytes(f.otherFile + u".before"_s), plural);
     QVERIFY(f.window.save());
     QCOMPARE(f.status(), u"Saved translation table"_s);

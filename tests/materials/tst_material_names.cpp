@@ -98,8 +98,8 @@ private slots:
     {
         QTest::addColumn<QByteArray>("database");
         QTest::addColumn<QString>("line");
-        const auto row = [](const char *name, const char *database, const char *line) {
-            QTest::newRow(name) << QByteArray(database) << QString::fromLatin1(line);
+        const auto row = [](const char *name, const QByteArray &database, const char *line) {
+            QTest::newRow(name) << database << QString::fromLatin1(line);
         };
         row("empty", "", " at line 1");
         row("not XML", "Standard Jet DB", " at line 1");
@@ -118,6 +118,10 @@ private slots:
             "<!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'><!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'>"
             "<!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>]><material><name>&d;</name></material>",
             " at line 1");
+        row("large entity, many times",
+            "<!DOCTYPE m [<!ENTITY e '" + QByteArray(4000, 'A') + "'>]>\n<material><name>" +
+                QByteArray("&e;").repeated(200'000) + "</name></material>",
+            " at line 2");
     }
 
     void databaseThatIsNotWellFormedIsAnError()

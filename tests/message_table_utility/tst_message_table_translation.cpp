@@ -83,7 +83,7 @@ private slots:
         f.action("actionTranslate")->trigger();
         QCOMPARE(f.status(),
                  u"Added 2 new strings to %1   "
-                 "Plural forms were dropped; the previous file is kept as client_de.ts.before"_s.arg(
+                 "Parts of the file were dropped; the previous file is kept as client_de.ts.before"_s.arg(
                      f.translationFile));
         QCOMPARE(fileBytes(f.translationFile + u".before"_s), plural);
     }

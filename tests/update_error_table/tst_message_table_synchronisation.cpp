@@ -119,6 +119,28 @@ private slots:
         QCOMPARE(synchronizeKeys(table, {}).text(), u"Found 0 keys"_s);
     }
 
+    void tableWithEntitiesThatBlowUpIsNotReplaced()
+    {
+        const TestFolder folder;
+        const QString table = folder.path(u"t.xml"_s);
+        const QString project = folder.path(u"p.vcxproj"_s);
+        const QByteArray contents = "<!DOCTYPE messageTable [<!ENTITY e \"" + QByteArray(4000, 'A') +
+                                    "\">]>\n<messageTable>\n<message severity=\"Status\"><text>" +
+                                    QByteArray("&e;").repeated(200'000) +
+                                    "</text></message>\n</messageTable>\n";
+        QVERIFY(writeBytes(table, contents));
+        QVERIFY(writeBytes(project, "<Project/>"));
+        QString text;
+        QString errorText;
+        QTextStream stream(&text);
+        QTextStream errors(&errorText);
+        ProgressLog log(stream, ProgressLog::Progress::Hidden);
+        QCOMPARE(synchronizeMessageTable(table, project, log, errors).outcome.error(),
+                 u"Could not load message table"_s);
+        QVERIFY2(errorText.endsWith(u" at line 3\n"_s), qPrintable(errorText));
+        QVERIFY(fileBytes(table) == contents);
+    }
+
     void tableThatStaysTheSameKeepsItsTimeStamp()
     {
         const TestFolder folder;

@@ -134,7 +134,10 @@ private slots:
         const Run second = run(argumentsOf(folder));
 
         QCOMPARE(second.exitCode, first.exitCode);
-        QCOMPARE(second.errors, first.errors);
+        // A key is new, and something is left over from a file, only the first time.
+        const QStringList errors = first.errors.split(u'\n');
+        for (const QString &line : second.errors.split(u'\n'))
+            QVERIFY2(errors.contains(line), qPrintable(line));
         QVERIFY(filesBelow(work.path()) == between);
         static const QRegularExpression foundAnew(u"\\([1-9][0-9]* new"_s);
         if (first.exitCode == 0)

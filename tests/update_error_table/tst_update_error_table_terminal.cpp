@@ -64,7 +64,8 @@ private slots:
                                         "Scanned 1 of 1 files"
                                         "\r                    \r"
                                         "Found 1 keys (1 new, 0 existing, and 0 obsolete)\r\n"
-                                        "Saving message table \"t.xml\"...\r\n"));
+                                        "Saving message table \"t.xml\"...\r\n"
+                                        "a.cpp:1: new message (, f, Tag)\r\n"));
     }
 };
 

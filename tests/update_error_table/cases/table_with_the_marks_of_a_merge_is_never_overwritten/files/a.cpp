@@ -1,0 +1,3 @@
+namespace N {
+void C::f() { REPORT_ERROR("A"); }
+}
