@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>MessageRemarks</name>
+    <message>
+        <source>missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>begins with a blank</source>
+        <translation>beginnt mit einem Leerzeichen</translation>
+    </message>
+    <message>
+        <source>ends with a blank</source>
+        <translation>endet mit einem Leerzeichen</translation>
+    </message>
+    <message>
+        <source>the file cannot store the character %1</source>
+        <translation>die Datei kann das Zeichen %1 nicht speichern</translation>
+    </message>
+    <message>
+        <source>no translation is found, because %1 is not ASCII</source>
+        <translation>keine Übersetzung wird gefunden, weil %1 kein ASCII-Zeichen ist</translation>
+    </message>
+    <message>
+        <source>%1 is not filled in</source>
+        <translation>%1 wird nicht ausgefüllt</translation>
+    </message>
+    <message>
+        <source>%1 is used, but %2 is not</source>
+        <translation>%1 wird verwendet, aber %2 nicht</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>not saved with this severity</source>
+        <translation>wird bei diesem Schweregrad nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>the accelerator is missing</source>
+        <translation>die Zugriffstaste fehlt</translation>
+    </message>
+    <message>
+        <source>the source has no accelerator</source>
+        <translation>der Quelltext hat keine Zugriffstaste</translation>
+    </message>
+    <message>
+        <source>begins with other blanks than the source</source>
+        <translation>beginnt mit anderen Leerzeichen als der Quelltext</translation>
+    </message>
+    <message>
+        <source>ends with other blanks than the source</source>
+        <translation>endet mit anderen Leerzeichen als der Quelltext</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>the source has no %1</source>
+        <translation>der Quelltext hat kein %1</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>Kontext</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Maßnahme</translation>
+    </message>
+</context>
+<context>
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
@@ -153,6 +228,163 @@
     <message>
         <source>Update cancelled; the translation is unchanged</source>
         <translation>Aktualisierung abgebrochen, die Übersetzung ist unverändert</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1
+
+Save without these texts?</source>
+        <translation>Meldungen mit einem Titel oder einer Maßnahme, die bei ihrem Schweregrad nicht gespeichert wird: %L1
+
+Ohne diese Texte speichern?</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Find and Replace...</source>
+        <translation>Suchen und ersetzen...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Edit Message</source>
+        <translation>Meldung bearbeiten</translation>
+    </message>
+    <message>
+        <source>Mark as Reviewed</source>
+        <translation>Als geprüft markieren</translation>
+    </message>
+    <message>
+        <source>Next New Message</source>
+        <translation>Nächste neue Meldung</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Schweregrad</translation>
+    </message>
+    <message>
+        <source>There are no new messages</source>
+        <translation>Es gibt keine neuen Meldungen</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Messages changed: %L1</source>
+        <translation>Geänderte Meldungen: %L1</translation>
+    </message>
+    <message>
+        <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
+        <translation>Neu: %L1, veraltet: %L2, unvollständig: %L3</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindDialog</name>
+    <message>
+        <source>Match case</source>
+        <translation>Groß-/Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Suchen und ersetzen</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Suchen:</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>Ersetzen durch:</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Alle ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePanel</name>
+    <message>
+        <source>Process</source>
+        <translation>Prozess</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>Kontext</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Schweregrad</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Maßnahme</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message>
+        <source>Select a message to edit it.</source>
+        <translation>Wählen Sie eine Meldung aus, um sie zu bearbeiten.</translation>
+    </message>
+    <message>
+        <source>Selected messages: %L1</source>
+        <translation>Ausgewählte Meldungen: %L1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>

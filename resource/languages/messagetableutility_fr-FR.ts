@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
+    <name>MessageRemarks</name>
+    <message>
+        <source>missing</source>
+        <translation>manquant</translation>
+    </message>
+    <message>
+        <source>begins with a blank</source>
+        <translation>commence par une espace</translation>
+    </message>
+    <message>
+        <source>ends with a blank</source>
+        <translation>se termine par une espace</translation>
+    </message>
+    <message>
+        <source>the file cannot store the character %1</source>
+        <translation>le fichier ne peut pas enregistrer le caractère %1</translation>
+    </message>
+    <message>
+        <source>no translation is found, because %1 is not ASCII</source>
+        <translation>aucune traduction ne sera trouvée, car %1 n&apos;est pas un caractère ASCII</translation>
+    </message>
+    <message>
+        <source>%1 is not filled in</source>
+        <translation>%1 n&apos;est pas remplacé</translation>
+    </message>
+    <message>
+        <source>%1 is used, but %2 is not</source>
+        <translation>%1 est utilisé, mais pas %2</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>not saved with this severity</source>
+        <translation>n&apos;est pas enregistré avec cette gravité</translation>
+    </message>
+    <message>
+        <source>the accelerator is missing</source>
+        <translation>la touche d&apos;accès manque</translation>
+    </message>
+    <message>
+        <source>the source has no accelerator</source>
+        <translation>la source n&apos;a pas de touche d&apos;accès</translation>
+    </message>
+    <message>
+        <source>begins with other blanks than the source</source>
+        <translation>commence par d&apos;autres espaces que la source</translation>
+    </message>
+    <message>
+        <source>ends with other blanks than the source</source>
+        <translation>se termine par d&apos;autres espaces que la source</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 manque</translation>
+    </message>
+    <message>
+        <source>the source has no %1</source>
+        <translation>la source n&apos;a pas de %1</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>Contexte</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+</context>
+<context>
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
@@ -153,6 +228,163 @@
     <message>
         <source>Update cancelled; the translation is unchanged</source>
         <translation>Mise à jour annulée, la traduction est inchangée</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1
+
+Save without these texts?</source>
+        <translation>Messages avec un titre ou une action que leur gravité ne permet pas d&apos;enregistrer&#xa0;: %L1
+
+Enregistrer sans ces textes&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Find and Replace...</source>
+        <translation>Rechercher et remplacer...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Edit Message</source>
+        <translation>Modifier le message</translation>
+    </message>
+    <message>
+        <source>Mark as Reviewed</source>
+        <translation>Marquer comme vérifié</translation>
+    </message>
+    <message>
+        <source>Next New Message</source>
+        <translation>Nouveau message suivant</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>Saisie</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravité</translation>
+    </message>
+    <message>
+        <source>There are no new messages</source>
+        <translation>Il n&apos;y a pas de nouveaux messages</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Messages changed: %L1</source>
+        <translation>Messages modifiés&#xa0;: %L1</translation>
+    </message>
+    <message>
+        <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
+        <translation>Nouveaux&#xa0;: %L1, obsolètes&#xa0;: %L2, incomplets&#xa0;: %L3</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindDialog</name>
+    <message>
+        <source>Match case</source>
+        <translation>Respecter la casse</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Rechercher et remplacer</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Rechercher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>Remplacer par&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Remplacer tout</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePanel</name>
+    <message>
+        <source>Process</source>
+        <translation>Processus</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>Contexte</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Étiquette</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravité</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Remarques</translation>
+    </message>
+    <message>
+        <source>Select a message to edit it.</source>
+        <translation>Sélectionnez un message pour le modifier.</translation>
+    </message>
+    <message>
+        <source>Selected messages: %L1</source>
+        <translation>Messages sélectionnés&#xa0;: %L1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
     </message>
 </context>
 <context>

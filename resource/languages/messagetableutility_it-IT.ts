@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
+    <name>MessageRemarks</name>
+    <message>
+        <source>missing</source>
+        <translation>manca</translation>
+    </message>
+    <message>
+        <source>begins with a blank</source>
+        <translation>inizia con uno spazio</translation>
+    </message>
+    <message>
+        <source>ends with a blank</source>
+        <translation>termina con uno spazio</translation>
+    </message>
+    <message>
+        <source>the file cannot store the character %1</source>
+        <translation>il file non può memorizzare il carattere %1</translation>
+    </message>
+    <message>
+        <source>no translation is found, because %1 is not ASCII</source>
+        <translation>nessuna traduzione viene trovata, perché %1 non è un carattere ASCII</translation>
+    </message>
+    <message>
+        <source>%1 is not filled in</source>
+        <translation>%1 non viene sostituito</translation>
+    </message>
+    <message>
+        <source>%1 is used, but %2 is not</source>
+        <translation>%1 viene usato, ma %2 no</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titolo</translation>
+    </message>
+    <message>
+        <source>not saved with this severity</source>
+        <translation>non viene salvato con questa gravità</translation>
+    </message>
+    <message>
+        <source>the accelerator is missing</source>
+        <translation>manca il tasto di scelta</translation>
+    </message>
+    <message>
+        <source>the source has no accelerator</source>
+        <translation>l&apos;originale non ha un tasto di scelta</translation>
+    </message>
+    <message>
+        <source>begins with other blanks than the source</source>
+        <translation>inizia con spazi diversi dall&apos;originale</translation>
+    </message>
+    <message>
+        <source>ends with other blanks than the source</source>
+        <translation>termina con spazi diversi dall&apos;originale</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>manca %1</translation>
+    </message>
+    <message>
+        <source>the source has no %1</source>
+        <translation>l&apos;originale non ha %1</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>Contesto</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Azione</translation>
+    </message>
+</context>
+<context>
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
@@ -153,6 +228,163 @@
     <message>
         <source>Update cancelled; the translation is unchanged</source>
         <translation>Aggiornamento annullato, la traduzione è invariata</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1
+
+Save without these texts?</source>
+        <translation>Messaggi con un titolo o un&apos;azione che non viene salvata con la loro gravità: %L1
+
+Salvare senza questi testi?</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>Find and Replace...</source>
+        <translation>Trova e sostituisci...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Trova successivo</translation>
+    </message>
+    <message>
+        <source>Edit Message</source>
+        <translation>Modifica messaggio</translation>
+    </message>
+    <message>
+        <source>Mark as Reviewed</source>
+        <translation>Contrassegna come verificato</translation>
+    </message>
+    <message>
+        <source>Next New Message</source>
+        <translation>Messaggio nuovo successivo</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Messaggio</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>Digitazione</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravità</translation>
+    </message>
+    <message>
+        <source>There are no new messages</source>
+        <translation>Non ci sono messaggi nuovi</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Non trovato</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message>
+        <source>Messages changed: %L1</source>
+        <translation>Messaggi modificati: %L1</translation>
+    </message>
+    <message>
+        <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
+        <translation>Nuovi: %L1, obsoleti: %L2, incompleti: %L3</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindDialog</name>
+    <message>
+        <source>Match case</source>
+        <translation>Maiuscole/minuscole</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Trova e sostituisci</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Trova:</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>Sostituisci con:</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Trova successivo</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Sostituisci tutto</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePanel</name>
+    <message>
+        <source>Process</source>
+        <translation>Processo</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>Contesto</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravità</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titolo</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Azione</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Osservazioni</translation>
+    </message>
+    <message>
+        <source>Select a message to edit it.</source>
+        <translation>Selezionare un messaggio per modificarlo.</translation>
+    </message>
+    <message>
+        <source>Selected messages: %L1</source>
+        <translation>Messaggi selezionati: %L1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>MessageRemarks</name>
+    <message>
+        <source>missing</source>
+        <translation>入力がありません</translation>
+    </message>
+    <message>
+        <source>begins with a blank</source>
+        <translation>空白で始まっています</translation>
+    </message>
+    <message>
+        <source>ends with a blank</source>
+        <translation>空白で終わっています</translation>
+    </message>
+    <message>
+        <source>the file cannot store the character %1</source>
+        <translation>文字 %1 はファイルに保存できません</translation>
+    </message>
+    <message>
+        <source>no translation is found, because %1 is not ASCII</source>
+        <translation>%1 は ASCII 文字ではないため、翻訳が見つかりません</translation>
+    </message>
+    <message>
+        <source>%1 is not filled in</source>
+        <translation>%1 には値が入りません</translation>
+    </message>
+    <message>
+        <source>%1 is used, but %2 is not</source>
+        <translation>%1 は使われていますが、%2 は使われていません</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>not saved with this severity</source>
+        <translation>この重大度では保存されません</translation>
+    </message>
+    <message>
+        <source>the accelerator is missing</source>
+        <translation>アクセス キーがありません</translation>
+    </message>
+    <message>
+        <source>the source has no accelerator</source>
+        <translation>原文にアクセス キーはありません</translation>
+    </message>
+    <message>
+        <source>begins with other blanks than the source</source>
+        <translation>先頭の空白が原文と異なります</translation>
+    </message>
+    <message>
+        <source>ends with other blanks than the source</source>
+        <translation>末尾の空白が原文と異なります</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 がありません</translation>
+    </message>
+    <message>
+        <source>the source has no %1</source>
+        <translation>原文に %1 はありません</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>コンテキスト</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>対処方法</translation>
+    </message>
+</context>
+<context>
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
@@ -153,6 +228,163 @@
     <message>
         <source>Update cancelled; the translation is unchanged</source>
         <translation>更新をキャンセルしました。翻訳は変更されていません。</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1
+
+Save without these texts?</source>
+        <translation>重大度のためにタイトルまたは対処方法が保存されないメッセージ: %L1
+
+これらのテキストなしで保存しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直し</translation>
+    </message>
+    <message>
+        <source>Find and Replace...</source>
+        <translation>検索と置換...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>次を検索</translation>
+    </message>
+    <message>
+        <source>Edit Message</source>
+        <translation>メッセージの編集</translation>
+    </message>
+    <message>
+        <source>Mark as Reviewed</source>
+        <translation>確認済みにする</translation>
+    </message>
+    <message>
+        <source>Next New Message</source>
+        <translation>次の新しいメッセージ</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>メッセージ</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>入力</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>重大度</translation>
+    </message>
+    <message>
+        <source>There are no new messages</source>
+        <translation>新しいメッセージはありません</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置換</translation>
+    </message>
+    <message>
+        <source>Messages changed: %L1</source>
+        <translation>変更されたメッセージ: %L1</translation>
+    </message>
+    <message>
+        <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
+        <translation>新規: %L1、廃止: %L2、未完成: %L3</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindDialog</name>
+    <message>
+        <source>Match case</source>
+        <translation>大文字と小文字を区別する</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>検索と置換</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>検索する文字列:</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>置換後の文字列:</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>次を検索</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置換</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>すべて置換</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePanel</name>
+    <message>
+        <source>Process</source>
+        <translation>プロセス</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>コンテキスト</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>重大度</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>対処方法</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>注意点</translation>
+    </message>
+    <message>
+        <source>Select a message to edit it.</source>
+        <translation>編集するメッセージを選択してください。</translation>
+    </message>
+    <message>
+        <source>Selected messages: %L1</source>
+        <translation>選択されたメッセージ: %L1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
     </message>
 </context>
 <context>

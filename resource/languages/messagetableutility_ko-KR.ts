@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>MessageRemarks</name>
+    <message>
+        <source>missing</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>begins with a blank</source>
+        <translation>공백으로 시작함</translation>
+    </message>
+    <message>
+        <source>ends with a blank</source>
+        <translation>공백으로 끝남</translation>
+    </message>
+    <message>
+        <source>the file cannot store the character %1</source>
+        <translation>파일에 %1 문자를 저장할 수 없음</translation>
+    </message>
+    <message>
+        <source>no translation is found, because %1 is not ASCII</source>
+        <translation>%1은(는) ASCII 문자가 아니므로 번역을 찾을 수 없음</translation>
+    </message>
+    <message>
+        <source>%1 is not filled in</source>
+        <translation>%1에는 값이 채워지지 않음</translation>
+    </message>
+    <message>
+        <source>%1 is used, but %2 is not</source>
+        <translation>%1은(는) 사용되지만 %2은(는) 사용되지 않음</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>제목</translation>
+    </message>
+    <message>
+        <source>not saved with this severity</source>
+        <translation>이 심각도에서는 저장되지 않음</translation>
+    </message>
+    <message>
+        <source>the accelerator is missing</source>
+        <translation>선택키가 없음</translation>
+    </message>
+    <message>
+        <source>the source has no accelerator</source>
+        <translation>원문에 선택키가 없음</translation>
+    </message>
+    <message>
+        <source>begins with other blanks than the source</source>
+        <translation>시작 부분의 공백이 원문과 다름</translation>
+    </message>
+    <message>
+        <source>ends with other blanks than the source</source>
+        <translation>끝부분의 공백이 원문과 다름</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1이(가) 없음</translation>
+    </message>
+    <message>
+        <source>the source has no %1</source>
+        <translation>원문에 %1이(가) 없음</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>컨텍스트</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>텍스트</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>조치</translation>
+    </message>
+</context>
+<context>
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
@@ -153,6 +228,163 @@
     <message>
         <source>Update cancelled; the translation is unchanged</source>
         <translation>업데이트가 취소되었으며 번역은 변경되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1
+
+Save without these texts?</source>
+        <translation>심각도 때문에 제목이나 조치가 저장되지 않는 메시지: %L1
+
+이 텍스트 없이 저장하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>편집(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>다시 실행</translation>
+    </message>
+    <message>
+        <source>Find and Replace...</source>
+        <translation>찾기 및 바꾸기...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>다음 찾기</translation>
+    </message>
+    <message>
+        <source>Edit Message</source>
+        <translation>메시지 편집</translation>
+    </message>
+    <message>
+        <source>Mark as Reviewed</source>
+        <translation>검토됨으로 표시</translation>
+    </message>
+    <message>
+        <source>Next New Message</source>
+        <translation>다음 새 메시지</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>메시지</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>입력</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>심각도</translation>
+    </message>
+    <message>
+        <source>There are no new messages</source>
+        <translation>새 메시지가 없습니다</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>찾을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>바꾸기</translation>
+    </message>
+    <message>
+        <source>Messages changed: %L1</source>
+        <translation>변경된 메시지: %L1</translation>
+    </message>
+    <message>
+        <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
+        <translation>새 메시지: %L1, 사용되지 않음: %L2, 불완전: %L3</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindDialog</name>
+    <message>
+        <source>Match case</source>
+        <translation>대/소문자 구분</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>찾기 및 바꾸기</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>찾을 내용:</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>바꿀 내용:</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>다음 찾기</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>바꾸기</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>모두 바꾸기</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePanel</name>
+    <message>
+        <source>Process</source>
+        <translation>프로세스</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>컨텍스트</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>태그</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>심각도</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>제목</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>텍스트</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>조치</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>참고 사항</translation>
+    </message>
+    <message>
+        <source>Select a message to edit it.</source>
+        <translation>편집할 메시지를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Selected messages: %L1</source>
+        <translation>선택한 메시지: %L1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>미리 보기</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>MessageRemarks</name>
+    <message>
+        <source>missing</source>
+        <translation>отсутствует</translation>
+    </message>
+    <message>
+        <source>begins with a blank</source>
+        <translation>начинается с пробела</translation>
+    </message>
+    <message>
+        <source>ends with a blank</source>
+        <translation>заканчивается пробелом</translation>
+    </message>
+    <message>
+        <source>the file cannot store the character %1</source>
+        <translation>файл не может хранить символ %1</translation>
+    </message>
+    <message>
+        <source>no translation is found, because %1 is not ASCII</source>
+        <translation>перевод не будет найден: %1 не является символом ASCII</translation>
+    </message>
+    <message>
+        <source>%1 is not filled in</source>
+        <translation>%1 не заполняется</translation>
+    </message>
+    <message>
+        <source>%1 is used, but %2 is not</source>
+        <translation>%1 используется, а %2 — нет</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Заголовок</translation>
+    </message>
+    <message>
+        <source>not saved with this severity</source>
+        <translation>не сохраняется при этой важности</translation>
+    </message>
+    <message>
+        <source>the accelerator is missing</source>
+        <translation>отсутствует клавиша доступа</translation>
+    </message>
+    <message>
+        <source>the source has no accelerator</source>
+        <translation>в исходном тексте нет клавиши доступа</translation>
+    </message>
+    <message>
+        <source>begins with other blanks than the source</source>
+        <translation>начинается не с тех же пробелов, что исходный текст</translation>
+    </message>
+    <message>
+        <source>ends with other blanks than the source</source>
+        <translation>заканчивается не теми же пробелами, что исходный текст</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>отсутствует %1</translation>
+    </message>
+    <message>
+        <source>the source has no %1</source>
+        <translation>в исходном тексте нет %1</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>Контекст</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Действие</translation>
+    </message>
+</context>
+<context>
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
@@ -153,6 +228,163 @@
     <message>
         <source>Update cancelled; the translation is unchanged</source>
         <translation>Обновление отменено, перевод не изменен</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1
+
+Save without these texts?</source>
+        <translation>Сообщений с заголовком или действием, которые не сохраняются при их важности: %L1
+
+Сохранить без этих текстов?</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Find and Replace...</source>
+        <translation>Найти и заменить...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Найти далее</translation>
+    </message>
+    <message>
+        <source>Edit Message</source>
+        <translation>Изменить сообщение</translation>
+    </message>
+    <message>
+        <source>Mark as Reviewed</source>
+        <translation>Отметить как проверенное</translation>
+    </message>
+    <message>
+        <source>Next New Message</source>
+        <translation>Следующее новое сообщение</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>Ввод</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Важность</translation>
+    </message>
+    <message>
+        <source>There are no new messages</source>
+        <translation>Новых сообщений нет</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Не найдено</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Messages changed: %L1</source>
+        <translation>Изменено сообщений: %L1</translation>
+    </message>
+    <message>
+        <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
+        <translation>Новых: %L1, устаревших: %L2, неполных: %L3</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindDialog</name>
+    <message>
+        <source>Match case</source>
+        <translation>Учитывать регистр</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Найти и заменить</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Найти:</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>Заменить на:</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Найти далее</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Заменить все</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePanel</name>
+    <message>
+        <source>Process</source>
+        <translation>Процесс</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>Контекст</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Тег</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Важность</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Заголовок</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Действие</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Замечания</translation>
+    </message>
+    <message>
+        <source>Select a message to edit it.</source>
+        <translation>Выберите сообщение, чтобы изменить его.</translation>
+    </message>
+    <message>
+        <source>Selected messages: %L1</source>
+        <translation>Выбрано сообщений: %L1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Предварительный просмотр</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>MessageRemarks</name>
+    <message>
+        <source>missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>begins with a blank</source>
+        <translation>以空格开头</translation>
+    </message>
+    <message>
+        <source>ends with a blank</source>
+        <translation>以空格结尾</translation>
+    </message>
+    <message>
+        <source>the file cannot store the character %1</source>
+        <translation>文件无法存储字符 %1</translation>
+    </message>
+    <message>
+        <source>no translation is found, because %1 is not ASCII</source>
+        <translation>找不到翻译，因为 %1 不是 ASCII 字符</translation>
+    </message>
+    <message>
+        <source>%1 is not filled in</source>
+        <translation>%1 不会被填充</translation>
+    </message>
+    <message>
+        <source>%1 is used, but %2 is not</source>
+        <translation>使用了 %1，但未使用 %2</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>not saved with this severity</source>
+        <translation>此严重性不会保存它</translation>
+    </message>
+    <message>
+        <source>the accelerator is missing</source>
+        <translation>缺少访问键</translation>
+    </message>
+    <message>
+        <source>the source has no accelerator</source>
+        <translation>源文本没有访问键</translation>
+    </message>
+    <message>
+        <source>begins with other blanks than the source</source>
+        <translation>开头的空格与源文本不同</translation>
+    </message>
+    <message>
+        <source>ends with other blanks than the source</source>
+        <translation>结尾的空格与源文本不同</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>缺少 %1</translation>
+    </message>
+    <message>
+        <source>the source has no %1</source>
+        <translation>源文本没有 %1</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>上下文</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+</context>
+<context>
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
@@ -153,6 +228,163 @@
     <message>
         <source>Update cancelled; the translation is unchanged</source>
         <translation>已取消更新，翻译未更改</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1
+
+Save without these texts?</source>
+        <translation>标题或操作因严重性而不会保存的消息：%L1
+
+是否在没有这些文本的情况下保存？</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤消</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Find and Replace...</source>
+        <translation>查找和替换...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>查找下一个</translation>
+    </message>
+    <message>
+        <source>Edit Message</source>
+        <translation>编辑消息</translation>
+    </message>
+    <message>
+        <source>Mark as Reviewed</source>
+        <translation>标记为已审阅</translation>
+    </message>
+    <message>
+        <source>Next New Message</source>
+        <translation>下一条新消息</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>键入</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>严重性</translation>
+    </message>
+    <message>
+        <source>There are no new messages</source>
+        <translation>没有新消息</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Messages changed: %L1</source>
+        <translation>已更改的消息：%L1</translation>
+    </message>
+    <message>
+        <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
+        <translation>新增：%L1，已过时：%L2，不完整：%L3</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindDialog</name>
+    <message>
+        <source>Match case</source>
+        <translation>区分大小写</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>查找和替换</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>查找内容：</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>替换为：</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>查找下一个</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>全部替换</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePanel</name>
+    <message>
+        <source>Process</source>
+        <translation>进程</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>上下文</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>严重性</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Select a message to edit it.</source>
+        <translation>选择要编辑的消息。</translation>
+    </message>
+    <message>
+        <source>Selected messages: %L1</source>
+        <translation>已选择的消息：%L1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en_US">
 <context>
+    <name>MessageRemarks</name>
+    <message>
+        <source>missing</source>
+        <translation>缺少</translation>
+    </message>
+    <message>
+        <source>begins with a blank</source>
+        <translation>以空格開頭</translation>
+    </message>
+    <message>
+        <source>ends with a blank</source>
+        <translation>以空格結尾</translation>
+    </message>
+    <message>
+        <source>the file cannot store the character %1</source>
+        <translation>檔案無法儲存字元 %1</translation>
+    </message>
+    <message>
+        <source>no translation is found, because %1 is not ASCII</source>
+        <translation>找不到翻譯，因為 %1 不是 ASCII 字元</translation>
+    </message>
+    <message>
+        <source>%1 is not filled in</source>
+        <translation>%1 不會被填入</translation>
+    </message>
+    <message>
+        <source>%1 is used, but %2 is not</source>
+        <translation>使用了 %1，但未使用 %2</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>標題</translation>
+    </message>
+    <message>
+        <source>not saved with this severity</source>
+        <translation>此嚴重性不會儲存它</translation>
+    </message>
+    <message>
+        <source>the accelerator is missing</source>
+        <translation>缺少快速鍵</translation>
+    </message>
+    <message>
+        <source>the source has no accelerator</source>
+        <translation>來源文字沒有快速鍵</translation>
+    </message>
+    <message>
+        <source>begins with other blanks than the source</source>
+        <translation>開頭的空格與來源文字不同</translation>
+    </message>
+    <message>
+        <source>ends with other blanks than the source</source>
+        <translation>結尾的空格與來源文字不同</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>缺少 %1</translation>
+    </message>
+    <message>
+        <source>the source has no %1</source>
+        <translation>來源文字沒有 %1</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>上下文</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>動作</translation>
+    </message>
+</context>
+<context>
     <name>MessageTableFile</name>
     <message>
         <source>Line %1: %2</source>
@@ -153,6 +228,163 @@
     <message>
         <source>Update cancelled; the translation is unchanged</source>
         <translation>已取消更新，翻譯未變更</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1
+
+Save without these texts?</source>
+        <translation>標題或動作因嚴重性而不會儲存的訊息：%L1
+
+是否在沒有這些文字的情況下儲存？</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編輯(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>取消復原</translation>
+    </message>
+    <message>
+        <source>Find and Replace...</source>
+        <translation>尋找與取代...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>找下一個</translation>
+    </message>
+    <message>
+        <source>Edit Message</source>
+        <translation>編輯訊息</translation>
+    </message>
+    <message>
+        <source>Mark as Reviewed</source>
+        <translation>標示為已檢閱</translation>
+    </message>
+    <message>
+        <source>Next New Message</source>
+        <translation>下一則新訊息</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>訊息</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>鍵入</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>嚴重性</translation>
+    </message>
+    <message>
+        <source>There are no new messages</source>
+        <translation>沒有新訊息</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>找不到</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>取代</translation>
+    </message>
+    <message>
+        <source>Messages changed: %L1</source>
+        <translation>已變更的訊息：%L1</translation>
+    </message>
+    <message>
+        <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
+        <translation>新增：%L1，過時：%L2，不完整：%L3</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindDialog</name>
+    <message>
+        <source>Match case</source>
+        <translation>大小寫須相符</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>尋找與取代</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>尋找目標：</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>取代為：</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>找下一個</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>取代</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>全部取代</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePanel</name>
+    <message>
+        <source>Process</source>
+        <translation>處理程序</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>上下文</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>標籤</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>嚴重性</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>狀態</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>標題</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>動作</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>備註</translation>
+    </message>
+    <message>
+        <source>Select a message to edit it.</source>
+        <translation>選取要編輯的訊息。</translation>
+    </message>
+    <message>
+        <source>Selected messages: %L1</source>
+        <translation>已選取的訊息：%L1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::MessagePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>預覽</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLocale>
+#include <QMenu>
 
 #include <algorithm>
 #include <utility>
@@ -61,6 +62,15 @@ MessageTableUtility::MessageTableUtility(Window::Dialogs &dialogs, QSettings &se
     connect(translating, &QAction::triggered, this, &MessageTableUtility::updateTranslation);
     addTableAction(translating);
 
+    auto *file = findChild<QMenu *>(u"menuFile"_s);
+    file->addSeparator();
+    file->addActions({synchronizing, translating});
+
+    makeEditMenu();
+    makePanel();
+    makeFindDialog();
+    connectStore();
+
     view().rowsModel().setMarkToolTip(RowMark::New, tr("Found in the sources, not reviewed yet"));
     view().rowsModel().setMarkToolTip(RowMark::Obsolete, tr("No longer found in the sources"));
 }
@@ -71,7 +81,8 @@ Window::TableWindowTexts MessageTableUtility::texts()
     texts.title = tr("Message Table Utility");
     texts.iconFolder = iconFolder;
     texts.headings = QStringList{tr("Process"), tr("Context"), tr("Tag"), tr("State")};
-    texts.widths = {120, 360, 320};
+    texts.widths = {110, 280, 250};
+    texts.size = {1160, 680};
     texts.openTitle = tr("Open Message Table");
     texts.saveTitle = tr("Save Message Table");
     texts.filter = u"*.xml"_s;
@@ -84,7 +95,7 @@ Window::TableWindowTexts MessageTableUtility::texts()
 
 void MessageTableUtility::clearTable()
 {
-    m_messages = Clt::MessageTable();
+    m_store.reset({});
 }
 
 Outcome MessageTableUtility::loadTable(const QString &fileName, Window::Progress &progress)
@@ -92,13 +103,23 @@ Outcome MessageTableUtility::loadTable(const QString &fileName, Window::Progress
     Result<Clt::MessageTable> table = MessageWindow::readMessageTableFile(fileName, progress);
     if (!table)
         return Failure{table.error()};
-    m_messages = *std::move(table);
+    m_store.reset(*std::move(table));
     return Done();
+}
+
+bool MessageTableUtility::mayBeSaved()
+{
+    const int unsaved = m_store.status().unsaved;
+    return unsaved == 0 ||
+           dialogs().confirm(this, texts().saveTitle,
+                             tr("Messages with a title or an action that is not saved with their severity: "
+                                "%L1\n\nSave without these texts?")
+                                 .arg(unsaved));
 }
 
 bool MessageTableUtility::saveTable(const QString &fileName)
 {
-    return m_messages.save(fileName);
+    return m_store.save(fileName);
 }
 
 QString MessageTableUtility::savedNote() const
@@ -109,7 +130,7 @@ QString MessageTableUtility::savedNote() const
 
 Window::MarkedRows MessageTableUtility::rows() const
 {
-    return MessageWindow::messageRows(m_messages);
+    return MessageWindow::messageRows(messages());
 }
 
 void MessageTableUtility::synchronize()
@@ -153,11 +174,13 @@ MessageTableUtility::scanShowingProgress(const QString &projectFile, const Scan:
 void MessageTableUtility::synchronizeWith(const Scan::FoundKeys &keys, qint64 milliseconds)
 {
     const Window::WaitCursor wait;
-    const auto obsoleteBefore = obsoleteMessages(m_messages);
-    const Synchronisation::KeyCounts counts = Synchronisation::synchronizeKeys(m_messages, keys);
-    if (counts.added > 0 || obsoleteMessages(m_messages) != obsoleteBefore)
-        setUnsaved();
-    showTable();
+    Clt::MessageTable table = messages();
+    const auto obsoleteBefore = obsoleteMessages(table);
+    const Synchronisation::KeyCounts counts = Synchronisation::synchronizeKeys(table, keys);
+    if (counts.added > 0 || obsoleteMessages(table) != obsoleteBefore)
+        m_store.replaceTable(tr("Synchronize..."), std::move(table));
+    else
+        showTable();
     const QString found = counts.found == 0 ? tr("Found 0 keys")
                                             : tr("Found %1 keys (%2 new, %3 existing, and %4 obsolete)")
                                                   .arg(counts.found)
@@ -199,7 +222,7 @@ void MessageTableUtility::updateTranslation()
         return;
     }
     const Window::WaitCursor wait;
-    const int added = Translation::addMessageTexts(table, m_messages);
+    const int added = Translation::addMessageTexts(table, messages());
     if (!table.save(file)) {
         showStatus(tr("Could not save %1").arg(file));
         return;

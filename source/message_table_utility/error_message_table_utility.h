@@ -1,17 +1,24 @@
 #pragma once
 
 #include "clt_message_table.h"
+#include "message_table_utility/message_store.h"
 #include "message_table_utility/project_scan.h"
 #include "window/table_window.h"
 
+#include <functional>
 #include <optional>
+
+namespace MessageWindow {
+class FindDialog;
+class MessagePanel;
+} // namespace MessageWindow
 
 namespace Translation {
 class TranslationTable;
 }
 
-/// The window on a message table: opens and saves it, synchronises it with the sources of a project, and
-/// updates a translation file from it.
+/// The window on a message table: opens and saves it, edits its messages in a panel next to the table,
+/// synchronises it with the sources of a project, and updates a translation file from it.
 class MessageTableUtility : public Window::TableWindow
 {
     Q_OBJECT
@@ -19,8 +26,9 @@ class MessageTableUtility : public Window::TableWindow
 public:
     /// The dialogs and the settings must outlive the window.
     MessageTableUtility(Window::Dialogs &dialogs, QSettings &settings);
+    ~MessageTableUtility() override;
 
-    const Clt::MessageTable &messages() const { return m_messages; }
+    const Clt::MessageTable &messages() const { return m_store.table(); }
 
 public slots:
     void synchronize();
@@ -29,6 +37,7 @@ public slots:
 protected:
     void clearTable() override;
     Nvx::Util::Outcome loadTable(const QString &fileName, Window::Progress &progress) override;
+    bool mayBeSaved() override;
     bool saveTable(const QString &fileName) override;
     QString savedNote() const override;
     Clt::Leftovers leftovers() const override { return m_messages.leftovers(); }
@@ -45,5 +54,36 @@ private:
 
     void synchronizeWith(const Scan::FoundKeys &keys, qint64 milliseconds);
 
-    Clt::MessageTable m_messages;
+    // Editing.
+
+    QAction *addEditAction(const QString &name, const QString &text, const QKeySequence &shortcut,
+                           const std::function<void()> &act);
+    void makeEditMenu();
+    void makePanel();
+    void makeFindDialog();
+    void connectStore();
+
+    MessageWindow::Keys selectedKeys();
+    MessageWindow::Keys shownKeys();
+    void showSelection();
+    void showMessages(const MessageWindow::MessageChanges &changes);
+    void showStatusCounts();
+    void select(int shownRow);
+    void select(const Clt::MessageKey &key);
+
+    /// The first shown row after the current one, round to it, for which the test is true; -1 if there is
+    /// none.
+    int nextRow(const std::function<bool(int naturalRow)> &test);
+
+    void markAsReviewed();
+    void showNextNew();
+    void findNext();
+    void replaceInCurrent();
+    void replaceInAll();
+
+    MessageWindow::MessageStore m_store;
+    MessageWindow::MessagePanel *m_panel = nullptr;
+    MessageWindow::FindDialog *m_find = nullptr;
+    QMenu *m_editMenu = nullptr;
+    QLabel *m_statusLabel = nullptr;
 };

@@ -1,10 +1,18 @@
 #include "message_table_utility/message_rows.h"
 
 #include "clt_message_table.h"
+#include "window/marked_table_model.h"
 
 namespace MessageWindow {
 
 namespace {
+
+// The first columns, which are the key.
+constexpr int processColumn = 0;
+constexpr int contextColumn = 1;
+constexpr int tagColumn = 2;
+
+constexpr int firstTextColumn = 4;
 
 Window::RowMark markOf(Clt::MessageState state)
 {
@@ -39,6 +47,46 @@ Window::MarkedRows messageRows(const Clt::MessageTable &table)
                  markOf(state));
     }
     return rows;
+}
+
+Clt::MessageKey keyOfRow(const Window::MarkedRows &rows, int row)
+{
+    return {rows.text(row, tagColumn), rows.text(row, contextColumn), rows.text(row, processColumn)};
+}
+
+int rowOfKey(const Window::MarkedRows &rows, const Clt::MessageKey &key)
+{
+    int first = 0;
+    int end = rows.size();
+    while (first < end) {
+        const int middle = first + (end - first) / 2;
+        if (keyOfRow(rows, middle) < key)
+            first = middle + 1;
+        else
+            end = middle;
+    }
+    return first < rows.size() && keyOfRow(rows, first) == key ? first : -1;
+}
+
+bool rowMatches(const Window::MarkedRows &rows, int row, const Search &search)
+{
+    for (int column = firstTextColumn; column < rows.columns(); ++column) {
+        if (rows.text(row, column).contains(search.text, search.caseSensitivity))
+            return true;
+    }
+    return false;
+}
+
+void setMessageRow(Window::MarkedTableModel &model, const Clt::Message &message)
+{
+    const Clt::MessageKey &key = message.key();
+    const int row = rowOfKey(model.rows(), key);
+    if (row < 0)
+        return;
+    model.setRow(row,
+                 {key.process, key.context, key.tag, Clt::stateToText(message.state()), message.sourceTitle(),
+                  message.sourceText(), message.sourceAction()},
+                 markOf(message.state()));
 }
 
 } // namespace MessageWindow

@@ -24,9 +24,13 @@ void MarkedTableModel::setRows(MarkedRows rows)
 void MarkedTableModel::setRow(int naturalRow, std::initializer_list<QString> texts, RowMark mark)
 {
     m_rows.set(naturalRow, texts, mark);
-    const int shown = shownRow(naturalRow);
-    if (shown >= 0)
-        emit dataChanged(index(shown, 0), index(shown, columnCount() - 1));
+}
+
+// The view only repaints what is on the screen, so finding the changed rows would take longer.
+void MarkedTableModel::showChangedRows()
+{
+    if (rowCount() > 0)
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
 void MarkedTableModel::setMarkToolTip(RowMark mark, const QString &text)

@@ -28,8 +28,10 @@ public:
     /// headings: these are not shown, but the filter searches them.
     void setRows(MarkedRows rows);
 
-    /// Replaces a row of rows(). It stays where it is, and shown, until the filter or the order changes.
+    /// Replaces a row of rows(). It stays where it is until the filter or the order changes. After the last
+    /// one, call showChangedRows().
     void setRow(int naturalRow, std::initializer_list<QString> texts, RowMark mark);
+    void showChangedRows();
 
     const MarkedRows &rows() const { return m_rows; }
 

@@ -105,7 +105,7 @@ void TableWindow::setUnsaved()
 
 void TableWindow::setUnchanged()
 {
-    m_isUnsaved = false;
+    m_isUnsaved = m_isOutdated;
     updatePlace();
 }
 
@@ -208,6 +208,7 @@ void TableWindow::offerToLoadAgain()
     m_watch.accept();
     // From now on the table differs from the file.
     const bool wasUnsaved = std::exchange(m_isUnsaved, true);
+    m_isOutdated = true;
     enableSave();
     updatePlace();
     QString question = tr("%1 was changed by another program. Load it again?").arg(m_fileName);
@@ -224,7 +225,7 @@ bool TableWindow::saveTo(const QString &fileName)
         !m_dialogs.confirm(this, m_texts.saveTitle,
                            tr("%1 was changed by another program. Replace it?").arg(path)))
         return false;
-    if (!mayDropLeftovers(path))
+    if (!mayBeSaved() || !mayDropLeftovers(path))
         return false;
     if (!saveShowingWait(path)) {
         m_dialogs.warn(this, m_texts.saveTitle,
@@ -235,7 +236,7 @@ bool TableWindow::saveTo(const QString &fileName)
     }
     m_fileName = path;
     m_watch.setFile(path);
-    m_isUnsaved = false;
+    m_isUnsaved = m_isOutdated = false;
     m_save->setEnabled(false);
     m_memory.rememberFolderOf(path);
     m_recentFiles->add(path);
@@ -253,7 +254,7 @@ void TableWindow::tableReplaced(const QString &fileName)
 {
     m_fileName = fileName;
     m_watch.setFile(fileName);
-    m_isUnsaved = false;
+    m_isUnsaved = m_isOutdated = false;
     for (QAction *action : {m_save, m_saveAs})
         action->setEnabled(true);
     for (QAction *action : std::as_const(m_tableActions))

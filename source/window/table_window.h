@@ -8,6 +8,7 @@
 #include "window/window_memory.h"
 
 #include <QMainWindow>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -33,8 +34,9 @@ struct TableWindowTexts
     /// that have an icon; for example ":/Utility/images/".
     QString iconFolder;
     QStringList headings;
-    QList<int> widths; ///< of the first columns, unless the user has changed them
-    QString openTitle; ///< of the file dialog, and of the progress dialog and the message box after it
+    QList<int> widths;    ///< of the first columns, unless the user has changed them
+    QSize size{960, 600}; ///< of the window, unless the user has changed it
+    QString openTitle;    ///< of the file dialog, and of the progress dialog and the message box after it
     QString saveTitle;
     QString filter;    ///< of the files, such as "*.xml"
     QString loading;   ///< in the progress dialog; "%1" is replaced by the file name
@@ -98,6 +100,9 @@ protected:
     /// unchanged.
     virtual Nvx::Util::Outcome loadTable(const QString &fileName, Progress &progress) = 0;
 
+    /// Called before the table is saved. Returns false if the user was asked and does not want that.
+    virtual bool mayBeSaved() { return true; }
+
     /// Writes the file whole or not at all. Returns false if it could not be written.
     virtual bool saveTable(const QString &fileName) = 0;
 
@@ -122,7 +127,8 @@ protected:
     /// Marks the table as changed since it was saved, and enables Save.
     void setUnsaved();
 
-    /// Marks the table as the one that was saved, because the changes were undone.
+    /// Marks the table as the one that was saved, because the changes were undone; unless another program has
+    /// changed the file and the user did not load it again.
     void setUnchanged();
 
     /// Enables Save without marking the table as changed.
@@ -180,6 +186,7 @@ private:
     QString m_fileName;
     FileWatch m_watch;
     bool m_isUnsaved = false;
+    bool m_isOutdated = false; // the file was changed, but not loaded again
     Progress *m_work = nullptr;
     bool m_closesAfterWork = false;
     int m_progressDelay = Progress::usualDelay;

@@ -28,7 +28,6 @@ TableWindow::TableWindow(Dialogs &dialogs, QSettings &settings, const TableWindo
     , m_recentFiles(new RecentFiles(settings, this))
     , m_view(new MarkedTableView(texts.headings))
 {
-    constexpr QSize usualSize(960, 600);
     setWindowTitle(texts.title);
     setWindowIcon(QIcon(texts.iconFolder + u"window.png"_s));
     setAcceptDrops(true);
@@ -40,7 +39,7 @@ TableWindow::TableWindow(Dialogs &dialogs, QSettings &settings, const TableWindo
     makeCentralWidget();
     makeStatusBar();
     connect(&m_watch, &FileWatch::changed, this, &TableWindow::offerToLoadAgain);
-    resize(usualSize);
+    resize(texts.size);
     for (int column = 0; column < texts.widths.size(); ++column)
         m_view->setColumnWidth(column, texts.widths.at(column));
     m_memory.restore(*this, *m_view->horizontalHeader());
@@ -123,10 +122,7 @@ void TableWindow::addTableAction(QAction *action)
         bar->insertSeparator(m_endOfButtons);
     }
     bar->insertAction(m_endOfButtons, action);
-    auto *file = findChild<QMenu *>(u"menuFile"_s);
-    if (m_tableActions.size() == 1)
-        file->addSeparator();
-    file->addAction(action);
+    // Not every window has it in a menu, so the keyboard must be able to reach it here.
     bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
 }
 

@@ -15,6 +15,7 @@ namespace Window {
 namespace {
 
 const QString geometryKey = u"geometry"_s;
+const QString stateKey = u"state"_s;
 const QString widthsKey = u"columnWidths"_s;
 const QString folderKey = u"lastFolder"_s;
 
@@ -25,6 +26,7 @@ void WindowMemory::restore(QMainWindow &window, QHeaderView &columns) const
     const QByteArray geometry = m_settings.value(geometryKey).toByteArray();
     if (geometry.isEmpty() || !window.restoreGeometry(geometry))
         return;
+    window.restoreState(m_settings.value(stateKey).toByteArray());
     const QVariantList widths = m_settings.value(widthsKey).toList();
     const auto count = std::min<int>(columns.count(), static_cast<int>(widths.size()));
     for (int column = 0; column < count; ++column)
@@ -34,6 +36,7 @@ void WindowMemory::restore(QMainWindow &window, QHeaderView &columns) const
 void WindowMemory::store(const QMainWindow &window, const QHeaderView &columns)
 {
     m_settings.setValue(geometryKey, window.saveGeometry());
+    m_settings.setValue(stateKey, window.saveState());
     QVariantList widths;
     for (int column = 0; column < columns.count(); ++column)
         widths.append(columns.sectionSize(column));

@@ -10,8 +10,8 @@ class QSettings;
 
 namespace Window {
 
-/// What a window stores for its next start: its geometry, the widths of its table's columns, and the folder
-/// of the file used last.
+/// What a window stores for its next start: its geometry, its docks, the widths of its table's columns, and
+/// the folder of the file used last.
 class WindowMemory
 {
 public:

@@ -1,0 +1,398 @@
+#include "support/processor_time.h"
+#include "support/test_class.h"
+#include "utility_fixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDockWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The window with its table open and on the screen; the new message "Alpha" is selected.
+struct EditingFixture : UtilityFixture
+{
+    EditingFixture()
+    {
+        if (!window.openFile(tableFile))
+            qFatal("cannot open the table");
+        window.show();
+        activate();
+        select(1);
+        view()->setFocus();
+    }
+
+    /// As it is after a progress dialog.
+    void activate()
+    {
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window))
+            qFatal("the window is not active");
+    }
+
+    QPlainTextEdit *field(const char *name) { return child<QPlainTextEdit>(name); }
+    QString label(const char *name) { return child<QLabel>(name)->text(); }
+    bool isShown(const char *name) { return child<QWidget>(name)->isVisible(); }
+    Clt::Message alpha() { return window.messages().message(messageOf("client", "B::run", "Alpha").key()); }
+
+    /// Selects only that row, whatever keys the test has pressed.
+    void select(int row)
+    {
+        view()->selectionModel()->setCurrentIndex(
+            view()->model()->index(row, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+
+    void choose(const char *name, const QString &text)
+    {
+        auto *choice = child<QComboBox>(name);
+        choice->setCurrentText(text);
+        emit choice->activated(choice->currentIndex());
+    }
+
+    /// Presses a key where the focus is.
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+
+    static void type(const QString &text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+};
+
+} // namespace
+
+class tst_message_editing : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void selectedMessageIsShown();
+    void fieldsAreThoseOfTheSeverity();
+    void typingChangesTheMessageAndIsUndone();
+    void undoReturnsToTheMessageThatChanged();
+    void severalMessagesAreChangedAtOnce();
+    void remarksAndPreviewFollowTheTyping();
+    void nextNewMessageIsFoundFromAnywhere();
+    void textsAreFoundAndReplaced();
+    void savingAsksBeforeTextsAreDropped();
+    void synchronisationIsUndone();
+    void filterSearchesTheTexts();
+    void panelHasAccessibleNames();
+    void dayOfWorkNeedsOnlyTheKeyboard();
+    void largeTableAnswersEveryKeyAtOnce();
+};
+
+void tst_message_editing::selectedMessageIsShown()
+{
+    EditingFixture f;
+    QCOMPARE(f.label("processLabel"), u"client"_s);
+    QCOMPARE(f.label("contextLabel"), u"B::run"_s);
+    QCOMPARE(f.label("tagLabel"), u"Alpha"_s);
+    QCOMPARE(f.child<QComboBox>("severityChoice")->currentText(), u"Information"_s);
+    QCOMPARE(f.child<QComboBox>("stateChoice")->currentText(), u"New"_s);
+    QVERIFY(!f.isShown("selectionLabel"));
+    f.view()->clearSelection();
+    QVERIFY(f.isShown("selectionLabel"));
+    QVERIFY(!f.isShown("textField"));
+}
+
+void tst_message_editing::fieldsAreThoseOfTheSeverity()
+{
+    EditingFixture f;
+    QVERIFY(!f.isShown("titleField") && f.isShown("textField") && !f.isShown("actionField"));
+    f.choose("severityChoice", u"Critical"_s);
+    QCOMPARE(f.alpha().severity(), Clt::Severity::Critical);
+    QVERIFY(f.isShown("titleField") && f.isShown("textField") && f.isShown("actionField"));
+    f.choose("severityChoice", u"Question"_s);
+    QVERIFY(f.isShown("titleField") && !f.isShown("actionField"));
+
+    // A text that is not saved any more stays in sight.
+    f.field("titleField")->setPlainText(u"Title"_s);
+    f.choose("severityChoice", u"Status"_s);
+    QVERIFY(f.isShown("titleField"));
+    QVERIFY(f.label("remarksLabel").contains(u"Title: not saved with this severity"_s));
+}
+
+void tst_message_editing::typingChangesTheMessageAndIsUndone()
+{
+    EditingFixture f;
+    f.field("textField")->setFocus();
+    EditingFixture::type(u"New text"_s);
+    QCOMPARE(f.alpha().sourceText(), u"New text"_s);
+    QVERIFY(f.window.hasUnsavedChanges());
+    QCOMPARE(f.window.windowTitle(), u"Message Table Utility[*]"_s);
+    EditingFixture::press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(f.alpha().sourceText(), QString());
+    QCOMPARE(f.field("textField")->toPlainText(), QString());
+    QVERIFY(!f.window.hasUnsavedChanges());
+    QCOMPARE(f.window.windowTitle(), u"Message Table Utility"_s);
+    f.action("actionRedo")->trigger();
+    QCOMPARE(f.alpha().sourceText(), u"New text"_s);
+    QCOMPARE(f.field("textField")->toPlainText(), u"New text"_s);
+    QVERIFY(f.window.save());
+    QVERIFY(!f.window.hasUnsavedChanges());
+    f.action("actionUndo")->trigger();
+    QVERIFY(f.window.hasUnsavedChanges());
+}
+
+void tst_message_editing::undoReturnsToTheMessageThatChanged()
+{
+    EditingFixture f;
+    f.field("textField")->setPlainText(u"One"_s);
+    f.select(0);
+    f.action("actionUndo")->trigger();
+    QCOMPARE(f.label("tagLabel"), u"Alpha"_s);
+    QCOMPARE(f.view()->currentIndex().row(), 1);
+}
+
+void tst_message_editing::severalMessagesAreChangedAtOnce()
+{
+    EditingFixture f;
+    f.view()->selectAll();
+    QCOMPARE(f.label("selectionLabel"), u"Selected messages: 3"_s);
+    QVERIFY(f.isShown("severityChoice") && f.isShown("stateChoice") && !f.isShown("textField"));
+    f.choose("severityChoice", u"Warning"_s);
+    f.action("actionReviewed")->trigger();
+    for (const auto &[key, message] : f.window.messages()) {
+        QCOMPARE(message.severity(), Clt::Severity::Warning);
+        QCOMPARE(message.state(), Clt::MessageState::InSync);
+    }
+    QCOMPARE(f.shownRows().filter(u"InSync"_s).size(), 3);
+    QCOMPARE(f.label("selectionLabel"), u"Selected messages: 3"_s);
+    f.action("actionUndo")->trigger();
+    f.action("actionUndo")->trigger();
+    QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+    QVERIFY(!f.window.hasUnsavedChanges());
+}
+
+void tst_message_editing::remarksAndPreviewFollowTheTyping()
+{
+    EditingFixture f;
+    QVERIFY(f.label("remarksLabel").contains(u"Text: missing"_s));
+    QCOMPARE(f.label("statusLabel"), u"New: 1, obsolete: 1, incomplete: 2"_s);
+    f.field("textField")->setPlainText(u"Cells: %2 "_s);
+    QCOMPARE(f.label("remarksLabel"),
+             u"\u2022 Text: ends with a blank\n\u2022 Text: %2 is used, but %1 is not"_s);
+    f.field("textField")->setPlainText(u"Cells: %1"_s);
+    QVERIFY(!f.isShown("remarksLabel"));
+    QCOMPARE(f.label("previewText"), u"Cells: <1>"_s);
+    QVERIFY(!f.isShown("previewTitle") && !f.isShown("previewAction"));
+    QVERIFY(f.isShown("previewButtons"));
+    QCOMPARE(f.label("statusLabel"), u"New: 1, obsolete: 1, incomplete: 1"_s);
+    f.choose("severityChoice", u"Status"_s);
+    QVERIFY(!f.isShown("previewButtons"));
+}
+
+void tst_message_editing::nextNewMessageIsFoundFromAnywhere()
+{
+    EditingFixture f;
+    f.select(2);
+    f.view()->setFocus();
+    EditingFixture::press(Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(f.view()->currentIndex().row(), 1);
+    QCOMPARE(f.view()->selectionModel()->selectedRows().size(), 1);
+    f.select(0);
+    f.field("textField")->setFocus();
+    EditingFixture::press(Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(f.label("tagLabel"), u"Alpha"_s);
+    QVERIFY(f.field("textField")->hasFocus());
+    f.action("actionReviewed")->trigger();
+    f.action("actionNextNew")->trigger();
+    QCOMPARE(f.status(), u"There are no new messages"_s);
+}
+
+void tst_message_editing::textsAreFoundAndReplaced()
+{
+    EditingFixture f;
+    f.field("textField")->setPlainText(u"The grid and the Grid"_s);
+    f.select(2);
+    f.field("textField")->setPlainText(u"No grid"_s);
+    f.select(0);
+    f.action("actionFind")->trigger();
+    auto *find = f.child<QLineEdit>("findField");
+    auto *findNext = f.child<QPushButton>("findNextButton");
+    QVERIFY(find->isVisible());
+    QVERIFY(!findNext->isEnabled());
+    QTest::keyClicks(find, u"GRID"_s);
+    findNext->click();
+    QCOMPARE(f.label("tagLabel"), u"Alpha"_s);
+    findNext->click();
+    QCOMPARE(f.label("tagLabel"), u"Zulu"_s);
+
+    f.child<QLineEdit>("replacementField")->setText(u"mesh"_s);
+    f.child<QPushButton>("replaceButton")->click();
+    QCOMPARE(f.window.messages().message(messageOf("solver", "A::run", "Zulu").key()).sourceText(),
+             u"No mesh"_s);
+    QCOMPARE(f.label("tagLabel"), u"Alpha"_s);
+    f.child<QPushButton>("replaceAllButton")->click();
+    QCOMPARE(f.alpha().sourceText(), u"The mesh and the mesh"_s);
+    QCOMPARE(f.label("findResult"), u"Messages changed: 1"_s);
+    findNext->click();
+    QCOMPARE(f.label("findResult"), u"Not found"_s);
+    f.action("actionUndo")->trigger();
+    QCOMPARE(f.alpha().sourceText(), u"The grid and the Grid"_s);
+    f.child<QCheckBox>("matchCaseBox")->setChecked(true);
+    findNext->click();
+    QCOMPARE(f.label("findResult"), u"Not found"_s);
+}
+
+void tst_message_editing::savingAsksBeforeTextsAreDropped()
+{
+    EditingFixture f;
+    const QByteArray before = readFile(f.tableFile);
+    f.choose("severityChoice", u"Question"_s);
+    f.field("titleField")->setPlainText(u"Title"_s);
+    f.choose("severityChoice", u"Warning"_s);
+    QVERIFY(!f.window.save());
+    QCOMPARE(f.dialogs.confirmations.size(), 1);
+    QVERIFY(f.dialogs.confirmations.first().text.contains(u": 1\n"_s));
+    QCOMPARE(readFile(f.tableFile), before);
+    QVERIFY(f.window.hasUnsavedChanges());
+    f.dialogs.isConfirmed = true;
+    QVERIFY(f.window.save());
+    QVERIFY(!readFile(f.tableFile).contains("Title"));
+}
+
+void tst_message_editing::synchronisationIsUndone()
+{
+    EditingFixture f;
+    f.chooseProjectOf(oneMessageSource);
+    f.window.synchronize();
+    QCOMPARE(f.rowCount(), 4);
+    f.action("actionUndo")->trigger();
+    QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
+    QVERIFY(!f.window.hasUnsavedChanges());
+}
+
+void tst_message_editing::filterSearchesTheTexts()
+{
+    EditingFixture f;
+    f.field("textField")->setPlainText(u"Only here"_s);
+    f.filter()->setText(u"ONLY h"_s);
+    QCOMPARE(f.shownRows(), QStringList(UtilityFixture::tableRows().at(1)));
+}
+
+void tst_message_editing::panelHasAccessibleNames()
+{
+    EditingFixture f;
+    for (const char *name : {"severityChoice", "stateChoice", "titleField", "textField", "actionField",
+                             "processLabel", "contextLabel", "tagLabel", "remarksLabel", "messagePreview"})
+        QVERIFY2(!f.child<QWidget>(name)->accessibleName().isEmpty(), name);
+}
+
+// Find the new messages, write their texts, mark them as reviewed, correct a word everywhere, undo, save.
+void tst_message_editing::dayOfWorkNeedsOnlyTheKeyboard()
+{
+    EditingFixture f;
+    f.chooseProjectOf("void f() { REPORT_ERROR(\"One\"); REPORT_ERROR(\"Two\"); }");
+    f.action("actionSynchronize")->trigger();
+    f.activate();
+    EditingFixture::press(Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(f.label("tagLabel"), u"One"_s);
+
+    EditingFixture::press(Qt::Key_F2);
+    QVERIFY(f.field("textField")->hasFocus());
+    EditingFixture::type(u"The grid is bad."_s);
+    EditingFixture::press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EditingFixture::press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(f.child<QComboBox>("severityChoice")->hasFocus());
+    EditingFixture::type(u"C"_s); // Critical
+    QCOMPARE(f.window.messages().message({u"One"_s, u"f"_s, u"client"_s}).severity(),
+             Clt::Severity::Critical);
+    EditingFixture::press(Qt::Key_F2);
+    QVERIFY(f.field("titleField")->hasFocus());
+    EditingFixture::type(u"Grid"_s);
+    EditingFixture::press(Qt::Key_F2);
+    QVERIFY(f.field("actionField")->hasFocus());
+    EditingFixture::type(u"Refine the grid."_s);
+    QVERIFY(!f.isShown("remarksLabel"));
+    EditingFixture::press(Qt::Key_Return, Qt::ControlModifier);
+    EditingFixture::press(Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(f.label("tagLabel"), u"Two"_s);
+    EditingFixture::press(Qt::Key_F2);
+    EditingFixture::type(u"No grid."_s);
+    EditingFixture::press(Qt::Key_Return, Qt::ControlModifier);
+    EditingFixture::press(Qt::Key_Escape);
+    QVERIFY(f.view()->hasFocus());
+
+    EditingFixture::press(Qt::Key_H, Qt::ControlModifier);
+    QTRY_VERIFY(f.child<QLineEdit>("findField")->hasFocus());
+    EditingFixture::type(u"grid"_s);
+    EditingFixture::press(Qt::Key_Tab);
+    EditingFixture::type(u"mesh"_s);
+    while (QApplication::focusWidget() != f.child<QPushButton>("replaceAllButton"))
+        EditingFixture::press(Qt::Key_Tab);
+    EditingFixture::press(Qt::Key_Space);
+    QCOMPARE(f.label("findResult"), u"Messages changed: 2"_s);
+    EditingFixture::press(Qt::Key_Escape);
+    f.activate();
+
+    EditingFixture::press(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(f.status(), u"Table saved"_s);
+    const QByteArray saved = readFile(f.tableFile);
+    QVERIFY2(saved.contains("<text>The mesh is bad.</text>") && saved.contains("<text>No mesh.</text>") &&
+                 saved.contains("<action>Refine the mesh.</action>") && !saved.contains("<state>New"),
+             saved.constData());
+}
+
+/// 100,000 messages; each action takes less than 50 ms of processor time.
+void tst_message_editing::largeTableAnswersEveryKeyAtOnce()
+{
+    constexpr int messages = 100'000;
+    constexpr std::chrono::milliseconds limit(50);
+    EditingFixture f;
+    Clt::MessageTable table = tableOf(messages);
+    Clt::Message last = messageOf("zzz", "Z::z", "Last", Clt::MessageState::New);
+    table.insert(last);
+    QVERIFY(table.save(f.otherFile));
+    QVERIFY(f.window.openFile(f.otherFile));
+    f.activate();
+
+    const auto measure = [&](const char *what, const std::function<void()> &act) {
+        auto best = std::chrono::milliseconds::max();
+        for (int run = 0; run < 3; ++run) {
+            const std::chrono::milliseconds before = processorTime();
+            act();
+            QCoreApplication::processEvents();
+            best = std::min(best, processorTime() - before);
+        }
+        qInfo("%s: %lld ms", what, static_cast<long long>(best.count()));
+        QVERIFY2(best <= limit, what);
+    };
+    measure("select a message", [&, row = 500]() mutable { f.select(row++); });
+    measure("select all messages", [&] {
+        f.select(0);
+        f.view()->selectAll();
+    });
+    f.select(500);
+    f.field("textField")->setFocus();
+    measure("type a letter", [&] { EditingFixture::type(u"x"_s); });
+    measure("undo", [&] {
+        f.action("actionUndo")->trigger();
+        f.action("actionRedo")->trigger();
+    });
+    measure("go to the next new message", [&] {
+        f.select(0);
+        f.action("actionNextNew")->trigger();
+    });
+    QCOMPARE(f.label("tagLabel"), u"Last"_s);
+    f.select(0);
+    measure("mark as reviewed", [&] {
+        f.action("actionReviewed")->trigger();
+        f.action("actionUndo")->trigger();
+    });
+    f.action("actionFind")->trigger();
+    f.child<QLineEdit>("findField")->setText(u"not there"_s);
+    measure("find", [&] { f.action("actionFindNext")->trigger(); });
+    f.activate();
+    measure("filter by a letter", [&] {
+        f.filter()->clear();
+        f.filter()->insert(u"q"_s);
+    });
+}
+
+NVX_TEST(tst_message_editing)
+#include "tst_message_editing.moc"
