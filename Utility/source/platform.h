@@ -166,4 +166,18 @@ bool setRights(const QString &path, NewRights rights);
 /// be written; nothing is left of it then.
 std::shared_ptr<void> createScriptFile(const QString &path, const QByteArray &contents);
 
+/// Why readRegularFile does not read a file.
+inline QString missingFile()
+{
+    return QStringLiteral("the file does not exist");
+}
+inline QString irregularFile()
+{
+    return QStringLiteral("it is not a regular file");
+}
+inline QString largeFile(qint64 maximumSize)
+{
+    return QStringLiteral("the file is larger than %1 MiB").arg(maximumSize / (1024 * 1024));
+}
+
 } // namespace Nvx::Util::Platform

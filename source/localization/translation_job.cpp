@@ -2,10 +2,10 @@
 
 #include "localization/translation_answer.h"
 #include "nvx_util/languages.h"
+#include "nvx_util/regular_file.h"
 #include "nvx_util/system.h"
 #include "nvx_util/whole_file.h"
 #include "run/reporter.h"
-#include "scanner/project_folders.h"
 
 #include <QDir>
 #include <QFile>
@@ -52,14 +52,6 @@ QString linkIn(const QString &path, int levels)
         part.truncate(part.lastIndexOf(u'/'));
     }
     return {};
-}
-
-Nvx::Util::Result<QByteArray> contentsOf(const QString &path)
-{
-    QFile file(path);
-    if (QString problem = Scan::openRegularFile(file); !problem.isEmpty())
-        return Nvx::Util::Failure{std::move(problem)};
-    return Scan::readOpenFile(file);
 }
 
 bool canBeOpened(const QString &path)
@@ -225,8 +217,8 @@ bool TranslationJob::downloadFile(const QString &source, const QString &target, 
 {
     const bool translation = source.endsWith(".ts"_L1, Qt::CaseInsensitive);
     if (isOnShare(source, 1)) {
-        const Nvx::Util::Result<QByteArray> answer = contentsOf(source);
-        QString reason = answer.error();
+        const auto [answer, wasOpened, problem] = Nvx::Util::readRegularFile(source, maxFileSize);
+        QString reason = problem;
         if (answer && translation)
             reason = reasonAgainst(*answer, target, locale);
         if (reason.isEmpty())

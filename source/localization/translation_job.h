@@ -40,7 +40,8 @@ class TranslationJob : public QObject
 public:
     static constexpr std::chrono::milliseconds pollInterval = std::chrono::seconds(10);
     static constexpr int maxPolls = 200;
-    static constexpr qsizetype maxFiles = 1000; ///< that are downloaded for a language
+    static constexpr qsizetype maxFiles = 200;                      ///< that are downloaded for a language
+    static constexpr qint64 maxFileSize = qint64{64} * 1024 * 1024; ///< of a file that is downloaded
 
     /// shareFolder is SHARE\NVX360\ and jobFolder is SHARE\~cBuild\job\; both are empty without a share.
     /// filePatterns match the files to download.
@@ -58,7 +59,7 @@ public:
     void waitUntilDone();
 
     /// Copies the translators' files of every language into its locale folder, except translation files that
-    /// are incomplete or that reasonToRefuse refuses, and files of more than Scan::maximumFileSize.
+    /// are incomplete or that reasonToRefuse refuses, and files of more than maxFileSize.
     void download();
 
     /// How many translation files of a locale the last download refused.

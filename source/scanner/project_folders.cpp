@@ -1,8 +1,9 @@
 #include "scanner/project_folders.h"
 
+#include "nvx_util/regular_file.h"
+
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -17,11 +18,6 @@ using Nvx::Util::Failure;
 using Nvx::Util::Result;
 
 constexpr qsizetype maximumDepth = 64; // of the folders that a pattern reaches
-
-QString tooLarge()
-{
-    return u"the file is larger than %1 MiB"_s.arg(maximumFileSize / (1024 * 1024));
-}
 
 QString inFolder(const QString &folder, const QString &name)
 {
@@ -52,31 +48,6 @@ bool isNameLess(const QString &left, const QString &right)
 
 } // namespace
 
-QString openRegularFile(QFile &file)
-{
-    const QFileInfo info(file.fileName());
-    if (!info.exists())
-        return u"the file does not exist"_s;
-    if (!info.isFile())
-        return u"it is not a regular file"_s;
-    if (info.size() > maximumFileSize)
-        return tooLarge();
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return file.errorString();
-    return {};
-}
-
-Result<QByteArray> readOpenFile(QFile &file)
-{
-    // Files of the system, such as those below /proc, have no size and may be endless.
-    QByteArray contents = file.size() == 0 ? file.read(maximumFileSize + 1) : file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return Failure{file.errorString()};
-    if (contents.size() > maximumFileSize)
-        return Failure{tooLarge()};
-    return contents;
-}
-
 std::vector<ProjectFolders::Entry> NativeProjectFolders::entries(const QString &folder) const
 {
     std::vector<Entry> entries;
@@ -94,10 +65,10 @@ std::vector<ProjectFolders::Entry> NativeProjectFolders::entries(const QString &
 
 Result<QByteArray> NativeProjectFolders::contents(const QString &path) const
 {
-    QFile file(path);
-    if (QString problem = openRegularFile(file); !problem.isEmpty())
-        return Failure{std::move(problem)};
-    return readOpenFile(file);
+    Nvx::Util::FileContents contents = Nvx::Util::readRegularFile(path, maximumFileSize);
+    if (!contents.bytes)
+        return Failure{std::move(contents.problem)};
+    return *std::move(contents.bytes);
 }
 
 QString hostOf(const QString &path)

@@ -11,20 +11,10 @@
 #include <cstdint>
 #include <vector>
 
-class QFile;
-
 namespace Scan {
 
 /// The largest project and source files that are read.
 constexpr qint64 maximumFileSize = qint64{64} * 1024 * 1024;
-
-/// Opens a file for reading. Returns why that is not possible, as text for the user; empty if it is open.
-/// Only regular files up to maximumFileSize are opened: a device or a pipe may never end.
-QString openRegularFile(QFile &file);
-
-/// All bytes of a file opened in that way. Fails if the file cannot be read to its end or turns out to be
-/// larger than maximumFileSize.
-Nvx::Util::Result<QByteArray> readOpenFile(QFile &file);
 
 /// What the project reader needs of the file system. Paths are absolute and clean, with "/".
 class ProjectFolders
@@ -51,7 +41,7 @@ public:
     /// What is in a folder, in any order; empty if the folder cannot be listed.
     virtual std::vector<Entry> entries(const QString &folder) const = 0;
 
-    /// The bytes of a file, as read by openRegularFile and readOpenFile.
+    /// The bytes of a regular file of up to maximumFileSize.
     virtual Nvx::Util::Result<QByteArray> contents(const QString &path) const = 0;
 };
 

@@ -1,10 +1,10 @@
 #include "scanner/source_scanner.h"
 
+#include "nvx_util/regular_file.h"
 #include "scanner/parser.h"
 #include "scanner/project_folders.h"
 #include "scanner/source_text.h"
 
-#include <QFile>
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -50,12 +50,11 @@ const Outcome &SourceScanner::scan()
 
 Outcome SourceScanner::scanFile()
 {
-    QFile file(m_fileName);
-    m_openProblem = openRegularFile(file);
-    if (!m_openProblem.isEmpty())
+    const auto [contents, wasOpened, problem] = Nvx::Util::readRegularFile(m_fileName, maximumFileSize);
+    m_openProblem = wasOpened ? QString() : problem;
+    if (!wasOpened)
         return Failure{u"Cannot open file"_s};
     // The messages of an unread part would silently become obsolete.
-    const Nvx::Util::Result<QByteArray> contents = readOpenFile(file);
     if (!contents)
         return Failure{u"Cannot read file"_s};
     // Every supported encoding writes a macro's name in the same bytes.

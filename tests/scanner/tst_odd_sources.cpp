@@ -58,6 +58,14 @@ private slots:
         QVERIFY(!NativeProjectFolders().contents(breakingFile()));
     }
 
+    void fileThatClaimsALargerSizeIsReadToItsEnd()
+    {
+        const auto contents = NativeProjectFolders().contents(boastingFile());
+        QVERIFY(contents);
+        QVERIFY(contents->endsWith('\n'));
+        QVERIFY(contents->size() < 100);
+    }
+
     void fileWithoutASizeIsReadToItsEnd()
     {
         const auto contents = NativeProjectFolders().contents(protectedFile());

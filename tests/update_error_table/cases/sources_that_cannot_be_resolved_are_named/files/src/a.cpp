@@ -1,0 +1,4 @@
+void f()
+{
+    REPORT_ERROR("A");
+}
