@@ -124,7 +124,7 @@ bool MessageTableUtility::saveTable(const QString &fileName)
 
 QString MessageTableUtility::savedNote() const
 {
-    const QString backup = m_messages.backupFile();
+    const QString backup = messages().backupFile();
     return backup.isEmpty() ? QString() : Clt::backupText(QFileInfo(backup).fileName());
 }
 

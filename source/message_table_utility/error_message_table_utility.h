@@ -40,7 +40,7 @@ protected:
     bool mayBeSaved() override;
     bool saveTable(const QString &fileName) override;
     QString savedNote() const override;
-    Clt::Leftovers leftovers() const override { return m_messages.leftovers(); }
+    Clt::Leftovers leftovers() const override { return messages().leftovers(); }
     Window::MarkedRows rows() const override;
 
 private:
