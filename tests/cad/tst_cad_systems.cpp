@@ -90,10 +90,11 @@ private slots:
         QStringList programs;
         const QList<GuardedProgram> guarded = guardedCadPrograms();
         for (const GuardedProgram &program : guarded)
-            programs << program.fileName + u' ' + program.displayName;
-        QCOMPARE(programs, QStringList({u"XTOP.EXE Wildfire"_s, u"SLDWORKS.EXE SolidWorks"_s,
-                                        u"SPACECLAIM.EXE Spaceclaim"_s, u"BREVANT.EXE Brevant"_s,
-                                        u"SOLIDDESIGNER.EXE SolidDesigner"_s, u"EDGE.EXE SolidEdge"_s}));
+            programs << u"%1 %2 %3"_s.arg(QString::number(program.place), program.fileName,
+                                          program.displayName);
+        QCOMPARE(programs, QStringList({u"1 XTOP.EXE Wildfire"_s, u"2 SLDWORKS.EXE SolidWorks"_s,
+                                        u"3 SPACECLAIM.EXE Spaceclaim"_s, u"4 BREVANT.EXE Brevant"_s,
+                                        u"5 SOLIDDESIGNER.EXE SolidDesigner"_s, u"6 EDGE.EXE SolidEdge"_s}));
     }
 };
 

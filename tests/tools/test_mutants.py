@@ -5,7 +5,7 @@ import unittest
 from pathlib import Path
 
 from mutants import mask, mutants_of, mutated
-from mutate import read_list, run_test, test_commands
+from mutate import LIST, ROOT, read_list, run_test, test_commands
 
 
 def function(*statements):
@@ -122,6 +122,12 @@ class ListOfFiles(unittest.TestCase):
         line = "if (a < b) // because"
         self.assertEqual(first.accepted, {(line, "> to >="): "they never meet", (line, "drop !"): "of c"})
         self.assertEqual((second.file, second.tests, second.accepted), ("b.cpp", ["tst_b"], {}))
+
+    def test_every_listed_file_and_test_exists(self):
+        units = read_list(LIST.read_text(encoding="utf-8"))
+        self.assertEqual([unit.file for unit in units if not (ROOT / unit.file).is_file()], [])
+        classes = {path.stem for path in (ROOT / "tests").glob("*/tst_*.cpp")}
+        self.assertEqual({test for unit in units for test in unit.tests} - classes, set())
 
     def test_an_accepted_change_needs_a_reason(self):
         for text in ("a.cpp: tst_a\n    > x\n        < to <=\n", "    > x\n        < to <= because y\n"):
