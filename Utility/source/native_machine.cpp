@@ -112,6 +112,11 @@ bool NativeMachine::startDetached(const QString &program, const QStringList &arg
     return true;
 }
 
+std::shared_ptr<void> NativeMachine::holdLogoff(const QString &title, const QString &reason)
+{
+    return Platform::holdLogoff(title, reason);
+}
+
 void NativeMachine::sleep(std::chrono::milliseconds duration)
 {
     std::this_thread::sleep_for(duration);

@@ -56,6 +56,9 @@ public:
 /// The lock of this process. On systems other than Windows it is always ours.
 std::shared_ptr<RunLock> runLock();
 
+/// See Machine::holdLogoff. On systems other than Windows it is not possible.
+std::shared_ptr<void> holdLogoff(const QString &title, const QString &reason);
+
 /// Passes the arguments of the call to the process, quoted as the call requires.
 void setArguments(QProcess &process, const ProgramCall &call);
 

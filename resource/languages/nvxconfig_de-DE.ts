@@ -737,6 +737,10 @@ Klicken Sie auf „Nein“, um fortzufahren, ohne die Prozesse zu beenden.</tran
         <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
         <translation>%1 wird nicht verwendet; es ist keine gewöhnliche Datei von höchstens %2 KiB</translation>
     </message>
+    <message>
+        <source>%1 is being configured. If you sign out now, it stays incomplete.</source>
+        <translation>%1 wird konfiguriert. Wenn Sie sich jetzt abmelden, bleibt es unvollständig.</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -737,6 +737,10 @@ Cliquez sur «&#xa0;Non&#xa0;» pour continuer sans arrêter les processus.</tra
         <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
         <translation>%1 n&apos;est pas utilisé&#xa0;; ce n&apos;est pas un fichier ordinaire de %2&#xa0;Kio au plus</translation>
     </message>
+    <message>
+        <source>%1 is being configured. If you sign out now, it stays incomplete.</source>
+        <translation>%1 est en cours de configuration. Si vous vous déconnectez maintenant, elle restera incomplète.</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -737,6 +737,10 @@ Fare clic su No per continuare senza arrestare i processi.</translation>
         <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
         <translation>%1 non viene utilizzato; non è un file normale di al massimo %2 KiB</translation>
     </message>
+    <message>
+        <source>%1 is being configured. If you sign out now, it stays incomplete.</source>
+        <translation>È in corso la configurazione di %1. Se ci si disconnette ora, rimarrà incompleta.</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -737,6 +737,10 @@ Click No to continue without stopping the processes.</source>
         <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
         <translation>%1 は使用されません。%2 KiB 以下の通常のファイルではありません</translation>
     </message>
+    <message>
+        <source>%1 is being configured. If you sign out now, it stays incomplete.</source>
+        <translation>%1 を構成しています。今サインアウトすると、構成が完了しません。</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -737,6 +737,10 @@ Click No to continue without stopping the processes.</source>
         <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
         <translation>%1은(는) 사용되지 않습니다. %2KiB 이하의 일반 파일이 아닙니다</translation>
     </message>
+    <message>
+        <source>%1 is being configured. If you sign out now, it stays incomplete.</source>
+        <translation>%1을(를) 구성하는 중입니다. 지금 로그아웃하면 구성이 완료되지 않습니다.</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -737,6 +737,10 @@ Click No to continue without stopping the processes.</source>
         <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
         <translation>%1 не используется: это не обычный файл размером не более %2 КиБ</translation>
     </message>
+    <message>
+        <source>%1 is being configured. If you sign out now, it stays incomplete.</source>
+        <translation>Выполняется настройка %1. Если выйти из системы сейчас, она останется незавершённой.</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

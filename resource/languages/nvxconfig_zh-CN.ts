@@ -737,6 +737,10 @@ Click No to continue without stopping the processes.</source>
         <source>%1 is not used; it is not an ordinary file of at most %2 KiB</source>
         <translation>不使用 %1；它不是不超过 %2 KiB 的普通文件</translation>
     </message>
+    <message>
+        <source>%1 is being configured. If you sign out now, it stays incomplete.</source>
+        <translation>正在配置 %1。如果现在注销，配置将不完整。</translation>
+    </message>
 </context>
 <context>
     <name>util::util_localization_tool</name>

@@ -166,6 +166,33 @@ private slots:
         QVERIFY(m_fixture->machine.service.current == Nvx::Util::ServiceState::NotInstalled);
     }
 
+    void aLogoffIsHeldBackDuringTheRun()
+    {
+        RecordingMachine &machine = m_fixture->machine;
+        int holds = 0;
+        machine.whileRunning = [&](const Nvx::Util::ProgramCall &) { holds = machine.logoffHolds; };
+        m_fixture->start(u"-I -S"_s);
+        QCOMPARE(holds, 0);
+        m_fixture->engine->ProcessInstallation();
+        QCOMPARE(holds, 1);
+        QCOMPARE(machine.logoffHolds, 0);
+        QCOMPARE(
+            machine.logoffReasons,
+            QStringList{u"NVX Configuration Utility: NVX 2017 is being configured. If you sign out now, it "
+                        "stays incomplete."_s});
+    }
+
+    void aLogoffIsHeldBackWhileTheServicesAreStopped()
+    {
+        RecordingMachine &machine = m_fixture->machine;
+        int holds = 0;
+        machine.whileRunning = [&](const Nvx::Util::ProgramCall &) { holds = machine.logoffHolds; };
+        m_fixture->start(u"-ST"_s);
+        m_fixture->engine->stopServices(RunMode::StopServices);
+        QCOMPARE(holds, 1);
+        QCOMPARE(machine.logoffHolds, 0);
+    }
+
     void theProcessorLineHasNeitherTimeNorLevel()
     {
         run(u"-I -S"_s);

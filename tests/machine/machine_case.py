@@ -23,6 +23,7 @@ BUILD = Path(os.environ["NVX_BUILD"])
 LANE = os.environ.get("NVX_LANE", "1")
 HOLD_FILE = BUILD / "tests" / "machine" / "hold_file.exe"
 CLOSE_MESSAGE_BOX = BUILD / "tests" / "machine" / "close_message_box.exe"
+ASK_LOGOFF = BUILD / "tests" / "machine" / "ask_logoff.exe"
 SCRIPTED_TOOL = BUILD / "tests" / "scripted_tool.exe"
 CATEGORY = "nvx.configuration: "
 COMPLETE = "   0 The installation or update is complete. Click finish to continue."

@@ -7,7 +7,16 @@ import time
 import unittest
 
 from launcher_case import LauncherCase, creo_entry, nx_line
-from machine_case import CLOSE_MESSAGE_BOX, COMPLETE, LOG, SCRIPTED_TOOL, log_lines, output_of, wait_until
+from machine_case import (
+    ASK_LOGOFF,
+    CLOSE_MESSAGE_BOX,
+    COMPLETE,
+    LOG,
+    SCRIPTED_TOOL,
+    log_lines,
+    output_of,
+    wait_until,
+)
 from cadsystems import CUSTOM_DIRS_10, FOREIGN_DIRS, FOREIGN_ENTRY, PROTK_2, PROTK_3
 from winemachine import INSTALL_DIR, SHARED_DATA, TRANSLATORS, TUTORIALS
 
@@ -287,6 +296,26 @@ class Server(ProgramCase):
         self.assert_done("-U")
         self.assertFalse(self.server_is_registered())
         self.assertFalse(self.exists(SHARED_DATA + "\\Analyze"))
+
+
+class Logoff(ProgramCase):
+    """A run blocks the thread of its windows, so what refuses the logoff has a thread of its own."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.turn_screen_off()
+
+    def ask(self):
+        return self.machine.run(str(ASK_LOGOFF), "NVX Configuration Utility").returncode
+
+    def test_the_user_cannot_sign_out_during_a_run(self):
+        with self.replaced(INSTALL_DIR + "\\7z.exe", f"only-for python26_x64\n{HANG}"):
+            process = self.start_and_wait_for_mark()
+            self.assertEqual(self.ask(), 0)
+            self.machine.path(HANGS).unlink()
+            self.finish(process)
+        self.assertEqual(self.ask(), 1)
 
 
 if __name__ == "__main__":

@@ -54,6 +54,13 @@ Nvx::Util::BoxAnswer RecordingMachine::ask(Nvx::Util::BoxKind kind, const QStrin
     return answer;
 }
 
+std::shared_ptr<void> RecordingMachine::holdLogoff(const QString &title, const QString &reason)
+{
+    logoffReasons.append(title + QStringLiteral(": ") + reason);
+    ++logoffHolds;
+    return std::shared_ptr<void>(&logoffHolds, [](void *holds) { --*static_cast<int *>(holds); });
+}
+
 void RecordingMachine::sleep(std::chrono::milliseconds duration)
 {
     sleeps.append(duration);

@@ -66,6 +66,8 @@ public:
     int associationNotices = 0;
     QList<Nvx::Util::ShellLink> shellLinks;
     QList<std::chrono::milliseconds> sleeps;
+    QStringList logoffReasons;
+    int logoffHolds = 0; ///< at present
 
     /// Called after each sleep, which takes no time.
     std::function<void()> afterSleep;
@@ -76,6 +78,7 @@ public:
     Nvx::Util::Turn waitForTurn(std::chrono::milliseconds timeout) override;
     Nvx::Util::ProgramResult run(const Nvx::Util::ProgramCall &call) override;
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
+    std::shared_ptr<void> holdLogoff(const QString &title, const QString &reason) override;
     void sleep(std::chrono::milliseconds duration) override;
     Nvx::Util::ProcessTable &processes() override { return running; }
     Nvx::Util::ServiceControl &services() override { return service; }

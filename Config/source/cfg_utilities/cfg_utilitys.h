@@ -195,6 +195,7 @@ private:
     void installSolverResources();
     void createFlagsFile();
 
+    std::shared_ptr<void> holdLogoff();
     void reportPendingNotes();
     void reportProcessors(const Nvx::Util::CpuInfo &cpuInfo);
 

@@ -6,6 +6,8 @@
 #include "cfg_utilities/cfg_utilitys.h"
 #include "cfg_utilities/installation_steps.h"
 #include "nvx_util/cpu_info.h"
+#include "nvx_util/machine.h"
+#include "nvx_util/product.h"
 #include "run/progress_view.h"
 
 #include <QCoreApplication>
@@ -33,6 +35,7 @@ void cfg_utilitys::searchCADPackages()
 void cfg_utilitys::ProcessInstallation()
 {
     const RunMode mode = m_state.runMode;
+    const std::shared_ptr<void> hold = holdLogoff();
     log(LogLevel::step, tr("Beginning ") + m_state.modeWord(mode));
     reportPendingNotes();
     const Util::CpuInfo cpuInfo(m_log, m_state.installDir);
@@ -45,6 +48,13 @@ void cfg_utilitys::ProcessInstallation()
     m_state.runComplete = true;
     if (m_progressView)
         m_progressView->runCompleteChanged();
+}
+
+std::shared_ptr<void> cfg_utilitys::holdLogoff()
+{
+    return m_machine.holdLogoff(
+        tr("NVX Configuration Utility"),
+        tr("%1 is being configured. If you sign out now, it stays incomplete.").arg(Product::fullName));
 }
 
 void cfg_utilitys::reportPendingNotes()

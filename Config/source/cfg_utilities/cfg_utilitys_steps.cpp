@@ -121,6 +121,7 @@ int cfg_utilitys::uninstallServer()
 
 int cfg_utilitys::stopServices(RunMode mode)
 {
+    const std::shared_ptr<void> hold = holdLogoff();
     uninstallServer();
     if (mode == RunMode::Install)
         installServer();

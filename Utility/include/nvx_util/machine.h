@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <memory>
 
 namespace Nvx::Util {
 
@@ -108,6 +109,11 @@ public:
     /// milliseconds for its end; 0 does not wait. Each argument is passed unchanged. False if it cannot be
     /// started.
     virtual bool startDetached(const QString &program, const QStringList &arguments, int waitMs) = 0;
+
+    /// Keeps the user from signing out and the system from shutting down during the lifetime of the result;
+    /// the system shows the title and the reason, and lets the user do it all the same. Null if that is not
+    /// possible.
+    virtual std::shared_ptr<void> holdLogoff(const QString &title, const QString &reason) = 0;
 
     /// Waits. Blocks.
     virtual void sleep(std::chrono::milliseconds duration) = 0;

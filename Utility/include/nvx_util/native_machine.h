@@ -21,6 +21,7 @@ public:
     Turn waitForTurn(std::chrono::milliseconds timeout) override;
     ProgramResult run(const ProgramCall &call) override;
     bool startDetached(const QString &program, const QStringList &arguments, int waitMs) override;
+    std::shared_ptr<void> holdLogoff(const QString &title, const QString &reason) override;
     void sleep(std::chrono::milliseconds duration) override;
     ProcessTable &processes() override;
     ServiceControl &services() override;

@@ -20,6 +20,11 @@ std::shared_ptr<RunLock> runLock()
     return std::make_shared<NoLock>();
 }
 
+std::shared_ptr<void> holdLogoff(const QString & /*title*/, const QString & /*reason*/)
+{
+    return nullptr;
+}
+
 } // namespace Platform
 
 } // namespace Nvx::Util

@@ -10,7 +10,9 @@
 
 #include <aclapi.h>
 #include <array>
+#include <future>
 #include <sddl.h>
+#include <thread>
 
 #include <knownfolders.h>
 #include <objbase.h>
@@ -171,6 +173,81 @@ private:
 std::shared_ptr<RunLock> runLock()
 {
     return std::make_shared<MutexLock>();
+}
+
+namespace {
+
+constexpr wchar_t logoffWindow[] = L"Velmora NVX 2017 Configuration";
+
+LRESULT CALLBACK handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_QUERYENDSESSION:
+        return FALSE;
+    case WM_DESTROY:
+        PostQuitMessage(0);
+        return 0;
+    default:
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+}
+
+// The system asks windows. A run blocks its thread and may have no window, so this one is hidden and has a
+// thread of its own.
+class LogoffHold
+{
+public:
+    LogoffHold(const QString &title, const QString &reason)
+    {
+        std::promise<HWND> promise;
+        std::future<HWND> created = promise.get_future();
+        m_thread = std::thread(serve, std::move(promise), title.toStdWString(), reason.toStdWString());
+        m_window = created.get();
+    }
+    LogoffHold(const LogoffHold &) = delete;
+    LogoffHold &operator=(const LogoffHold &) = delete;
+    ~LogoffHold()
+    {
+        if (m_window)
+            PostMessageW(m_window, WM_CLOSE, 0, 0);
+        m_thread.join();
+    }
+
+    explicit operator bool() const { return m_window != nullptr; }
+
+private:
+    static void serve(std::promise<HWND> created, const std::wstring &title, const std::wstring &reason)
+    {
+        const HWND window = create(title);
+        if (window)
+            ShutdownBlockReasonCreate(window, reason.c_str());
+        created.set_value(window);
+        MSG message;
+        while (window && GetMessageW(&message, nullptr, 0, 0) > 0)
+            DispatchMessageW(&message);
+    }
+
+    static HWND create(const std::wstring &title)
+    {
+        WNDCLASSW windowClass{};
+        windowClass.lpfnWndProc = handleMessage;
+        windowClass.hInstance = GetModuleHandleW(nullptr);
+        windowClass.lpszClassName = logoffWindow;
+        RegisterClassW(&windowClass); // fails if it has been registered before
+        return CreateWindowExW(0, logoffWindow, title.c_str(), WS_OVERLAPPED, 0, 0, 0, 0, nullptr, nullptr,
+                               windowClass.hInstance, nullptr);
+    }
+
+    std::thread m_thread;
+    HWND m_window = nullptr;
+};
+
+} // namespace
+
+std::shared_ptr<void> holdLogoff(const QString &title, const QString &reason)
+{
+    auto hold = std::make_shared<LogoffHold>(title, reason);
+    return *hold ? hold : nullptr;
 }
 
 } // namespace Platform
