@@ -1,12 +1,15 @@
 // Links that a user below an administrator has put on the way to the product's folders and files. Only an
 // administrator can give a link to another user, so the tests are skipped for everyone else.
 
+#include "nvx_util/cpu_info.h"
+#include "nvx_util/log.h"
 #include "nvx_util/system.h"
 #include "run/command_runner.h"
 #include "run/product_files.h"
 #include "setup/archive_components.h"
 #include "setup/install_folder.h"
 #include "setup/material_database.h"
+#include "setup/parallel_configuration.h"
 #include "setup/setup_fixture.h"
 #include "support/recorded_diagnostics.h"
 #include "support/test_class.h"
@@ -123,19 +126,29 @@ private slots:
 
     void sharedFolderThatIsALinkIsReported()
     {
-        const QString shared = Nvx::Util::System::getProgramDataPath(u"NVX 2017"_s);
-        QVERIFY(QDir().mkpath(QFileInfo(QFileInfo(shared).path()).path()));
-        QVERIFY(QFile::rename(path(u"planted"_s), QFileInfo(shared).path()));
+        const QString shared = plantSharedData();
         Nvx::Setup::reserveInstallFolder(m_fixture->context(), RunMode::Install);
         QCOMPARE(m_fixture->reporter.lines,
                  QStringList{u"1 Unable to take this folder over from the user who created it: "_s + shared});
     }
 
+    void configurationIsNotSavedBelow()
+    {
+        const QString shared = plantSharedData();
+        Nvx::Util::Log log(path(u"log"_s));
+        const Nvx::Util::CpuInfo processors(log, QString());
+        Nvx::Setup::createParallelConfiguration(m_fixture->context(), RunMode::Install, processors);
+        QVERIFY(!QFile::exists(path(u"elsewhere/NVX 2017"_s)));
+        QCOMPARE(m_fixture->reporter.lines.size(), 3);
+        QVERIFY(m_fixture->reporter.lines[0].endsWith(u"this is left unchanged: "_s + shared));
+        QVERIFY(
+            m_fixture->reporter.lines[1].startsWith(u"1 Unable to create NVX2 default configuration: "_s));
+        QVERIFY(m_fixture->reporter.lines[2].startsWith(u"1 Unable to create NVX2 analyze folder: "_s));
+    }
+
     void materialsAreNotCopiedBelow()
     {
-        const QString shared = Nvx::Util::System::getProgramDataPath(u"NVX 2017"_s);
-        QVERIFY(QDir().mkpath(QFileInfo(QFileInfo(shared).path()).path()));
-        QVERIFY(QFile::rename(path(u"planted"_s), QFileInfo(shared).path()));
+        plantSharedData();
         QVERIFY(QDir().mkpath(path(u"elsewhere/NVX 2017"_s)));
         writeFile(m_fixture->installed("matprop.mdb"), "materials");
         const RecordedDiagnostics diagnostics;
@@ -150,6 +163,17 @@ private:
     static bool giveAway(const QString &path)
     {
         return lchown(QFile::encodeName(path).constData(), otherUser, otherUser) == 0;
+    }
+
+    /// Puts the link in the place of the maker's folder of shared data; returns the product's folder below
+    /// it.
+    QString plantSharedData()
+    {
+        const QString shared = Nvx::Util::System::getProgramDataPath(u"NVX 2017"_s);
+        const QString maker = QFileInfo(shared).path();
+        if (!QDir().mkpath(QFileInfo(maker).path()) || !QFile::rename(path(u"planted"_s), maker))
+            qFatal("no link was planted");
+        return shared;
     }
 
     QString path(const QString &name) const { return m_fixture->test.path(name); }

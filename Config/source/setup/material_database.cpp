@@ -49,9 +49,11 @@ QString previousDatabase()
 void copyIfMissing(const QString &source, const QString &target)
 {
     const QString folder = System::getProgramDataPath(Product::fullName);
-    System::makePath(folder);
     const auto way = Util::HeldWay::toFolder(folder);
-    if (way.plantedPoint() || !Util::copyToFreeName(source, target))
+    const bool isTrusted = !way.plantedPoint();
+    if (isTrusted)
+        System::makePath(folder);
+    if (!isTrusted || !Util::copyToFreeName(source, target))
         qCWarning(diagnostics, "Unable to copy %ls to %ls", qUtf16Printable(source), qUtf16Printable(target));
 }
 

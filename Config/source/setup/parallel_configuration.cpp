@@ -8,6 +8,7 @@
 #include "nvx_util/system.h"
 #include "nvx_util/trusted_files.h"
 #include "nvx_util/whole_file.h"
+#include "run/product_files.h"
 #include "run/reporter.h"
 
 #include <QCoreApplication>
@@ -37,8 +38,7 @@ bool canBeWritten(const QStringList &texts)
 bool save(const QString &path, const QString &sharedFolder, const QString &analysisFolder,
           const Util::CpuInfo &cpuInfo)
 {
-    const auto way = Util::HeldWay::toEntry(path);
-    if (way.plantedPoint() || !canBeWritten({path, sharedFolder, analysisFolder}))
+    if (!canBeWritten({path, sharedFolder, analysisFolder}))
         return false;
 
     const qint32 cores = cpuInfo.coresPerProcessor();
@@ -68,15 +68,18 @@ void createParallelConfiguration(const StepContext &context, RunMode mode, const
     const QString sharedFolder = joinPath(context.machine.executableFolder(), u"NVX2_share"_s);
     const QString analysisFolder = joinPath(sharedData, u"HPCAnalyze"_s);
 
-    System::makePath(sharedData);
-    if (save(file, sharedFolder, analysisFolder, cpuInfo))
+    const auto way = Util::HeldWay::toEntry(file);
+    const bool isTrusted = isTrustedWay(context.reporter, way, sharedData);
+    if (isTrusted)
+        System::makePath(sharedData);
+    if (isTrusted && save(file, sharedFolder, analysisFolder, cpuInfo))
         context.reporter.log(LogLevel::step,
                              Messages::tr("Created NVX2 default configuration: %1").arg(file));
     else
         context.reporter.log(LogLevel::failure,
                              Messages::tr("Unable to create NVX2 default configuration: %1").arg(file));
 
-    if (QDir(sharedData).mkpath(analysisFolder))
+    if (isTrusted && QDir(sharedData).mkpath(analysisFolder))
         context.reporter.log(LogLevel::step,
                              Messages::tr("Created NVX2 analyze folder: %1").arg(analysisFolder));
     else
