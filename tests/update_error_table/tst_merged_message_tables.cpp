@@ -83,22 +83,28 @@ private slots:
     void eitherSideOfAConflictHasAllMessagesAfterASynchronisation_data()
     {
         QTest::addColumn<QString>("side");
-        QTest::newRow("ours") << u"--ours"_s;
-        QTest::newRow("theirs") << u"--theirs"_s;
+        QTest::addColumn<QString>("other");
+        QTest::newRow("ours") << u"--ours"_s
+                              << Clt::MessageKey{u"C"_s, u"Flow::c"_s, u"client"_s}.displayText();
+        QTest::newRow("theirs") << u"--theirs"_s
+                                << Clt::MessageKey{u"B"_s, u"Flow::b"_s, u"client"_s}.displayText();
     }
 
     void eitherSideOfAConflictHasAllMessagesAfterASynchronisation()
     {
         QFETCH(const QString, side);
+        QFETCH(const QString, other);
         makeNeighbours();
         QVERIFY(!git({u"merge"_s, u"--quiet"_s, u"two"_s}));
         const QByteArray conflict = readFile(path("errors.xml"));
         QVERIFY2(conflict.contains("<<<<<<<"), conflict.constData());
         QCOMPARE(synchronize(), ExitCode::Failed);
+        QVERIFY2(m_errors.contains(u"errors.xml"_s), qPrintable(m_errors));
         QCOMPARE(readFile(path("errors.xml")), conflict);
 
         QVERIFY(git({u"checkout"_s, u"--quiet"_s, side, u"errors.xml"_s}));
         QCOMPARE(synchronize(), ExitCode::Done);
+        QVERIFY2(m_errors.contains(u": new message "_s + other), qPrintable(m_errors));
         QCOMPARE(tags(), QStringList({u"a Old"_s, u"b B"_s, u"c C"_s, u"m Old"_s, u"z Old"_s}));
         commit();
     }
@@ -127,6 +133,7 @@ private slots:
         QVERIFY(merged.contains("<text>one</text>"));
         QVERIFY(merged.contains("<text>two</text>"));
         QCOMPARE(synchronize(), ExitCode::Done);
+        QVERIFY2(m_errors.contains(u"it occurs again in line"_s), qPrintable(m_errors));
         QCOMPARE(readFile(path("errors.xml.before")), merged);
     }
 
@@ -226,8 +233,9 @@ private:
     ExitCode synchronize()
     {
         QString text;
+        m_errors.clear();
         QTextStream output(&text);
-        QTextStream errors(&text);
+        QTextStream errors(&m_errors);
         return UpdateTable::runUpdateErrorTable({u"-sync"_s, path("errors.xml"), path("client.vcxproj")},
                                                 output, errors, UpdateTable::OutputDevice::FileOrPipe);
     }
@@ -274,6 +282,7 @@ private:
 
     std::unique_ptr<TestFolder> m_folder;
     QProcess m_git;
+    QString m_errors; // of the last synchronisation
 };
 
 NVX_GUILESS_TEST(tst_merged_message_tables)
