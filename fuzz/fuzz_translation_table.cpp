@@ -1,4 +1,5 @@
-// Reads bytes as a translation file. A table that was read can be written, and is then read unchanged.
+// Reads bytes as a translation file. A table that was read can be written, and is then read unchanged. Qt's
+// reader alone must read the same from the same bytes.
 
 #include "translation/error_translation_table.h"
 #include "translation/translation_table_xml.h"
@@ -19,12 +20,15 @@ void require(bool condition)
         std::abort();
 }
 
-Nvx::Util::Result<TranslationRoot> read(const QByteArray &bytes, TranslationTable &table)
+using Read = Nvx::Util::Result<TranslationRoot> (*)(QIODevice &, TranslationTable &);
+
+Nvx::Util::Result<TranslationRoot> read(const QByteArray &bytes, TranslationTable &table,
+                                        Read reader = Translation::readTranslationTable)
 {
     QBuffer device;
     device.setData(bytes);
-    device.open(QIODevice::ReadOnly);
-    return Translation::readTranslationTable(device, table);
+    device.open(QIODevice::ReadOnly | QIODevice::Text);
+    return reader(device, table);
 }
 
 QByteArray written(const TranslationTable &table)
@@ -40,10 +44,17 @@ QByteArray written(const TranslationTable &table)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
     TranslationTable table;
-    const auto root =
-        read(QByteArray(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size)), table);
+    const QByteArray input(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
+    const auto root = read(input, table);
     require(!root || *root == TranslationRoot::Found || table.contexts().empty());
     const QByteArray file = written(table);
+
+    TranslationTable readWithQt;
+    const auto rootWithQt = read(input, readWithQt, Translation::readTranslationTableWithQt);
+    require(written(readWithQt) == file && root.error() == rootWithQt.error());
+    require(!root || *root == *rootWithQt);
+    require(table.leftovers().logLines({}) == readWithQt.leftovers().logLines({}));
+
     TranslationTable again;
     require(bool(read(file, again)));
     require(written(again) == file);

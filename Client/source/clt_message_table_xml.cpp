@@ -4,13 +4,13 @@
 #include "clt_message_xml.h"
 #include "clt_plain_xml_source.h"
 #include "clt_xml_source.h"
+#include "clt_xml_writer.h"
 #include "nvx_util/assertion.h"
 
 #include <QCoreApplication>
 #include <QFileDevice>
 #include <QHash>
 #include <QXmlStreamReader>
-#include <QXmlStreamWriter>
 
 #include <optional>
 #include <utility>
@@ -23,15 +23,6 @@ namespace Clt {
 namespace {
 
 constexpr const char *unit = "clt_message_table";
-constexpr int indentation = 3;
-
-void writeNameSpace(QXmlStreamWriter &xml)
-{
-    const QString nameSpace = u"http://www.velmora.example/nvx/messageTable"_s;
-    xml.writeAttribute(u"xmlns"_s, nameSpace);
-    xml.writeAttribute(u"xmlns:xsi"_s, u"http://www.w3.org/2001/XMLSchema-instance"_s);
-    xml.writeAttribute(u"xsi:schemaLocation"_s, nameSpace + u" ErrorTable.xsd"_s);
-}
 
 struct Texts
 {
@@ -246,16 +237,17 @@ TableReading readMessageTable(QIODevice &device, MessageTable &table)
 
 bool writeMessageTable(QIODevice &device, const MessageTable &table)
 {
-    QXmlStreamWriter xml(&device);
-    xml.setAutoFormatting(true);
-    xml.setAutoFormattingIndent(indentation);
-    xml.writeStartDocument();
-    xml.writeStartElement(u"messageTable"_s);
-    writeNameSpace(xml);
+    const QString nameSpace = u"http://www.velmora.example/nvx/messageTable"_s;
+    XmlWriter xml;
+    xml.startElement("messageTable");
+    xml.attribute("xmlns", nameSpace);
+    xml.attribute("xmlns:xsi", u"http://www.w3.org/2001/XMLSchema-instance");
+    xml.attribute("xsi:schemaLocation", nameSpace + u" ErrorTable.xsd"_s);
     for (const auto &[key, message] : table)
         writeMessage(xml, message);
-    xml.writeEndDocument();
-    return !xml.hasError();
+    xml.endElement();
+    const QByteArray document = xml.takeDocument();
+    return !xml.hasError() && device.write(document) == document.size();
 }
 
 } // namespace Clt

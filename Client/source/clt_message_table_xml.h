@@ -39,7 +39,7 @@ TableReading readMessageTableWithQt(QIODevice &device, MessageTable &table);
 void readMessageTableBody(XmlSource &xml, MessageTable &table, Leftovers &leftovers);
 
 /// Writes the table's document to the open device. Returns false if the device fails or a text has a
-/// character that XML cannot represent; the document is then incomplete.
+/// character that XML cannot represent; what was written is then useless.
 [[nodiscard]] bool writeMessageTable(QIODevice &device, const MessageTable &table);
 
 } // namespace Clt

@@ -2,10 +2,8 @@
 
 #include "clt_leftovers.h"
 #include "clt_xml_source.h"
-#include "clt_xml_text.h"
+#include "clt_xml_writer.h"
 #include "nvx_util/assertion.h"
-
-#include <QXmlStreamWriter>
 
 #include <cstddef>
 #include <string_view>
@@ -164,13 +162,13 @@ QString readKeyText(XmlSource &xml, Leftovers &leftovers, RepeatedChildren &chil
     return readElementText(xml, leftovers);
 }
 
-void writeMessageKey(QXmlStreamWriter &xml, const MessageKey &key)
+void writeMessageKey(XmlWriter &xml, const MessageKey &key)
 {
-    xml.writeStartElement(u"key"_s);
-    writeXmlTextElement(xml, u"process"_s, key.process);
-    writeXmlTextElement(xml, u"context"_s, key.context);
-    writeXmlTextElement(xml, u"tag"_s, key.tag);
-    xml.writeEndElement();
+    xml.startElement("key");
+    xml.textElement("process", key.process);
+    xml.textElement("context", key.context);
+    xml.textElement("tag", key.tag);
+    xml.endElement();
 }
 
 } // namespace
@@ -179,13 +177,6 @@ std::optional<Message> readMessage(XmlSource &xml, Leftovers &leftovers)
 {
     NVX_ASSERT(xml.isStartElement() && xml.name() == "message", unit);
     return MessageReader(xml, leftovers).read();
-}
-
-std::optional<Message> readMessage(QXmlStreamReader &xml)
-{
-    QtXmlSource source(xml);
-    Leftovers leftovers;
-    return readMessage(source, leftovers);
 }
 
 MessageKey readMessageKey(XmlSource &xml, Leftovers &leftovers)
@@ -216,21 +207,21 @@ MessageKey readMessageKey(XmlSource &xml, Leftovers &leftovers)
     }
 }
 
-void writeMessage(QXmlStreamWriter &xml, const Message &message)
+void writeMessage(XmlWriter &xml, const Message &message)
 {
-    xml.writeStartElement(u"message"_s);
-    xml.writeAttribute(u"severity"_s, severityToText(message.severity()));
+    xml.startElement("message");
+    xml.attribute("severity", severityToText(message.severity()));
     writeMessageKey(xml, message.key());
     if (hasTitle(message))
-        writeXmlTextElement(xml, u"title"_s, message.title());
-    writeXmlTextElement(xml, u"text"_s, message.text());
+        xml.textElement("title", message.title());
+    xml.textElement("text", message.text());
     if (hasAction(message))
-        writeXmlTextElement(xml, u"action"_s, message.action());
+        xml.textElement("action", message.action());
     if (message.state() != MessageState::InSync)
-        writeXmlTextElement(xml, u"state"_s, stateToText(message.state()));
+        xml.textElement("state", stateToText(message.state()));
     if (message.solution() != 0)
-        writeXmlTextElement(xml, u"solution"_s, QString::number(message.solution()));
-    xml.writeEndElement();
+        xml.textElement("solution", QString::number(message.solution()));
+    xml.endElement();
 }
 
 } // namespace Clt

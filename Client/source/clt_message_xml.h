@@ -4,13 +4,11 @@
 
 #include <optional>
 
-class QXmlStreamReader;
-class QXmlStreamWriter;
-
 namespace Clt {
 
 class Leftovers;
 class XmlSource;
+class XmlWriter;
 
 // The "message" element of a message table:
 //
@@ -39,13 +37,10 @@ class XmlSource;
 /// malformed before that.
 std::optional<Message> readMessage(XmlSource &xml, Leftovers &leftovers);
 
-/// The same with Qt's reader at the start element.
-std::optional<Message> readMessage(QXmlStreamReader &xml);
-
 /// Reads the key at whose start element the source is, to its end or that of the document.
 MessageKey readMessageKey(XmlSource &xml, Leftovers &leftovers);
 
-/// Writes the message's element. A character that XML cannot represent puts the writer into its error state.
-void writeMessage(QXmlStreamWriter &xml, const Message &message);
+/// Writes the message's element.
+void writeMessage(XmlWriter &xml, const Message &message);
 
 } // namespace Clt

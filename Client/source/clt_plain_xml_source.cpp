@@ -86,17 +86,26 @@ const char *skipName(const char *at, const char *end)
 {
     if (at == end || !isNameBegin(*at))
         return at;
-    return std::find_if_not(at, end, isNameByte);
+    while (at != end && isNameByte(*at))
+        ++at;
+    return at;
 }
 
 const char *skipSpace(const char *at, const char *end)
 {
-    return std::find_if_not(at, end, isSpace);
+    while (at != end && isSpace(*at))
+        ++at;
+    return at;
 }
 
 std::string_view viewOf(const char *begin, const char *end)
 {
     return {begin, static_cast<std::size_t>(end - begin)};
+}
+
+QString latin1(std::string_view text)
+{
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 /// The number of the character that a reference such as "#13" or "#xd" names; 0 if it names none.
@@ -343,7 +352,21 @@ XmlSource::Token PlainXmlSource::takeText()
 
 QString PlainXmlSource::text() const
 {
-    return m_isAscii ? QString::fromLatin1(m_text.data(), static_cast<qsizetype>(m_text.size())) : m_decoded;
+    return m_isAscii ? sharedText(m_text) : m_decoded;
+}
+
+/// The characters of plain ASCII text.
+QString PlainXmlSource::sharedText(std::string_view text) const
+{
+    constexpr std::size_t longest = 64;
+    if (text.empty() || text.size() > longest)
+        return latin1(text);
+    const auto byteAt = [text](std::size_t at) { return static_cast<unsigned char>(text[at]); };
+    const std::size_t number = text.size() + 7U * byteAt(0) + 31U * byteAt(text.size() - 1);
+    RecentText &recent = m_recent[number % recentTexts];
+    if (recent.bytes != text)
+        recent = {text, latin1(text)};
+    return recent.text;
 }
 
 bool PlainXmlSource::isWhiteSpace() const
@@ -416,8 +439,7 @@ bool PlainXmlSource::addAttribute(std::string_view name, std::string_view value)
         return false;
     const bool isPlainValue = std::ranges::all_of(value, [](char byte) { return isAttributePlain(byte); });
     if (isPlainValue) {
-        m_attributes.push_back(
-            {name, QString::fromLatin1(value.data(), static_cast<qsizetype>(value.size()))});
+        m_attributes.push_back({name, sharedText(value)});
         return true;
     }
     if (std::ranges::any_of(value, [](char byte) { return byte == '<' || (byte != ' ' && isSpace(byte)); }))

@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -52,6 +54,17 @@ private:
     bool readAttributes(const char *at, const char *end);
     bool addAttribute(std::string_view name, std::string_view value);
     bool hasAttribute(std::string_view name) const;
+
+    QString sharedText(std::string_view text) const;
+
+    // Short texts, each in the place that its bytes lead to: most documents repeat them, and share them then.
+    struct RecentText
+    {
+        std::string_view bytes;
+        QString text;
+    };
+    static constexpr std::size_t recentTexts = 64;
+    mutable std::array<RecentText, recentTexts> m_recent;
 
     QIODevice &m_device;
     QByteArray m_bytes;  // the whole document, as far as it was read

@@ -49,11 +49,4 @@ void writeXmlCharacters(QXmlStreamWriter &xml, const QString &text)
     xml.writeCharacters(begin == 0 ? text : text.sliced(begin));
 }
 
-void writeXmlTextElement(QXmlStreamWriter &xml, const QString &name, const QString &text)
-{
-    xml.writeStartElement(name);
-    writeXmlCharacters(xml, text);
-    xml.writeEndElement();
-}
-
 } // namespace Clt

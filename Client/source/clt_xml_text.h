@@ -26,7 +26,4 @@ inline bool isXmlSpace(QChar character)
 /// feeds. A character that XML cannot represent puts the writer into its error state.
 void writeXmlCharacters(QXmlStreamWriter &xml, const QString &text);
 
-/// Writes an element that contains only the text, in the same way.
-void writeXmlTextElement(QXmlStreamWriter &xml, const QString &name, const QString &text);
-
 } // namespace Clt

@@ -1,4 +1,5 @@
 #include "clt_leftovers.h"
+#include "clt_plain_xml_source.h"
 #include "clt_xml_source.h"
 #include "nvx_util/assertion.h"
 #include "translation/error_translation_table.h"
@@ -8,6 +9,7 @@
 #include <QHash>
 #include <QXmlStreamReader>
 
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -304,18 +306,54 @@ Nvx::Util::Result<TranslationRoot> readWithQt(QIODevice &device, TranslationTabl
     return root;
 }
 
+/// The same for the documents that a PlainXmlSource reads; std::nullopt for others. The device is then where
+/// it was, and the table is unchanged.
+std::optional<TranslationRoot> readPlain(QIODevice &device, TranslationTable &table,
+                                         Clt::Leftovers &leftovers)
+{
+    const qint64 begin = device.pos();
+    const bool isText = device.isTextModeEnabled();
+    device.setTextModeEnabled(false);
+    TranslationTable plain = table;
+    Clt::Leftovers plainLeftovers;
+    Clt::PlainXmlSource source(device);
+    const TranslationRoot root = Reader(source, plain, plainLeftovers).read();
+    device.setTextModeEnabled(isText);
+    if (!source.isComplete()) {
+        device.seek(begin);
+        return std::nullopt;
+    }
+    table = std::move(plain);
+    leftovers = plainLeftovers;
+    return root;
+}
+
+/// Passes what was left over to the table, for its next save.
+void setFile(TranslationTable &table, const QIODevice &device, const Clt::Leftovers &leftovers)
+{
+    const auto *file = qobject_cast<const QFileDevice *>(&device);
+    table.setFile(file ? file->fileName() : QString(), leftovers);
+}
+
 } // namespace
 
-Nvx::Util::Result<TranslationRoot> readTranslationTable(QIODevice &device, TranslationTable &table)
+Nvx::Util::Result<TranslationRoot> readTranslationTableWithQt(QIODevice &device, TranslationTable &table)
 {
     Clt::Leftovers leftovers;
     const Nvx::Util::Result<TranslationRoot> root = readWithQt(device, table, leftovers);
     // A file in another format is saved as such.
-    if (root && *root == TranslationRoot::Missing)
-        leftovers = Clt::Leftovers();
-    const auto *file = qobject_cast<QFileDevice *>(&device);
-    table.setFile(file ? file->fileName() : QString(), leftovers);
+    setFile(table, device, root && *root == TranslationRoot::Missing ? Clt::Leftovers() : leftovers);
     return root;
+}
+
+Nvx::Util::Result<TranslationRoot> readTranslationTable(QIODevice &device, TranslationTable &table)
+{
+    Clt::Leftovers leftovers;
+    const std::optional<TranslationRoot> root = readPlain(device, table, leftovers);
+    if (!root)
+        return readTranslationTableWithQt(device, table);
+    setFile(table, device, *root == TranslationRoot::Missing ? Clt::Leftovers() : leftovers);
+    return *root;
 }
 
 } // namespace Translation

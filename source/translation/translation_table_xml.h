@@ -38,6 +38,9 @@ enum class TranslationRoot
 /// formed; the table then has the messages that were complete before the error.
 Nvx::Util::Result<TranslationRoot> readTranslationTable(QIODevice &device, TranslationTable &table);
 
+/// The same, slower. readTranslationTable() does this for a document with anything unusual in it.
+Nvx::Util::Result<TranslationRoot> readTranslationTableWithQt(QIODevice &device, TranslationTable &table);
+
 /// Writes the table to the open device. False if the device fails or a string has a character that cannot be
 /// written at all, a NUL; the output is then useless.
 bool writeTranslationTable(QIODevice &device, const TranslationTable &table);
