@@ -301,6 +301,41 @@ Ohne diese Texte speichern?</translation>
         <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
         <translation>Neu: %L1, veraltet: %L2, unvollständig: %L3</translation>
     </message>
+    <message>
+        <source>Untranslated strings with a translation in another context: %L1
+
+Take these translations over? The strings stay unfinished.</source>
+        <translation>Unübersetzte Texte, die in einem anderen Kontext übersetzt sind: %L1
+
+Diese Übersetzungen übernehmen? Die Texte bleiben unfertig.</translation>
+    </message>
+    <message>
+        <source>Adopt Texts From...</source>
+        <translation>Texte übernehmen von...</translation>
+    </message>
+    <message>
+        <source>Select a new message</source>
+        <translation>Wählen Sie eine neue Meldung aus</translation>
+    </message>
+    <message>
+        <source>No obsolete message has the same tag or a similar text</source>
+        <translation>Keine veraltete Meldung hat dieselbe Kennung oder einen ähnlichen Text</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::AdoptionDialog</name>
+    <message>
+        <source>Adopt Texts</source>
+        <translation>Texte übernehmen</translation>
+    </message>
+    <message>
+        <source>Obsolete messages</source>
+        <translation>Veraltete Meldungen</translation>
+    </message>
+    <message>
+        <source>The message adopts the texts of this obsolete message, which is removed:</source>
+        <translation>Die Meldung übernimmt die Texte dieser veralteten Meldung, die entfernt wird:</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::FindDialog</name>

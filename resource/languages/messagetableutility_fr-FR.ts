@@ -301,6 +301,41 @@ Enregistrer sans ces textes&#xa0;?</translation>
         <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
         <translation>Nouveaux&#xa0;: %L1, obsolètes&#xa0;: %L2, incomplets&#xa0;: %L3</translation>
     </message>
+    <message>
+        <source>Untranslated strings with a translation in another context: %L1
+
+Take these translations over? The strings stay unfinished.</source>
+        <translation>Textes non traduits ayant une traduction dans un autre contexte&#xa0;: %L1
+
+Reprendre ces traductions&#xa0;? Les textes restent inachevés.</translation>
+    </message>
+    <message>
+        <source>Adopt Texts From...</source>
+        <translation>Reprendre les textes de...</translation>
+    </message>
+    <message>
+        <source>Select a new message</source>
+        <translation>Sélectionnez un nouveau message</translation>
+    </message>
+    <message>
+        <source>No obsolete message has the same tag or a similar text</source>
+        <translation>Aucun message obsolète n&apos;a la même étiquette ni un texte semblable</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::AdoptionDialog</name>
+    <message>
+        <source>Adopt Texts</source>
+        <translation>Reprendre les textes</translation>
+    </message>
+    <message>
+        <source>Obsolete messages</source>
+        <translation>Messages obsolètes</translation>
+    </message>
+    <message>
+        <source>The message adopts the texts of this obsolete message, which is removed:</source>
+        <translation>Le message reprend les textes de ce message obsolète, qui est supprimé&#xa0;:</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::FindDialog</name>

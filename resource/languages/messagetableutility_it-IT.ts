@@ -301,6 +301,41 @@ Salvare senza questi testi?</translation>
         <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
         <translation>Nuovi: %L1, obsoleti: %L2, incompleti: %L3</translation>
     </message>
+    <message>
+        <source>Untranslated strings with a translation in another context: %L1
+
+Take these translations over? The strings stay unfinished.</source>
+        <translation>Testi non tradotti con una traduzione in un altro contesto: %L1
+
+Riprendere queste traduzioni? I testi restano incompleti.</translation>
+    </message>
+    <message>
+        <source>Adopt Texts From...</source>
+        <translation>Riprendi testi da...</translation>
+    </message>
+    <message>
+        <source>Select a new message</source>
+        <translation>Selezionare un messaggio nuovo</translation>
+    </message>
+    <message>
+        <source>No obsolete message has the same tag or a similar text</source>
+        <translation>Nessun messaggio obsoleto ha lo stesso tag o un testo simile</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::AdoptionDialog</name>
+    <message>
+        <source>Adopt Texts</source>
+        <translation>Riprendi testi</translation>
+    </message>
+    <message>
+        <source>Obsolete messages</source>
+        <translation>Messaggi obsoleti</translation>
+    </message>
+    <message>
+        <source>The message adopts the texts of this obsolete message, which is removed:</source>
+        <translation>Il messaggio riprende i testi di questo messaggio obsoleto, che viene rimosso:</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::FindDialog</name>

@@ -301,6 +301,41 @@ Save without these texts?</source>
         <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
         <translation>新規: %L1、廃止: %L2、未完成: %L3</translation>
     </message>
+    <message>
+        <source>Untranslated strings with a translation in another context: %L1
+
+Take these translations over? The strings stay unfinished.</source>
+        <translation>別のコンテキストに翻訳がある未翻訳の文字列: %L1
+
+これらの翻訳を引き継ぎますか? 文字列は未完了のままです。</translation>
+    </message>
+    <message>
+        <source>Adopt Texts From...</source>
+        <translation>テキストの引き継ぎ...</translation>
+    </message>
+    <message>
+        <source>Select a new message</source>
+        <translation>新しいメッセージを選択してください</translation>
+    </message>
+    <message>
+        <source>No obsolete message has the same tag or a similar text</source>
+        <translation>同じタグまたは似たテキストの廃止されたメッセージはありません</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::AdoptionDialog</name>
+    <message>
+        <source>Adopt Texts</source>
+        <translation>テキストの引き継ぎ</translation>
+    </message>
+    <message>
+        <source>Obsolete messages</source>
+        <translation>廃止されたメッセージ</translation>
+    </message>
+    <message>
+        <source>The message adopts the texts of this obsolete message, which is removed:</source>
+        <translation>メッセージは次の廃止されたメッセージのテキストを引き継ぎ、そのメッセージは削除されます:</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::FindDialog</name>

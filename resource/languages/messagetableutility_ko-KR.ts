@@ -301,6 +301,41 @@ Save without these texts?</source>
         <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
         <translation>새 메시지: %L1, 사용되지 않음: %L2, 불완전: %L3</translation>
     </message>
+    <message>
+        <source>Untranslated strings with a translation in another context: %L1
+
+Take these translations over? The strings stay unfinished.</source>
+        <translation>다른 컨텍스트에 번역이 있는 미번역 문자열: %L1
+
+이 번역을 가져오시겠습니까? 문자열은 미완료 상태로 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>Adopt Texts From...</source>
+        <translation>텍스트 가져오기...</translation>
+    </message>
+    <message>
+        <source>Select a new message</source>
+        <translation>새 메시지를 선택하십시오</translation>
+    </message>
+    <message>
+        <source>No obsolete message has the same tag or a similar text</source>
+        <translation>태그가 같거나 텍스트가 비슷한 사용되지 않음 상태의 메시지가 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::AdoptionDialog</name>
+    <message>
+        <source>Adopt Texts</source>
+        <translation>텍스트 가져오기</translation>
+    </message>
+    <message>
+        <source>Obsolete messages</source>
+        <translation>사용되지 않음 메시지</translation>
+    </message>
+    <message>
+        <source>The message adopts the texts of this obsolete message, which is removed:</source>
+        <translation>메시지가 다음 사용되지 않음 메시지의 텍스트를 가져오고 그 메시지는 제거됩니다:</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::FindDialog</name>

@@ -301,6 +301,41 @@ Save without these texts?</source>
         <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
         <translation>Новых: %L1, устаревших: %L2, неполных: %L3</translation>
     </message>
+    <message>
+        <source>Untranslated strings with a translation in another context: %L1
+
+Take these translations over? The strings stay unfinished.</source>
+        <translation>Непереведённых строк с переводом в другом контексте: %L1
+
+Взять эти переводы? Строки останутся незавершёнными.</translation>
+    </message>
+    <message>
+        <source>Adopt Texts From...</source>
+        <translation>Взять тексты из...</translation>
+    </message>
+    <message>
+        <source>Select a new message</source>
+        <translation>Выберите новое сообщение</translation>
+    </message>
+    <message>
+        <source>No obsolete message has the same tag or a similar text</source>
+        <translation>Нет устаревших сообщений с тем же тегом или похожим текстом</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::AdoptionDialog</name>
+    <message>
+        <source>Adopt Texts</source>
+        <translation>Взять тексты</translation>
+    </message>
+    <message>
+        <source>Obsolete messages</source>
+        <translation>Устаревшие сообщения</translation>
+    </message>
+    <message>
+        <source>The message adopts the texts of this obsolete message, which is removed:</source>
+        <translation>Сообщение получит тексты этого устаревшего сообщения, а оно будет удалено:</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::FindDialog</name>

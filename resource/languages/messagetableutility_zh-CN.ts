@@ -301,6 +301,41 @@ Save without these texts?</source>
         <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
         <translation>新增：%L1，已过时：%L2，不完整：%L3</translation>
     </message>
+    <message>
+        <source>Untranslated strings with a translation in another context: %L1
+
+Take these translations over? The strings stay unfinished.</source>
+        <translation>在其他上下文中已有翻译的未翻译字符串：%L1
+
+是否沿用这些翻译？字符串仍保持未完成状态。</translation>
+    </message>
+    <message>
+        <source>Adopt Texts From...</source>
+        <translation>沿用文本...</translation>
+    </message>
+    <message>
+        <source>Select a new message</source>
+        <translation>请选择一条新消息</translation>
+    </message>
+    <message>
+        <source>No obsolete message has the same tag or a similar text</source>
+        <translation>没有标记相同或文本相似的已过时消息</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::AdoptionDialog</name>
+    <message>
+        <source>Adopt Texts</source>
+        <translation>沿用文本</translation>
+    </message>
+    <message>
+        <source>Obsolete messages</source>
+        <translation>已过时的消息</translation>
+    </message>
+    <message>
+        <source>The message adopts the texts of this obsolete message, which is removed:</source>
+        <translation>该消息将沿用下面已过时消息的文本，并移除后者：</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::FindDialog</name>

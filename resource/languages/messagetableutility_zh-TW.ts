@@ -301,6 +301,41 @@ Save without these texts?</source>
         <source>New: %L1, obsolete: %L2, incomplete: %L3</source>
         <translation>新增：%L1，過時：%L2，不完整：%L3</translation>
     </message>
+    <message>
+        <source>Untranslated strings with a translation in another context: %L1
+
+Take these translations over? The strings stay unfinished.</source>
+        <translation>在其他上下文中已有翻譯的未翻譯字串：%L1
+
+是否沿用這些翻譯？字串仍保持未完成狀態。</translation>
+    </message>
+    <message>
+        <source>Adopt Texts From...</source>
+        <translation>沿用文字...</translation>
+    </message>
+    <message>
+        <source>Select a new message</source>
+        <translation>請選取一則新訊息</translation>
+    </message>
+    <message>
+        <source>No obsolete message has the same tag or a similar text</source>
+        <translation>沒有標籤相同或文字相似的過時訊息</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::AdoptionDialog</name>
+    <message>
+        <source>Adopt Texts</source>
+        <translation>沿用文字</translation>
+    </message>
+    <message>
+        <source>Obsolete messages</source>
+        <translation>過時的訊息</translation>
+    </message>
+    <message>
+        <source>The message adopts the texts of this obsolete message, which is removed:</source>
+        <translation>該訊息將沿用下面過時訊息的文字，並移除後者：</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::FindDialog</name>

@@ -24,7 +24,7 @@ constexpr RuleRow rows[] = {
     {Rule::Character, u"character", u"a character that the file cannot store"},
     {Rule::Place, u"place", u"%1 to %9: skipped, beyond 9, in a title, or different in a translation"},
     {Rule::Blank, u"blank", u"a blank at either end; in a translation, others than in the source"},
-    {Rule::Unsaved, u"unsaved", u"a title or an action that is dropped when the table is saved"},
+    {Rule::Unsaved, u"unsaved", u"what is lost when the table is saved: unknown elements, comments, a title"},
     {Rule::Duplicate, u"duplicate", u"a second message with the same key"},
     {Rule::Unfinished, u"unfinished", u"a string without a finished translation"},
     {Rule::Accelerator, u"accelerator", u"an accelerator (&) in only one of source and translation"},

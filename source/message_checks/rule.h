@@ -17,7 +17,7 @@ enum class Rule
     Character,   ///< a character that the file cannot store
     Place,       ///< "%1" to "%9": skipped, beyond 9, in a title, or different in the translation
     Blank,       ///< a blank at the beginning or the end; in a translation, others than in the source
-    Unsaved,     ///< a field that is not saved with the message's severity
+    Unsaved,     ///< what is not saved, such as a title that the severity does not allow
     Duplicate,   ///< a second message with the same key
     Unfinished,  ///< a string without a finished translation
     Accelerator, ///< an accelerator ("&") in only one of source and translation

@@ -65,8 +65,10 @@ public:
 
     void add(const Checks::Remarks &remarks)
     {
-        for (const Checks::Remark &remark : remarks)
-            add(remark.rule, remark.text);
+        for (const Checks::Remark &remark : remarks) {
+            if (remark.rule != Rule::Unsaved) // the reader reports these with their lines
+                add(remark.rule, remark.text);
+        }
     }
 
 private:
@@ -89,6 +91,7 @@ public:
 
 private:
     void check(const Clt::Message &message, qint64 line);
+    void report(const Clt::Leftovers &leftovers);
 
     FileReport &m_report;
     std::map<Clt::MessageKey, qint64> m_lines; // of the keys so far
@@ -98,14 +101,30 @@ private:
 void TableChecker::checkTable(QXmlStreamReader &xml)
 {
     Clt::QtXmlSource source(xml);
-    Clt::Leftovers leftovers;
     while (source.next() != Clt::XmlSource::Token::End &&
            source.token() != Clt::XmlSource::Token::EndElement) {
-        if (!source.isStartElement() || source.name() != "message")
-            continue;
+        Clt::Leftovers leftovers;
         const qint64 line = source.line();
-        if (const std::optional<Clt::Message> message = Clt::readMessage(source, leftovers))
+        std::optional<Clt::Message> message;
+        if (!source.isStartElement())
+            Clt::leaveText(source, leftovers);
+        else if (source.name() == "message")
+            message = Clt::readMessage(source, leftovers);
+        else
+            Clt::leave(source, leftovers, Clt::startTag(source));
+        if (message)
             check(*message, line);
+        report(leftovers);
+    }
+}
+
+// What is lost when the table is saved.
+void TableChecker::report(const Clt::Leftovers &leftovers)
+{
+    for (const Clt::Leftover &leftover : leftovers.listed()) {
+        m_report.findings.push_back(
+            {leftover.line, Rule::Unsaved, onOneLine(u"%1 is not kept"_s.arg(leftover.what))});
+        ++m_report.entriesWith[Rule::Unsaved];
     }
 }
 
@@ -177,6 +196,8 @@ Result<FileReport> checkDocument(QIODevice &device)
         return Failure{u"line %1: %2"_s.arg(QString::number(xml.lineNumber()), xml.errorString())};
     if (!isKnown)
         return Failure{u"neither a message table nor a translation file"_s};
+    std::stable_sort(report.findings.begin(), report.findings.end(),
+                     [](const Finding &left, const Finding &right) { return left.line < right.line; });
     return report;
 }
 

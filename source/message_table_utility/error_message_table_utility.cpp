@@ -1,5 +1,6 @@
 #include "message_table_utility/error_message_table_utility.h"
 
+#include "message_table_utility/adoption.h"
 #include "message_table_utility/message_rows.h"
 #include "message_table_utility/message_table_file.h"
 #include "message_table_utility/project_scan.h"
@@ -223,6 +224,13 @@ void MessageTableUtility::updateTranslation()
     }
     const Window::WaitCursor wait;
     const int added = Translation::addMessageTexts(table, messages());
+    const int adoptable = MessageWindow::adoptableTranslations(table);
+    if (adoptable > 0 &&
+        dialogs().confirm(this, tr("Update translation"),
+                          tr("Untranslated strings with a translation in another context: %L1\n\nTake these "
+                             "translations over? The strings stay unfinished.")
+                              .arg(adoptable)))
+        MessageWindow::adoptTranslations(table);
     if (!table.save(file)) {
         showStatus(tr("Could not save %1").arg(file));
         return;

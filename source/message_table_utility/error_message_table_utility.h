@@ -76,6 +76,7 @@ private:
     int nextRow(const std::function<bool(int naturalRow)> &test);
 
     void markAsReviewed();
+    void adoptTexts();
     void showNextNew();
     void findNext();
     void replaceInCurrent();

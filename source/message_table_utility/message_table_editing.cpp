@@ -1,5 +1,7 @@
 // How the window on a message table edits messages.
 
+#include "message_table_utility/adoption.h"
+#include "message_table_utility/adoption_dialog.h"
 #include "message_table_utility/error_message_table_utility.h"
 #include "message_table_utility/find_dialog.h"
 #include "message_table_utility/message_panel.h"
@@ -66,6 +68,8 @@ void MessageTableUtility::makeEditMenu()
                   [this] { m_panel->beginEditing(); });
     addEditAction(u"actionReviewed"_s, tr("Mark as Reviewed"), QKeySequence(u"Ctrl+Return"_s),
                   [this] { markAsReviewed(); });
+    addEditAction(u"actionAdopt"_s, tr("Adopt Texts From..."), QKeySequence(u"Ctrl+Shift+A"_s),
+                  [this] { adoptTexts(); });
     addEditAction(u"actionNextNew"_s, tr("Next New Message"), QKeySequence(u"Ctrl+Down"_s),
                   [this] { showNextNew(); });
 }
@@ -235,6 +239,23 @@ void MessageTableUtility::markAsReviewed()
 {
     m_store.change(tr("Mark as Reviewed"),
                    MessageWindow::stateChanges(messages(), selectedKeys(), Clt::MessageState::InSync));
+}
+
+void MessageTableUtility::adoptTexts()
+{
+    const Keys keys = selectedKeys();
+    if (keys.size() != 1 || messages().message(keys.front()).state() != Clt::MessageState::New)
+        return showStatus(tr("Select a new message"));
+    const Clt::MessageKey key = keys.front();
+    const Keys candidates = MessageWindow::adoptionCandidates(messages(), key);
+    if (candidates.empty())
+        return showStatus(tr("No obsolete message has the same tag or a similar text"));
+    auto *dialog = new MessageWindow::AdoptionDialog(messages(), candidates, this);
+    connect(dialog, &MessageWindow::AdoptionDialog::chosen, this,
+            [this, key](const Clt::MessageKey &adopted) {
+                m_store.change(tr("Adopt Texts From..."), MessageWindow::adoption(messages(), key, adopted));
+            });
+    dialog->open();
 }
 
 void MessageTableUtility::showNextNew()

@@ -68,6 +68,21 @@ private slots:
         QCOMPARE(report->entries, 4);
     }
 
+    void whatIsLostOnSavingIsReportedWithItsLine()
+    {
+        const Result<FileReport> report =
+            check("<messageTable>\n<!-- a -->\n" +
+                  message("Warning", "A", "<text>t</text>\n<title>x</title>\n<hint/>") +
+                  "<other/>\n</messageTable>");
+        QVERIFY(report);
+        QStringList lines;
+        for (const TableCheck::Finding &finding : report->findings) {
+            QCOMPARE(finding.rule, Rule::Unsaved);
+            lines.append(QString::number(finding.line) + u' ' + finding.text.section(u' ', 0, 0));
+        }
+        QCOMPARE(lines, (QStringList{u"2 <!--"_s, u"4 <title>"_s, u"5 <hint>"_s}));
+    }
+
     void messageWithSeveralFindingsOfARuleIsCountedOnce()
     {
         const Result<FileReport> report =

@@ -1,0 +1,227 @@
+#include "message_table_utility/adoption.h"
+#include "support/test_class.h"
+#include "translation/error_translation_table.h"
+#include "utility_fixture.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+using namespace MessageWindow;
+
+namespace {
+
+Clt::Message messageWith(const char *context, const char *tag, const QString &text,
+                         Clt::MessageState state = Clt::MessageState::Obsolete)
+{
+    Clt::Message message = messageOf("client", context, tag, state);
+    message.setText(text);
+    return message;
+}
+
+/// A renamed function: a new message, and what it may be.
+Clt::MessageTable renamedTable()
+{
+    Clt::MessageTable table;
+    table.insert(messageWith("Solver::begin", "MeshIsLarge", QString(), Clt::MessageState::New));
+    Clt::Message old = messageWith("Solver::start", "MeshIsLarge", u"The mesh has %1 cells."_s);
+    old.setSeverity(Clt::Severity::Critical);
+    old.setTitle(u"Large mesh"_s);
+    old.setAction(u"Make the elements larger."_s);
+    old.setSolution(7);
+    table.insert(old);
+    table.insert(messageWith("Mesh::check", "MeshIsTooLarge", u"Too many cells"_s));
+    table.insert(messageWith("Session::open", "NoServer", u"No server"_s));
+    table.insert(messageWith("Solver::stop", "MeshIsLarge", u"Kept"_s, Clt::MessageState::InSync));
+    return table;
+}
+
+Clt::MessageKey keyOf(const char *context, const char *tag)
+{
+    return messageOf("client", context, tag).key();
+}
+
+/// The messages of the table's contexts as "CONTEXT|SOURCE|TRANSLATION|TYPE".
+QStringList shown(const Translation::TranslationTable &table)
+{
+    QStringList lines;
+    for (const auto &[name, context] : table.contexts()) {
+        for (const Translation::TranslationMessage &message : context.messages())
+            lines.append(QStringList{name, message.source, message.translation, message.type}.join(u'|'));
+    }
+    return lines;
+}
+
+Translation::TranslationTable translatedTable()
+{
+    Translation::TranslationTable table;
+    Translation::TranslationContext old(u"Solver::start"_s);
+    old.append({u"Large mesh"_s, u"Gro\u00dfes Netz"_s, QString(), u"title"_s});
+    old.append({u"Open"_s, u"Offen"_s, u"unfinished"_s, QString()});
+    table.setContext(old);
+    table.addString(u"Solver::begin"_s, u"Large mesh"_s);
+    table.addString(u"Solver::begin"_s, u"Open"_s);
+    return table;
+}
+
+} // namespace
+
+class tst_adoption : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void similarStringsAreRecognised_data()
+    {
+        QTest::addColumn<QString>("one");
+        QTest::addColumn<QString>("other");
+        QTest::addColumn<bool>("areSimilar");
+        QTest::newRow("equal except for the case") << u"MeshIsLarge"_s << u"MESHISLARGE"_s << true;
+        QTest::newRow("a word added") << u"MeshIsLarge"_s << u"MeshIsTooLarge"_s << true;
+        QTest::newRow("nothing in common") << u"MeshIsLarge"_s << u"NoServer"_s << false;
+        QTest::newRow("both empty") << QString() << QString() << false;
+        QTest::newRow("the same letter") << u"a"_s << u"A"_s << true;
+    }
+
+    void similarStringsAreRecognised()
+    {
+        QFETCH(const QString, one);
+        QFETCH(const QString, other);
+        QTEST(similarity(one, other) > 0.5, "areSimilar");
+        QCOMPARE(similarity(one, other), similarity(other, one));
+    }
+
+    void sameTagComesBeforeSimilarTags()
+    {
+        const Keys candidates = adoptionCandidates(renamedTable(), keyOf("Solver::begin", "MeshIsLarge"));
+        QCOMPARE(candidates,
+                 (Keys{keyOf("Solver::start", "MeshIsLarge"), keyOf("Mesh::check", "MeshIsTooLarge")}));
+    }
+
+    void similarTextIsACandidate()
+    {
+        Clt::MessageTable table = renamedTable();
+        table.insert(messageWith("Net::open", "HostGone", u"No server!"_s, Clt::MessageState::New));
+        QCOMPARE(adoptionCandidates(table, keyOf("Net::open", "HostGone")),
+                 (Keys{keyOf("Session::open", "NoServer")}));
+    }
+
+    void adoptionTakesEverythingButTheKey()
+    {
+        Clt::MessageTable table = renamedTable();
+        const MessageChanges changes =
+            adoption(table, keyOf("Solver::begin", "MeshIsLarge"), keyOf("Solver::start", "MeshIsLarge"));
+        QCOMPARE(changes.size(), std::size_t(2));
+        const Clt::Message &after = *changes.front().after;
+        QCOMPARE(after.key().context, u"Solver::begin"_s);
+        QCOMPARE(after.severity(), Clt::Severity::Critical);
+        QCOMPARE(after.state(), Clt::MessageState::InSync);
+        QCOMPARE(after.sourceTitle(), u"Large mesh"_s);
+        QCOMPARE(after.sourceText(), u"The mesh has %1 cells."_s);
+        QCOMPARE(after.sourceAction(), u"Make the elements larger."_s);
+        QCOMPARE(after.solution(), 7);
+        QVERIFY(!changes.back().after);
+        QCOMPARE(changes.back().before->key().context, u"Solver::start"_s);
+    }
+
+    void adoptedTranslationsStayUnfinished()
+    {
+        Translation::TranslationTable table = translatedTable();
+        QCOMPARE(adoptableTranslations(table), 1);
+        adoptTranslations(table);
+        QCOMPARE(shown(table), (QStringList{u"Solver::begin|Large mesh|Gro\u00dfes Netz|unfinished"_s,
+                                            u"Solver::begin|Open|Open|unfinished"_s,
+                                            u"Solver::start|Large mesh|Gro\u00dfes Netz|"_s,
+                                            u"Solver::start|Open|Offen|unfinished"_s}));
+        QCOMPARE(table.contexts().at(u"Solver::start"_s).messages().front().comment, u"title"_s);
+        QCOMPARE(adoptableTranslations(table), 0);
+    }
+
+    void chosenMessageIsAdoptedAndCanBeUndone()
+    {
+        UtilityFixture f;
+        QVERIFY(renamedTable().save(f.otherFile));
+        QVERIFY(f.window.openFile(f.otherFile));
+        f.window.show();
+        const QStringList before = f.shownRows();
+        f.filter()->setText(u"new"_s);
+        f.view()->selectRow(0);
+        f.action("actionAdopt")->trigger();
+        auto *list = f.child<QListWidget>("candidateList");
+        QVERIFY(list);
+        QCOMPARE(list->count(), 2);
+        QCOMPARE(list->item(0)->text(), u"(client, Solver::start, MeshIsLarge)"_s);
+        QCOMPARE(list->window()->findChild<QLabel *>(u"previewTitle"_s)->text(), u"Large mesh"_s);
+        f.child<QDialogButtonBox>("adoptionButtons")->button(QDialogButtonBox::Ok)->click();
+        f.filter()->clear();
+        QVERIFY(f.shownRows().contains(u"client|Solver::begin|MeshIsLarge|InSync"_s));
+        QCOMPARE(f.rowCount(), before.size() - 1);
+        f.action("actionUndo")->trigger();
+        QCOMPARE(f.shownRows(), before);
+    }
+
+    void cancelledAdoptionChangesNothing()
+    {
+        UtilityFixture f;
+        QVERIFY(renamedTable().save(f.otherFile));
+        QVERIFY(f.window.openFile(f.otherFile));
+        f.window.show();
+        f.filter()->setText(u"new"_s);
+        f.view()->selectRow(0);
+        f.action("actionAdopt")->trigger();
+        f.child<QDialogButtonBox>("adoptionButtons")->button(QDialogButtonBox::Cancel)->click();
+        QVERIFY(!f.window.hasUnsavedChanges());
+    }
+
+    void onlyANewMessageWithACandidateAdopts()
+    {
+        UtilityFixture f;
+        QVERIFY(f.window.openFile(f.tableFile));
+        f.action("actionAdopt")->trigger();
+        QCOMPARE(f.status(), u"Select a new message"_s);
+        f.view()->selectRow(2);
+        f.action("actionAdopt")->trigger();
+        QCOMPARE(f.status(), u"Select a new message"_s);
+        f.view()->selectRow(1);
+        f.action("actionAdopt")->trigger();
+        QCOMPARE(f.status(), u"No obsolete message has the same tag or a similar text"_s);
+    }
+
+    void updateOffersTranslationsOfOtherContexts_data()
+    {
+        QTest::addColumn<bool>("isConfirmed");
+        QTest::newRow("taken over") << true;
+        QTest::newRow("declined") << false;
+    }
+
+    void updateOffersTranslationsOfOtherContexts()
+    {
+        QFETCH(const bool, isConfirmed);
+        UtilityFixture f;
+        Translation::TranslationTable table;
+        Translation::TranslationContext old(u"Old::run"_s);
+        old.append({u"Text"_s, u"Wortlaut"_s, QString(), QString()});
+        table.setContext(old);
+        QVERIFY(table.save(f.translationFile));
+        Clt::MessageTable messages;
+        messages.insert(messageWith("New::run", "T", u"Text"_s, Clt::MessageState::InSync));
+        QVERIFY(messages.save(f.otherFile));
+        QVERIFY(f.window.openFile(f.otherFile));
+        f.dialogs.fileToChoose = f.translationFile;
+        f.dialogs.isConfirmed = isConfirmed;
+        f.window.updateTranslation();
+        QCOMPARE(f.dialogs.confirmations.size(), 1);
+        QVERIFY(f.dialogs.confirmations.first().text.contains(u": 1\n"_s));
+        Translation::TranslationTable updated;
+        QVERIFY(updated.load(f.translationFile));
+        QCOMPARE(shown(updated).first(),
+                 isConfirmed ? u"New::run|Text|Wortlaut|unfinished"_s : u"New::run|Text|Text|unfinished"_s);
+    }
+};
+
+NVX_TEST(tst_adoption)
+#include "tst_adoption.moc"
