@@ -24,6 +24,18 @@ if(NOT WIN32)
         target_link_options(nvx_options INTERFACE -fuse-ld=lld)
     endif()
 endif()
+if(NOT NVX_SANITIZE AND NOT NVX_COVERAGE)
+    # Defences against faults in the programs, which are tested in what is shipped.
+    target_compile_options(nvx_options INTERFACE -fstack-protector-strong -D_FORTIFY_SOURCE=2)
+    if(WIN32)
+        target_link_options(nvx_options INTERFACE LINKER:--dynamicbase,--nxcompat,--high-entropy-va)
+        # The compiler's library with the checks, linked in so that no file of it has to be shipped.
+        target_link_libraries(nvx_options INTERFACE -l:libssp.a)
+    else()
+        target_link_options(nvx_options INTERFACE
+            LINKER:-z,relro,-z,now $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
+    endif()
+endif()
 if(NVX_SANITIZE)
     target_compile_options(nvx_options INTERFACE
         -fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -53,7 +65,7 @@ endfunction()
 # The options of test programs. They are compiled more often than they run, so they are not optimised and have
 # only line numbers as debug information.
 add_library(nvx_test_options INTERFACE)
-target_compile_options(nvx_test_options INTERFACE -O0)
+target_compile_options(nvx_test_options INTERFACE -O0 -U_FORTIFY_SOURCE) # which needs an optimised program
 if(CMAKE_BUILD_TYPE MATCHES "Deb")
     target_compile_options(nvx_test_options INTERFACE -g1)
 endif()

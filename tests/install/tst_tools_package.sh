@@ -25,6 +25,10 @@ programs=$(cd "$installed/bin" && find . -maxdepth 1 -type f -perm -u+x | sort |
 [ -z "$(find "$installed" -name 'nvxconfig.qm')" ] || fail "translations of a program that is not in the package"
 for program in $programs; do
     if readelf -S "$installed/bin/$program" | grep -qF .debug_info; then fail "$program is not stripped"; fi
+    headers=$(readelf -hldW --dyn-syms "$installed/bin/$program")
+    for defence in 'Type: +DYN' GNU_RELRO BIND_NOW __stack_chk_fail; do
+        grep -qE "$defence" <<<"$headers" || fail "$program lacks $defence"
+    done
     loaded=$(ldd "$installed/bin/$program")
     if grep -F 'not found' <<<"$loaded"; then fail "libraries are missing"; fi
     if grep -E 'libQt6|libicu' <<<"$loaded" | grep -vF "$installed/"; then

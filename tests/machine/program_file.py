@@ -5,6 +5,9 @@ from pathlib import Path
 
 ICON, GROUP_ICON, VERSION, MANIFEST = 3, 14, 16, 24
 
+# The defences in the file's header: random addresses, also above 4 GB; no execution of data.
+HIGH_ENTROPY, DYNAMIC_BASE, NO_EXECUTION = 0x20, 0x40, 0x100
+
 # The subsystems in the file's header.
 WINDOWED, CONSOLE = 2, 3
 
@@ -21,6 +24,11 @@ class ProgramFile:
         self._sections = [
             struct.unpack_from("<IIII", self.bytes, first_section + 40 * i + 8) for i in range(section_count)
         ]
+
+    @property
+    def defences(self) -> int:
+        """The defences of Windows that the file allows, as flags."""
+        return self._number("<H", self._optional + 70)
 
     @property
     def kind(self) -> int:

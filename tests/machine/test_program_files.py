@@ -4,7 +4,17 @@ import unittest
 import xml.etree.ElementTree as ElementTree
 
 from machine_case import BUILD
-from program_file import CONSOLE, GROUP_ICON, ICON, MANIFEST, WINDOWED, ProgramFile
+from program_file import (
+    CONSOLE,
+    DYNAMIC_BASE,
+    GROUP_ICON,
+    HIGH_ENTROPY,
+    ICON,
+    MANIFEST,
+    NO_EXECUTION,
+    WINDOWED,
+    ProgramFile,
+)
 
 # Programs without a window.
 CONSOLE_PROGRAMS = {"MessageTableCheck.exe", "UpdateErrorTable.exe"}
@@ -35,6 +45,19 @@ class ProgramFiles(unittest.TestCase):
 
     def setting(self, program, name):
         return [item.text for item in self.manifest(program).iter() if item.tag.endswith("}" + name)]
+
+    def test_all_programs_and_libraries_allow_the_defences_of_windows(self):
+        wanted = HIGH_ENTROPY | DYNAMIC_BASE | NO_EXECUTION
+        files = [path for path in (BUILD / "installed").rglob("*") if path.suffix in (".exe", ".dll")]
+        self.assertIn("Qt6Core.dll", [path.name for path in files])
+        for path in [*files, BUILD / "installer" / "NVXSetupTask.exe"]:
+            with self.subTest(file=path.name):
+                self.assertEqual(ProgramFile(path).defences & wanted, wanted)
+
+    @each_program
+    def test_the_stack_is_protected(self, name, program):
+        # The text of the compiler's library, which is linked only into a program that calls it.
+        self.assertIn(b"stack smashing detected", program.bytes)
 
     @each_program
     def test_the_version_block_is_complete(self, name, program):
