@@ -1,18 +1,17 @@
 #include "clt_plain_xml_source.h"
 
+#include "clt_plain_xml_text.h"
 #include "clt_xml_text.h"
 
 #include <QIODevice>
-#include <QStringDecoder>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstring>
-
-using namespace Qt::Literals::StringLiterals;
+#include <utility>
 
 namespace Clt {
+
+using namespace PlainXml;
 
 namespace {
 
@@ -25,53 +24,6 @@ constexpr qint64 chunk = qint64{256} * 1024;
 constexpr std::string_view schemaNameSpace = "xmlns:xsi";
 constexpr std::string_view schemaLocation = "xsi:schemaLocation";
 
-/// What a byte means within a text.
-enum class Kind : unsigned char
-{
-    Plain, ///< itself
-    Markup,
-    Special, ///< a reference, a carriage return, the end of a CDATA section or a byte of a longer character
-    Forbidden
-};
-
-constexpr std::array<Kind, 256> kindsOfBytes()
-{
-    std::array<Kind, 256> kinds{};
-    for (std::size_t byte = 0; byte < ' '; ++byte)
-        kinds[byte] = Kind::Forbidden;
-    for (const char byte : {'\t', '\n'})
-        kinds[static_cast<unsigned char>(byte)] = Kind::Plain;
-    for (const char byte : {'&', '\r', '>'})
-        kinds[static_cast<unsigned char>(byte)] = Kind::Special;
-    kinds['<'] = Kind::Markup;
-    for (std::size_t byte = 0x80; byte < kinds.size(); ++byte)
-        kinds[byte] = Kind::Special;
-    return kinds;
-}
-
-constexpr std::array<Kind, 256> kinds = kindsOfBytes();
-
-Kind kindOf(char byte)
-{
-    return kinds[static_cast<unsigned char>(byte)];
-}
-
-// Without the carriage return, which a device in text mode leaves out, even within a tag.
-bool isSpace(char byte)
-{
-    return byte == ' ' || byte == '\n' || byte == '\t';
-}
-
-bool isNameBegin(char byte)
-{
-    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || byte == '_';
-}
-
-bool isNameByte(char byte)
-{
-    return isNameBegin(byte) || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.';
-}
-
 bool isAttributePlain(char byte)
 {
     return byte != '\n' && byte != '\t' && kindOf(byte) == Kind::Plain;
@@ -82,124 +34,9 @@ bool isNameSpace(std::string_view attribute)
     return attribute == "xmlns" || attribute == schemaNameSpace;
 }
 
-const char *skipName(const char *at, const char *end)
-{
-    if (at == end || !isNameBegin(*at))
-        return at;
-    while (at != end && isNameByte(*at))
-        ++at;
-    return at;
-}
-
-const char *skipSpace(const char *at, const char *end)
-{
-    while (at != end && isSpace(*at))
-        ++at;
-    return at;
-}
-
 std::string_view viewOf(const char *begin, const char *end)
 {
     return {begin, static_cast<std::size_t>(end - begin)};
-}
-
-QString latin1(std::string_view text)
-{
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// The number of the character that a reference such as "#13" or "#xd" names; 0 if it names none.
-char32_t numberedCharacter(std::string_view reference)
-{
-    reference.remove_prefix(1);
-    const bool isHexadecimal = reference.starts_with('x');
-    if (isHexadecimal)
-        reference.remove_prefix(1);
-    const char *end = reference.data() + reference.size();
-    std::uint32_t number = 0;
-    const auto [last, error] = std::from_chars(reference.data(), end, number, isHexadecimal ? 16 : 10);
-    const bool isNumber = error == std::errc() && last == end;
-    const bool isCharacter = number <= QChar::LastValidCodePoint && !QChar::isSurrogate(number);
-    return isNumber && isCharacter ? char32_t{number} : U'\0';
-}
-
-/// The character of a reference; 0 if it is not one of those that every document has.
-char32_t referencedCharacter(std::string_view reference)
-{
-    struct Entity
-    {
-        std::string_view name;
-        char32_t character;
-    };
-    static constexpr std::array<Entity, 5> entities{
-        {{"amp", U'&'}, {"lt", U'<'}, {"gt", U'>'}, {"quot", U'"'}, {"apos", U'\''}}};
-    if (reference.starts_with('#'))
-        return numberedCharacter(reference);
-    const auto found = std::ranges::find(entities, reference, &Entity::name);
-    return found == entities.end() ? U'\0' : found->character;
-}
-
-void appendUtf8(QByteArray &bytes, char32_t character)
-{
-    bytes += QString::fromUcs4(&character, 1).toUtf8();
-}
-
-/// The bytes with their references replaced and the carriage returns of their line ends left out; nullopt if
-/// there is a reference or carriage return of another kind.
-std::optional<QByteArray> withoutReferences(std::string_view text)
-{
-    QByteArray bytes;
-    bytes.reserve(static_cast<qsizetype>(text.size()));
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text[at] == '\r') {
-            if (at + 1 == text.size() || text[at + 1] != '\n')
-                return std::nullopt;
-        } else if (text[at] == '&') {
-            const std::size_t end = text.find(';', at);
-            if (end == std::string_view::npos)
-                return std::nullopt;
-            const char32_t character = referencedCharacter(text.substr(at + 1, end - at - 1));
-            if (character == U'\0')
-                return std::nullopt;
-            appendUtf8(bytes, character);
-            at = end;
-        } else {
-            bytes += text[at];
-        }
-    }
-    return bytes;
-}
-
-/// True for marks that git writes into a file that it could not merge, and for others; the other source looks
-/// more closely.
-bool hasConflictMark(std::string_view text)
-{
-    return text.find("<<<<<<<") != std::string_view::npos || text.find(">>>>>>>") != std::string_view::npos;
-}
-
-/// The characters of a text with bytes that are not plain; nullopt if it is not well formed or has a carriage
-/// return that does not end a line.
-std::optional<QString> decoded(std::string_view text)
-{
-    if (text.find("]]>") != std::string_view::npos || hasConflictMark(text))
-        return std::nullopt;
-    const std::optional<QByteArray> bytes = withoutReferences(text);
-    if (!bytes)
-        return std::nullopt;
-    using Flag = QStringDecoder::Flag;
-    QStringDecoder decoder(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
-    QString characters = decoder.decode(*bytes);
-    if (decoder.hasError() || !isXmlText(characters))
-        return std::nullopt;
-    return characters;
-}
-
-bool isCommentText(std::string_view text)
-{
-    const auto isOdd = [](char byte) {
-        return byte == '\r' || (byte & 0x80) != 0 || kindOf(byte) == Kind::Forbidden;
-    };
-    return std::ranges::none_of(text, isOdd) && !hasConflictMark(text);
 }
 
 } // namespace

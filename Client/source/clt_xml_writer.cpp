@@ -70,7 +70,7 @@ void XmlWriter::writeLine(std::string_view line)
 
 void XmlWriter::startElement(std::string_view name)
 {
-    appendStart(name);
+    appendStartTag(name);
     m_open.push_back(name);
     m_isInStartTag = true;
 }
@@ -89,25 +89,25 @@ void XmlWriter::endElement()
         return;
     }
     appendLineBreak();
-    appendEnd(name);
+    appendEndTag(name);
 }
 
 void XmlWriter::textElement(std::string_view name, QStringView text)
 {
-    appendStart(name);
+    appendStartTag(name);
     append(">");
     appendText(text, Place::Text);
-    appendEnd(name);
+    appendEndTag(name);
 }
 
 void XmlWriter::textElement(std::string_view name, std::string_view attributeName, QStringView value,
                             QStringView text)
 {
-    appendStart(name);
+    appendStartTag(name);
     appendAttribute(attributeName, value);
     append(">");
     appendText(text, Place::Text);
-    appendEnd(name);
+    appendEndTag(name);
 }
 
 QByteArray XmlWriter::takeDocument()
@@ -142,7 +142,7 @@ void XmlWriter::appendLineBreak()
         append(indentation);
 }
 
-void XmlWriter::appendStart(std::string_view name)
+void XmlWriter::appendStartTag(std::string_view name)
 {
     if (std::exchange(m_isInStartTag, false))
         append(">");
@@ -151,7 +151,7 @@ void XmlWriter::appendStart(std::string_view name)
     append(name);
 }
 
-void XmlWriter::appendEnd(std::string_view name)
+void XmlWriter::appendEndTag(std::string_view name)
 {
     append("</");
     append(name);

@@ -59,8 +59,8 @@ private:
     void append(std::string_view bytes);
     void appendBytes(std::initializer_list<char> bytes);
     void appendLineBreak();
-    void appendStart(std::string_view name);
-    void appendEnd(std::string_view name);
+    void appendStartTag(std::string_view name);
+    void appendEndTag(std::string_view name);
     void appendAttribute(std::string_view name, QStringView value);
     void appendText(QStringView text, Place place);
     qsizetype appendSpecial(QStringView text, qsizetype at, Place place);
