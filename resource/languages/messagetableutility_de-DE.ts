@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>Findings</name>
+    <message>
+        <source>no longer found in the sources</source>
+        <translation>im Quellcode nicht mehr vorhanden</translation>
+    </message>
+    <message>
+        <source>not reviewed yet</source>
+        <translation>noch nicht geprüft</translation>
+    </message>
+    <message>
+        <source>Findings: %L1</source>
+        <translation>Befunde: %L1</translation>
+    </message>
+    <message>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <translation>%1: %L2 fertig, %L3 unfertig, %L4 veraltet, %L5 mit anderen Platzhaltern, %L6 mit anderen Zugriffstasten, %L7 mit anderen Leerzeichen</translation>
+    </message>
+    <message>
+        <source>no longer used</source>
+        <translation>wird nicht mehr verwendet</translation>
+    </message>
+    <message>
+        <source>not translated yet</source>
+        <translation>noch nicht übersetzt</translation>
+    </message>
+</context>
+<context>
     <name>MessageRemarks</name>
     <message>
         <source>missing</source>
@@ -321,6 +348,14 @@ Diese Übersetzungen übernehmen? Die Texte bleiben unfertig.</translation>
         <source>No obsolete message has the same tag or a similar text</source>
         <translation>Keine veraltete Meldung hat dieselbe Kennung oder einen ähnlichen Text</translation>
     </message>
+    <message>
+        <source>Check Messages</source>
+        <translation>Meldungen prüfen</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::AdoptionDialog</name>
@@ -366,6 +401,17 @@ Diese Übersetzungen übernehmen? Die Texte bleiben unfertig.</translation>
     <message>
         <source>Replace All</source>
         <translation>Alle ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... und %1 weitere</translation>
     </message>
 </context>
 <context>

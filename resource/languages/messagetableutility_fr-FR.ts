@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
+    <name>Findings</name>
+    <message>
+        <source>no longer found in the sources</source>
+        <translation>ne figure plus dans le code source</translation>
+    </message>
+    <message>
+        <source>not reviewed yet</source>
+        <translation>pas encore vérifié</translation>
+    </message>
+    <message>
+        <source>Findings: %L1</source>
+        <translation>Constats&#xa0;: %L1</translation>
+    </message>
+    <message>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <translation>%1&#xa0;: %L2 terminés, %L3 inachevés, %L4 obsolètes, %L5 avec d&apos;autres paramètres, %L6 avec d&apos;autres touches d&apos;accès, %L7 avec d&apos;autres espaces</translation>
+    </message>
+    <message>
+        <source>no longer used</source>
+        <translation>n&apos;est plus utilisé</translation>
+    </message>
+    <message>
+        <source>not translated yet</source>
+        <translation>pas encore traduit</translation>
+    </message>
+</context>
+<context>
     <name>MessageRemarks</name>
     <message>
         <source>missing</source>
@@ -321,6 +348,14 @@ Reprendre ces traductions&#xa0;? Les textes restent inachevés.</translation>
         <source>No obsolete message has the same tag or a similar text</source>
         <translation>Aucun message obsolète n&apos;a la même étiquette ni un texte semblable</translation>
     </message>
+    <message>
+        <source>Check Messages</source>
+        <translation>Vérifier les messages</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Constats</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::AdoptionDialog</name>
@@ -366,6 +401,17 @@ Reprendre ces traductions&#xa0;? Les textes restent inachevés.</translation>
     <message>
         <source>Replace All</source>
         <translation>Remplacer tout</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>Constats</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... et %1 autres</translation>
     </message>
 </context>
 <context>

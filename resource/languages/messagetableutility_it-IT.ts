@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
+    <name>Findings</name>
+    <message>
+        <source>no longer found in the sources</source>
+        <translation>non più presente nei sorgenti</translation>
+    </message>
+    <message>
+        <source>not reviewed yet</source>
+        <translation>non ancora verificato</translation>
+    </message>
+    <message>
+        <source>Findings: %L1</source>
+        <translation>Risultati: %L1</translation>
+    </message>
+    <message>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <translation>%1: %L2 completi, %L3 incompleti, %L4 obsoleti, %L5 con altri segnaposto, %L6 con altri tasti di scelta, %L7 con altri spazi</translation>
+    </message>
+    <message>
+        <source>no longer used</source>
+        <translation>non più usato</translation>
+    </message>
+    <message>
+        <source>not translated yet</source>
+        <translation>non ancora tradotto</translation>
+    </message>
+</context>
+<context>
     <name>MessageRemarks</name>
     <message>
         <source>missing</source>
@@ -321,6 +348,14 @@ Riprendere queste traduzioni? I testi restano incompleti.</translation>
         <source>No obsolete message has the same tag or a similar text</source>
         <translation>Nessun messaggio obsoleto ha lo stesso tag o un testo simile</translation>
     </message>
+    <message>
+        <source>Check Messages</source>
+        <translation>Controlla messaggi</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Risultati</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::AdoptionDialog</name>
@@ -366,6 +401,17 @@ Riprendere queste traduzioni? I testi restano incompleti.</translation>
     <message>
         <source>Replace All</source>
         <translation>Sostituisci tutto</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>Risultati</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... e altri %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>Findings</name>
+    <message>
+        <source>no longer found in the sources</source>
+        <translation>ソース コードに存在しなくなりました</translation>
+    </message>
+    <message>
+        <source>not reviewed yet</source>
+        <translation>まだ確認されていません</translation>
+    </message>
+    <message>
+        <source>Findings: %L1</source>
+        <translation>検査結果: %L1</translation>
+    </message>
+    <message>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <translation>%1: 完了 %L2、未完了 %L3、廃止 %L4、引数の違い %L5、アクセス キーの違い %L6、空白の違い %L7</translation>
+    </message>
+    <message>
+        <source>no longer used</source>
+        <translation>使われなくなりました</translation>
+    </message>
+    <message>
+        <source>not translated yet</source>
+        <translation>まだ翻訳されていません</translation>
+    </message>
+</context>
+<context>
     <name>MessageRemarks</name>
     <message>
         <source>missing</source>
@@ -321,6 +348,14 @@ Take these translations over? The strings stay unfinished.</source>
         <source>No obsolete message has the same tag or a similar text</source>
         <translation>同じタグまたは似たテキストの廃止されたメッセージはありません</translation>
     </message>
+    <message>
+        <source>Check Messages</source>
+        <translation>メッセージの検査</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>検査結果</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::AdoptionDialog</name>
@@ -366,6 +401,17 @@ Take these translations over? The strings stay unfinished.</source>
     <message>
         <source>Replace All</source>
         <translation>すべて置換</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>検査結果</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 他 %1 件</translation>
     </message>
 </context>
 <context>

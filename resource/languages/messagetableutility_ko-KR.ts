@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>Findings</name>
+    <message>
+        <source>no longer found in the sources</source>
+        <translation>소스 코드에 더 이상 없음</translation>
+    </message>
+    <message>
+        <source>not reviewed yet</source>
+        <translation>아직 검토되지 않음</translation>
+    </message>
+    <message>
+        <source>Findings: %L1</source>
+        <translation>검사 결과: %L1</translation>
+    </message>
+    <message>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <translation>%1: 완료 %L2, 미완료 %L3, 사용되지 않음 %L4, 다른 인수 %L5, 다른 선택키 %L6, 다른 공백 %L7</translation>
+    </message>
+    <message>
+        <source>no longer used</source>
+        <translation>더 이상 쓰이지 않음</translation>
+    </message>
+    <message>
+        <source>not translated yet</source>
+        <translation>아직 번역되지 않음</translation>
+    </message>
+</context>
+<context>
     <name>MessageRemarks</name>
     <message>
         <source>missing</source>
@@ -321,6 +348,14 @@ Take these translations over? The strings stay unfinished.</source>
         <source>No obsolete message has the same tag or a similar text</source>
         <translation>태그가 같거나 텍스트가 비슷한 사용되지 않음 상태의 메시지가 없습니다</translation>
     </message>
+    <message>
+        <source>Check Messages</source>
+        <translation>메시지 검사</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>검사 결과</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::AdoptionDialog</name>
@@ -366,6 +401,17 @@ Take these translations over? The strings stay unfinished.</source>
     <message>
         <source>Replace All</source>
         <translation>모두 바꾸기</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>검사 결과</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 외 %1개</translation>
     </message>
 </context>
 <context>

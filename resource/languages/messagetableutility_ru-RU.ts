@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>Findings</name>
+    <message>
+        <source>no longer found in the sources</source>
+        <translation>больше не найдено в исходном коде</translation>
+    </message>
+    <message>
+        <source>not reviewed yet</source>
+        <translation>ещё не проверено</translation>
+    </message>
+    <message>
+        <source>Findings: %L1</source>
+        <translation>Замечаний: %L1</translation>
+    </message>
+    <message>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <translation>%1: завершено %L2, не завершено %L3, устаревших %L4, с другими параметрами %L5, с другими клавишами доступа %L6, с другими пробелами %L7</translation>
+    </message>
+    <message>
+        <source>no longer used</source>
+        <translation>больше не используется</translation>
+    </message>
+    <message>
+        <source>not translated yet</source>
+        <translation>ещё не переведено</translation>
+    </message>
+</context>
+<context>
     <name>MessageRemarks</name>
     <message>
         <source>missing</source>
@@ -321,6 +348,14 @@ Take these translations over? The strings stay unfinished.</source>
         <source>No obsolete message has the same tag or a similar text</source>
         <translation>Нет устаревших сообщений с тем же тегом или похожим текстом</translation>
     </message>
+    <message>
+        <source>Check Messages</source>
+        <translation>Проверить сообщения</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Результаты проверки</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::AdoptionDialog</name>
@@ -366,6 +401,17 @@ Take these translations over? The strings stay unfinished.</source>
     <message>
         <source>Replace All</source>
         <translation>Заменить все</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>Результаты проверки</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... и еще %1</translation>
     </message>
 </context>
 <context>

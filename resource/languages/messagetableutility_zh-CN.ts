@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>Findings</name>
+    <message>
+        <source>no longer found in the sources</source>
+        <translation>源代码中已不存在</translation>
+    </message>
+    <message>
+        <source>not reviewed yet</source>
+        <translation>尚未审阅</translation>
+    </message>
+    <message>
+        <source>Findings: %L1</source>
+        <translation>检查结果：%L1</translation>
+    </message>
+    <message>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <translation>%1：已完成 %L2，未完成 %L3，已过时 %L4，参数不同 %L5，访问键不同 %L6，空格不同 %L7</translation>
+    </message>
+    <message>
+        <source>no longer used</source>
+        <translation>不再使用</translation>
+    </message>
+    <message>
+        <source>not translated yet</source>
+        <translation>尚未翻译</translation>
+    </message>
+</context>
+<context>
     <name>MessageRemarks</name>
     <message>
         <source>missing</source>
@@ -321,6 +348,14 @@ Take these translations over? The strings stay unfinished.</source>
         <source>No obsolete message has the same tag or a similar text</source>
         <translation>没有标记相同或文本相似的已过时消息</translation>
     </message>
+    <message>
+        <source>Check Messages</source>
+        <translation>检查消息</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>检查结果</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::AdoptionDialog</name>
@@ -366,6 +401,17 @@ Take these translations over? The strings stay unfinished.</source>
     <message>
         <source>Replace All</source>
         <translation>全部替换</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 以及另外 %1 个</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en_US">
 <context>
+    <name>Findings</name>
+    <message>
+        <source>no longer found in the sources</source>
+        <translation>原始程式碼中已不存在</translation>
+    </message>
+    <message>
+        <source>not reviewed yet</source>
+        <translation>尚未檢閱</translation>
+    </message>
+    <message>
+        <source>Findings: %L1</source>
+        <translation>檢查結果：%L1</translation>
+    </message>
+    <message>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <translation>%1：已完成 %L2，未完成 %L3，過時 %L4，參數不同 %L5，快速鍵不同 %L6，空格不同 %L7</translation>
+    </message>
+    <message>
+        <source>no longer used</source>
+        <translation>不再使用</translation>
+    </message>
+    <message>
+        <source>not translated yet</source>
+        <translation>尚未翻譯</translation>
+    </message>
+</context>
+<context>
     <name>MessageRemarks</name>
     <message>
         <source>missing</source>
@@ -321,6 +348,14 @@ Take these translations over? The strings stay unfinished.</source>
         <source>No obsolete message has the same tag or a similar text</source>
         <translation>沒有標籤相同或文字相似的過時訊息</translation>
     </message>
+    <message>
+        <source>Check Messages</source>
+        <translation>檢查訊息</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>檢查結果</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::AdoptionDialog</name>
@@ -366,6 +401,17 @@ Take these translations over? The strings stay unfinished.</source>
     <message>
         <source>Replace All</source>
         <translation>全部取代</translation>
+    </message>
+</context>
+<context>
+    <name>MessageWindow::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>檢查結果</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... 以及其他 %1 個</translation>
     </message>
 </context>
 <context>

@@ -69,6 +69,7 @@ MessageTableUtility::MessageTableUtility(Window::Dialogs &dialogs, QSettings &se
 
     makeEditMenu();
     makePanel();
+    makeFindings();
     makeFindDialog();
     connectStore();
 
@@ -222,7 +223,6 @@ void MessageTableUtility::updateTranslation()
                        tr("Could not load '%1': %2").arg(file, loaded->error()));
         return;
     }
-    const Window::WaitCursor wait;
     const int added = Translation::addMessageTexts(table, messages());
     const int adoptable = MessageWindow::adoptableTranslations(table);
     if (adoptable > 0 &&
@@ -231,6 +231,7 @@ void MessageTableUtility::updateTranslation()
                              "translations over? The strings stay unfinished.")
                               .arg(adoptable)))
         MessageWindow::adoptTranslations(table);
+    const Window::WaitCursor wait;
     if (!table.save(file)) {
         showStatus(tr("Could not save %1").arg(file));
         return;
@@ -239,4 +240,5 @@ void MessageTableUtility::updateTranslation()
     if (!table.backupFile().isEmpty())
         text += statusGap + Clt::backupText(QFileInfo(table.backupFile()).fileName());
     showStatus(text);
+    showFindings(MessageWindow::translationFindings(table, file, messages()));
 }

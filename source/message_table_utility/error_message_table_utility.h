@@ -1,12 +1,15 @@
 #pragma once
 
 #include "clt_message_table.h"
+#include "message_table_utility/findings.h"
 #include "message_table_utility/message_store.h"
 #include "message_table_utility/project_scan.h"
 #include "window/table_window.h"
 
 #include <functional>
 #include <optional>
+
+class QDockWidget;
 
 namespace MessageWindow {
 class FindDialog;
@@ -60,6 +63,8 @@ private:
                            const std::function<void()> &act);
     void makeEditMenu();
     void makePanel();
+    void makeFindings();
+    void showFindings(const MessageWindow::Findings &findings);
     void makeFindDialog();
     void connectStore();
 
@@ -85,6 +90,8 @@ private:
     MessageWindow::MessageStore m_store;
     MessageWindow::MessagePanel *m_panel = nullptr;
     MessageWindow::FindDialog *m_find = nullptr;
+    MessageWindow::FindingsPanel *m_findings = nullptr;
+    QDockWidget *m_findingsDock = nullptr;
     QMenu *m_editMenu = nullptr;
     QLabel *m_statusLabel = nullptr;
 };

@@ -26,8 +26,9 @@ using MessageWindow::MessagePanel;
 // The widgets, which are deleted after this, must not call the window any more.
 MessageTableUtility::~MessageTableUtility()
 {
-    for (QObject *sender : std::initializer_list<QObject *>{&m_store, &m_store.undoStack(), m_panel, m_find,
-                                                            view().selectionModel(), &view().rowsModel()})
+    for (QObject *sender :
+         std::initializer_list<QObject *>{&m_store, &m_store.undoStack(), m_panel, m_find, m_findings,
+                                          view().selectionModel(), &view().rowsModel()})
         sender->disconnect(this);
 }
 
@@ -70,6 +71,10 @@ void MessageTableUtility::makeEditMenu()
                   [this] { markAsReviewed(); });
     addEditAction(u"actionAdopt"_s, tr("Adopt Texts From..."), QKeySequence(u"Ctrl+Shift+A"_s),
                   [this] { adoptTexts(); });
+    addEditAction(u"actionCheck"_s, tr("Check Messages"), QKeySequence(u"F7"_s), [this] {
+        const Window::WaitCursor wait;
+        showFindings(MessageWindow::tableFindings(messages()));
+    });
     addEditAction(u"actionNextNew"_s, tr("Next New Message"), QKeySequence(u"Ctrl+Down"_s),
                   [this] { showNextNew(); });
 }
@@ -114,6 +119,27 @@ void MessageTableUtility::makePanel()
     connect(view().selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MessageTableUtility::showSelection);
     connect(&view().rowsModel(), &QAbstractItemModel::modelReset, this, &MessageTableUtility::showSelection);
+}
+
+void MessageTableUtility::makeFindings()
+{
+    m_findings = new MessageWindow::FindingsPanel;
+    m_findings->setObjectName(u"findingsPanel"_s);
+    m_findingsDock = new QDockWidget(tr("Findings"), this);
+    m_findingsDock->setObjectName(u"findingsDock"_s);
+    m_findingsDock->setWidget(m_findings);
+    if (!restoreDockWidget(m_findingsDock))
+        addDockWidget(Qt::BottomDockWidgetArea, m_findingsDock);
+    m_findingsDock->hide(); // it is empty
+    connect(m_findings, &MessageWindow::FindingsPanel::chosen, this,
+            [this](const Clt::MessageKey &key) { select(key); });
+}
+
+void MessageTableUtility::showFindings(const MessageWindow::Findings &findings)
+{
+    m_findings->show(findings);
+    m_findingsDock->show();
+    m_findings->begin();
 }
 
 void MessageTableUtility::makeFindDialog()

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "clt_message_key.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+class QLabel;
+class QListWidget;
+
+namespace Clt {
+class MessageTable;
+}
+
+namespace Translation {
+class TranslationTable;
+}
+
+namespace MessageWindow {
+
+/// Something to do about a message or its translation.
+struct Finding
+{
+    std::optional<Clt::MessageKey> key; ///< none if the string belongs to no message of the table
+    QString text;
+};
+
+/// Findings with a line that sums them up.
+struct Findings
+{
+    QString summary;
+    std::vector<Finding> findings;
+};
+
+/// The messages that are new, obsolete, or have remarks (message_checks), in key order.
+Findings tableFindings(const Clt::MessageTable &table);
+
+/// The strings of a translation file that are not finished, or differ from their source in their places,
+/// accelerators or blanks, with the messages that they belong to. The summary names the file.
+Findings translationFindings(const Translation::TranslationTable &translation, const QString &fileName,
+                             const Clt::MessageTable &table);
+
+/// A list of findings. A finding that becomes the current one shows its message.
+class FindingsPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FindingsPanel(QWidget *parent = nullptr);
+
+    void show(const Findings &findings);
+
+    /// Gives the focus to the list.
+    void begin();
+
+signals:
+    void chosen(const Clt::MessageKey &key);
+
+private:
+    QLabel *m_summary;
+    QListWidget *m_list;
+    std::vector<Finding> m_findings;
+};
+
+} // namespace MessageWindow
