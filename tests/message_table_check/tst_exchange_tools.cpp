@@ -1,11 +1,11 @@
 #include "message_table_check/exchange.h"
 #include "support/file_bytes.h"
+#include "support/program_run.h"
 #include "support/random_text.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
 #include "translation/error_translation_table.h"
 
-#include <QProcess>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -81,26 +81,11 @@ private:
     Characters m_characters;
 };
 
-struct Run
-{
-    int exitCode = -1;
-    QByteArray output;
-};
-
-Run run(const char *program, const QStringList &arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QString::fromUtf8(program), arguments);
-    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
-    return {ended ? process.exitCode() : -1, process.readAll()};
-}
-
 /// Converts one file to the other with lconvert; the error, or an empty string.
 QString convert(const QString &from, const QString &to)
 {
-    const Run converted = run(LCONVERT, {u"-i"_s, from, u"-o"_s, to});
-    return converted.exitCode == 0 ? QString() : QString::fromUtf8(converted.output);
+    const ProgramRun converted = runToEnd(QStringLiteral(LCONVERT), {u"-i"_s, from, u"-o"_s, to});
+    return converted.exitCode == 0 ? QString() : converted.output + converted.errors;
 }
 
 } // namespace
@@ -191,12 +176,12 @@ private slots:
         for (quint32 seed = 1; seed <= seeds; ++seed) {
             RandomTables random(seed, RandomTables::Characters::All);
             QVERIFY(random.table().save(ours));
-            QVERIFY(run(LRELEASE, {ours}).exitCode != 0);
+            QVERIFY(runToEnd(QStringLiteral(LRELEASE), {ours}).exitCode != 0);
             QVERIFY(TableCheck::convertForQt6(ours, converted));
-            const Run released = run(LRELEASE, {converted});
-            QVERIFY2(released.exitCode == 0, released.output.constData());
-            const Run updated = run(LUPDATE, {source, u"-ts"_s, converted});
-            QVERIFY2(updated.exitCode == 0, updated.output.constData());
+            const ProgramRun released = runToEnd(QStringLiteral(LRELEASE), {converted});
+            QVERIFY2(released.exitCode == 0, released.report().constData());
+            const ProgramRun updated = runToEnd(QStringLiteral(LUPDATE), {source, u"-ts"_s, converted});
+            QVERIFY2(updated.exitCode == 0, updated.report().constData());
         }
     }
 

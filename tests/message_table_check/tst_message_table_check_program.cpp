@@ -1,9 +1,9 @@
 #include "support/file_bytes.h"
+#include "support/program_run.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
 
 #include <QJsonDocument>
-#include <QProcess>
 #include <QTest>
 
 #include <memory>
@@ -31,9 +31,9 @@ private slots:
     void cleanFilesExitWithZero()
     {
         run({u"good.xml"_s});
-        QCOMPARE(m_process.exitCode(), 0);
-        QCOMPARE(output(), QString());
-        QCOMPARE(errors(), QString());
+        QCOMPARE(m_run.exitCode, 0);
+        QCOMPARE(m_run.output, QString());
+        QCOMPARE(m_run.errors, QString());
     }
 
     void findingsExitWithOne()
@@ -41,10 +41,10 @@ private slots:
         const QString name = QString::fromUtf8("gr\xC3\xB6\xC3\x9F"
                                                "e.xml");
         run({u"--status"_s, u"good.xml"_s, name});
-        QCOMPARE(m_process.exitCode(), 1);
-        QCOMPARE(output(), name + u":2: (p, c, t): not reviewed yet [new]\n"_s);
-        QCOMPARE(errors(), u"good.xml: 0 messages, 0 new, 0 obsolete, 0 incomplete\n"_s + name +
-                               u": 1 messages, 1 new, 0 obsolete, 0 incomplete\n"_s);
+        QCOMPARE(m_run.exitCode, 1);
+        QCOMPARE(m_run.output, name + u":2: (p, c, t): not reviewed yet [new]\n"_s);
+        QCOMPARE(m_run.errors, u"good.xml: 0 messages, 0 new, 0 obsolete, 0 incomplete\n"_s + name +
+                                   u": 1 messages, 1 new, 0 obsolete, 0 incomplete\n"_s);
     }
 
     void unusableFilesExitWithTwoAfterTheOthersAreChecked()
@@ -52,25 +52,26 @@ private slots:
         const QString name = QString::fromUtf8("gr\xC3\xB6\xC3\x9F"
                                                "e.xml");
         run({u"broken.xml"_s, u"missing.xml"_s, name});
-        QCOMPARE(m_process.exitCode(), 2);
-        QVERIFY(output().startsWith(name));
-        QVERIFY2(errors().startsWith(u"broken.xml: line 1: "_s), m_errors.constData());
-        QVERIFY2(errors().contains(u"\nmissing.xml: "_s), m_errors.constData());
+        QCOMPARE(m_run.exitCode, 2);
+        QVERIFY(m_run.output.startsWith(name));
+        QVERIFY2(m_run.errors.startsWith(u"broken.xml: line 1: "_s), qPrintable(m_run.errors));
+        QVERIFY2(m_run.errors.contains(u"\nmissing.xml: "_s), qPrintable(m_run.errors));
     }
 
     void wrongArgumentsExitWithTwo()
     {
         run({u"--only"_s, u"old"_s, u"good.xml"_s});
-        QCOMPARE(m_process.exitCode(), 2);
-        QCOMPARE(output(), QString());
-        QCOMPARE(errors(), u"There is no rule 'old'.\nMessageTableCheck --help explains the options.\n"_s);
+        QCOMPARE(m_run.exitCode, 2);
+        QCOMPARE(m_run.output, QString());
+        QCOMPARE(m_run.errors,
+                 u"There is no rule 'old'.\nMessageTableCheck --help explains the options.\n"_s);
     }
 
     void reportIsWrittenIntoAFile()
     {
         run({u"--format"_s, u"sarif"_s, u"-o"_s, u"out.sarif"_s, u"good.xml"_s});
-        QCOMPARE(m_process.exitCode(), 0);
-        QCOMPARE(output(), QString());
+        QCOMPARE(m_run.exitCode, 0);
+        QCOMPARE(m_run.output, QString());
         const QByteArray report = readFile(m_folder->path(u"out.sarif"_s));
         QCOMPARE(QJsonDocument::fromJson(report)[u"version"].toString(), u"2.1.0"_s);
     }
@@ -78,37 +79,26 @@ private slots:
     void reportThatCannotBeWrittenExitsWithTwo()
     {
         run({u"-o"_s, u"missing/out.txt"_s, u"good.xml"_s});
-        QCOMPARE(m_process.exitCode(), 2);
-        QCOMPARE(errors(), u"missing/out.txt: could not be written\n"_s);
+        QCOMPARE(m_run.exitCode, 2);
+        QCOMPARE(m_run.errors, u"missing/out.txt: could not be written\n"_s);
     }
 
     void helpExitsWithZero()
     {
         run({u"--help"_s});
-        QCOMPARE(m_process.exitCode(), 0);
-        QVERIFY(output().startsWith(u"Usage: "_s));
-        QVERIFY(output().contains(u"\nRules:\n  new "_s));
+        QCOMPARE(m_run.exitCode, 0);
+        QVERIFY(m_run.output.startsWith(u"Usage: "_s));
+        QVERIFY(m_run.output.contains(u"\nRules:\n  new "_s));
     }
 
 private:
     void run(const QStringList &arguments)
     {
-        m_process.setWorkingDirectory(m_folder->path());
-        m_process.start(QStringLiteral(MESSAGE_TABLE_CHECK), arguments);
-        QVERIFY(m_process.waitForFinished());
-        QCOMPARE(m_process.exitStatus(), QProcess::NormalExit);
-        m_output = m_process.readAllStandardOutput();
-        m_errors = m_process.readAllStandardError();
+        m_run = runToEnd(QStringLiteral(MESSAGE_TABLE_CHECK), arguments, m_folder->path());
     }
 
-    // The texts with all line ends as "\n".
-    QString output() const { return QString::fromUtf8(m_output).replace(u"\r\n"_s, u"\n"_s); }
-    QString errors() const { return QString::fromUtf8(m_errors).replace(u"\r\n"_s, u"\n"_s); }
-
     std::unique_ptr<TestFolder> m_folder;
-    QProcess m_process;
-    QByteArray m_output;
-    QByteArray m_errors;
+    ProgramRun m_run;
 };
 
 NVX_GUILESS_TEST(tst_message_table_check_program)

@@ -1,10 +1,10 @@
 #include "random_translation_table.h"
 #include "support/case_folders.h"
 #include "support/file_bytes.h"
+#include "support/program_run.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
 
-#include <QProcess>
 #include <QTest>
 #include <QTranslator>
 
@@ -13,21 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 using Translation::TranslationTable;
 
 namespace {
-
-struct Run
-{
-    int exitCode = -1;
-    QByteArray output;
-};
-
-Run run(const char *program, const QStringList &arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QString::fromUtf8(program), arguments);
-    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
-    return {ended ? process.exitCode() : -1, process.readAll()};
-}
 
 /// Copies a file that we wrote without its "defaultcodec" element, which Qt's tools refuse since version 6.
 /// Nothing else is changed.
@@ -57,8 +42,8 @@ private slots:
         const TestFolder work;
         const QString table = work.path(u"table.ts"_s);
         QVERIFY(copyWithoutCodec(folder + u"/expected.ts"_s, table));
-        const Run released = run(LRELEASE, {table});
-        QVERIFY2(released.exitCode == 0, released.output.constData());
+        const ProgramRun released = runToEnd(QStringLiteral(LRELEASE), {table});
+        QVERIFY2(released.exitCode == 0, released.report().constData());
     }
 
     void lconvertAcceptsTheFilesOfAllCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
@@ -69,8 +54,9 @@ private slots:
         const TestFolder work;
         const QString table = work.path(u"table.ts"_s);
         QVERIFY(copyWithoutCodec(folder + u"/expected.ts"_s, table));
-        const Run converted = run(LCONVERT, {u"-i"_s, table, u"-o"_s, work.path(u"converted.ts"_s)});
-        QVERIFY2(converted.exitCode == 0, converted.output.constData());
+        const ProgramRun converted =
+            runToEnd(QStringLiteral(LCONVERT), {u"-i"_s, table, u"-o"_s, work.path(u"converted.ts"_s)});
+        QVERIFY2(converted.exitCode == 0, converted.report().constData());
     }
 
     void lupdateAcceptsTheFilesOfAllCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
@@ -83,8 +69,8 @@ private slots:
         const QString source = work.path(u"empty.cpp"_s);
         QVERIFY(copyWithoutCodec(folder + u"/expected.ts"_s, table));
         QVERIFY(writeBytes(source, "int nothing;\n"));
-        const Run updated = run(LUPDATE, {source, u"-ts"_s, table});
-        QVERIFY2(updated.exitCode == 0, updated.output.constData());
+        const ProgramRun updated = runToEnd(QStringLiteral(LUPDATE), {source, u"-ts"_s, table});
+        QVERIFY2(updated.exitCode == 0, updated.report().constData());
     }
 
     void toolsAcceptRandomTables_data() { addSeedRows(12); }
@@ -98,10 +84,11 @@ private slots:
         const QString ours = work.path(u"ours.ts"_s);
         QVERIFY(randomTranslationTable(seed).save(ours));
         QVERIFY(copyWithoutCodec(ours, table));
-        const Run released = run(LRELEASE, {table});
-        QVERIFY2(released.exitCode == 0, released.output.constData());
-        const Run conversion = run(LCONVERT, {u"-i"_s, table, u"-o"_s, converted});
-        QVERIFY2(conversion.exitCode == 0, conversion.output.constData());
+        const ProgramRun released = runToEnd(QStringLiteral(LRELEASE), {table});
+        QVERIFY2(released.exitCode == 0, released.report().constData());
+        const ProgramRun conversion =
+            runToEnd(QStringLiteral(LCONVERT), {u"-i"_s, table, u"-o"_s, converted});
+        QVERIFY2(conversion.exitCode == 0, conversion.report().constData());
     }
 
     void programShowsFinishedTranslations()
@@ -121,8 +108,8 @@ private slots:
         const QString ours = work.path(u"ours.ts"_s);
         QVERIFY(written.save(ours));
         QVERIFY(copyWithoutCodec(ours, table));
-        const Run released = run(LRELEASE, {table, u"-qm"_s, binary});
-        QVERIFY2(released.exitCode == 0, released.output.constData());
+        const ProgramRun released = runToEnd(QStringLiteral(LRELEASE), {table, u"-qm"_s, binary});
+        QVERIFY2(released.exitCode == 0, released.report().constData());
 
         QTranslator translator;
         QVERIFY(translator.load(binary));

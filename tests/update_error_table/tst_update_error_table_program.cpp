@@ -1,8 +1,8 @@
 #include "support/file_bytes.h"
+#include "support/program_run.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
 
-#include <QProcess>
 #include <QTest>
 
 #include <memory>
@@ -34,16 +34,16 @@ private slots:
                                                 "ble.xml");
         run({u"-sync"_s, table, u"p.vcxproj"_s});
 
-        QCOMPARE(m_process.exitCode(), 0);
-        QCOMPARE(output(), QString::fromUtf8("Scanning...\n"
-                                             "  gr\xC3\xBC\xC3\x9F"
-                                             "e.cpp\n"
-                                             "  gone.cpp\n"
-                                             "Parser error: Cannot open file\n"
-                                             "Found 1 keys (1 new, 0 existing, and 0 obsolete)\n"
-                                             "Saving message table \"t\xC3\xA4"
-                                             "ble.xml\"...\n"));
-        QCOMPARE(errors(),
+        QCOMPARE(m_run.exitCode, 0);
+        QCOMPARE(m_run.output, QString::fromUtf8("Scanning...\n"
+                                                 "  gr\xC3\xBC\xC3\x9F"
+                                                 "e.cpp\n"
+                                                 "  gone.cpp\n"
+                                                 "Parser error: Cannot open file\n"
+                                                 "Found 1 keys (1 new, 0 existing, and 0 obsolete)\n"
+                                                 "Saving message table \"t\xC3\xA4"
+                                                 "ble.xml\"...\n"));
+        QCOMPARE(m_run.errors,
                  QString::fromUtf8("Cannot open gone.cpp: the file does not exist (p.vcxproj, line 1)\n"
                                    "gr\xC3\xBC\xC3\x9F"
                                    "e.cpp:1: new message (client, f, Tag)\n"
@@ -60,69 +60,59 @@ private slots:
         QVERIFY(writeBytes(m_folder->path(u"a.ts"_s), plural));
         QVERIFY(writeBytes(m_folder->path(u"t.xml"_s), "<messageTable/>"));
         run({u"-tr"_s, u"t.xml"_s, u"a.ts"_s});
-        QCOMPARE(m_process.exitCode(), 0);
-        QCOMPARE(errors(), u"a.ts:1: <message numerus=\"yes\"> is not kept\n"
-                           "a.ts:1: <numerusform> is not kept\n"
-                           "Parts of the file were dropped; the previous file is kept as a.ts.before\n"_s);
-        QVERIFY(!output().contains(u"before"_s));
+        QCOMPARE(m_run.exitCode, 0);
+        QCOMPARE(m_run.errors,
+                 u"a.ts:1: <message numerus=\"yes\"> is not kept\n"
+                 "a.ts:1: <numerusform> is not kept\n"
+                 "Parts of the file were dropped; the previous file is kept as a.ts.before\n"_s);
+        QVERIFY(!m_run.output.contains(u"before"_s));
         QCOMPARE(fileBytes(m_folder->path(u"a.ts.before"_s)), plural);
     }
 
     void writesNoProgressLineToAPipe()
     {
         run({u"-sync"_s, u"t.xml"_s, u"p.vcxproj"_s});
-        const QByteArray bytes = m_output;
-        QVERIFY(!QString::fromUtf8(bytes).contains(u"Scanned"_s));
-        QVERIFY(!QByteArray(bytes).replace("\r\n", "\n").contains('\r'));
+        QVERIFY(!m_run.output.contains(u"Scanned"_s));
+        QVERIFY(!m_run.output.contains(u'\r'));
     }
 
     void exitCodeIsOneIfAnOperationFails()
     {
         run({u"-sync"_s, u"t.xml"_s, u"no.vcxproj"_s});
-        QCOMPARE(m_process.exitCode(), 1);
-        QCOMPARE(output(), u"Could not find Visual Studio project file \"no.vcxproj\"\n"_s);
+        QCOMPARE(m_run.exitCode, 1);
+        QCOMPARE(m_run.output, u"Could not find Visual Studio project file \"no.vcxproj\"\n"_s);
     }
 
     void wrongArgumentsWriteTheUsageToStandardErrorAndExitWithTwo()
     {
         run({u"-sync"_s});
-        QCOMPARE(m_process.exitCode(), 2);
-        QCOMPARE(output(), QString());
-        QVERIFY(errors().startsWith(u"Usage: UpdateErrorTable [options]\n\noptions:\n"_s));
+        QCOMPARE(m_run.exitCode, 2);
+        QCOMPARE(m_run.output, QString());
+        QVERIFY(m_run.errors.startsWith(u"Usage: UpdateErrorTable [options]\n\noptions:\n"_s));
     }
 
     void helpWritesTheUsageToStandardOutput()
     {
         run({u"-h"_s});
-        QCOMPARE(m_process.exitCode(), 0);
-        QCOMPARE(output(), u"Usage: UpdateErrorTable [options]\n"
-                           "\n"
-                           "options:\n"
-                           "  -sync <error_table> <vcproj>   synchronize error table with source code\n"
-                           "  -tr <error_table> <ts>         synchronize translation table with error table\n"
-                           "  -h                             show this message and exit\n"_s);
-        QCOMPARE(errors(), QString());
+        QCOMPARE(m_run.exitCode, 0);
+        QCOMPARE(m_run.output,
+                 u"Usage: UpdateErrorTable [options]\n"
+                 "\n"
+                 "options:\n"
+                 "  -sync <error_table> <vcproj>   synchronize error table with source code\n"
+                 "  -tr <error_table> <ts>         synchronize translation table with error table\n"
+                 "  -h                             show this message and exit\n"_s);
+        QCOMPARE(m_run.errors, QString());
     }
 
 private:
     void run(const QStringList &arguments)
     {
-        m_process.setWorkingDirectory(m_folder->path());
-        m_process.start(QStringLiteral(UPDATE_ERROR_TABLE), arguments);
-        QVERIFY(m_process.waitForFinished());
-        QCOMPARE(m_process.exitStatus(), QProcess::NormalExit);
-        m_output = m_process.readAllStandardOutput();
-        m_errors = m_process.readAllStandardError();
+        m_run = runToEnd(QStringLiteral(UPDATE_ERROR_TABLE), arguments, m_folder->path());
     }
 
-    // The texts with all line ends as "\n".
-    QString output() const { return QString::fromUtf8(m_output).replace(u"\r\n"_s, u"\n"_s); }
-    QString errors() const { return QString::fromUtf8(m_errors).replace(u"\r\n"_s, u"\n"_s); }
-
     std::unique_ptr<TestFolder> m_folder;
-    QProcess m_process;
-    QByteArray m_output;
-    QByteArray m_errors;
+    ProgramRun m_run;
 };
 
 NVX_GUILESS_TEST(tst_update_error_table_program)
