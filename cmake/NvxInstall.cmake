@@ -40,11 +40,14 @@ nvx_installed(programs)
 
 if(WIN32)
     nvx_installed(configuration --component configuration)
-    # The developers' tools use the configuration program's libraries and languages.
+    # The developers' tools use the configuration program's libraries.
     set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME configuration)
     install(TARGETS NVXConfig RUNTIME DESTINATION .)
     install(TARGETS ${nvx_tools} RUNTIME DESTINATION . COMPONENT tools)
-    install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION . FILES_MATCHING PATTERN "*.qm")
+    install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION .
+        FILES_MATCHING PATTERN "nvxconfig.qm" PATTERN "qt*.qm")
+    install(DIRECTORY "${NVX_LANGUAGES_FOLDER}/" DESTINATION . COMPONENT tools
+        FILES_MATCHING PATTERN "*.qm" PATTERN "nvxconfig.qm" EXCLUDE PATTERN "qt*.qm" EXCLUDE)
 
     foreach(library Core Gui Widgets)
         install(FILES "${NVX_QT_WINDOWS}/bin/Qt6${library}.dll" DESTINATION .)
@@ -57,11 +60,11 @@ if(WIN32)
             COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${library}
             OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
         get_filename_component(path "${path}" REALPATH)
-        # Debug information is nine tenths of the largest one.
+        # Debug information is nine tenths of the largest one. The time in their headers would be that of now.
         set(stripped "${CMAKE_BINARY_DIR}/runtime/${library}")
         file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/runtime")
         execute_process(
-            COMMAND "${CMAKE_STRIP}" -o "${stripped}" "${path}" COMMAND_ERROR_IS_FATAL ANY)
+            COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=1 "${CMAKE_STRIP}" -o "${stripped}" "${path}" COMMAND_ERROR_IS_FATAL ANY)
         install(FILES "${stripped}" DESTINATION .)
     endforeach()
     include(NvxLicences)

@@ -1,6 +1,6 @@
 # What `cpack` packs into the build's folder "package":
 #
-#     windows   a ZIP of the programs with all they need, and the set-up program of the sample product
+#     windows   a ZIP of the programs with all they need, and the set-up program and the MSI of the sample product
 #     native    a TGZ of the developers' tools with all they need
 #
 # The target "packaged" builds what `cpack` packs.
@@ -12,6 +12,9 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY ON)
 set(CPACK_PACKAGE_CHECKSUM SHA256)
+set(CPACK_NVX_CACHE "${NVX_CACHE}")
+set(CPACK_POST_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/installer/describe_contents.cmake")
+set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/installer/prepare_files.cmake")
 
 # The contents of a package are entries of "build folder;project;component;folder in the package".
 set(nvx_package_of "${CMAKE_BINARY_DIR};${PROJECT_NAME}")
@@ -26,13 +29,10 @@ if(WIN32)
     set(CPACK_EXTERNAL_PACKAGE_SCRIPT "${PROJECT_SOURCE_DIR}/installer/make_installer.cmake")
     set(NVX_SET_UP_PROJECTS
         "${nvx_package_of};configuration;/product"
-        "${nvx_package_of};tools;/product"
+        "${nvx_package_of};tools;/tools"
         "${nvx_package_of};sample;/")
     set(NVX_SETUP_TASK "${CMAKE_BINARY_DIR}/installer/NVXSetupTask.exe")
     set(NVX_INSTALLER_PICTURES "${PROJECT_SOURCE_DIR}/resource/images")
-    configure_file("${CMAKE_CURRENT_LIST_DIR}/package_by_generator.cmake.in"
-        "${CMAKE_BINARY_DIR}/package_by_generator.cmake" @ONLY)
-    set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_BINARY_DIR}/package_by_generator.cmake")
 else()
     add_dependencies(packaged built_tools)
     set(CPACK_GENERATOR TGZ)
@@ -40,5 +40,8 @@ else()
     set(CPACK_PACKAGE_FILE_NAME "nvx-2017-tools-${PROJECT_VERSION}-linux-x86_64")
     set(CPACK_INSTALL_CMAKE_PROJECTS "${nvx_package_of};tools;/")
 endif()
+configure_file("${CMAKE_CURRENT_LIST_DIR}/package_by_generator.cmake.in"
+    "${CMAKE_BINARY_DIR}/package_by_generator.cmake" @ONLY)
+set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_BINARY_DIR}/package_by_generator.cmake")
 
 include(CPack)

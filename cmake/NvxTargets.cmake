@@ -36,6 +36,10 @@ if(NOT NVX_SANITIZE AND NOT NVX_COVERAGE)
             LINKER:-z,relro,-z,now $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
     endif()
 endif()
+if(WIN32)
+    # The same sources give the same programs.
+    target_link_options(nvx_options INTERFACE LINKER:--no-insert-timestamp)
+endif()
 if(NVX_SANITIZE)
     target_compile_options(nvx_options INTERFACE
         -fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -19,12 +19,15 @@ FunctionEnd
 ; $R0 contains the options. Sets the error flag if the program cannot be started, does not end in time or fails: it
 ; exits with 0 after every run, so another exit code is that of a crash or of a missing library.
 Function ${UN}Configure
-    DetailPrint "$(^Exec)NVXConfig.exe $R0"
+    ${Note} "$(^Exec)NVXConfig.exe $R0"
     ClearErrors
     ExecWait '"$PLUGINSDIR\NVXSetupTask.exe" configure "$INSTDIR\." $Seconds $R0' $R1
-    ${IfNot} ${Errors}
-    ${AndIf} $R1 != 0
-        DetailPrint "NVXConfig.exe: $R1"
+    ${If} ${Errors}
+        StrCpy $R1 "?"
+    ${EndIf}
+    ${Note} "NVXConfig.exe: $R1"
+    ClearErrors
+    ${If} $R1 != 0
         SetErrors
     ${EndIf}
 FunctionEnd
@@ -34,6 +37,7 @@ Function ${UN}CheckMachine
     System::Call 'kernel32::CreateMutexW(p 0, i 0, w "Global\Velmora NVX 2017 set-up") p .r1 ?e'
     Pop $0
     ${If} $0 = ${ERROR_ALREADY_EXISTS}
+        ${Note} "$(SetUpRuns)"
         MessageBox MB_OK|MB_ICONSTOP "$(SetUpRuns)" /SD IDOK
         SetErrorLevel ${ERROR_INSTALL_ALREADY_RUNNING}
         Quit
@@ -41,6 +45,7 @@ Function ${UN}CheckMachine
 again:
     ExecWait '"$PLUGINSDIR\NVXSetupTask.exe" check' $0
     ${If} $0 = ${ERROR_INSTALL_ALREADY_RUNNING}
+        ${Note} "$(CadRuns)"
         MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(CadRuns)" /SD IDCANCEL IDRETRY again
         SetErrorLevel ${ERROR_INSTALL_ALREADY_RUNNING}
         Quit

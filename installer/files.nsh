@@ -14,6 +14,18 @@
 !macro EachFile ACTION
     StrCpy $Root $INSTDIR
     !insertmacro EachProductFile ${ACTION}
+    !insertmacro EachToolsFile ${ACTION}
+    StrCpy $Root $Translators
+    !insertmacro EachTranslatorsFile ${ACTION}
+!macroend
+
+; The same without the developers' tools, unless they are selected.
+!macro EachSelectedFile ACTION
+    StrCpy $Root $INSTDIR
+    !insertmacro EachProductFile ${ACTION}
+    ${If} $Tools == yes
+        !insertmacro EachToolsFile ${ACTION}
+    ${EndIf}
     StrCpy $Root $Translators
     !insertmacro EachTranslatorsFile ${ACTION}
 !macroend
@@ -23,6 +35,7 @@
     StrCpy $Root $Translators
     !insertmacro EachTranslatorsFolder ${ACTION}
     StrCpy $Root $INSTDIR
+    !insertmacro EachToolsFolder ${ACTION}
     !insertmacro EachProductFolder ${ACTION}
 !macroend
 
@@ -76,6 +89,7 @@ again:
     Return
 failed:
     MessageBox MB_RETRYCANCEL|MB_ICONSTOP "$(^FileError_NoIgnore)" /SD IDCANCEL IDRETRY again
+    ${Note} "$(^CantWrite)$0"
     Abort "$(^CantWrite)$0"
 FunctionEnd
 
@@ -96,13 +110,15 @@ Function DropWorkFile
 FunctionEnd
 
 Function UnpackFiles
-    !insertmacro EachFile Unpack
+    ${Note} "$INSTDIR"
+    !insertmacro EachSelectedFile Unpack
     ; The working folder of a program cannot be removed.
     SetOutPath $TEMP
     StrCpy $0 "$INSTDIR${NEW}\uninstall.exe"
     ClearErrors
     WriteUninstaller "$0"
     ${If} ${Errors}
+        ${Note} "$(^CantWrite)$0"
         Abort "$(^CantWrite)$0"
     ${EndIf}
 FunctionEnd
@@ -112,10 +128,11 @@ Function ReplaceFiles
     ClearErrors
     FileOpen $1 "$0" w
     ${If} ${Errors}
+        ${Note} "$(^CantWrite)$0"
         Abort "$(^CantWrite)$0"
     ${EndIf}
     FileClose $1
-    !insertmacro EachFile Replace
+    !insertmacro EachSelectedFile Replace
     StrCpy $Root $INSTDIR
     !insertmacro CallWith ReplaceFile "" "\uninstall.exe"
 FunctionEnd
@@ -188,7 +205,7 @@ Function un.RemoveFile
     Delete "$R1"
     ${If} ${FileExists} "$R1"
         StrCpy $Left $R1
-        DetailPrint "$(^CantWrite)$R1"
+        ${Note} "$(^CantWrite)$R1"
     ${EndIf}
 FunctionEnd
 

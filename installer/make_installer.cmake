@@ -1,7 +1,9 @@
-# Makes the set-up program from what CPack has staged: the files of the folder "product" belong in the install dir,
-# those of "translators" in the translators' folder. Run by CPack.
+# Makes the set-up program and the MSI from what CPack has staged: the files of the folder "product" belong in the
+# install dir, those of "tools" too if the developers' tools are selected, those of "translators" in the translators'
+# folder. Run by CPack.
 
 find_program(python python3 REQUIRED)
+include("${CMAKE_CURRENT_LIST_DIR}/make_msi.cmake")
 
 # describe_languages(): adds a macro to `lists` that does something with each language of the product's table. The
 # first language of the table comes first, the others in the order of their locales.
@@ -65,11 +67,14 @@ set(bytes 0)
 set(laid_out "${CPACK_TEMPORARY_DIRECTORY}")
 describe_languages()
 describe_files(Product "${laid_out}/product")
+describe_files(Tools "${laid_out}/tools")
 describe_files(Translators "${laid_out}/translators")
 set(lists_file "${CPACK_TOPLEVEL_DIRECTORY}/files.nsh")
 # Without the byte order mark the compiler would read the names in another encoding.
 string(ASCII 239 187 191 mark)
 file(WRITE "${lists_file}" "${mark}${lists}")
+
+nvx_copy_task(task)
 
 math(EXPR kilobytes "${bytes} / 1024")
 set(set_up "${CPACK_TOPLEVEL_DIRECTORY}/${CPACK_PACKAGE_NAME}-${CPACK_PACKAGE_VERSION}-setup.exe")
@@ -78,7 +83,8 @@ execute_process(
         "-DPRODUCT_VERSION=${CPACK_PACKAGE_VERSION}"
         "-DPRODUCT_KILOBYTES=${kilobytes}"
         "-DLISTS=${lists_file}"
-        "-DSETUP_TASK=${NVX_SETUP_TASK}"
+        "-DSETUP_TASK=${task}"
+        "-DSIGN=\"${CMAKE_COMMAND}\" -DFILE=%1 -P \"${CMAKE_CURRENT_LIST_DIR}/sign.cmake\""
         "-DICON=${NVX_INSTALLER_PICTURES}/program.ico"
         "-DSIDE_PICTURE=${NVX_INSTALLER_PICTURES}/setup.bmp"
         "-DOUT_FILE=${set_up}"
@@ -87,4 +93,8 @@ execute_process(
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "The set-up program was not made: makensis ended with ${result}")
 endif()
-set(CPACK_EXTERNAL_BUILT_PACKAGES "${set_up}")
+nvx_sign("${set_up}")
+
+set(msi "${CPACK_TOPLEVEL_DIRECTORY}/${CPACK_PACKAGE_NAME}-${CPACK_PACKAGE_VERSION}-x64.msi")
+nvx_make_msi("${laid_out}" "${task}" "${msi}")
+set(CPACK_EXTERNAL_BUILT_PACKAGES "${set_up}" "${msi}")

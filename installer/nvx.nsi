@@ -4,13 +4,15 @@
 ;                   a CAD system is running, and 1638 if the product was installed by the MSI
 ;     /LANG=de-DE   the language of the installer and of the product
 ;     /TIMEOUT=N    ends a configuration that takes longer than N seconds, by default 1800; the set-up has then failed
+;     /TOOLS        also the tools for the product's developers, which stay selected in the set-ups after it
+;     /LOG=FILE     appends what the set-up does to the file, which must not have blanks in its path
 ;     /D=FOLDER     the install dir; must be the last option, without quotes
 ;
 ; An installed product is replaced in its folder, and in its language unless an option selects another one.
 ;
 ; Defined by the build: PRODUCT_VERSION, PRODUCT_KILOBYTES, LISTS (the lists of the files), ICON,
-; SETUP_TASK (the program NVXSetupTask.exe), SIDE_PICTURE
-; and OUT_FILE.
+; SETUP_TASK (the program NVXSetupTask.exe), SIGN (the
+; command that signs the file %1), SIDE_PICTURE and OUT_FILE.
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -19,6 +21,7 @@ SetCompressor /SOLID lzma
 !include LogicLib.nsh
 !include FileFunc.nsh
 !include WinMessages.nsh
+!include Sections.nsh
 
 Name "NVX 2017"
 OutFile "${OUT_FILE}"
@@ -42,11 +45,15 @@ Var VersionBefore
 Var Left
 ; The time limit of a configuration.
 Var Seconds
+; Whether the developers' tools are installed.
+Var Tools
+Var LogFile
 
 !define ERROR_ALREADY_EXISTS 183
 !define ERROR_INSTALL_ALREADY_RUNNING 1618
 !define ERROR_PRODUCT_VERSION 1638
 
+!uninstfinalize '${SIGN}'
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE_PICTURE}"
@@ -54,6 +61,7 @@ Var Seconds
 !define MUI_LANGDLL_ALLLANGUAGES
 
 !insertmacro MUI_PAGE_WELCOME
+!insertmacro MUI_PAGE_COMPONENTS
 !define MUI_PAGE_CUSTOMFUNCTION_PRE SkipWhenInstalled
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
@@ -65,6 +73,7 @@ Var Seconds
 !include registry.nsh
 !include languages.nsh
 !include messages.nsh
+!include log.nsh
 !include configuration.nsh
 !include files.nsh
 
@@ -84,6 +93,7 @@ Function .onInit
     SetRegView 64
     SetShellVarContext all
     Call ChooseLanguage
+    Call OpenLog
     ${GetParameters} $1
     ClearErrors
     ${GetOptions} $1 "/LANG=" $0
@@ -94,6 +104,7 @@ Function .onInit
     ${EndIf}
     ReadRegStr $0 HKLM "${PRODUCT_KEY}" "${MSI_VALUE}"
     ${If} $0 != ""
+        ${Note} "$(InstalledByMsi)"
         MessageBox MB_OK|MB_ICONSTOP "$(InstalledByMsi)" /SD IDOK
         SetErrorLevel ${ERROR_PRODUCT_VERSION}
         Quit
@@ -101,6 +112,7 @@ Function .onInit
     Call PrepareTasks
     Call CheckMachine
     Call FindInstalled
+    Call SelectTools
 FunctionEnd
 
 ; Sets $Upgrade; an installed product stays in its folder.
@@ -120,6 +132,22 @@ Function SkipWhenInstalled
     ${EndIf}
 FunctionEnd
 
+Section /o "$(Tools)" ToolsSection
+    StrCpy $Tools yes
+SectionEnd
+
+; Sets the state of the section; tools that are installed stay.
+Function SelectTools
+    ${GetParameters} $1
+    ClearErrors
+    ${GetOptions} $1 "/TOOLS" $0
+    ${IfNot} ${Errors}
+    ${OrIf} ${FileExists} "$INSTDIR\MessageTableUtility.exe"
+        SectionSetFlags ${ToolsSection} ${SF_SELECTED}
+    ${EndIf}
+FunctionEnd
+
+; After the section above. It has no name, so it cannot be left out.
 Section
     ; The required space shown on the page of the folder.
     AddSize ${PRODUCT_KILOBYTES}
@@ -152,9 +180,11 @@ Section
         Abort "$(^Exec)$INSTDIR\NVXConfig.exe"
     ${EndIf}
     Call SettleFiles
+    ${Note} "$(^Completed)"
 SectionEnd
 
 Function .onInstFailed
+    StrCpy $Seconds ${TIMEOUT}
     ${If} $Upgrade != yes
     ${AndIf} $Done == registered
         ; What the configuration had done before it failed.
@@ -188,6 +218,7 @@ Function un.onInit
     SetRegView 64
     SetShellVarContext all
     Call un.ChooseLanguage
+    Call un.OpenLog
     ReadRegStr $Translators HKLM "${UNINSTALL_KEY}" "TranslatorsFolder"
     Call un.PrepareTasks
     Call un.CheckMachine
@@ -213,6 +244,8 @@ Section un.Product
     Call un.ClearEntry
     Delete "$INSTDIR\uninstall.exe"
     StrCpy $Root $INSTDIR
+    !insertmacro EachToolsFolder DropFolder
     !insertmacro EachProductFolder DropFolder
     Call un.DropOuterFolders
+    ${Note} "$(^Completed)"
 SectionEnd

@@ -7,6 +7,8 @@
 //         Runs NVXConfig.exe of the folder with the options and waits for it. Exits with its exit code; with
 //         1460 if it did not end in time, after ending it and its children; with 2 if it or the server is
 //         missing.
+//     NVXSetupTask install FOLDER SECONDS OPTION...
+//         The same; if it fails, runs NVXConfig.exe with "-U -S", which removes what the run has done.
 //     NVXSetupTask register FOLDER TRANSLATORS
 //         Sets the environment variables with the install folder, and the registered translators' folder.
 //     NVXSetupTask unregister FOLDER TRANSLATORS
@@ -31,6 +33,9 @@ constexpr const wchar_t *environmentKey = L"SYSTEM\\CurrentControlSet\\Control\\
 constexpr const wchar_t *translatorsKey = L"Software\\Velmora\\Kelvane\\Translators";
 constexpr const wchar_t *folderValue = L"Folder";
 constexpr const wchar_t *variables[] = {L"OSTRADE", L"OSTRADE2017DIR", L"OSTRADE2017TEMP"};
+
+/// A removal asks nothing, so it ends by itself.
+constexpr unsigned long undoSeconds = 1800;
 
 struct CloseHandleLater
 {
@@ -198,9 +203,13 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
     const std::wstring task = count > 1 ? arguments[1] : std::wstring();
     if (task == L"check" && count == 2)
         return check();
-    if (task == L"configure" && count >= 4) {
-        return configure(folderOf(arguments[2]), std::wcstoul(arguments[3].c_str(), nullptr, 10),
-                         {arguments.begin() + 4, arguments.end()});
+    if ((task == L"configure" || task == L"install") && count >= 4) {
+        const std::wstring folder = folderOf(arguments[2]);
+        const unsigned long seconds = std::wcstoul(arguments[3].c_str(), nullptr, 10);
+        const int code = configure(folder, seconds, {arguments.begin() + 4, arguments.end()});
+        if (code != ERROR_SUCCESS && task == L"install")
+            configure(folder, undoSeconds, {L"-U", L"-S"});
+        return code;
     }
     if (task == L"register" && count == 4)
         return registerFolders(folderOf(arguments[2]), folderOf(arguments[3]));

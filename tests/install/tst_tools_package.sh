@@ -10,6 +10,9 @@ trap 'rm -rf "$folder"' EXIT
 
 (cd "$build" && "$cpack" --config CPackConfig.cmake -B "$folder/packed") >"$folder/pack.log" ||
     fail "not packed: $(tail -n 5 "$folder/pack.log")"
+(cd "$build" && "$cpack" --config CPackConfig.cmake -B "$folder/packed again") >"$folder/pack.log"
+cmp "$folder"/packed/*.tar.gz "$folder/packed again"/*.tar.gz || fail "packed again, the package is another one"
+grep -q '"name": "libqt6core6"' "$folder"/packed/*.cdx.json || fail "the bill of materials lacks Qt"
 unpacked="$folder/tools für größe"
 mkdir "$unpacked"
 tar -xzf "$folder"/packed/nvx-2017-tools-*.tar.gz -C "$unpacked"

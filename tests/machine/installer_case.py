@@ -2,6 +2,7 @@
 
 import hashlib
 import shutil
+from pathlib import Path
 
 import machine_case
 from winemachine import INSTALL_DIR
@@ -42,6 +43,18 @@ class InstallerCase(machine_case.MachineCase):
 
     def log_lines(self, install_dir: str = INSTALL_DIR) -> list[str]:
         return machine_case.log_lines(self.machine.path(install_dir) / "NVXConfig.log")
+
+
+def is_tool(path: Path) -> bool:
+    """Whether the file belongs to the developers' tools, which are not installed unless they are selected."""
+    if path.suffix == ".qm":
+        return not path.name.startswith(("nvxconfig", "qt"))
+    return path.stem in (
+        "MaterialNameUtility",
+        "MessageTableCheck",
+        "MessageTableUtility",
+        "UpdateErrorTable",
+    )
 
 
 def hash_of(contents: bytes) -> str:

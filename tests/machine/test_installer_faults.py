@@ -40,7 +40,7 @@ class FreshMachine(InstallerCase, MachineCase):
     def test_a_configuration_that_waits_for_a_user_is_ended_and_a_failed_set_up(self):
         # Then it shows a message box.
         refusal = self.write(INSTALL_DIR + "\\NVXServer.exe.fails-to-register")
-        self.assert_set_up_fails("/TIMEOUT=20", left=[LOG, INSTALL_DIR + "\\" + refusal.name])
+        self.assert_set_up_fails("/TIMEOUT=40", left=[LOG, INSTALL_DIR + "\\" + refusal.name])
         self.assertEqual(self.machine.programs("NVXConfig.exe"), {})
         shutil.rmtree(self.machine.path(PROGRAM_FILES + "\\Velmora"))
 

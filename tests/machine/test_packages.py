@@ -1,0 +1,134 @@
+"""The packages themselves: what they contain, and that the same sources give the same packages."""
+
+import json
+import os
+import re
+import shutil
+import subprocess
+import tempfile
+import unittest
+import zipfile
+from pathlib import Path
+
+from installer_case import SET_UP
+from machine_case import BUILD
+
+PACKAGES = BUILD / "package"
+INSTALLER = Path(__file__).resolve().parents[2] / "installer"
+
+
+def run(*command, **environment):
+    done = subprocess.run(
+        command, env=os.environ | environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True
+    )
+    if done.returncode != 0:
+        raise AssertionError(f"{command} exited with {done.returncode}: {done.stdout[-2000:]}")
+    return done.stdout
+
+
+class Contents(unittest.TestCase):
+    def test_the_set_up_is_made_by_a_compiler_with_the_fixes_for_elevation(self):
+        version = re.search(rb"Nullsoft Install System v(\d+)\.(\d+)", SET_UP.read_bytes())
+        self.assertGreaterEqual(tuple(map(int, version.groups())), (3, 12))
+
+    def test_the_zip_holds_the_programs_with_all_they_need_and_no_sample_files(self):
+        (path,) = PACKAGES.glob("*.zip")
+        with zipfile.ZipFile(path) as archive:
+            self.assertIsNone(archive.testzip())
+            names = [name for name in archive.namelist() if not name.endswith("/")]
+        installed = BUILD / "installed"
+        wanted = [str(file.relative_to(installed)) for file in installed.rglob("*") if file.is_file()]
+        self.assertIn("NVXConfig.exe", wanted)
+        self.assertEqual(sorted(names), sorted(path.stem + "/" + name for name in wanted))
+
+    def test_the_msi_has_the_product_code_of_the_administrators_page(self):
+        page = (INSTALLER.parent / "docs" / "administrators.md").read_text(encoding="utf-8")
+        (package,) = PACKAGES.glob("*.msi")
+        properties = run("msiinfo", "export", str(package), "Property")
+        (code,) = re.findall(r"^ProductCode\t(\S+)", properties, re.MULTILINE)
+        self.assertEqual(set(re.findall(r"\{[0-9A-F-]{36}\}", page)), {code})
+        (upgrade,) = re.findall(r"^UpgradeCode\t(\S+)", properties, re.MULTILINE)
+        self.assertEqual(upgrade, "{6A5E52A4-3F0C-5D3E-9F43-0E2B4F9F7A17}")
+
+    def test_the_bill_of_materials_names_the_libraries_with_versions_and_licences(self):
+        bill = json.loads((PACKAGES / "NVX-2017-17.2.0.cdx.json").read_text())
+        components = {component["name"]: component for component in bill["components"]}
+        for name in ("Qt", "LibPNG", "PCRE2", "HarfBuzz-NG", "GCC", "mingw-w64", "7-Zip"):
+            self.assertTrue(components[name]["version"], name)
+            self.assertTrue(components[name]["licenses"], name)
+        built_from = (Path(os.environ["NVX_CACHE"]) / "qt-windows" / "built-from").read_text().strip()
+        self.assertTrue(built_from.endswith("Qt " + components["Qt"]["version"]))
+        for file in ("product/NVXConfig.exe", "product/Qt6Core.dll", "tools/MessageTableUtility.exe"):
+            self.assertRegex(components[file]["hashes"][0]["content"], "^[0-9a-f]{64}$")
+
+
+class Again(unittest.TestCase):
+    """Packed a second time, from files with other times."""
+
+    def setUp(self):
+        (self.staged,) = (PACKAGES / "_CPack_Packages").glob("*/External/NVX-2017-setup")
+        # The checkout may have another commit by now.
+        self.time = str(int((self.staged / "product" / "NVXConfig.exe").stat().st_mtime))
+        self.folder = Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+
+    def test_the_zip_is_the_same(self):
+        config = str(BUILD / "CPackConfig.cmake")
+        run("cpack", "-G", "ZIP", "--config", config, "-B", str(self.folder), SOURCE_DATE_EPOCH=self.time)
+        (first,) = PACKAGES.glob("*.zip")
+        self.assertEqual((self.folder / first.name).read_bytes(), first.read_bytes())
+
+    def test_the_msi_is_the_same(self):
+        again = self.folder / "staged"
+        for name in ("product", "tools", "translators"):
+            shutil.copytree(self.staged / name, again / name, copy_function=shutil.copy)
+        (self.folder / "out").mkdir()
+        (first,) = PACKAGES.glob("*.msi")
+        run(
+            "cmake",
+            f"-DCPACK_TEMPORARY_DIRECTORY={again}",
+            f"-DCPACK_TOPLEVEL_DIRECTORY={self.folder / 'out'}",
+            f"-DMSI={self.folder / first.name}",
+            f"-DNVX_SETUP_TASK={BUILD / 'installer' / 'NVXSetupTask.exe'}",
+            f"-DNVX_INSTALLER_PICTURES={INSTALLER.parent / 'resource' / 'images'}",
+            "-DCPACK_PACKAGE_VERSION=17.2.0",
+            *("-P", str(INSTALLER / "make_msi.cmake")),
+            SOURCE_DATE_EPOCH=self.time,
+        )
+        self.assertEqual((self.folder / first.name).read_bytes(), first.read_bytes())
+
+
+class Signed(unittest.TestCase):
+    def prepare(self, staged, **environment):
+        script = str(INSTALLER / "prepare_files.cmake")
+        run("cmake", f"-DCPACK_TEMPORARY_DIRECTORY={staged}", "-P", script, **environment)
+
+    def test_the_command_of_the_environment_signs_every_program_and_library(self):
+        with tempfile.TemporaryDirectory() as name:
+            folder = Path(name)
+            key, certificate = str(folder / "key.pem"), str(folder / "certificate.pem")
+            subject = ("-subj", "/CN=test", "-addext", "extendedKeyUsage=codeSigning")
+            run("openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", *subject,
+                "-keyout", key, "-out", certificate)  # fmt: skip
+            script = folder / "sign"
+            sign = f'osslsigncode sign -certs {certificate} -key {key} -in "$1" -out "$1.signed"'
+            script.write_text(f'#!/bin/sh\nset -e\n{sign}\nmv "$1.signed" "$1"\n')
+            script.chmod(0o755)
+            staged = folder / "staged with blanks"
+            staged.mkdir()
+            files = [
+                shutil.copy(BUILD / "installed" / file, staged) for file in ("NVXConfig.exe", "Qt6Core.dll")
+            ]
+            self.prepare(staged, NVX_SIGN=str(script))
+            for file in files:
+                output = run("osslsigncode", "verify", "-CAfile", certificate, "-in", str(file))
+                self.assertIn("Signature verification: ok", output)
+
+    def test_a_command_that_fails_ends_the_packing(self):
+        with tempfile.TemporaryDirectory() as folder, self.assertRaises(AssertionError):
+            shutil.copy(BUILD / "installed" / "NVXConfig.exe", folder)
+            self.prepare(folder, NVX_SIGN="false")
+
+
+if __name__ == "__main__":
+    unittest.main()
