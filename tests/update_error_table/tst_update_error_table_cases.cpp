@@ -57,6 +57,13 @@ private:
     QString m_before = QDir::currentPath();
 };
 
+// The operating system's own text about a file that does not exist.
+QString textOfMissingFile()
+{
+    QFile file(u"no such file"_s);
+    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
+}
+
 struct Run
 {
     int exitCode = 0;
@@ -71,6 +78,7 @@ Run run(const QStringList &arguments)
     QTextStream errors(&result.errors);
     result.exitCode =
         static_cast<int>(runUpdateErrorTable(arguments, output, errors, OutputDevice::FileOrPipe));
+    result.errors.replace(textOfMissingFile(), u"No such file or directory"_s);
     return result;
 }
 
