@@ -79,7 +79,7 @@ PROGRAMS = (
     Program(
         "MessageTableUtility",
         "messagetableutility",
-        (Page("window"),),
+        (Page("window"), Page("panel", keys=("ctrl+Down",)), Page("findings", keys=("F7",))),
         tokens=(TABLES + "\\errors.xml",),
         only=("en-US", "ja-JP"),
     ),

@@ -93,7 +93,7 @@ MessagePanel::MessagePanel(QWidget *parent)
     layout->addWidget(m_preview);
     layout->addStretch(1);
 
-    constexpr int widthInCharacters = 40;
+    constexpr int widthInCharacters = 32;
     // A small screen must not force the window to be higher than itself.
     auto *scrolling = new QScrollArea;
     scrolling->setWidget(contents);
