@@ -5,6 +5,7 @@
 #include "nvx_util/machine.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
+#include "nvx_util/trusted_files.h"
 #include "nvx_util/whole_file.h"
 #include "run/product_files.h"
 #include "run/progress_view.h"
@@ -101,6 +102,9 @@ void cfg_utilitys::processFlagFile(const QString &name, RunMode mode)
     progress(LogLevel::step, tr("Processing ") + name);
     const QString folder = System::getFlagsDirPath();
     const QString path = joinPath(folder, name);
+    const auto way = Util::HeldWay::toEntry(path);
+    if (!isTrustedWay(context().reporter, way, path))
+        return;
     Util::removeUnfinished(path);
     if (mode != RunMode::Install) {
         if (Engine::isUnchangedFlagFile(path)) {

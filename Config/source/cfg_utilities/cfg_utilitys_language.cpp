@@ -5,6 +5,7 @@
 #include "nvx_util/languages.h"
 #include "nvx_util/product.h"
 #include "nvx_util/system.h"
+#include "nvx_util/trusted_files.h"
 #include "nvx_util/whole_file.h"
 #include "run/product_files.h"
 
@@ -66,8 +67,11 @@ void cfg_utilitys::changeLanguage(const QString &locale)
 void cfg_utilitys::createFlagsFile()
 {
     const QString flagsFolder = System::getFlagsDirPath();
-    System::makePath(flagsFolder);
     const QString target = joinPath(flagsFolder, flagsFile);
+    const auto way = Util::HeldWay::toEntry(target);
+    if (!isTrustedWay(context().reporter, way, target))
+        return;
+    System::makePath(flagsFolder);
     if (QFile::exists(target))
         return;
 
