@@ -23,7 +23,7 @@ namespace Localization {
 namespace {
 
 const QString jobName = u"NVX360"_s;
-const QStringList sourceNames = {u"client.ts"_s, u"nvxconfig.ts"_s, u"matprop.ts"_s};
+const QStringList filesToTranslate = {u"client.ts"_s, u"nvxconfig.ts"_s, u"matprop.ts"_s};
 
 // Folders of a share that others can write to, and that could be links to other places.
 constexpr int languageLevels = 3; // pTrans, NVX360, CODE
@@ -123,7 +123,7 @@ void TranslationJob::writeJobFile()
     remove(jobPath(u".done"_s));
 
     QStringList names;
-    for (const QString &name : sourceNames)
+    for (const QString &name : filesToTranslate)
         if (QFile::exists(joinPath(m_folders.folder(sourceLanguage.locale), name)))
             names.append(name);
     if (Nvx::Util::replaceWholeFile(path, jobFile(names)))
