@@ -327,10 +327,13 @@ private slots:
     {
         const std::string pattern = "a{*/\nT_x\"K_\\*/}'#/ Ta_K ";
         for (std::size_t length = 0; length < 80; ++length) {
-            std::string text;
-            while (text.size() < length)
-                text += text.size() % 7 == 3 ? std::string(11, 'b') : pattern;
-            text.resize(length);
+            std::string longer;
+            while (longer.size() < length)
+                longer += longer.size() % 7 == 3 ? std::string(11, 'b') : pattern;
+            // The byte after the text would complete a hint.
+            longer.resize(length);
+            longer += '_';
+            const std::string_view text(longer.data(), length);
             for (std::size_t from = 0; from <= length; ++from) {
                 const std::size_t lineFeed = text.find('\n', from);
                 QCOMPARE(Wide::findLineFeed(text, from), std::min(lineFeed, length));

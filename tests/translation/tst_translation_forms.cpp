@@ -82,6 +82,11 @@ private slots:
             << fileOf("<message><source>a</source><translation>b</translation><translation>c</translation>"
                       "</message>")
             << true;
+        QTest::newRow("second source")
+            << fileOf("<message><source>a</source><source>b</source></message>") << true;
+        QTest::newRow("second comment")
+            << fileOf("<message><source>a</source><comment>b</comment><comment>c</comment></message>")
+            << true;
         QTest::newRow("context that occurs again")
             << QByteArray("<TS><context><name>a</name></context><context><name>a</name></context></TS>")
             << true;
