@@ -154,14 +154,14 @@ bool isConflictMark(const QByteArray &line)
             line.at(length) == '\n');
 }
 
-/// The first line of the device with such a mark; 0 if there is none.
-qint64 lineWithConflictMark(QIODevice &device)
+/// The first line with such a mark that begins within so many bytes of the device; 0 if there is none.
+qint64 lineWithConflictMark(QIODevice &device, qint64 bytes)
 {
     constexpr qint64 enough = 64;
     if (device.isSequential() || !device.seek(0))
         return 0;
     qint64 number = 1;
-    for (bool isBegin = true;;) {
+    for (bool isBegin = true; device.pos() < bytes;) {
         const QByteArray piece = device.readLine(enough);
         if (piece.isEmpty())
             return 0;
@@ -170,6 +170,7 @@ qint64 lineWithConflictMark(QIODevice &device)
         isBegin = piece.endsWith('\n');
         number += isBegin ? 1 : 0;
     }
+    return 0;
 }
 
 /// The same for the documents that a PlainXmlSource reads. Returns false if it is none of these; the device
@@ -212,7 +213,10 @@ TableReading readMessageTableWithQt(QIODevice &device, MessageTable &table)
         reading.error = xml.errorString();
         reading.errorLine = xml.lineNumber();
     }
-    if (const qint64 line = lineWithConflictMark(device)) {
+    // What follows an error is not looked at: it may be a large file in another format.
+    constexpr qint64 bytesOfACharacter = 4;
+    const qint64 read = xml.hasError() ? bytesOfACharacter * (xml.characterOffset() + 1) : device.size();
+    if (const qint64 line = lineWithConflictMark(device, read)) {
         reading.succeeded = false;
         reading.error = Texts::tr("The marks of an unfinished merge");
         reading.errorLine = line;

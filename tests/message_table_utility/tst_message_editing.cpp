@@ -342,7 +342,7 @@ void tst_message_editing::dayOfWorkNeedsOnlyTheKeyboard()
 void tst_message_editing::largeTableAnswersEveryKeyAtOnce()
 {
     constexpr int messages = 100'000;
-    constexpr std::chrono::milliseconds limit(50);
+    constexpr std::chrono::milliseconds limit(50 * sanitizerFactor);
     EditingFixture f;
     Clt::MessageTable table = tableOf(messages);
     Clt::Message last = messageOf("zzz", "Z::z", "Last", Clt::MessageState::New);
