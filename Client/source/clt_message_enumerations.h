@@ -58,7 +58,7 @@ Answer textToAnswer(QStringView text);
 /// empty for the empty set.
 QString answersToText(Answers answers);
 
-/// The set of answers for a text in the form that answersToText returns.
+/// Parses a list of answers as answersToText writes it.
 Answers textToAnswers(QStringView text);
 
 /// Converts an expression from a source file, names joined by "|" with any number of "::" prefixes each, to

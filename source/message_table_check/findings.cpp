@@ -176,6 +176,8 @@ void checkString(FileReport &report, const TranslationString &string)
 Result<FileReport> checkDocument(QIODevice &device)
 {
     QXmlStreamReader xml(&device);
+    if (const qint64 line = Clt::limitExpansion(xml, device))
+        return Failure{u"line %1: %2"_s.arg(QString::number(line), Clt::tooManyAttributes())};
     FileReport report;
     TableChecker tableChecker(report);
     bool isKnown = false;

@@ -1,5 +1,6 @@
 #include "message_table_check/translation_document.h"
 
+#include "clt_xml_source.h"
 #include "clt_xml_text.h"
 #include "message_table_check/xliff_reader.h"
 
@@ -171,6 +172,8 @@ bool isXml(const TranslationString &string)
 Result<TranslationDocument> readTranslationDocument(QIODevice &device)
 {
     QXmlStreamReader xml(&device);
+    if (const qint64 line = Clt::limitExpansion(xml, device))
+        return Failure{u"line %1: %2"_s.arg(QString::number(line), Clt::tooManyAttributes())};
     TranslationDocument document;
     bool isKnown = false;
     while (readTo(xml, {u"TS", u"xliff"})) {
@@ -197,6 +200,8 @@ Result<TranslationDocument> readTranslationDocument(QIODevice &device)
 Result<QByteArray> translationFileForQt6(QIODevice &device)
 {
     QXmlStreamReader xml(&device);
+    if (const qint64 line = Clt::limitExpansion(xml, device))
+        return Failure{u"line %1: %2"_s.arg(QString::number(line), Clt::tooManyAttributes())};
     QBuffer contents;
     contents.open(QIODevice::WriteOnly);
     Copy copy(contents);

@@ -173,6 +173,15 @@ private slots:
         QTest::newRow("conflict marks")
             << QByteArray("<messageTable>\n<<<<<<< HEAD\n") << u"line 2: Unexpected "_s;
         QTest::newRow("empty file") << QByteArray() << u"line 1: Premature end of document."_s;
+        const QByteArray entity = "<!DOCTYPE a [<!ENTITY e \"" + QByteArray(4000, 'A') + "\">]>\n";
+        const QByteArray references = QByteArray("&e;").repeated(50'000);
+        QTest::newRow("table with a large entity, many times")
+            << entity + "<messageTable><message severity=\"Status\">\n<text>" + references +
+                   "</text></message></messageTable>"
+            << u"line 3: "_s;
+        QTest::newRow("translation file with a large entity, many times")
+            << entity + "<TS><context><message>\n<source>" + references + "</source></message></context></TS>"
+            << u"line 3: "_s;
     }
 
     void unusableDocumentIsRefused()

@@ -92,6 +92,7 @@ private slots:
     void onlyTheCodecIsLeftOut();
     void fileThatIsNoTranslationIsNotConverted_data();
     void fileThatIsNoTranslationIsNotConverted();
+    void documentWithALargeEntityManyTimesIsRefused();
     void xliffHasEverythingOfAString();
     void xliffRefusesCharactersThatItCannotHold();
     void xliffOfOtherToolsIsRead_data();
@@ -135,6 +136,19 @@ void tst_exchange::fileThatIsNoTranslationIsNotConverted()
     const Result<QByteArray> converted = forQt6(document);
     QVERIFY(!converted);
     QTEST(converted.error(), "error");
+}
+
+void tst_exchange::documentWithALargeEntityManyTimesIsRefused()
+{
+    const QByteArray document = "<!DOCTYPE TS [<!ENTITY e \"" + QByteArray(4000, 'A') +
+                                "\">]>\n<TS><context><message>\n<source>" +
+                                QByteArray("&e;").repeated(50'000) + "</source></message></context></TS>";
+    const Result<QByteArray> converted = forQt6(document);
+    QVERIFY(!converted);
+    QVERIFY2(converted.error().startsWith(u"line 3: "_s), qPrintable(converted.error()));
+    const Result<TranslationDocument> strings = read(document);
+    QVERIFY(!strings);
+    QVERIFY2(strings.error().startsWith(u"line 3: "_s), qPrintable(strings.error()));
 }
 
 void tst_exchange::xliffHasEverythingOfAString()
