@@ -43,13 +43,16 @@ ENVIRONMENT_KEY = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Sessi
 SERVICES = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"
 # Services that are not needed; they would double the time of a start.
 NEEDLESS_SERVICES = ("Eventlog", "PlugPlay", "NDIS", "nsiproxy")
+# Started twice for each shortcut that is saved, to enter it into the menu of the host's desktop. Although
+# it is disabled, its process would be started, and end at once. An empty file in its place is not started.
+MENU_BUILDER = "C:\\windows\\system32\\winemenubuilder.exe"
 # Files of these kinds in the Windows folder are shared by all machines.
 SHARED_KINDS = {
     *(".dll", ".exe", ".sys", ".drv", ".ocx", ".cpl", ".acm", ".ds", ".ax", ".nls", ".tlb", ".msstyles")
 }
 SHARED_SIZE = 1 << 20
 IMPORT_KEY = "HKEY_CURRENT_USER\\Software\\Wine\\Imported scripts"
-START_TIMEOUT_S = 60
+START_TIMEOUT_S = 240  # the first start of a template fills its folder
 STOP_TIMEOUT_S = 120
 LOCK_TAKEN = 2  # the exit status of a server if another one is running
 
@@ -375,13 +378,15 @@ def _stop_other_server(environment):
 
 
 def make_template(folder: StrPath) -> Path:
-    """Makes the template of all machines, unless it exists and was made by this version of Wine."""
+    """Makes the template of all machines, unless it exists and was made in the same way by this version of
+    Wine."""
     folder = Path(folder)
     version = subprocess.run(
         ["wine", "--version"], env={**os.environ, "WINEDEBUG": "-all"}, stdout=subprocess.PIPE
     ).stdout.decode()
+    made_by = " ".join((version.strip(), "without", *NEEDLESS_SERVICES, MENU_BUILDER))
     stamp = folder / "made-by"
-    if stamp.exists() and stamp.read_text() == version:
+    if stamp.exists() and stamp.read_text() == made_by:
         return folder
     shutil.rmtree(folder, ignore_errors=True)
     (folder / "home").mkdir(parents=True)
@@ -390,7 +395,10 @@ def make_template(folder: StrPath) -> Path:
     for service in NEEDLESS_SERVICES:
         machine.run("reg", "add", SERVICES + service, "/v", "Start", "/t", "REG_DWORD", "/d", "4", "/f")
     machine.stop()
-    stamp.write_text(version)
+    menu_builder = machine.path(MENU_BUILDER)
+    menu_builder.unlink()
+    menu_builder.touch()
+    stamp.write_text(made_by)
     return folder
 
 
