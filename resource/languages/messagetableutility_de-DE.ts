@@ -478,5 +478,9 @@ Diese Übersetzungen übernehmen? Die Texte bleiben unfertig.</translation>
         <source>These files were skipped: their messages were not found.</source>
         <translation>Diese Dateien wurden übersprungen; die darin enthaltenen Meldungen wurden nicht gefunden.</translation>
     </message>
+    <message>
+        <source>These entries of the project were not resolved: the files that they list were not scanned.</source>
+        <translation>Diese Einträge des Projekts konnten nicht aufgelöst werden; die darin genannten Quelldateien wurden nicht durchsucht.</translation>
+    </message>
 </context>
 </TS>

@@ -478,5 +478,9 @@ Reprendre ces traductions&#xa0;? Les textes restent inachevés.</translation>
         <source>These files were skipped: their messages were not found.</source>
         <translation>Ces fichiers ont été ignorés&#xa0;: leurs messages n&apos;ont pas été trouvés.</translation>
     </message>
+    <message>
+        <source>These entries of the project were not resolved: the files that they list were not scanned.</source>
+        <translation>Ces entrées du projet n&apos;ont pas pu être résolues&#xa0;: les fichiers sources qu&apos;elles désignent n&apos;ont pas été analysés.</translation>
+    </message>
 </context>
 </TS>

@@ -478,5 +478,9 @@ Riprendere queste traduzioni? I testi restano incompleti.</translation>
         <source>These files were skipped: their messages were not found.</source>
         <translation>Questi file sono stati ignorati: i loro messaggi non sono stati trovati.</translation>
     </message>
+    <message>
+        <source>These entries of the project were not resolved: the files that they list were not scanned.</source>
+        <translation>Queste voci del progetto non sono state risolte: i file sorgente che indicano non sono stati analizzati.</translation>
+    </message>
 </context>
 </TS>

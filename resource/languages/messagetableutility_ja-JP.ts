@@ -478,5 +478,9 @@ Take these translations over? The strings stay unfinished.</source>
         <source>These files were skipped: their messages were not found.</source>
         <translation>これらのファイルはスキップされたため、含まれるメッセージは検出されていません。</translation>
     </message>
+    <message>
+        <source>These entries of the project were not resolved: the files that they list were not scanned.</source>
+        <translation>プロジェクトのこれらの項目は解決できなかったため、項目が示すソース ファイルはスキャンされていません。</translation>
+    </message>
 </context>
 </TS>

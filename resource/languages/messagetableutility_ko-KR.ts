@@ -478,5 +478,9 @@ Take these translations over? The strings stay unfinished.</source>
         <source>These files were skipped: their messages were not found.</source>
         <translation>이 파일은 건너뛰었으며 해당 메시지를 찾지 못했습니다.</translation>
     </message>
+    <message>
+        <source>These entries of the project were not resolved: the files that they list were not scanned.</source>
+        <translation>프로젝트의 이 항목을 확인할 수 없어 항목이 가리키는 소스 파일을 검사하지 않았습니다.</translation>
+    </message>
 </context>
 </TS>

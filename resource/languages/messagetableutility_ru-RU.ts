@@ -478,5 +478,9 @@ Take these translations over? The strings stay unfinished.</source>
         <source>These files were skipped: their messages were not found.</source>
         <translation>Эти файлы пропущены: их сообщения не найдены.</translation>
     </message>
+    <message>
+        <source>These entries of the project were not resolved: the files that they list were not scanned.</source>
+        <translation>Эти записи проекта не удалось разрешить: указанные в них исходные файлы не просмотрены.</translation>
+    </message>
 </context>
 </TS>

@@ -478,5 +478,9 @@ Take these translations over? The strings stay unfinished.</source>
         <source>These files were skipped: their messages were not found.</source>
         <translation>已跳过这些文件：未找到其中的消息。</translation>
     </message>
+    <message>
+        <source>These entries of the project were not resolved: the files that they list were not scanned.</source>
+        <translation>无法解析项目中的这些条目：未扫描它们指定的源文件。</translation>
+    </message>
 </context>
 </TS>

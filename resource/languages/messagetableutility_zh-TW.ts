@@ -478,5 +478,9 @@ Take these translations over? The strings stay unfinished.</source>
         <source>These files were skipped: their messages were not found.</source>
         <translation>已略過這些檔案：找不到其中的訊息。</translation>
     </message>
+    <message>
+        <source>These entries of the project were not resolved: the files that they list were not scanned.</source>
+        <translation>無法解析專案中的這些項目：未掃描它們指定的原始程式檔。</translation>
+    </message>
 </context>
 </TS>

@@ -155,8 +155,8 @@ void MessageTableUtility::synchronize()
         showStatus(tr("Synchronization cancelled; the table is unchanged"));
         return;
     }
-    if (!scan->errors.isEmpty())
-        dialogs().warn(this, tr("Parser Error"), MessageWindow::scanErrorText(scan->errors));
+    if (!scan->errors.isEmpty() || !project->notes.isEmpty())
+        dialogs().warn(this, tr("Parser Error"), MessageWindow::scanErrorText(scan->errors, project->notes));
     synchronizeWith(scan->keys, milliseconds);
 }
 

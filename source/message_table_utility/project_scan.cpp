@@ -16,6 +16,15 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(ProjectScan)
 };
 
+QStringList firstLines(const QStringList &lines)
+{
+    constexpr qsizetype maximum = 10;
+    QStringList first = lines.mid(0, maximum);
+    if (lines.size() > maximum)
+        first.append(Texts::tr("... and %1 more").arg(lines.size() - maximum));
+    return first;
+}
+
 } // namespace
 
 ProjectScan scanProject(const Scan::VisualStudioProject &project, const ScanReceiver &receive)
@@ -25,8 +34,8 @@ ProjectScan scanProject(const Scan::VisualStudioProject &project, const ScanRece
         const Scan::ProjectSource &source = project.sources.at(index);
         if (scanner.hasError())
             scan.errors.append(u"%1: %2"_s.arg(source.name, scanner.errorText()));
-        if (!source.problem.isEmpty())
-            scan.errors.last() += u" (%1)"_s.arg(source.problem);
+        if (const QString problem = Scan::openProblem(source, scanner); !problem.isEmpty())
+            scan.errors.last() += u" (%1)"_s.arg(problem);
         Scan::addKeys(scan.keys, scanner);
         return receive(index + 1, scan.keys.size()) ? Scan::Continuation::Continue : Scan::Continuation::Stop;
     };
@@ -34,14 +43,19 @@ ProjectScan scanProject(const Scan::VisualStudioProject &project, const ScanRece
     return scan;
 }
 
-QString scanErrorText(const QStringList &errors)
+QString scanErrorText(const QStringList &errors, const QStringList &notes)
 {
-    constexpr qsizetype maximum = 10;
-    QStringList lines = errors.mid(0, maximum);
-    if (errors.size() > maximum)
-        lines.append(Texts::tr("... and %1 more").arg(errors.size() - maximum));
-    lines.append(QString());
-    lines.append(Texts::tr("These files were skipped: their messages were not found."));
+    QStringList lines;
+    if (!errors.isEmpty())
+        lines << firstLines(errors) << QString()
+              << Texts::tr("These files were skipped: their messages were not found.");
+    if (!errors.isEmpty() && !notes.isEmpty())
+        lines << QString();
+    if (!notes.isEmpty())
+        lines << firstLines(notes) << QString()
+              << Texts::tr(
+                     "These entries of the project were not resolved: the files that they list were not "
+                     "scanned.");
     return lines.join(u'\n');
 }
 

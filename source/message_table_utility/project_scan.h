@@ -28,7 +28,8 @@ using ScanReceiver = std::function<bool(qsizetype files, qsizetype keys)>;
 /// or was stopped.
 ProjectScan scanProject(const Scan::VisualStudioProject &project, const ScanReceiver &receive);
 
-/// The text of a message box: the first of the errors and the number of the others.
-QString scanErrorText(const QStringList &errors);
+/// The text of a message box: the first of the errors and of the project's notes, and the number of the
+/// others.
+QString scanErrorText(const QStringList &errors, const QStringList &notes);
 
 } // namespace MessageWindow

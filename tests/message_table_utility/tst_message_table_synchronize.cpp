@@ -35,6 +35,8 @@ private slots:
     void fileThatIsNoProjectIsReported_data();
     void fileThatIsNoProjectIsReported();
     void missingSourcesAreReportedAndTheOthersScanned();
+    void entriesOfTheProjectThatCannotBeResolvedAreNamed();
+    void theReasonWhyASourceIsNotOpenedIsNamed();
     void faultySourceIsReportedWithItsLine();
     void manyErrorsFitIntoAMessageBox();
     void elapsedTimeExcludesTheMessageBox();
@@ -159,11 +161,48 @@ void tst_message_table_synchronize::missingSourcesAreReportedAndTheOthersScanned
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
     QCOMPARE(f.dialogs.warnings.first().title, u"Parser Error"_s);
-    QCOMPARE(f.dialogs.warnings.first().text,
-             u"gone.cpp: Cannot open file\nsub\\gone.cpp: Cannot open file\n\n"
-             "These files were skipped: their messages were not found."_s);
+    QCOMPARE(f.dialogs.warnings.first().text, u"gone.cpp: Cannot open file (the file does not exist)\n"
+                                              "sub\\gone.cpp: Cannot open file (the file does not exist)\n\n"
+                                              "These files were skipped: their messages were not found."_s);
     QCOMPARE(f.shownRows(), QStringList(u"client|f|One|New"_s));
     expectStatus(f, u"Found 1 keys (1 new, 0 existing, and 0 obsolete)"_s);
+}
+
+void tst_message_table_synchronize::entriesOfTheProjectThatCannotBeResolvedAreNamed()
+{
+    UtilityFixture f;
+    f.window.newTable();
+    f.writeSource(u"a.cpp"_s, oneMessageSource);
+    f.chooseProject({u"a.cpp"_s, u"*.cxx"_s});
+    f.action("actionSynchronize")->trigger();
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+    QCOMPARE(f.dialogs.warnings.first().title, u"Parser Error"_s);
+    const QString notes = u"No file matches *.cxx (client.vcxproj, line 1)\n\n"
+                          "These entries of the project were not resolved: the files that they list were not "
+                          "scanned."_s;
+    QCOMPARE(f.dialogs.warnings.first().text, notes);
+    QCOMPARE(f.shownRows(), QStringList(u"client|f|One|New"_s));
+
+    f.chooseProject({u"gone.cpp"_s, u"*.cxx"_s});
+    f.action("actionSynchronize")->trigger();
+    QCOMPARE(f.dialogs.warnings.last().text,
+             u"gone.cpp: Cannot open file (the file does not exist)\n\n"
+             "These files were skipped: their messages were not found.\n\n"_s +
+                 notes);
+}
+
+void tst_message_table_synchronize::theReasonWhyASourceIsNotOpenedIsNamed()
+{
+    UtilityFixture f;
+    f.window.newTable();
+    f.chooseProject({u"$(BoostRoot)\\x.cpp"_s, u"folder.cpp"_s});
+    QVERIFY(QDir().mkdir(f.folder.path(u"project/folder.cpp"_s)));
+    f.action("actionSynchronize")->trigger();
+    QCOMPARE(f.dialogs.warnings.size(), 1);
+    const QString text = f.dialogs.warnings.first().text;
+    QVERIFY2(text.contains(u"x.cpp: Cannot open file (the property \"BoostRoot\" is not defined)\n"_s),
+             qPrintable(text));
+    QVERIFY2(text.contains(u"\nfolder.cpp: Cannot open file ("_s), qPrintable(text));
 }
 
 void tst_message_table_synchronize::faultySourceIsReportedWithItsLine()
@@ -189,7 +228,7 @@ void tst_message_table_synchronize::manyErrorsFitIntoAMessageBox()
     f.action("actionSynchronize")->trigger();
     QCOMPARE(f.dialogs.warnings.size(), 1);
     const QString text = f.dialogs.warnings.first().text;
-    QVERIFY(text.contains(u"\ngone9.cpp: Cannot open file\n... and 490 more\n"_s));
+    QVERIFY(text.contains(u"\ngone9.cpp: Cannot open file (the file does not exist)\n... and 490 more\n"_s));
     QVERIFY(text.count(u'\n') < 15);
 }
 
