@@ -257,12 +257,8 @@
         <translation>Aktualisierung abgebrochen, die Übersetzung ist unverändert</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1
-
-Save without these texts?</source>
-        <translation>Meldungen mit einem Titel oder einer Maßnahme, die bei ihrem Schweregrad nicht gespeichert wird: %L1
-
-Ohne diese Texte speichern?</translation>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>Meldungen mit einem Titel oder einer Maßnahme, die bei ihrem Schweregrad nicht gespeichert wird: %L1</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

@@ -257,12 +257,8 @@
         <translation>Mise à jour annulée, la traduction est inchangée</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1
-
-Save without these texts?</source>
-        <translation>Messages avec un titre ou une action que leur gravité ne permet pas d&apos;enregistrer&#xa0;: %L1
-
-Enregistrer sans ces textes&#xa0;?</translation>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>Messages avec un titre ou une action que leur gravité ne permet pas d&apos;enregistrer&#xa0;: %L1</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

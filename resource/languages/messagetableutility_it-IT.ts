@@ -257,12 +257,8 @@
         <translation>Aggiornamento annullato, la traduzione è invariata</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1
-
-Save without these texts?</source>
-        <translation>Messaggi con un titolo o un&apos;azione che non viene salvata con la loro gravità: %L1
-
-Salvare senza questi testi?</translation>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>Messaggi con un titolo o un&apos;azione che non viene salvata con la loro gravità: %L1</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

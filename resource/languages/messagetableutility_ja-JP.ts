@@ -257,12 +257,8 @@
         <translation>更新をキャンセルしました。翻訳は変更されていません。</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1
-
-Save without these texts?</source>
-        <translation>重大度のためにタイトルまたは対処方法が保存されないメッセージ: %L1
-
-これらのテキストなしで保存しますか?</translation>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>重大度のためにタイトルまたは対処方法が保存されないメッセージ: %L1</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

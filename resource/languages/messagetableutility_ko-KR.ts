@@ -257,12 +257,8 @@
         <translation>업데이트가 취소되었으며 번역은 변경되지 않았습니다</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1
-
-Save without these texts?</source>
-        <translation>심각도 때문에 제목이나 조치가 저장되지 않는 메시지: %L1
-
-이 텍스트 없이 저장하시겠습니까?</translation>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>심각도 때문에 제목이나 조치가 저장되지 않는 메시지: %L1</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

@@ -257,12 +257,8 @@
         <translation>Обновление отменено, перевод не изменен</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1
-
-Save without these texts?</source>
-        <translation>Сообщений с заголовком или действием, которые не сохраняются при их важности: %L1
-
-Сохранить без этих текстов?</translation>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>Сообщений с заголовком или действием, которые не сохраняются при их важности: %L1</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

@@ -257,12 +257,8 @@
         <translation>已取消更新，翻译未更改</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1
-
-Save without these texts?</source>
-        <translation>标题或操作因严重性而不会保存的消息：%L1
-
-是否在没有这些文本的情况下保存？</translation>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>标题或操作因严重性而不会保存的消息：%L1</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

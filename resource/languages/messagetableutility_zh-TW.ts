@@ -257,12 +257,8 @@
         <translation>已取消更新，翻譯未變更</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1
-
-Save without these texts?</source>
-        <translation>標題或動作因嚴重性而不會儲存的訊息：%L1
-
-是否在沒有這些文字的情況下儲存？</translation>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>標題或動作因嚴重性而不會儲存的訊息：%L1</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

@@ -142,16 +142,20 @@ Der Speicherort ist möglicherweise schreibgeschützt oder voll. Die Tabelle ble
         <translation>Ihre nicht gespeicherten Änderungen gehen dann verloren.</translation>
     </message>
     <message>
-        <source>%1 was changed by another program. Replace it?</source>
-        <translation>%1 wurde von einem anderen Programm geändert. Ersetzen?</translation>
-    </message>
-    <message>
         <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
         <translation>Nicht alles in der Datei wurde verstanden. Beim Speichern der Tabelle entfallen diese Teile: %1</translation>
     </message>
     <message>
-        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
-        <translation>Beim Speichern entfallen die nicht verstandenen Teile von %1 (%2). Die alte Datei bleibt daneben erhalten. Trotzdem speichern?</translation>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it.</source>
+        <translation>Beim Speichern entfallen die nicht verstandenen Teile von %1 (%2). Die alte Datei bleibt daneben erhalten.</translation>
+    </message>
+    <message>
+        <source>Save the table anyway?</source>
+        <translation>Soll die Tabelle trotzdem gespeichert werden?</translation>
     </message>
 </context>
 <context>

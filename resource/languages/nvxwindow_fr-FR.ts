@@ -142,16 +142,20 @@ L&apos;emplacement est peut-être protégé en écriture ou plein. La table rest
         <translation>Vos modifications non enregistrées seront perdues.</translation>
     </message>
     <message>
-        <source>%1 was changed by another program. Replace it?</source>
-        <translation>%1 a été modifié par un autre programme. Le remplacer&#xa0;?</translation>
-    </message>
-    <message>
         <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
         <translation>Le fichier n&apos;a pas été entièrement compris. L&apos;enregistrement de la table omet ces parties&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
-        <translation>L&apos;enregistrement omet les parties de %1 qui n&apos;ont pas été comprises (%2). L&apos;ancien fichier est conservé à côté. Voulez-vous l&apos;enregistrer&#xa0;?</translation>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 a été modifié par un autre programme.</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it.</source>
+        <translation>L&apos;enregistrement omet les parties de %1 qui n&apos;ont pas été comprises (%2). L&apos;ancien fichier est conservé à côté.</translation>
+    </message>
+    <message>
+        <source>Save the table anyway?</source>
+        <translation>Voulez-vous enregistrer la table malgré tout&#xa0;?</translation>
     </message>
 </context>
 <context>

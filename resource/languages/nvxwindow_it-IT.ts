@@ -142,16 +142,20 @@ La posizione potrebbe essere protetta da scrittura o piena. La tabella resta ape
         <translation>Le modifiche non salvate andranno perse.</translation>
     </message>
     <message>
-        <source>%1 was changed by another program. Replace it?</source>
-        <translation>%1 è stato modificato da un altro programma. Sostituirlo?</translation>
-    </message>
-    <message>
         <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
         <translation>Non tutto il file è stato compreso. Il salvataggio della tabella omette queste parti: %1</translation>
     </message>
     <message>
-        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
-        <translation>Il salvataggio omette le parti di %1 che non sono state comprese (%2). Il vecchio file resta accanto. Salvare?</translation>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 è stato modificato da un altro programma.</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it.</source>
+        <translation>Il salvataggio omette le parti di %1 che non sono state comprese (%2). Il vecchio file resta accanto.</translation>
+    </message>
+    <message>
+        <source>Save the table anyway?</source>
+        <translation>Salvare comunque la tabella?</translation>
     </message>
 </context>
 <context>

@@ -142,16 +142,20 @@ The location may be write-protected or full. The table stays open, unsaved; save
         <translation>保存されていない変更は失われます。</translation>
     </message>
     <message>
-        <source>%1 was changed by another program. Replace it?</source>
-        <translation>%1 は別のプログラムによって変更されました。置き換えますか?</translation>
-    </message>
-    <message>
         <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
         <translation>ファイルに認識できない部分があります。テーブルを保存すると失われる部分: %1</translation>
     </message>
     <message>
-        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
-        <translation>保存すると、%1 の認識できなかった部分 (%2) が失われます。元のファイルは同じ場所に残ります。保存しますか?</translation>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 は別のプログラムによって変更されました。</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it.</source>
+        <translation>保存すると、%1 の認識できなかった部分 (%2) が失われます。元のファイルは同じ場所に残ります。</translation>
+    </message>
+    <message>
+        <source>Save the table anyway?</source>
+        <translation>このままテーブルを保存しますか?</translation>
     </message>
 </context>
 <context>

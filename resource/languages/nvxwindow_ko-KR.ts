@@ -142,16 +142,20 @@ The location may be write-protected or full. The table stays open, unsaved; save
         <translation>저장하지 않은 변경 내용은 사라집니다.</translation>
     </message>
     <message>
-        <source>%1 was changed by another program. Replace it?</source>
-        <translation>%1이(가) 다른 프로그램에서 변경되었습니다. 바꿀까요?</translation>
-    </message>
-    <message>
         <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
         <translation>파일에 인식할 수 없는 부분이 있습니다. 테이블을 저장하면 제외되는 부분: %1</translation>
     </message>
     <message>
-        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
-        <translation>저장하면 %1에서 인식하지 못한 부분(%2)이 제외됩니다. 이전 파일은 같은 위치에 유지됩니다. 저장하시겠습니까?</translation>
+        <source>%1 was changed by another program.</source>
+        <translation>%1이(가) 다른 프로그램에서 변경되었습니다.</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it.</source>
+        <translation>저장하면 %1에서 인식하지 못한 부분(%2)이 제외됩니다. 이전 파일은 같은 위치에 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>Save the table anyway?</source>
+        <translation>그래도 테이블을 저장하시겠습니까?</translation>
     </message>
 </context>
 <context>

@@ -135,23 +135,27 @@ The location may be write-protected or full. The table stays open, unsaved; save
     </message>
     <message>
         <source>%1 was changed by another program. Load it again?</source>
-        <translation>Файл %1 изменён другой программой. Загрузить его заново?</translation>
+        <translation>Файл %1 изменен другой программой. Загрузить его заново?</translation>
     </message>
     <message>
         <source>Your unsaved changes will be lost.</source>
-        <translation>Несохранённые изменения будут потеряны.</translation>
-    </message>
-    <message>
-        <source>%1 was changed by another program. Replace it?</source>
-        <translation>Файл %1 изменён другой программой. Заменить его?</translation>
+        <translation>Несохраненные изменения будут потеряны.</translation>
     </message>
     <message>
         <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
         <translation>Не все содержимое файла распознано. При сохранении таблицы будут опущены части: %1</translation>
     </message>
     <message>
-        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
-        <translation>При сохранении нераспознанные части %1 (%2) будут опущены. Прежний файл останется рядом. Сохранить?</translation>
+        <source>%1 was changed by another program.</source>
+        <translation>Файл %1 изменен другой программой.</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it.</source>
+        <translation>При сохранении нераспознанные части %1 (%2) будут опущены. Прежний файл останется рядом.</translation>
+    </message>
+    <message>
+        <source>Save the table anyway?</source>
+        <translation>Все равно сохранить таблицу?</translation>
     </message>
 </context>
 <context>

@@ -142,16 +142,20 @@ The location may be write-protected or full. The table stays open, unsaved; save
         <translation>未保存的更改将会丢失。</translation>
     </message>
     <message>
-        <source>%1 was changed by another program. Replace it?</source>
-        <translation>%1 已被其他程序更改。是否替换？</translation>
-    </message>
-    <message>
         <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
         <translation>文件中有未能识别的内容。保存表时将省略这些部分：%1</translation>
     </message>
     <message>
-        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
-        <translation>保存时将省略 %1 中未能识别的部分（%2）。原来的文件会保留在旁边。是否保存？</translation>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 已被其他程序更改。</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it.</source>
+        <translation>保存时将省略 %1 中未能识别的部分（%2）。原来的文件会保留在旁边。</translation>
+    </message>
+    <message>
+        <source>Save the table anyway?</source>
+        <translation>仍要保存表吗？</translation>
     </message>
 </context>
 <context>

@@ -142,16 +142,20 @@ The location may be write-protected or full. The table stays open, unsaved; save
         <translation>未儲存的變更將會遺失。</translation>
     </message>
     <message>
-        <source>%1 was changed by another program. Replace it?</source>
-        <translation>%1 已被其他程式變更。是否取代？</translation>
-    </message>
-    <message>
         <source>Not everything in the file was understood. Saving the table drops these parts: %1</source>
         <translation>檔案中有無法辨識的內容。儲存表時將省略這些部分：%1</translation>
     </message>
     <message>
-        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it. Save it?</source>
-        <translation>儲存時將省略 %1 中無法辨識的部分（%2）。原來的檔案會保留在旁邊。要儲存嗎？</translation>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 已被其他程式變更。</translation>
+    </message>
+    <message>
+        <source>Saving drops the parts of %1 that were not understood (%2). The old file is kept next to it.</source>
+        <translation>儲存時將省略 %1 中無法辨識的部分（%2）。原來的檔案會保留在旁邊。</translation>
+    </message>
+    <message>
+        <source>Save the table anyway?</source>
+        <translation>仍要儲存表格嗎？</translation>
     </message>
 </context>
 <context>

@@ -109,14 +109,12 @@ Outcome MessageTableUtility::loadTable(const QString &fileName, Window::Progress
     return Done();
 }
 
-bool MessageTableUtility::mayBeSaved()
+QString MessageTableUtility::lossBySaving() const
 {
     const int unsaved = m_store.status().unsaved;
-    return unsaved == 0 ||
-           dialogs().confirm(this, texts().saveTitle,
-                             tr("Messages with a title or an action that is not saved with their severity: "
-                                "%L1\n\nSave without these texts?")
-                                 .arg(unsaved));
+    return unsaved == 0 ? QString()
+                        : tr("Messages with a title or an action that is not saved with their severity: %L1")
+                              .arg(unsaved);
 }
 
 bool MessageTableUtility::saveTable(const QString &fileName)

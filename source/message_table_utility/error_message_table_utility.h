@@ -40,7 +40,7 @@ public slots:
 protected:
     void clearTable() override;
     Nvx::Util::Outcome loadTable(const QString &fileName, Window::Progress &progress) override;
-    bool mayBeSaved() override;
+    QString lossBySaving() const override;
     bool saveTable(const QString &fileName) override;
     QString savedNote() const override;
     Clt::Leftovers leftovers() const override { return messages().leftovers(); }

@@ -180,15 +180,23 @@ void TableWindow::showLeftovers()
         u"%1\n\n%2\n%3"_s.arg(m_fileName, text.arg(left.count()), left.texts(maximum).join(u'\n')));
 }
 
-bool TableWindow::mayDropLeftovers(const QString &path)
+// One question about everything that would be lost.
+bool TableWindow::mayBeSaved(const QString &path)
 {
+    QStringList losses;
+    if (path == m_fileName && m_watch.isChanged())
+        losses.append(tr("%1 was changed by another program.").arg(path));
+    if (const QString loss = lossBySaving(); !loss.isEmpty())
+        losses.append(loss);
     const Clt::Leftovers left = leftovers();
-    if (left.isEmpty() || !Clt::isSameFile(path, m_fileName))
+    if (!left.isEmpty() && Clt::isSameFile(path, m_fileName))
+        losses.append(tr("Saving drops the parts of %1 that were not understood (%2). The old file is kept "
+                         "next to it.")
+                          .arg(QFileInfo(path).fileName(), QString::number(left.count())));
+    if (losses.isEmpty())
         return true;
-    return m_dialogs.confirm(this, m_texts.saveTitle,
-                             tr("Saving drops the parts of %1 that were not understood (%2). The old file is "
-                                "kept next to it. Save it?")
-                                 .arg(QFileInfo(path).fileName(), QString::number(left.count())));
+    losses.append(tr("Save the table anyway?"));
+    return m_dialogs.confirm(this, m_texts.saveTitle, losses.join(u"\n\n"_s));
 }
 
 void TableWindow::showLoadError(const QString &path, const QString &error)
@@ -221,11 +229,7 @@ void TableWindow::offerToLoadAgain()
 bool TableWindow::saveTo(const QString &fileName)
 {
     const QString path = QDir::toNativeSeparators(QFileInfo(fileName).absoluteFilePath());
-    if (path == m_fileName && m_watch.isChanged() &&
-        !m_dialogs.confirm(this, m_texts.saveTitle,
-                           tr("%1 was changed by another program. Replace it?").arg(path)))
-        return false;
-    if (!mayBeSaved() || !mayDropLeftovers(path))
+    if (!mayBeSaved(path))
         return false;
     if (!saveShowingWait(path)) {
         m_dialogs.warn(this, m_texts.saveTitle,

@@ -100,8 +100,8 @@ protected:
     /// unchanged.
     virtual Nvx::Util::Outcome loadTable(const QString &fileName, Progress &progress) = 0;
 
-    /// Called before the table is saved. Returns false if the user was asked and does not want that.
-    virtual bool mayBeSaved() { return true; }
+    /// What saving would lose of the table itself, as a sentence for the user; empty if nothing.
+    virtual QString lossBySaving() const { return {}; }
 
     /// Writes the file whole or not at all. Returns false if it could not be written.
     virtual bool saveTable(const QString &fileName) = 0;
@@ -173,7 +173,7 @@ private:
     bool load(const QString &fileName);
     void showLoadError(const QString &path, const QString &error);
     void showLeftovers();
-    bool mayDropLeftovers(const QString &path);
+    bool mayBeSaved(const QString &path);
     bool saveTo(const QString &fileName);
     bool saveShowingWait(const QString &path);
     void tableReplaced(const QString &fileName);

@@ -3,6 +3,8 @@
 #include "support/test_class.h"
 #include "utility_fixture.h"
 
+#include <QComboBox>
+#include <QPlainTextEdit>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -80,9 +82,30 @@ private slots:
         QCOMPARE(
             f.dialogs.confirmations.first().text,
             u"Saving drops the parts of other.xml that were not understood (4). The old file is kept next to "
-            "it. Save it?"_s);
+            "it.\n\nSave the table anyway?"_s);
         QCOMPARE(fileBytes(f.otherFile), misspeltTable());
         QVERIFY(!QFile::exists(f.otherFile + u".before"_s));
+    }
+
+    void everythingThatSavingLosesIsOneQuestion()
+    {
+        UtilityFixture f;
+        f.dialogs.isConfirmed = true;
+        prepare(f, misspeltTable() + "<!-- by another program -->");
+        f.view()->selectRow(0);
+        f.child<QPlainTextEdit>("titleField")->setPlainText(u"Title"_s);
+        auto *severity = f.child<QComboBox>("severityChoice");
+        severity->setCurrentText(u"Warning"_s);
+        emit severity->activated(severity->currentIndex());
+        QVERIFY(writeBytes(f.otherFile, misspeltTable()));
+        QVERIFY(f.window.save());
+        QCOMPARE(f.dialogs.confirmations.size(), 1);
+        QCOMPARE(
+            f.dialogs.confirmations.first().text,
+            u"%1 was changed by another program.\n\n"
+            "Messages with a title or an action that is not saved with their severity: 1\n\n"
+            "Saving drops the parts of other.xml that were not understood (5). The old file is kept next to "
+            "it.\n\nSave the table anyway?"_s.arg(f.window.fileName()));
     }
 
     void savingKeepsTheOldFileAndAsksOnce()

@@ -109,7 +109,7 @@ private slots:
         QCOMPARE(f.window.save(), isConfirmed);
         QCOMPARE(f.dialogs.confirmations.size(), 1);
         QCOMPARE(f.dialogs.confirmations.first().text,
-                 f.file + u" was changed by another program. Replace it?"_s);
+                 f.file + u" was changed by another program.\n\nSave the table anyway?"_s);
         QCOMPARE(readFile(f.file), isConfirmed ? "one\ntwo\nmine" : "theirs, not seen yet");
         QCOMPARE(f.window.hasUnsavedChanges(), !isConfirmed);
     }
