@@ -49,7 +49,10 @@ def make_older(path: Path) -> None:
     staged = path.parent / "older"
     for name in ("product", "translators"):
         shutil.copytree(BUILD / "sample" / name, staged / name)
-    shutil.copytree(BUILD / "installed", staged / "product", dirs_exist_ok=True)
+    for file in (file for file in (BUILD / "installed").rglob("*") if file.is_file()):
+        there = staged / ("tools" if is_tool(file) else "product") / file.relative_to(BUILD / "installed")
+        there.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy(file, there)
     subprocess.run(
         [
             sys.executable,
