@@ -99,35 +99,87 @@ class Again(unittest.TestCase):
 
 
 class Signed(unittest.TestCase):
-    def prepare(self, staged, **environment):
-        script = str(INSTALLER / "prepare_files.cmake")
-        run("cmake", f"-DCPACK_TEMPORARY_DIRECTORY={staged}", "-P", script, **environment)
+    """Packages of a few files, packed by the same scripts, with a certificate of the test's own."""
 
-    def test_the_command_of_the_environment_signs_every_program_and_library(self):
-        with tempfile.TemporaryDirectory() as name:
-            folder = Path(name)
-            key, certificate = str(folder / "key.pem"), str(folder / "certificate.pem")
-            subject = ("-subj", "/CN=test", "-addext", "extendedKeyUsage=codeSigning")
-            run("openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", *subject,
-                "-keyout", key, "-out", certificate)  # fmt: skip
-            script = folder / "sign"
-            sign = f'osslsigncode sign -certs {certificate} -key {key} -in "$1" -out "$1.signed"'
-            script.write_text(f'#!/bin/sh\nset -e\n{sign}\nmv "$1.signed" "$1"\n')
-            script.chmod(0o755)
-            staged = folder / "staged with blanks"
-            staged.mkdir()
-            files = [
-                shutil.copy(BUILD / "installed" / file, staged) for file in ("NVXConfig.exe", "Qt6Core.dll")
-            ]
-            self.prepare(staged, NVX_SIGN=str(script))
-            for file in files:
-                output = run("osslsigncode", "verify", "-CAfile", certificate, "-in", str(file))
-                self.assertIn("Signature verification: ok", output)
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = Path(tempfile.mkdtemp()) / "with blanks"
+        cls.addClassCleanup(shutil.rmtree, cls.folder.parent)
+        cls.folder.mkdir()
+        cls.key, cls.certificate = cls.folder.parent / "key.pem", cls.folder.parent / "certificate.pem"
+        subject = ("-subj", "/CN=test", "-addext", "extendedKeyUsage=codeSigning")
+        run("openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", *subject,
+            "-keyout", str(cls.key), "-out", str(cls.certificate))  # fmt: skip
+        cls.signed = cls.pack("signed")
+
+    @classmethod
+    def pack(cls, name, except_for="none"):
+        """Packs into a folder of this name; the signing command fails for files of such a name."""
+        staged, packed = cls.folder / name / "staged", cls.folder / name / "packed"
+        for place, file in (
+            ("product", BUILD / "installed" / "NVXConfig.exe"),
+            ("product", BUILD / "installed" / "libwinpthread-1.dll"),
+            ("tools", BUILD / "installed" / "UpdateErrorTable.exe"),
+            ("translators", INSTALLER / "licences.txt.in"),
+        ):
+            (staged / place).mkdir(parents=True, exist_ok=True)
+            shutil.copy(file, staged / place)
+        packed.mkdir()
+        script = cls.folder.parent / "sign"
+        sign = f'osslsigncode sign -certs {cls.certificate} -key {cls.key} -in "$1" -out "$1.signed"'
+        script.write_text(
+            f'#!/bin/sh\nset -e\ncase "$1" in *{except_for}) exit 1 ;; esac\n{sign}\nmv "$1.signed" "$1"\n'
+            f'echo "$1" >>"{cls.folder.parent / name}"\n'
+        )
+        script.chmod(0o755)
+        variables = {
+            "CPACK_TEMPORARY_DIRECTORY": staged,
+            "CPACK_TOPLEVEL_DIRECTORY": packed,
+            "CPACK_PACKAGE_NAME": "NVX",
+            "CPACK_PACKAGE_VERSION": "17.2.0",
+            "NVX_MAKENSIS": Path(os.environ["NVX_CACHE"]) / "nsis" / "makensis",
+            "NVX_SETUP_TASK": BUILD / "installer" / "NVXSetupTask.exe",
+            "NVX_INSTALLER_PICTURES": INSTALLER.parent / "resource" / "images",
+        }
+        options = [f"-D{variable}={value}" for variable, value in variables.items()]
+        for part in ("prepare_files.cmake", "make_installer.cmake"):
+            run("cmake", *options, "-P", str(INSTALLER / part), NVX_SIGN=str(script), SOURCE_DATE_EPOCH="1")
+        return packed
+
+    def assert_signed(self, file):
+        output = run("osslsigncode", "verify", "-CAfile", str(self.certificate), "-in", str(file))
+        self.assertIn("Signature verification: ok", output)
+
+    def test_the_programs_and_libraries_are_signed(self):
+        staged = self.signed.parent / "staged"
+        files = [path for path in staged.rglob("*") if path.suffix in (".exe", ".dll")]
+        self.assertEqual(len(files), 3)
+        for file in files:
+            self.assert_signed(file)
+
+    def test_the_set_up_program_its_uninstaller_and_its_task_are_signed(self):
+        (set_up,) = self.signed.glob("*-setup.exe")
+        self.assert_signed(set_up)
+        unpacked = self.signed.parent / "unpacked"
+        run("7zz", "x", f"-o{unpacked}", str(set_up))
+        (task,) = unpacked.rglob("NVXSetupTask.exe")
+        self.assert_signed(task)
+        # The compiler has the uninstaller signed in a temporary file before it packs it.
+        names = (self.folder.parent / "signed").read_text().splitlines()
+        self.assertEqual(len([name for name in names if not name.startswith(str(self.folder))]), 1)
+
+    def test_the_msi_and_its_task_are_signed(self):
+        (package,) = self.signed.glob("*.msi")
+        self.assert_signed(package)
+        task = self.signed.parent / "task.exe"
+        with task.open("wb") as file:
+            subprocess.run(["msiinfo", "extract", package, "Binary.Task"], check=True, stdout=file)
+        self.assert_signed(task)
 
     def test_a_command_that_fails_ends_the_packing(self):
-        with tempfile.TemporaryDirectory() as folder, self.assertRaises(AssertionError):
-            shutil.copy(BUILD / "installed" / "NVXConfig.exe", folder)
-            self.prepare(folder, NVX_SIGN="false")
+        for number, name in enumerate(("UpdateErrorTable.exe", "NVXSetupTask.exe", "-setup.exe", ".msi")):
+            with self.subTest(name), self.assertRaises(AssertionError):
+                self.pack(f"failed {number}", name)
 
 
 if __name__ == "__main__":
