@@ -97,6 +97,16 @@ class Conditions(unittest.TestCase):
             if kind & 0x3F == RUNS_PROGRAM and row["Action"] != "CheckMachine":
                 self.assertEqual(kind & AS_SYSTEM, AS_SYSTEM, row["Action"])
 
+    def test_the_rights_of_the_install_folder_are_set_by_the_configuration_alone(self):
+        for table in ("LockPermissions", "MsiLockPermissionsEx", "CreateFolder"):
+            self.assertEqual(rows_of(PACKAGE, table), [], table)
+        places = {row["Action"]: int(row["Sequence"]) for row in rows_of(PACKAGE, "InstallExecuteSequence")}
+        targets = {row["Action"]: row["Target"].split() for row in rows_of(PACKAGE, "CustomAction")}
+        for action, properties in (("ConfigureFirst", FIRST), ("Configure", UPGRADE), ("Configure", REPAIR)):
+            self.assertIn(action, tasks(properties))
+            self.assertIn("-I", targets[action])
+            self.assertGreater(places[action], places["InstallFiles"])
+
 
 class Identifiers(unittest.TestCase):
     """The Windows Installer repairs and replaces by these; a changed one leaves files behind."""
