@@ -15,7 +15,7 @@
 #     installed_configuration   the configuration program with all it needs, for Windows
 #     installed_programs        all programs
 
-set(nvx_tools UpdateErrorTable MessageTableCheck MessageTableUtility MaterialNameUtility)
+set(nvx_tools UpdateErrorTable MessageTableCheck MessageTableUtility MaterialNameUtility NVXLogSummary)
 set(nvx_programs NVXConfig ${nvx_tools})
 
 add_custom_target(built_configuration)

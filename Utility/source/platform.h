@@ -183,4 +183,7 @@ inline QString largeFile(qint64 maximumSize)
     return QStringLiteral("the file is larger than %1 MiB").arg(maximumSize / (1024 * 1024));
 }
 
+/// The size of the pieces in which readRegularFile passes a file on.
+inline constexpr qsizetype pieceOfFile = 1024 * 1024;
+
 } // namespace Nvx::Util::Platform

@@ -12,6 +12,7 @@ from documents import blocks_of, text_of
 
 GUIDE = "docs/developers-guide.md"
 CHECK = "docs/message-table-check.md"
+SUMMARY = "docs/log-summary.md"
 
 
 def commands_of(text):
@@ -80,8 +81,12 @@ class DevelopersGuide(unittest.TestCase):
         self.assertGreaterEqual(kinds.count("run"), 6)
         self.assertEqual(kinds.count("file"), 2)
 
+    def test_every_block_on_the_page_of_the_log_summary_is_right(self):
+        kinds = self.follow_page(SUMMARY)
+        self.assertEqual((kinds.count("run"), kinds.count("file")), (4, 3))
+
     def test_every_block_is_tried(self):
-        for page in (GUIDE, CHECK):
+        for page in (GUIDE, CHECK, SUMMARY):
             document = text_of(page)
             self.assertEqual(2 * len(blocks_of(document)), document.count("```"))
 

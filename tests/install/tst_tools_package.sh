@@ -23,7 +23,7 @@ installed=$(echo "$unpacked"/*)
 
 # It contains the tools, stripped, and nothing of the configuration program.
 programs=$(cd "$installed/bin" && find . -maxdepth 1 -type f -perm -u+x | sort | tr '\n' ' ')
-[ "$programs" = "./MaterialNameUtility ./MessageTableCheck ./MessageTableUtility ./UpdateErrorTable " ] ||
+[ "$programs" = "./MaterialNameUtility ./MessageTableCheck ./MessageTableUtility ./NVXLogSummary ./UpdateErrorTable " ] ||
     fail "programs: $programs"
 [ -z "$(find "$installed" -name 'nvxconfig.qm')" ] || fail "translations of a program that is not in the package"
 for program in $programs; do

@@ -53,6 +53,7 @@ def is_tool(path: Path) -> bool:
         "MaterialNameUtility",
         "MessageTableCheck",
         "MessageTableUtility",
+        "NVXLogSummary",
         "UpdateErrorTable",
     )
 

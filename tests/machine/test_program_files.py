@@ -17,7 +17,7 @@ from program_file import (
 )
 
 # Programs without a window.
-CONSOLE_PROGRAMS = {"MessageTableCheck.exe", "UpdateErrorTable.exe"}
+CONSOLE_PROGRAMS = {"MessageTableCheck.exe", "NVXLogSummary.exe", "UpdateErrorTable.exe"}
 ADMINISTRATORS_PROGRAMS = {"NVXConfig.exe"}
 ICON_SIZES = [16, 20, 24, 32, 40, 48, 64, 128, 256]
 

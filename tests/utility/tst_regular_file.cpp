@@ -49,6 +49,32 @@ private slots:
         QCOMPARE(readRegularFile(QString(), 10).problem, u"the file does not exist"_s);
     }
 
+    void aFileIsPassedOnInPieces()
+    {
+        QByteArray bytes(5'000'000, 'x');
+        bytes[2'000'000] = 'y';
+        QVERIFY(writeBytes(m_folder.path(u"pieces"_s), bytes));
+        QByteArray passed;
+        int pieces = 0;
+        const QString problem =
+            readRegularFile(m_folder.path(u"pieces"_s), bytes.size(), [&](QByteArrayView piece) {
+                passed += piece;
+                ++pieces;
+            });
+        QCOMPARE(problem, QString());
+        QVERIFY(passed == bytes);
+        QCOMPARE(pieces, 5);
+    }
+
+    void nothingOfAnotherFileIsPassedOn()
+    {
+        QVERIFY(writeBytes(m_folder.path(u"three"_s), "abc"));
+        const auto fail = [](QByteArrayView) { QFAIL("a piece was passed on"); };
+        QCOMPARE(readRegularFile(m_folder.path(u"three"_s), 2, fail), u"the file is larger than 0 MiB"_s);
+        QCOMPARE(readRegularFile(m_folder.path(), 10, fail), u"it is not a regular file"_s);
+        QCOMPARE(readRegularFile(m_folder.path(u"no"_s), 10, fail), u"the file does not exist"_s);
+    }
+
 private:
     TestFolder m_folder;
 };

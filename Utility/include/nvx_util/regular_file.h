@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace Nvx::Util {
@@ -18,5 +20,10 @@ struct FileContents
 /// Reads a file that somebody else has named. Only a regular file of at most maximumSize bytes is read,
 /// because a device or a pipe may never end.
 [[nodiscard]] FileContents readRegularFile(const QString &fileName, qint64 maximumSize);
+
+/// Passes the bytes of such a file to a function, in pieces of up to 1 MiB. Returns why they are not all of
+/// the file's bytes, as text for the user; empty if they are.
+[[nodiscard]] QString readRegularFile(const QString &fileName, qint64 maximumSize,
+                                      const std::function<void(QByteArrayView piece)> &take);
 
 } // namespace Nvx::Util
