@@ -1,4 +1,4 @@
-"""Each program that a run starts is missing, fails or hangs, one at a time: the run reaches its end, the log
+"""The programs that a run starts are missing or fail, or one of them hangs: the run reaches its end, the log
 says what happened, and the files of other programs and users survive."""
 
 import contextlib
@@ -120,29 +120,30 @@ class ProgramCase(LauncherCase):
 
 
 class ExternalPrograms(ProgramCase):
-    def each_program(self, orders, expected):
-        """Installs and removes with each program replaced; the log must have the expected lines for each
+    def replace_programs(self, orders, expected):
+        """Installs and removes with the programs replaced; the log must have the expected lines for each
         start."""
-        for name, (path, command, installs, removals) in PROGRAMS.items():
-            for mode, starts in (("-I", installs), ("-U", removals)):
+        for mode, column in (("-I", 2), ("-U", 3)):
+            self.put_product(translators=TRANSLATORS)
+            with contextlib.ExitStack() as replaced:
+                for path, *_ in PROGRAMS.values():
+                    replaced.enter_context(self.replaced(path, orders))
+                lines = self.run_with(mode)
+            for name, row in PROGRAMS.items():
                 with self.subTest(name, mode=mode):
-                    self.put_product(translators=TRANSLATORS)
-                    with self.replaced(path, orders):
-                        lines = self.run_with(mode)
                     logged = [
                         lines[i + 2 : i + 2 + len(expected)]
                         for i, line in enumerate(lines)
-                        if line.startswith("   0 Command:" + command)
+                        if line.startswith("   0 Command:" + row[1])
                     ]
-                    self.assertEqual(logged, [expected] * starts)
-                    self.assert_done(mode)
-            self.reset_files()
+                    self.assertEqual(logged, [expected] * row[column])
+            self.assert_done(mode)
 
-    def test_a_missing_program_is_logged(self):
-        self.each_program(None, NOT_STARTED)
+    def test_missing_programs_are_logged(self):
+        self.replace_programs(None, NOT_STARTED)
 
-    def test_the_output_and_exit_code_of_a_failing_program_are_logged(self):
-        self.each_program("line it is broken\nexit 7", ["   7 Output:", "   7   it is broken"])
+    def test_the_output_and_exit_codes_of_failing_programs_are_logged(self):
+        self.replace_programs("line it is broken\nexit 7", ["   7 Output:", "   7   it is broken"])
 
     def outputs_of_the_interpreter(self, lines):
         start = "   0 Command:" + INTERPRETER[1]

@@ -1,5 +1,6 @@
-"""Each folder that a run writes to is read-only, one at a time: the run reaches its end, does everything else
-as usual, and reports what it could not do in the log or in the diagnostic output.
+"""Each folder that a run writes to is read-only, alone or together with folders of other steps: the run
+reaches its end, does everything else as usual, and reports what it could not do in the log or in the
+diagnostic output.
 
 A read-only disk stands for every folder that cannot be written, whether by its access rights or by its
 medium. Only a disk works here: a Windows program under Wine may write wherever the host's administrator may.
@@ -76,6 +77,14 @@ FOLDERS = {
     ),
     "install folder": (INSTALL_DIR, None, None),  # the log cannot be written either
 }
+# What is read-only at the same time. Folders that contain others, or that other steps read, are alone.
+GROUPS = (
+    ("Python", "Creo", "Tamsel", "desktop", "the user's data"),
+    ("tutorials", "NX", "SpaceClaim", "translators", "temporary files", "all users' data"),
+    ("launchers",),
+    (AROUND,),
+    ("install folder",),
+)
 # Folders that stay writable inside a read-only one.
 WRITABLE = {AROUND: (INSTALL_DIR, TRANSLATORS)}
 
@@ -123,65 +132,74 @@ class ReadOnlyFolders(LauncherCase):
         return {path: contents for path, contents in files.items() if not path.endswith("\\")}
 
     @contextlib.contextmanager
-    def read_only(self, name):
+    def read_only(self, names):
         self.machine.stop()
         with contextlib.ExitStack() as mounted:
-            for folder, access in ((FOLDERS[name][0], "ro"), *((f, "rw") for f in WRITABLE.get(name, ()))):
-                path = self.machine.path(folder)
-                mount("--bind", path, path)
-                mounted.callback(subprocess.run, ["umount", str(path)], check=True)
-                mount("-o", "remount,bind," + access, path)
+            for name in names:
+                writable = WRITABLE.get(name, ())
+                for folder, access in ((FOLDERS[name][0], "ro"), *((f, "rw") for f in writable)):
+                    path = self.machine.path(folder)
+                    mount("--bind", path, path)
+                    mounted.callback(subprocess.run, ["umount", str(path)], check=True)
+                    mount("-o", "remount,bind," + access, path)
             mounted.callback(self.machine.stop)
             yield
 
-    def check_row(self, mode, name, state, before, expected):
-        """One run with a read-only folder, from a saved state of the machine with the files `before`; outside
-        the folder the files must be as expected."""
-        folder, install_reports, removal_reports = FOLDERS[name]
-        reports = install_reports if mode == "-I" else removal_reports
+    def check_group(self, mode, names, state, before, expected):
+        """One run with read-only folders, from a saved state of the machine with the files `before`; outside
+        the folders the files must be as expected."""
         state.restore()
         self.delete_log()
-        with self.read_only(name):
+        with self.read_only(names):
             code, lines, warnings = self.diagnose(INSTALL_DIR, mode, "-S", "-Len-US")
         self.assertEqual(code, 0)
-        if reports is None:
+        reports = [FOLDERS[name][1 if mode == "-I" else 2] for name in names]
+        if reports == [None]:
             self.assertEqual(lines, [])
         else:
             self.assert_complete(code, lines)
-            lines += [DIAGNOSTIC + text for text in warnings]
-            for text in reports:
-                self.assertTrue([line for line in lines if text in line], (text, lines))
-            failures = [line for line in lines if line.startswith(("   1 ", DIAGNOSTIC))]
-            unexpected = [f for f in failures if not any(text in f for text in reports)]
-            self.assertEqual(unexpected, [])
+            self.assert_reported(sum(reports, []), lines + [DIAGNOSTIC + text for text in warnings])
 
+        folders = [FOLDERS[name][0] for name in names]
         found = self.files()
-        if name != AROUND:
-            there = {path: contents for path, contents in found.items() if is_below(path, folder)}
-            self.assertEqual(there, {p: h for p, h in before.items() if is_below(p, folder)})
+        if names != (AROUND,):
+            there = {path: contents for path, contents in found.items() if is_below(path, *folders)}
+            self.assertEqual(there, {p: h for p, h in before.items() if is_below(p, *folders)})
             found = {path: contents for path, contents in found.items() if path not in there}
-            expected = {p: h for p, h in expected.items() if not is_below(p, folder)}
+            expected = {p: h for p, h in expected.items() if not is_below(p, *folders)}
         elif mode == "-U":
             # Folders are removed by a batch file in that folder; without it they stay.
             found = {path: contents for path, contents in found.items() if path in expected}
         # Tamsel's manifests are copies of the one among the launchers.
-        left_out = TAMSEL_ADDINS if mode == "-I" and is_below(LAUNCHERS, folder) else LOG
+        left_out = TAMSEL_ADDINS if mode == "-I" and is_below(LAUNCHERS, *folders) else LOG
         differing = {p for p in (*found, *expected) if found.get(p) != expected.get(p)}
         self.assertEqual(sorted(p for p in differing if not is_below(p, left_out)), [])
 
+    def assert_reported(self, reports, lines):
+        """Each report is part of a line, and no line reports another failure."""
+        for text in reports:
+            self.assertTrue([line for line in lines if text in line], (text, lines))
+        failures = [line for line in lines if line.startswith(("   1 ", DIAGNOSTIC))]
+        unexpected = [f for f in failures if not any(text in f for text in reports)]
+        self.assertEqual(unexpected, [])
+
+    def test_each_folder_is_in_one_group(self):
+        self.assertEqual(sorted(name for names in GROUPS for name in names), sorted(FOLDERS))
+
     def test_an_install_does_everything_else(self):
-        for name in FOLDERS:
-            with self.subTest(name):
-                self.check_row("-I", name, self.bare, self.files_bare, self.files_installed)
+        for names in GROUPS:
+            with self.subTest(names):
+                self.check_group("-I", names, self.bare, self.files_bare, self.files_installed)
 
     def test_a_removal_does_everything_else(self):
-        for name in FOLDERS:
-            with self.subTest(name):
-                self.check_row("-U", name, self.installed, self.files_installed, self.files_removed)
+        for names in GROUPS:
+            with self.subTest(names):
+                self.check_group("-U", names, self.installed, self.files_installed, self.files_removed)
 
 
-def is_below(path, folder):
-    return (path + "\\").startswith(folder + "\\")
+def is_below(path, *folders):
+    """Whether a path is that of one of the folders, or of something in it."""
+    return (path + "\\").startswith(tuple(folder + "\\" for folder in folders))
 
 
 if __name__ == "__main__":
