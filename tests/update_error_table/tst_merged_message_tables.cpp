@@ -18,7 +18,16 @@ using UpdateTable::ExitCode;
 namespace {
 
 /// The command of the merge driver in docs/update-error-table.md.
-const QString driver = u"git merge-file --union --diff3 %A %O %B"_s;
+const QString driver = u"sh ./merge-message-tables %O %A %B"_s;
+
+/// The script there that it starts.
+QByteArray driverScript()
+{
+    const QByteArray begin = "<!-- file: merge-message-tables -->\n```sh\n";
+    const QByteArray document = readFile(QStringLiteral(DOCUMENT));
+    const qsizetype from = document.indexOf(begin) + begin.size();
+    return document.mid(from, document.indexOf("```", from) - from);
+}
 
 QByteArray function(const QByteArray &name, const QByteArray &calls)
 {
@@ -57,6 +66,7 @@ private slots:
         writeFile(path("client.vcxproj"), "<Project><PropertyGroup Label=\"Globals\"><RootNamespace>client"
                                           "</RootNamespace></PropertyGroup><ItemGroup><ClCompile "
                                           "Include=\"source\\*.cpp\"/></ItemGroup></Project>");
+        writeFile(path("merge-message-tables"), driverScript());
         for (const char *name : {"a", "m", "z"})
             writeFile(source(name), function(name, "    REPORT_ERROR(\"Old\");\n"));
         QCOMPARE(synchronize(), ExitCode::Done);
@@ -128,13 +138,46 @@ private slots:
         useDriver();
         branch(u"one"_s, [this] { setText(u"Flow::m"_s, u"Old"_s, u"one"_s); });
         branch(u"two"_s, [this] { setText(u"Flow::m"_s, u"Old"_s, u"two"_s); });
-        QVERIFY(git({u"merge"_s, u"--quiet"_s, u"two"_s}));
+        QVERIFY(!git({u"merge"_s, u"--quiet"_s, u"two"_s}));
         const QByteArray merged = readFile(path("errors.xml"));
         QVERIFY(merged.contains("<text>one</text>"));
         QVERIFY(merged.contains("<text>two</text>"));
         QCOMPARE(synchronize(), ExitCode::Done);
         QVERIFY2(m_errors.contains(u"it occurs again in line"_s), qPrintable(m_errors));
         QCOMPARE(readFile(path("errors.xml.before")), merged);
+    }
+
+    // Without the driver, git gives the changed severity to the new message.
+    void aChangedMessageIsNotMixedWithANewOneBeforeIt()
+    {
+        Clt::MessageTable base;
+        base.insert(message(u"Flow::f"_s, u"T"_s, u"text of T"_s));
+        Clt::MessageTable ours = base;
+        ours.insert(message(u"Flow::f"_s, u"A"_s, QString()));
+        Clt::MessageTable theirs = base;
+        Clt::Message changed = base.begin()->second;
+        changed.setSeverity(Clt::Severity::Warning);
+        theirs.insert(changed);
+        QVERIFY(mergeWithDriver(base, ours, theirs));
+
+        Clt::MessageTable merged;
+        QVERIFY(merged.load(path("ours.xml")));
+        QCOMPARE(merged.size(), std::size_t(2));
+        QCOMPARE(merged.begin()->second.severity(), Clt::Severity::Information);
+        QCOMPARE(merged.message(changed.key()).severity(), Clt::Severity::Warning);
+        // The driver leaves nothing else behind.
+        QCOMPARE(namesIn(m_folder->path()).filter(u"ours"_s), QStringList(u"ours.xml"_s));
+    }
+
+    void aTableOfAnotherFormIsMergedByGit()
+    {
+        const QByteArray message = "<message severity=\"Status\"></message>";
+        const QByteArray table = "<messageTable>\n" + message + message + "\n</messageTable>\n";
+        writeFile(path("base.xml"), table);
+        writeFile(path("ours.xml"), table);
+        writeFile(path("theirs.xml"), QByteArray(table).replace("Status", "Warning"));
+        QVERIFY(runDriver());
+        QCOMPARE(readFile(path("ours.xml")), readFile(path("theirs.xml")));
     }
 
     void randomTablesAreNeverMergedIntoBrokenOnes()
@@ -148,23 +191,43 @@ private slots:
             const Keys theirs = add(base, 5, numbers);
             Keys all = ours;
             all.insert(theirs.begin(), theirs.end());
-            for (const bool withDriver : {false, true}) {
-                write("base.xml", base);
-                write("ours.xml", ours);
-                write("theirs.xml", theirs);
-                QStringList arguments{u"merge-file"_s, u"--quiet"_s};
-                if (withDriver)
-                    arguments << u"--union"_s << u"--diff3"_s;
-                arguments << u"ours.xml"_s << u"base.xml"_s << u"theirs.xml"_s;
-                const bool merged = git(arguments);
-                QVERIFY(merged || !withDriver);
-                conflicts += merged ? 0 : 1;
-                if (merged)
-                    QCOMPARE(keysIn("ours.xml"), all);
-            }
+            QVERIFY(mergeWithDriver(tableOf(base), tableOf(ours), tableOf(theirs)));
+            QCOMPARE(keysIn("ours.xml"), all);
+
+            QVERIFY(tableOf(ours).save(path("ours.xml")));
+            const bool merged =
+                git({u"merge-file"_s, u"--quiet"_s, u"ours.xml"_s, u"base.xml"_s, u"theirs.xml"_s});
+            conflicts += merged ? 0 : 1;
+            if (merged)
+                QCOMPARE(keysIn("ours.xml"), all);
         }
         qInfo("%d of %d merges of 5 and 5 messages into 100 are conflicts", conflicts, count);
         QVERIFY(conflicts > 0 && conflicts < count);
+    }
+
+    void theDriverMergesRandomChangesExactly()
+    {
+        std::mt19937 numbers(18);
+        for (int round = 0; round < 40; ++round) {
+            const Keys keys = add(Keys(), 30, numbers);
+            const Clt::MessageTable base = tableOf(keys);
+            Clt::MessageTable ours = tableOf(add(keys, 5, numbers));
+            Clt::MessageTable theirs = tableOf(add(keys, 5, numbers));
+            Clt::MessageTable all = ours;
+            all.merge(Clt::MessageTable(theirs));
+            for (const auto &[key, message] : base) {
+                if (const unsigned number = numbers() % 4; number < 2) {
+                    const Clt::Message changed = randomChange(message, numbers);
+                    (number == 0 ? ours : theirs).insert(changed);
+                    all.insert(changed);
+                }
+            }
+            QVERIFY(mergeWithDriver(base, ours, theirs));
+            Clt::MessageTable merged;
+            QVERIFY(merged.load(path("ours.xml")) && merged.leftovers().isEmpty());
+            QVERIFY(merged.save(path("ours.xml")) && all.save(path("all.xml")));
+            QCOMPARE(readFile(path("ours.xml")), readFile(path("all.xml")));
+        }
     }
 
 private:
@@ -180,6 +243,39 @@ private:
     {
         m_git.start(u"git"_s, arguments);
         return m_git.waitForFinished() && m_git.exitStatus() == QProcess::NormalExit && m_git.exitCode() == 0;
+    }
+
+    bool runDriver()
+    {
+        m_git.start(u"sh"_s, {u"./merge-message-tables"_s, u"base.xml"_s, u"ours.xml"_s, u"theirs.xml"_s});
+        return m_git.waitForFinished() && m_git.exitStatus() == QProcess::NormalExit && m_git.exitCode() == 0;
+    }
+
+    /// Merges into ours.xml.
+    bool mergeWithDriver(Clt::MessageTable base, Clt::MessageTable ours, Clt::MessageTable theirs)
+    {
+        return base.save(path("base.xml")) && ours.save(path("ours.xml")) &&
+               theirs.save(path("theirs.xml")) && runDriver();
+    }
+
+    static Clt::Message randomChange(Clt::Message message, std::mt19937 &numbers)
+    {
+        switch (numbers() % 4) {
+        case 0:
+            message.setSeverity(Clt::Severity::Warning);
+            break;
+        case 1:
+            message.setSeverity(Clt::Severity::Critical);
+            message.setTitle(u"title"_s);
+            break;
+        case 2:
+            message.setText(u"two\nlines"_s);
+            break;
+        default:
+            message.setState(Clt::MessageState::Obsolete);
+            break;
+        }
+        return message;
     }
 
     void commit()
@@ -258,12 +354,12 @@ private:
         return keys;
     }
 
-    void write(const char *name, const Keys &keys) const
+    static Clt::MessageTable tableOf(const Keys &keys)
     {
         Clt::MessageTable table;
         for (const auto &[context, tag] : keys)
             table.insert(message(context, tag, u"text of "_s + tag));
-        QVERIFY(table.save(path(name)));
+        return table;
     }
 
     /// The keys of a table; none if it is not one, or has a key twice or with parts of two messages.
