@@ -52,7 +52,7 @@ private:
     void readRootChild(Clt::RepeatedChildren &children);
     void readContext();
     void storeContext(const QString &name, TranslationMessages &&messages, qint64 place);
-    bool readMessage(TranslationMessages &messages);
+    void readMessage(TranslationMessages &messages);
     void readMessageChild(TranslationMessage &message, Clt::RepeatedChildren &children);
     QString readTextOnly();
     QString readText();
@@ -189,7 +189,7 @@ void Reader::storeContext(const QString &name, TranslationMessages &&messages, q
 }
 
 /// Appends the message unless the document ends within it.
-bool Reader::readMessage(TranslationMessages &messages)
+void Reader::readMessage(TranslationMessages &messages)
 {
     NVX_ASSERT(m_xml.isStartElement() && m_xml.name() == "message", unit);
     for (const XmlSource::Attribute &attribute : m_xml.attributes()) {
@@ -205,9 +205,9 @@ bool Reader::readMessage(TranslationMessages &messages)
             break;
         case Token::EndElement:
             messages.push_back(std::move(message));
-            return true;
+            return;
         case Token::End:
-            return false;
+            return;
         default:
             leaveText(m_xml, m_leftovers);
             break;
