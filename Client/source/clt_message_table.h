@@ -52,6 +52,12 @@ public:
     std::pair<Messages::const_iterator, bool> insert(const Message &message);
     std::pair<Messages::const_iterator, bool> insert(Message &&message);
 
+    /// The message at that place, to change everything but its key.
+    Message &editable(Messages::const_iterator place)
+    {
+        return m_storage->messages.erase(place, place)->second; // removes nothing
+    }
+
     /// Stores all messages of another table.
     void merge(MessageTable &&other);
 

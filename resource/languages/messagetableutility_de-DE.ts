@@ -48,11 +48,11 @@
     </message>
     <message>
         <source>no translation is found, because %1 is not ASCII</source>
-        <translation>keine Übersetzung wird gefunden, weil %1 kein ASCII-Zeichen ist</translation>
+        <translation>es wird keine Übersetzung gefunden, weil %1 kein ASCII-Zeichen ist</translation>
     </message>
     <message>
         <source>%1 is not filled in</source>
-        <translation>%1 wird nicht ausgefüllt</translation>
+        <translation>%1 wird nicht ersetzt</translation>
     </message>
     <message>
         <source>%1 is used, but %2 is not</source>
@@ -72,15 +72,15 @@
     </message>
     <message>
         <source>the source has no accelerator</source>
-        <translation>der Quelltext hat keine Zugriffstaste</translation>
+        <translation>der Ausgangstext hat keine Zugriffstaste</translation>
     </message>
     <message>
         <source>begins with other blanks than the source</source>
-        <translation>beginnt mit anderen Leerzeichen als der Quelltext</translation>
+        <translation>beginnt mit anderen Leerzeichen als der Ausgangstext</translation>
     </message>
     <message>
         <source>ends with other blanks than the source</source>
-        <translation>endet mit anderen Leerzeichen als der Quelltext</translation>
+        <translation>endet mit anderen Leerzeichen als der Ausgangstext</translation>
     </message>
     <message>
         <source>%1 is missing</source>
@@ -88,7 +88,7 @@
     </message>
     <message>
         <source>the source has no %1</source>
-        <translation>der Quelltext hat kein %1</translation>
+        <translation>der Ausgangstext hat kein %1</translation>
     </message>
     <message>
         <source>Context</source>
@@ -257,10 +257,6 @@
         <translation>Aktualisierung abgebrochen, die Übersetzung ist unverändert</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
-        <translation>Meldungen mit einem Titel oder einer Maßnahme, die bei ihrem Schweregrad nicht gespeichert wird: %L1</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
@@ -351,6 +347,22 @@ Diese Übersetzungen übernehmen? Die Texte bleiben unfertig.</translation>
     <message>
         <source>Findings</source>
         <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>Meldungen mit einem Titel oder einer Maßnahme, die bei ihrem Schweregrad nicht gespeichert wird: %L1</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Suchen und ersetzen</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>Die Texte werden ersetzt...</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was replaced</source>
+        <translation>Abgebrochen, es wurde nichts ersetzt</translation>
     </message>
 </context>
 <context>

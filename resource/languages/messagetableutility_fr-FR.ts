@@ -32,15 +32,15 @@
     <name>MessageRemarks</name>
     <message>
         <source>missing</source>
-        <translation>manquant</translation>
+        <translation>valeur manquante</translation>
     </message>
     <message>
         <source>begins with a blank</source>
-        <translation>commence par une espace</translation>
+        <translation>commence par un espace</translation>
     </message>
     <message>
         <source>ends with a blank</source>
-        <translation>se termine par une espace</translation>
+        <translation>se termine par un espace</translation>
     </message>
     <message>
         <source>the file cannot store the character %1</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>not saved with this severity</source>
-        <translation>n&apos;est pas enregistré avec cette gravité</translation>
+        <translation>ne s&apos;enregistre pas avec cette gravité</translation>
     </message>
     <message>
         <source>the accelerator is missing</source>
@@ -257,10 +257,6 @@
         <translation>Mise à jour annulée, la traduction est inchangée</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
-        <translation>Messages avec un titre ou une action que leur gravité ne permet pas d&apos;enregistrer&#xa0;: %L1</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Édition</translation>
     </message>
@@ -351,6 +347,22 @@ Reprendre ces traductions&#xa0;? Les textes restent inachevés.</translation>
     <message>
         <source>Findings</source>
         <translation>Constats</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>Messages avec un titre ou une action que leur gravité ne permet pas d&apos;enregistrer&#xa0;: %L1</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Rechercher et remplacer</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>Remplacement en cours...</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was replaced</source>
+        <translation>Annulé, rien n&apos;a été remplacé</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>no translation is found, because %1 is not ASCII</source>
-        <translation>nessuna traduzione viene trovata, perché %1 non è un carattere ASCII</translation>
+        <translation>non viene trovata alcuna traduzione, perché %1 non è un carattere ASCII</translation>
     </message>
     <message>
         <source>%1 is not filled in</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>not saved with this severity</source>
-        <translation>non viene salvato con questa gravità</translation>
+        <translation>non salvabile con questa gravità</translation>
     </message>
     <message>
         <source>the accelerator is missing</source>
@@ -134,7 +134,7 @@
     </message>
     <message>
         <source>Found in the sources, not reviewed yet</source>
-        <translation>Trovato nei sorgenti, non ancora revisionato</translation>
+        <translation>Trovato nei sorgenti, non ancora verificato</translation>
     </message>
     <message>
         <source>No longer found in the sources</source>
@@ -257,10 +257,6 @@
         <translation>Aggiornamento annullato, la traduzione è invariata</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
-        <translation>Messaggi con un titolo o un&apos;azione che non viene salvata con la loro gravità: %L1</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Modifica</translation>
     </message>
@@ -351,6 +347,22 @@ Riprendere queste traduzioni? I testi restano incompleti.</translation>
     <message>
         <source>Findings</source>
         <translation>Risultati</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>Messaggi con un titolo o un&apos;azione che non viene salvata con la loro gravità: %L1</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Trova e sostituisci</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>Sostituzione in corso...</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was replaced</source>
+        <translation>Operazione annullata, non è stato sostituito nulla</translation>
     </message>
 </context>
 <context>

@@ -257,10 +257,6 @@
         <translation>更新をキャンセルしました。翻訳は変更されていません。</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
-        <translation>重大度のためにタイトルまたは対処方法が保存されないメッセージ: %L1</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>編集(&amp;E)</translation>
     </message>
@@ -351,6 +347,22 @@ Take these translations over? The strings stay unfinished.</source>
     <message>
         <source>Findings</source>
         <translation>検査結果</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>重大度のためにタイトルまたは対処方法が保存されないメッセージ: %L1</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>検索と置換</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>置換しています...</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was replaced</source>
+        <translation>キャンセルしました。何も置換されていません。</translation>
     </message>
 </context>
 <context>

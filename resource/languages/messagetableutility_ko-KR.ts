@@ -257,10 +257,6 @@
         <translation>업데이트가 취소되었으며 번역은 변경되지 않았습니다</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
-        <translation>심각도 때문에 제목이나 조치가 저장되지 않는 메시지: %L1</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>편집(&amp;E)</translation>
     </message>
@@ -352,6 +348,22 @@ Take these translations over? The strings stay unfinished.</source>
         <source>Findings</source>
         <translation>검사 결과</translation>
     </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>심각도 때문에 제목이나 조치가 저장되지 않는 메시지: %L1</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>찾기 및 바꾸기</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>바꾸는 중...</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was replaced</source>
+        <translation>취소되었으며 아무것도 바꾸지 않았습니다</translation>
+    </message>
 </context>
 <context>
     <name>MessageWindow::AdoptionDialog</name>
@@ -361,11 +373,11 @@ Take these translations over? The strings stay unfinished.</source>
     </message>
     <message>
         <source>Obsolete messages</source>
-        <translation>사용되지 않음 메시지</translation>
+        <translation>사용되지 않음 상태의 메시지</translation>
     </message>
     <message>
         <source>The message adopts the texts of this obsolete message, which is removed:</source>
-        <translation>메시지가 다음 사용되지 않음 메시지의 텍스트를 가져오고 그 메시지는 제거됩니다:</translation>
+        <translation>메시지가 다음 사용되지 않음 상태의 메시지의 텍스트를 가져오고 그 메시지는 제거됩니다:</translation>
     </message>
 </context>
 <context>

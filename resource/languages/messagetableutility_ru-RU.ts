@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>not reviewed yet</source>
-        <translation>ещё не проверено</translation>
+        <translation>еще не проверено</translation>
     </message>
     <message>
         <source>Findings: %L1</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>not translated yet</source>
-        <translation>ещё не переведено</translation>
+        <translation>еще не переведено</translation>
     </message>
 </context>
 <context>
@@ -257,10 +257,6 @@
         <translation>Обновление отменено, перевод не изменен</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
-        <translation>Сообщений с заголовком или действием, которые не сохраняются при их важности: %L1</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Правка</translation>
     </message>
@@ -328,9 +324,9 @@
         <source>Untranslated strings with a translation in another context: %L1
 
 Take these translations over? The strings stay unfinished.</source>
-        <translation>Непереведённых строк с переводом в другом контексте: %L1
+        <translation>Непереведенных строк с переводом в другом контексте: %L1
 
-Взять эти переводы? Строки останутся незавершёнными.</translation>
+Взять эти переводы? Строки останутся незавершенными.</translation>
     </message>
     <message>
         <source>Adopt Texts From...</source>
@@ -351,6 +347,22 @@ Take these translations over? The strings stay unfinished.</source>
     <message>
         <source>Findings</source>
         <translation>Результаты проверки</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>Сообщений с заголовком или действием, которые не сохраняются при их важности: %L1</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Найти и заменить</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>Выполняется замена...</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was replaced</source>
+        <translation>Отменено, ничего не заменено</translation>
     </message>
 </context>
 <context>

@@ -257,10 +257,6 @@
         <translation>已取消更新，翻译未更改</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
-        <translation>标题或操作因严重性而不会保存的消息：%L1</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>编辑(&amp;E)</translation>
     </message>
@@ -351,6 +347,22 @@ Take these translations over? The strings stay unfinished.</source>
     <message>
         <source>Findings</source>
         <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>标题或操作因严重性而不会保存的消息：%L1</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>查找和替换</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>正在替换...</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was replaced</source>
+        <translation>已取消，未替换任何内容</translation>
     </message>
 </context>
 <context>

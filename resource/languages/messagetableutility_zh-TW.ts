@@ -257,10 +257,6 @@
         <translation>已取消更新，翻譯未變更</translation>
     </message>
     <message>
-        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
-        <translation>標題或動作因嚴重性而不會儲存的訊息：%L1</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>編輯(&amp;E)</translation>
     </message>
@@ -351,6 +347,22 @@ Take these translations over? The strings stay unfinished.</source>
     <message>
         <source>Findings</source>
         <translation>檢查結果</translation>
+    </message>
+    <message>
+        <source>Messages with a title or an action that is not saved with their severity: %L1</source>
+        <translation>標題或動作因嚴重性而不會儲存的訊息：%L1</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>尋找與取代</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>正在取代...</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was replaced</source>
+        <translation>已取消，未取代任何內容</translation>
     </message>
 </context>
 <context>

@@ -378,7 +378,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Unable to take this folder over from the user who created it: %1</source>
-        <translation>Не удалось стать владельцем этой папки вместо создавшего её пользователя: %1</translation>
+        <translation>Не удалось стать владельцем этой папки вместо создавшего ее пользователя: %1</translation>
     </message>
 </context>
 <context>
@@ -727,7 +727,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>Another run has been in progress for %1 minutes; this one no longer waits for its end</source>
-        <translation>Другой запуск выполняется уже %1 мин; этот больше не ждёт его завершения</translation>
+        <translation>Другой запуск выполняется уже %1 мин; этот больше не ждет его завершения</translation>
     </message>
     <message>
         <source>Unable to check whether another run is in progress; a program without administrator rights may have prevented it</source>
@@ -739,7 +739,7 @@ Click No to continue without stopping the processes.</source>
     </message>
     <message>
         <source>%1 is being configured. If you sign out now, it stays incomplete.</source>
-        <translation>Выполняется настройка %1. Если выйти из системы сейчас, она останется незавершённой.</translation>
+        <translation>Выполняется настройка %1. Если выйти из системы сейчас, она останется незавершенной.</translation>
     </message>
 </context>
 <context>

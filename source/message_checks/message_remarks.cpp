@@ -34,6 +34,8 @@ QString placeOf(int number)
 std::set<int> placesIn(const QString &text, const QRegularExpression &place)
 {
     std::set<int> places;
+    if (!text.contains(u'%'))
+        return places;
     for (auto match = place.globalMatch(text); match.hasNext();)
         places.insert(match.next().capturedView(1).toInt());
     return places;
@@ -63,6 +65,12 @@ QStringView firstCharacter(QStringView text, Test test)
     return {};
 }
 
+/// True for a character that needs no closer look.
+bool isPlain(QChar character)
+{
+    return character >= u' ' && character <= u'~';
+}
+
 bool isAscii(QStringView character)
 {
     return character.at(0).unicode() < 0x80;
@@ -72,50 +80,54 @@ bool isAscii(QStringView character)
 class FieldCheck
 {
 public:
-    FieldCheck(Remarks &remarks, const QString &label, const QString &text)
+    FieldCheck(Remarks &remarks, const char *field, const QString &text)
         : m_remarks(remarks)
-        , m_label(label)
+        , m_field(field)
         , m_text(text)
     {
     }
 
-    void add(Rule rule, const QString &remark) const
+    void add(Rule rule, const char *pattern, const QString &argument = {}, const QString &second = {}) const
     {
-        m_remarks.push_back({rule, m_label.isEmpty() ? remark : u"%1: %2"_s.arg(m_label, remark)});
+        m_remarks.push_back({rule, m_field, pattern, argument, second});
     }
 
     /// Checks what applies to every field that is saved. Returns false if the field is empty.
     bool checkSaved() const
     {
         if (m_text.isEmpty()) {
-            add(Rule::Incomplete, Texts::tr("missing"));
+            add(Rule::Incomplete, QT_TRANSLATE_NOOP("MessageRemarks", "missing"));
             return false;
         }
         checkCharacters();
         if (m_text.front().isSpace())
-            add(Rule::Blank, Texts::tr("begins with a blank"));
+            add(Rule::Blank, QT_TRANSLATE_NOOP("MessageRemarks", "begins with a blank"));
         if (m_text.back().isSpace())
-            add(Rule::Blank, Texts::tr("ends with a blank"));
+            add(Rule::Blank, QT_TRANSLATE_NOOP("MessageRemarks", "ends with a blank"));
         return true;
     }
 
     void checkCharacters() const
     {
+        if (std::all_of(m_text.begin(), m_text.end(), isPlain))
+            return;
         const QStringView odd = firstCharacter(m_text, [](QStringView one) { return !Clt::isXmlText(one); });
         if (!odd.isEmpty()) {
             add(Rule::Character,
-                Texts::tr("the file cannot store the character %1").arg(shownCharacter(odd)));
+                QT_TRANSLATE_NOOP("MessageRemarks", "the file cannot store the character %1"),
+                shownCharacter(odd));
             return;
         }
         const QStringView other = firstCharacter(m_text, [](QStringView one) { return !isAscii(one); });
         if (!other.isEmpty())
             add(Rule::LookUp,
-                Texts::tr("no translation is found, because %1 is not ASCII").arg(shownCharacter(other)));
+                QT_TRANSLATE_NOOP("MessageRemarks", "no translation is found, because %1 is not ASCII"),
+                shownCharacter(other));
     }
 
 private:
     Remarks &m_remarks;
-    const QString &m_label;
+    const char *m_field;
     const QString &m_text;
 };
 
@@ -126,10 +138,11 @@ void checkPlaces(const FieldCheck &check, const std::set<int> &own, const std::s
     for (const int place : all) {
         if (place > lastPlace || place == 0) {
             if (own.contains(place))
-                check.add(Rule::Place, Texts::tr("%1 is not filled in").arg(placeOf(place)));
+                check.add(Rule::Place, QT_TRANSLATE_NOOP("MessageRemarks", "%1 is not filled in"),
+                          placeOf(place));
         } else if (place > expected && own.contains(place)) {
-            check.add(Rule::Place,
-                      Texts::tr("%1 is used, but %2 is not").arg(placeOf(place), placeOf(expected)));
+            check.add(Rule::Place, QT_TRANSLATE_NOOP("MessageRemarks", "%1 is used, but %2 is not"),
+                      placeOf(place), placeOf(expected));
         }
         expected = place + 1;
     }
@@ -137,17 +150,17 @@ void checkPlaces(const FieldCheck &check, const std::set<int> &own, const std::s
 
 void checkTitle(Remarks &remarks, const Clt::Message &message)
 {
-    const QString label = Texts::tr("Title");
+    const char *label = QT_TRANSLATE_NOOP("MessageRemarks", "Title");
     const FieldCheck check(remarks, label, message.sourceTitle());
     if (!hasTitle(message.severity())) {
         if (!message.sourceTitle().isEmpty())
-            check.add(Rule::Unsaved, Texts::tr("not saved with this severity"));
+            check.add(Rule::Unsaved, QT_TRANSLATE_NOOP("MessageRemarks", "not saved with this severity"));
         return;
     }
     if (!check.checkSaved())
         return;
     for (const int place : placesIn(message.sourceTitle(), messagePlace))
-        check.add(Rule::Place, Texts::tr("%1 is not filled in").arg(placeOf(place)));
+        check.add(Rule::Place, QT_TRANSLATE_NOOP("MessageRemarks", "%1 is not filled in"), placeOf(place));
 }
 
 // An accelerator is an ampersand before a character; two of them are an ampersand.
@@ -181,32 +194,44 @@ void compareAccelerators(const FieldCheck &check, const QString &source, const Q
     const bool isInSource = acceleratorsIn(source) > 0;
     const bool isInTranslation = acceleratorsIn(translation) > 0;
     if (isInSource && !isInTranslation)
-        check.add(Rule::Accelerator, Texts::tr("the accelerator is missing"));
+        check.add(Rule::Accelerator, QT_TRANSLATE_NOOP("MessageRemarks", "the accelerator is missing"));
     else if (isInTranslation && !isInSource)
-        check.add(Rule::Accelerator, Texts::tr("the source has no accelerator"));
+        check.add(Rule::Accelerator, QT_TRANSLATE_NOOP("MessageRemarks", "the source has no accelerator"));
 }
 
 void compareBlanks(const FieldCheck &check, const QString &source, const QString &translation)
 {
     if (blanksAtBegin(source) != blanksAtBegin(translation))
-        check.add(Rule::Blank, Texts::tr("begins with other blanks than the source"));
+        check.add(Rule::Blank,
+                  QT_TRANSLATE_NOOP("MessageRemarks", "begins with other blanks than the source"));
     if (blanksAtEnd(source) != blanksAtEnd(translation))
-        check.add(Rule::Blank, Texts::tr("ends with other blanks than the source"));
+        check.add(Rule::Blank, QT_TRANSLATE_NOOP("MessageRemarks", "ends with other blanks than the source"));
 }
 
 void comparePlaces(const FieldCheck &check, const std::set<int> &source, const std::set<int> &translation)
 {
     for (const int place : source) {
         if (!translation.contains(place))
-            check.add(Rule::Place, Texts::tr("%1 is missing").arg(placeOf(place)));
+            check.add(Rule::Place, QT_TRANSLATE_NOOP("MessageRemarks", "%1 is missing"), placeOf(place));
     }
     for (const int place : translation) {
         if (!source.contains(place))
-            check.add(Rule::Place, Texts::tr("the source has no %1").arg(placeOf(place)));
+            check.add(Rule::Place, QT_TRANSLATE_NOOP("MessageRemarks", "the source has no %1"),
+                      placeOf(place));
     }
 }
 
 } // namespace
+
+QString Remark::text() const
+{
+    QString text = Texts::tr(pattern);
+    if (!secondArgument.isNull())
+        text = text.arg(argument, secondArgument);
+    else if (!argument.isNull())
+        text = text.arg(argument);
+    return field ? u"%1: %2"_s.arg(Texts::tr(field), text) : text;
+}
 
 bool hasTitle(Clt::Severity severity)
 {
@@ -221,7 +246,7 @@ bool hasAction(Clt::Severity severity)
 Remarks remarksOn(const Clt::Message &message)
 {
     Remarks remarks;
-    const QString contextLabel = Texts::tr("Context");
+    const char *contextLabel = QT_TRANSLATE_NOOP("MessageRemarks", "Context");
     FieldCheck(remarks, contextLabel, message.key().context).checkCharacters();
     checkTitle(remarks, message);
 
@@ -232,14 +257,14 @@ Remarks remarksOn(const Clt::Message &message)
     std::set<int> all = inText;
     all.insert(inAction.begin(), inAction.end());
 
-    const QString textLabel = Texts::tr("Text");
+    const char *textLabel = QT_TRANSLATE_NOOP("MessageRemarks", "Text");
     const FieldCheck text(remarks, textLabel, message.sourceText());
     if (text.checkSaved())
         checkPlaces(text, inText, all);
-    const QString actionLabel = Texts::tr("Action");
+    const char *actionLabel = QT_TRANSLATE_NOOP("MessageRemarks", "Action");
     const FieldCheck action(remarks, actionLabel, message.sourceAction());
     if (!isActionSaved && !message.sourceAction().isEmpty())
-        action.add(Rule::Unsaved, Texts::tr("not saved with this severity"));
+        action.add(Rule::Unsaved, QT_TRANSLATE_NOOP("MessageRemarks", "not saved with this severity"));
     if (isActionSaved && action.checkSaved())
         checkPlaces(action, inAction, all);
     return remarks;
@@ -248,8 +273,7 @@ Remarks remarksOn(const Clt::Message &message)
 Remarks remarksOnTranslation(const QString &source, const QString &translation)
 {
     Remarks remarks;
-    const QString noLabel;
-    const FieldCheck check(remarks, noLabel, translation);
+    const FieldCheck check(remarks, nullptr, translation);
     comparePlaces(check, placesIn(source, anyPlace), placesIn(translation, anyPlace));
     compareAccelerators(check, source, translation);
     compareBlanks(check, source, translation);

@@ -9,12 +9,17 @@
 
 namespace Checks {
 
-/// One thing that is wrong with a message or a translation. The text is for the user, in the language of the
-/// program.
+/// One thing that is wrong with a message or a translation.
 struct Remark
 {
     Rule rule;
-    QString text;
+    const char *field;   ///< of a message, in English; null for a translation
+    const char *pattern; ///< in English, with places for the arguments
+    QString argument;    ///< null if there is none
+    QString secondArgument;
+
+    /// The remark for the user, in the language of the program.
+    QString text() const;
 };
 
 using Remarks = std::vector<Remark>;

@@ -67,7 +67,7 @@ public:
     {
         for (const Checks::Remark &remark : remarks) {
             if (remark.rule != Rule::Unsaved) // the reader reports these with their lines
-                add(remark.rule, remark.text);
+                add(remark.rule, remark.text());
         }
     }
 

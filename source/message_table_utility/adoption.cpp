@@ -5,6 +5,8 @@
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
+#include <tuple>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,24 +18,116 @@ namespace {
 constexpr double leastSimilarity = 0.5;
 constexpr std::size_t maximumCandidates = 50;
 
-/// How often each pair of neighbouring letters occurs.
-QHash<std::pair<QChar, QChar>, int> letterPairs(const QString &text)
+/// The pairs of neighbouring letters of a text, ignoring case, and how often each occurs: an open hash table,
+/// because it is compared with every obsolete message.
+class LetterPairs
 {
-    QHash<std::pair<QChar, QChar>, int> pairs;
-    for (qsizetype at = 0; at + 1 < text.size(); ++at)
-        ++pairs[{text.at(at).toLower(), text.at(at + 1).toLower()}];
-    return pairs;
-}
+public:
+    explicit LetterPairs(const QString &text)
+        : m_text(text)
+    {
+        while (m_slots.size() < static_cast<std::size_t>(2 * text.size()))
+            m_slots.resize(2 * m_slots.size());
+        forEachPair(text, [this](quint32 pair) {
+            Slot &slot = slotOf(pair);
+            slot.pair = pair;
+            ++slot.count;
+        });
+    }
+
+    /// See similarity().
+    double similarityTo(const QString &other)
+    {
+        const qsizetype all =
+            std::max<qsizetype>(m_text.size() - 1, 0) + std::max<qsizetype>(other.size() - 1, 0);
+        if (all == 0)
+            return m_text.compare(other, Qt::CaseInsensitive) == 0 && !other.isEmpty() ? 1 : 0;
+        m_found.clear();
+        forEachPair(other, [this](quint32 pair) {
+            Slot &slot = slotOf(pair);
+            if (slot.count > 0) {
+                --slot.count;
+                m_found.push_back(&slot);
+            }
+        });
+        for (Slot *slot : m_found)
+            ++slot->count;
+        return 2.0 * static_cast<double>(m_found.size()) / static_cast<double>(all);
+    }
+
+private:
+    struct Slot
+    {
+        quint32 pair = 0; // no pair, because no text contains a null character
+        int count = 0;
+    };
+
+    static quint32 lower(QChar letter)
+    {
+        const char16_t code = letter.unicode();
+        if (code < 0x80)
+            return code >= u'A' && code <= u'Z' ? code + (u'a' - u'A') : code;
+        return letter.toLower().unicode();
+    }
+
+    template<typename Visit>
+    static void forEachPair(const QString &text, Visit visit)
+    {
+        quint32 first = text.isEmpty() ? 0 : lower(text.front());
+        for (qsizetype at = 1; at < text.size(); ++at) {
+            const quint32 second = lower(text.at(at));
+            visit(first << 16U | second);
+            first = second;
+        }
+    }
+
+    /// The slot of the pair, or the empty one for it.
+    Slot &slotOf(quint32 pair)
+    {
+        constexpr quint32 spread = 0x9e3779b1;
+        std::size_t at = (pair * spread >> 16U) % m_slots.size();
+        while (m_slots[at].pair != pair && m_slots[at].pair != 0)
+            at = (at + 1) % m_slots.size();
+        return m_slots[at];
+    }
+
+    QString m_text;
+    std::vector<Slot> m_slots = std::vector<Slot>(16);
+    std::vector<Slot *> m_found;
+};
+
+/// A message whose texts may be adopted.
+struct Candidate
+{
+    double suitability;
+    int number;
+    const Clt::MessageKey *key;
+};
 
 /// How well the obsolete message suits the new one: 2 for the same tag.
-double suitability(const Clt::Message &message, const Clt::Message &obsolete)
+class Suitability
 {
-    if (message.key().tag == obsolete.key().tag)
-        return 2;
-    const QString &text = message.sourceText().isEmpty() ? message.key().tag : message.sourceText();
-    return std::max(similarity(message.key().tag, obsolete.key().tag),
-                    similarity(text, obsolete.sourceText()));
-}
+public:
+    explicit Suitability(const Clt::Message &message)
+        : m_tag(message.key().tag)
+        , m_tagPairs(m_tag)
+        , m_textPairs(message.sourceText().isEmpty() ? m_tag : message.sourceText())
+    {
+    }
+
+    double of(const Clt::Message &obsolete)
+    {
+        if (m_tag == obsolete.key().tag)
+            return 2;
+        return std::max(m_tagPairs.similarityTo(obsolete.key().tag),
+                        m_textPairs.similarityTo(obsolete.sourceText()));
+    }
+
+private:
+    QString m_tag;
+    LetterPairs m_tagPairs;
+    LetterPairs m_textPairs;
+};
 
 bool isUntranslated(const Translation::TranslationMessage &message)
 {
@@ -58,15 +152,7 @@ QHash<QString, QString> finishedTranslations(const Translation::TranslationTable
 
 double similarity(const QString &one, const QString &other)
 {
-    const auto pairs = letterPairs(one);
-    const auto otherPairs = letterPairs(other);
-    const qsizetype all = std::max<qsizetype>(one.size() - 1, 0) + std::max<qsizetype>(other.size() - 1, 0);
-    if (all == 0)
-        return one.compare(other, Qt::CaseInsensitive) == 0 && !one.isEmpty() ? 1 : 0;
-    int common = 0;
-    for (auto pair = pairs.begin(); pair != pairs.end(); ++pair)
-        common += std::min(pair.value(), otherPairs.value(pair.key()));
-    return 2.0 * common / static_cast<double>(all);
+    return LetterPairs(one).similarityTo(other);
 }
 
 Keys adoptionCandidates(const Clt::MessageTable &table, const Clt::MessageKey &key)
@@ -74,37 +160,39 @@ Keys adoptionCandidates(const Clt::MessageTable &table, const Clt::MessageKey &k
     const auto found = table.messages().find(key);
     if (found == table.end())
         return {};
-    std::vector<std::pair<double, Clt::MessageKey>> candidates;
+    Suitability suitability(found->second);
+    std::vector<Candidate> candidates;
     for (const auto &[otherKey, other] : table) {
         if (other.state() != Clt::MessageState::Obsolete || otherKey == key)
             continue;
-        const double suits = suitability(found->second, other);
+        const double suits = suitability.of(other);
         if (suits >= leastSimilarity)
-            candidates.emplace_back(suits, otherKey);
+            candidates.push_back({suits, static_cast<int>(candidates.size()), &otherKey});
     }
-    std::stable_sort(candidates.begin(), candidates.end(),
-                     [](const auto &left, const auto &right) { return left.first > right.first; });
-    candidates.resize(std::min(candidates.size(), maximumCandidates));
+    const auto end =
+        candidates.begin() + static_cast<std::ptrdiff_t>(std::min(candidates.size(), maximumCandidates));
+    std::partial_sort(
+        candidates.begin(), end, candidates.end(), [](const Candidate &left, const Candidate &right) {
+            return std::tie(right.suitability, left.number) < std::tie(left.suitability, right.number);
+        });
     Keys keys;
-    for (const auto &[suits, candidate] : candidates)
-        keys.push_back(candidate);
+    std::transform(candidates.begin(), end, std::back_inserter(keys),
+                   [](const Candidate &candidate) { return *candidate.key; });
     return keys;
 }
 
-MessageChanges adoption(const Clt::MessageTable &table, const Clt::MessageKey &key,
-                        const Clt::MessageKey &adopted)
+std::optional<Adoption> adoption(const Clt::MessageTable &table, const Clt::MessageKey &key,
+                                 const Clt::MessageKey &adopted)
 {
     const auto found = table.messages().find(key);
     const auto other = table.messages().find(adopted);
     if (found == table.end() || other == table.end() || key == adopted)
-        return {};
+        return std::nullopt;
     Clt::Message after = found->second;
-    after.setSeverity(other->second.severity());
-    for (const Field field : fields)
-        setField(after, field, fieldOf(other->second, field));
+    setValues(after, valuesOf(other->second));
     after.setSolution(other->second.solution());
     after.setState(Clt::MessageState::InSync);
-    return {{found->second, after}, {other->second, std::nullopt}};
+    return Adoption{found->second, after, other->second};
 }
 
 int adoptableTranslations(const Translation::TranslationTable &table)

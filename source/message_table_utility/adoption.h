@@ -2,6 +2,8 @@
 
 #include "message_table_utility/message_change.h"
 
+#include <optional>
+
 namespace Translation {
 class TranslationTable;
 }
@@ -15,10 +17,17 @@ namespace MessageWindow {
 /// or text is similar to its tag or text, the most similar first.
 Keys adoptionCandidates(const Clt::MessageTable &table, const Clt::MessageKey &key);
 
-/// The changes that give a message the severity, the texts and the solution of another one, mark it as
-/// reviewed, and remove the other one.
-MessageChanges adoption(const Clt::MessageTable &table, const Clt::MessageKey &key,
-                        const Clt::MessageKey &adopted);
+/// A message that adopts the severity, the texts and the solution of another one, which is removed.
+struct Adoption
+{
+    Clt::Message before;
+    Clt::Message after; ///< reviewed
+    Clt::Message removed;
+};
+
+/// The adoption by a message of the table; none unless the table has both messages.
+std::optional<Adoption> adoption(const Clt::MessageTable &table, const Clt::MessageKey &key,
+                                 const Clt::MessageKey &adopted);
 
 /// How alike two strings are, ignoring case: from 0, without a common pair of letters, to 1, with the same.
 double similarity(const QString &one, const QString &other);

@@ -68,10 +68,10 @@ private:
     void makeFindDialog();
     void connectStore();
 
-    MessageWindow::Keys selectedKeys();
-    MessageWindow::Keys shownKeys();
+    MessageWindow::Numbers selectedMessages();
+    MessageWindow::Numbers shownMessages();
     void showSelection();
-    void showMessages(const MessageWindow::MessageChanges &changes);
+    void showMessages(const MessageWindow::Numbers &numbers);
     void showStatusCounts();
     void select(int shownRow);
     void select(const Clt::MessageKey &key);

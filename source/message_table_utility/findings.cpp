@@ -11,9 +11,9 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <map>
 #include <set>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,8 +22,6 @@ using Checks::Remarks;
 namespace MessageWindow {
 
 namespace {
-
-constexpr std::size_t maximumListed = 1000;
 
 struct Texts
 {
@@ -37,31 +35,60 @@ QString onOneLine(const QString &text)
     return line.size() > maximum ? line.first(maximum) + u"..."_s : line;
 }
 
-/// The keys of the messages by their context and one of their texts.
-QHash<std::pair<QString, QString>, Clt::MessageKey> keysByText(const Clt::MessageTable &table)
+/// Lists a finding. Its text, which takes time, is made only if there is still space in the list.
+template<typename MakeText>
+void list(Findings &found, const std::optional<Clt::MessageKey> &key, MakeText makeText)
 {
-    QHash<std::pair<QString, QString>, Clt::MessageKey> keys;
+    if (found.findings.size() < Findings::maximum)
+        found.findings.push_back({key, makeText()});
+    else
+        ++found.more;
+}
+
+/// The numbers of findings by context and source.
+using FindingsBySource = QHash<std::pair<QString, QString>, QList<std::size_t>>;
+
+/// Gives the findings the keys of the messages that have these sources.
+void setKeys(Findings &found, const FindingsBySource &bySource, const Clt::MessageTable &table)
+{
     for (const auto &[key, message] : table) {
         for (const QString *text : {&message.sourceTitle(), &message.sourceText(), &message.sourceAction()}) {
-            if (!text->isEmpty())
-                keys.insert({key.context, *text}, key);
+            if (text->isEmpty())
+                continue;
+            const QList<std::size_t> numbers = bySource.value({key.context, *text});
+            for (const std::size_t number : numbers)
+                found.findings[number].key = key;
         }
     }
-    return keys;
+}
+
+/// A remark that only a rule describes.
+Checks::Remark remarkOf(Checks::Rule rule)
+{
+    return {rule, nullptr, nullptr, {}, {}};
 }
 
 Remarks remarksOn(const Translation::TranslationMessage &message)
 {
     if (message.type == "obsolete"_L1 || message.type == "vanished"_L1)
-        return {{Checks::Rule::Obsolete, Texts::tr("no longer used")}};
+        return {remarkOf(Checks::Rule::Obsolete)};
     Remarks remarks;
     if (message.type == "unfinished"_L1 || message.translation.isEmpty())
-        remarks.push_back({Checks::Rule::Unfinished, Texts::tr("not translated yet")});
+        remarks.push_back(remarkOf(Checks::Rule::Unfinished));
     if (!message.translation.isEmpty()) {
         for (const Checks::Remark &remark : Checks::remarksOnTranslation(message.source, message.translation))
             remarks.push_back(remark);
     }
     return remarks;
+}
+
+QString textOf(const Checks::Remark &remark)
+{
+    if (remark.rule == Checks::Rule::Obsolete)
+        return Texts::tr("no longer used");
+    if (remark.rule == Checks::Rule::Unfinished)
+        return Texts::tr("not translated yet");
+    return remark.text();
 }
 
 /// How many strings have a remark of each rule.
@@ -96,40 +123,45 @@ private:
 Findings tableFindings(const Clt::MessageTable &table)
 {
     Findings found;
-    const auto add = [&](const Clt::MessageKey &key, const QString &text) {
-        found.findings.push_back({key, u"%1: %2"_s.arg(key.displayText(), text)});
-    };
-    for (const auto &[key, message] : table) {
+    for (const auto &[messageKey, message] : table) {
+        const Clt::MessageKey &key = messageKey;
+        const auto add = [&](auto makeText) {
+            list(found, key, [&] { return u"%1: %2"_s.arg(key.displayText(), makeText()); });
+        };
         if (message.state() == Clt::MessageState::Obsolete) {
-            add(key, Texts::tr("no longer found in the sources"));
+            add([] { return Texts::tr("no longer found in the sources"); });
             continue;
         }
         if (message.state() == Clt::MessageState::New)
-            add(key, Texts::tr("not reviewed yet"));
+            add([] { return Texts::tr("not reviewed yet"); });
         for (const Checks::Remark &remark : Checks::remarksOn(message))
-            add(key, remark.text);
+            add([&remark] { return remark.text(); });
     }
-    found.summary = Texts::tr("Findings: %L1").arg(found.findings.size());
+    found.summary = Texts::tr("Findings: %L1").arg(found.findings.size() + found.more);
     return found;
 }
 
 Findings translationFindings(const Translation::TranslationTable &translation, const QString &fileName,
                              const Clt::MessageTable &table)
 {
-    const auto keys = keysByText(table);
     Findings found;
+    FindingsBySource bySource;
     Counts counts;
-    for (const auto &[name, context] : translation.contexts()) {
+    for (const auto &[contextName, context] : translation.contexts()) {
+        const QString &name = contextName;
         for (const Translation::TranslationMessage &message : context.messages()) {
             const Remarks remarks = remarksOn(message);
             counts.add(remarks);
-            const auto key = keys.find({name, message.source});
-            for (const Checks::Remark &remark : remarks)
-                found.findings.push_back(
-                    {key == keys.end() ? std::nullopt : std::optional(*key),
-                     u"%1, \"%2\": %3"_s.arg(name, onOneLine(message.source), remark.text)});
+            for (const Checks::Remark &remark : remarks) {
+                if (found.findings.size() < Findings::maximum)
+                    bySource[{name, message.source}].append(found.findings.size());
+                list(found, std::nullopt, [&] {
+                    return u"%1, \"%2\": %3"_s.arg(name, onOneLine(message.source), textOf(remark));
+                });
+            }
         }
     }
+    setKeys(found, bySource, table);
     found.summary =
         Texts::tr("%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with "
                   "other accelerators, %L7 with other blanks")
@@ -166,16 +198,14 @@ FindingsPanel::FindingsPanel(QWidget *parent)
 
 void FindingsPanel::show(const Findings &findings)
 {
-    const std::size_t listed = std::min(findings.findings.size(), maximumListed);
     m_list->clear();
-    m_findings.assign(findings.findings.begin(),
-                      findings.findings.begin() + static_cast<std::ptrdiff_t>(listed));
+    m_findings = findings.findings;
     m_summary->setText(findings.summary);
     QStringList lines;
     for (const Finding &finding : m_findings)
         lines.append(finding.text.simplified());
-    if (findings.findings.size() > listed)
-        lines.append(tr("... and %1 more").arg(findings.findings.size() - listed));
+    if (findings.more > 0)
+        lines.append(tr("... and %1 more").arg(findings.more));
     m_list->addItems(lines);
 }
 

@@ -31,8 +31,11 @@ struct Finding
 /// Findings with a line that sums them up.
 struct Findings
 {
+    static constexpr std::size_t maximum = 1000;
+
     QString summary;
-    std::vector<Finding> findings;
+    std::vector<Finding> findings; ///< no more than the maximum
+    std::size_t more = 0;          ///< the number of those that are not listed
 };
 
 /// The messages that are new, obsolete, or have remarks (message_checks), in key order.

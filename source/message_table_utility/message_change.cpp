@@ -2,25 +2,23 @@
 
 #include "message_checks/message_remarks.h"
 
+#include <QStringMatcher>
+
+#include <algorithm>
+#include <utility>
+
 namespace MessageWindow {
 
 namespace {
 
-/// The changes that an edit makes to the messages with those keys.
-template<typename Edit>
-MessageChanges changesBy(const Clt::MessageTable &table, const Keys &keys, Edit edit)
+const Clt::Message &messageAt(const Places &places, int number)
 {
-    MessageChanges changes;
-    for (const Clt::MessageKey &key : keys) {
-        const auto found = table.messages().find(key);
-        if (found == table.end())
-            continue;
-        Clt::Message after = found->second;
-        edit(after);
-        if (!areEqual(found->second, after))
-            changes.push_back({found->second, after});
-    }
-    return changes;
+    return places[static_cast<std::size_t>(number)]->second;
+}
+
+std::size_t indexOf(Field field)
+{
+    return static_cast<std::size_t>(field);
 }
 
 bool isIncomplete(const Clt::Message &message)
@@ -80,41 +78,94 @@ void setField(Clt::Message &message, Field field, const QString &text)
     message.setText(text);
 }
 
-bool areEqual(const Clt::Message &one, const Clt::Message &other)
+Places placesOf(const Clt::MessageTable &table)
 {
-    return one.severity() == other.severity() && one.state() == other.state() &&
-           one.sourceTitle() == other.sourceTitle() && one.sourceText() == other.sourceText() &&
-           one.sourceAction() == other.sourceAction();
+    Places places;
+    places.reserve(table.size());
+    for (auto place = table.begin(); place != table.end(); ++place)
+        places.push_back(place);
+    return places;
 }
 
-MessageChanges severityChanges(const Clt::MessageTable &table, const Keys &keys, Clt::Severity severity)
+MessageValues valuesOf(const Clt::Message &message)
 {
-    return changesBy(table, keys, [severity](Clt::Message &message) { message.setSeverity(severity); });
+    return {message.severity(),
+            message.state(),
+            {message.sourceTitle(), message.sourceText(), message.sourceAction()}};
 }
 
-MessageChanges stateChanges(const Clt::MessageTable &table, const Keys &keys, Clt::MessageState state)
+void setValues(Clt::Message &message, const MessageValues &values)
 {
-    return changesBy(table, keys, [state](Clt::Message &message) { message.setState(state); });
+    message.setSeverity(values.severity);
+    message.setState(values.state);
+    for (const Field field : fields) {
+        const QString &text = values.texts[indexOf(field)];
+        if (fieldOf(message, field) != text)
+            setField(message, field, text);
+    }
 }
 
-MessageChanges fieldChange(const Clt::MessageTable &table, const Clt::MessageKey &key, Field field,
-                           const QString &text)
+MessageEdits severityEdits(const Places &places, const Numbers &numbers, Clt::Severity severity)
 {
-    return changesBy(table, {key}, [&](Clt::Message &message) { setField(message, field, text); });
+    MessageEdits edits;
+    edits.reserve(numbers.size());
+    for (const int number : numbers) {
+        const Clt::Message &message = messageAt(places, number);
+        if (message.severity() == severity)
+            continue;
+        edits.push_back({number, valuesOf(message)});
+        edits.back().values.severity = severity;
+    }
+    return edits;
 }
 
-MessageChanges replacements(const Clt::MessageTable &table, const Keys &keys, const Search &search,
-                            const QString &replacement)
+MessageEdits stateEdits(const Places &places, const Numbers &numbers, Clt::MessageState state)
 {
-    if (search.text.isEmpty())
+    MessageEdits edits;
+    edits.reserve(numbers.size());
+    for (const int number : numbers) {
+        const Clt::Message &message = messageAt(places, number);
+        if (message.state() == state)
+            continue;
+        edits.push_back({number, valuesOf(message)});
+        edits.back().values.state = state;
+    }
+    return edits;
+}
+
+MessageEdits fieldEdit(const Places &places, int number, Field field, const QString &text)
+{
+    const Clt::Message &message = messageAt(places, number);
+    if (fieldOf(message, field) == text)
         return {};
-    return changesBy(table, keys, [&](Clt::Message &message) {
-        for (const Field field : fields) {
-            QString text = fieldOf(message, field);
-            if (text.contains(search.text, search.caseSensitivity))
-                setField(message, field, text.replace(search.text, replacement, search.caseSensitivity));
-        }
-    });
+    MessageEdit edit{number, valuesOf(message)};
+    edit.values.texts[indexOf(field)] = text;
+    return {edit};
+}
+
+MessageEdits replacements(const Places &places, const Numbers &numbers, const Search &search,
+                          const QString &replacement, const EditProgress &progress)
+{
+    MessageEdits edits;
+    if (search.text.isEmpty())
+        return edits;
+    constexpr qsizetype reportInterval = 1000;
+    const QStringMatcher matcher(search.text, search.caseSensitivity);
+    qsizetype done = 0;
+    for (const int number : numbers) {
+        if (done++ % reportInterval == 0 && !progress(done))
+            break;
+        const Clt::Message &message = messageAt(places, number);
+        const auto matches = [&](Field field) { return matcher.indexIn(fieldOf(message, field)) >= 0; };
+        if (std::none_of(std::begin(fields), std::end(fields), matches))
+            continue;
+        MessageEdit edit{number, valuesOf(message)};
+        for (QString &text : edit.values.texts)
+            text.replace(search.text, replacement, search.caseSensitivity);
+        if (edit.values != valuesOf(message))
+            edits.push_back(std::move(edit));
+    }
+    return edits;
 }
 
 void TableStatus::add(const Clt::Message &message)

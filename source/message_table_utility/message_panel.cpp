@@ -57,15 +57,6 @@ bool isNeeded(const Clt::Message &message, Field field)
     return true;
 }
 
-QLabel *plainLabel(const QString &name)
-{
-    auto *label = new QLabel;
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
 MessagePanel::MessagePanel(QWidget *parent)
@@ -228,7 +219,7 @@ void MessagePanel::showRemarks(const Clt::Message &message)
 {
     QStringList lines;
     for (const Checks::Remark &remark : Checks::remarksOn(message))
-        lines.append(u"\u2022 "_s + remark.text);
+        lines.append(u"\u2022 "_s + remark.text());
     m_remarks->setText(lines.join(u'\n'));
     m_remarks->setVisible(!lines.isEmpty());
 }

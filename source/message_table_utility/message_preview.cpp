@@ -54,7 +54,9 @@ QStyle::StandardPixmap iconOf(Clt::Severity severity)
     return QStyle::SP_MessageBoxInformation;
 }
 
-QLabel *textLabel(const QString &name)
+} // namespace
+
+QLabel *plainLabel(const QString &name)
 {
     auto *label = new QLabel;
     label->setObjectName(name);
@@ -62,8 +64,6 @@ QLabel *textLabel(const QString &name)
     label->setWordWrap(true);
     return label;
 }
-
-} // namespace
 
 PreviewTexts previewOf(const Clt::Message &message)
 {
@@ -85,9 +85,9 @@ PreviewTexts previewOf(const Clt::Message &message)
 MessagePreview::MessagePreview(QWidget *parent)
     : QFrame(parent)
     , m_icon(new QLabel)
-    , m_title(textLabel(u"previewTitle"_s))
-    , m_text(textLabel(u"previewText"_s))
-    , m_action(textLabel(u"previewAction"_s))
+    , m_title(plainLabel(u"previewTitle"_s))
+    , m_text(plainLabel(u"previewText"_s))
+    , m_action(plainLabel(u"previewAction"_s))
     , m_buttons(new QDialogButtonBox)
 {
     constexpr int textColumn = 1;

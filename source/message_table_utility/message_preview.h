@@ -23,6 +23,9 @@ struct PreviewTexts
 /// OK, a status no button.
 PreviewTexts previewOf(const Clt::Message &message);
 
+/// A label for a text that is not ours: plain, in as many lines as it needs.
+QLabel *plainLabel(const QString &name);
+
 /// Shows a message as the product does: in a message box, or a status as a line.
 class MessagePreview : public QFrame
 {

@@ -12,6 +12,7 @@ constexpr int processColumn = 0;
 constexpr int contextColumn = 1;
 constexpr int tagColumn = 2;
 
+constexpr int stateColumn = 3;
 constexpr int firstTextColumn = 4;
 
 Window::RowMark markOf(Clt::MessageState state)
@@ -77,16 +78,15 @@ bool rowMatches(const Window::MarkedRows &rows, int row, const Search &search)
     return false;
 }
 
-void setMessageRow(Window::MarkedTableModel &model, const Clt::Message &message)
+void setMessageRow(Window::MarkedTableModel &model, int row, const Clt::Message &message)
 {
-    const Clt::MessageKey &key = message.key();
-    const int row = rowOfKey(model.rows(), key);
-    if (row < 0)
-        return;
-    model.setRow(row,
-                 {key.process, key.context, key.tag, Clt::stateToText(message.state()), message.sourceTitle(),
-                  message.sourceText(), message.sourceAction()},
-                 markOf(message.state()));
+    const Window::RowMark mark = markOf(message.state());
+    if (mark != model.rows().mark(row))
+        model.setRowText(row, stateColumn, Clt::stateToText(message.state()));
+    model.setRowMark(row, mark);
+    int column = firstTextColumn;
+    for (const Field field : fields)
+        model.setRowText(row, column++, fieldOf(message, field));
 }
 
 } // namespace MessageWindow

@@ -27,7 +27,7 @@ int rowOfKey(const Window::MarkedRows &rows, const Clt::MessageKey &key);
 /// True if the message in a row matches the search (message_change.h).
 bool rowMatches(const Window::MarkedRows &rows, int row, const Search &search);
 
-/// Updates the row of a message that the model has.
-void setMessageRow(Window::MarkedTableModel &model, const Clt::Message &message);
+/// Updates state, mark and texts of the row of a message.
+void setMessageRow(Window::MarkedTableModel &model, int row, const Clt::Message &message);
 
 } // namespace MessageWindow

@@ -2,57 +2,75 @@
 
 #include <QUndoCommand>
 
-#include <algorithm>
 #include <utility>
 
 namespace MessageWindow {
 
 namespace {
 
-/// Makes changes.
-class ChangeStep : public QUndoCommand
+/// Changes values of messages.
+class EditStep : public QUndoCommand
 {
 public:
-    ChangeStep(const QString &name, MessageStore &store, MessageChanges changes)
+    EditStep(const QString &name, MessageStore &store, MessageEdits edits)
         : QUndoCommand(name)
         , m_store(store)
-        , m_changes(std::move(changes))
+        , m_edits(std::move(edits))
     {
     }
 
-    void redo() override { m_store.apply(m_changes); }
-    void undo() override { m_store.revert(m_changes); }
+    void redo() override { m_store.swapValues(m_edits); }
+    void undo() override { m_store.swapValues(m_edits); }
 
 protected:
     MessageStore &m_store;
-    MessageChanges m_changes;
+    MessageEdits m_edits; // with the values that the messages do not have now
 };
 
 /// Changes a field of a message. The next change of the same field is added to it.
-class TypingStep : public ChangeStep
+class TypingStep : public EditStep
 {
 public:
-    TypingStep(const QString &name, MessageStore &store, MessageChanges changes, Field field)
-        : ChangeStep(name, store, std::move(changes))
+    TypingStep(const QString &name, MessageStore &store, MessageEdits edits, Field field)
+        : EditStep(name, store, std::move(edits))
         , m_field(field)
     {
     }
 
     int id() const override { return 1; }
 
+    // Both have been made: the values before this one are those before both.
     bool mergeWith(const QUndoCommand *other) override
     {
         const auto *next = dynamic_cast<const TypingStep *>(other);
-        if (!next || next->m_field != m_field ||
-            next->m_changes.front().after->key() != m_changes.front().after->key())
+        const int number = m_edits.front().number;
+        if (!next || next->m_field != m_field || next->m_edits.front().number != number)
             return false;
-        m_changes.front().after = next->m_changes.front().after;
-        setObsolete(areEqual(*m_changes.front().before, *m_changes.front().after));
+        setObsolete(m_edits.front().values == valuesOf(m_store.message(number)));
         return true;
     }
 
 private:
     Field m_field;
+};
+
+/// Adopts texts.
+class AdoptionStep : public QUndoCommand
+{
+public:
+    AdoptionStep(const QString &name, MessageStore &store, const Adoption &adoption)
+        : QUndoCommand(name)
+        , m_store(store)
+        , m_adoption(adoption)
+    {
+    }
+
+    void redo() override { m_store.replaceMessages({m_adoption.removed}, {m_adoption.after}); }
+    void undo() override { m_store.replaceMessages({}, {m_adoption.before, m_adoption.removed}); }
+
+private:
+    MessageStore &m_store;
+    Adoption m_adoption;
 };
 
 /// Replaces the whole table.
@@ -85,6 +103,7 @@ void MessageStore::reset(Clt::MessageTable table)
 {
     m_undoStack.clear();
     m_table = std::move(table);
+    m_places = placesOf(m_table);
     m_status = statusOf(m_table);
 }
 
@@ -96,17 +115,22 @@ bool MessageStore::save(const QString &fileName)
     return true;
 }
 
-void MessageStore::change(const QString &name, MessageChanges changes)
+void MessageStore::edit(const QString &name, MessageEdits edits)
 {
-    if (!changes.empty())
-        m_undoStack.push(new ChangeStep(name, *this, std::move(changes)));
+    if (!edits.empty())
+        m_undoStack.push(new EditStep(name, *this, std::move(edits)));
 }
 
-void MessageStore::type(const QString &name, const Clt::MessageKey &key, Field field, const QString &text)
+void MessageStore::type(const QString &name, int number, Field field, const QString &text)
 {
-    MessageChanges changes = fieldChange(m_table, key, field, text);
-    if (!changes.empty())
-        m_undoStack.push(new TypingStep(name, *this, std::move(changes), field));
+    MessageEdits edits = fieldEdit(m_places, number, field, text);
+    if (!edits.empty())
+        m_undoStack.push(new TypingStep(name, *this, std::move(edits), field));
+}
+
+void MessageStore::adopt(const QString &name, const Adoption &adoption)
+{
+    m_undoStack.push(new AdoptionStep(name, *this, adoption));
 }
 
 void MessageStore::replaceTable(const QString &name, Clt::MessageTable table)
@@ -114,56 +138,43 @@ void MessageStore::replaceTable(const QString &name, Clt::MessageTable table)
     m_undoStack.push(new TableStep(name, *this, std::move(table)));
 }
 
-void MessageStore::apply(const MessageChanges &changes)
+void MessageStore::swapValues(MessageEdits &edits)
 {
-    for (const MessageChange &change : changes)
-        replace(change.before, change.after);
-    tell(changes);
-}
-
-void MessageStore::revert(const MessageChanges &changes)
-{
-    MessageChanges reverse;
-    reverse.reserve(changes.size());
-    for (const MessageChange &change : changes) {
-        replace(change.after, change.before);
-        reverse.push_back({change.after, change.before});
+    Numbers numbers;
+    numbers.reserve(edits.size());
+    for (MessageEdit &edit : edits) {
+        Clt::Message &message = m_table.editable(m_places[static_cast<std::size_t>(edit.number)]);
+        MessageValues before = valuesOf(message);
+        m_status.remove(message);
+        setValues(message, edit.values);
+        m_status.add(message);
+        edit.values = std::move(before);
+        numbers.push_back(edit.number);
     }
-    tell(reverse);
+    emit messagesChanged(numbers);
 }
 
 void MessageStore::swapTable(Clt::MessageTable &table)
 {
     std::swap(m_table, table);
+    tableReplaced(std::nullopt);
+}
+
+void MessageStore::replaceMessages(const std::vector<Clt::Message> &removed,
+                                   const std::vector<Clt::Message> &inserted)
+{
+    for (const Clt::Message &message : removed)
+        m_table.remove(message.key());
+    for (const Clt::Message &message : inserted)
+        m_table.insert(message);
+    tableReplaced(inserted.front().key());
+}
+
+void MessageStore::tableReplaced(const std::optional<Clt::MessageKey> &shown)
+{
+    m_places = placesOf(m_table);
     m_status = statusOf(m_table);
-    emit tableChanged(std::nullopt);
-}
-
-void MessageStore::replace(const std::optional<Clt::Message> &old, const std::optional<Clt::Message> &now)
-{
-    if (old) {
-        m_status.remove(*old);
-        if (!now)
-            m_table.remove(old->key());
-    }
-    if (now) {
-        m_status.add(*now);
-        m_table.insert(*now);
-    }
-}
-
-void MessageStore::tell(const MessageChanges &changes)
-{
-    const bool areSameKeys = std::all_of(changes.begin(), changes.end(), [](const MessageChange &change) {
-        return change.before && change.after;
-    });
-    if (areSameKeys) {
-        emit messagesChanged(changes);
-        return;
-    }
-    const auto shown = std::find_if(changes.begin(), changes.end(),
-                                    [](const MessageChange &change) { return change.after.has_value(); });
-    emit tableChanged(shown == changes.end() ? std::nullopt : std::optional(shown->after->key()));
+    emit tableChanged(shown);
 }
 
 } // namespace MessageWindow

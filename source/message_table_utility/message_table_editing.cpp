@@ -16,12 +16,16 @@
 #include <QMenuBar>
 #include <QStatusBar>
 
+#include <algorithm>
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 using MessageWindow::FindDialog;
 using MessageWindow::Keys;
-using MessageWindow::MessageChanges;
+using MessageWindow::MessageEdits;
 using MessageWindow::MessagePanel;
+using MessageWindow::Numbers;
 
 // The widgets, which are deleted after this, must not call the window any more.
 MessageTableUtility::~MessageTableUtility()
@@ -99,19 +103,19 @@ void MessageTableUtility::makePanel()
     m_editMenu->addAction(toggle);
 
     connect(m_panel, &MessagePanel::typed, this, [this](MessageWindow::Field field, const QString &text) {
-        const Keys keys = selectedKeys();
-        if (keys.size() == 1 && !isBusy())
-            m_store.type(tr("Typing"), keys.front(), field, text);
+        const Numbers selected = selectedMessages();
+        if (selected.size() == 1 && !isBusy())
+            m_store.type(tr("Typing"), selected.front(), field, text);
     });
     connect(m_panel, &MessagePanel::severityChosen, this, [this](Clt::Severity severity) {
         if (!isBusy())
-            m_store.change(tr("Severity"),
-                           MessageWindow::severityChanges(messages(), selectedKeys(), severity));
+            m_store.edit(tr("Severity"),
+                         MessageWindow::severityEdits(m_store.places(), selectedMessages(), severity));
         showSelection();
     });
     connect(m_panel, &MessagePanel::stateChosen, this, [this](Clt::MessageState state) {
         if (!isBusy())
-            m_store.change(tr("State"), MessageWindow::stateChanges(messages(), selectedKeys(), state));
+            m_store.edit(tr("State"), MessageWindow::stateEdits(m_store.places(), selectedMessages(), state));
         showSelection();
     });
     connect(m_panel, &MessagePanel::left, this, [this] { view().setFocus(Qt::ShortcutFocusReason); });
@@ -173,25 +177,26 @@ void MessageTableUtility::connectStore()
     });
 }
 
-Keys MessageTableUtility::selectedKeys()
+// Message and row have the same number.
+Numbers MessageTableUtility::selectedMessages()
 {
-    Keys keys;
-    const Window::MarkedTableModel &model = view().rowsModel();
+    Numbers numbers;
     const QItemSelection selection = view().selectionModel()->selection();
     for (const QItemSelectionRange &range : selection) {
         for (int row = range.top(); row <= range.bottom(); ++row)
-            keys.push_back(MessageWindow::keyOfRow(model.rows(), model.naturalRow(row)));
+            numbers.push_back(view().rowsModel().naturalRow(row));
     }
-    return keys;
+    std::ranges::sort(numbers);
+    return numbers;
 }
 
-Keys MessageTableUtility::shownKeys()
+Numbers MessageTableUtility::shownMessages()
 {
-    Keys keys;
-    const Window::MarkedTableModel &model = view().rowsModel();
-    for (int row = 0; row < model.rowCount(); ++row)
-        keys.push_back(MessageWindow::keyOfRow(model.rows(), model.naturalRow(row)));
-    return keys;
+    Numbers numbers;
+    for (int row = 0; row < view().rowsModel().rowCount(); ++row)
+        numbers.push_back(view().rowsModel().naturalRow(row));
+    std::ranges::sort(numbers);
+    return numbers;
 }
 
 void MessageTableUtility::showSelection()
@@ -201,7 +206,7 @@ void MessageTableUtility::showSelection()
     for (const QItemSelectionRange &range : selection)
         count += range.height();
     if (count == 1)
-        m_panel->showMessage(messages().message(selectedKeys().front()));
+        m_panel->showMessage(m_store.message(selectedMessages().front()));
     else if (count > 1)
         m_panel->showCount(count);
     else
@@ -210,15 +215,17 @@ void MessageTableUtility::showSelection()
 }
 
 // After an undo the user must see what was undone.
-void MessageTableUtility::showMessages(const MessageChanges &changes)
+void MessageTableUtility::showMessages(const Numbers &numbers)
 {
     Window::MarkedTableModel &model = view().rowsModel();
-    for (const MessageWindow::MessageChange &change : changes)
-        MessageWindow::setMessageRow(model, *change.after);
+    for (const int number : numbers)
+        MessageWindow::setMessageRow(model, number, m_store.message(number));
     model.showChangedRows();
-    const Keys selected = changes.size() == 1 ? selectedKeys() : Keys();
-    if (changes.size() == 1 && (selected.size() != 1 || selected.front() != changes.front().after->key()))
-        select(changes.front().after->key());
+    if (numbers.size() == 1 && selectedMessages() != numbers) {
+        const int shown = model.shownRow(numbers.front());
+        if (shown >= 0)
+            select(shown);
+    }
     showSelection();
 }
 
@@ -263,23 +270,24 @@ int MessageTableUtility::nextRow(const std::function<bool(int naturalRow)> &test
 
 void MessageTableUtility::markAsReviewed()
 {
-    m_store.change(tr("Mark as Reviewed"),
-                   MessageWindow::stateChanges(messages(), selectedKeys(), Clt::MessageState::InSync));
+    m_store.edit(tr("Mark as Reviewed"),
+                 MessageWindow::stateEdits(m_store.places(), selectedMessages(), Clt::MessageState::InSync));
 }
 
 void MessageTableUtility::adoptTexts()
 {
-    const Keys keys = selectedKeys();
-    if (keys.size() != 1 || messages().message(keys.front()).state() != Clt::MessageState::New)
+    const Numbers selected = selectedMessages();
+    if (selected.size() != 1 || m_store.message(selected.front()).state() != Clt::MessageState::New)
         return showStatus(tr("Select a new message"));
-    const Clt::MessageKey key = keys.front();
+    const Clt::MessageKey key = m_store.message(selected.front()).key();
     const Keys candidates = MessageWindow::adoptionCandidates(messages(), key);
     if (candidates.empty())
         return showStatus(tr("No obsolete message has the same tag or a similar text"));
     auto *dialog = new MessageWindow::AdoptionDialog(messages(), candidates, this);
     connect(dialog, &MessageWindow::AdoptionDialog::chosen, this,
             [this, key](const Clt::MessageKey &adopted) {
-                m_store.change(tr("Adopt Texts From..."), MessageWindow::adoption(messages(), key, adopted));
+                if (const auto adoption = MessageWindow::adoption(messages(), key, adopted))
+                    m_store.adopt(tr("Adopt Texts From..."), *adoption);
             });
     dialog->open();
 }
@@ -308,11 +316,11 @@ void MessageTableUtility::findNext()
 
 void MessageTableUtility::replaceInCurrent()
 {
-    const Keys keys = selectedKeys();
-    if (isBusy() || keys.size() != 1)
+    const Numbers selected = selectedMessages();
+    if (isBusy() || selected.size() != 1)
         return findNext();
-    m_store.change(tr("Replace"),
-                   MessageWindow::replacements(messages(), keys, m_find->search(), m_find->replacement()));
+    m_store.edit(tr("Replace"), MessageWindow::replacements(m_store.places(), selected, m_find->search(),
+                                                            m_find->replacement()));
     findNext();
 }
 
@@ -320,10 +328,18 @@ void MessageTableUtility::replaceInAll()
 {
     if (isBusy())
         return;
+    const Numbers shown = shownMessages();
+    const auto replace = [&](Window::Progress &progress) {
+        return MessageWindow::replacements(
+            m_store.places(), shown, m_find->search(), m_find->replacement(),
+            [&](qsizetype done) { return progress.report(done, static_cast<qsizetype>(shown.size())); });
+    };
+    std::optional<MessageEdits> edits = withProgress(tr("Find and Replace"), tr("Replacing..."), replace);
+    m_find->activateWindow(); // the progress may have been in front of it
+    if (!edits)
+        return m_find->showResult(tr("Cancelled; nothing was replaced"));
+    const auto count = edits->size();
     const Window::WaitCursor wait;
-    MessageChanges changes =
-        MessageWindow::replacements(messages(), shownKeys(), m_find->search(), m_find->replacement());
-    const auto count = changes.size();
-    m_store.change(tr("Replace"), std::move(changes));
+    m_store.edit(tr("Replace"), *std::move(edits));
     m_find->showResult(tr("Messages changed: %L1").arg(count));
 }

@@ -77,12 +77,6 @@ void MarkedRows::add(std::initializer_list<QString> texts, RowMark mark)
     m_marks.push_back(mark);
 }
 
-void MarkedRows::set(int row, std::initializer_list<QString> texts, RowMark mark)
-{
-    std::copy(texts.begin(), texts.end(), m_texts.begin() + static_cast<std::ptrdiff_t>(cell(row, 0)));
-    m_marks[static_cast<std::size_t>(row)] = mark;
-}
-
 std::vector<bool> matchingRows(const MarkedRows &rows, const QString &filter)
 {
     std::vector<bool> matching(static_cast<std::size_t>(rows.size()), filter.isEmpty());
@@ -101,18 +95,86 @@ std::vector<bool> matchingRows(const MarkedRows &rows, const QString &filter)
     return matching;
 }
 
+namespace {
+
+/// A row, and the first letters of its string after those that all strings begin with. They decide most
+/// comparisons.
+struct SortedRow
+{
+    quint64 letters;
+    int row;
+};
+
+/// The strings of a column without their case. Neighbours with the same string share it again.
+std::vector<QString> foldedColumn(const MarkedRows &rows, int column)
+{
+    std::vector<QString> folded;
+    folded.reserve(static_cast<std::size_t>(rows.size()));
+    const QChar *last = nullptr;
+    for (int row = 0; row < rows.size(); ++row) {
+        const QString &text = rows.text(row, column);
+        const bool isSame = text.constData() == last && !folded.empty() && !text.isEmpty();
+        folded.push_back(isSame ? folded.back() : text.toCaseFolded());
+        last = text.constData();
+    }
+    return folded;
+}
+
+qsizetype commonBegin(const std::vector<QString> &texts)
+{
+    if (texts.empty())
+        return 0;
+    const QString &first = texts.front();
+    qsizetype length = first.size();
+    for (const QString &text : texts) {
+        if (text.constData() == first.constData())
+            continue;
+        length = std::min(length, text.size());
+        length = std::mismatch(first.begin(), first.begin() + length, text.begin()).first - first.begin();
+    }
+    return length;
+}
+
+quint64 lettersFrom(const QString &text, qsizetype begin)
+{
+    constexpr int letters = 4;
+    constexpr int bits = 16;
+    quint64 packed = 0;
+    for (qsizetype at = begin; at < begin + letters; ++at)
+        packed = packed << bits | (at < text.size() ? text.at(at).unicode() : 0U);
+    return packed;
+}
+
+} // namespace
+
 std::vector<int> sortedRows(const MarkedRows &rows, int column, Qt::SortOrder order)
 {
-    std::vector<int> sorted(static_cast<std::size_t>(rows.size()));
-    std::iota(sorted.begin(), sorted.end(), 0);
+    std::vector<int> numbers(static_cast<std::size_t>(rows.size()));
+    std::iota(numbers.begin(), numbers.end(), 0);
     if (column < 0 || column >= rows.columns())
-        return sorted;
-    std::stable_sort(sorted.begin(), sorted.end(), [&rows, column, order](int left, int right) {
-        const int first = order == Qt::AscendingOrder ? left : right;
-        const int second = order == Qt::AscendingOrder ? right : left;
-        return rows.text(first, column).compare(rows.text(second, column), Qt::CaseInsensitive) < 0;
-    });
-    return sorted;
+        return numbers;
+    const std::vector<QString> texts = foldedColumn(rows, column);
+    const qsizetype begin = commonBegin(texts);
+    std::vector<SortedRow> sorted;
+    sorted.reserve(texts.size());
+    for (const int row : numbers)
+        sorted.push_back({lettersFrom(texts[static_cast<std::size_t>(row)], begin), row});
+    const auto isLess = [&texts](const SortedRow &left, const SortedRow &right) {
+        if (left.letters != right.letters)
+            return left.letters < right.letters;
+        const QString &text = texts[static_cast<std::size_t>(left.row)];
+        const QString &other = texts[static_cast<std::size_t>(right.row)];
+        return text.constData() != other.constData() && text < other;
+    };
+    if (order == Qt::AscendingOrder)
+        std::stable_sort(sorted.begin(), sorted.end(), isLess);
+    else
+        std::stable_sort(
+            sorted.begin(), sorted.end(),
+            [&isLess](const SortedRow &left, const SortedRow &right) { return isLess(right, left); });
+    std::transform(sorted.begin(), sorted.end(), numbers.begin(),
+                   [](const SortedRow &sortedRow) { return sortedRow.row; });
+    return numbers;
 }
 
 } // namespace Window

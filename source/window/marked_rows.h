@@ -42,8 +42,8 @@ public:
     /// Appends a row. There must be a string for each column.
     void add(std::initializer_list<QString> texts, RowMark mark);
 
-    /// Replaces a row. There must be a string for each column.
-    void set(int row, std::initializer_list<QString> texts, RowMark mark);
+    void setText(int row, int column, const QString &text) { m_texts[cell(row, column)] = text; }
+    void setMark(int row, RowMark mark) { m_marks[static_cast<std::size_t>(row)] = mark; }
 
     const QString &text(int row, int column) const { return m_texts[cell(row, column)]; }
     RowMark mark(int row) const { return m_marks[static_cast<std::size_t>(row)]; }

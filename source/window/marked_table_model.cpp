@@ -21,11 +21,6 @@ void MarkedTableModel::setRows(MarkedRows rows)
     endResetModel();
 }
 
-void MarkedTableModel::setRow(int naturalRow, std::initializer_list<QString> texts, RowMark mark)
-{
-    m_rows.set(naturalRow, texts, mark);
-}
-
 // The view only repaints what is on the screen, so finding the changed rows would take longer.
 void MarkedTableModel::showChangedRows()
 {

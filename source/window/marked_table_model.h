@@ -28,9 +28,14 @@ public:
     /// headings: these are not shown, but the filter searches them.
     void setRows(MarkedRows rows);
 
-    /// Replaces a row of rows(). It stays where it is until the filter or the order changes. After the last
-    /// one, call showChangedRows().
-    void setRow(int naturalRow, std::initializer_list<QString> texts, RowMark mark);
+    // Change a row of rows(), which stays where it is until the filter or the order changes. After the last
+    // change, call showChangedRows().
+
+    void setRowText(int naturalRow, int column, const QString &text)
+    {
+        m_rows.setText(naturalRow, column, text);
+    }
+    void setRowMark(int naturalRow, RowMark mark) { m_rows.setMark(naturalRow, mark); }
     void showChangedRows();
 
     const MarkedRows &rows() const { return m_rows; }

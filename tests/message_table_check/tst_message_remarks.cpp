@@ -16,7 +16,7 @@ QString shown(const Remarks &remarks)
 {
     QStringList texts;
     for (const Checks::Remark &remark : remarks)
-        texts.append(u"%1: %2"_s.arg(Checks::ruleName(remark.rule), remark.text));
+        texts.append(u"%1: %2"_s.arg(Checks::ruleName(remark.rule), remark.text()));
     return texts.join(u"; "_s);
 }
 

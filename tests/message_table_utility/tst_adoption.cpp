@@ -1,7 +1,7 @@
+#include "editing_fixture.h"
 #include "message_table_utility/adoption.h"
 #include "support/test_class.h"
 #include "translation/error_translation_table.h"
-#include "utility_fixture.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -113,10 +113,11 @@ private slots:
     void adoptionTakesEverythingButTheKey()
     {
         Clt::MessageTable table = renamedTable();
-        const MessageChanges changes =
+        const std::optional<Adoption> adopted =
             adoption(table, keyOf("Solver::begin", "MeshIsLarge"), keyOf("Solver::start", "MeshIsLarge"));
-        QCOMPARE(changes.size(), std::size_t(2));
-        const Clt::Message &after = *changes.front().after;
+        QVERIFY(adopted);
+        QCOMPARE(adopted->before.state(), Clt::MessageState::New);
+        const Clt::Message &after = adopted->after;
         QCOMPARE(after.key().context, u"Solver::begin"_s);
         QCOMPARE(after.severity(), Clt::Severity::Critical);
         QCOMPARE(after.state(), Clt::MessageState::InSync);
@@ -124,8 +125,9 @@ private slots:
         QCOMPARE(after.sourceText(), u"The mesh has %1 cells."_s);
         QCOMPARE(after.sourceAction(), u"Make the elements larger."_s);
         QCOMPARE(after.solution(), 7);
-        QVERIFY(!changes.back().after);
-        QCOMPARE(changes.back().before->key().context, u"Solver::start"_s);
+        QCOMPARE(adopted->removed.key().context, u"Solver::start"_s);
+        QVERIFY(!adoption(table, after.key(), after.key()));
+        QVERIFY(!adoption(table, after.key(), keyOf("Gone", "MeshIsLarge")));
     }
 
     void adoptedTranslationsStayUnfinished()
@@ -162,6 +164,48 @@ private slots:
         QCOMPARE(f.rowCount(), before.size() - 1);
         f.action("actionUndo")->trigger();
         QCOMPARE(f.shownRows(), before);
+    }
+
+    // Everything but the choice of the files, whose dialogs are the system's.
+    void renameNeedsOnlyTheKeyboard()
+    {
+        EditingFixture f;
+        Clt::MessageTable table;
+        Clt::Message old =
+            messageWith("start", "MeshIsLarge", u"The mesh is large."_s, Clt::MessageState::InSync);
+        table.insert(old);
+        QVERIFY(table.save(f.otherFile));
+        Translation::TranslationTable translation;
+        Translation::TranslationContext context(u"start"_s);
+        context.append({u"The mesh is large."_s, u"Gro\u00dfes Netz."_s, QString(), QString()});
+        translation.setContext(context);
+        QVERIFY(translation.save(f.translationFile));
+        QVERIFY(f.window.openFile(f.otherFile));
+        f.activate();
+
+        f.chooseProjectOf("void begin() { REPORT_ERROR(\"MeshIsLarge\"); }");
+        f.chooseInFileMenu("actionSynchronize");
+        QCOMPARE(f.shownRows(),
+                 (QStringList{u"client|begin|MeshIsLarge|New"_s, u"client|start|MeshIsLarge|Obsolete"_s}));
+        EditingFixture::press(Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(f.label("contextLabel"), u"begin"_s);
+        EditingFixture::press(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+        QTRY_VERIFY(f.child<QListWidget>("candidateList")->hasFocus());
+        EditingFixture::press(Qt::Key_Return);
+        f.activate();
+        QCOMPARE(f.shownRows(), QStringList(u"client|begin|MeshIsLarge|InSync"_s));
+        QCOMPARE(f.label("contextLabel"), u"begin"_s);
+        EditingFixture::press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(readFile(f.otherFile).contains("<text>The mesh is large.</text>"));
+
+        f.dialogs.fileToChoose = f.translationFile;
+        f.dialogs.isConfirmed = true;
+        f.chooseInFileMenu("actionTranslate");
+        Translation::TranslationTable updated;
+        QVERIFY(updated.load(f.translationFile));
+        QCOMPARE(shown(updated), (QStringList{u"begin|The mesh is large.|Gro\u00dfes Netz.|unfinished"_s,
+                                              u"start|The mesh is large.|Gro\u00dfes Netz.|"_s}));
+        QVERIFY(f.child<QListWidget>("findingsList")->hasFocus());
     }
 
     void cancelledAdoptionChangesNothing()

@@ -6,6 +6,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <numeric>
+
 using namespace Qt::Literals::StringLiterals;
 
 using namespace MessageWindow;
@@ -38,6 +40,14 @@ Clt::MessageTable twoMessages()
     return table;
 }
 
+Clt::MessageTable manyMessages(int count)
+{
+    Clt::MessageTable table;
+    for (int number = 0; number < count; ++number)
+        table.insert(messageOf(QString::number(number), Clt::Severity::Warning, u"x"_s));
+    return table;
+}
+
 QString textOf(const MessageStore &store, const QString &tag)
 {
     return store.table().message(keyOf(tag)).sourceText();
@@ -61,16 +71,18 @@ private slots:
     void onlyMessagesThatDifferAreChanged()
     {
         const Clt::MessageTable table = twoMessages();
-        const Keys keys{keyOf(u"One"_s), keyOf(u"Two"_s), keyOf(u"None"_s)};
-        const MessageChanges severity = severityChanges(table, keys, Clt::Severity::Warning);
+        const Places places = placesOf(table);
+        const MessageEdits severity = severityEdits(places, {0, 1}, Clt::Severity::Warning);
         QCOMPARE(severity.size(), std::size_t(1));
-        QCOMPARE(severity.front().before->severity(), Clt::Severity::Critical);
-        QCOMPARE(severity.front().after->severity(), Clt::Severity::Warning);
-        QCOMPARE(severity.front().after->key().tag, u"Two"_s);
-        const MessageChanges state = stateChanges(table, keys, Clt::MessageState::New);
+        QCOMPARE(severity.front().number, 1);
+        MessageValues expected = valuesOf(table.message(keyOf(u"Two"_s)));
+        QCOMPARE(expected.severity, Clt::Severity::Critical);
+        expected.severity = Clt::Severity::Warning;
+        QVERIFY(severity.front().values == expected);
+        const MessageEdits state = stateEdits(places, {0, 1}, Clt::MessageState::New);
         QCOMPARE(state.size(), std::size_t(1));
-        QCOMPARE(state.front().after->key().tag, u"One"_s);
-        QVERIFY(fieldChange(table, keyOf(u"One"_s), Field::Text, u"First text"_s).empty());
+        QCOMPARE(state.front().number, 0);
+        QVERIFY(fieldEdit(places, 0, Field::Text, u"First text"_s).empty());
     }
 
     void everyOccurrenceIsReplaced_data()
@@ -95,8 +107,7 @@ private slots:
         MessageStore store;
         store.reset(twoMessages());
         const Search search{searched, matchesCase ? Qt::CaseSensitive : Qt::CaseInsensitive};
-        store.change(u"Replace"_s,
-                     replacements(store.table(), {keyOf(u"One"_s), keyOf(u"Two"_s)}, search, u"%"_s));
+        store.edit(u"Replace"_s, replacements(store.places(), {0, 1}, search, u"%"_s));
         const Clt::Message two = store.table().message(keyOf(u"Two"_s));
         QTEST((QStringList{textOf(store, u"One"_s), two.sourceTitle(), two.sourceText()}), "expected");
     }
@@ -106,9 +117,9 @@ private slots:
         MessageStore store;
         store.reset(twoMessages());
         for (const char *text : {"a", "ab", "abc"})
-            store.type(u"Typing"_s, keyOf(u"One"_s), Field::Text, QString::fromLatin1(text));
-        store.type(u"Typing"_s, keyOf(u"Two"_s), Field::Text, u"x"_s);
-        store.type(u"Typing"_s, keyOf(u"Two"_s), Field::Title, u"y"_s);
+            store.type(u"Typing"_s, 0, Field::Text, QString::fromLatin1(text));
+        store.type(u"Typing"_s, 1, Field::Text, u"x"_s);
+        store.type(u"Typing"_s, 1, Field::Title, u"y"_s);
         QCOMPARE(store.undoStack().count(), 3);
         store.undoStack().setIndex(0);
         QCOMPARE(textOf(store, u"One"_s), u"First text"_s);
@@ -121,24 +132,50 @@ private slots:
     {
         MessageStore store;
         store.reset(twoMessages());
-        store.type(u"Typing"_s, keyOf(u"One"_s), Field::Text, u"x"_s);
+        store.type(u"Typing"_s, 0, Field::Text, u"x"_s);
         QVERIFY(!store.undoStack().isClean());
-        store.type(u"Typing"_s, keyOf(u"One"_s), Field::Text, u"First text"_s);
+        store.type(u"Typing"_s, 0, Field::Text, u"First text"_s);
         QVERIFY(store.undoStack().isClean());
         QVERIFY(!store.undoStack().canUndo());
     }
 
-    void addedAndRemovedMessagesAreOneStep()
+    void replacementOfATextByItselfIsNoStep()
+    {
+        MessageStore store;
+        store.reset(twoMessages());
+        store.edit(u"Replace"_s, replacements(store.places(), {0, 1}, {u"text"_s}, u"text"_s));
+        QCOMPARE(store.undoStack().count(), 1); // "A Text" has become "A text"
+        store.edit(u"Replace"_s, replacements(store.places(), {0, 1}, {u"text"_s}, u"text"_s));
+        QCOMPARE(store.undoStack().count(), 1);
+    }
+
+    void stoppedReplacementEndsThere()
+    {
+        const Clt::MessageTable table = manyMessages(3000);
+        Numbers numbers(table.size());
+        std::iota(numbers.begin(), numbers.end(), 0);
+        const auto stop = [](qsizetype done) { return done < 2000; };
+        const MessageEdits edits = replacements(placesOf(table), numbers, {u"x"_s}, u"y"_s, stop);
+        QCOMPARE(edits.size(), std::size_t(2000));
+    }
+
+    void adoptionIsOneStep()
     {
         MessageStore store;
         store.reset(twoMessages());
         QSignalSpy tableChanged(&store, &MessageStore::tableChanged);
-        const Clt::Message two = store.table().message(keyOf(u"Two"_s));
-        const Clt::Message three = messageOf(u"Three"_s, Clt::Severity::Status, u"3"_s);
-        store.change(u"Step"_s, {{two, std::nullopt}, {std::nullopt, three}});
-        QVERIFY(!store.table().contains(two.key()) && store.table().contains(three.key()));
+        const Clt::Message one = store.message(0);
+        const Clt::Message two = store.message(1);
+        Clt::Message after = two;
+        after.setText(one.sourceText());
+        store.adopt(u"Step"_s, {two, after, one});
+        QCOMPARE(textOf(store, u"Two"_s), u"First text"_s);
+        QVERIFY(!store.table().contains(one.key()));
+        QCOMPARE(store.places().size(), std::size_t(1));
+        QCOMPARE(shown(store.status()), shown(statusOf(store.table())));
         store.undoStack().undo();
-        QVERIFY(store.table().contains(two.key()) && !store.table().contains(three.key()));
+        QCOMPARE(textOf(store, u"Two"_s), two.sourceText());
+        QCOMPARE(store.message(0).key().tag, u"One"_s);
         QCOMPARE(tableChanged.size(), 2);
         QCOMPARE(shown(store.status()), shown(statusOf(store.table())));
     }
@@ -161,10 +198,9 @@ private slots:
         MessageStore store;
         store.reset(twoMessages());
         QCOMPARE(shown(store.status()), u"1 new, 0 obsolete, 1 incomplete, 0 unsaved"_s);
-        const Keys keys{keyOf(u"One"_s), keyOf(u"Two"_s)};
-        store.change(u"1"_s, severityChanges(store.table(), keys, Clt::Severity::Status));
+        store.edit(u"1"_s, severityEdits(store.places(), {0, 1}, Clt::Severity::Status));
         QCOMPARE(shown(store.status()), u"1 new, 0 obsolete, 0 incomplete, 1 unsaved"_s);
-        store.change(u"2"_s, stateChanges(store.table(), keys, Clt::MessageState::Obsolete));
+        store.edit(u"2"_s, stateEdits(store.places(), {0, 1}, Clt::MessageState::Obsolete));
         QCOMPARE(shown(store.status()), u"0 new, 2 obsolete, 0 incomplete, 1 unsaved"_s);
         store.undoStack().setIndex(0);
         QCOMPARE(shown(store.status()), u"1 new, 0 obsolete, 1 incomplete, 0 unsaved"_s);
