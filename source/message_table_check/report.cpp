@@ -1,5 +1,7 @@
 #include "message_table_check/report.h"
 
+#include "clt_xml_text.h"
+
 #include <QBuffer>
 #include <QDir>
 #include <QJsonArray>
@@ -80,7 +82,10 @@ QJsonObject sarifResult(const FileReport &file, const Finding &finding)
 {
     QJsonObject physical = artifact(file.file);
     physical.insert(u"region"_s, QJsonObject{{u"startLine"_s, finding.line}});
+    const std::vector<Rule> &rules = Checks::allRules();
+    const auto index = std::find(rules.begin(), rules.end(), finding.rule) - rules.begin();
     return {{u"ruleId"_s, Checks::ruleName(finding.rule)},
+            {u"ruleIndex"_s, static_cast<qint64>(index)},
             {u"level"_s, u"error"_s},
             {u"message"_s, textMessage(finding.text)},
             {u"locations"_s, QJsonArray{QJsonObject{{u"physicalLocation"_s, physical}}}}};
@@ -101,6 +106,27 @@ QJsonObject sarifInvocation(const Report &report)
 
 // JUnit
 
+/// The text with a replacement character for each one that XML cannot represent.
+QString xmlTextOf(QString text)
+{
+    if (Clt::isXmlText(text))
+        return text;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const bool isPair =
+            text.at(at).isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
+        const qsizetype size = isPair ? 2 : 1;
+        if (!Clt::isXmlText(QStringView(text).sliced(at, size)))
+            text[at] = QChar::ReplacementCharacter;
+        at += size - 1;
+    }
+    return text;
+}
+
+void writeText(QXmlStreamWriter &xml, const QString &attribute, const QString &text)
+{
+    xml.writeAttribute(attribute, xmlTextOf(text));
+}
+
 void writeCase(QXmlStreamWriter &xml, const FileReport &file, Rule rule)
 {
     QString lines;
@@ -112,12 +138,12 @@ void writeCase(QXmlStreamWriter &xml, const FileReport &file, Rule rule)
         ++count;
     }
     xml.writeStartElement(u"testcase"_s);
-    xml.writeAttribute(u"classname"_s, file.file);
+    writeText(xml, u"classname"_s, file.file);
     xml.writeAttribute(u"name"_s, Checks::ruleName(rule));
     if (count > 0) {
         xml.writeStartElement(u"failure"_s);
         xml.writeAttribute(u"message"_s, u"%1: %2"_s.arg(count).arg(Checks::ruleDescription(rule)));
-        xml.writeCharacters(lines);
+        xml.writeCharacters(xmlTextOf(lines));
         xml.writeEndElement();
     }
     xml.writeEndElement();
@@ -127,7 +153,7 @@ void startSuite(QXmlStreamWriter &xml, const QString &name, std::size_t tests, s
                 std::size_t errors)
 {
     xml.writeStartElement(u"testsuite"_s);
-    xml.writeAttribute(u"name"_s, name);
+    writeText(xml, u"name"_s, name);
     xml.writeAttribute(u"tests"_s, QString::number(tests));
     xml.writeAttribute(u"failures"_s, QString::number(failures));
     xml.writeAttribute(u"errors"_s, QString::number(errors));
@@ -148,10 +174,10 @@ void writeUnusable(QXmlStreamWriter &xml, const UnusableFile &file)
 {
     startSuite(xml, file.file, 1, 0, 1);
     xml.writeStartElement(u"testcase"_s);
-    xml.writeAttribute(u"classname"_s, file.file);
+    writeText(xml, u"classname"_s, file.file);
     xml.writeAttribute(u"name"_s, u"usable"_s);
     xml.writeEmptyElement(u"error"_s);
-    xml.writeAttribute(u"message"_s, file.reason);
+    writeText(xml, u"message"_s, file.reason);
     xml.writeEndElement();
     xml.writeEndElement();
 }

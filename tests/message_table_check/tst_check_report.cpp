@@ -4,8 +4,13 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 #include <QXmlStreamReader>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -58,6 +63,18 @@ QStringList elementsOf(const QByteArray &document)
         ++depth;
     }
     return xml.hasError() ? QStringList(xml.errorString()) : elements;
+}
+
+/// True for a result or a notification with a message, a known level, and a location whose file is a URI
+/// reference.
+bool isSarifEntry(const QJsonValue &entry)
+{
+    static const QStringList levels{u"none"_s, u"note"_s, u"warning"_s, u"error"_s};
+    static const QRegularExpression uri(
+        u"^(?:[A-Za-z][A-Za-z0-9+.-]*:)?(?:%[0-9A-Fa-f]{2}|[A-Za-z0-9._~!$&'()*+,;=@/-])+$"_s);
+    return !entry[u"message"][u"text"].toString().isEmpty() && levels.contains(entry[u"level"].toString()) &&
+           uri.match(entry[u"locations"][0][u"physicalLocation"][u"artifactLocation"][u"uri"].toString())
+               .hasMatch();
 }
 
 } // namespace
@@ -143,6 +160,33 @@ private slots:
         QCOMPARE(place[u"region"][u"startLine"].toInt(), 9);
     }
 
+    void sarifKeepsToTheRulesOfItsSchema()
+    {
+        Report report = wholeReport();
+        report.files.front().file = QString::fromUtf8("a b/%41:\xC3\xA4.xml");
+        const QJsonDocument log = QJsonDocument::fromJson(TableCheck::sarifReport(report));
+        QVERIFY(log[u"$schema"].toString().endsWith(u"sarif-schema-2.1.0.json"_s));
+        QVERIFY(log[u"runs"].isArray());
+        const QJsonValue run = log[u"runs"][0];
+        QVERIFY(run[u"invocations"][0][u"executionSuccessful"].isBool());
+        QCOMPARE(run[u"columnKind"].toString(), u"utf16CodeUnits"_s);
+        const QJsonArray rules = run[u"tool"][u"driver"][u"rules"].toArray();
+        QSet<QString> ids;
+        for (const QJsonValue &rule : rules) {
+            ids.insert(rule[u"id"].toString());
+            QVERIFY(!rule[u"shortDescription"][u"text"].toString().isEmpty());
+        }
+        QCOMPARE(ids.size(), rules.size());
+        const QJsonArray results = run[u"results"].toArray();
+        for (const QJsonValue &result : results) {
+            QVERIFY(isSarifEntry(result));
+            QCOMPARE(rules.at(result[u"ruleIndex"].toInt(-1))[u"id"], result[u"ruleId"]);
+            QVERIFY(result[u"locations"][0][u"physicalLocation"][u"region"][u"startLine"].toInt() >= 1);
+        }
+        const QJsonArray notifications = run[u"invocations"][0][u"toolExecutionNotifications"].toArray();
+        QVERIFY(std::all_of(notifications.begin(), notifications.end(), isSarifEntry));
+    }
+
     void sarifReportsAnUnusableFile()
     {
         const QJsonDocument log = QJsonDocument::fromJson(TableCheck::sarifReport(wholeReport()));
@@ -160,6 +204,46 @@ private slots:
         QVERIFY(log[u"runs"][0][u"results"].isArray());
         QCOMPARE(log[u"runs"][0][u"results"].toArray().size(), 0);
         QVERIFY(log[u"runs"][0][u"invocations"][0][u"executionSuccessful"].toBool());
+    }
+
+    void junitCanNameAnyFile()
+    {
+        Report report = wholeReport();
+        report.files.front().file = u"a\u0007\uFFFF.xml"_s;
+        report.unusable.front().file = u"\u0001.ts"_s;
+        const QByteArray junit = TableCheck::junitReport(report, {Rule::New});
+        QCOMPARE(elementsOf(junit).size(), 7);
+        QVERIFY2(junit.contains("a\xEF\xBF\xBD\xEF\xBF\xBD.xml:3: (p, c, A)"), junit.constData());
+    }
+
+    void junitCountsWhatItHas()
+    {
+        const QByteArray junit =
+            TableCheck::junitReport(wholeReport(), {Rule::New, Rule::Obsolete, Rule::Incomplete});
+        QXmlStreamReader xml(junit);
+        QVERIFY(xml.readNextStartElement());
+        while (xml.readNextStartElement()) { // a suite
+            QMap<QString, int> counts{{u"tests"_s, 0}, {u"failures"_s, 0}, {u"errors"_s, 0}};
+            const QXmlStreamAttributes suite = xml.attributes();
+            QVERIFY(!suite.value("name"_L1).isEmpty());
+            QStringList names;
+            while (xml.readNextStartElement()) { // a case
+                QCOMPARE(xml.name(), u"testcase");
+                QVERIFY(!xml.attributes().value("classname"_L1).isEmpty());
+                names.append(xml.attributes().value("name"_L1).toString());
+                ++counts[u"tests"_s];
+                while (xml.readNextStartElement()) {
+                    ++counts[xml.name().toString() + u's'];
+                    QVERIFY(xml.attributes().hasAttribute("message"_L1));
+                    xml.skipCurrentElement();
+                }
+            }
+            QCOMPARE(names.removeDuplicates(), 0);
+            QCOMPARE(counts.size(), 3); // nothing but failures and errors
+            for (auto count = counts.begin(); count != counts.end(); ++count)
+                QCOMPARE(suite.value(count.key()).toInt(), count.value());
+        }
+        QVERIFY(!xml.hasError());
     }
 
     void junitHasATestCaseForEachRule()
