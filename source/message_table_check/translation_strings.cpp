@@ -84,18 +84,27 @@ void readTranslation(QXmlStreamReader &xml, TranslationString &string)
     string.translations = string.hasForms ? contents.children : QStringList(contents.text);
 }
 
+/// Calls the function at the start tag of each child of an element; it reads the child to its end. Then the
+/// reader is at the element's end tag, unless the document is not well formed.
+template<typename ReadChild>
+void readChildren(QXmlStreamReader &xml, ReadChild readChild)
+{
+    while (Clt::canRead(xml)) {
+        const QXmlStreamReader::TokenType token = xml.readNext();
+        if (token == QXmlStreamReader::EndElement)
+            return;
+        if (token == QXmlStreamReader::StartElement)
+            readChild();
+    }
+}
+
 /// The string is complete if the reader is then at its end tag.
 TranslationString readString(QXmlStreamReader &xml)
 {
     TranslationString string;
     string.line = xml.lineNumber();
     string.hasForms = xml.attributes().value("numerus"_L1) == u"yes";
-    while (Clt::canRead(xml)) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
-        if (token == QXmlStreamReader::EndElement)
-            return string;
-        if (token != QXmlStreamReader::StartElement)
-            continue;
+    readChildren(xml, [&] {
         if (xml.name() == u"source")
             string.source = readText(xml);
         else if (xml.name() == u"comment")
@@ -104,7 +113,7 @@ TranslationString readString(QXmlStreamReader &xml)
             readTranslation(xml, string);
         else
             xml.skipCurrentElement();
-    }
+    });
     return string;
 }
 
@@ -112,12 +121,7 @@ void readContext(QXmlStreamReader &xml, TranslationStrings &strings)
 {
     const std::size_t first = strings.size();
     QString name;
-    while (Clt::canRead(xml)) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
-        if (token == QXmlStreamReader::EndElement)
-            break;
-        if (token != QXmlStreamReader::StartElement)
-            continue;
+    readChildren(xml, [&] {
         if (xml.name() == u"name") {
             name = readText(xml);
         } else if (xml.name() == u"message") {
@@ -127,7 +131,7 @@ void readContext(QXmlStreamReader &xml, TranslationStrings &strings)
         } else {
             xml.skipCurrentElement();
         }
-    }
+    });
     // A context's name need not be its first element.
     for (std::size_t at = first; at < strings.size(); ++at)
         strings[at].context = name;
@@ -138,17 +142,12 @@ void readContext(QXmlStreamReader &xml, TranslationStrings &strings)
 TranslationStrings readTranslationStrings(QXmlStreamReader &xml)
 {
     TranslationStrings strings;
-    while (Clt::canRead(xml)) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
-        if (token == QXmlStreamReader::EndElement)
-            break;
-        if (token != QXmlStreamReader::StartElement)
-            continue;
+    readChildren(xml, [&] {
         if (xml.name() == u"context")
             readContext(xml, strings);
         else
             xml.skipCurrentElement();
-    }
+    });
     return strings;
 }
 
