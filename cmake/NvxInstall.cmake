@@ -85,7 +85,8 @@ set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME tools)
 set_target_properties(${nvx_programs} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
 foreach(program ${nvx_programs})
     # DT_RPATH, unlike DT_RUNPATH, is also used for the libraries that libraries need.
-    target_link_options(${program} PRIVATE LINKER:--disable-new-dtags)
+    # The identifier would be that of the debug information, which names the folder of the sources.
+    target_link_options(${program} PRIVATE LINKER:--disable-new-dtags LINKER:--build-id=none)
 endforeach()
 
 # Parts of the operating system: the C library, and what depends on the machine's drivers and display.

@@ -40,13 +40,14 @@ function(sample_copy source target)
     set_property(DIRECTORY APPEND PROPERTY sample_files "${product}/${target}")
 endfunction()
 
-# sample_archive(ARCHIVE FOLDER): packs the contents of a folder into the file ARCHIVE.
+# sample_archive(ARCHIVE FOLDER): packs the contents of a folder into the file ARCHIVE, without the times and access rights
+# of the files, which differ from checkout to checkout.
 function(sample_archive archive folder)
     find_program(NVX_SEVEN_ZIP 7zz REQUIRED)
     file(GLOB_RECURSE files CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*")
     add_custom_command(OUTPUT "${archive}"
         COMMAND ${CMAKE_COMMAND} -E rm -f "${archive}"
-        COMMAND ${NVX_SEVEN_ZIP} a -bso0 -bsp0 "${archive}" .
+        COMMAND ${NVX_SEVEN_ZIP} a -bso0 -bsp0 -mtm=off -mtr=off "${archive}" .
         WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/${folder}"
         DEPENDS ${files}
         VERBATIM)

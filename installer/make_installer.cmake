@@ -75,6 +75,11 @@ string(ASCII 239 187 191 mark)
 file(WRITE "${lists_file}" "${mark}${lists}")
 
 nvx_copy_task(task)
+# The set-up program stores the pictures' times.
+set(pictures "${CPACK_TOPLEVEL_DIRECTORY}/pictures")
+file(COPY "${NVX_INSTALLER_PICTURES}/program.ico" "${NVX_INSTALLER_PICTURES}/setup.bmp" DESTINATION "${pictures}")
+file(GLOB files "${pictures}/*")
+execute_process(COMMAND touch -d "@$ENV{SOURCE_DATE_EPOCH}" ${files} COMMAND_ERROR_IS_FATAL ANY)
 
 math(EXPR kilobytes "${bytes} / 1024")
 set(set_up "${CPACK_TOPLEVEL_DIRECTORY}/${CPACK_PACKAGE_NAME}-${CPACK_PACKAGE_VERSION}-setup.exe")
@@ -85,8 +90,8 @@ execute_process(
         "-DLISTS=${lists_file}"
         "-DSETUP_TASK=${task}"
         "-DSIGN=\"${CMAKE_COMMAND}\" -DFILE=%1 -P \"${CMAKE_CURRENT_LIST_DIR}/sign.cmake\""
-        "-DICON=${NVX_INSTALLER_PICTURES}/program.ico"
-        "-DSIDE_PICTURE=${NVX_INSTALLER_PICTURES}/setup.bmp"
+        "-DICON=${pictures}/program.ico"
+        "-DSIDE_PICTURE=${pictures}/setup.bmp"
         "-DOUT_FILE=${set_up}"
         "${CMAKE_CURRENT_LIST_DIR}/nvx.nsi"
     RESULT_VARIABLE result)

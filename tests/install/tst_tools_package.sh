@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# tst_tools_package.sh CPACK BUILD_FOLDER: packs the developers' tools, unpacks them into a folder outside the build,
+# tst_tools_package.sh CPACK BUILD_FOLDER SOURCE_FOLDER: packs the developers' tools, unpacks them into a folder outside the build,
 # and runs them there.
 set -euo pipefail
-cpack=$1 build=$2
+cpack=$1 build=$2 sources=$3
 . "$(dirname "${BASH_SOURCE[0]}")/installed.sh"
 
 folder=$(mktemp -d)
@@ -10,7 +10,7 @@ trap 'rm -rf "$folder"' EXIT
 
 (cd "$build" && "$cpack" --config CPackConfig.cmake -B "$folder/packed") >"$folder/pack.log" ||
     fail "not packed: $(tail -n 5 "$folder/pack.log")"
-(cd "$build" && "$cpack" --config CPackConfig.cmake -B "$folder/packed again") >"$folder/pack.log"
+(umask 077 && cd "$build" && "$cpack" --config CPackConfig.cmake -B "$folder/packed again") >"$folder/pack.log"
 cmp "$folder"/packed/*.tar.gz "$folder/packed again"/*.tar.gz || fail "packed again, the package is another one"
 grep -q '"name": "libqt6core6"' "$folder"/packed/*.cdx.json || fail "the bill of materials lacks Qt"
 unpacked="$folder/tools für größe"
@@ -28,6 +28,9 @@ programs=$(cd "$installed/bin" && find . -maxdepth 1 -type f -perm -u+x | sort |
 [ -z "$(find "$installed" -name 'nvxconfig.qm')" ] || fail "translations of a program that is not in the package"
 for program in $programs; do
     if readelf -S "$installed/bin/$program" | grep -qF .debug_info; then fail "$program is not stripped"; fi
+    # Another folder of the sources gives the same program.
+    if grep -qF -e "$sources/" -e "$build/" "$installed/bin/$program"; then fail "$program names its folder"; fi
+    if readelf -n "$installed/bin/$program" | grep -qF 'Build ID'; then fail "$program has a build id"; fi
     headers=$(readelf -hldW --dyn-syms "$installed/bin/$program")
     for defence in 'Type: +DYN' GNU_RELRO BIND_NOW __stack_chk_fail; do
         grep -qE "$defence" <<<"$headers" || fail "$program lacks $defence"
