@@ -95,7 +95,17 @@ def file_version(program: Path) -> str:
 def linux_components(staged: Path) -> Iterator[Component]:
     """The Debian packages whose licences are shipped."""
     for licence in sorted(staged.rglob("licences/*.txt")):
-        yield component(licence.stem, debian_version(licence.stem), "", purl=f"pkg:deb/debian/{licence.stem}")
+        found = component(
+            licence.stem, debian_version(licence.stem), "", purl=f"pkg:deb/debian/{licence.stem}"
+        )
+        names = licences_of(licence.read_text(encoding="utf-8"), licence.name)
+        yield found | {"licenses": [{"license": {"name": name}} for name in names]}
+
+
+def licences_of(copyright_text: str, file: str) -> list[str]:
+    """The licences that a Debian copyright file names; if it is free text, where to read them."""
+    names = sorted(set(re.findall(r"^License: *(\S.*?) *$", copyright_text, re.MULTILINE)))
+    return names or [f"see licences/{file}"]
 
 
 def shipped_files(staged: Path) -> Iterator[Component]:
