@@ -1,15 +1,18 @@
 """docs/administrators.md is right: real runs log its excerpts, and its scripts roll the product out and find
 failures."""
 
+import json
 import re
 import sys
 import unittest
 from pathlib import Path
 
 from machine_case import (
+    BUILD,
     CATEGORY,
     CLOSE_MESSAGE_BOX,
     LOG,
+    PRODUCT_KEY,
     SCRIPTED_TOOL,
     SERVICE_KEY,
     TIME_STAMP,
@@ -27,6 +30,7 @@ from documents import blocks_of, text_of  # noqa: E402
 
 BATCH_FILE = INSTALL_DIR + "work.bat"
 SHARE = "C:\\share"
+PROGRAMS = SHARE + "\\programs"
 BLOCKS = blocks_of(text_of("docs/administrators.md"))
 # The run whose log contains each excerpt of the document.
 RUN_OF = {
@@ -70,6 +74,9 @@ class AdministratorsGuide(MachineCase):
             ("without service", case.run_without_service),
             ("without 7-Zip", case.run_without_seven_zip),
             ("hanging", case.run_hanging),
+            ("Japanese without 7-Zip", case.run_japanese_without_seven_zip),
+            ("Japanese", case.run_japanese),
+            ("removed", case.remove),
             ("good", case.install),
         ):
             case.delete_log()
@@ -80,6 +87,9 @@ class AdministratorsGuide(MachineCase):
         for block in BLOCKS:
             if block.what == "file":
                 case.write(SHARE + "\\" + block.name, block.text.replace("\n", "\r\n").encode())
+        installed = BUILD / "installed"
+        for path in [installed / "NVXLogSummary.exe", installed / "Qt6Core.dll", *installed.glob("lib*.dll")]:
+            case.write(PROGRAMS + "\\" + path.name, path.read_bytes())
 
     def install(self):
         self.assert_complete(*self.configure(INSTALL_DIR, "-I", "-S", "-Len-US"))
@@ -96,6 +106,16 @@ class AdministratorsGuide(MachineCase):
         self.machine.path(INSTALL_DIR + "\\7z.exe").unlink()
         self.install()
 
+    def run_japanese(self):
+        self.assertEqual(self.configure(INSTALL_DIR, "-I", "-S", "-Lja-JP")[0], 0)
+
+    def run_japanese_without_seven_zip(self):
+        self.machine.path(INSTALL_DIR + "\\7z.exe").unlink()
+        self.run_japanese()
+
+    def remove(self):
+        self.assert_removed(*self.configure(INSTALL_DIR, "-U", "-S"))
+
     def run_hanging(self):
         self.replace_seven_zip(INSTALL_DIR, "forget\nline working\nsleep 100000")
         self.install()
@@ -108,6 +128,7 @@ class AdministratorsGuide(MachineCase):
         closing = self.machine.start(str(CLOSE_MESSAGE_BOX), "Server Error", "C:\\message box")
         wait_until("the message box", lambda: mark.exists() or run.poll() is not None)
         type(self).lines_before_message_box = log_lines(self.machine.path(LOG))
+        type(self).log_before_message_box = self.read(LOG)
         mark.unlink()
         self.assertEqual((closing.wait(timeout=60), run.wait(timeout=240)), (0, 0))
         refusal.unlink()
@@ -116,13 +137,15 @@ class AdministratorsGuide(MachineCase):
         """Runs one of the document's scripts; returns its exit code."""
         return self.machine.run("cmd.exe", "/C", SHARE + "\\" + name, *arguments, folder=SHARE).returncode
 
-    def read_log(self, log):
-        """Runs the script that reads logs; returns its exit code and its report, None if it wrote none."""
-        self.write("C:\\read\\some.log", log)
-        self.write("C:\\read\\report.txt", b"of an earlier run")
-        code = self.script("read-log.cmd", "C:\\read\\some.log", "C:\\read\\report.txt")
-        report = self.machine.path("C:\\read\\report.txt")
-        return code, report.read_text(encoding="utf-8") if report.exists() else None
+    def sum_up(self, log):
+        """Runs the summary on a log; returns its exit code, the machine's line and the machine's JSON."""
+        self.write("C:\\read\\CAD-017.log", log)
+        program = PROGRAMS + "\\NVXLogSummary.exe"
+        text = self.machine.run(program, "C:\\read\\CAD-017.log")
+        with_json = self.machine.run(program, "--json", "--output", "C:\\read\\out.json", "C:\\read\\*.log")
+        self.assertEqual(text.returncode, with_json.returncode)
+        (machine,) = json.loads(self.read("C:\\read\\out.json"))["machines"]
+        return text.returncode, text.stdout.decode("utf-8").strip(), machine
 
     def roll_out(self, log, set_up="exit 0", has_reports=True):
         """Runs the roll-out script; returns its exit code and the reports on the share.
@@ -159,8 +182,10 @@ class AdministratorsGuide(MachineCase):
         self.assertEqual(last, "   0  output:")
         self.assertIn("\\HPCAnalyze", "".join(self.lines_before_message_box[-5:]))
 
-    def test_the_log_reader_reports_no_failure_for_a_run_without_a_service(self):
-        self.assertEqual(self.read_log(self.logs["without service"]), (0, None))
+    def test_the_summary_says_which_message_box_a_run_waits_for(self):
+        code, line, machine = self.sum_up(self.log_before_message_box)
+        self.assertEqual((code, machine["verdict"]), (2, "waiting"))
+        self.assertIn("the server is missing, or has not registered its service", line)
 
     def test_the_diagnostic_script_collects_what_the_log_leaves_out(self):
         (expected,) = (block.text for block in BLOCKS if block.what == "diagnostics")
@@ -184,24 +209,40 @@ class AdministratorsGuide(MachineCase):
         self.assertFalse(contains(lines, [["a", "c"]]))
         self.assertFalse(contains(lines, [["d"], ["a"]]))
 
-    def test_the_log_reader_reports_no_failure_for_a_good_run(self):
-        self.assertEqual(self.read_log(self.logs["good"]), (0, None))
-
-    def test_the_log_reader_reports_failures(self):
-        for name, reported in (
-            ("without 7-Zip", ["A program ended with -2:", "-2 The program could not be started."]),
-            ("hanging", ["A program ended with -1:", "-1 The program was still running after"]),
-            ("obstructed", ["A program ended with 2:", "1 Unable to create " + BATCH_FILE]),
+    def test_the_summary_reports_no_failure_for_good_runs(self):
+        for name, mode, language in (
+            ("good", "install", "en-US"),
+            ("Japanese", "install", "ja-JP"),
+            ("removed", "remove", "en-US"),
+            ("without service", "install", "en-US"),
         ):
             with self.subTest(name):
-                code, report = self.read_log(self.logs[name])
-                self.assertEqual(code, 1)
-                for text in reported:
-                    self.assertIn(text, report)
+                code, line, machine = self.sum_up(self.logs[name])
+                self.assertEqual(code, 0, line)
+                self.assertRegex(line, rf"^ok +{mode} +{language} +[\d-]+ [\d:]+  CAD-017$")
+                self.assertEqual(machine["mode"], mode)
+                self.assertEqual(machine["failedSteps"], [])
 
-    def test_the_log_reader_reads_only_the_last_run(self):
+    def test_the_summary_reports_failures(self):
+        for name, failures in (
+            ("without 7-Zip", [(-2, "the program could not be started")] * 3),
+            ("Japanese without 7-Zip", [(-2, "the program could not be started")] * 3),
+            ("hanging", [(-1, "the program did not end in time")]),
+            ("obstructed", [(1, "Unable to create " + BATCH_FILE), (2, "exit code 2")]),
+        ):
+            with self.subTest(name):
+                code, line, machine = self.sum_up(self.logs[name])
+                self.assertEqual((code, line.split()[0]), (1, "failed"))
+                reported = [
+                    (step["number"], step["text"].partition(";")[0]) for step in machine["failedSteps"]
+                ]
+                for failure in failures:
+                    self.assertIn(failure, reported)
+                    reported.remove(failure)
+
+    def test_the_summary_reads_only_the_last_run(self):
         both = self.logs["without 7-Zip"] + self.logs["good"]
-        self.assertEqual(self.read_log(both), (0, None))
+        self.assertEqual(self.sum_up(both)[0], 0)
 
     def test_a_roll_out_reports_the_log_of_the_machine(self):
         code, reports = self.roll_out(self.logs["good"], "sleep 2000\nmark C:\\set up")
@@ -214,11 +255,34 @@ class AdministratorsGuide(MachineCase):
         code, reports = self.roll_out(self.logs["hanging"])
         self.assertEqual(code, 1)
         self.assertEqual(reports.keys(), {"log", "failed.txt"})
-        self.assertIn(b"-1 The program was still running", reports["failed.txt"])
+        self.assertIn(b"the program did not end in time", reports["failed.txt"])
+        self.assertIn(b"\n        The program was still running", reports["failed.txt"])
+
+    def test_a_roll_out_without_the_summary_is_no_success(self):
+        program = self.machine.path(PROGRAMS + "\\NVXLogSummary.exe")
+        aside = program.rename(program.with_suffix(".aside"))
+        code = self.roll_out(self.logs["good"])[0]
+        aside.rename(program)
+        self.assertEqual(code, 1)
 
     def test_a_roll_out_without_a_report_folder_returns_the_failure(self):
         self.assertEqual(self.roll_out(self.logs["hanging"], has_reports=False)[0], 1)
         self.assertEqual(self.roll_out(self.logs["good"], has_reports=False)[0], 0)
+
+    def test_the_start_up_script_installs_unless_this_version_is_there(self):
+        package_manager = self.write(SHARE + "\\msiexec.exe", SCRIPTED_TOOL.read_bytes())
+        self.write(SHARE + "\\msiexec.exe.script", b"record\nexit 7")
+        recorded = package_manager.with_name("msiexec.exe.arguments")
+        self.addCleanup(package_manager.unlink)
+        self.assertEqual(self.script("startup-nvx.cmd"), 7)
+        self.assertIn("NVXLANG=de-DE", recorded.read_text())
+        recorded.unlink()
+        (script,) = (block.text for block in BLOCKS if block.name == "startup-nvx.cmd")
+        (code,) = re.findall(r"set code=(\S+)", script)
+        self.machine.set_value(PRODUCT_KEY, "WindowsInstaller", code)
+        self.assertEqual(self.script("startup-nvx.cmd"), 0)
+        self.machine.run("reg", "delete", PRODUCT_KEY, "/v", "WindowsInstaller", "/f")
+        self.assertFalse(recorded.exists())
 
     def test_a_failing_set_up_program_is_reported(self):
         self.assertEqual(self.roll_out(self.logs["good"], "exit 5"), (2, {}))
