@@ -134,6 +134,7 @@ void TableWindow::makeCentralWidget()
     layout->setObjectName(u"horizontalLayout"_s);
     layout->setContentsMargins(0, 0, 0, 0);
     m_view->setObjectName(u"tableWidget"_s);
+    m_view->setAccessibleName(m_texts.title);
     layout->addWidget(m_view);
     setCentralWidget(central);
 }

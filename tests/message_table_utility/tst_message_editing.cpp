@@ -1,6 +1,7 @@
 #include "editing_fixture.h"
 #include "support/test_class.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDockWidget>
@@ -24,7 +25,8 @@ private slots:
     void savingAsksBeforeTextsAreDropped();
     void synchronisationIsUndone();
     void filterSearchesTheTexts();
-    void panelHasAccessibleNames();
+    void everyControlHasAnAccessibleName();
+    void tabKeyReachesEveryControl();
     void dayOfWorkNeedsOnlyTheKeyboard();
 };
 
@@ -218,12 +220,46 @@ void tst_message_editing::filterSearchesTheTexts()
     QCOMPARE(f.shownRows(), QStringList(UtilityFixture::tableRows().at(1)));
 }
 
-void tst_message_editing::panelHasAccessibleNames()
+void tst_message_editing::everyControlHasAnAccessibleName()
 {
     EditingFixture f;
-    for (const char *name : {"severityChoice", "stateChoice", "titleField", "textField", "actionField",
-                             "processLabel", "contextLabel", "tagLabel", "remarksLabel", "messagePreview"})
+    f.choose("severityChoice", u"Critical"_s);
+    f.action("actionCheck")->trigger();
+    f.action("actionFind")->trigger();
+    int controls = 0;
+    const QList<QWidget *> widgets = f.window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus)
+            continue;
+        const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(
+            !accessible->text(QAccessible::Name).isEmpty(),
+            qPrintable(widget->objectName() + u' ' + QString::fromLatin1(widget->metaObject()->className())));
+        ++controls;
+    }
+    QVERIFY2(controls >= 12, qPrintable(QString::number(controls)));
+    for (const char *name : {"processLabel", "contextLabel", "tagLabel", "remarksLabel", "messagePreview"})
         QVERIFY2(!f.child<QWidget>(name)->accessibleName().isEmpty(), name);
+}
+
+void tst_message_editing::tabKeyReachesEveryControl()
+{
+    EditingFixture f;
+    f.action("actionCheck")->trigger(); // selects the message of the first finding
+    f.select(1);
+    f.choose("severityChoice", u"Critical"_s);
+    f.view()->setFocus();
+    QStringList reached;
+    do {
+        reached.append(QApplication::focusWidget()->objectName());
+        EditingFixture::press(Qt::Key_Tab);
+    } while (QApplication::focusWidget() != f.view() && reached.size() < 50);
+    const QStringList panel{u"severityChoice"_s, u"stateChoice"_s, u"titleField"_s, u"textField"_s,
+                            u"actionField"_s};
+    const qsizetype first = reached.indexOf(panel.front());
+    QCOMPARE(reached.mid(first, panel.size()), panel);
+    QVERIFY2(reached.contains(u"findingsList"_s) && reached.contains(u"filterField"_s),
+             qPrintable(reached.join(u' ')));
 }
 
 // Find the new messages, write their texts, mark them as reviewed, correct a word everywhere, undo, save.
