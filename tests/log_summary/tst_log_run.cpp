@@ -202,6 +202,7 @@ private slots:
     void aFailedRemovalHasTheLaterLinesOfItsOutput()
     {
         const Run run = lastRunOf(withBegin() + firstSteps() + removal("C:\\a", 5) + lastSteps());
+        QCOMPARE(run.failedSteps.size(), std::size_t(1));
         const FailedStep &failure = run.failedSteps.at(0);
         QCOMPARE(failure.kind, FailedStep::Kind::Removal);
         QCOMPARE(failure.output, QStringList({u"C:\\NVX>rmdir /s /q \"C:\\a\""_s, u"Some words."_s}));
