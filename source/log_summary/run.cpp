@@ -118,7 +118,7 @@ void RunReader::addLine(QByteArrayView line)
 
 void RunReader::addDated(const LogLine &line)
 {
-    State &state = *m_state;
+    RunState &state = *m_state;
     const QByteArrayView text = line.text;
     // The empty line before the next run.
     if (text.isEmpty())
@@ -153,7 +153,7 @@ void RunReader::addDated(const LogLine &line)
 // The later lines of a removal's output, and the line with the processors.
 void RunReader::addUndated(QByteArrayView text)
 {
-    State &state = *m_state;
+    RunState &state = *m_state;
     if (state.output == Output::OfRemoval)
         addOutputLine(text);
     else if (state.place == Place::ProgramsChecked && !text.trimmed().isEmpty())
@@ -162,7 +162,7 @@ void RunReader::addUndated(QByteArrayView text)
 
 void RunReader::addOrdinary(const LogLine &line)
 {
-    State &state = *m_state;
+    RunState &state = *m_state;
     const QByteArrayView text = line.text;
     assign(state.step, text);
     if (isFailureInOrdinaryLine(text))
@@ -182,7 +182,7 @@ void RunReader::addOrdinary(const LogLine &line)
 
 void RunReader::addAfterFlagsFile(const LogLine &line)
 {
-    State &state = *m_state;
+    RunState &state = *m_state;
     const QByteArrayView text = line.text;
     if (text.contains(anyMaterials)) {
         // Two lines report missing materials; only the second contains their path.
@@ -198,7 +198,7 @@ void RunReader::addAfterFlagsFile(const LogLine &line)
 
 void RunReader::addProgramEnd(const LogLine &line)
 {
-    State &state = *m_state;
+    RunState &state = *m_state;
     state.output = Output::OfProgram;
     state.outputNumber = line.number;
     state.outputFailed = line.number != step;
@@ -212,7 +212,7 @@ void RunReader::addProgramEnd(const LogLine &line)
 
 void RunReader::addRemovalEnd(const LogLine &line)
 {
-    State &state = *m_state;
+    RunState &state = *m_state;
     state.output = Output::OfRemoval;
     state.outputFailed = isFailedRemoval(line.number);
     state.isCommandRunning = false;
@@ -226,7 +226,7 @@ void RunReader::addRemovalEnd(const LogLine &line)
 
 void RunReader::addOutputLine(QByteArrayView text)
 {
-    State &state = *m_state;
+    RunState &state = *m_state;
     if (state.output == Output::OfRemoval && text.contains(serverFolder)) {
         state.namesServerFolder = true;
         state.hasRemovedServer = true;
@@ -254,7 +254,7 @@ void RunReader::addFailure(const LogLine &line, FailedStep failure)
 // The wizard may set up another language later.
 void RunReader::setUpLanguage(QByteArrayView text)
 {
-    State &state = *m_state;
+    RunState &state = *m_state;
     if (state.place == Place::Begun) {
         state.place = Place::LanguageSetUp;
         const auto *const start =
@@ -271,7 +271,7 @@ void RunReader::setUpLanguage(QByteArrayView text)
 
 bool RunReader::isComplete() const
 {
-    const State &state = *m_state;
+    const RunState &state = *m_state;
     if (state.run.mode == RunMode::Translate)
         return state.hasTranslated;
     if (state.run.mode == RunMode::StopServices)
@@ -282,7 +282,7 @@ bool RunReader::isComplete() const
 
 std::optional<QString> RunReader::messageBox() const
 {
-    const State &state = *m_state;
+    const RunState &state = *m_state;
     const QByteArrayView last = state.lastText;
     if (state.isCommandRunning)
         return std::nullopt;
@@ -308,7 +308,7 @@ std::optional<QString> RunReader::messageBox() const
 
 QString RunReader::stoppedAt() const
 {
-    const State &state = *m_state;
+    const RunState &state = *m_state;
     if (state.isCommandRunning)
         return u"ends during the command "_s + textOf(state.command).trimmed();
     if (state.place == Place::ProgramsChecked && !state.run.isSilent.value_or(true) &&

@@ -63,22 +63,9 @@ struct Run
     qint64 failedStepCount = 0; ///< may be more than are listed
 };
 
-/// Reads a log line by line and retains its last run.
-///
-/// It decides on numbers, on the order of the lines, and on texts that are the same in every language, so it
-/// reads the logs of all languages. Its memory is bounded whatever the log contains.
-class RunReader
+/// What RunReader knows of the run so far.
+struct RunState
 {
-public:
-    static constexpr std::size_t maxFailedSteps = 200;
-    static constexpr qsizetype maxOutputLines = 30;
-
-    void addLine(QByteArrayView line);
-
-    /// The last run; std::nullopt if no run has begun.
-    std::optional<Run> lastRun() const;
-
-private:
     /// How far the run has come.
     enum class Place
     {
@@ -96,25 +83,42 @@ private:
         OfRemoval
     };
 
-    struct State
-    {
-        Run run;
-        Place place = Place::Begun;
-        Output output = Output::None;
-        qint64 outputNumber = 0;
-        bool outputFailed = false;
-        bool isCommandRunning = false;
-        bool namesServerFolder = false;  ///< the last removal is that of the server's working folder
-        bool hasRemovedServer = false;   ///< that folder has been removed
-        bool hasTranslated = false;      ///< the translations have been updated
-        bool hasRemovedOldFiles = false; ///< the last step of a silent removal has begun
-        int linesAfterFlagsFile = 0;
-        QByteArray command;
-        QByteArray step;
-        QByteArray lastText;
-        QByteArray firstStamp;
-        QByteArray lastStamp;
-    };
+    Run run;
+    Place place = Place::Begun;
+    Output output = Output::None;
+    qint64 outputNumber = 0;
+    bool outputFailed = false;
+    bool isCommandRunning = false;
+    bool namesServerFolder = false;  ///< the last removal is that of the server's working folder
+    bool hasRemovedServer = false;   ///< that folder has been removed
+    bool hasTranslated = false;      ///< the translations have been updated
+    bool hasRemovedOldFiles = false; ///< the last step of a silent removal has begun
+    int linesAfterFlagsFile = 0;
+    QByteArray command;
+    QByteArray step;
+    QByteArray lastText;
+    QByteArray firstStamp;
+    QByteArray lastStamp;
+};
+
+/// Reads a log line by line and retains its last run.
+///
+/// It decides on numbers, on the order of the lines, and on texts that are the same in every language, so it
+/// reads the logs of all languages. Its memory is bounded whatever the log contains.
+class RunReader
+{
+public:
+    static constexpr std::size_t maxFailedSteps = 200;
+    static constexpr qsizetype maxOutputLines = 30;
+
+    void addLine(QByteArrayView line);
+
+    /// The last run; std::nullopt if no run has begun.
+    std::optional<Run> lastRun() const;
+
+private:
+    using Place = RunState::Place;
+    using Output = RunState::Output;
 
     void addDated(const LogLine &line);
     void addUndated(QByteArrayView text);
@@ -129,7 +133,7 @@ private:
     std::optional<QString> messageBox() const;
     QString stoppedAt() const;
 
-    std::optional<State> m_state;
+    std::optional<RunState> m_state;
 };
 
 } // namespace LogSummary
