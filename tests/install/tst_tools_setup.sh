@@ -42,11 +42,31 @@ END
 stand_in apt-get <<'END'
 case "$*" in
     install\ *) touch "$folder/packages-installed" ;;
+    *=1.6.39-2+deb12u11) exit 100 ;;
     *\ download\ *) touch "$(basename "$(dirname "${@: -1}")").deb" ;;
 esac
 END
+stand_in apt-cache <<'END'
+case "$*" in
+    *libpng1.6) printf 'Version: 1.6.%s\n' 39-2+deb12u9 39-2+deb12u10 39-2+deb12u11 39-2 43-1 ;;
+    *freetype) printf 'Version: %s\n' 2.12.1+dfsg-5+deb12u4 2.13.2+dfsg-1 ;;
+esac
+END
+# Qt's sources contain two libraries; in Debian's sources of these a file has a fix, and another one is not Qt's. One
+# version of libpng is listed, but cannot be fetched.
 stand_in dpkg-source <<'END'
-mkdir "${@: -1}"
+to=${@: -1}
+if [ "${to##*/}" = qt-source ]; then
+    for library in libpng=1.6.39 freetype=2.12.1; do
+        mkdir -p "$to/src/3rdparty/${library%=*}/config"
+        cd "$to/src/3rdparty/${library%=*}"
+        echo "\"Version\": \"${library#*=}\"" >qt_attribution.json
+        echo "Qt's" | tee read.c config/options.h >own.c
+    done
+    exit
+fi
+mkdir -p "$to/config"
+echo "Debian's" | tee "$to/read.c" "$to/config/options.h" >"$to/other.c"
 END
 stand_in dpkg-deb <<'END'
 mkdir -p "$3/usr/lib64"
@@ -82,6 +102,16 @@ for work in 'apt-get install' 'npm pack' 'apt-get .* source .*qt6-base' 'apt-get
 done
 grep -qhF 'waiting for another tools/setup' "$folder"/first.log "$folder"/second.log || fail "neither has waited"
 [ -f "$NVX_CACHE/qt-windows/built-from" ] || fail "Qt is not where the build looks for it"
+grep -q Debian "$NVX_CACHE"/qt-source/src/3rdparty/{libpng,freetype}/{own.c,config/options.h} &&
+    fail "a file that is Qt's own was replaced"
+for library in libpng freetype; do
+    grep -q Debian "$NVX_CACHE/qt-source/src/3rdparty/$library/read.c" || fail "the fixes of $library were not taken"
+done
+for taken in libpng=1.6.39-2+deb12u10 freetype=2.12.1+dfsg-5+deb12u4; do
+    noted=$(cat "$NVX_CACHE/qt-source/src/3rdparty/${taken%=*}/debian-version")
+    [ "${noted#* }" = "${taken#*=}" ] || fail "not the newest fixes of ${taken%=*} were noted: $noted"
+    grep -F "apt-get " "$calls" | grep -qF -- "=${taken#*=}" || fail "not the newest fixes of ${taken%=*} were fetched"
+done
 [ "$("$NVX_CACHE/nsis/makensis")" = v3.12-1 ] || fail "the compiler of the set-up program does not run"
 [ -f "$NVX_CACHE/7zip-windows/7za.exe" ] || fail "7-Zip is not where the build looks for it"
 

@@ -1,5 +1,6 @@
-"""Reads the kind, the version, the icons and the manifest of a Windows program."""
+"""Reads the kind, the version, the icons, the manifest and the calls of a Windows program."""
 
+import re
 import struct
 from pathlib import Path
 
@@ -19,6 +20,7 @@ class ProgramFile:
         if self.bytes[header : header + 4] != b"PE\0\0":
             raise ValueError(f"{path} is not a Windows program")
         section_count, optional_size = self._number("<H", header + 6), self._number("<H", header + 20)
+        self._symbols, self._symbol_count = struct.unpack_from("<II", self.bytes, header + 12)
         self._optional = header + 24
         first_section = self._optional + optional_size
         self._sections = [
@@ -33,6 +35,23 @@ class ProgramFile:
     @property
     def kind(self) -> int:
         return self._number("<H", self._optional + 68)
+
+    def calls(self, function: str) -> int:
+        """How often the code calls a function whose name is in the file's symbol table; the name has more
+        than eight letters. 0 without a symbol table."""
+        strings = self._symbols + 18 * self._symbol_count
+        name = self.bytes.find(b"\0" + function.encode() + b"\0", strings)
+        if not self._symbols or name < 0:
+            return 0
+        symbol = self.bytes.index(struct.pack("<II", 0, name + 1 - strings), self._symbols)
+        offset, section = struct.unpack_from("<Ih", self.bytes, symbol + 8)
+        size, start, _, raw = self._sections[section - 1]
+        code = self.bytes[raw : raw + size]
+        found = 0
+        for call in re.finditer(rb"\xe8(?=(....))", code, re.DOTALL):
+            (distance,) = struct.unpack("<i", call.group(1))
+            found += call.end() + 4 + distance == offset
+        return found
 
     def resources(self, kind: int) -> list[tuple[int | str, bytes]]:
         """The resources of a kind: [(name or number, bytes)], each in its first language only."""

@@ -59,6 +59,12 @@ class ProgramFiles(unittest.TestCase):
         # The text of the compiler's library, which is linked only into a program that calls it.
         self.assertIn(b"stack smashing detected", program.bytes)
 
+    def test_the_stack_of_qt_is_protected(self):
+        libraries = ["Qt6Core.dll", "Qt6Gui.dll", "Qt6Widgets.dll", "platforms/qwindows.dll"]
+        for name in libraries:
+            with self.subTest(library=name):
+                self.assertGreater(ProgramFile(BUILD / "installed" / name).calls("__stack_chk_fail"), 100)
+
     @each_program
     def test_the_version_block_is_complete(self, name, program):
         numbers, texts = program.version()
