@@ -165,7 +165,8 @@ private slots:
               static_cast<long long>(timeOf([&] { f.button("replaceAllButton")->click(); },
                                             [&] { f.action("actionUndo")->trigger(); })
                                          .count()));
-        QCOMPARE(f.label("findResult"), u"Messages changed: "_s + QLocale(QLocale::English).toString(messages));
+        QCOMPARE(f.label("findResult"),
+                 u"Messages changed: "_s + QLocale(QLocale::English).toString(messages));
         check("undo the replacements",
               timeOf([&] { f.action("actionUndo")->trigger(); }, [&] { f.action("actionRedo")->trigger(); }));
     }
