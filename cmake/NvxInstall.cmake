@@ -64,7 +64,8 @@ if(WIN32)
         set(stripped "${CMAKE_BINARY_DIR}/runtime/${library}")
         file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/runtime")
         execute_process(
-            COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=1 "${CMAKE_STRIP}" -o "${stripped}" "${path}" COMMAND_ERROR_IS_FATAL ANY)
+            COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=1 "${CMAKE_STRIP}" -o "${stripped}" "${path}"
+            COMMAND_ERROR_IS_FATAL ANY)
         install(FILES "${stripped}" DESTINATION .)
     endforeach()
     include(NvxLicences)
@@ -84,8 +85,8 @@ endif()
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME tools)
 set_target_properties(${nvx_programs} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
 foreach(program ${nvx_programs})
-    # DT_RPATH, unlike DT_RUNPATH, is also used for the libraries that libraries need.
-    # The identifier would be that of the debug information, which names the folder of the sources.
+    # DT_RPATH, unlike DT_RUNPATH, is also used for the libraries that libraries need. A build id would differ from folder
+    # to folder, because it depends on the debug information, which names the folder of the sources.
     target_link_options(${program} PRIVATE LINKER:--disable-new-dtags LINKER:--build-id=none)
 endforeach()
 

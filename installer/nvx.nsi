@@ -10,9 +10,8 @@
 ;
 ; An installed product is replaced in its folder, and in its language unless an option selects another one.
 ;
-; Defined by the build: PRODUCT_VERSION, PRODUCT_KILOBYTES, LISTS (the lists of the files), ICON,
-; SETUP_TASK (the program NVXSetupTask.exe), SIGN (the
-; command that signs the file %1), SIDE_PICTURE and OUT_FILE.
+; Defined by the build: PRODUCT_VERSION, PRODUCT_KILOBYTES, LISTS (the lists of the files), ICON, SETUP_TASK (the
+; program NVXSetupTask.exe), SIGN (the command that signs the file %1), SIDE_PICTURE and OUT_FILE.
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
