@@ -54,3 +54,13 @@ FunctionEnd
 !macroend
 !insertmacro ConfigurationFunctions ""
 !insertmacro ConfigurationFunctions "un."
+
+; Before the first file is unpacked: nobody but administrators can exchange it before it is run.
+Function ReserveFolder
+    ExecWait '"$PLUGINSDIR\NVXSetupTask.exe" reserve "$INSTDIR\."' $0
+    ${If} $0 != 0
+        ${Note} "$(^CantWrite)$INSTDIR ($0)"
+        MessageBox MB_OK|MB_ICONSTOP "$(^CantWrite)$INSTDIR" /SD IDOK
+        Abort "$(^CantWrite)$INSTDIR"
+    ${EndIf}
+FunctionEnd

@@ -152,6 +152,7 @@ Section
     AddSize ${PRODUCT_KILOBYTES}
     StrCpy $Done ""
     Call FindTranslators
+    Call ReserveFolder
     ${If} ${FileExists} "$INSTDIR${MARK}"
         Call TakeFilesBack
     ${EndIf}

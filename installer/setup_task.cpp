@@ -3,6 +3,9 @@
 //     NVXSetupTask check
 //         Exits with 1618 (try again later) if a CAD system is running: a silent run would show a message
 //         box.
+//     NVXSetupTask reserve FOLDER
+//         Creates the folder, or takes it over, as one that only administrators can write; see
+//         reserved_folder.h. Exits with the error.
 //     NVXSetupTask configure FOLDER SECONDS OPTION...
 //         Runs NVXConfig.exe of the folder with the options and waits for it. Exits with its exit code; with
 //         1460 if it did not end in time, after ending it and its children; with 2 if it or the server is
@@ -16,6 +19,7 @@
 //         that, the translators' folder and the parent folders if they are empty.
 
 #include "guarded_programs.h"
+#include "reserved_folder.h"
 
 #include <memory>
 #include <string>
@@ -203,6 +207,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
     const std::wstring task = count > 1 ? arguments[1] : std::wstring();
     if (task == L"check" && count == 2)
         return check();
+    if (task == L"reserve" && count == 3)
+        return static_cast<int>(reserveFolder(folderOf(arguments[2])));
     if ((task == L"configure" || task == L"install") && count >= 4) {
         const std::wstring folder = folderOf(arguments[2]);
         const unsigned long seconds = std::wcstoul(arguments[3].c_str(), nullptr, 10);

@@ -1,19 +1,40 @@
 """A set-up that fails exits with another status than 0 and restores the machine."""
 
+import os
 import shutil
+import stat
 import unittest
 
 from guarded_program import GuardedProgram
 from installer_case import InstallerCase
-from machine_case import LOG, PRODUCT_KEY, UNINSTALL_KEY, MachineCase, wait_until
+from machine_case import BUILD, LOG, PRODUCT_KEY, UNINSTALL_KEY, MachineCase, wait_until
 from winemachine import ENVIRONMENT_KEY, INSTALL_DIR, PROGRAM_FILES, value_of
 
-# One of the last files that a set-up replaces, and one of the first.
+OTHER_USER = 65534
+EVERYONE_WRITES = 0o002
 SILENT_SET_UP = ("C:\\set-up.exe", "/S")
 # Exit codes of Windows: try again later; another version is already installed.
 TRY_AGAIN, OTHER_VERSION = 1618, 1638
+# Errors of Windows.
+ACCESS_DENIED, INVALID_PARAMETER = 5, 87
+# One of the last files that a set-up replaces, and one of the first.
 HELD = INSTALL_DIR + "\\zh-TW\\nvxconfig.qm"
 MENU = INSTALL_DIR + "\\Launchers\\UGNX\\startup\\NVX_2017.men"
+
+
+def planted_link(machine, path):
+    """Another user's link to a folder of theirs, in place of a junction, which Wine does not have; returns
+    the folder."""
+    if os.geteuid() != 0:
+        raise unittest.SkipTest("Not run: only an administrator can give a link to another user")
+    elsewhere = machine.path("C:\\elsewhere\\" + path.replace(":", "").replace("\\", "-"))
+    elsewhere.mkdir(parents=True)
+    link = machine.path(path)
+    link.parent.mkdir(parents=True, exist_ok=True)
+    link.symlink_to(elsewhere)
+    os.chown(link, OTHER_USER, OTHER_USER, follow_symlinks=False)
+    os.chown(elsewhere, OTHER_USER, OTHER_USER)
+    return elsewhere
 
 
 class FreshMachine(InstallerCase, MachineCase):
@@ -72,6 +93,70 @@ class FreshMachine(InstallerCase, MachineCase):
         self.assertNotEqual(self.set_up("/S"), 0)
         self.assertEqual(self.machine.files(), before)
         shutil.rmtree(self.machine.path(PROGRAM_FILES + "\\Velmora"))
+
+    def test_a_folder_to_which_another_users_link_leads_is_refused(self):
+        elsewhere = planted_link(self.machine, "C:\\apps")
+        self.assertNotEqual(self.set_up("/S", "/D=C:\\apps\\NVX"), 0)
+        self.assertEqual(list(elsewhere.iterdir()), [])
+        self.machine.path("C:\\apps").unlink()
+
+
+class ReservedFolder(MachineCase):
+    """The task that set-up program and MSI run before they put the first file into the install folder."""
+
+    def reserve(self, folder):
+        shutil.copy(BUILD / "installer" / "NVXSetupTask.exe", self.machine.path("C:\\task.exe"))
+        return self.machine.run("C:\\task.exe", "reserve", folder).returncode
+
+    def mode(self, path):
+        return stat.S_IMODE(self.machine.path(path).stat().st_mode)
+
+    def test_a_missing_folder_is_made_with_those_above_it(self):
+        self.assertEqual(self.reserve("C:\\new\\inner\\NVX"), 0)
+        for path in ("C:\\new", "C:\\new\\inner", "C:\\new\\inner\\NVX"):
+            self.assertEqual(self.mode(path) & EVERYONE_WRITES, 0, path)
+
+    def test_an_existing_folder_is_taken_over_with_its_contents(self):
+        for path in ("C:\\open\\NVX", "C:\\open\\NVX\\inner"):
+            self.machine.path(path).mkdir(parents=True)
+            self.machine.path(path).chmod(0o777)
+        file = self.write("C:\\open\\NVX\\inner\\file", b"text")
+        file.chmod(0o777)
+        self.machine.path("C:\\open").chmod(0o755)
+        self.assertEqual(self.reserve("C:\\open\\NVX\\."), 0)
+        for path in ("C:\\open\\NVX", "C:\\open\\NVX\\inner", "C:\\open\\NVX\\inner\\file"):
+            self.assertEqual(self.mode(path) & EVERYONE_WRITES, 0, path)
+        self.assertEqual(file.read_bytes(), b"text")
+
+    def test_a_link_of_another_user_is_refused(self):
+        elsewhere = planted_link(self.machine, "C:\\linked")
+        self.assertEqual(self.reserve("C:\\linked\\NVX"), ACCESS_DENIED)
+        self.assertEqual(list(elsewhere.iterdir()), [])
+
+    def test_a_link_of_an_administrator_is_followed(self):
+        elsewhere = self.machine.path("C:\\aside\\inner")
+        elsewhere.mkdir(parents=True)
+        self.machine.path("C:\\own").symlink_to(elsewhere)
+        self.assertEqual(self.reserve("C:\\own\\NVX"), 0)
+        self.assertEqual([path.name for path in elsewhere.iterdir()], ["NVX"])
+
+    def test_a_link_in_the_folder_is_not_followed(self):
+        elsewhere = planted_link(self.machine, "C:\\kept\\NVX\\link")
+        elsewhere.chmod(0o777)
+        self.assertEqual(self.reserve("C:\\kept\\NVX"), 0)
+        self.assertEqual(stat.S_IMODE(elsewhere.stat().st_mode), 0o777)
+
+    def test_a_whole_drive_is_refused(self):
+        before = self.mode("C:\\")
+        for drive in ("C:\\", "C:\\."):
+            self.assertEqual(self.reserve(drive), INVALID_PARAMETER)
+        self.assertEqual(self.mode("C:\\"), before)
+
+    def test_a_file_in_the_place_of_a_folder_is_an_error(self):
+        self.write("C:\\place", b"a file")
+        self.assertNotEqual(self.reserve("C:\\place\\NVX"), 0)
+        self.assertNotEqual(self.reserve("C:\\place"), 0)
+        self.assertEqual(self.read("C:\\place"), b"a file")
 
 
 class Upgrade(InstallerCase, MachineCase):

@@ -66,11 +66,11 @@ class Conditions(unittest.TestCase):
         self.assertEqual(tasks(REMOVAL), ["CheckMachine", "StopServer", "Unconfigure", "Unregister"])
 
     def test_an_upgrade_configures_the_product_as_a_repair_does(self):
-        self.assertEqual(tasks(UPGRADE), ["CheckMachine", "Register", "Configure"])
-        self.assertEqual(tasks(REPAIR), ["CheckMachine", "StopServer", "Register", "Configure"])
+        self.assertEqual(tasks(UPGRADE), ["CheckMachine", "Reserve", "Register", "Configure"])
+        self.assertEqual(tasks(REPAIR), ["CheckMachine", "StopServer", "Reserve", "Register", "Configure"])
 
     def test_a_first_installation_that_fails_is_undone(self):
-        self.assertEqual(tasks(FIRST), ["CheckMachine", "Register", "ConfigureFirst"])
+        self.assertEqual(tasks(FIRST), ["CheckMachine", "Reserve", "Register", "ConfigureFirst"])
         self.assertEqual(tasks(FIRST, undoing=True), ["UndoRegister", "UndoConfigure"])
 
     def test_a_repair_or_an_upgrade_that_fails_configures_the_older_product_again(self):
@@ -97,15 +97,12 @@ class Conditions(unittest.TestCase):
             if kind & 0x3F == RUNS_PROGRAM and row["Action"] != "CheckMachine":
                 self.assertEqual(kind & AS_SYSTEM, AS_SYSTEM, row["Action"])
 
-    def test_the_rights_of_the_install_folder_are_set_by_the_configuration_alone(self):
-        for table in ("LockPermissions", "MsiLockPermissionsEx", "CreateFolder"):
-            self.assertEqual(rows_of(PACKAGE, table), [], table)
+    def test_the_install_folder_is_the_administrators_before_the_first_file_is_in_it(self):
         places = {row["Action"]: int(row["Sequence"]) for row in rows_of(PACKAGE, "InstallExecuteSequence")}
-        targets = {row["Action"]: row["Target"].split() for row in rows_of(PACKAGE, "CustomAction")}
-        for action, properties in (("ConfigureFirst", FIRST), ("Configure", UPGRADE), ("Configure", REPAIR)):
-            self.assertIn(action, tasks(properties))
-            self.assertIn("-I", targets[action])
-            self.assertGreater(places[action], places["InstallFiles"])
+        targets = {row["Action"]: row["Target"] for row in rows_of(PACKAGE, "CustomAction")}
+        self.assertEqual(targets["Reserve"], 'reserve "[INSTALLDIR]."')
+        self.assertLess(places["InstallInitialize"], places["Reserve"])
+        self.assertLess(places["Reserve"], places["InstallFiles"])
 
 
 class Identifiers(unittest.TestCase):

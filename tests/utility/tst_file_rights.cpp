@@ -29,8 +29,7 @@ std::wstring wide(const QString &path)
 /// The owner and the access rights of a file, in the system's text form.
 QString rightsText(const QString &path)
 {
-    const Handle entry =
-        openEntry(path, READ_CONTROL, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+    const Handle entry = openEntry(path, READ_CONTROL, shareAll);
     const Descriptor descriptor = descriptorOf(entry.get());
     LPWSTR text = nullptr;
     if (!descriptor || !ConvertSecurityDescriptorToStringSecurityDescriptorW(
@@ -48,8 +47,7 @@ bool setRights(const QString &path, const wchar_t *text)
     if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(text, SDDL_REVISION_1, &descriptor, nullptr))
         return false;
     const Descriptor memory(descriptor);
-    const Handle entry = openEntry(path, READ_CONTROL | WRITE_DAC | WRITE_OWNER,
-                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+    const Handle entry = openEntry(path, READ_CONTROL | WRITE_DAC | WRITE_OWNER, shareAll);
     return entry && applyDescriptor(entry.get(), descriptor);
 }
 
@@ -131,7 +129,7 @@ private slots:
     void administratorsAccountsAreRecognised()
     {
         QFETCH(const QString, account);
-        QTEST(isAdministratorsAccount(account, u"S-1-5-21-1-2-3-1001"_s), "isAdministrators");
+        QTEST(isAdministratorsAccount(wide(account), L"S-1-5-21-1-2-3-1001"), "isAdministrators");
     }
 
     void rightsOfOthersToWriteAreFound_data()
@@ -164,7 +162,7 @@ private slots:
         QVERIFY(ConvertStringSecurityDescriptorToSecurityDescriptorW(wide(u"O:BAG:BA"_s + rights).c_str(),
                                                                      SDDL_REVISION_1, &descriptor, nullptr));
         const Descriptor memory(descriptor);
-        QTEST(mayOthersWrite(descriptor, u"S-1-5-21-1-2-3-1001"_s), "mayWrite");
+        QTEST(mayOthersWrite(descriptor, L"S-1-5-21-1-2-3-1001"), "mayWrite");
     }
 
     void entryWithoutAListOfRightsCanBeWrittenByAll()
@@ -172,7 +170,7 @@ private slots:
         SECURITY_DESCRIPTOR descriptor = {};
         QVERIFY(InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION));
         QVERIFY(SetSecurityDescriptorDacl(&descriptor, TRUE, nullptr, FALSE));
-        QVERIFY(mayOthersWrite(&descriptor, QString()));
+        QVERIFY(mayOthersWrite(&descriptor, std::wstring()));
         QVERIFY(!applyDescriptor(openEntry(m_file, READ_CONTROL | WRITE_DAC, 7).get(), &descriptor));
     }
 
@@ -217,7 +215,6 @@ private slots:
         const ScriptFile script(path, "echo");
         QVERIFY(script);
         QVERIFY(openEntry(path, GENERIC_READ, FILE_SHARE_READ));
-        constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
         for (const DWORD access : {DWORD{GENERIC_WRITE}, DWORD{FILE_APPEND_DATA}, DWORD{DELETE}})
             QVERIFY(!openEntry(path, access, shareAll));
         QVERIFY(!DeleteFileW(wide(path).c_str()));

@@ -1,22 +1,12 @@
 #pragma once
 
-// Owners and access rights of files, for the other sources of this folder.
+// Owners and access rights of files by their paths, for the other sources of this folder.
+
+#include "windows/open_entry.h"
 
 #include <QString>
 
-#include <memory>
-
-#include <windows.h>
-
 namespace Nvx::Util::Platform {
-
-struct CloseHandleOf
-{
-    void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-
-/// An open handle; null if it could not be opened.
-using Handle = std::unique_ptr<void, CloseHandleOf>;
 
 /// A path in the form in which the system accepts more than 260 characters.
 std::wstring longPath(const QString &path);
@@ -26,64 +16,5 @@ Handle openEntry(const QString &path, DWORD access, DWORD sharing);
 
 /// The same with the rights that only an administrator's process has, if it is denied without them.
 Handle openWithPrivileges(const QString &path, DWORD access, DWORD sharing);
-
-/// Whether an open entry is a link or junction. Reparse points of other kinds, such as compressed or cloud
-/// files, lead nowhere else. The handle needs FILE_READ_ATTRIBUTES.
-bool leadsElsewhere(HANDLE entry);
-
-struct FreeLocalMemory
-{
-    void operator()(void *memory) const { LocalFree(memory); }
-};
-
-/// Memory of the system with a security descriptor; null if there is none.
-using Descriptor = std::unique_ptr<void, FreeLocalMemory>;
-
-/// The owner, group and access rights of an open entry. The handle needs READ_CONTROL.
-Descriptor descriptorOf(HANDLE entry);
-
-/// Who may read what administrators own.
-enum class Readers
-{
-    None,       ///< only administrators and the system
-    Users,      ///< all users; they may also run programs
-    AsInherited ///< whoever may do so by the rights of the folder
-};
-
-/// Access rights: the system and administrators may do everything, others read at most; nothing is inherited,
-/// and what is created in a folder with these rights inherits them. AsInherited: what is inherited, and
-/// nothing else. The owner is the administrators' group.
-Descriptor administratorsDescriptor(Readers readers);
-
-/// Whether an account, by the text form of its identifier, is the system's or administrators' own: the
-/// system, the installer of the operating system, the administrators' group, an administrators' group or the
-/// built-in administrator of a domain, or the user of this process.
-bool isAdministratorsAccount(const QString &account, const QString &ownAccount);
-
-/// The same for the owner of an open entry. The handle needs READ_CONTROL.
-bool isOwnedByAdministrators(HANDLE entry);
-
-/// Whether anyone but administrators may write, remove or take over the entry with this descriptor, or what
-/// is created in it. The creator and the owner of an entry do not count.
-bool mayOthersWrite(PSECURITY_DESCRIPTOR descriptor, const QString &ownAccount);
-
-/// Sets the access rights of an open entry as in the descriptor, and its owner as far as the process may.
-/// What an entry inherits from its folder is computed again. The handle needs READ_CONTROL, WRITE_DAC and
-/// WRITE_OWNER.
-bool applyDescriptor(HANDLE entry, PSECURITY_DESCRIPTOR descriptor);
-
-/// Lets an administrator's process open, and set the owner of, entries of other users while it exists.
-class FilePrivileges
-{
-public:
-    FilePrivileges();
-    FilePrivileges(const FilePrivileges &) = delete;
-    FilePrivileges &operator=(const FilePrivileges &) = delete;
-    ~FilePrivileges();
-
-private:
-    struct State;
-    std::unique_ptr<State> m_before;
-};
 
 } // namespace Nvx::Util::Platform

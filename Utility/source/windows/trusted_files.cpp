@@ -12,7 +12,6 @@ namespace Nvx::Util::Platform {
 namespace {
 
 constexpr DWORD look = READ_CONTROL | FILE_READ_ATTRIBUTES;
-constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 bool isMissing(DWORD error)
 {
@@ -22,38 +21,6 @@ bool isMissing(DWORD error)
 
 // Without a right to its contents, a folder that is open can be renamed all the same.
 constexpr DWORD holdContents = FILE_LIST_DIRECTORY;
-
-QString finalPathOf(HANDLE entry)
-{
-    std::wstring path(MAX_PATH, L'\0');
-    DWORD length = GetFinalPathNameByHandleW(entry, path.data(), static_cast<DWORD>(path.size()), 0);
-    if (length > path.size()) {
-        path.resize(length);
-        length = GetFinalPathNameByHandleW(entry, path.data(), length, 0);
-    }
-    QString found = QString::fromWCharArray(path.data(), static_cast<qsizetype>(length));
-    if (found.startsWith("\\\\?\\UNC\\"_L1))
-        return u"\\\\"_s + found.mid(8);
-    return found.startsWith("\\\\?\\"_L1) ? found.mid(4) : found;
-}
-
-// Where the entry is after its own link, if it is one, has been followed.
-QString followedPathOf(const QString &path)
-{
-    const HANDLE entry = CreateFileW(longPath(path).c_str(), FILE_READ_ATTRIBUTES, shareAll, nullptr,
-                                     OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    if (entry == INVALID_HANDLE_VALUE)
-        return QString();
-    return finalPathOf(Handle(entry).get());
-}
-
-bool isIn(const QString &path, const QString &folder)
-{
-    const qsizetype end = path.lastIndexOf(u'\\');
-    const QString parent = path.left(end);
-    const QString without = folder.endsWith(u'\\') ? folder.chopped(1) : folder;
-    return parent.compare(without, Qt::CaseInsensitive) == 0;
-}
 
 bool writeAll(HANDLE file, const QByteArray &contents)
 {
@@ -86,11 +53,12 @@ std::optional<FolderLook> lookAtFolder(const QString &path, const QString &final
         return std::nullopt;
     if (!entry)
         return found;
-    found.finalPath = finalPathOf(entry.get());
+    const std::wstring finalPath = finalPathOf(entry.get());
+    found.finalPath = QString::fromStdWString(finalPath);
     found.point.isLink = leadsElsewhere(entry.get()) ||
-                         (!finalPathOfParent.isEmpty() && !isIn(found.finalPath, finalPathOfParent));
+                         (!finalPathOfParent.isEmpty() && !isIn(finalPath, finalPathOfParent.toStdWString()));
     if (found.point.isLink)
-        found.finalPath = followedPathOf(path);
+        found.finalPath = QString::fromStdWString(followedPathOf(longPath(path)));
     found.point.isAdministrators = isOwnedByAdministrators(entry.get());
     found.hold = std::move(entry);
     return found;
