@@ -5,18 +5,26 @@ in it.
 """
 
 import argparse
+import contextlib
 import os
 import re
+import shlex
 import shutil
 import subprocess
 import sys
+import tempfile
 import time
-from collections.abc import Callable, Iterable, Mapping, Sequence
+from collections.abc import Callable, Iterable, Iterator, Mapping, Sequence
 from dataclasses import dataclass, field
 from pathlib import Path
 
 FUZZER_BATCH_S = 60
 FULL_AMOUNTS = {"runs": 10_000_000, "kills": 1000, "machines": 200, "cycles": 20}
+
+# The sanitizer stores a stack for each allocation, whole ones by default, which takes time if
+# they are deep. The stack of a failure itself is always whole.
+SHORT_STACKS = "malloc_context_size=2"
+WHOLE_STACKS = "malloc_context_size=30"
 
 
 @dataclass(frozen=True)
@@ -26,6 +34,13 @@ class Batch:
     command: list[str]
     amount: int
     environment: dict[str, str] = field(default_factory=dict)
+    hint: str = ""  # how to repeat it with more output
+
+    def description(self) -> str:
+        """The shell command that repeats it, and the hint. The folder for temporary files is left
+        out, because it is removed at the end of the soak."""
+        variables = (f"{n}={shlex.quote(v)}" for n, v in self.environment.items() if n != "TMPDIR")
+        return "\n".join([" ".join([*variables, *self.command]), *([self.hint] if self.hint else [])])
 
 
 @dataclass(frozen=True)
@@ -57,16 +72,46 @@ class Outcome:
         return text + (f": failed, see {self.failed}" if self.failed else "")
 
 
-def fuzzer(program: Path, corpus: Path, found: Path, full: int, seed: int) -> Part:
+def fuzzer_environment(given: Mapping[str, str], memory: Path | None) -> dict[str, str]:
+    """What a fuzzer gets in addition to the given environment: short stacks of allocations, and `memory` as
+    the folder for temporary files, unless the environment already says otherwise."""
+    added = {}
+    options = given.get("ASAN_OPTIONS", "")
+    if "malloc_context_size" not in options:
+        added["ASAN_OPTIONS"] = ":".join(filter(None, [options, SHORT_STACKS]))
+    if memory and "TMPDIR" not in given:
+        added["TMPDIR"] = str(memory)
+    return added
+
+
+@contextlib.contextmanager
+def folder_in_memory(memory: Path) -> Iterator[Path | None]:
+    """A folder in the file system `memory` until the end of the context; None if it is not writable."""
+    if not os.access(memory, os.W_OK):
+        yield None
+        return
+    with tempfile.TemporaryDirectory(prefix="nvx-soak-", dir=memory) as folder:
+        yield Path(folder)
+
+
+def fuzzer(
+    program: Path, corpus: Path, found: Path, full: int, seed: int, environment: dict[str, str]
+) -> Part:
     """The part of a libFuzzer program. New inputs go to the folder `found`, which later batches start from;
     so do crashes. `corpus` may be missing."""
+    shortened = SHORT_STACKS in environment.get("ASAN_OPTIONS", "")
+    hint = (
+        f"The stacks of allocations are short; {WHOLE_STACKS} in ASAN_OPTIONS shows whole ones."
+        if shortened
+        else ""
+    )
 
     def batch(number: int, left: int, seconds: float) -> Batch:
         limit = max(1, int(min(FUZZER_BATCH_S, seconds)))
         options = [f"-seed={seed + number}", f"-runs={left}", f"-max_total_time={limit}"]
         fixed = ["-timeout=10", "-max_len=4096", "-print_final_stats=1", f"-artifact_prefix={found}/"]
         folders = [str(found), *([str(corpus)] if corpus.is_dir() else [])]
-        return Batch([str(program), *options, *fixed, *folders], left)
+        return Batch([str(program), *options, *fixed, *folders], left, environment, hint)
 
     return Part(program.name, "runs", full, found, batch, fuzzer_runs)
 
@@ -93,12 +138,14 @@ def machine_part(
     return Part(module.removeprefix("test_"), unit, full, folder, batch)
 
 
-def all_parts(root: Path, seed: int, full: Mapping[str, int]) -> list[Part]:
-    """All parts: each fuzzer that is built, then those on Windows machines."""
+def all_parts(root: Path, seed: int, full: Mapping[str, int], memory: Path | None = None) -> list[Part]:
+    """All parts: each fuzzer that is built, with its temporary files in `memory`, then those on Windows
+    machines."""
     fuzzers = sorted((root / "build" / "sanitize" / "fuzz").glob("fuzz_*[a-z]"))
     corpus, found = root / "fuzz" / "corpus", root / "build" / "soak"
+    environment = fuzzer_environment(os.environ, memory)
     parts = [
-        fuzzer(program, corpus / program.name, found / program.name, full["runs"], seed)
+        fuzzer(program, corpus / program.name, found / program.name, full["runs"], seed, environment)
         for program in fuzzers
         if program.is_file()
     ]
@@ -144,8 +191,7 @@ def run_part(part: Part, seconds: float, logs: Path) -> Outcome:
         number += 1
         if done.returncode != 0 or counted == 0:
             log = logs / f"{part.name}.{number}.log"
-            head = " ".join([*(f"{n}={v}" for n, v in batch.environment.items()), *batch.command])
-            log.write_text(head + "\n" + output)
+            log.write_text(batch.description() + "\n" + output)
             return Outcome(part.name, part.unit, amount, time.monotonic() - started, log)
     return Outcome(part.name, part.unit, amount, time.monotonic() - started)
 
@@ -175,10 +221,16 @@ def read_arguments(arguments: Sequence[str]) -> argparse.Namespace:
     return parser.parse_intermixed_args(arguments)
 
 
-def main(root: Path, arguments: Sequence[str]) -> int:
+def main(root: Path, arguments: Sequence[str], memory: Path = Path("/dev/shm")) -> int:
+    """Temporary files of the fuzzers go to the file system `memory`, if possible."""
     options = read_arguments(arguments)
+    with folder_in_memory(memory) as folder:
+        return run_soak(root, options, folder)
+
+
+def run_soak(root: Path, options: argparse.Namespace, memory: Path | None) -> int:
     full = {unit: getattr(options, unit) for unit in FULL_AMOUNTS}
-    parts = all_parts(root, options.seed, full)
+    parts = all_parts(root, options.seed, full, memory)
     unknown = set(options.parts) - {part.name for part in parts}
     if unknown:
         print(f"error: no part {', '.join(sorted(unknown))}; there are:", file=sys.stderr)
