@@ -98,6 +98,7 @@ Window::TableWindowTexts MessageTableUtility::texts()
 void MessageTableUtility::clearTable()
 {
     m_store.reset({});
+    hideFindings();
 }
 
 Outcome MessageTableUtility::loadTable(const QString &fileName, Window::Progress &progress)
@@ -106,6 +107,7 @@ Outcome MessageTableUtility::loadTable(const QString &fileName, Window::Progress
     if (!table)
         return Failure{table.error()};
     m_store.reset(*std::move(table));
+    hideFindings();
     return Done();
 }
 

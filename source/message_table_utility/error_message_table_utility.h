@@ -65,6 +65,7 @@ private:
     void makePanel();
     void makeFindings();
     void showFindings(const MessageWindow::Findings &findings);
+    void hideFindings();
     void makeFindDialog();
     void connectStore();
 
@@ -74,7 +75,9 @@ private:
     void showMessages(const MessageWindow::Numbers &numbers);
     void showStatusCounts();
     void select(int shownRow);
-    void select(const Clt::MessageKey &key);
+    bool select(const Clt::MessageKey &key); ///< false if the message is not shown
+    void editMessage();
+    bool showMessage(const Clt::MessageKey &key); ///< false if there is no such message
 
     /// The first shown row after the current one, round to it, for which the test is true; -1 if there is
     /// none.
@@ -91,6 +94,7 @@ private:
     MessageWindow::MessagePanel *m_panel = nullptr;
     MessageWindow::FindDialog *m_find = nullptr;
     MessageWindow::FindingsPanel *m_findings = nullptr;
+    QDockWidget *m_dock = nullptr; // of the panel
     QDockWidget *m_findingsDock = nullptr;
     QMenu *m_editMenu = nullptr;
     QLabel *m_statusLabel = nullptr;

@@ -32,7 +32,7 @@ FindDialog::FindDialog(QWidget *parent)
     form->addRow(tr("Replace with:"), m_replacement);
     form->addRow(m_matchesCase);
 
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    auto *buttons = new QDialogButtonBox;
     const auto addButton = [&](const QString &name, const QString &text, auto signal) {
         QPushButton *button = buttons->addButton(text, QDialogButtonBox::ActionRole);
         button->setObjectName(name);
@@ -45,6 +45,7 @@ FindDialog::FindDialog(QWidget *parent)
     addButton(u"findNextButton"_s, tr("Find Next"), &FindDialog::findNextRequested)->setDefault(true);
     addButton(u"replaceButton"_s, tr("Replace"), &FindDialog::replaceRequested);
     addButton(u"replaceAllButton"_s, tr("Replace All"), &FindDialog::replaceAllRequested);
+    buttons->addButton(QDialogButtonBox::Close); // the last one, or the Tab key would not reach it
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
 
     auto *layout = new QVBoxLayout(this);

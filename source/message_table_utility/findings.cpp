@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QVBoxLayout>
@@ -189,11 +190,25 @@ FindingsPanel::FindingsPanel(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_summary);
     layout->addWidget(m_list, 1);
-    connect(m_list, &QListWidget::currentRowChanged, this, [this](int row) {
-        if (row >= 0 && row < static_cast<int>(m_findings.size()) &&
-            m_findings[static_cast<std::size_t>(row)].key)
-            emit chosen(*m_findings[static_cast<std::size_t>(row)].key);
+    m_list->installEventFilter(this);
+    const auto choose = [this] {
+        if (m_list->selectionModel()->hasSelection()) {
+            if (const auto key = keyOfRow(m_list->currentRow()))
+                emit chosen(*key);
+        }
+    };
+    connect(m_list, &QListWidget::itemSelectionChanged, this, choose);
+    connect(m_list, &QListWidget::itemClicked, this, choose); // it may be selected already
+    connect(m_list, &QListWidget::itemActivated, this, [this](const QListWidgetItem *item) {
+        if (const auto key = keyOfRow(m_list->row(item)))
+            emit opened(*key);
     });
+}
+
+std::optional<Clt::MessageKey> FindingsPanel::keyOfRow(int row) const
+{
+    const auto at = static_cast<std::size_t>(row);
+    return row >= 0 && at < m_findings.size() ? m_findings[at].key : std::nullopt;
 }
 
 void FindingsPanel::show(const Findings &findings)
@@ -211,7 +226,18 @@ void FindingsPanel::show(const Findings &findings)
 
 void FindingsPanel::begin()
 {
+    // A list without a current row would choose one.
+    m_list->setCurrentRow(0, QItemSelectionModel::NoUpdate);
     m_list->setFocus(Qt::ShortcutFocusReason);
+}
+
+bool FindingsPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        emit left();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace MessageWindow

@@ -46,7 +46,7 @@ Findings tableFindings(const Clt::MessageTable &table);
 Findings translationFindings(const Translation::TranslationTable &translation, const QString &fileName,
                              const Clt::MessageTable &table);
 
-/// A list of findings. A finding that becomes the current one shows its message.
+/// A list of findings. A finding that the user selects shows its message, Return opens it.
 class FindingsPanel : public QWidget
 {
     Q_OBJECT
@@ -54,15 +54,29 @@ class FindingsPanel : public QWidget
 public:
     explicit FindingsPanel(QWidget *parent = nullptr);
 
+    /// Replaces the findings. None is selected.
     void show(const Findings &findings);
 
     /// Gives the focus to the list.
     void begin();
 
 signals:
+    /// The user wants to see the message.
     void chosen(const Clt::MessageKey &key);
 
+    /// The user wants to edit it.
+    void opened(const Clt::MessageKey &key);
+
+    /// The user wants to return to the table.
+    void left();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    /// The message of the finding in that row.
+    std::optional<Clt::MessageKey> keyOfRow(int row) const;
+
     QLabel *m_summary;
     QListWidget *m_list;
     std::vector<Finding> m_findings;

@@ -137,6 +137,9 @@ protected:
     /// Updates the rows on the screen.
     void showTable();
 
+    /// Shows all rows.
+    void clearFilter();
+
     /// Shows the text in the status bar until the next call; an empty text clears it.
     void showStatus(const QString &text);
 

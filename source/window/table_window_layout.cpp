@@ -112,6 +112,11 @@ void TableWindow::makeToolBar()
     });
 }
 
+void TableWindow::clearFilter()
+{
+    m_filter->clear();
+}
+
 void TableWindow::addTableAction(QAction *action)
 {
     action->setEnabled(false);

@@ -3,7 +3,7 @@
 import re
 import unittest
 
-from documents import rows_of, text_of
+from documents import ROOT, blocks_of, prose_of, rows_of, text_of
 
 
 def literals_of(call, source):
@@ -18,6 +18,25 @@ def seconds_of(name, source):
     return int(number) * {"ms": 0.001, "s": 1, "min": 60}[unit]
 
 
+def window_sources(folder):
+    """The sources of a window and of what all windows share."""
+    names = [*ROOT.glob(f"source/{folder}/*.cpp"), *ROOT.glob("source/window/*.cpp")]
+    return "\n".join(text_of(name) for name in names)
+
+
+def keys_of(source):
+    """The shortcuts in a source, such as "Ctrl+N"."""
+    standard = {"Undo": "Ctrl+Z", "Find": "Ctrl+F", "Copy": "Ctrl+C"}
+    keys = set(re.findall(r'QKeySequence\(u"([^"]+)"_s\)', source))
+    return keys | {standard[name] for name in re.findall(r"(?<!matches\()QKeySequence::(\w+)", source)}
+
+
+def actions_of(page):
+    """The parts of the actions in a page, which are in italics: "Edit" and "Find" for "*Edit > Find*"."""
+    italics = re.findall(r"(?<![*\w])\*([A-Z][^*\n]*)\*(?!\*)", prose_of(page))
+    return [part for text in italics for part in text.split(" > ")]
+
+
 class ToolsPages(unittest.TestCase):
     def test_the_columns_of_the_message_window_are_listed(self):
         source = text_of("source/message_table_utility/error_message_table_utility.cpp")
@@ -25,13 +44,34 @@ class ToolsPages(unittest.TestCase):
         self.assertEqual(headings, ["Process", "Context", "Tag", "State"])
         self.assertIn("lists the key and the state of every message", text_of("README.md"))
 
-    def test_the_keys_of_the_message_window_are_listed(self):
-        source = text_of("source/message_table_utility/message_table_editing.cpp")
-        keys = re.findall(r'QKeySequence\(u"([^"]+)"_s\)', source)
-        self.assertGreaterEqual(len(keys), 5)
-        rows = rows_of(text_of("docs/message-table-utility.md"))
-        listed = [key for row in rows for key in re.split(", | in ", row[0])]
-        self.assertEqual([key for key in keys if key not in listed and key + " or" not in listed], [])
+    def test_the_keys_of_the_message_window_are_those_in_the_code(self):
+        page = text_of("docs/message-table-utility.md")
+        keys = set(re.findall(r"\b(?:(?:Ctrl|Shift|Alt)\+)+\w+|\bF\d+\b", page))
+        self.assertEqual(keys, keys_of(window_sources("message_table_utility")))
+
+    def test_the_actions_on_the_pages_of_the_windows_exist(self):
+        for folder, page in (
+            ("message_table_utility", "docs/message-table-utility.md"),
+            ("material_name_utility", "docs/material-name-utility.md"),
+        ):
+            with self.subTest(page=page):
+                texts = {
+                    text.replace("&", "") for text in re.findall(r'\btr\("([^"]+)"', window_sources(folder))
+                }
+                named = actions_of(text_of(page))
+                self.assertGreaterEqual(len(named), 2)
+                self.assertEqual([text for text in named if text not in texts], [])
+
+    def test_the_options_on_the_page_of_the_check_exist(self):
+        page = text_of("docs/message-table-check.md")
+        (help_text,) = [block.text for block in blocks_of(page) if "--help" in block.text]
+        options = set(re.findall(r"--[a-z][\w-]*", help_text))
+        self.assertGreaterEqual(len(options), 9)
+        self.assertEqual(set(re.findall(r"--[a-z][\w-]*", prose_of(page))) - options, set())
+        rules = set(re.findall(r"^  ([\w-]+) +", help_text.split("Rules:")[1], re.MULTILINE))
+        commands = "\n".join(block.text for block in blocks_of(page) if block.what == "run")
+        named = re.findall(r"--(?:only|without|allow) ([\w,-]+)", commands.replace(help_text, ""))
+        self.assertEqual({rule for names in named for rule in names.split(",")} - rules, set())
 
     def test_the_compiled_files_are_listed(self):
         source = text_of("source/localization/util_localization_tool.cpp")
@@ -57,6 +97,15 @@ class ToolsPagesChecks(unittest.TestCase):
     def test_literals_are_found(self):
         self.assertEqual(literals_of("a = List", 'a = List{tr("B"), tr("C")};'), ["B", "C"])
         self.assertEqual(literals_of("a = List", 'b = List{tr("B")};'), [])
+
+    def test_keys_are_found(self):
+        self.assertEqual(
+            keys_of('f(QKeySequence(u"F2"_s)); g(QKeySequence::Undo); matches(QKeySequence::Redo)'),
+            {"F2", "Ctrl+Z"},
+        )
+
+    def test_actions_are_found(self):
+        self.assertEqual(actions_of("**Bold** *Edit > Find...* and *Open*"), ["Edit", "Find...", "Open"])
 
     def test_seconds_are_read(self):
         code = "constexpr std::chrono::milliseconds a = 2min;\nconstexpr std::chrono::milliseconds b = 100ms;"

@@ -1,4 +1,5 @@
 #include "name_utility_fixture.h"
+#include "support/keyboard_walk.h"
 #include "support/test_class.h"
 #include "window/marked_table_view.h"
 
@@ -34,6 +35,7 @@ private slots:
     void rowsAreFilteredAndCopied();
     void thirdClickRestoresTheNameOrder();
     void exitClosesTheWindow();
+    void everyControlIsNamedAndReachedWithTheTabKey();
 };
 
 void tst_material_name_utility::windowHasItsMenusBarsAndColumns()
@@ -268,6 +270,19 @@ void tst_material_name_utility::exitClosesTheWindow()
     f.dialogs.choice = UnsavedChoice::Discard;
     f.action("actionExit")->trigger();
     QVERIFY(!f.window.isVisible());
+}
+
+void tst_material_name_utility::everyControlIsNamedAndReachedWithTheTabKey()
+{
+    NameUtilityFixture f;
+    QVERIFY(f.window.openFile(f.tableFile));
+    f.window.show();
+    f.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&f.window));
+    f.view()->setFocus();
+    QCOMPARE(namelessControls(f.window), QString());
+    QCOMPARE(controlsOf(f.window, Qt::TabFocus).size(), 3);
+    QCOMPARE(unreachableControls(f.window), QString());
 }
 
 NVX_TEST(tst_material_name_utility)

@@ -62,7 +62,8 @@ struct EditingFixture : UtilityFixture
         for (qsizetype entry = 0; entry < entries && menu->activeAction() != action(name); ++entry)
             QTest::keyClick(child<QMenu>("menuFile"), Qt::Key_Down);
         QTest::keyClick(child<QMenu>("menuFile"), Qt::Key_Return);
-        activate();
+        if (window.isVisible())
+            activate();
     }
 
     static void type(const QString &text) { QTest::keyClicks(QApplication::focusWidget(), text); }

@@ -1,10 +1,7 @@
 #include "editing_fixture.h"
 #include "support/test_class.h"
 
-#include <QAccessible>
 #include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QDockWidget>
 #include <QPushButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,12 +19,10 @@ private slots:
     void remarksAndPreviewFollowTheTyping();
     void nextNewMessageIsFoundFromAnywhere();
     void textsAreFoundAndReplaced();
+    void findNextWorksWithoutItsDialog();
     void savingAsksBeforeTextsAreDropped();
     void synchronisationIsUndone();
     void filterSearchesTheTexts();
-    void everyControlHasAnAccessibleName();
-    void tabKeyReachesEveryControl();
-    void dayOfWorkNeedsOnlyTheKeyboard();
 };
 
 void tst_message_editing::selectedMessageIsShown()
@@ -184,6 +179,26 @@ void tst_message_editing::textsAreFoundAndReplaced()
     QCOMPARE(f.label("findResult"), u"Not found"_s);
 }
 
+void tst_message_editing::findNextWorksWithoutItsDialog()
+{
+    EditingFixture f;
+    f.field("textField")->setPlainText(u"Grid"_s);
+    f.select(0);
+    f.view()->setFocus();
+    EditingFixture::press(Qt::Key_F3); // there is nothing to find yet
+    auto *find = f.child<QLineEdit>("findField");
+    QTRY_VERIFY(find->hasFocus());
+    EditingFixture::type(u"grid"_s);
+    EditingFixture::press(Qt::Key_Escape);
+    f.activate();
+    EditingFixture::press(Qt::Key_F3);
+    QCOMPARE(f.label("tagLabel"), u"Alpha"_s);
+    find->setText(u"gone"_s);
+    EditingFixture::press(Qt::Key_F3);
+    QVERIFY(!find->isVisible());
+    QCOMPARE(f.status(), u"Not found"_s);
+}
+
 void tst_message_editing::savingAsksBeforeTextsAreDropped()
 {
     EditingFixture f;
@@ -218,104 +233,6 @@ void tst_message_editing::filterSearchesTheTexts()
     f.field("textField")->setPlainText(u"Only here"_s);
     f.filter()->setText(u"ONLY h"_s);
     QCOMPARE(f.shownRows(), QStringList(UtilityFixture::tableRows().at(1)));
-}
-
-void tst_message_editing::everyControlHasAnAccessibleName()
-{
-    EditingFixture f;
-    f.choose("severityChoice", u"Critical"_s);
-    f.action("actionCheck")->trigger();
-    f.action("actionFind")->trigger();
-    int controls = 0;
-    const QList<QWidget *> widgets = f.window.findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus)
-            continue;
-        const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
-        QVERIFY2(
-            !accessible->text(QAccessible::Name).isEmpty(),
-            qPrintable(widget->objectName() + u' ' + QString::fromLatin1(widget->metaObject()->className())));
-        ++controls;
-    }
-    QVERIFY2(controls >= 12, qPrintable(QString::number(controls)));
-    for (const char *name : {"processLabel", "contextLabel", "tagLabel", "remarksLabel", "messagePreview"})
-        QVERIFY2(!f.child<QWidget>(name)->accessibleName().isEmpty(), name);
-}
-
-void tst_message_editing::tabKeyReachesEveryControl()
-{
-    EditingFixture f;
-    f.action("actionCheck")->trigger(); // selects the message of the first finding
-    f.select(1);
-    f.choose("severityChoice", u"Critical"_s);
-    f.view()->setFocus();
-    QStringList reached;
-    do {
-        reached.append(QApplication::focusWidget()->objectName());
-        EditingFixture::press(Qt::Key_Tab);
-    } while (QApplication::focusWidget() != f.view() && reached.size() < 50);
-    const QStringList panel{u"severityChoice"_s, u"stateChoice"_s, u"titleField"_s, u"textField"_s,
-                            u"actionField"_s};
-    const qsizetype first = reached.indexOf(panel.front());
-    QCOMPARE(reached.mid(first, panel.size()), panel);
-    QVERIFY2(reached.contains(u"findingsList"_s) && reached.contains(u"filterField"_s),
-             qPrintable(reached.join(u' ')));
-}
-
-// Find the new messages, write their texts, mark them as reviewed, correct a word everywhere, undo, save.
-void tst_message_editing::dayOfWorkNeedsOnlyTheKeyboard()
-{
-    EditingFixture f;
-    f.chooseProjectOf("void f() { REPORT_ERROR(\"One\"); REPORT_ERROR(\"Two\"); }");
-    f.action("actionSynchronize")->trigger();
-    f.activate();
-    EditingFixture::press(Qt::Key_Down, Qt::ControlModifier);
-    QCOMPARE(f.label("tagLabel"), u"One"_s);
-
-    EditingFixture::press(Qt::Key_F2);
-    QVERIFY(f.field("textField")->hasFocus());
-    EditingFixture::type(u"The grid is bad."_s);
-    EditingFixture::press(Qt::Key_Backtab, Qt::ShiftModifier);
-    EditingFixture::press(Qt::Key_Backtab, Qt::ShiftModifier);
-    QVERIFY(f.child<QComboBox>("severityChoice")->hasFocus());
-    EditingFixture::type(u"C"_s); // Critical
-    QCOMPARE(f.window.messages().message({u"One"_s, u"f"_s, u"client"_s}).severity(),
-             Clt::Severity::Critical);
-    EditingFixture::press(Qt::Key_F2);
-    QVERIFY(f.field("titleField")->hasFocus());
-    EditingFixture::type(u"Grid"_s);
-    EditingFixture::press(Qt::Key_F2);
-    QVERIFY(f.field("actionField")->hasFocus());
-    EditingFixture::type(u"Refine the grid."_s);
-    QVERIFY(!f.isShown("remarksLabel"));
-    EditingFixture::press(Qt::Key_Return, Qt::ControlModifier);
-    EditingFixture::press(Qt::Key_Down, Qt::ControlModifier);
-    QCOMPARE(f.label("tagLabel"), u"Two"_s);
-    EditingFixture::press(Qt::Key_F2);
-    EditingFixture::type(u"No grid."_s);
-    EditingFixture::press(Qt::Key_Return, Qt::ControlModifier);
-    EditingFixture::press(Qt::Key_Escape);
-    QVERIFY(f.view()->hasFocus());
-
-    EditingFixture::press(Qt::Key_H, Qt::ControlModifier);
-    QTRY_VERIFY(f.child<QLineEdit>("findField")->hasFocus());
-    EditingFixture::type(u"grid"_s);
-    EditingFixture::press(Qt::Key_Tab);
-    EditingFixture::type(u"mesh"_s);
-    while (QApplication::focusWidget() != f.child<QPushButton>("replaceAllButton"))
-        EditingFixture::press(Qt::Key_Tab);
-    EditingFixture::press(Qt::Key_Space);
-    QCOMPARE(f.label("findResult"), u"Messages changed: 2"_s);
-    QTRY_COMPARE(QApplication::focusWidget(), f.child<QPushButton>("replaceAllButton"));
-    EditingFixture::press(Qt::Key_Escape);
-    f.activate();
-
-    EditingFixture::press(Qt::Key_S, Qt::ControlModifier);
-    QCOMPARE(f.status(), u"Table saved"_s);
-    const QByteArray saved = readFile(f.tableFile);
-    QVERIFY2(saved.contains("<text>The mesh is bad.</text>") && saved.contains("<text>No mesh.</text>") &&
-                 saved.contains("<action>Refine the mesh.</action>") && !saved.contains("<state>New"),
-             saved.constData());
 }
 
 NVX_TEST(tst_message_editing)

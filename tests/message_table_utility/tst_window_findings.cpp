@@ -1,9 +1,8 @@
+#include "editing_fixture.h"
 #include "message_table_utility/findings.h"
 #include "support/test_class.h"
 #include "translation/error_translation_table.h"
-#include "utility_fixture.h"
 
-#include <QDockWidget>
 #include <QListWidget>
 #include <QTest>
 
@@ -25,6 +24,29 @@ QStringList linesOf(const QListWidget &list)
     for (int row = 0; row < list.count(); ++row)
         lines.append(list.item(row)->text());
     return lines;
+}
+
+QList<int> selectedRows(const QTableView &view)
+{
+    QList<int> rows;
+    const QModelIndexList indexes = view.selectionModel()->selectedRows();
+    for (const QModelIndex &index : indexes)
+        rows.append(index.row());
+    return rows;
+}
+
+void selectRows(const QTableView &view, const QList<int> &rows)
+{
+    view.selectionModel()->clearSelection();
+    for (const int row : rows)
+        view.selectionModel()->select(view.model()->index(row, 0),
+                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+void clickRow(QListWidget &list, int row)
+{
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list.visualItemRect(list.item(row)).center());
 }
 
 } // namespace
@@ -80,18 +102,110 @@ private slots:
 
     void chosenFindingShowsItsMessage()
     {
-        UtilityFixture f;
-        QVERIFY(f.window.openFile(f.tableFile));
-        f.window.show();
-        QVERIFY(!f.child<QDockWidget>("findingsDock")->isVisible());
+        EditingFixture f;
+        QVERIFY(!f.isShown("findingsDock"));
         f.action("actionCheck")->trigger();
-        QVERIFY(f.child<QDockWidget>("findingsDock")->isVisible());
+        QVERIFY(f.isShown("findingsDock"));
         auto *list = f.child<QListWidget>("findingsList");
         QCOMPARE(list->count(), 4);
         list->setCurrentRow(3);
-        QCOMPARE(f.child<QLabel>("tagLabel")->text(), u"Zulu"_s);
+        QCOMPARE(f.label("tagLabel"), u"Zulu"_s);
         list->setCurrentRow(1);
-        QCOMPARE(f.child<QLabel>("tagLabel")->text(), u"Alpha"_s);
+        QCOMPARE(f.label("tagLabel"), u"Alpha"_s);
+        f.select(2);
+        clickRow(*list, 1); // it is selected already
+        QCOMPARE(f.label("tagLabel"), u"Alpha"_s);
+    }
+
+    void listingFindingsPreservesTheSelection_data()
+    {
+        QTest::addColumn<QList<int>>("rows");
+        QTest::newRow("nothing selected") << QList<int>{};
+        QTest::newRow("a message") << QList<int>{2};
+        QTest::newRow("several messages") << QList<int>{1, 2};
+    }
+
+    void listingFindingsPreservesTheSelection()
+    {
+        QFETCH(const QList<int>, rows);
+        EditingFixture f;
+        auto *list = f.child<QListWidget>("findingsList");
+        for (int time = 0; time < 2; ++time) {
+            selectRows(*f.view(), rows);
+            f.action("actionCheck")->trigger();
+            QVERIFY(list->hasFocus());
+            QCOMPARE(list->selectedItems().size(), 0);
+            QCOMPARE(selectedRows(*f.view()), rows);
+            list->setCurrentRow(0);
+            QCOMPARE(f.label("tagLabel"), u"Bravo"_s);
+        }
+    }
+
+    void returnOpensTheMessageOfAFinding()
+    {
+        EditingFixture f;
+        f.action("actionPanel")->trigger();
+        QVERIFY(!f.isShown("messageDock"));
+        f.view()->clearSelection();
+        f.action("actionCheck")->trigger();
+        EditingFixture::press(Qt::Key_Return);
+        QCOMPARE(f.label("tagLabel"), u"Bravo"_s);
+        QTRY_VERIFY(f.field("textField")->hasFocus());
+    }
+
+    void escapeInTheListReturnsToTheTable()
+    {
+        EditingFixture f;
+        QVERIFY(!f.isEnabled("actionFindings"));
+        f.action("actionCheck")->trigger();
+        EditingFixture::press(Qt::Key_Escape);
+        QVERIFY(f.view()->hasFocus());
+        QVERIFY(f.isShown("findingsDock"));
+        f.action("actionFindings")->trigger();
+        QVERIFY(!f.isShown("findingsDock"));
+    }
+
+    void findingOfAHiddenMessageClearsTheFilter()
+    {
+        EditingFixture f;
+        f.action("actionCheck")->trigger();
+        f.filter()->setText(u"Bravo"_s);
+        auto *list = f.child<QListWidget>("findingsList");
+        list->setCurrentRow(0);
+        QCOMPARE(f.filter()->text(), u"Bravo"_s);
+        list->setCurrentRow(3);
+        QCOMPARE(f.filter()->text(), QString());
+        QCOMPARE(f.label("tagLabel"), u"Zulu"_s);
+    }
+
+    void findingWhoseMessageIsGoneDoesNothing()
+    {
+        EditingFixture f;
+        f.chooseProjectOf(oneMessageSource);
+        f.window.synchronize();
+        f.activate();
+        f.action("actionCheck")->trigger();
+        auto *list = f.child<QListWidget>("findingsList");
+        const qsizetype one = linesOf(*list).indexOf(u"(client, f, One): not reviewed yet"_s);
+        QVERIFY(one >= 0);
+        f.action("actionUndo")->trigger();
+        f.select(0);
+        list->setCurrentRow(static_cast<int>(one));
+        EditingFixture::press(Qt::Key_Return);
+        QVERIFY(list->hasFocus());
+        QCOMPARE(f.label("tagLabel"), u"Bravo"_s);
+    }
+
+    void findingsGoWithTheirTable()
+    {
+        EditingFixture f;
+        f.action("actionCheck")->trigger();
+        f.window.newTable();
+        QVERIFY(!f.isShown("findingsDock") && !f.isEnabled("actionFindings"));
+        QVERIFY(f.window.openFile(f.tableFile));
+        f.action("actionCheck")->trigger();
+        QVERIFY(f.window.openFile(f.tableFile));
+        QVERIFY(!f.isShown("findingsDock") && !f.isEnabled("actionFindings"));
     }
 
     void updateOfATranslationListsItsFindings()
