@@ -4,7 +4,8 @@ values and the files that list add-ins.
     put_cad_systems(machine)
 """
 
-from winemachine import Machine, Registry
+from winemachine import Machine
+from wineregistry import Registry, script_of
 
 CREO_2 = "C:\\Program Files\\PTC\\Creo 2.0\\Parametric"
 CREO_3 = "C:\\Program Files\\PTC\\Creo 3.0\\Parametric"
@@ -69,19 +70,9 @@ def registry_values() -> Registry:
     return values
 
 
-def registry_script(values: Registry) -> str:
-    """A Registry Editor script that writes the values."""
-    lines = ["Windows Registry Editor Version 5.00"]
-    for key, texts in values.items():
-        lines += ["", f"[{key}]"]
-        for name, text in texts.items():
-            lines.append(f'"{_escaped(name)}"="{_escaped(text)}"')
-    return "\r\n".join(lines) + "\r\n"
-
-
 def put_cad_systems(machine: Machine) -> None:
     """Installs all six on the machine, with an add-in of another program in each shared file."""
-    machine.import_script(registry_script(registry_values()))
+    machine.import_script(script_of(registry_values()))
     for path, contents in (
         (PROTK_2, FOREIGN_ENTRY),
         (PROTK_3, FOREIGN_ENTRY),
@@ -92,7 +83,3 @@ def put_cad_systems(machine: Machine) -> None:
         file.parent.mkdir(parents=True, exist_ok=True)
         file.write_bytes(contents)
     machine.path(SPACE_CLAIM_ADDINS).mkdir(parents=True, exist_ok=True)
-
-
-def _escaped(text):
-    return text.replace("\\", "\\\\").replace('"', '\\"')

@@ -18,10 +18,8 @@ As a program, winemachine.py FOLDER makes the template in that folder.
 
 import contextlib
 import ctypes
-import functools
 import hashlib
 import os
-import re
 import shutil
 import signal
 import socket
@@ -33,6 +31,8 @@ import time
 from collections.abc import Iterator
 from pathlib import Path
 
+from wineregistry import SCRIPT_HEADER, Registry, is_below, read_registry, script_of, value_of, write_registry
+
 PROGRAM_FILES = "C:\\Program Files"
 INSTALL_DIR = PROGRAM_FILES + "\\Velmora\\NVX 2017"
 TRANSLATORS = PROGRAM_FILES + "\\Velmora\\Kelvane\\Translators"
@@ -41,8 +41,20 @@ TUTORIALS = "C:\\users\\Public\\Documents\\Velmora\\NVX 2017\\Tutorials"
 TRANSLATORS_KEY = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora\\Kelvane\\Translators"
 ENVIRONMENT_KEY = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment"
 SERVICES = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\"
-# Services that are not needed; they would double the time of a start.
-NEEDLESS_SERVICES = ("Eventlog", "PlugPlay", "NDIS", "nsiproxy")
+# Services and drivers that are not needed; they would double the time of a start.
+NEEDLESS_SERVICES = ("Eventlog", "PlugPlay", "NDIS", "nsiproxy", "winebus", "winehid", "wineusb")
+# Each program that starts asks the server for every value of the following keys, a call for each one: for the
+# fonts that replace missing ones, and for the time zones up to that of the host. These are half of the calls
+# of a small program.
+WINDOWS_NT = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\"
+FONT_LINKS = WINDOWS_NT + "FontLink\\SystemLink"
+TIME_ZONES = WINDOWS_NT + "Time Zones\\"
+TIME_ZONE_KEY = "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\TimeZoneInformation"
+# A configuration of fontconfig that finds no font.
+NO_FONTS = """<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
+<fontconfig/>
+"""
 # Started twice for each shortcut that is saved, to enter it into the menu of the host's desktop. Although
 # it is disabled, its process would be started, and end at once. An empty file in its place is not started.
 MENU_BUILDER = "C:\\windows\\system32\\winemenubuilder.exe"
@@ -64,7 +76,6 @@ _ASK_PERSONALITY = 0xFFFFFFFF
 
 
 StrPath = str | os.PathLike[str]
-Registry = dict[str, dict[str, str]]  # {key path: {value name: value}}
 
 
 class MachineError(Exception):
@@ -104,6 +115,15 @@ class Machine:
             raise ValueError("not on drive C: " + windows_path)
         return self.prefix / "drive_c" / rest.replace("\\", "/")
 
+    def full_name(self, program: str) -> str:
+        """The path of a program of Windows that is given by its name alone. Wine would start another program
+        to find it."""
+        if "\\" in program:
+            return program
+        name = program if program.endswith(".exe") else program + ".exe"
+        folders = ("C:\\windows\\system32\\", "C:\\windows\\")
+        return next((folder + name for folder in folders if self.path(folder + name).exists()), program)
+
     def environment(self, **extra: str) -> dict[str, str]:
         inherited = ("PATH", "LANG", "DISPLAY", "XAUTHORITY", "TMPDIR")
         environment = {name: os.environ[name] for name in inherited if name in os.environ}
@@ -117,6 +137,9 @@ class Machine:
         )
         if self.locale_folder:
             environment["LOCPATH"] = str(self.locale_folder)
+        # Each program would read the fonts of the host, which nobody sees without a display.
+        if "DISPLAY" not in environment:
+            environment["FONTCONFIG_FILE"] = str(self.prefix / "no-fonts.conf")
         environment.update(extra)
         return environment
 
@@ -130,7 +153,7 @@ class Machine:
         """
         self.start_up()
         working_folder = self.path(folder) if folder else self.prefix
-        command = ["wine", program, *tokens]
+        command = ["wine", self.full_name(program), *tokens]
         # The first program starts the machine's services, which inherit its output. Reading a pipe would wait
         # until they end, reading a file does not.
         with tempfile.TemporaryFile() as output:
@@ -158,7 +181,7 @@ class Machine:
         self.start_up()
         with self.program_settings():
             return subprocess.Popen(
-                ["wine", program, *tokens],
+                ["wine", self.full_name(program), *tokens],
                 cwd=self.prefix,
                 env=self.environment(),
                 stdin=subprocess.DEVNULL,
@@ -176,8 +199,8 @@ class Machine:
         self._server_errors = tempfile.TemporaryFile()
         self._server = _start_server(self.environment(), self._processor, self._server_errors)
         try:
-            done = self.run("cmd", "/c", "echo started", timeout=START_TIMEOUT_S)
-            if done.returncode != 0 or done.stdout.splitlines()[-1:] != [b"started"]:
+            done = self.run("reg", "query", ENVIRONMENT_KEY, "/v", "OS", timeout=START_TIMEOUT_S)
+            if done.returncode != 0 or b"Windows_NT" not in done.stdout:
                 raise MachineError(f"{self.prefix} did not start: {done!r}")
         except BaseException:
             self.stop()
@@ -236,17 +259,19 @@ class Machine:
         return found
 
     def set_value(self, key: str, name: str, text: str) -> None:
-        """Writes a string to the registry with the machine's own tool."""
-        done = self.run("reg", "add", key, "/v", name, "/t", "REG_SZ", "/d", text, "/f")
-        if done.returncode != 0:
-            output = done.stdout.decode(errors="replace")
-            raise MachineError(f"reg add exited with {done.returncode}: {output}")
+        """Writes a string to the registry."""
+        self.import_script(script_of({key: {name: text}}))
 
     def import_script(self, script: str) -> None:
-        """Imports the text of a script with the Registry Editor.
+        """Imports the text of a script for the Registry Editor. If the machine is stopped and the script
+        deletes nothing, writes to its files instead of starting the editor.
 
         The editor always exits with 0, so a value is added at the end of the script and read back.
         """
+        if not self._server:
+            self.stop()
+            if write_registry(self.prefix, script):
+                return
         mark = str(time.monotonic_ns())
         lines = [*script.splitlines(), "", f"[{IMPORT_KEY}]", f'"Mark"="{mark}"', ""]
         path = self.path("C:\\import.reg")
@@ -259,10 +284,7 @@ class Machine:
     def registry(self) -> Registry:
         """The whole registry. Stops the machine, which writes the registry to the disk."""
         self.stop()
-        keys = {}
-        for file, root in (("system.reg", "HKEY_LOCAL_MACHINE"), ("user.reg", "HKEY_CURRENT_USER")):
-            keys.update(_read_registry(self.prefix / file, root))
-        return keys
+        return read_registry(self.prefix)
 
     def files(self, folder: str = "C:\\") -> dict[str, str]:
         """Every file and empty folder below a folder of the machine, without the Windows folder: {path: hash
@@ -384,22 +406,34 @@ def make_template(folder: StrPath) -> Path:
     version = subprocess.run(
         ["wine", "--version"], env={**os.environ, "WINEDEBUG": "-all"}, stdout=subprocess.PIPE
     ).stdout.decode()
-    made_by = " ".join((version.strip(), "without", *NEEDLESS_SERVICES, MENU_BUILDER))
+    made_by = " ".join((version.strip(), "without", *NEEDLESS_SERVICES, MENU_BUILDER, FONT_LINKS, TIME_ZONES))
     stamp = folder / "made-by"
     if stamp.exists() and stamp.read_text() == made_by:
         return folder
     shutil.rmtree(folder, ignore_errors=True)
     (folder / "home").mkdir(parents=True)
+    (folder / "no-fonts.conf").write_text(NO_FONTS)
     machine = Machine(folder)
     machine.start_up()  # the first start fills the folder
-    for service in NEEDLESS_SERVICES:
-        machine.run("reg", "add", SERVICES + service, "/v", "Start", "/t", "REG_DWORD", "/d", "4", "/f")
+    machine.import_script(_without_needless_keys(machine.registry()))
     machine.stop()
     menu_builder = machine.path(MENU_BUILDER)
     menu_builder.unlink()
     menu_builder.touch()
     stamp.write_text(made_by)
     return folder
+
+
+def _without_needless_keys(registry):
+    """A script that disables what a machine does not need and deletes what would slow down its programs."""
+    lines = [SCRIPT_HEADER]
+    for service in NEEDLESS_SERVICES:
+        lines += [f"[{SERVICES}{service}]", '"Start"=dword:00000004']
+    own_zone = value_of(registry, TIME_ZONE_KEY, "TimeZoneKeyName")
+    zones = {key[len(TIME_ZONES) :].split("\\")[0] for key in registry if is_below(key, TIME_ZONES)}
+    lines += [f"[-{TIME_ZONES}{zone}]" for zone in sorted(zones - {own_zone})]
+    lines.append(f"[-{FONT_LINKS}]")
+    return "\n".join(lines)
 
 
 def _copy_over(source, target):
@@ -426,62 +460,6 @@ def _copy_template(template, prefix):
             shutil.copy2(source, target)
 
     shutil.copytree(template, prefix, symlinks=True, copy_function=copy)
-
-
-_KEY = re.compile(r"^(.*)\] \d+")
-_VALUE = re.compile(r'^(?:"((?:[^"\\]|\\.)*)"|@)=(.*)$')
-
-
-def _read_registry(path, root):
-    keys: Registry = {}
-    # Machines differ from their template in a few of twenty thousand keys, so most sections are in the cache.
-    for section in path.read_text(encoding="utf-8", errors="surrogateescape").split("\n["):
-        key, values = _read_section(section)
-        if key:
-            keys.setdefault(_canonical(root + "\\" + key), {}).update(values)
-    return keys
-
-
-@functools.lru_cache(maxsize=None)
-def _read_section(section):
-    """The key and the values of a section without its opening bracket; the key is None for the head of the
-    file.
-    """
-    head, *lines = section.splitlines() or [""]
-    key = _KEY.match(head)
-    values = {}
-    for line in lines if key else ():
-        value = _VALUE.match(line)
-        if value:
-            text = value.group(2)
-            quoted = re.match(r'^(?:str\(\d+\):)?"(.*)"$', text)
-            values[_unescape(value.group(1) or "")] = _unescape(quoted.group(1)) if quoted else text
-    return key and _unescape(key.group(1)), values
-
-
-def _canonical(key):
-    """Wine stores the current control set under its number."""
-    return re.sub(r"(?i)^(HKEY_LOCAL_MACHINE\\System)\\ControlSet001", r"\1\\CurrentControlSet", key)
-
-
-def _unescape(text):
-    def character(match):
-        found = match.group(1)
-        if found[0] == "x":
-            return chr(int(found[1:], 16))
-        return {"n": "\n", "r": "\r", "0": "\0"}.get(found, found)
-
-    return re.sub(r"\\(x[0-9a-f]{1,4}|.)", character, text)
-
-
-def value_of(registry: Registry, key: str, name: str) -> str | None:
-    """A value of a registry, None if it is missing. Letter case does not matter."""
-    for path, values in registry.items():
-        if path.lower() == key.lower():
-            for value_name, value in values.items():
-                if value_name.lower() == name.lower():
-                    return value
-    return None
 
 
 if __name__ == "__main__":

@@ -10,9 +10,10 @@ import random
 from dataclasses import dataclass, field, fields
 
 from machine_case import INSTALL_DIR, MachineCase
-from cadsystems import SPACE_CLAIM_ADDINS, TAMSEL_ADDINS, registry_script
+from cadsystems import SPACE_CLAIM_ADDINS, TAMSEL_ADDINS
 from languages import read_languages
-from winemachine import ENVIRONMENT_KEY, SHARED_DATA, TRANSLATORS, TUTORIALS, Registry
+from winemachine import ENVIRONMENT_KEY, SHARED_DATA, TRANSLATORS, TUTORIALS
+from wineregistry import Registry, script_of
 
 SOFTWARE = "HKEY_LOCAL_MACHINE\\SOFTWARE\\"
 UNINSTALL = SOFTWARE + "Microsoft\\Windows\\CurrentVersion\\Uninstall\\"
@@ -300,5 +301,5 @@ def put_machine(case: MachineCase, plan: Plan) -> None:
             place.chmod(0o444 if file.fault == "protected" else 0o644)
     if plan.spaceclaim == "found":
         case.machine.path(SPACE_CLAIM_ADDINS).mkdir(parents=True, exist_ok=True)
-    case.machine.import_script(registry_script(plan.values))
+    case.machine.import_script(script_of(plan.values))
     case.put_product(plan.install_dir, TRANSLATORS if plan.has_translators else None)

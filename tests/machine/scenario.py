@@ -8,6 +8,7 @@ from pathlib import Path
 
 from machine_case import INSTALL_DIR
 from winemachine import StrPath
+from wineregistry import SCRIPT_HEADER
 
 KNOWN_FILES = (
     "runs.txt",
@@ -20,7 +21,6 @@ KNOWN_FILES = (
     "files-after.txt",
 )
 REQUIRED_FILES = ("runs.txt", "log.txt")
-SCRIPT_HEADER = "Windows Registry Editor Version 5.00"
 
 _WORDS_BEFORE = ("file", "folder", "without", "protected", "held", "translators", "tool")
 _WORDS_AFTER = ("file", "folder", "nothing", "only")

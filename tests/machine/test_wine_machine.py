@@ -15,10 +15,12 @@ from unittest import mock
 
 from machine_case import SCRIPTED_TOOL, new_machine, wait_until
 import winemachine
-from winemachine import Machine, MachineError, value_of
+from winemachine import TIME_ZONE_KEY, TIME_ZONES, Machine, MachineError
+from wineregistry import is_below, script_of, value_of
 
 TOOLS = Path(winemachine.__file__).parent
 KEY = "HKEY_CURRENT_USER\\Software\\Tried"
+HEADER = "Windows Registry Editor Version 5.00\n\n"
 
 
 class WineMachine(unittest.TestCase):
@@ -144,11 +146,22 @@ class WineMachine(unittest.TestCase):
 
     def test_every_value_of_a_script_is_imported(self):
         names = [f"value {number}" for number in range(200)]
-        values = "\n".join(f'"{name}"="größe 日本"' for name in names)
-        header = "Windows Registry Editor Version 5.00\n\n"
-        self.machine.import_script(header + f"[{KEY}]\n{values}\n")
-        registry = self.machine.registry()
-        self.assertEqual({value_of(registry, KEY, name) for name in names}, {"größe 日本"})
+        values = {name: '"größe\\" 日本 0' for name in names}
+        odd_key = KEY + "\\größe [日本]"
+        for state in ("stopped", "running"):
+            with self.subTest(state):
+                if state == "running":
+                    self.machine.start_up()
+                self.machine.import_script(script_of({KEY: values, odd_key + state: values}))
+                self.machine.import_script(f'{HEADER}[{KEY.upper()}]\n"{state}"=dword:00000011\n')
+                # What a stopped machine has in its files, its server has read.
+                self.machine.start_up()
+                registry = self.machine.registry()
+                self.assertEqual(registry[KEY].items() & values.items(), values.items())
+                self.assertEqual(registry[odd_key + state], values)
+                self.assertEqual(value_of(registry, KEY, state), "dword:00000011")
+                self.machine.import_script(f"{HEADER}[-{KEY}]\n")
+                self.assertIsNone(value_of(self.machine.registry(), KEY, names[0]))
 
     def test_a_script_that_is_not_imported_is_reported(self):
         with self.assertRaises(MachineError):
@@ -188,6 +201,20 @@ class WineMachine(unittest.TestCase):
         wait_until("the programs to end", lambda: not self.machine.programs(), 60)
         self.assertEqual(self.machine.programs(), {})
         self.assertEqual(self.value("kept"), "x")
+
+    def test_a_new_machine_has_the_time_zone_of_the_host_only(self):
+        registry = self.machine.registry()
+        zones = {key[len(TIME_ZONES) :].split("\\")[0] for key in registry if is_below(key, TIME_ZONES)}
+        self.assertEqual(zones, {value_of(registry, TIME_ZONE_KEY, "TimeZoneKeyName")})
+
+    def test_a_program_of_windows_is_started_at_once(self):
+        # By its name alone it would be started by another program of Windows.
+        self.machine.start_up()
+        process = self.machine.start("cmd", "/c", "pause")
+        programs = self.machine.programs("cmd", "start")
+        self.assertEqual(len(programs), 1, programs)
+        process.kill()
+        process.wait()
 
 
 if __name__ == "__main__":
