@@ -56,17 +56,21 @@ UNDO = RUN + 0x100 + MAY_FAIL
 
 # The first installation on a machine. If its configuration fails, it is removed at once, before the files:
 # Wine undoes actions after it has removed the files.
-INSTALL = "NOT REMOVE"
-FIRST = "NOT REMOVE AND NOT Installed AND NOT WIX_UPGRADE_DETECTED"
-AGAIN = "NOT REMOVE AND (Installed OR WIX_UPGRADE_DETECTED)"
+INSTALL = 'NOT REMOVE~="ALL"'
+FIRST = INSTALL + " AND NOT Installed AND NOT WIX_UPGRADE_DETECTED"
+AGAIN = INSTALL + " AND (Installed OR WIX_UPGRADE_DETECTED)"
 # An upgrade removes the files of the older version but not its configuration: the users keep their materials.
 REMOVE = 'REMOVE~="ALL" AND NOT UPGRADINGPRODUCTCODE'
+# The tools use the product's libraries, so the product is never left out.
+ONLY_TOOLS = 'ADDLOCAL="DeveloperTools" AND NOT Installed'
 CONFIGURE = 'configure "[INSTALLDIR]." [NVXTIMEOUT]'
 INSTALL_TASK = 'install "[INSTALLDIR]." [NVXTIMEOUT]'
 FOLDERS = '"[INSTALLDIR]." "[TRANSLATORSDIR]."'
 
 # An undoing comes before what it undoes. A product whose server does not stop can still be replaced.
 ACTIONS = (
+    Action(102, "AddProduct", ONLY_TOOLS, ASSIGN, "ADDLOCAL", "Product,DeveloperTools"),
+    Action(104, "RemoveTools", 'REMOVE="Product"', ASSIGN, "REMOVE", "ALL"),
     Action(110, "KeepLanguage", "NVXINSTALLEDLANG AND NOT NVXLANG", ASSIGN, "NVXLANG", "[NVXINSTALLEDLANG]"),
     Action(
         120, "KeepFolder", "NVXINSTALLEDDIR AND NOT INSTALLDIR", ASSIGN, "INSTALLDIR", "[NVXINSTALLEDDIR]"
@@ -85,6 +89,8 @@ ACTIONS = (
     Action(5540, "ConfigureFirst", FIRST, RUN, "Task", INSTALL_TASK + " -I -S [LANGUAGEOPTION]"),
     Action(5550, "Configure", AGAIN, RUN, "Task", CONFIGURE + " -I -S [LANGUAGEOPTION]"),
 )
+# Of a feature: it cannot be left out.
+UI_DISALLOW_ABSENT = 16
 # After the beginning of what is undone after a failure, so that the older version is restored.
 REMOVE_OLDER = 1525
 
@@ -135,8 +141,7 @@ class Package:
     def _make_features(self) -> dict[bool, Element]:
         """{whether it has the developers' tools: feature}"""
         product = SubElement(self.product, "Feature", Id="Product", Level="1", Title="NVX 2017")
-        product.set("Absent", "disallow")
-        tools = SubElement(self.product, "Feature", Id="DeveloperTools", Level="1000")
+        tools = SubElement(product, "Feature", Id="DeveloperTools", Level="1000")
         tools.set("Title", "Tools for the product developers")
         return {False: product, True: tools}
 
@@ -239,6 +244,7 @@ def inserted(table: str, **row: str | int) -> str:
 
 def queries() -> Iterator[str]:
     """What wixl cannot say."""
+    yield f"UPDATE `Feature` SET `Attributes`={UI_DISALLOW_ABSENT} WHERE `Feature`='Product'"
     for action in ACTIONS:
         yield inserted(
             "CustomAction", Action=action.name, Type=action.kind, Source=action.source, Target=action.target

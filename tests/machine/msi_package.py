@@ -1,5 +1,6 @@
 """Reads the tables of an MSI, and evaluates the conditions in them."""
 
+import functools
 import re
 import subprocess
 from collections.abc import Iterator, Mapping
@@ -33,6 +34,7 @@ def files_of(package: Path) -> dict[str, int]:
     return {place(components[row["Component_"]]) + row["FileName"]: int(row["FileSize"]) for row in rows}
 
 
+@functools.cache
 def _output(command: str, package: Path, *arguments: str) -> str:
     done = subprocess.run(["msiinfo", command, package, *arguments], check=True, capture_output=True)
     return done.stdout.decode()

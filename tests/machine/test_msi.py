@@ -88,7 +88,8 @@ class MsiCase(InstallerCase):
 
 
 class Package(MsiCase, LauncherCase):
-    """Version 17.1 installed in German, replaced by this version, with the tools added, and removed."""
+    """Version 17.1 installed in German with the tools, replaced by this version without them, repaired, with
+    the tools added, and removed."""
 
     @classmethod
     def setUpClass(cls):
@@ -97,12 +98,12 @@ class Package(MsiCase, LauncherCase):
         make_older(cls.machine.path("C:\\older.msi"))
         case.write(FOREIGN, b"mine")
         cls.before = cls.machine.files()
-        codes = [case.msi("/i", "C:\\older.msi", "NVXLANG=de-DE")]
+        codes = [case.msi("/i", "C:\\older.msi", "NVXLANG=de-DE", "ADDLOCAL=DeveloperTools")]
         cls.older = cls.machine.files()
         cls.older_registry = cls.machine.registry()
 
         case.delete_log()
-        codes.append(case.msi("/i", "C:\\nvx.msi", "/l*v", "C:\\upgrade.log"))
+        codes.append(case.msi("/i", "C:\\nvx.msi", "ADDLOCAL=Product", "/l*v", "C:\\upgrade.log"))
         cls.running = case.server_is_running()
         cls.has_log = case.exists("C:\\upgrade.log")
         cls.installed = cls.machine.files()
@@ -193,7 +194,9 @@ class Package(MsiCase, LauncherCase):
     def test_a_repair_restores_a_deleted_file(self):
         self.assertEqual(self.repaired[SOLVER], self.installed[SOLVER])
 
-    def test_the_tools_are_a_feature_of_their_own(self):
+    def test_the_tools_are_a_feature_of_their_own_that_brings_the_product(self):
+        for file in (TOOL, SOLVER):
+            self.assertIn(file, self.older)
         self.assertNotIn(TOOL, self.installed)
         self.assertIn(TOOL, self.with_tools)
 

@@ -17,12 +17,16 @@ from test_msi import PACKAGE, make_older
 # Kinds of actions: run as the system at its turn, instead of as the user at once; when something is undone.
 AS_SYSTEM, WHEN_UNDONE = 0x400 + 0x800, 0x100
 RUNS_PROGRAM = 2
+ASSIGNS_PROPERTY = "51"
+# Of a feature: the user interface does not let anybody leave it out.
+UI_DISALLOW_ABSENT = 16
 SEVEN_ZIP_LICENCE = ["licences/7-Zip/LGPL-2.1", "licences/7-Zip/copyright"]
 
 # What the Windows Installer sets, by what it does.
 FIRST = {"Privileged": "1"}
 UPGRADE = {**FIRST, "WIX_UPGRADE_DETECTED": "{...}"}
 REPAIR = {**FIRST, "Installed": "00:00:00"}
+WITHOUT_TOOLS = {**REPAIR, "REMOVE": "DeveloperTools"}
 REMOVAL = {**REPAIR, "REMOVE": "ALL"}
 REMOVAL_BY_UPGRADE = {**REMOVAL, "UPGRADINGPRODUCTCODE": "{...}"}
 
@@ -69,6 +73,9 @@ class Conditions(unittest.TestCase):
         self.assertEqual(tasks(UPGRADE), ["CheckMachine", "Reserve", "Register", "Configure"])
         self.assertEqual(tasks(REPAIR), ["CheckMachine", "StopServer", "Reserve", "Register", "Configure"])
 
+    def test_a_removal_of_the_tools_alone_configures_the_product_again(self):
+        self.assertEqual(tasks(WITHOUT_TOOLS), tasks(REPAIR))
+
     def test_a_first_installation_that_fails_is_undone(self):
         self.assertEqual(tasks(FIRST), ["CheckMachine", "Reserve", "Register", "ConfigureFirst"])
         self.assertEqual(tasks(FIRST, undoing=True), ["UndoRegister", "UndoConfigure"])
@@ -103,6 +110,48 @@ class Conditions(unittest.TestCase):
         self.assertEqual(targets["Reserve"], 'reserve "[INSTALLDIR]."')
         self.assertLess(places["InstallInitialize"], places["Reserve"])
         self.assertLess(places["Reserve"], places["InstallFiles"])
+
+
+class Features(unittest.TestCase):
+    def assigned(self, properties):
+        """The properties after the actions that set one."""
+        actions = {row["Action"]: row for row in rows_of(PACKAGE, "CustomAction")}
+        result = dict(properties)
+        for row in sorted(rows_of(PACKAGE, "InstallExecuteSequence"), key=lambda row: int(row["Sequence"])):
+            action = actions.get(row["Action"], {"Type": "0"})
+            if action["Type"] == ASSIGNS_PROPERTY and is_met(row["Condition"], result):
+                result[action["Source"]] = action["Target"]
+        return result
+
+    def test_the_product_is_installed_whichever_feature_is_named(self):
+        for named, features in (
+            ("DeveloperTools", "Product,DeveloperTools"),
+            ("Product", "Product"),
+            ("Product,DeveloperTools", "Product,DeveloperTools"),
+            ("ALL", "ALL"),
+        ):
+            for properties in (FIRST, UPGRADE):
+                with self.subTest(named):
+                    self.assertEqual(self.assigned({**properties, "ADDLOCAL": named})["ADDLOCAL"], features)
+        self.assertNotIn("ADDLOCAL", self.assigned(FIRST))
+
+    def test_the_tools_are_left_out_unless_they_are_named(self):
+        properties = {row["Property"]: row["Value"] for row in rows_of(PACKAGE, "Property")}
+        level = properties.get("INSTALLLEVEL", "1")
+        for row in rows_of(PACKAGE, "Feature"):
+            self.assertEqual(int(row["Level"]) <= int(level), row["Feature"] == "Product", row["Feature"])
+
+    def test_the_product_is_not_removed_without_its_tools(self):
+        self.assertEqual(self.assigned({**REPAIR, "REMOVE": "Product"})["REMOVE"], "ALL")
+        self.assertEqual(self.assigned(WITHOUT_TOOLS)["REMOVE"], "DeveloperTools")
+        features = {row["Feature"]: row for row in rows_of(PACKAGE, "Feature")}
+        self.assertEqual(features["DeveloperTools"]["Feature_Parent"], "Product")
+        self.assertTrue(int(features["Product"]["Attributes"]) & UI_DISALLOW_ABSENT)
+
+    def test_features_are_chosen_before_the_installer_reads_the_choice(self):
+        places = {row["Action"]: int(row["Sequence"]) for row in rows_of(PACKAGE, "InstallExecuteSequence")}
+        for action in ("AddProduct", "RemoveTools"):
+            self.assertLess(places[action], places["CostInitialize"])
 
 
 class Identifiers(unittest.TestCase):
