@@ -63,6 +63,12 @@ class BuiltAgain(unittest.TestCase):
         ]
         self.assertEqual(different, [])
 
+    def test_the_resources_of_all_programs_are_in_the_format_without_times(self):
+        sources = list(BUILD.glob("*/*_autogen/*/qrc_*.cpp"))
+        self.assertIn("qrc_program.cpp", [path.name for path in sources])
+        for path in sources:
+            self.assertIn("int version = 1;", path.read_text(), path.name)
+
 
 if __name__ == "__main__":
     unittest.main()
