@@ -82,16 +82,6 @@ void MessageTable::merge(MessageTable &&other)
         insert(std::move(message));
 }
 
-bool MessageTable::setPlace(const MessageKey &key, const QString &file, qint32 line)
-{
-    const auto found = m_storage->messages.find(key);
-    if (found == m_storage->messages.end())
-        return false;
-    found->second.setFile(file);
-    found->second.setLine(line);
-    return true;
-}
-
 bool MessageTable::remove(const MessageKey &key)
 {
     return m_storage->messages.erase(key) != 0;

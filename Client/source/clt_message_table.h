@@ -61,9 +61,6 @@ public:
     /// Stores all messages of another table.
     void merge(MessageTable &&other);
 
-    /// Sets the source file and line of the message under exactly that key. Returns false if there is none.
-    bool setPlace(const MessageKey &key, const QString &file, qint32 line);
-
     /// Removes the message under exactly that key. Returns false if there is none.
     bool remove(const MessageKey &key);
 

@@ -36,13 +36,6 @@ namespace {
 const QString iconFolder = u":/ErrorTableUtility/images/"_s;
 const QString statusGap = u"   "_s; // between two messages in the status bar
 
-auto obsoleteMessages(const Clt::MessageTable &table)
-{
-    return std::count_if(table.begin(), table.end(), [](const auto &entry) {
-        return entry.second.state() == Clt::MessageState::Obsolete;
-    });
-}
-
 } // namespace
 
 MessageTableUtility::MessageTableUtility(Window::Dialogs &dialogs, QSettings &settings)
@@ -177,9 +170,8 @@ void MessageTableUtility::synchronizeWith(const Scan::FoundKeys &keys, qint64 mi
 {
     const Window::WaitCursor wait;
     Clt::MessageTable table = messages();
-    const auto obsoleteBefore = obsoleteMessages(table);
     const Synchronisation::KeyCounts counts = Synchronisation::synchronizeKeys(table, keys);
-    if (counts.added > 0 || obsoleteMessages(table) != obsoleteBefore)
+    if (counts.added > 0 || counts.becameObsolete > 0)
         m_store.replaceTable(tr("Synchronize..."), std::move(table));
     else
         showTable();

@@ -41,6 +41,16 @@ std::vector<Clt::MessageKey> newKeys(const Scan::FoundKeys &found, const QSet<Cl
     return keys;
 }
 
+Clt::Message newMessage(const Clt::MessageKey &key, const Scan::SourcePlace &place)
+{
+    Clt::Message message;
+    message.setKey(key);
+    message.setState(Clt::MessageState::New);
+    message.setFile(place.file);
+    message.setLine(place.line);
+    return message;
+}
+
 SourceKeys scanSources(const Scan::VisualStudioProject &project, ProgressLog &log, QTextStream &errors)
 {
     for (const QString &note : project.notes)
@@ -131,34 +141,30 @@ QString KeyCounts::text() const
 
 KeyCounts synchronizeKeys(Clt::MessageTable &table, const Scan::FoundKeys &found)
 {
-    const QSet<Clt::MessageKey> existing = table.keys();
     KeyCounts counts;
     counts.found = found.size();
-    counts.existing = existing.size();
+    counts.existing = static_cast<qsizetype>(table.size());
+    QSet<Clt::MessageKey> existing; // of those found
+    existing.reserve(std::min(counts.found, counts.existing));
+    for (auto entry = table.begin(); entry != table.end(); ++entry) {
+        const Clt::MessageKey &key = entry->first;
+        Clt::Message &message = table.editable(entry);
+        if (const auto place = found.constFind(key); place != found.cend()) {
+            message.setFile(place->file);
+            message.setLine(place->line);
+            existing.insert(key);
+            continue;
+        }
+        counts.obsoleteKeys.push_back(key);
+        if (message.state() != Clt::MessageState::Obsolete)
+            ++counts.becameObsolete;
+        message.setState(Clt::MessageState::Obsolete);
+    }
+    counts.obsolete = static_cast<qsizetype>(counts.obsoleteKeys.size());
     counts.addedKeys = newKeys(found, existing);
     counts.added = static_cast<qsizetype>(counts.addedKeys.size());
-    for (const Clt::MessageKey &key : counts.addedKeys) {
-        Clt::Message message;
-        message.setKey(key);
-        message.setState(Clt::MessageState::New);
-        const Scan::SourcePlace place = found.value(key);
-        message.setFile(place.file);
-        message.setLine(place.line);
-        table.insert(std::move(message));
-    }
-    for (const Clt::MessageKey &key : existing) {
-        if (const auto place = found.constFind(key); place != found.cend())
-            table.setPlace(key, place->file, place->line);
-        else
-            counts.obsoleteKeys.push_back(key);
-    }
-    std::ranges::sort(counts.obsoleteKeys);
-    counts.obsolete = static_cast<qsizetype>(counts.obsoleteKeys.size());
-    for (const Clt::MessageKey &key : counts.obsoleteKeys) {
-        Clt::Message message = table.message(key);
-        message.setState(Clt::MessageState::Obsolete);
-        table.insert(std::move(message));
-    }
+    for (const Clt::MessageKey &key : counts.addedKeys)
+        table.insert(newMessage(key, found.value(key)));
     return counts;
 }
 

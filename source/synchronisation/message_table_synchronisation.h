@@ -25,6 +25,7 @@ struct KeyCounts
     qsizetype added = 0;                       ///< found, and not in the table before
     qsizetype existing = 0;                    ///< in the table before, found or not
     qsizetype obsolete = 0;                    ///< in the table before, and not found
+    qsizetype becameObsolete = 0;              ///< of these, the ones that were not obsolete before
     std::vector<Clt::MessageKey> addedKeys;    ///< in key order
     std::vector<Clt::MessageKey> obsoleteKeys; ///< in key order
 

@@ -119,17 +119,6 @@ private slots:
         QCOMPARE(table.message(keyOf(p, p, p)).text(), u"new"_s);
     }
 
-    void placeIsSetOnlyForExactlyTheKey()
-    {
-        MessageTable table;
-        table.insert(messageOf(p, u"B::C"_s, p));
-        QVERIFY(!table.setPlace(keyOf(p, u"A::B::C"_s, p), u"a.cpp"_s, 1));
-        QVERIFY(table.setPlace(keyOf(p, u"B::C"_s, p), u"b.cpp"_s, 2));
-        QCOMPARE(table.size(), std::size_t(1));
-        QCOMPARE(table.message(keyOf(p, u"B::C"_s, p)).file(), u"b.cpp"_s);
-        QCOMPARE(table.message(keyOf(p, u"B::C"_s, p)).line(), 2);
-    }
-
     void removingReturnsWhetherThereWasAMessage()
     {
         MessageTable table;

@@ -109,7 +109,11 @@ private slots:
         QCOMPARE(counts.added, 1);
         QCOMPARE(counts.existing, 3);
         QCOMPARE(counts.obsolete, 2);
+        QCOMPARE(counts.becameObsolete, 2);
         QCOMPARE(counts.text(), u"Found 2 keys (1 new, 3 existing, and 2 obsolete)"_s);
+        QCOMPARE(synchronizeKeys(table, foundKeys({u"D"_s})).becameObsolete, 1);
+        QCOMPARE(synchronizeKeys(table, foundKeys({u"A"_s})).becameObsolete, 1);
+        QCOMPARE(synchronizeKeys(table, {}).becameObsolete, 0);
     }
 
     void noFoundKeysHaveTheirOwnText()
