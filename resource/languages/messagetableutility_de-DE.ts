@@ -16,7 +16,7 @@
         <translation>Befunde: %L1</translation>
     </message>
     <message>
-        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with different placeholders, %L6 with different accelerators, %L7 with different blanks</source>
         <translation>%1: %L2 fertig, %L3 unfertig, %L4 veraltet, %L5 mit anderen Platzhaltern, %L6 mit anderen Zugriffstasten, %L7 mit anderen Leerzeichen</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>der Ausgangstext hat keine Zugriffstaste</translation>
     </message>
     <message>
-        <source>begins with other blanks than the source</source>
+        <source>begins with different blanks than the source</source>
         <translation>beginnt mit anderen Leerzeichen als der Ausgangstext</translation>
     </message>
     <message>
-        <source>ends with other blanks than the source</source>
+        <source>ends with different blanks than the source</source>
         <translation>endet mit anderen Leerzeichen als der Ausgangstext</translation>
     </message>
     <message>
@@ -337,8 +337,8 @@ Diese Übersetzungen übernehmen? Die Texte bleiben unfertig.</translation>
         <translation>Wählen Sie eine neue Meldung aus</translation>
     </message>
     <message>
-        <source>No obsolete message has the same tag or a similar text</source>
-        <translation>Keine veraltete Meldung hat dieselbe Kennung oder einen ähnlichen Text</translation>
+        <source>No obsolete message has a similar tag or text</source>
+        <translation>Keine veraltete Meldung hat eine ähnliche Kennung oder einen ähnlichen Text</translation>
     </message>
     <message>
         <source>Check Messages</source>

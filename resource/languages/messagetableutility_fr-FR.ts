@@ -16,7 +16,7 @@
         <translation>Constats&#xa0;: %L1</translation>
     </message>
     <message>
-        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with different placeholders, %L6 with different accelerators, %L7 with different blanks</source>
         <translation>%1&#xa0;: %L2 terminés, %L3 inachevés, %L4 obsolètes, %L5 avec d&apos;autres paramètres, %L6 avec d&apos;autres touches d&apos;accès, %L7 avec d&apos;autres espaces</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>la source n&apos;a pas de touche d&apos;accès</translation>
     </message>
     <message>
-        <source>begins with other blanks than the source</source>
+        <source>begins with different blanks than the source</source>
         <translation>commence par d&apos;autres espaces que la source</translation>
     </message>
     <message>
-        <source>ends with other blanks than the source</source>
+        <source>ends with different blanks than the source</source>
         <translation>se termine par d&apos;autres espaces que la source</translation>
     </message>
     <message>
@@ -337,8 +337,8 @@ Reprendre ces traductions&#xa0;? Les textes restent inachevés.</translation>
         <translation>Sélectionnez un nouveau message</translation>
     </message>
     <message>
-        <source>No obsolete message has the same tag or a similar text</source>
-        <translation>Aucun message obsolète n&apos;a la même étiquette ni un texte semblable</translation>
+        <source>No obsolete message has a similar tag or text</source>
+        <translation>Aucun message obsolète n&apos;a une étiquette ou un texte semblable</translation>
     </message>
     <message>
         <source>Check Messages</source>

@@ -16,7 +16,7 @@
         <translation>Risultati: %L1</translation>
     </message>
     <message>
-        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with different placeholders, %L6 with different accelerators, %L7 with different blanks</source>
         <translation>%1: %L2 completi, %L3 incompleti, %L4 obsoleti, %L5 con altri segnaposto, %L6 con altri tasti di scelta, %L7 con altri spazi</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>l&apos;originale non ha un tasto di scelta</translation>
     </message>
     <message>
-        <source>begins with other blanks than the source</source>
+        <source>begins with different blanks than the source</source>
         <translation>inizia con spazi diversi dall&apos;originale</translation>
     </message>
     <message>
-        <source>ends with other blanks than the source</source>
+        <source>ends with different blanks than the source</source>
         <translation>termina con spazi diversi dall&apos;originale</translation>
     </message>
     <message>
@@ -337,8 +337,8 @@ Riprendere queste traduzioni? I testi restano incompleti.</translation>
         <translation>Selezionare un messaggio nuovo</translation>
     </message>
     <message>
-        <source>No obsolete message has the same tag or a similar text</source>
-        <translation>Nessun messaggio obsoleto ha lo stesso tag o un testo simile</translation>
+        <source>No obsolete message has a similar tag or text</source>
+        <translation>Nessun messaggio obsoleto ha un tag o un testo simile</translation>
     </message>
     <message>
         <source>Check Messages</source>

@@ -16,7 +16,7 @@
         <translation>検査結果: %L1</translation>
     </message>
     <message>
-        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with different placeholders, %L6 with different accelerators, %L7 with different blanks</source>
         <translation>%1: 完了 %L2、未完了 %L3、廃止 %L4、引数の違い %L5、アクセス キーの違い %L6、空白の違い %L7</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>原文にアクセス キーはありません</translation>
     </message>
     <message>
-        <source>begins with other blanks than the source</source>
+        <source>begins with different blanks than the source</source>
         <translation>先頭の空白が原文と異なります</translation>
     </message>
     <message>
-        <source>ends with other blanks than the source</source>
+        <source>ends with different blanks than the source</source>
         <translation>末尾の空白が原文と異なります</translation>
     </message>
     <message>
@@ -337,8 +337,8 @@ Take these translations over? The strings stay unfinished.</source>
         <translation>新しいメッセージを選択してください</translation>
     </message>
     <message>
-        <source>No obsolete message has the same tag or a similar text</source>
-        <translation>同じタグまたは似たテキストの廃止されたメッセージはありません</translation>
+        <source>No obsolete message has a similar tag or text</source>
+        <translation>似たタグまたはテキストの廃止されたメッセージはありません</translation>
     </message>
     <message>
         <source>Check Messages</source>

@@ -16,7 +16,7 @@
         <translation>검사 결과: %L1</translation>
     </message>
     <message>
-        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with different placeholders, %L6 with different accelerators, %L7 with different blanks</source>
         <translation>%1: 완료 %L2, 미완료 %L3, 사용되지 않음 %L4, 다른 인수 %L5, 다른 선택키 %L6, 다른 공백 %L7</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>원문에 선택키가 없음</translation>
     </message>
     <message>
-        <source>begins with other blanks than the source</source>
+        <source>begins with different blanks than the source</source>
         <translation>시작 부분의 공백이 원문과 다름</translation>
     </message>
     <message>
-        <source>ends with other blanks than the source</source>
+        <source>ends with different blanks than the source</source>
         <translation>끝부분의 공백이 원문과 다름</translation>
     </message>
     <message>
@@ -337,8 +337,8 @@ Take these translations over? The strings stay unfinished.</source>
         <translation>새 메시지를 선택하십시오</translation>
     </message>
     <message>
-        <source>No obsolete message has the same tag or a similar text</source>
-        <translation>태그가 같거나 텍스트가 비슷한 사용되지 않음 상태의 메시지가 없습니다</translation>
+        <source>No obsolete message has a similar tag or text</source>
+        <translation>태그나 텍스트가 비슷한 사용되지 않음 상태의 메시지가 없습니다</translation>
     </message>
     <message>
         <source>Check Messages</source>

@@ -16,7 +16,7 @@
         <translation>Замечаний: %L1</translation>
     </message>
     <message>
-        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with different placeholders, %L6 with different accelerators, %L7 with different blanks</source>
         <translation>%1: завершено %L2, не завершено %L3, устаревших %L4, с другими параметрами %L5, с другими клавишами доступа %L6, с другими пробелами %L7</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>в исходном тексте нет клавиши доступа</translation>
     </message>
     <message>
-        <source>begins with other blanks than the source</source>
+        <source>begins with different blanks than the source</source>
         <translation>начинается не с тех же пробелов, что исходный текст</translation>
     </message>
     <message>
-        <source>ends with other blanks than the source</source>
+        <source>ends with different blanks than the source</source>
         <translation>заканчивается не теми же пробелами, что исходный текст</translation>
     </message>
     <message>
@@ -337,8 +337,8 @@ Take these translations over? The strings stay unfinished.</source>
         <translation>Выберите новое сообщение</translation>
     </message>
     <message>
-        <source>No obsolete message has the same tag or a similar text</source>
-        <translation>Нет устаревших сообщений с тем же тегом или похожим текстом</translation>
+        <source>No obsolete message has a similar tag or text</source>
+        <translation>Нет устаревших сообщений с похожим тегом или текстом</translation>
     </message>
     <message>
         <source>Check Messages</source>

@@ -16,7 +16,7 @@
         <translation>检查结果：%L1</translation>
     </message>
     <message>
-        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with different placeholders, %L6 with different accelerators, %L7 with different blanks</source>
         <translation>%1：已完成 %L2，未完成 %L3，已过时 %L4，参数不同 %L5，访问键不同 %L6，空格不同 %L7</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>源文本没有访问键</translation>
     </message>
     <message>
-        <source>begins with other blanks than the source</source>
+        <source>begins with different blanks than the source</source>
         <translation>开头的空格与源文本不同</translation>
     </message>
     <message>
-        <source>ends with other blanks than the source</source>
+        <source>ends with different blanks than the source</source>
         <translation>结尾的空格与源文本不同</translation>
     </message>
     <message>
@@ -337,8 +337,8 @@ Take these translations over? The strings stay unfinished.</source>
         <translation>请选择一条新消息</translation>
     </message>
     <message>
-        <source>No obsolete message has the same tag or a similar text</source>
-        <translation>没有标记相同或文本相似的已过时消息</translation>
+        <source>No obsolete message has a similar tag or text</source>
+        <translation>没有标记或文本相似的已过时消息</translation>
     </message>
     <message>
         <source>Check Messages</source>

@@ -16,7 +16,7 @@
         <translation>檢查結果：%L1</translation>
     </message>
     <message>
-        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with other accelerators, %L7 with other blanks</source>
+        <source>%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with different placeholders, %L6 with different accelerators, %L7 with different blanks</source>
         <translation>%1：已完成 %L2，未完成 %L3，過時 %L4，參數不同 %L5，快速鍵不同 %L6，空格不同 %L7</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>來源文字沒有快速鍵</translation>
     </message>
     <message>
-        <source>begins with other blanks than the source</source>
+        <source>begins with different blanks than the source</source>
         <translation>開頭的空格與來源文字不同</translation>
     </message>
     <message>
-        <source>ends with other blanks than the source</source>
+        <source>ends with different blanks than the source</source>
         <translation>結尾的空格與來源文字不同</translation>
     </message>
     <message>
@@ -337,8 +337,8 @@ Take these translations over? The strings stay unfinished.</source>
         <translation>請選取一則新訊息</translation>
     </message>
     <message>
-        <source>No obsolete message has the same tag or a similar text</source>
-        <translation>沒有標籤相同或文字相似的過時訊息</translation>
+        <source>No obsolete message has a similar tag or text</source>
+        <translation>沒有標籤或文字相似的過時訊息</translation>
     </message>
     <message>
         <source>Check Messages</source>

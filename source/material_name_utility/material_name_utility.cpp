@@ -99,12 +99,6 @@ bool MaterialNameUtility::saveTable(const QString &fileName)
     return m_table.save(fileName);
 }
 
-QString MaterialNameUtility::savedNote() const
-{
-    const QString backup = m_table.backupFile();
-    return backup.isEmpty() ? QString() : Clt::backupText(QFileInfo(backup).fileName());
-}
-
 Window::MarkedRows MaterialNameUtility::rows() const
 {
     return MaterialWindow::materialRows(m_table, m_newNames);

@@ -35,7 +35,7 @@ protected:
     void clearTable() override;
     Nvx::Util::Outcome loadTable(const QString &fileName, Window::Progress &progress) override;
     bool saveTable(const QString &fileName) override;
-    QString savedNote() const override;
+    QString backupFile() const override { return m_table.backupFile(); }
     Clt::Leftovers leftovers() const override { return m_table.leftovers(); }
     Window::MarkedRows rows() const override;
 

@@ -203,9 +203,10 @@ void compareBlanks(const FieldCheck &check, const QString &source, const QString
 {
     if (blanksAtBegin(source) != blanksAtBegin(translation))
         check.add(Rule::Blank,
-                  QT_TRANSLATE_NOOP("MessageRemarks", "begins with other blanks than the source"));
+                  QT_TRANSLATE_NOOP("MessageRemarks", "begins with different blanks than the source"));
     if (blanksAtEnd(source) != blanksAtEnd(translation))
-        check.add(Rule::Blank, QT_TRANSLATE_NOOP("MessageRemarks", "ends with other blanks than the source"));
+        check.add(Rule::Blank,
+                  QT_TRANSLATE_NOOP("MessageRemarks", "ends with different blanks than the source"));
 }
 
 void comparePlaces(const FieldCheck &check, const std::set<int> &source, const std::set<int> &translation)
@@ -278,6 +279,13 @@ Remarks remarksOnTranslation(const QString &source, const QString &translation)
     compareAccelerators(check, source, translation);
     compareBlanks(check, source, translation);
     return remarks;
+}
+
+QString stringName(const QString &context, const QString &source)
+{
+    constexpr qsizetype maximum = 60;
+    const QString line = source.simplified();
+    return u"%1, \"%2\""_s.arg(context, line.size() > maximum ? line.first(maximum - 3) + u"..."_s : line);
 }
 
 } // namespace Checks

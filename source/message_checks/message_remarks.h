@@ -36,4 +36,8 @@ Remarks remarksOn(const Clt::Message &message);
 /// places, accelerators, or blanks at the ends.
 Remarks remarksOnTranslation(const QString &source, const QString &translation);
 
+/// What findings call a string of a translation file: its context and the beginning of its source, on one
+/// line.
+QString stringName(const QString &context, const QString &source);
+
 } // namespace Checks

@@ -144,16 +144,9 @@ void TableChecker::check(const Clt::Message &message, qint64 line)
     entry.add(Checks::remarksOn(message));
 }
 
-QString shortened(QString text)
-{
-    constexpr qsizetype maximum = 60;
-    text = text.simplified();
-    return text.size() > maximum ? text.first(maximum - 3) + u"..."_s : text;
-}
-
 void checkString(FileReport &report, const TranslationString &string)
 {
-    Entry entry(report, string.line, u"%1, \"%2\""_s.arg(string.context, shortened(string.source)));
+    Entry entry(report, string.line, Checks::stringName(string.context, string.source));
     if (string.state == TranslationString::State::Obsolete) {
         entry.add(Rule::Obsolete, u"no longer used"_s);
         return;

@@ -208,11 +208,11 @@ QString statusLine(const FileReport &report)
             report.file, QString::number(report.entries), count(Rule::New), count(Rule::Obsolete),
             count(Rule::Incomplete));
     const int finished = report.entries - countOf(report, Rule::Unfinished) - countOf(report, Rule::Obsolete);
-    return u"%1: %2 strings, %3 finished, %4 unfinished, %5 obsolete, %6 with other places, %7 with other "
-           "accelerators, %8 with other blanks"_s.arg(report.file, QString::number(report.entries),
-                                                      QString::number(finished), count(Rule::Unfinished),
-                                                      count(Rule::Obsolete), count(Rule::Place),
-                                                      count(Rule::Accelerator), count(Rule::Blank));
+    return u"%1: %2 strings, %3 finished, %4 unfinished, %5 obsolete, %6 with different placeholders, "
+           "%7 with different accelerators, %8 with different blanks"_s.arg(
+               report.file, QString::number(report.entries), QString::number(finished),
+               count(Rule::Unfinished), count(Rule::Obsolete), count(Rule::Place), count(Rule::Accelerator),
+               count(Rule::Blank));
 }
 
 QByteArray textReport(const Report &report)

@@ -14,13 +14,11 @@
 
 #include <QAction>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLocale>
 #include <QMenu>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -115,12 +113,6 @@ QString MessageTableUtility::lossBySaving() const
 bool MessageTableUtility::saveTable(const QString &fileName)
 {
     return m_store.save(fileName);
-}
-
-QString MessageTableUtility::savedNote() const
-{
-    const QString backup = messages().backupFile();
-    return backup.isEmpty() ? QString() : Clt::backupText(QFileInfo(backup).fileName());
 }
 
 Window::MarkedRows MessageTableUtility::rows() const
@@ -228,9 +220,7 @@ void MessageTableUtility::updateTranslation()
         showStatus(tr("Could not save %1").arg(file));
         return;
     }
-    QString text = tr("Added %1 new strings to %2").arg(QString::number(added), file);
-    if (!table.backupFile().isEmpty())
-        text += statusGap + Clt::backupText(QFileInfo(table.backupFile()).fileName());
-    showStatus(text);
+    showStatus(withBackupNote(tr("Added %1 new strings to %2").arg(QString::number(added), file),
+                              table.backupFile()));
     showFindings(MessageWindow::translationFindings(table, file, messages()));
 }

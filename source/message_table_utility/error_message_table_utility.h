@@ -42,7 +42,7 @@ protected:
     Nvx::Util::Outcome loadTable(const QString &fileName, Window::Progress &progress) override;
     QString lossBySaving() const override;
     bool saveTable(const QString &fileName) override;
-    QString savedNote() const override;
+    QString backupFile() const override { return messages().backupFile(); }
     Clt::Leftovers leftovers() const override { return messages().leftovers(); }
     Window::MarkedRows rows() const override;
 

@@ -7,9 +7,9 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <map>
@@ -28,13 +28,6 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Findings)
 };
-
-QString onOneLine(const QString &text)
-{
-    constexpr qsizetype maximum = 60;
-    const QString line = text.simplified();
-    return line.size() > maximum ? line.first(maximum) + u"..."_s : line;
-}
 
 /// Lists a finding. Its text, which takes time, is made only if there is still space in the list.
 template<typename MakeText>
@@ -157,15 +150,15 @@ Findings translationFindings(const Translation::TranslationTable &translation, c
                 if (found.findings.size() < Findings::maximum)
                     bySource[{name, message.source}].append(found.findings.size());
                 list(found, std::nullopt, [&] {
-                    return u"%1, \"%2\": %3"_s.arg(name, onOneLine(message.source), textOf(remark));
+                    return u"%1: %2"_s.arg(Checks::stringName(name, message.source), textOf(remark));
                 });
             }
         }
     }
     setKeys(found, bySource, table);
     found.summary =
-        Texts::tr("%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with other places, %L6 with "
-                  "other accelerators, %L7 with other blanks")
+        Texts::tr("%1: %L2 finished, %L3 unfinished, %L4 obsolete, %L5 with different placeholders, "
+                  "%L6 with different accelerators, %L7 with different blanks")
             .arg(QFileInfo(fileName).fileName())
             .arg(counts.finished())
             .arg(counts.of(Checks::Rule::Unfinished))
@@ -190,7 +183,9 @@ FindingsPanel::FindingsPanel(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_summary);
     layout->addWidget(m_list, 1);
-    m_list->installEventFilter(this);
+    auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), m_list);
+    escape->setContext(Qt::WidgetShortcut);
+    connect(escape, &QShortcut::activated, this, &FindingsPanel::left);
     const auto choose = [this] {
         if (m_list->selectionModel()->hasSelection()) {
             if (const auto key = keyOfRow(m_list->currentRow()))
@@ -229,15 +224,6 @@ void FindingsPanel::begin()
     // A list without a current row would choose one.
     m_list->setCurrentRow(0, QItemSelectionModel::NoUpdate);
     m_list->setFocus(Qt::ShortcutFocusReason);
-}
-
-bool FindingsPanel::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-        emit left();
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace MessageWindow

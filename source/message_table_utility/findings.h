@@ -70,9 +70,6 @@ signals:
     /// The user wants to return to the table.
     void left();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     /// The message of the finding in that row.
     std::optional<Clt::MessageKey> keyOfRow(int row) const;

@@ -50,6 +50,23 @@ void count(TableStatus &status, const Clt::Message &message, int difference)
         status.unsaved += difference;
 }
 
+/// The edits that give messages a value. Messages that have it already are left out.
+template<typename Value>
+MessageEdits valueEdits(const Places &places, const Numbers &numbers, Value MessageValues::*member,
+                        Value value)
+{
+    MessageEdits edits;
+    edits.reserve(numbers.size());
+    for (const int number : numbers) {
+        MessageValues values = valuesOf(messageAt(places, number));
+        if (values.*member == value)
+            continue;
+        values.*member = value;
+        edits.push_back({number, std::move(values)});
+    }
+    return edits;
+}
+
 } // namespace
 
 const QString &fieldOf(const Clt::Message &message, Field field)
@@ -107,30 +124,12 @@ void setValues(Clt::Message &message, const MessageValues &values)
 
 MessageEdits severityEdits(const Places &places, const Numbers &numbers, Clt::Severity severity)
 {
-    MessageEdits edits;
-    edits.reserve(numbers.size());
-    for (const int number : numbers) {
-        const Clt::Message &message = messageAt(places, number);
-        if (message.severity() == severity)
-            continue;
-        edits.push_back({number, valuesOf(message)});
-        edits.back().values.severity = severity;
-    }
-    return edits;
+    return valueEdits(places, numbers, &MessageValues::severity, severity);
 }
 
 MessageEdits stateEdits(const Places &places, const Numbers &numbers, Clt::MessageState state)
 {
-    MessageEdits edits;
-    edits.reserve(numbers.size());
-    for (const int number : numbers) {
-        const Clt::Message &message = messageAt(places, number);
-        if (message.state() == state)
-            continue;
-        edits.push_back({number, valuesOf(message)});
-        edits.back().values.state = state;
-    }
-    return edits;
+    return valueEdits(places, numbers, &MessageValues::state, state);
 }
 
 MessageEdits fieldEdit(const Places &places, int number, Field field, const QString &text)

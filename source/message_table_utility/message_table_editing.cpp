@@ -158,7 +158,7 @@ void MessageTableUtility::adoptTexts()
     const Clt::MessageKey key = m_store.message(selected.front()).key();
     const Keys candidates = MessageWindow::adoptionCandidates(messages(), key);
     if (candidates.empty())
-        return showStatus(tr("No obsolete message has the same tag or a similar text"));
+        return showStatus(tr("No obsolete message has a similar tag or text"));
     auto *dialog = new MessageWindow::AdoptionDialog(messages(), candidates, this);
     connect(dialog, &MessageWindow::AdoptionDialog::chosen, this,
             [this, key](const Clt::MessageKey &adopted) {

@@ -64,7 +64,7 @@ bool TableWindow::save()
     const QString target = m_fileName.isEmpty() ? chooseFileToSave() : m_fileName;
     if (target.isEmpty() || !saveTo(target))
         return false;
-    showSaved(m_texts.saved);
+    showStatus(withBackupNote(m_texts.saved, backupFile()));
     return true;
 }
 
@@ -75,7 +75,7 @@ bool TableWindow::saveAs()
     const QString chosen = chooseFileToSave();
     if (chosen.isEmpty() || !saveTo(chosen))
         return false;
-    showSaved(withFile(m_texts.savedAs, m_fileName));
+    showStatus(withBackupNote(withFile(m_texts.savedAs, m_fileName), backupFile()));
     return true;
 }
 
@@ -127,10 +127,9 @@ void TableWindow::showStatus(const QString &text)
     statusBar()->setToolTip(text);
 }
 
-void TableWindow::showSaved(const QString &text)
+QString TableWindow::withBackupNote(const QString &text, const QString &copy)
 {
-    const QString note = savedNote();
-    showStatus(note.isEmpty() ? text : text + u"   "_s + note);
+    return copy.isEmpty() ? text : text + u"   "_s + Clt::backupText(QFileInfo(copy).fileName());
 }
 
 bool TableWindow::mayLoseChanges()

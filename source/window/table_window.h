@@ -106,8 +106,8 @@ protected:
     /// Writes the file whole or not at all. Returns false if it could not be written.
     virtual bool saveTable(const QString &fileName) = 0;
 
-    /// What the status bar adds after the table was saved; usually empty.
-    virtual QString savedNote() const { return {}; }
+    /// The copy of the previous file that the last save made; empty if it made none.
+    virtual QString backupFile() const { return {}; }
 
     /// What was left over from the file that the table was read from; nothing after it was saved there. The
     /// user sees it, and is asked before that file is replaced.
@@ -143,6 +143,9 @@ protected:
     /// Shows the text in the status bar until the next call; an empty text clears it.
     void showStatus(const QString &text);
 
+    /// The text for the status bar, with a note on the copy that saving a file made; empty if it made none.
+    static QString withBackupNote(const QString &text, const QString &copy);
+
     /// Performs a long operation as a WindowWork and returns its result; std::nullopt if the user cancelled
     /// it. The operation takes a Progress &.
     template<typename Operation>
@@ -171,7 +174,6 @@ private:
 
     void offerToLoadAgain();
     QString chooseFileToSave();
-    void showSaved(const QString &text);
     bool mayLoseChanges();
     bool load(const QString &fileName);
     void showLoadError(const QString &path, const QString &error);

@@ -110,7 +110,7 @@ private slots:
                               u"7: %1no longer used [obsolete]"_s.arg(name),
                               u"8: "_s + name + u"%1 is missing [place]"_s,
                               u"8: %1the source has no accelerator [accelerator]"_s.arg(name),
-                              u"8: %1begins with other blanks than the source [blank]"_s.arg(name),
+                              u"8: %1begins with different blanks than the source [blank]"_s.arg(name),
                               u"9: %1the translation is empty [unfinished]"_s.arg(name)}));
         QCOMPARE(report->kind, TableCheck::FileKind::TranslationFile);
         QCOMPARE(report->entries, 6);

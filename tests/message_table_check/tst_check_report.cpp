@@ -135,9 +135,9 @@ private slots:
         report.kind = TableCheck::FileKind::TranslationFile;
         report.entries = 10;
         report.entriesWith = {{Rule::Unfinished, 3}, {Rule::Obsolete, 1}, {Rule::Place, 2}, {Rule::Blank, 4}};
-        QCOMPARE(TableCheck::statusLine(report),
-                 u"a.ts: 10 strings, 6 finished, 3 unfinished, 1 obsolete, 2 with other places, 0 with other "
-                 "accelerators, 4 with other blanks"_s);
+        QCOMPARE(TableCheck::statusLine(report), u"a.ts: 10 strings, 6 finished, 3 unfinished, 1 obsolete, 2 "
+                                                 u"with different placeholders, 0 with "
+                                                 "different accelerators, 4 with different blanks"_s);
     }
 
     void sarifHasTheRulesAndTheResults()

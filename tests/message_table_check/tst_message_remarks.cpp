@@ -132,8 +132,9 @@ private slots:
         row("ampersand at the end", u"A&"_s, u"A"_s);
         row("same blanks", u" a: "_s, u" b: "_s);
         row("other blanks at the begin", u"a"_s, u" b"_s,
-            u"blank: begins with other blanks than the source"_s);
-        row("other blanks at the end", u"a "_s, u"b\n"_s, u"blank: ends with other blanks than the source"_s);
+            u"blank: begins with different blanks than the source"_s);
+        row("other blanks at the end", u"a "_s, u"b\n"_s,
+            u"blank: ends with different blanks than the source"_s);
     }
 
     void translationIsCompared()

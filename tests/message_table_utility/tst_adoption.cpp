@@ -232,7 +232,7 @@ private slots:
         QCOMPARE(f.status(), u"Select a new message"_s);
         f.view()->selectRow(1);
         f.action("actionAdopt")->trigger();
-        QCOMPARE(f.status(), u"No obsolete message has the same tag or a similar text"_s);
+        QCOMPARE(f.status(), u"No obsolete message has a similar tag or text"_s);
     }
 
     void updateOffersTranslationsOfOtherContexts_data()

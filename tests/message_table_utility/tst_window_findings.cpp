@@ -91,13 +91,13 @@ private slots:
             textsOf(findings),
             (QStringList{cells + u"%1 is missing"_s, cells + u"the source has no %2"_s,
                          cells + u"the source has no accelerator"_s,
-                         cells + u"begins with other blanks than the source"_s,
+                         cells + u"begins with different blanks than the source"_s,
                          u"A::run, \"Gone\": no longer used"_s, u"A::run, \"Open\": not translated yet"_s}));
         QCOMPARE(findings.findings.front().key->tag, u"Tag"_s);
         QVERIFY(!findings.findings.back().key);
-        QCOMPARE(findings.summary,
-                 u"client_de.ts: 2 finished, 1 unfinished, 1 obsolete, 1 with other places, 1 with other "
-                 "accelerators, 1 with other blanks"_s);
+        QCOMPARE(findings.summary, u"client_de.ts: 2 finished, 1 unfinished, 1 obsolete, 1 with different "
+                                   u"placeholders, 1 with "
+                                   "different accelerators, 1 with different blanks"_s);
     }
 
     void chosenFindingShowsItsMessage()
