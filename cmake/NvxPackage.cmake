@@ -1,7 +1,7 @@
 # What `cpack` packs into the build's folder "package":
 #
 #     windows   a ZIP of the programs with all they need, and the set-up program and the MSI of the sample product
-#     native    a TGZ of the developers' tools with all they need
+#     native    a tar.gz of the developers' tools with all they need
 #
 # The target "packaged" builds what `cpack` packs.
 
@@ -35,7 +35,9 @@ if(WIN32)
     set(NVX_INSTALLER_PICTURES "${PROJECT_SOURCE_DIR}/resource/images")
 else()
     add_dependencies(packaged built_tools)
-    set(CPACK_GENERATOR TGZ)
+    set(CPACK_GENERATOR External)
+    set(CPACK_EXTERNAL_ENABLE_STAGING ON)
+    set(CPACK_EXTERNAL_PACKAGE_SCRIPT "${PROJECT_SOURCE_DIR}/installer/make_archive.cmake")
     set(CPACK_PACKAGE_NAME "nvx-2017-tools")
     set(CPACK_PACKAGE_FILE_NAME "nvx-2017-tools-${PROJECT_VERSION}-linux-x86_64")
     set(CPACK_INSTALL_CMAKE_PROJECTS "${nvx_package_of};tools;/")

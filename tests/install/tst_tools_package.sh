@@ -10,9 +10,9 @@ trap 'rm -rf "$folder"' EXIT
 
 (cd "$build" && "$cpack" --config CPackConfig.cmake -B "$folder/packed") >"$folder/pack.log" ||
     fail "not packed: $(tail -n 5 "$folder/pack.log")"
-(umask 077 && cd "$build" && "$cpack" --config CPackConfig.cmake -B "$folder/packed again") >"$folder/pack.log"
-cmp "$folder"/packed/*.tar.gz "$folder/packed again"/*.tar.gz || fail "packed again, the package is another one"
 grep -q '"name": "libqt6core6"' "$folder"/packed/*.cdx.json || fail "the bill of materials lacks Qt"
+owners=$(tar --numeric-owner -tvzf "$folder"/packed/*.tar.gz | awk '{ print $2 }' | sort -u)
+[ "$owners" = 0/0 ] || fail "the archive names who packed it: $owners"
 unpacked="$folder/tools für größe"
 mkdir "$unpacked"
 tar -xzf "$folder"/packed/nvx-2017-tools-*.tar.gz -C "$unpacked"
