@@ -100,6 +100,6 @@ if(NOT result EQUAL 0)
 endif()
 nvx_sign("${set_up}")
 
-set(msi "${CPACK_TOPLEVEL_DIRECTORY}/${CPACK_PACKAGE_NAME}-${CPACK_PACKAGE_VERSION}-x64.msi")
+set(msi "${CPACK_TOPLEVEL_DIRECTORY}/${NVX_MSI}")
 nvx_make_msi("${laid_out}" "${task}" "${msi}")
 set(CPACK_EXTERNAL_BUILT_PACKAGES "${set_up}" "${msi}")

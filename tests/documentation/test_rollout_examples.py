@@ -10,9 +10,12 @@ from documents import ROOT, blocks_of, text_of
 sys.path.insert(0, str(ROOT / "installer"))
 
 from make_msi import guid  # noqa: E402
+from make_winget import NOWHERE, manifests  # noqa: E402
 
 DOCUMENT = text_of("docs/administrators.md")
 VERSION = re.search(r"project\(\s*\w+\s+VERSION ([\d.]+)", text_of("CMakeLists.txt")).group(1)
+PACKAGE = f"NVX-2017-{VERSION}-x64.msi"
+MANIFESTS = manifests(VERSION, PACKAGE, "0123456789abcdef" * 4, "https://downloads.velmora.example/nvx/")
 CODE = "{" + guid("product " + VERSION) + "}"
 
 _ANY = r".{1,512}"
@@ -91,13 +94,11 @@ class RolloutExamples(unittest.TestCase):
 
     def test_every_example_names_the_package_of_this_version(self):
         packages = set(re.findall(r"NVX-2017-[\d.]+-x64\.msi", DOCUMENT))
-        self.assertEqual(packages, {f"NVX-2017-{VERSION}-x64.msi"})
+        self.assertEqual(packages, {PACKAGE})
 
     def test_the_winget_manifest_follows_its_schema(self):
-        manifests = {b.name: b.text for b in blocks_of(DOCUMENT) if b.name.endswith(".yaml")}
-        self.assertEqual(len(manifests), 3)
         kinds = set()
-        for name, text in manifests.items():
+        for name, text in MANIFESTS.items():
             with self.subTest(name):
                 self.assertEqual(faults_of(text), [])
                 fields = fields_of(text)
@@ -106,16 +107,28 @@ class RolloutExamples(unittest.TestCase):
                 self.assertTrue(name.startswith(fields["PackageIdentifier"] + "."))
         self.assertEqual(kinds, set(REQUIRED))
 
+    def test_the_document_shows_the_manifest_that_is_written_next_to_the_packages(self):
+        shown = {block.name: block.text for block in blocks_of(DOCUMENT) if block.name.endswith(".yaml")}
+        name = "Velmora.NVX2017.installer.yaml"
+        self.assertEqual(shown, {name: manifests(VERSION, PACKAGE, "...")[name]})
+
+    def test_the_winget_manifest_has_the_address_of_the_package_if_it_is_known(self):
+        name = "Velmora.NVX2017.installer.yaml"
+        address = fields_of(MANIFESTS[name])["Installers/InstallerUrl"]
+        self.assertEqual(address, "https://downloads.velmora.example/nvx/" + PACKAGE)
+        without = fields_of(manifests(VERSION, PACKAGE, "0" * 64)[name])["Installers/InstallerUrl"]
+        self.assertTrue(without.startswith(f"{NOWHERE}/{PACKAGE} # to be replaced"), without)
+
 
 class RolloutExamplesChecks(unittest.TestCase):
-    MANIFEST = next(b.text for b in blocks_of(DOCUMENT) if b.name.endswith("installer.yaml"))
+    MANIFEST = MANIFESTS["Velmora.NVX2017.installer.yaml"]
 
     def test_a_wrong_field_is_found(self):
         for right, wrong, fault in (
             ("x64", "x46", "Installers/Architecture"),
             ("Scope: machine", "Scope: all", "Scope"),
             ("https:", "file:", "Installers/InstallerUrl"),
-            ("0000", "000g", "Installers/InstallerSha256"),
+            ("0123", "012g", "Installers/InstallerSha256"),
             ("- silent", "- quiet", "InstallModes"),
             ("UpgradeBehavior", "UpgradeBehaviour", "UpgradeBehaviour"),
             ("PackageVersion: 17.2.0\n", "", "PackageVersion"),

@@ -11,6 +11,9 @@ trap 'rm -rf "$folder"' EXIT
 (cd "$build" && "$cpack" --config CPackConfig.cmake -B "$folder/packed") >"$folder/pack.log" ||
     fail "not packed: $(tail -n 5 "$folder/pack.log")"
 grep -q '"name": "libqt6core6"' "$folder"/packed/*.cdx.json || fail "the bill of materials lacks Qt"
+packed=$(basename "$folder"/packed/*.tar.gz)
+grep -qF "| \`${packed/17.*-linux/VERSION-linux}\` |" "$sources/README.md" ||
+    fail "the README does not list $packed"
 owners=$(tar --numeric-owner -tvzf "$folder"/packed/*.tar.gz | awk '{ print $2 }' | sort -u)
 [ "$owners" = 0/0 ] || fail "the archive names who packed it: $owners"
 unpacked="$folder/tools für größe"

@@ -1,5 +1,6 @@
 """The packages themselves: what they contain, and that the same sources give the same packages."""
 
+import hashlib
 import json
 import os
 import re
@@ -49,6 +50,21 @@ class Contents(unittest.TestCase):
         self.assertEqual(set(re.findall(r"\{[0-9A-F-]{36}\}", page)), {code})
         (upgrade,) = re.findall(r"^UpgradeCode\t(\S+)", properties, re.MULTILINE)
         self.assertEqual(upgrade, "{6A5E52A4-3F0C-5D3E-9F43-0E2B4F9F7A17}")
+
+    def test_the_readme_lists_the_packages(self):
+        readme = (INSTALLER.parent / "README.md").read_text(encoding="utf-8")
+        listed = re.findall(r"^\| `(NVX-2017-\S+)` \|", readme, re.MULTILINE)
+        packed = [path.name for path in PACKAGES.iterdir() if path.suffix in (".exe", ".msi", ".zip")]
+        self.assertEqual(sorted(name.replace("VERSION", "17.2.0") for name in listed), sorted(packed))
+
+    def test_the_winget_manifest_has_the_hash_and_the_product_code_of_the_msi(self):
+        (package,) = PACKAGES.glob("*.msi")
+        manifest = (PACKAGES / "winget" / "Velmora.NVX2017.installer.yaml").read_text(encoding="utf-8")
+        (code,) = re.findall(r"^ProductCode\t(\S+)", run("msiinfo", "export", str(package), "Property"), re.M)
+        digest = hashlib.sha256(package.read_bytes()).hexdigest()
+        self.assertIn(f"  InstallerSha256: {digest.upper()}\n  ProductCode: '{code}'\n", manifest)
+        checksum = package.with_name(package.name + ".sha256").read_text(encoding="utf-8")
+        self.assertEqual(checksum.split()[0], digest)
 
     def test_the_bill_of_materials_names_the_libraries_with_versions_and_licences(self):
         bill = json.loads((PACKAGES / "NVX-2017-17.2.0.cdx.json").read_text())
@@ -137,6 +153,7 @@ class Signed(unittest.TestCase):
             "CPACK_TOPLEVEL_DIRECTORY": packed,
             "CPACK_PACKAGE_NAME": "NVX",
             "CPACK_PACKAGE_VERSION": "17.2.0",
+            "NVX_MSI": "NVX.msi",
             "NVX_MAKENSIS": Path(os.environ["NVX_CACHE"]) / "nsis" / "makensis",
             "NVX_SETUP_TASK": BUILD / "installer" / "NVXSetupTask.exe",
             "NVX_INSTALLER_PICTURES": INSTALLER.parent / "resource" / "images",
