@@ -1,9 +1,9 @@
 #include "clt_message_table.h"
 
 #include "clt_message_table_xml.h"
+#include "nvx_util/regular_file.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QTextStream>
 
 #include <utility>
@@ -89,7 +89,7 @@ bool MessageTable::remove(const MessageKey &key)
 
 bool MessageTable::load(const QString &fileName)
 {
-    QFile file(fileName);
+    Nvx::Util::RegularFile file(fileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         m_errorString = file.errorString();
         return false;

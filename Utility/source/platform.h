@@ -169,7 +169,7 @@ bool setRights(const QString &path, NewRights rights);
 /// be written; nothing is left of it then.
 std::shared_ptr<void> createScriptFile(const QString &path, const QByteArray &contents);
 
-/// Why readRegularFile does not read a file.
+/// Why a regular file is not opened.
 inline QString missingFile()
 {
     return QStringLiteral("the file does not exist");

@@ -1,5 +1,6 @@
 #include "nvx_util/whole_file.h"
 
+#include "nvx_util/regular_file.h"
 #include "platform.h"
 
 #include <QFile>
@@ -23,7 +24,7 @@ QString partOf(const QString &fileName)
 
 bool hasContents(const QString &fileName, const QByteArray &contents)
 {
-    QFile file(fileName);
+    RegularFile file(fileName);
     if (!file.open(QIODevice::ReadOnly) || file.size() != contents.size())
         return false;
     for (qsizetype at = 0; at < contents.size();) {
@@ -123,7 +124,7 @@ QString resolveLinks(const QString &fileName)
 
 std::optional<QByteArray> readWholeFile(const QString &fileName)
 {
-    QFile file(fileName);
+    RegularFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QByteArray contents = file.readAll();
@@ -142,7 +143,7 @@ bool replaceWholeFile(const QString &fileName, const QByteArray &contents)
         return true;
     }
     const QFileInfo old(name);
-    if (old.isDir() || (old.exists() && !old.isWritable()))
+    if (old.exists() && !(old.isFile() && old.isWritable()))
         return false;
     PartFile part(partOf(name));
     if (!part.create() || !part.write(contents))
@@ -162,7 +163,7 @@ bool createWholeFile(const QString &fileName, const QByteArray &contents)
 
 bool copyToFreeName(const QString &source, const QString &target)
 {
-    QFile from(source);
+    RegularFile from(source);
     if (QFile::exists(target) || !from.open(QIODevice::ReadOnly))
         return false;
     PartFile part(partOf(target));

@@ -7,6 +7,7 @@
 #include "materials/mat_translation_table.h"
 #include "nvx_util/languages.h"
 #include "nvx_util/machine.h"
+#include "nvx_util/regular_file.h"
 #include "nvx_util/system.h"
 #include "run/reporter.h"
 
@@ -56,7 +57,7 @@ QStringList sourcesIn(const QString &folder)
 
 QByteArray bytesOf(const QString &path)
 {
-    QFile file(path);
+    Nvx::Util::RegularFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

@@ -2,8 +2,8 @@
 
 #include "clt_xml_source.h"
 #include "clt_xml_text.h"
+#include "nvx_util/regular_file.h"
 
-#include <QFile>
 #include <QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
@@ -62,7 +62,7 @@ Result<QStringList> readMaterialNames(QIODevice &device)
 
 Result<QStringList> readMaterialNames(const QString &fileName)
 {
-    QFile file(fileName);
+    Nvx::Util::RegularFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return Failure{file.errorString()};
     const Result<QStringList> names = readMaterialNames(file);

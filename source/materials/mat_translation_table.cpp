@@ -2,11 +2,11 @@
 
 #include "clt_leftovers.h"
 #include "materials/mat_material_name.h"
+#include "nvx_util/regular_file.h"
 #include "translation/error_translation_table.h"
 #include "translation/translation_table_xml.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <algorithm>
 #include <utility>
@@ -39,7 +39,7 @@ bool wouldChangeType(const TranslationTable &table, const QSet<QString> &obsolet
 /// The table of the file; an empty one if there is no file.
 Result<TranslationTable> readTableFile(const QString &fileName)
 {
-    QFile file(fileName);
+    Nvx::Util::RegularFile file(fileName);
     if (!file.exists())
         return TranslationTable();
     if (!file.open(QIODevice::ReadOnly))

@@ -1,6 +1,7 @@
 #include "message_table_check/exchange.h"
 
 #include "message_table_check/translation_document.h"
+#include "nvx_util/regular_file.h"
 #include "nvx_util/whole_file.h"
 #include "translation/error_translation_table.h"
 
@@ -134,7 +135,7 @@ Failure fileFailure(const QString &fileName, const QString &reason)
 
 Result<TranslationDocument> readDocument(const QString &fileName)
 {
-    QFile file(fileName);
+    Nvx::Util::RegularFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return fileFailure(fileName, file.errorString());
     Result<TranslationDocument> document = readTranslationDocument(file);
@@ -152,7 +153,7 @@ Result<QByteArray> converted(const QString &from, const QString &to)
         Result<QByteArray> xliff = xliffOf(*document, QFileInfo(from).fileName());
         return xliff ? xliff : fileFailure(from, xliff.error());
     }
-    QFile file(from);
+    Nvx::Util::RegularFile file(from);
     if (!file.open(QIODevice::ReadOnly))
         return fileFailure(from, file.errorString());
     Result<QByteArray> contents = translationFileForQt6(file);

@@ -7,8 +7,8 @@
 #include "clt_xml_text.h"
 #include "message_checks/message_remarks.h"
 #include "message_table_check/translation_strings.h"
+#include "nvx_util/regular_file.h"
 
-#include <QFile>
 #include <QSet>
 #include <QXmlStreamReader>
 
@@ -198,7 +198,7 @@ Result<FileReport> checkDocument(QIODevice &device)
 
 Result<FileReport> checkFile(const QString &fileName)
 {
-    QFile file(fileName);
+    Nvx::Util::RegularFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return Failure{file.errorString()};
     Result<FileReport> report = checkDocument(file);

@@ -1,5 +1,6 @@
 #include "translation/error_translation_table.h"
 
+#include "nvx_util/regular_file.h"
 #include "nvx_util/whole_file.h"
 #include "translation/translation_table_xml.h"
 
@@ -103,7 +104,7 @@ void TranslationTable::setType(const QString &contextName, const QSet<QString> &
 
 bool TranslationTable::load(const QString &fileName)
 {
-    QFile file(fileName);
+    Nvx::Util::RegularFile file(fileName);
     return load(file);
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "nvx_util/regular_file.h"
 #include "nvx_util/result.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QProgressDialog>
 
 #include <type_traits>
@@ -33,13 +33,13 @@ private:
     int m_delay;
 };
 
-/// A file that reports how much of it was read. Reading fails once the operation was cancelled.
-class ProgressFile : public QFile
+/// A regular file that reports how much of it was read. Reading fails once the operation was cancelled.
+class ProgressFile : public Nvx::Util::RegularFile
 {
 public:
     /// The progress must outlive the file.
     ProgressFile(const QString &name, Progress &progress)
-        : QFile(name)
+        : RegularFile(name)
         , m_progress(progress)
     {
     }

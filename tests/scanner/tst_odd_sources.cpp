@@ -7,8 +7,6 @@
 
 #include <QTest>
 
-#include <sys/stat.h>
-
 using namespace Qt::Literals::StringLiterals;
 using namespace Scan;
 
@@ -21,7 +19,7 @@ private slots:
     void sourcesThatAreNoRegularFilesAreNotOpened_data()
     {
         QTest::addColumn<QString>("fileName");
-        QTest::newRow("a device without an end") << u"/dev/zero"_s;
+        QTest::newRow("a device without an end") << endlessFile();
         QTest::newRow("a terminal") << u"/dev/tty"_s;
         QTest::newRow("a pipe that nobody writes to") << pipe();
         QTest::newRow("a link to a device") << linkToDevice();
@@ -77,14 +75,13 @@ private:
     QString pipe()
     {
         const QString path = m_folder.path(u"pipe.cpp"_s);
-        mkfifo(qPrintable(path), 0600);
-        return path;
+        return QFile::exists(path) ? path : waitingPipe(path);
     }
 
     QString linkToDevice()
     {
         const QString path = m_folder.path(u"link.cpp"_s);
-        QFile::link(u"/dev/zero"_s, path);
+        QFile::link(endlessFile(), path);
         return path;
     }
 

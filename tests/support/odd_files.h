@@ -1,8 +1,12 @@
 #pragma once
 
+#include "nvx_util/regular_file.h"
+
 #include <QFile>
 #include <QString>
 #include <QTest>
+
+#include <sys/stat.h>
 
 // Files of the operating system that always fail as ordinary files do only after a fault. For Unix only.
 
@@ -18,18 +22,31 @@ inline QString closedFile()
     return QStringLiteral("/sys/bus/cpu/uevent");
 }
 
+/// Never ends.
+inline QString endlessFile()
+{
+    return QStringLiteral("/dev/zero");
+}
+
+/// A named pipe that nobody writes to; whoever opens it waits for ever. Empty if it cannot be created.
+inline QString waitingPipe(const QString &path)
+{
+    return mkfifo(QFile::encodeName(path).constData(), 0600) == 0 ? path : QString();
+}
+
 /// The rows "file" of a test with files that cannot be read.
 inline void addUnreadableFileRows()
 {
     QTest::addColumn<QString>("file");
     QTest::newRow("cannot be opened") << closedFile();
     QTest::newRow("reading fails") << breakingFile();
+    QTest::newRow("never ends") << endlessFile();
 }
 
-/// The error message of the operating system when the file is read.
+/// The error message when the file is read, of the operating system if it can be opened.
 inline QString errorOf(const QString &fileName)
 {
-    QFile file(fileName);
+    Nvx::Util::RegularFile file(fileName);
     if (file.open(QIODevice::ReadOnly))
         file.readAll();
     return file.errorString();

@@ -64,6 +64,33 @@ private slots:
         QVERIFY(!QFile::exists(folder.path(u"nowhere"_s)));
     }
 
+    void whatIsNoRegularFileIsNeitherReadNorReplaced_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::newRow("a device without an end") << endlessFile();
+        QTest::newRow("a device without contents") << u"/dev/null"_s;
+        QTest::newRow("a pipe that nobody writes to") << QString();
+        QTest::newRow("a folder") << u"/proc"_s;
+    }
+
+    void whatIsNoRegularFileIsNeitherReadNorReplaced()
+    {
+        QFETCH(const QString, target);
+        const TestFolder folder;
+        const QString fileName = folder.path(u"file"_s);
+        if (target.isEmpty())
+            QCOMPARE(waitingPipe(fileName), fileName);
+        else
+            QVERIFY(QFile::link(target, fileName));
+        QVERIFY(!Nvx::Util::readWholeFile(fileName));
+        QVERIFY(!Nvx::Util::replaceWholeFile(fileName, "new"));
+        QVERIFY(!Nvx::Util::copyToFreeName(fileName, folder.path(u"copy"_s)));
+        QCOMPARE(QFileInfo(fileName).symLinkTarget(), target);
+        QVERIFY(!QFileInfo(fileName).isFile());
+        QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
+                 QStringList(u"file"_s));
+    }
+
     void linkStaysALinkWhenItsFileIsReplaced_data()
     {
         QTest::addColumn<int>("links");

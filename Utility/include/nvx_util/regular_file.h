@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QFile>
 #include <QString>
 
 #include <functional>
@@ -25,5 +26,15 @@ struct FileContents
 /// the file's bytes, as text for the user; empty if they are.
 [[nodiscard]] QString readRegularFile(const QString &fileName, qint64 maximumSize,
                                       const std::function<void(QByteArrayView piece)> &take);
+
+/// A file that somebody else has named, of any size. Devices, pipes and sockets cannot be opened, because
+/// they may never end; errorString() then says so.
+class RegularFile : public QFile
+{
+public:
+    using QFile::QFile;
+
+    bool open(OpenMode mode) override;
+};
 
 } // namespace Nvx::Util

@@ -7,8 +7,8 @@
 
 namespace Nvx::Util {
 
-/// All bytes of a file; std::nullopt if it cannot be opened or not all of it can be read, for example because
-/// another process has locked a part of it.
+/// All bytes of a regular file; std::nullopt if it cannot be opened or not all of it can be read, for example
+/// because another process has locked a part of it.
 [[nodiscard]] std::optional<QByteArray> readWholeFile(const QString &fileName);
 
 /// Replaces the contents of a file, completely or not at all: the bytes are written to a new file next to it,
@@ -17,8 +17,8 @@ namespace Nvx::Util {
 /// same bytes is left alone and keeps its time stamp. The old file's access rights, attributes and time of
 /// creation are preserved, its owner as far as this process may, and a symbolic link stays a link. If another
 /// program has one of the files open, it is tried again for half a second. The folder must exist. False if
-/// the file is not writable, another process is replacing it, or the bytes cannot be written to the disk; the
-/// old file is then unchanged.
+/// the file is not writable or not a regular file, another process is replacing it, or the bytes cannot be
+/// written to the disk; the old file is then unchanged.
 ///
 /// This is not QSaveFile, because that one gives its temporary file a random name, so what a killed run
 /// leaves could not be found and removed by the next one.
