@@ -258,6 +258,20 @@ private slots:
         QCOMPARE(fileBytes(fileName), QByteArray("old"));
     }
 
+    void marksOfAMergeFarAfterAnErrorAreNotLookedAt()
+    {
+        const TestFolder folder;
+        const QString fileName = folder.path(u"table.xml"_s);
+        const QByteArray marks = "\n<<<<<<< HEAD\n=======\n>>>>>>> main\n";
+        MessageTable table;
+        QVERIFY(writeBytes(fileName, "<messageTable></wrong>" + marks));
+        QVERIFY(!table.load(fileName));
+        QCOMPARE(table.errorString(), u"The marks of an unfinished merge at line 2"_s);
+        QVERIFY(writeBytes(fileName, "<messageTable></wrong>" + QByteArray(1000, ' ') + marks));
+        QVERIFY(!table.load(fileName));
+        QVERIFY2(table.errorString().endsWith(u" at line 1"_s), qPrintable(table.errorString()));
+    }
+
     void unknownSeverityAndStateAreWrittenAsSuch()
     {
         MessageTable table;

@@ -149,6 +149,21 @@ private slots:
         QVERIFY(!QFile::exists(m_copy));
     }
 
+    void textBetweenContextsIsListed()
+    {
+        QCOMPARE(leftFrom("<TS>\nstray<context><name>A</name></context>text</TS>"),
+                 QStringList({u"Line 2: \"stray\" is not kept"_s, u"Line 2: \"text\" is not kept"_s}));
+    }
+
+    void secondCodecIsListedWithTheLinesWhereBothBegin()
+    {
+        const QStringList left = leftFrom("<TS>\n<defaultcodec>A\n\n</defaultcodec>\n"
+                                          "<defaultcodec>B\n\n</defaultcodec></TS>");
+        QCOMPARE(left.size(), 1);
+        QVERIFY2(left.first().startsWith(u"Line 2: "_s) && left.first().contains(u"line 5"_s),
+                 qPrintable(left.first()));
+    }
+
     void savingElsewhereLeavesTheFile()
     {
         const QString other = m_folder->path(u"other.ts"_s);
@@ -194,6 +209,15 @@ private slots:
 
 private:
     QStringList names() const { return QDir(m_folder->path()).entryList(QDir::Files, QDir::Name); }
+
+    /// What reading such a file leaves over.
+    QStringList leftFrom(const QByteArray &contents)
+    {
+        TranslationTable table;
+        if (!writeBytes(m_file, contents) || !table.load(m_file))
+            return {};
+        return table.leftovers().texts(10);
+    }
 
     /// Writes, loads and saves the file. Returns the name of the copy; empty if the save failed.
     QString rewrite(const QByteArray &contents, bool loads = true)
