@@ -38,6 +38,14 @@ QByteArray withItems(const QByteArray &items)
     return "<Project><ItemGroup>" + items + "</ItemGroup></Project>";
 }
 
+/// A source in so many choices, each within the next.
+QByteArray withChoices(int depth)
+{
+    const QByteArray begin = QByteArray("<Choose><When>").repeated(depth);
+    const QByteArray end = QByteArray("</When></Choose>").repeated(depth);
+    return "<Project>" + begin + "<ItemGroup><ClCompile Include=\"a.cpp\"/></ItemGroup>" + end + "</Project>";
+}
+
 } // namespace
 
 class tst_visual_studio_project : public QObject
@@ -130,6 +138,8 @@ private slots:
                           "Include=\"a.cpp\"/></ItemGroup></When><Otherwise><ItemGroup><ClCompile "
                           "Include=\"b.cpp\"/></ItemGroup></Otherwise></Choose></Project>")
             << QStringList{u"a.cpp"_s, u"b.cpp"_s};
+        QTest::newRow("sixteen choices within each other") << withChoices(16) << QStringList{u"a.cpp"_s};
+        QTest::newRow("more choices within each other are skipped") << withChoices(17) << QStringList();
         QTest::newRow("generated code")
             << withItems("<ClCompile Include=\"x\\generatedFILES\\a.cpp\"/>") << QStringList();
         QTest::newRow("libraries") << withItems("<ClCompile Include=\"..\\libRAries\\a.cpp\"/>")
