@@ -135,6 +135,8 @@ def make_machine(build: Path, locale: str, scale: int) -> Machine:
     shutil.copytree(ROOT / "sample" / "tables", machine.path(TABLES))
     # Debian installs the font of the title bars' buttons where Wine does not look for it.
     shutil.copy(MARLETT, machine.path("C:\\windows\\Fonts\\marlett.ttf"))
+    # A machine's first program sets the fonts of its language, which would replace ours.
+    machine.start_up()
     machine.import_script(screen_settings(FAMILIES.get(locale, OTHER_FAMILY), scale))
     machine.stop()
     return machine
