@@ -67,9 +67,10 @@ private slots:
         QCOMPARE(sarif->format, TableCheck::ReportFormat::Sarif);
         QCOMPARE(sarif->reportFile, u"out.sarif"_s);
         QVERIFY(sarif->showsStatus);
-        const Result<Arguments> junit = read(u"--format junit a.xml"_s);
+        const Result<Arguments> junit = read(u"--format junit --output out.xml a.xml"_s);
         QVERIFY(junit);
         QCOMPARE(junit->format, TableCheck::ReportFormat::JUnit);
+        QCOMPARE(junit->reportFile, u"out.xml"_s);
     }
 
     void wrongArgumentsAreExplained_data()
@@ -90,6 +91,7 @@ private slots:
         row("unknown rule left out", u"--without old a.xml"_s, u"There is no rule 'old'."_s);
         row("unknown format", u"--format html a.xml"_s, u"There is no format 'html'."_s);
         row("allowance without a limit", u"--allow new a.xml"_s, u"'new' is not RULE=LIMIT."_s);
+        row("allowance without a rule", u"--allow =1 a.xml"_s, u"There is no rule ''."_s);
         row("allowance of an unknown rule", u"--allow old=1 a.xml"_s, u"There is no rule 'old'."_s);
         row("allowance that is no number", u"--allow new=few a.xml"_s, u"'few' is not a limit."_s);
         row("negative allowance", u"--allow new=-1 a.xml"_s, u"'-1' is not a limit."_s);

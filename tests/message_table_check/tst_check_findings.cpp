@@ -182,6 +182,11 @@ private slots:
         QTest::newRow("translation file with a large entity, many times")
             << entity + "<TS><context><message>\n<source>" + references + "</source></message></context></TS>"
             << u"line 3: "_s;
+        QByteArray attributes;
+        for (int number = 0; number < 20'000; ++number)
+            attributes += " a" + QByteArray::number(number) + "=\"\"";
+        QTest::newRow("too many attributes")
+            << "<messageTable>\n<message" + attributes + "/></messageTable>" << u"line 2: "_s;
     }
 
     void unusableDocumentIsRefused()

@@ -94,6 +94,8 @@ private slots:
     void fileThatIsNoTranslationIsNotConverted();
     void documentWithALargeEntityManyTimesIsRefused();
     void xliffHasEverythingOfAString();
+    void xliffIsWrittenInItsOrder();
+    void commentsOfATranslationFileAreRead();
     void xliffRefusesCharactersThatItCannotHold();
     void xliffOfOtherToolsIsRead_data();
     void xliffOfOtherToolsIsRead();
@@ -165,6 +167,49 @@ void tst_exchange::xliffHasEverythingOfAString()
     QCOMPARE(shown(*again), shown(document));
     QCOMPARE(again->language, u"de_DE"_s);
     QVERIFY(xliff->contains(" original=\"client_de.ts\""));
+}
+
+void tst_exchange::xliffIsWrittenInItsOrder()
+{
+    TranslationDocument document;
+    document.language = u"de_DE"_s;
+    document.strings = {stringOf(u"a "_s, u"A "_s, State::Finished, u"title"_s),
+                        stringOf(u"b"_s, QString(), State::Unfinished)};
+    document.strings.back().context = u"B"_s;
+    const Result<QByteArray> xliff = TableCheck::xliffOf(document, u"client_de.ts"_s);
+    QVERIFY(xliff);
+    QCOMPARE(*xliff, QByteArray(R"(<?xml version="1.0" encoding="UTF-8"?>
+<xliff version="1.2" xmlns="urn:oasis:names:tc:xliff:document:1.2">
+    <file original="client_de.ts" datatype="plaintext" source-language="en" target-language="de-DE">
+        <body>
+            <group restype="x-trolltech-linguist-context" resname="A">
+                <trans-unit id="_msg1" approved="yes">
+                    <source xml:space="preserve">a </source>
+                    <target xml:space="preserve">A </target>
+                    <context-group>
+                        <context context-type="x-gettext-msgctxt">title</context>
+                    </context-group>
+                </trans-unit>
+            </group>
+            <group restype="x-trolltech-linguist-context" resname="B">
+                <trans-unit id="_msg2">
+                    <source xml:space="preserve">b</source>
+                    <target xml:space="preserve"></target>
+                </trans-unit>
+            </group>
+        </body>
+    </file>
+</xliff>
+)"));
+}
+
+void tst_exchange::commentsOfATranslationFileAreRead()
+{
+    const Result<TranslationDocument> document =
+        read("<TS><context><name>A</name><message><source>a</source><comment>title</comment>"
+             "<translation>b</translation></message></context></TS>");
+    QVERIFY(document);
+    QCOMPARE(shown(*document), QStringList(u"A|a|b|finished|title"_s));
 }
 
 void tst_exchange::xliffRefusesCharactersThatItCannotHold()

@@ -133,6 +133,8 @@ private slots:
         row("same blanks", u" a: "_s, u" b: "_s);
         row("other blanks at the begin", u"a"_s, u" b"_s,
             u"blank: begins with different blanks than the source"_s);
+        row("another blank before the same one at the end", u"a \n"_s, u"b\n"_s,
+            u"blank: ends with different blanks than the source"_s);
         row("other blanks at the end", u"a "_s, u"b\n"_s,
             u"blank: ends with different blanks than the source"_s);
     }

@@ -95,6 +95,35 @@ private slots:
         QCOMPARE(similarity(one, other), similarity(other, one));
     }
 
+    void similarityIsTheShareOfCommonPairsOfLetters_data()
+    {
+        QTest::addColumn<QString>("one");
+        QTest::addColumn<QString>("other");
+        QTest::addColumn<double>("value");
+        QTest::newRow("equal") << u"ab"_s << u"ab"_s << 1.0;
+        QTest::newRow("a letter each") << u"a"_s << u"A"_s << 1.0;
+        QTest::newRow("first and last letter of the alphabet") << u"AZ"_s << u"az"_s << 1.0;
+        QTest::newRow("same letters in another order") << u"abc"_s << u"acb"_s << 0.0;
+        QTest::newRow("a pair of two") << u"abc"_s << u"abd"_s << 0.5;
+        QTest::newRow("a pair that the other has twice") << u"aa"_s << u"aaa"_s << 2.0 / 3;
+    }
+
+    void similarityIsTheShareOfCommonPairsOfLetters()
+    {
+        QFETCH(const QString, one);
+        QFETCH(const QString, other);
+        QTEST(similarity(one, other), "value");
+    }
+
+    void tagStandsInForAMissingText()
+    {
+        Clt::MessageTable table = renamedTable();
+        table.insert(messageWith("Net::open", "HostIsGone", QString(), Clt::MessageState::New));
+        table.insert(messageWith("Net::close", "Lost", u"Host is gone"_s));
+        QCOMPARE(adoptionCandidates(table, keyOf("Net::open", "HostIsGone")),
+                 Keys{keyOf("Net::close", "Lost")});
+    }
+
     void sameTagComesBeforeSimilarTags()
     {
         const Keys candidates = adoptionCandidates(renamedTable(), keyOf("Solver::begin", "MeshIsLarge"));

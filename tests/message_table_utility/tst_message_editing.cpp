@@ -14,6 +14,7 @@ private slots:
     void selectedMessageIsShown();
     void fieldsAreThoseOfTheSeverity();
     void typingChangesTheMessageAndIsUndone();
+    void typingInAnotherFieldOrMessageIsAnotherStep();
     void undoReturnsToTheMessageThatChanged();
     void severalMessagesAreChangedAtOnce();
     void remarksAndPreviewFollowTheTyping();
@@ -76,6 +77,21 @@ void tst_message_editing::typingChangesTheMessageAndIsUndone()
     QVERIFY(!f.window.hasUnsavedChanges());
     f.action("actionUndo")->trigger();
     QVERIFY(f.window.hasUnsavedChanges());
+}
+
+void tst_message_editing::typingInAnotherFieldOrMessageIsAnotherStep()
+{
+    EditingFixture f;
+    f.choose("severityChoice", u"Question"_s);
+    f.field("titleField")->setPlainText(u"Title"_s);
+    f.field("textField")->setPlainText(u"Text"_s);
+    f.select(2);
+    f.field("textField")->setPlainText(u"Other"_s);
+    f.action("actionUndo")->trigger();
+    QCOMPARE(f.alpha().sourceText(), u"Text"_s);
+    f.action("actionUndo")->trigger();
+    QCOMPARE(f.alpha().sourceText(), QString());
+    QCOMPARE(f.alpha().sourceTitle(), u"Title"_s);
 }
 
 void tst_message_editing::undoReturnsToTheMessageThatChanged()
@@ -222,6 +238,7 @@ void tst_message_editing::synchronisationIsUndone()
     f.chooseProjectOf(oneMessageSource);
     f.window.synchronize();
     QCOMPARE(f.rowCount(), 4);
+    QCOMPARE(f.label("statusLabel"), u"New: 1, obsolete: 3, incomplete: 1"_s);
     f.action("actionUndo")->trigger();
     QCOMPARE(f.shownRows(), UtilityFixture::tableRows());
     QVERIFY(!f.window.hasUnsavedChanges());
