@@ -95,6 +95,7 @@ private slots:
     void documentWithALargeEntityManyTimesIsRefused();
     void xliffHasEverythingOfAString();
     void xliffIsWrittenInItsOrder();
+    void deeplyNestedElementsAreRead();
     void commentsOfATranslationFileAreRead();
     void xliffRefusesCharactersThatItCannotHold();
     void xliffOfOtherToolsIsRead_data();
@@ -201,6 +202,20 @@ void tst_exchange::xliffIsWrittenInItsOrder()
     </file>
 </xliff>
 )"));
+    const Result<TranslationDocument> again = read(*xliff);
+    QVERIFY(again);
+    QCOMPARE(shown(*again), shown(document));
+}
+
+void tst_exchange::deeplyNestedElementsAreRead()
+{
+    constexpr int depth = 200'000;
+    const Result<TranslationDocument> document =
+        read("<TS><context><name>A</name><message><source>a</source><comment>title" +
+             QByteArray("<x>").repeated(depth) + QByteArray("</x>").repeated(depth) +
+             "</comment><translation>b</translation></message></context></TS>");
+    QVERIFY(document);
+    QCOMPARE(shown(*document), QStringList(u"A|a|b|finished|title"_s));
 }
 
 void tst_exchange::commentsOfATranslationFileAreRead()
@@ -363,7 +378,10 @@ void tst_exchange::conversionNamesTheFileThatFails()
     const QString from = folder.path(u"ours.ts"_s);
     QVERIFY(TableCheck::convertForQt6(from, folder.path(u"a.ts"_s)).error().startsWith(from));
     QVERIFY(TableCheck::convertForQt6(from, folder.path(u"a.xlf"_s)).error().startsWith(from));
+    QVERIFY(writeBytes(from, "<TS>"));
+    QVERIFY(TableCheck::convertForQt6(from, folder.path(u"a.ts"_s)).error().startsWith(from));
     QVERIFY(writeBytes(from, "<TS/>"));
+    QVERIFY(TableCheck::convertForQt6(from, folder.path(u"a.ts"_s)));
     const QString to = folder.path(u"missing/a.XLIFF"_s);
     QCOMPARE(TableCheck::convertForQt6(from, to).error(), to + u": could not be written"_s);
     QVERIFY(TableCheck::convertForQt6(from, folder.path(u"a.XLIFF"_s)));
