@@ -173,6 +173,11 @@ class Installer(InstallerCase, LauncherCase):
         added = [INSTALL_DIR + "\\" + path for path in (*added, "ja\\ZorvRes.dll")]
         self.assertEqual(sorted(second), sorted([*first, *added]))
 
+    def test_a_removal_deletes_the_files_of_the_japanese_language(self):
+        text = INSTALL_DIR + "\\ja\\ZorvRes.dll"
+        self.assertIn(text, self.second)
+        self.assertNotIn(text, self.removed)
+
     def test_the_removal_runs_the_products_removal(self):
         self.assertIn("   0 Command Line:NVXConfig.exe -U -S -Lja-JP", self.removal_lines)
 
@@ -196,43 +201,40 @@ class Installer(InstallerCase, LauncherCase):
 
 
 class OtherPlaces(InstallerCase, MachineCase):
-    def tearDown(self):
-        command = value_of(self.machine.registry(), UNINSTALL_KEY, "UninstallString")
-        if command:
-            self.remove(command)
+    """Installed in another folder, with a part of a language's name, and removed."""
 
-    def test_an_unknown_language_installs_english(self):
-        for option in ("/LANG=xx-YY", "/LANG=", "/LANG=de"):
-            with self.subTest(option):
-                self.assertEqual(self.set_up("/S", option), 0)
-                self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Len-US", self.log_lines())
-                self.remove(f'"{INSTALL_DIR}\\uninstall.exe" /LANG=en-US')
+    # Words of it look like options.
+    FOLDER = "C:\\CAD -U -X größe\\NVX"
+    TRANSLATORS = "C:\\Translators"
 
-    def test_a_removal_deletes_the_files_of_the_japanese_language(self):
-        self.assertEqual(self.set_up("/S", "/LANG=ja-JP"), 0)
-        self.assertTrue(self.exists(INSTALL_DIR + "\\ja\\ZorvRes.dll"))
-        self.remove(f'"{INSTALL_DIR}\\uninstall.exe" /LANG=ja-JP')
-        self.assertEqual(list(self.machine.files(INSTALL_DIR)), [LOG])
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        case = cls()
+        case.write(cls.TRANSLATORS + "\\other server.txt", b"of others")
+        cls.machine.set_value(TRANSLATORS_KEY, "Folder", cls.TRANSLATORS)
+        # The last option takes the rest of the command line, without quotes.
+        cls.code = case.set_up("/S", "/LANG=de", *("/D=" + cls.FOLDER).split())
+        cls.registry = cls.machine.registry()
+        cls.lines = case.log_lines(cls.FOLDER)
+        cls.translators = cls.machine.files(cls.TRANSLATORS)
+        case.remove(value_of(cls.registry, UNINSTALL_KEY, "UninstallString"))
 
     def test_a_folder_name_that_looks_like_options_is_allowed(self):
-        folder = "C:\\CAD -U -X größe\\NVX"
-        # The option takes the rest of the command line, without quotes.
-        self.assertEqual(self.set_up("/S", "/LANG=de-DE", *("/D=" + folder).split()), 0)
-        registry = self.machine.registry()
-        self.assertEqual(value_of(registry, ENVIRONMENT_KEY, "OSTRADE"), folder)
-        self.assertEqual(value_of(registry, VERSION_KEY, "InstallationDirectory"), folder)
-        self.remove(value_of(registry, UNINSTALL_KEY, "UninstallString"))
-        self.assertEqual(list(self.machine.files(folder)), [folder + "\\NVXConfig.log"])
+        self.assertEqual(self.code, 0)
+        self.assertEqual(value_of(self.registry, ENVIRONMENT_KEY, "OSTRADE"), self.FOLDER)
+        self.assertEqual(value_of(self.registry, VERSION_KEY, "InstallationDirectory"), self.FOLDER)
+        self.assertEqual(list(self.machine.files(self.FOLDER)), [self.FOLDER + "\\NVXConfig.log"])
+
+    def test_a_part_of_a_languages_name_installs_english(self):
+        self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Len-US", self.lines)
 
     def test_an_existing_folder_of_the_translators_is_used_and_kept(self):
-        folder = "C:\\Translators"
-        self.write(folder + "\\other server.txt", b"of others")
-        self.machine.set_value(TRANSLATORS_KEY, "Folder", folder)
-        self.assertEqual(self.set_up("/S"), 0)
-        self.assertTrue(self.exists(folder + "\\NVX_MertleServer\\server\\settings.txt"))
-        self.remove(f'"{INSTALL_DIR}\\uninstall.exe" /LANG=en-US')
-        self.assertEqual(list(self.machine.files(folder)), [folder + "\\other server.txt"])
-        self.assertEqual(value_of(self.machine.registry(), TRANSLATORS_KEY, "Folder"), folder)
+        self.assertIn(self.TRANSLATORS + "\\NVX_MertleServer\\server\\settings.txt", self.translators)
+        left = list(self.machine.files(self.TRANSLATORS))
+        self.assertEqual(left, [self.TRANSLATORS + "\\other server.txt"])
+        registry = self.machine.registry()
+        self.assertEqual(value_of(registry, TRANSLATORS_KEY, "Folder"), self.TRANSLATORS)
 
 
 if __name__ == "__main__":

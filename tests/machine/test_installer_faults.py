@@ -61,7 +61,9 @@ class FreshMachine(InstallerCase, MachineCase):
     def test_a_configuration_that_waits_for_a_user_is_ended_and_a_failed_set_up(self):
         # Then it shows a message box.
         refusal = self.write(INSTALL_DIR + "\\NVXServer.exe.fails-to-register")
-        self.assert_set_up_fails("/TIMEOUT=40", left=[LOG, INSTALL_DIR + "\\" + refusal.name])
+        # A language without a name is English.
+        self.assert_set_up_fails("/LANG=", "/TIMEOUT=40", left=[LOG, INSTALL_DIR + "\\" + refusal.name])
+        self.assertIn("   0 Command Line:NVXConfig.exe -I -S -Len-US", self.log_lines())
         self.assertEqual(self.machine.programs("NVXConfig.exe"), {})
         shutil.rmtree(self.machine.path(PROGRAM_FILES + "\\Velmora"))
 
