@@ -59,6 +59,9 @@ Var LogFile
 !define MUI_ABORTWARNING
 !define MUI_LANGDLL_ALLLANGUAGES
 
+; Without descriptions, which the names of the components do not need, the list is wide enough for them.
+!define MUI_COMPONENTSPAGE_NODESC
+
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_COMPONENTS
 !define MUI_PAGE_CUSTOMFUNCTION_PRE SkipWhenInstalled
