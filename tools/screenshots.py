@@ -25,6 +25,8 @@ ROOT = Path(__file__).resolve().parents[1]
 LANGUAGES = ROOT / "resource" / "languages"
 COMPLETE = "The installation or update is complete. Click finish to continue."
 TABLES = "C:\\tables"
+# The name under which the set-up program is put on the machine.
+SET_UP = "NVXSetup"
 SCREEN = "2560x1800"
 TIMEOUT_S = 120
 MARLETT = Path("/usr/share/wine/fonts/marlett.ttf")
@@ -57,6 +59,8 @@ class Program:
     pages: tuple[Page, ...]
     tokens: tuple[str, ...] = ()
     only: tuple[str, ...] = ()  # the languages, all of them if empty
+    folder: str = INSTALL_DIR
+    log: str = INSTALL_DIR + "\\NVXConfig.log"
 
     def locales(self) -> list[str]:
         if self.only:
@@ -75,6 +79,22 @@ PROGRAMS = (
             Page("conclusion", keys=("Return",), log_text=COMPLETE),
         ),
         tokens=("-L{locale}",),
+    ),
+    Program(
+        SET_UP,
+        "nvxconfig",
+        (
+            Page("welcome"),
+            Page("components", keys=("Return",)),
+            # Not with the caret of the folder, which blinks.
+            Page("folder", keys=("Return", "Tab")),
+            # With the beginning of the line after it, which is the last one.
+            Page("finish", keys=("shift+Tab", "Return"), log_text="NVXConfig.exe: 0\r\n2"),
+        ),
+        tokens=("/LANG={locale}", "/LOG=C:\\set-up.log"),
+        only=("en-US", "de-DE"),
+        folder="C:",
+        log="C:\\set-up.log",
     ),
     Program(
         "MessageTableUtility",
@@ -120,8 +140,8 @@ def output_of(*command: StrPath | bytes) -> bytes:
     return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
 
 
-def make_machine(build: Path, locale: str, scale: int) -> Machine:
-    """A fresh machine with the product, whose user speaks that language."""
+def make_machine(build: Path, program: Program, locale: str, scale: int) -> Machine:
+    """A fresh machine with the product or its set-up program, whose user speaks that language."""
     unix_locale = locale.replace("-", "_") + ".UTF-8"
     locales = build / "locales"
     locales.mkdir(exist_ok=True)
@@ -130,7 +150,11 @@ def make_machine(build: Path, locale: str, scale: int) -> Machine:
     machine = Machine.create(
         build / "screenshots", make_template(build / "wine-template"), unix_locale, locales
     )
-    machine.put_product(build / "installed_programs", build / "sample")
+    if program.name == SET_UP:
+        (set_up,) = (build / "package").glob("*-setup.exe")
+        shutil.copy(set_up, machine.path(f"C:\\{SET_UP}.exe"))
+    else:
+        machine.put_product(build / "installed_programs", build / "sample")
     put_cad_systems(machine)
     shutil.copytree(ROOT / "sample" / "tables", machine.path(TABLES))
     # Debian installs the font of the title bars' buttons where Wine does not look for it.
@@ -164,10 +188,10 @@ class Session:
 
     def __init__(self, machine: Machine, program: Program, locale: str) -> None:
         self.machine, self.program, self.locale = machine, program, locale
-        self.log = machine.path(INSTALL_DIR + "\\NVXConfig.log")
+        self.log = machine.path(program.log)
         self.last_picture: bytes | None = None
         tokens = [token.format(locale=locale) for token in program.tokens]
-        self.process = machine.start(f"{INSTALL_DIR}\\{program.name}.exe", *tokens)
+        self.process = machine.start(f"{program.folder}\\{program.name}.exe", *tokens)
 
     def window(self) -> str | None:
         """The program's only window, None while it has none."""
@@ -199,20 +223,27 @@ class Session:
         self.last_picture = wait_for("a page that no longer changes", settled_picture)
         return self.last_picture
 
+    def log_text(self) -> str:
+        """The log of the configuration program in UTF-8, or that of the set-up program in UTF-16."""
+        contents = self.log.read_bytes()
+        return contents.decode("utf-16" if contents.startswith(b"\xff\xfe") else "utf-8", "replace")
+
     def show(self, page: Page) -> bytes:
         for key in page.keys:
             output_of("xdotool", "key", key)
         if page.log_text:
-            text = translated(page.log_text, self.program.catalogue, self.locale)
+            text = page.log_text
+            if self.program.name != SET_UP:
+                text = translated(text, self.program.catalogue, self.locale)
             wait_for(
                 f"'{text}' in the log",
-                lambda: self.log.exists() and text in self.log.read_text(encoding="utf-8"),
+                lambda: self.log.exists() and text in self.log_text(),
             )
         return self.still_picture()
 
 
 def take_pictures(build: Path, program: Program, locale: str, scale: int, folder: Path) -> None:
-    machine = make_machine(build, locale, scale)
+    machine = make_machine(build, program, locale, scale)
     try:
         session = Session(machine, program, locale)
         for page in program.pages:
