@@ -100,6 +100,8 @@ private slots:
     void xliffRefusesCharactersThatItCannotHold();
     void xliffOfOtherToolsIsRead_data();
     void xliffOfOtherToolsIsRead();
+    void xliffGroupEndsAtItsEndTag();
+    void languageOfXliffIsThatOfItsFirstFile();
     void documentWithFormsIsRefused_data();
     void documentWithFormsIsRefused();
     void editedStringsAreTakenOver_data();
@@ -167,7 +169,7 @@ void tst_exchange::xliffHasEverythingOfAString()
     QVERIFY(again);
     QCOMPARE(shown(*again), shown(document));
     QCOMPARE(again->language, u"de_DE"_s);
-    QVERIFY(xliff->contains(" original=\"client_de.ts\""));
+    QVERIFY(xliff->contains("<file original=\"client_de.ts\""));
 }
 
 void tst_exchange::xliffIsWrittenInItsOrder()
@@ -272,6 +274,26 @@ void tst_exchange::xliffOfOtherToolsIsRead()
              unit + "</group></group></body></file></xliff>");
     QVERIFY2(document, qPrintable(document.error()));
     QTEST(shown(*document).join(u'\n'), "expected");
+}
+
+void tst_exchange::xliffGroupEndsAtItsEndTag()
+{
+    const QByteArray unit = "<trans-unit><source>s</source><target>t</target></trans-unit>";
+    const Result<TranslationDocument> document =
+        read("<xliff><group restype=\"x-trolltech-linguist-context\" resname=\"A\">"
+             "<group restype=\"x-gettext-plurals\"/>" +
+             unit + "</group>" + unit + "</xliff>");
+    QVERIFY2(document, qPrintable(document.error()));
+    QCOMPARE(shown(*document), QStringList({u"A|s|t|unfinished|"_s, u"|s|t|unfinished|"_s}));
+}
+
+void tst_exchange::languageOfXliffIsThatOfItsFirstFile()
+{
+    const Result<TranslationDocument> document =
+        read("<xliff target-language=\"ja-JP\"><file target-language=\"de-DE\"/>"
+             "<file target-language=\"fr-FR\"/></xliff>");
+    QVERIFY2(document, qPrintable(document.error()));
+    QCOMPARE(document->language, u"de_DE"_s);
 }
 
 void tst_exchange::documentWithFormsIsRefused_data()
