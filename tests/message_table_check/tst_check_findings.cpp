@@ -126,6 +126,34 @@ private slots:
         QCOMPARE(shown(*report), QStringList(u"1: A, \"%n of %1\": %1 is missing [place]"_s));
     }
 
+    void lengthVariantsOfPluralFormsAreTranslations()
+    {
+        const Result<FileReport> report =
+            check("<TS><context><name>A</name><message numerus=\"yes\"><source>%n of %1</source><translation>"
+                  "<numerusform><lengthvariant>%n from %1</lengthvariant><lengthvariant>%n/%1</lengthvariant>"
+                  "</numerusform></translation></message></context></TS>");
+        QVERIFY(report);
+        QCOMPARE(shown(*report), QStringList());
+    }
+
+    void unknownElementEndsNeitherItsContextNorItsMessage()
+    {
+        const Result<FileReport> report =
+            check("<TS><context><note>text</note><name>A</name><message><extracomment>text</extracomment>"
+                  "<source>s</source><translation type=\"unfinished\"/></message></context></TS>");
+        QVERIFY(report);
+        QCOMPARE(shown(*report), QStringList(u"1: A, \"s\": not translated yet [unfinished]"_s));
+    }
+
+    void contextIsShownOnOneLineWithoutControlCharacters()
+    {
+        const Result<FileReport> report =
+            check("<TS><context><name><byte value=\"x1b\"/>B\nC</name><message><source>s</source>"
+                  "<translation type=\"unfinished\"/></message></context></TS>");
+        QVERIFY(report);
+        QCOMPARE(report->findings.front().text, u"\ufffdB C, \"s\": not translated yet"_s);
+    }
+
     void stringsOfAContextThatOccursTwiceAreAllChecked()
     {
         const QByteArray context =

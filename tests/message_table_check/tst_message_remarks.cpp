@@ -70,6 +70,8 @@ private slots:
             u"unsaved: Title: not saved with this severity; unsaved: Action: not saved with this severity"_s);
         row("letter outside ASCII", Severity::Warning, {QString(), u"Gr\u00f6\u00dfe"_s, QString()},
             u"look-up: Text: no translation is found, because \u00f6 is not ASCII"_s);
+        row("first character outside ASCII", Severity::Warning, {QString(), u"a"_s + QChar(0x80), QString()},
+            u"look-up: Text: no translation is found, because U+0080 is not ASCII"_s);
         row("surrogate pair", Severity::Warning, {QString(), u"a\U0001F600"_s, QString()},
             u"look-up: Text: no translation is found, because \U0001F600 is not ASCII"_s);
         row("control character", Severity::Warning, {QString(), u"a\u001bb"_s, QString()},
