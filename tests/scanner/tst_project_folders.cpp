@@ -31,6 +31,7 @@ private slots:
         QTest::newRow("a longer suffix") << u"a.cppx"_s << u"*.cpp"_s << false;
         QTest::newRow("a shorter name") << u"a.c"_s << u"*.cpp"_s << false;
         QTest::newRow("the first match is too early") << u"a.b.cpp.cpp"_s << u"a*.cpp"_s << true;
+        QTest::newRow("what is before a star does not count twice") << u"aba"_s << u"ab*ba"_s << false;
         QTest::newRow("several stars") << u"test_of_x.cxx"_s << u"*_of_*.c*"_s << true;
         QTest::newRow("stars at the end") << u"a"_s << u"a**"_s << true;
         QTest::newRow("every name") << u"README"_s << u"*.*"_s << true;
