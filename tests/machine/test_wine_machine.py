@@ -207,14 +207,18 @@ class WineMachine(unittest.TestCase):
         zones = {key[len(TIME_ZONES) :].split("\\")[0] for key in registry if is_below(key, TIME_ZONES)}
         self.assertEqual(zones, {value_of(registry, TIME_ZONE_KEY, "TimeZoneKeyName")})
 
-    def test_a_program_of_windows_is_started_at_once(self):
+    def test_a_program_of_windows_is_started_by_its_path(self):
         # By its name alone it would be started by another program of Windows.
-        self.machine.start_up()
-        process = self.machine.start("cmd", "/c", "pause")
-        programs = self.machine.programs("cmd", "start")
-        self.assertEqual(len(programs), 1, programs)
-        process.kill()
-        process.wait()
+        for name, path in (
+            ("cmd", "C:\\windows\\system32\\cmd.exe"),
+            ("reg.exe", "C:\\windows\\system32\\reg.exe"),
+            ("regedit", "C:\\windows\\regedit.exe"),
+            ("C:\\a folder\\cmd", "C:\\a folder\\cmd"),
+            ("no program of windows", "no program of windows"),
+        ):
+            with self.subTest(name):
+                self.assertEqual(self.machine.full_name(name), path)
+        self.assertEqual(self.machine.run("cmd", "/c", "exit 3").returncode, 3)
 
 
 if __name__ == "__main__":
