@@ -7,7 +7,7 @@ import unittest
 
 from guarded_program import GuardedProgram
 from installer_case import InstallerCase
-from machine_case import BUILD, LOG, PRODUCT_KEY, UNINSTALL_KEY, MachineCase, wait_until
+from machine_case import BUILD, LOG, PRODUCT_KEY, SCRIPTED_TOOL, UNINSTALL_KEY, MachineCase, wait_until
 from winemachine import ENVIRONMENT_KEY, INSTALL_DIR, PROGRAM_FILES, value_of
 
 OTHER_USER = 65534
@@ -16,7 +16,7 @@ SILENT_SET_UP = ("C:\\set-up.exe", "/S")
 # Exit codes of Windows: try again later; another version is already installed.
 TRY_AGAIN, OTHER_VERSION = 1618, 1638
 # Errors of Windows.
-ACCESS_DENIED, INVALID_PARAMETER = 5, 87
+FILE_NOT_FOUND, ACCESS_DENIED, INVALID_PARAMETER = 2, 5, 87
 # One of the last files that a set-up replaces, and one of the first.
 HELD = INSTALL_DIR + "\\zh-TW\\nvxconfig.qm"
 MENU = INSTALL_DIR + "\\Launchers\\UGNX\\startup\\NVX_2017.men"
@@ -103,12 +103,16 @@ class FreshMachine(InstallerCase, MachineCase):
         self.machine.path("C:\\apps").unlink()
 
 
-class ReservedFolder(MachineCase):
-    """The task that set-up program and MSI run before they put the first file into the install folder."""
+class Task(MachineCase):
+    """The task that set-up program and MSI run before they put the first file into the install folder, and
+    the one that runs the configuration."""
+
+    def run_task(self, *arguments):
+        shutil.copy(BUILD / "installer" / "NVXSetupTask.exe", self.machine.path("C:\\task.exe"))
+        return self.machine.run("C:\\task.exe", *arguments).returncode
 
     def reserve(self, folder):
-        shutil.copy(BUILD / "installer" / "NVXSetupTask.exe", self.machine.path("C:\\task.exe"))
-        return self.machine.run("C:\\task.exe", "reserve", folder).returncode
+        return self.run_task("reserve", folder)
 
     def mode(self, path):
         return stat.S_IMODE(self.machine.path(path).stat().st_mode)
@@ -159,6 +163,17 @@ class ReservedFolder(MachineCase):
         self.assertNotEqual(self.reserve("C:\\place\\NVX"), 0)
         self.assertNotEqual(self.reserve("C:\\place"), 0)
         self.assertEqual(self.read("C:\\place"), b"a file")
+
+    def test_without_the_servers_program_no_installation_is_started(self):
+        folder = "C:\\no server"
+        self.write(folder + "\\NVXConfig.exe", SCRIPTED_TOOL.read_bytes())
+        self.write(folder + "\\NVXConfig.exe.script", b"record")
+        recorded = self.machine.path(folder + "\\NVXConfig.exe.arguments")
+        self.assertEqual(self.run_task("configure", folder, "60", "-I", "-S"), FILE_NOT_FOUND)
+        self.assertFalse(recorded.exists())
+        # A removal does not need it.
+        self.assertEqual(self.run_task("configure", folder, "60", "-U", "-S"), 0)
+        self.assertEqual(recorded.read_text().split(), ["-U", "-S"])
 
 
 class Upgrade(InstallerCase, MachineCase):

@@ -20,6 +20,7 @@ RUNS_PROGRAM = 2
 ASSIGNS_PROPERTY = "51"
 # Of a feature: the user interface does not let anybody leave it out.
 UI_DISALLOW_ABSENT = 16
+ICON = Path(__file__).resolve().parents[2] / "resource" / "images" / "program.ico"
 SEVEN_ZIP_LICENCE = ["licences/7-Zip/LGPL-2.1", "licences/7-Zip/copyright"]
 
 # What the Windows Installer sets, by what it does.
@@ -97,6 +98,12 @@ class Conditions(unittest.TestCase):
             with self.subTest(properties):
                 met = [is_met(condition, properties) for condition in conditions]
                 self.assertEqual(not all(met), refused)
+
+    def test_the_entry_in_the_list_of_programs_has_an_icon_of_the_package(self):
+        properties = {row["Property"]: row["Value"] for row in rows_of(PACKAGE, "Property")}
+        extract = ["msiinfo", "extract", PACKAGE, "Icon." + properties["ARPPRODUCTICON"]]
+        icon = subprocess.run(extract, check=True, capture_output=True).stdout
+        self.assertEqual(icon, ICON.read_bytes())
 
     def test_what_changes_the_machine_runs_as_the_system(self):
         for row in rows_of(PACKAGE, "CustomAction"):
