@@ -80,13 +80,16 @@ function(nvx_linked_targets result)
     set(${result} ${found} PARENT_SCOPE)
 endfunction()
 
-# nvx_precompile(): makes the libraries and the test programs use precompiled headers. To be called after all
+# nvx_precompile(): makes the libraries and test programs with Qt use precompiled headers. To be called after all
 # of them have been declared, since a library may link one that is declared later.
 function(nvx_precompile)
     foreach(kind LIBRARIES TESTS)
         get_property(targets GLOBAL PROPERTY NVX_${kind})
         foreach(target IN LISTS targets)
             nvx_linked_targets(linked ${target})
+            if(NOT Qt6::Core IN_LIST linked)
+                continue()
+            endif()
             set(module Core)
             if(Qt6::Widgets IN_LIST linked)
                 set(module Widgets)

@@ -1,7 +1,7 @@
 #pragma once
 
 // Open files and folders: where they are, who owns them, and their access rights. Without Qt: the set-up task
-// is built from it too.
+// links it too.
 
 #include <memory>
 #include <string>
