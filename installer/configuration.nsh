@@ -1,5 +1,19 @@
 ; Runs the product's configuration program and waits for it.
 
+; Runs a task of NVXSetupTask.exe and sets the variable to its exit code, or to -1 if it cannot be started. The page of
+; the installation does not show the command.
+!macro RunTask TASK RESULT
+    SetDetailsPrint none
+    ClearErrors
+    ExecWait '"$PLUGINSDIR\NVXSetupTask.exe" ${TASK}' ${RESULT}
+    ${If} ${Errors}
+        StrCpy ${RESULT} -1
+        ClearErrors
+    ${EndIf}
+    SetDetailsPrint lastused
+!macroend
+!define RunTask "!insertmacro RunTask"
+
 ; Ends it after this many seconds; the option /TIMEOUT= selects another number.
 !define TIMEOUT 1800
 
@@ -20,11 +34,7 @@ FunctionEnd
 ; exits with 0 after every run, so another exit code is that of a crash or of a missing library.
 Function ${UN}Configure
     ${Note} "$(^Exec)NVXConfig.exe $R0"
-    ClearErrors
-    ExecWait '"$PLUGINSDIR\NVXSetupTask.exe" configure "$INSTDIR\." $Seconds $R0' $R1
-    ${If} ${Errors}
-        StrCpy $R1 "?"
-    ${EndIf}
+    ${RunTask} 'configure "$INSTDIR\." $Seconds $R0' $R1
     ${Note} "NVXConfig.exe: $R1"
     ClearErrors
     ${If} $R1 != 0
@@ -43,7 +53,7 @@ Function ${UN}CheckMachine
         Quit
     ${EndIf}
 again:
-    ExecWait '"$PLUGINSDIR\NVXSetupTask.exe" check' $0
+    ${RunTask} check $0
     ${If} $0 = ${ERROR_INSTALL_ALREADY_RUNNING}
         ${Note} "$(CadRuns)"
         MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(CadRuns)" /SD IDCANCEL IDRETRY again
@@ -57,7 +67,7 @@ FunctionEnd
 
 ; Before the first file is unpacked: nobody but administrators can exchange it before it is run.
 Function ReserveFolder
-    ExecWait '"$PLUGINSDIR\NVXSetupTask.exe" reserve "$INSTDIR\."' $0
+    ${RunTask} 'reserve "$INSTDIR\."' $0
     ${If} $0 != 0
         ${Note} "$(^CantWrite)$INSTDIR ($0)"
         MessageBox MB_OK|MB_ICONSTOP "$(^CantWrite)$INSTDIR" /SD IDOK
