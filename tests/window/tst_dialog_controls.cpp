@@ -12,6 +12,8 @@ using namespace Qt::Literals::StringLiterals;
 
 using Window::NativeDialogs;
 
+Q_DECLARE_METATYPE(std::function<void()>)
+
 class tst_dialog_controls : public QObject
 {
     Q_OBJECT
@@ -68,8 +70,6 @@ private slots:
         QVERIFY(progress.isCancelled());
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void()>)
 
 NVX_TEST(tst_dialog_controls)
 #include "tst_dialog_controls.moc"
