@@ -142,6 +142,15 @@ function(nvx_test_definitions test)
     set_property(SOURCE ${test}.cpp APPEND PROPERTY COMPILE_DEFINITIONS ${ARGN})
 endfunction()
 
+# nvx_test_paths(TEST [NAME PATH]...): defines each NAME in TEST.cpp as a path below the checkout, for inCheckout()
+# of tests/support/checkout.h.
+function(nvx_test_paths test)
+    while(ARGN)
+        list(POP_FRONT ARGN name path)
+        nvx_test_definitions(${test} "${name}=\"$<PATH:RELATIVE_PATH,${path},${PROJECT_SOURCE_DIR}>\"")
+    endwhile()
+endfunction()
+
 # nvx_python_test(NAME [NEEDS TARGET...] [ENVIRONMENT NAME=VALUE...]): the tests of NAME.py, registered with
 # ctest. The test fails if there are none.
 function(nvx_python_test name)

@@ -2,6 +2,7 @@
 #include "cad_case.h"
 #include "registry_script.h"
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 
 #include <QTest>
@@ -14,7 +15,7 @@ class tst_cad_search : public QObject
     Q_OBJECT
 
 private slots:
-    void everyCaseHasTheExpectedResult_data() { addCaseRows(QStringLiteral(CASES)); }
+    void everyCaseHasTheExpectedResult_data() { addCaseRows(inCheckout(CASES)); }
 
     void everyCaseHasTheExpectedResult()
     {

@@ -6,6 +6,7 @@
 #include "nvx_util/registry_key.h"
 #include "registry_script.h"
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -51,7 +52,7 @@ private slots:
         m_caseKeys.clear();
     }
 
-    void everyCaseHasTheExpectedResult_data() { addCaseRows(QStringLiteral(CASES)); }
+    void everyCaseHasTheExpectedResult_data() { addCaseRows(inCheckout(CASES)); }
 
     void everyCaseHasTheExpectedResult()
     {

@@ -5,6 +5,7 @@
 #include "nvx_util/process_table.h"
 #include "run/run_state.h"
 #include "run/step_context.h"
+#include "support/checkout.h"
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -53,7 +54,7 @@ public:
         : m_path(path)
     {
         QDir().mkpath(QFileInfo(path).path());
-        QFile::copy(QStringLiteral(GUARDED_PROGRAM), path);
+        QFile::copy(inCheckout(GUARDED_PROGRAM), path);
         m_process.start(path, QStringList());
         m_started = QTest::qWaitFor([this] { return QFile::exists(m_path + u".running"_s); }, 30000);
     }

@@ -1,5 +1,6 @@
 #include "message_table_case.h"
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -13,7 +14,7 @@ class tst_message_table_cases : public QObject
     Q_OBJECT
 
 private slots:
-    void filesReadAndWriteAsExpected_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void filesReadAndWriteAsExpected_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void filesReadAndWriteAsExpected()
     {
@@ -29,7 +30,7 @@ private slots:
     // A missing folder of cases must not pass as an empty one.
     void thereAreCases()
     {
-        const QDir cases(QStringLiteral(CASES_FOLDER));
+        const QDir cases(inCheckout(CASES_FOLDER));
         QVERIFY(cases.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() >= 40);
     }
 };

@@ -4,6 +4,7 @@
 #include "clt_message_table_xml.h"
 #include "clt_plain_xml_source.h"
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/recorded_assertions.h"
 #include "support/test_class.h"
@@ -74,7 +75,7 @@ class tst_message_table_sources : public QObject
     Q_OBJECT
 
 private slots:
-    void everyCaseReadsTheSame_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void everyCaseReadsTheSame_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void everyCaseReadsTheSame()
     {

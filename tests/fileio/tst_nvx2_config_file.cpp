@@ -1,5 +1,6 @@
 #include "nvx_io/nvx2_config_file.h"
 #include "nvx_util/code_page.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
 
@@ -110,7 +111,7 @@ private slots:
         const QList<QByteArray> wholeFiles{first + "\nMpi = 8\n", first + "\nMpi = -16\n"};
         for (int moment = 0; moment < 20; ++moment) {
             QProcess writer;
-            writer.start(QStringLiteral(CONFIGURATION_WRITER), {path});
+            writer.start(inCheckout(CONFIGURATION_WRITER), {path});
             QVERIFY2(writer.waitForStarted(), qPrintable(writer.errorString()));
             QTRY_VERIFY(QFile::exists(path));
             QTest::qSleep(moment);

@@ -1,6 +1,7 @@
 #include "help/context_help.h"
 #include "nvx_util/native_machine.h"
 #include "nvx_util/registry_key.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
 
@@ -22,7 +23,7 @@ private slots:
         m_folders = std::make_unique<TestMachine>();
         m_browser = m_folders->path(u"My & browser (x86)/browser.exe"_s);
         QVERIFY(QDir().mkpath(QFileInfo(m_browser).path()));
-        QVERIFY(QFile::copy(QStringLiteral(SCRIPTED_TOOL), m_browser));
+        QVERIFY(QFile::copy(inCheckout(SCRIPTED_TOOL), m_browser));
         writeFile(m_browser + u".script"_s, "record\n");
     }
 

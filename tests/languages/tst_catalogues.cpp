@@ -3,6 +3,7 @@
 #include "catalogue_checks.h"
 #include "glossary.h"
 #include "nvx_util/system.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
 #include "typography.h"
@@ -18,7 +19,7 @@ namespace {
 
 QDir sourceRoot()
 {
-    return QDir(QStringLiteral(NVX_SOURCE_ROOT));
+    return QDir(inCheckout(NVX_SOURCE_ROOT));
 }
 
 QDir languagesFolder()

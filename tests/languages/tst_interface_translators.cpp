@@ -3,6 +3,7 @@
 #include "cfg_utilities/command_line.h"
 #include "cfg_wizard/interface_language.h"
 #include "nvx_util/system.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
 
@@ -21,7 +22,7 @@ const QString german = u"de-DE"_s;
 
 QString languagesFolder()
 {
-    return QDir::toNativeSeparators(QStringLiteral(NVX_LANGUAGES_FOLDER));
+    return QDir::toNativeSeparators(inCheckout(NVX_LANGUAGES_FOLDER));
 }
 
 // A text of the program.

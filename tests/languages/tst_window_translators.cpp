@@ -3,6 +3,7 @@
 #include "message_table_utility/error_message_table_utility.h"
 #include "nvx_util/languages.h"
 #include "nvx_util/translators.h"
+#include "support/checkout.h"
 #include "support/recording_dialogs.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -58,7 +59,7 @@ private slots:
     void windowIsInTheLanguage()
     {
         QFETCH(QString, locale);
-        const Nvx::Util::Translators translators(QStringLiteral(NVX_LANGUAGES_FOLDER), locale,
+        const Nvx::Util::Translators translators(inCheckout(NVX_LANGUAGES_FOLDER), locale,
                                                  {u"messagetableutility"_s, u"nvxwindow"_s});
         const TestFolder folder;
         QSettings settings(folder.path(u"settings.ini"_s), QSettings::IniFormat);

@@ -4,6 +4,7 @@
 #include "nvx_util/languages.h"
 #include "nvx_util/native_machine.h"
 #include "run/run_state.h"
+#include "support/checkout.h"
 #include "support/recording_reporter.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
@@ -65,8 +66,8 @@ private slots:
         m_reporter = std::make_unique<RecordingReporter>();
         m_state = RunState();
         m_state.installDir = m_test->installDir();
-        copyFolder(text(SAMPLE_FOLDER "/Projects"), root("Projects"));
-        copyFolder(text(SAMPLE_FOLDER "/Locale"), root("Locale"));
+        copyFolder(inCheckout(SAMPLE_FOLDER "/Projects"), root("Projects"));
+        copyFolder(inCheckout(SAMPLE_FOLDER "/Locale"), root("Locale"));
         QVERIFY(QDir().mkpath(share("~cBuild/job")));
         writeSettings(text(TOOLS_FOLDER));
     }
@@ -220,8 +221,8 @@ private:
         if (!QFile::exists(share("~cBuild/job/NVX360.job")))
             return;
         const QStringList arguments =
-            QStringList{text(SAMPLE_FOLDER "/translation_worker.py"), m_test->path(u"share"_s), u"--once"_s,
-                        u"--settle"_s, u"0"_s} +
+            QStringList{inCheckout(SAMPLE_FOLDER "/translation_worker.py"), m_test->path(u"share"_s),
+                        u"--once"_s, u"--settle"_s, u"0"_s} +
             options;
         QCOMPARE(QProcess::execute(u"python3"_s, arguments), 0);
     }

@@ -1,5 +1,6 @@
 #include "log_of_a_run.h"
 #include "nvx_util/languages.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 
 #include <QFile>
@@ -17,7 +18,7 @@ namespace {
 QHash<QString, QString> translationsInto(const QString &locale)
 {
     QHash<QString, QString> translations;
-    QFile file(QStringLiteral(LANGUAGES_FOLDER "/nvxconfig_%1.ts").arg(locale));
+    QFile file(inCheckout(LANGUAGES_FOLDER "/nvxconfig_%1.ts").arg(locale));
     if (!file.open(QIODevice::ReadOnly))
         return translations;
     QXmlStreamReader xml(&file);

@@ -1,5 +1,6 @@
 #include "log_of_a_run.h"
 #include "log_summary/log_summary.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/program_run.h"
 #include "support/test_class.h"
@@ -158,7 +159,7 @@ private slots:
 private:
     void run(const QStringList &arguments)
     {
-        m_run = runToEnd(QStringLiteral(LOG_SUMMARY), arguments, m_folder->path());
+        m_run = runToEnd(inCheckout(LOG_SUMMARY), arguments, m_folder->path());
     }
 
     std::unique_ptr<TestFolder> m_folder;

@@ -3,6 +3,7 @@
 #include "name_utility_fixture.h"
 #include "nvx_util/system.h"
 #include "nvx_util/translators.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 
 #include <QTest>
@@ -68,7 +69,7 @@ private slots:
     void windowIsShownInTheLanguage()
     {
         QFETCH(const QString, locale);
-        const Nvx::Util::Translators translators(QStringLiteral(NVX_LANGUAGES_FOLDER), locale,
+        const Nvx::Util::Translators translators(inCheckout(NVX_LANGUAGES_FOLDER), locale,
                                                  {u"materialnameutility"_s, u"nvxwindow"_s});
         NameUtilityFixture f;
         QVERIFY(f.window.openFile(f.tableFile));

@@ -1,5 +1,6 @@
 // The program itself: it starts and opens the file on the command line.
 
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/window_program.h"
 
@@ -12,7 +13,7 @@ class tst_material_name_program : public QObject
 private slots:
     void namedFileIsOpened()
     {
-        QVERIFY(opensNamedFile(QStringLiteral(MATERIAL_NAME_UTILITY), u"größe.ts"_s, "<TS/>"));
+        QVERIFY(opensNamedFile(inCheckout(MATERIAL_NAME_UTILITY), u"größe.ts"_s, "<TS/>"));
     }
 };
 

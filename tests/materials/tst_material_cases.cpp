@@ -1,5 +1,6 @@
 #include "materials/mat_translation_table.h"
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -45,7 +46,7 @@ class tst_material_cases : public QObject
     Q_OBJECT
 
 private slots:
-    void tablesAreSynchronized_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void tablesAreSynchronized_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void tablesAreSynchronized()
     {
@@ -62,7 +63,7 @@ private slots:
         QCOMPARE(QDir(work.path()).entryList(QDir::Files), isThere ? QStringList(tableName) : QStringList());
     }
 
-    void updatingAgainChangesNothing_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void updatingAgainChangesNothing_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void updatingAgainChangesNothing()
     {
@@ -78,7 +79,7 @@ private slots:
     void sampleDatabaseIsRead()
     {
         const TestFolder work;
-        const QString database = QStringLiteral(SAMPLE_DATABASE);
+        const QString database = inCheckout(SAMPLE_DATABASE);
         const QString table = work.path(tableName);
         const UpdateResult update = Materials::updateTranslationFile(database, table);
         QCOMPARE(reportOf(update, database, table), u"found 3, new 3, existing 0, obsolete 0\n"_s);

@@ -1,5 +1,6 @@
 // Files named on the command line that never end, or are not files.
 
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/odd_files.h"
 #include "support/program_run.h"
@@ -68,7 +69,7 @@ private slots:
     void outputOfAProgramMustBeInAFile()
     {
         const ProgramRun run =
-            runToEnd(u"bash"_s, {u"-c"_s, u"\"$0\" <(cat good.ts)"_s, QStringLiteral(MESSAGE_TABLE_CHECK)},
+            runToEnd(u"bash"_s, {u"-c"_s, u"\"$0\" <(cat good.ts)"_s, inCheckout(MESSAGE_TABLE_CHECK)},
                      m_folder.path());
         QCOMPARE(run.exitCode, 2);
         QVERIFY2(run.errors.endsWith(u": it is not a regular file\n"_s), qPrintable(run.errors));
@@ -77,7 +78,7 @@ private slots:
 private:
     void run(const QStringList &arguments)
     {
-        m_run = runToEnd(QStringLiteral(MESSAGE_TABLE_CHECK), arguments, m_folder.path());
+        m_run = runToEnd(inCheckout(MESSAGE_TABLE_CHECK), arguments, m_folder.path());
     }
 
     TestFolder m_folder;

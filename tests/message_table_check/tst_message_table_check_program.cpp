@@ -1,3 +1,4 @@
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/program_run.h"
 #include "support/test_class.h"
@@ -94,7 +95,7 @@ private slots:
 private:
     void run(const QStringList &arguments)
     {
-        m_run = runToEnd(QStringLiteral(MESSAGE_TABLE_CHECK), arguments, m_folder->path());
+        m_run = runToEnd(inCheckout(MESSAGE_TABLE_CHECK), arguments, m_folder->path());
     }
 
     std::unique_ptr<TestFolder> m_folder;

@@ -1,5 +1,6 @@
 // The program itself: it starts and opens the file on the command line.
 
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/window_program.h"
 
@@ -12,7 +13,7 @@ class tst_message_table_program : public QObject
 private slots:
     void namedFileIsOpened()
     {
-        QVERIFY(opensNamedFile(QStringLiteral(MESSAGE_TABLE_UTILITY), u"größe.xml"_s, "<messageTable/>"));
+        QVERIFY(opensNamedFile(inCheckout(MESSAGE_TABLE_UTILITY), u"größe.xml"_s, "<messageTable/>"));
     }
 };
 

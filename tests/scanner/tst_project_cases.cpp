@@ -1,5 +1,6 @@
 #include "scanner/error_visual_studio_project.h"
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -114,7 +115,7 @@ private slots:
     }
 
 private:
-    const QString m_cases = QFileInfo(QStringLiteral(CASES)).absoluteFilePath();
+    const QString m_cases = QFileInfo(inCheckout(CASES)).absoluteFilePath();
 };
 
 NVX_GUILESS_TEST(tst_project_cases)

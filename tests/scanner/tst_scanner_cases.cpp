@@ -2,6 +2,7 @@
 #include "scanner/source_scanner.h"
 #include "scanner/source_text.h"
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 
@@ -86,11 +87,11 @@ private slots:
     // A missing folder of cases must not pass as an empty one.
     void thereAreCases()
     {
-        const QDir cases(QStringLiteral(CASES));
+        const QDir cases(inCheckout(CASES));
         QVERIFY(cases.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() >= 80);
     }
 
-    void findsTheCalls_data() { addCaseRows(QStringLiteral(CASES)); }
+    void findsTheCalls_data() { addCaseRows(inCheckout(CASES)); }
 
     void findsTheCalls()
     {
@@ -100,7 +101,7 @@ private slots:
         QCOMPARE(parsed(source), QString::fromUtf8(expected));
     }
 
-    void scannerCollectsTheKeysOfTheCalls_data() { addCaseRows(QStringLiteral(CASES)); }
+    void scannerCollectsTheKeysOfTheCalls_data() { addCaseRows(inCheckout(CASES)); }
 
     void scannerCollectsTheKeysOfTheCalls()
     {
@@ -119,7 +120,7 @@ private slots:
         QCOMPARE(keysOf(scanner), parsed ? keys : QSet<Clt::MessageKey>());
     }
 
-    void textAfterTheCallsDoesNotChangeThem_data() { addCaseRows(QStringLiteral(CASES)); }
+    void textAfterTheCallsDoesNotChangeThem_data() { addCaseRows(inCheckout(CASES)); }
 
     void textAfterTheCallsDoesNotChangeThem()
     {

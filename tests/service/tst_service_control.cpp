@@ -2,6 +2,7 @@
 #include "nvx_util/registry_key.h"
 #include "nvx_util/service_control.h"
 #include "service/nvx_service.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
 #include "support/test_machine.h"
@@ -37,7 +38,7 @@ private slots:
         m_folder = std::make_unique<TestFolder>();
         m_server = m_folder->path(u"Program Files (x86)/Größe 2017/NVXServer.exe"_s);
         QVERIFY(QDir().mkpath(QFileInfo(m_server).path()));
-        QVERIFY(QFile::copy(text(NVX_SERVER), m_server));
+        QVERIFY(QFile::copy(inCheckout(NVX_SERVER), m_server));
         m_machine = std::make_unique<NativeMachine>();
         QVERIFY(!service().isInstalled());
     }

@@ -1,4 +1,5 @@
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -13,7 +14,7 @@ class tst_translation_cases : public QObject
     Q_OBJECT
 
 private slots:
-    void filesReadAndWriteAsExpected_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void filesReadAndWriteAsExpected_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void filesReadAndWriteAsExpected()
     {
@@ -28,7 +29,7 @@ private slots:
     }
 
     // Loading and saving a file that we wrote does not change it.
-    void writtenFilesAreSavedUnchanged_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void writtenFilesAreSavedUnchanged_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void writtenFilesAreSavedUnchanged()
     {
@@ -45,7 +46,7 @@ private slots:
 
     void updatingAgainAddsNothing_data()
     {
-        addCaseRows(QStringLiteral(CASES_FOLDER), [](const QDir &folder) {
+        addCaseRows(inCheckout(CASES_FOLDER), [](const QDir &folder) {
             return fileLines(folder.filePath(u"expected.txt"_s)).value_or(QByteArray()).endsWith("done\n");
         });
     }
@@ -66,7 +67,7 @@ private slots:
     // Without the folder of the cases, the tests above would have no rows.
     void thereAreCases()
     {
-        const QDir cases(QStringLiteral(CASES_FOLDER));
+        const QDir cases(inCheckout(CASES_FOLDER));
         QVERIFY(cases.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() >= 40);
     }
 };

@@ -2,6 +2,7 @@
 
 #include "clt_leftovers.h"
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "translation/error_translation_table.h"
@@ -54,7 +55,7 @@ class tst_translation_sources : public QObject
     Q_OBJECT
 
 private slots:
-    void everyCaseReadsTheSame_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void everyCaseReadsTheSame_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void everyCaseReadsTheSame()
     {

@@ -1,5 +1,6 @@
 #include "random_translation_table.h"
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/program_run.h"
 #include "support/test_class.h"
@@ -34,7 +35,7 @@ class tst_translation_tools : public QObject
     Q_OBJECT
 
 private slots:
-    void lreleaseAcceptsTheFilesOfAllCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void lreleaseAcceptsTheFilesOfAllCases_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void lreleaseAcceptsTheFilesOfAllCases()
     {
@@ -46,7 +47,7 @@ private slots:
         QVERIFY2(released.exitCode == 0, released.report().constData());
     }
 
-    void lconvertAcceptsTheFilesOfAllCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void lconvertAcceptsTheFilesOfAllCases_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void lconvertAcceptsTheFilesOfAllCases()
     {
@@ -59,7 +60,7 @@ private slots:
         QVERIFY2(converted.exitCode == 0, converted.report().constData());
     }
 
-    void lupdateAcceptsTheFilesOfAllCases_data() { addCaseRows(QStringLiteral(CASES_FOLDER)); }
+    void lupdateAcceptsTheFilesOfAllCases_data() { addCaseRows(inCheckout(CASES_FOLDER)); }
 
     void lupdateAcceptsTheFilesOfAllCases()
     {

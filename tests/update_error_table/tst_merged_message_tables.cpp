@@ -1,4 +1,5 @@
 #include "clt_message_table.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -24,7 +25,7 @@ const QString driver = u"sh ./merge-message-tables %O %A %B"_s;
 QByteArray driverScript()
 {
     const QByteArray begin = "<!-- file: merge-message-tables -->\n```sh\n";
-    const QByteArray document = readFile(QStringLiteral(DOCUMENT));
+    const QByteArray document = readFile(inCheckout(DOCUMENT));
     const qsizetype from = document.indexOf(begin) + begin.size();
     return document.mid(from, document.indexOf("```", from) - from);
 }
@@ -76,7 +77,7 @@ private slots:
 
     void theDocumentationHasTheDriver()
     {
-        QVERIFY(readFile(QStringLiteral(DOCUMENT)).contains('"' + driver.toUtf8() + '"'));
+        QVERIFY(readFile(inCheckout(DOCUMENT)).contains('"' + driver.toUtf8() + '"'));
     }
 
     void messagesInDifferentPlacesAreMerged()

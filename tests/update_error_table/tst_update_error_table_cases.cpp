@@ -1,4 +1,5 @@
 #include "support/case_folders.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -154,7 +155,7 @@ private slots:
 
 private:
     // Absolute, because the current folder, and with it the drive, changes.
-    const QString m_cases = QFileInfo(QStringLiteral(CASES)).absoluteFilePath();
+    const QString m_cases = QFileInfo(inCheckout(CASES)).absoluteFilePath();
 };
 
 NVX_GUILESS_TEST(tst_update_error_table_cases)

@@ -1,3 +1,4 @@
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -52,7 +53,7 @@ class tst_update_error_table_documentation : public QObject
 private slots:
     void initTestCase()
     {
-        const QByteArray bytes = fileLines(QStringLiteral(DOCUMENT)).value_or("missing");
+        const QByteArray bytes = fileLines(inCheckout(DOCUMENT)).value_or("missing");
         m_document = QString::fromUtf8(bytes);
     }
 

@@ -1,5 +1,6 @@
 // Files named on the command line that never end, or are not files.
 
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/odd_files.h"
 #include "support/program_run.h"
@@ -65,7 +66,7 @@ private slots:
 private:
     void run(const QStringList &arguments)
     {
-        m_run = runToEnd(QStringLiteral(UPDATE_ERROR_TABLE), arguments, m_folder.path());
+        m_run = runToEnd(inCheckout(UPDATE_ERROR_TABLE), arguments, m_folder.path());
     }
 
     TestFolder m_folder;

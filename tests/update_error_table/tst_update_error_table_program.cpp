@@ -1,3 +1,4 @@
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/program_run.h"
 #include "support/test_class.h"
@@ -108,7 +109,7 @@ private slots:
 private:
     void run(const QStringList &arguments)
     {
-        m_run = runToEnd(QStringLiteral(UPDATE_ERROR_TABLE), arguments, m_folder->path());
+        m_run = runToEnd(inCheckout(UPDATE_ERROR_TABLE), arguments, m_folder->path());
     }
 
     std::unique_ptr<TestFolder> m_folder;

@@ -1,3 +1,4 @@
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_folder.h"
@@ -21,12 +22,13 @@ struct TerminalRun
 // Runs the program in the folder with its output on a new terminal.
 TerminalRun runOnTerminal(const QString &folder, const char *table, const char *project)
 {
+    const QByteArray program = inCheckout(UPDATE_ERROR_TABLE).toLocal8Bit();
     const QByteArray workingFolder = folder.toLocal8Bit();
     int terminal = -1;
     const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
     if (child == 0) {
         if (chdir(workingFolder.constData()) == 0)
-            execl(UPDATE_ERROR_TABLE, "UpdateErrorTable", "-sync", table, project, nullptr);
+            execl(program.constData(), "UpdateErrorTable", "-sync", table, project, nullptr);
         _exit(127);
     }
     TerminalRun result;

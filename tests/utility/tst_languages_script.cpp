@@ -2,6 +2,7 @@
 // itself.
 
 #include "nvx_util/languages.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 
 #include <QProcess>
@@ -38,7 +39,7 @@ private:
         QProcess script;
         script.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         script.start(QStringLiteral(NVX_PYTHON),
-                     QStringList{u"-B"_s, QStringLiteral(NVX_LANGUAGES_SCRIPT)} + arguments);
+                     QStringList{u"-B"_s, inCheckout(NVX_LANGUAGES_SCRIPT)} + arguments);
         if (!script.waitForFinished(60'000) || script.exitCode() != 0)
             return {};
         return QString::fromUtf8(script.readAllStandardOutput());

@@ -1,5 +1,6 @@
 #include "nvx_util/native_machine.h"
 #include "nvx_util/shell_link.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/test_machine.h"
 
@@ -23,7 +24,7 @@ QString toolWith(const TestFolder &folder, const QByteArray &orders, const QStri
 {
     const QString tool = folder.path(name);
     QDir().mkpath(QFileInfo(tool).path());
-    if (!QFile::copy(QStringLiteral(SCRIPTED_TOOL), tool))
+    if (!QFile::copy(inCheckout(SCRIPTED_TOOL), tool))
         qFatal("cannot copy the scripted tool");
     writeFile(tool + u".script"_s, orders);
     return tool;

@@ -1,6 +1,7 @@
 // What becomes of a program and of a program that it has started.
 
 #include "nvx_util/native_machine.h"
+#include "support/checkout.h"
 #include "support/file_bytes.h"
 #include "support/test_folder.h"
 
@@ -97,7 +98,7 @@ private:
     QString tool(const QString &name, const QByteArray &orders) const
     {
         const QString path = m_folder->path(name + u".exe"_s);
-        if (!QFile::copy(QStringLiteral(SCRIPTED_TOOL), path))
+        if (!QFile::copy(inCheckout(SCRIPTED_TOOL), path))
             qFatal("cannot copy the scripted tool");
         writeFile(path + u".script"_s, orders);
         return path;

@@ -3,6 +3,7 @@
 
 #include "nvx_util/own_process.h"
 #include "nvx_util/system.h"
+#include "support/checkout.h"
 #include "support/test_folder.h"
 
 #include <QLibrary>
@@ -62,7 +63,7 @@ private slots:
         QTest::addColumn<QString>("workFolder");
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("expected");
-        const QString planted = QFileInfo(QStringLiteral(PLANTED_LIBRARY)).absolutePath();
+        const QString planted = QFileInfo(inCheckout(PLANTED_LIBRARY)).absolutePath();
         const QString none = QDir::tempPath();
         const auto found = u"found|foreign plug-ins|fonts|*.debug=false"_s;
         const auto notFound = u"not found|own plug-ins||*.debug=false"_s;

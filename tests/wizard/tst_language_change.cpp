@@ -5,6 +5,7 @@
 #include "cfg_wizard/start_up.h"
 #include "nvx_util/registry_key.h"
 #include "nvx_util/system.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
@@ -26,7 +27,7 @@ namespace {
 
 QString catalogue(const QString &locale, const QString &name)
 {
-    return text(NVX_LANGUAGES_FOLDER) + u'/' + locale + u'/' + name;
+    return inCheckout(NVX_LANGUAGES_FOLDER) + u'/' + locale + u'/' + name;
 }
 
 // The texts of a wizard: the titles of its pages, its Next button and the selected language.

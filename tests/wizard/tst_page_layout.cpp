@@ -6,6 +6,7 @@
 #include "cfg_wizard/interface_language.h"
 #include "nvx_util/languages.h"
 #include "nvx_util/system.h"
+#include "support/checkout.h"
 #include "support/test_class.h"
 #include "support/text.h"
 #include "wizard/wizard_fixture.h"
@@ -107,7 +108,7 @@ private slots:
         QFont font = m_font;
         font.setPointSizeF(m_font.pointSizeF() * percent / 100);
         QApplication::setFont(font);
-        const InterfaceTranslators translators(text(NVX_LANGUAGES_FOLDER), locale);
+        const InterfaceTranslators translators(inCheckout(NVX_LANGUAGES_FOLDER), locale);
         const InterfaceFont interfaceFont(locale);
 
         WizardFixture fixture;
