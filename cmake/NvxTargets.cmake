@@ -51,6 +51,10 @@ if(NVX_COVERAGE)
     target_link_options(nvx_options INTERFACE --coverage)
 endif()
 
+get_target_property(NVX_MOC Qt6::moc IMPORTED_LOCATION)
+configure_file("${PROJECT_SOURCE_DIR}/cmake/moc.sh.in" "${CMAKE_BINARY_DIR}/moc" @ONLY
+    FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+
 # nvx_library(NAME [MOC] SOURCES FILE... LINKS TARGET... [INCLUDES FOLDER]): a static library of one module.
 # Headers are included by their paths below INCLUDES, by default the folder "source". With MOC, Qt's moc reads
 # the headers, for classes with Q_OBJECT.
@@ -58,7 +62,7 @@ function(nvx_library name)
     cmake_parse_arguments(ARG "MOC" "INCLUDES" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     set_property(GLOBAL APPEND PROPERTY NVX_LIBRARIES ${name})
-    set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
+    set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC} AUTOMOC_EXECUTABLE "${CMAKE_BINARY_DIR}/moc")
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE nvx_options)
     if(NOT ARG_INCLUDES)
         set(ARG_INCLUDES "${CMAKE_CURRENT_SOURCE_DIR}/source")
@@ -94,7 +98,7 @@ function(nvx_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;NEEDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     set_property(GLOBAL APPEND PROPERTY NVX_TESTS ${name})
-    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOMOC_EXECUTABLE "${CMAKE_BINARY_DIR}/moc")
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test nvx_options nvx_test_options)
     if(ARG_NEEDS)
         add_dependencies(${name} ${ARG_NEEDS})
@@ -123,7 +127,7 @@ function(nvx_tests program)
         "${CMAKE_CURRENT_BINARY_DIR}/${program}.cpp" @ONLY)
     add_executable(${program} ${files} ${ARG_SOURCES} "${CMAKE_CURRENT_BINARY_DIR}/${program}.cpp")
     set_property(GLOBAL APPEND PROPERTY NVX_TESTS ${program})
-    set_target_properties(${program} PROPERTIES AUTOMOC ON)
+    set_target_properties(${program} PROPERTIES AUTOMOC ON AUTOMOC_EXECUTABLE "${CMAKE_BINARY_DIR}/moc")
     target_link_libraries(${program} PRIVATE
         ${ARG_LINKS} nvx_test_support Qt6::Test nvx_options nvx_test_options)
     if(ARG_NEEDS)
