@@ -20,19 +20,10 @@ private slots:
     void initTestCase()
     {
         QVERIFY(writeBytes(m_folder.path(u"good.ts"_s), "<TS version=\"2.1\" language=\"de_DE\"/>"));
-        QVERIFY(!waitingPipe(m_folder.path(u"pipe"_s)).isEmpty());
-        QVERIFY(QDir(m_folder.path()).mkdir(u"folder"_s));
+        QVERIFY(addIrregularFiles(m_folder.path()));
     }
 
-    void fileThatIsNotRegularIsRefusedAtOnce_data()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("a pipe that nobody writes to") << u"pipe"_s << u"it is not a regular file"_s;
-        QTest::newRow("a device without an end") << endlessFile() << u"it is not a regular file"_s;
-        QTest::newRow("a device without contents") << u"/dev/null"_s << u"it is not a regular file"_s;
-        QTest::newRow("a folder") << u"folder"_s << errorOf(m_folder.path(u"folder"_s));
-    }
+    void fileThatIsNotRegularIsRefusedAtOnce_data() { addIrregularFileRows(m_folder.path()); }
 
     void fileThatIsNotRegularIsRefusedAtOnce()
     {

@@ -2,6 +2,7 @@
 
 #include "nvx_util/regular_file.h"
 
+#include <QDir>
 #include <QFile>
 #include <QString>
 #include <QTest>
@@ -50,6 +51,25 @@ inline QString errorOf(const QString &fileName)
     if (file.open(QIODevice::ReadOnly))
         file.readAll();
     return file.errorString();
+}
+
+/// Creates "pipe" and "folder" in a folder, for the rows below.
+inline bool addIrregularFiles(const QString &folder)
+{
+    return !waitingPipe(folder + QStringLiteral("/pipe")).isEmpty() &&
+           QDir(folder).mkdir(QStringLiteral("folder"));
+}
+
+/// The rows "file", seen from that folder, and "reason" of a test with what is not a regular file.
+inline void addIrregularFileRows(const QString &folder)
+{
+    const QString reason = QStringLiteral("it is not a regular file");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("a pipe that nobody writes to") << QStringLiteral("pipe") << reason;
+    QTest::newRow("a device without an end") << endlessFile() << reason;
+    QTest::newRow("a device without contents") << QStringLiteral("/dev/null") << reason;
+    QTest::newRow("a folder") << QStringLiteral("folder") << errorOf(folder + QStringLiteral("/folder"));
 }
 
 /// Cannot be written, not even by root.

@@ -21,19 +21,10 @@ private slots:
     {
         QVERIFY(writeBytes(m_folder.path(u"p.vcxproj"_s), "<Project/>"));
         QVERIFY(writeBytes(m_folder.path(u"t.xml"_s), "<messageTable/>"));
-        QVERIFY(!waitingPipe(m_folder.path(u"pipe"_s)).isEmpty());
-        QVERIFY(QDir(m_folder.path()).mkdir(u"folder"_s));
+        QVERIFY(addIrregularFiles(m_folder.path()));
     }
 
-    void fileThatIsNotRegularIsRefusedAtOnce_data()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("a pipe that nobody writes to") << u"pipe"_s << u"it is not a regular file"_s;
-        QTest::newRow("a device without an end") << endlessFile() << u"it is not a regular file"_s;
-        QTest::newRow("a device without contents") << u"/dev/null"_s << u"it is not a regular file"_s;
-        QTest::newRow("a folder") << u"folder"_s << errorOf(m_folder.path(u"folder"_s));
-    }
+    void fileThatIsNotRegularIsRefusedAtOnce_data() { addIrregularFileRows(m_folder.path()); }
 
     void fileThatIsNotRegularIsRefusedAtOnce()
     {
